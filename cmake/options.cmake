@@ -1,0 +1,34 @@
+# Compiler settings shared by every target of the project.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+option(HORAVEX_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
+option(HORAVEX_COVERAGE "Instrument for line coverage" OFF)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# The year's table must come out the same on every machine and at every optimisation level: no
+# fused multiply-add, and never -ffast-math.
+add_compile_options(-ffp-contract=off)
+add_compile_options(-Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
+                    -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+                    -Wduplicated-cond -Wlogical-op -Wimplicit-fallthrough)
+# g++ 12 sees overlapping copies in std::string's own concatenation (GCC bug 105651).
+add_compile_options(-Wno-restrict)
+
+if(HORAVEX_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(HORAVEX_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()

@@ -1,0 +1,121 @@
+#include "linux/posix_files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "linux/descriptor.h"
+#include "linux/replace_file.h"
+#include "linux/system_call.h"
+
+namespace horavex {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct stat StatusOf(const Descriptor& file, const std::string& path) {
+    struct stat status = {};
+    if (::fstat(file.Number(), &status) != 0) {
+        ThrowFileFault(path);
+    }
+    return status;
+}
+
+class OpenPosixFile : public OpenFile {
+public:
+    OpenPosixFile(std::string path, Descriptor file)
+        : path_(std::move(path)), file_(std::move(file)) {}
+
+    std::int64_t Size() override { return StatusOf(file_, path_).st_size; }
+
+    Bytes ReadAt(std::int64_t offset, std::size_t count) override {
+        if (offset < 0) {
+            ThrowFileFault(path_, EINVAL);
+        }
+        // The count may come out of a damaged file: room is made for what is there at most.
+        const std::int64_t rest = std::max<std::int64_t>(Size() - offset, 0);
+        Bytes bytes(std::min(count, static_cast<std::size_t>(rest)));
+        bytes.resize(Fill(bytes, offset));
+        return bytes;
+    }
+
+private:
+    // The count of bytes read; fewer than asked for where the file has shrunk meanwhile.
+    std::size_t Fill(std::span<std::uint8_t> bytes, std::int64_t offset) const {
+        std::size_t filled = 0;
+        while (filled < bytes.size()) {
+            const ::ssize_t got =
+                ::pread(file_.Number(), bytes.data() + filled, bytes.size() - filled,
+                        offset + static_cast<std::int64_t>(filled));
+            if (got == 0) {
+                break;
+            }
+            if (got < 0 && errno != EINTR) {
+                ThrowFileFault(path_);
+            }
+            filled += got < 0 ? 0 : static_cast<std::size_t>(got);
+        }
+        return filled;
+    }
+
+    std::string path_;
+    Descriptor file_;
+};
+
+bool MeansMissing(const std::error_code& error) {
+    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
+}
+
+}  // namespace
+
+std::unique_ptr<OpenFile> PosixFiles::OpenForReading(const std::string& path) {
+    // Without O_NONBLOCK the open of a pipe would wait for its writer.
+    constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    Descriptor file(::open(SystemPath(path), kFlags));
+    if (!file.IsOpen()) {
+        ThrowFileFault(path);
+    }
+    if (!S_ISREG(StatusOf(file, path).st_mode)) {
+        throw FileFault(path, "is no regular file");
+    }
+    return std::make_unique<OpenPosixFile>(path, std::move(file));
+}
+
+void PosixFiles::WriteWhole(const std::string& path, ByteView bytes) {
+    ReplaceFile(path, bytes);
+}
+
+void PosixFiles::Delete(const std::string& path) {
+    if (::unlink(SystemPath(path)) != 0) {
+        ThrowFileFault(path);
+    }
+}
+
+bool PosixFiles::Exists(const std::string& path) {
+    std::error_code error;
+    const bool exists = fs::exists(SystemPath(path), error);
+    if (error) {
+        ThrowFileFault(path, error.value());
+    }
+    return exists;
+}
+
+std::vector<std::string> PosixFiles::List(const std::string& folder) {
+    std::vector<std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator at(SystemPath(folder), error); !error && at != fs::end(at);
+         at.increment(error)) {
+        names.push_back(at->path().filename());
+    }
+    if (error && !MeansMissing(error)) {
+        ThrowFileFault(folder, error.value());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+}  // namespace horavex

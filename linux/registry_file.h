@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "linux/registry_text.h"
+#include "platform/files.h"
+#include "platform/registry_store.h"
+
+namespace horavex {
+
+/// The key-value store in two files: the user's, in front of the machine-wide defaults. Only the
+/// user's file is written, whole each time; each call reads anew, so that a change from outside
+/// counts. A missing file is empty. Where the user's file cannot be read every call returns
+/// kRegistryAccessDenied, and nothing is written over it; where the machine-wide one cannot be
+/// read it counts as empty. A failed write returns kRegistryWriteFault and keeps the old file.
+class RegistryFile : public RegistryStore {
+public:
+    RegistryFile(Files& files, std::string userPath, std::string machinePath);
+
+    /// Both masks are granted wherever the key is: the user's file takes the writes.
+    std::int32_t OpenKey(const std::string& key, std::int32_t access) override;
+    std::int32_t CreateKey(const std::string& key) override;
+    std::int32_t QueryValue(const std::string& key, const std::string& valueName,
+                            std::string& value) override;
+
+    /// kRegistryWriteFault also for a name or value that is no UTF-8.
+    std::int32_t SetValue(const std::string& key, const std::string& valueName,
+                          const std::string& value) override;
+
+    /// Deleting uncovers the machine-wide value or key; what only the machine-wide file has is
+    /// kRegistryAccessDenied.
+    std::int32_t DeleteValue(const std::string& key, const std::string& valueName) override;
+    std::int32_t DeleteKey(const std::string& key) override;
+
+private:
+    using Edit = std::function<std::int32_t(RegistryText& user, const RegistryText& machine)>;
+
+    std::optional<RegistryText> Load(const std::string& path) const;
+    RegistryText LoadMachine() const;
+    std::int32_t Change(const Edit& edit);
+    std::int32_t Save(const RegistryText& user);
+
+    Files& files_;
+    std::string userPath_;
+    std::string machinePath_;
+};
+
+}  // namespace horavex

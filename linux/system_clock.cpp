@@ -1,0 +1,28 @@
+#include "linux/system_clock.h"
+
+#include <algorithm>
+
+namespace horavex {
+
+Date LocalDate(std::time_t moment) {
+    ::tzset();  // localtime_r alone keeps the zone of its first call
+    std::tm local = {};
+    ::localtime_r(&moment, &local);
+    // A zone with leap seconds has a second 60, which is no time of this day's clock.
+    return DateSerial(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) +
+           TimeSerial(local.tm_hour, local.tm_min, std::min(local.tm_sec, 59));
+}
+
+Date SystemClock::Now() const {
+    std::timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return LocalDate(now.tv_sec);
+}
+
+double SystemClock::SteadySeconds() const {
+    std::timespec now = {};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+}  // namespace horavex

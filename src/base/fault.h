@@ -1,0 +1,55 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace horavex {
+
+/// Base of every fault that stops an operation. The text is one line for people.
+class Fault : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A value left the range of the field that takes it.
+class OverflowFault : public Fault {
+public:
+    using Fault::Fault;
+};
+
+class DivisionByZeroFault : public Fault {
+public:
+    using Fault::Fault;
+};
+
+/// A square root of a negative number.
+class SquareRootFault : public Fault {
+public:
+    using Fault::Fault;
+};
+
+/// A text that should have been a number or a date is none.
+class TypeMismatchFault : public Fault {
+public:
+    using Fault::Fault;
+};
+
+/// An index, a record number or a length outside what is there.
+class BoundsFault : public Fault {
+public:
+    using Fault::Fault;
+};
+
+/// A file or folder could not be opened, read, written or deleted.
+class FileFault : public Fault {
+public:
+    FileFault(const std::string& path, const std::string& reason)
+        : Fault(path + ": " + reason), path_(path) {}
+
+    const std::string& Path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+}  // namespace horavex

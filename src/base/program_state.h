@@ -1,0 +1,16 @@
+#pragma once
+
+namespace horavex {
+
+/// Module-level state goes back to what a fresh process holds. Every test starts with it.
+void ResetProgramState();
+
+/// Registers one module's part of ResetProgramState. Declared once beside the state:
+///
+///     const ProgramStateReset reset([] { CalcFailed = 0; });
+class ProgramStateReset {
+public:
+    explicit ProgramStateReset(void (*reset)());
+};
+
+}  // namespace horavex

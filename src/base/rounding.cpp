@@ -1,0 +1,27 @@
+#include "base/rounding.h"
+
+#include <cmath>
+
+namespace horavex {
+
+double RoundHalfEven(double value) {
+    const double below = std::floor(value);
+    const double rest = value - below;
+    if (rest < 0.5) {
+        return below;
+    }
+    if (rest > 0.5) {
+        return below + 1.0;
+    }
+    return std::fmod(below, 2.0) == 0.0 ? below : below + 1.0;
+}
+
+double RoundToPlaces(double value, int places) {
+    double scale = 1.0;
+    for (int i = 0; i < places; ++i) {
+        scale *= 10.0;
+    }
+    return RoundHalfEven(value * scale) / scale;
+}
+
+}  // namespace horavex

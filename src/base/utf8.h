@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace horavex {
+
+/// Appends one code point, 0 to 0x10FFFF without surrogates, as UTF-8.
+void AppendUtf8(std::string& text, char32_t codePoint);
+
+/// The code points of a text; nothing when it is no well-formed UTF-8.
+std::optional<std::u32string> DecodeUtf8(std::string_view text);
+
+bool IsUtf8(std::string_view text);
+
+/// The longest beginning of at most maxBytes bytes that does not split a character.
+std::string_view Utf8Prefix(std::string_view text, std::size_t maxBytes);
+
+}  // namespace horavex

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// Today's Hijri date as the face shows it.
+struct HijriTexts {
+    std::string day;        // decimal, no padding
+    std::string monthName;  // from the language pack; empty without one
+    std::string year;       // decimal
+};
+
+/// Reads today under the Hijri calendar. The day turns at local midnight.
+HijriTexts HijriToday();
+
+/// Name of a Hijri month (1 to 12) in the current pack, section "other"; empty where it has none.
+std::string HijriMonthName(int month);
+
+}  // namespace horavex

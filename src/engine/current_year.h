@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace horavex {
+
+/// Gregorian year that the table of times is for. Written by the recalculation and by the load
+/// of the settings window.
+extern std::int16_t CurrentYear;
+
+/// 1 in a leap year, else 0: the plain number that is added to 365. Written by LeapYearFlag.
+extern std::int16_t LeapFlag;
+
+/// Works out LeapFlag for CurrentYear by the Gregorian rule.
+void LeapYearFlag();
+
+}  // namespace horavex

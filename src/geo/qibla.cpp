@@ -1,0 +1,57 @@
+#include "geo/qibla.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "base/program_state.h"
+#include "engine/angle.h"
+#include "engine/solar_event.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+
+namespace horavex {
+
+double QiblaRad = 0.0;
+double QiblaDegrees = 0.0;
+std::string QiblaText;
+
+namespace {
+
+const ProgramStateReset reset([] {
+    QiblaRad = QiblaDegrees = 0.0;
+    QiblaText.clear();
+});
+
+// Mecca: 21.42333 degrees north, 39.82333 degrees east.
+constexpr double kMeccaLatitude = 0.3739077;         // radians
+constexpr double kMeccaLongitudeWest = -0.69504828;  // radians, west positive
+
+// Both methods that the settings offer are this great circle; the option is kept and has no
+// effect on the number.
+double GreatCircleBearing() {
+    const double D = LongitudeWestRad - kMeccaLongitudeWest;
+    const double y = std::sin(D);
+    const double x = std::tan(kMeccaLatitude) * std::cos(LatitudeRad) -
+                     std::cos(D) * std::sin(LatitudeRad);
+    return Atan2Checked(y, x);
+}
+
+std::string BearingSentence(double degrees, std::int16_t language) {
+    const auto text = [language](std::uint16_t entry) { return TextItem(entry, language); };
+    const DegreesMinutes split = SplitDegrees(degrees);
+    return text(68) + ": " + std::to_string(std::abs(split.whole)) + " " + text(16) + ", " +
+           std::to_string(split.minutes) + " " + text(17) + " " +
+           text(degrees < 0.0 ? 15 : 13) + " " + text(18) + " " + text(12);
+}
+
+}  // namespace
+
+void ComputeQibla() {
+    if (Settings.QiblaMethod == 1 || Settings.QiblaMethod == 2) {
+        QiblaRad = GreatCircleBearing();
+        QiblaDegrees = RadToDeg(QiblaRad);
+    }
+    QiblaText = BearingSentence(QiblaDegrees, ActiveSettings.Language);
+}
+
+}  // namespace horavex

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/event_loop.h"
+#include "platform/files.h"
+#include "platform/instance_guard.h"
+#include "platform/program_folder.h"
+#include "platform/regional_formats.h"
+#include "platform/registry_store.h"
+
+namespace horavex {
+
+/// Everything outside the system, as the front end installs it at start. The ports outlive
+/// every call into the system.
+struct Platform {
+    Clock& clock;
+    EventLoop& eventLoop;
+    Files& files;
+    const ProgramFolder& programFolder;
+    RegionalFormats& formats;
+    Dialogs& dialogs;
+    RegistryStore& registry;
+    InstanceGuard& instanceGuard;
+};
+
+/// Installs the ports; nullptr takes them away again.
+void InstallPlatform(const Platform* platform);
+
+/// The installed ports. Calling it before InstallPlatform is a programming error and aborts.
+const Platform& Ports();
+
+}  // namespace horavex

@@ -1,0 +1,37 @@
+#include "store/angle_band.h"
+
+#include <cstdlib>
+
+#include "base/program_state.h"
+#include "store/data_text.h"
+#include "store/indexed_file.h"
+
+namespace horavex {
+
+AngleLimits AngleBand;
+
+namespace {
+
+const ProgramStateReset reset([] { AngleBand = {}; });
+
+AngleLimits DecodeLimits(ByteView record) {
+    const Bytes codes = DecodeText(record.subspan(2, 3));
+    return {codes[0], codes[1], codes[2]};
+}
+
+}  // namespace
+
+void LoadAngleBand(std::int16_t latitude) {
+    const int distance = std::abs(int{latitude});
+    const RecordFile file("Dat\\A.dat", 5);
+    const std::int64_t count = file.Count();
+    for (std::int64_t number = 1; number <= count; ++number) {
+        const Bytes record = file.Read(number);
+        if (distance <= GetInt16(record, 0)) {
+            return;
+        }
+        AngleBand = DecodeLimits(record);
+    }
+}
+
+}  // namespace horavex

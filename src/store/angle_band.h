@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+namespace horavex {
+
+/// Whole-degree limits of the depression angles for a band of latitudes.
+struct AngleLimits {
+    std::int16_t largest = 0;   // degrees
+    std::int16_t middle = 0;    // degrees, the default for Fajr
+    std::int16_t smallest = 0;  // degrees
+
+    bool operator==(const AngleLimits&) const = default;
+};
+
+/// The band of the present latitude. Written by LoadAngleBand.
+extern AngleLimits AngleBand;
+
+/// Walks "Dat/A.dat" for a latitude in hundredths of a degree, either sign. The band is the last
+/// record whose limit lies below the latitude, not the one that covers it: a latitude of exactly
+/// a limit belongs to the band before. Below the first limit AngleBand keeps its value. Throws
+/// FileFault for a missing file.
+void LoadAngleBand(std::int16_t latitude);
+
+}  // namespace horavex

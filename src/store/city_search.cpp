@@ -1,0 +1,116 @@
+#include "store/city_search.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "base/bytes.h"
+#include "base/fault.h"
+#include "base/fold.h"
+#include "base/int16.h"
+#include "base/text.h"
+#include "platform/platform.h"
+#include "store/location_files.h"
+
+namespace horavex {
+
+namespace {
+
+/// How well a city matches; the smaller the better.
+enum Match { kWholeName, kNameThenWord, kNameBeginning, kWordBeginning, kAnyPart, kNone };
+
+bool IsWordCharacter(char c) {
+    return (c >= 'a' && c <= 'z') || IsDigit(c) || static_cast<unsigned char>(c) >= 0x80;
+}
+
+bool BeginsAWord(const std::string& folded, const std::string& text) {
+    for (std::size_t at = folded.find(text); at != std::string::npos;
+         at = folded.find(text, at + 1)) {
+        if (!IsWordCharacter(folded[at - 1])) {  // a match at 0 has been told apart before
+            return true;
+        }
+    }
+    return false;
+}
+
+Match MatchBeginning(const std::string& folded, std::size_t length) {
+    const std::string_view rest = std::string_view(folded).substr(length);
+    if (rest.empty() || rest.starts_with(", ") || rest.starts_with(" - ")) {
+        return kWholeName;
+    }
+    return IsWordCharacter(rest.front()) ? kNameBeginning : kNameThenWord;
+}
+
+Match MatchOf(const std::string& folded, const std::string& text) {
+    const std::size_t at = folded.find(text);
+    if (at == std::string::npos) {
+        return kNone;
+    }
+    if (at == 0) {
+        return MatchBeginning(folded, text.size());
+    }
+    return BeginsAWord(folded, text) ? kWordBeginning : kAnyPart;
+}
+
+/// The ranks file is an aid of searching alone: without it, equal matches keep their order.
+Bytes ReadRanks() {
+    try {
+        return Ports().programFolder.ReadWhole("Dat\\RI.DAT");
+    } catch (const FileFault&) {
+        return {};
+    }
+}
+
+std::uint16_t RankOf(const Bytes& ranks, std::size_t position) {
+    const std::size_t offset = position * 2;
+    return offset + 2 <= ranks.size() ? static_cast<std::uint16_t>(GetInt16(ranks, offset)) : 0;
+}
+
+ListedCity ListCity(std::int16_t cityIndex, const std::string& country, std::uint16_t rank) {
+    CityRecord city;
+    const std::string display = ReadCity(cityIndex, city);
+    return {cityIndex,     city.Name,      city.Province, country,
+            city.Latitude, city.Longitude, rank,          FoldForSearch(display + " - " + country)};
+}
+
+void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks) {
+    CountryRecord country;
+    ReadCountry(number, country);
+    for (std::int32_t i = 0; i < country.CityCount; ++i) {
+        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name,
+                                  RankOf(ranks, cities.size())));
+    }
+}
+
+}  // namespace
+
+std::vector<ListedCity> ListCities() {
+    const Bytes ranks = ReadRanks();
+    std::vector<ListedCity> cities;
+    OpenLocationFiles();
+    const std::int64_t count = CountryCount();
+    for (std::int64_t number = 1; number <= count; ++number) {
+        ListCountry(cities, ToInt16(number), ranks);
+    }
+    CloseLocationFiles();
+    return cities;
+}
+
+std::vector<const ListedCity*> SearchCities(const std::vector<ListedCity>& cities,
+                                            const std::string& text) {
+    const std::string folded = FoldForSearch(Trim(text));
+    using Hit = std::tuple<Match, std::uint16_t, const ListedCity*>;
+    std::vector<Hit> hits;
+    for (const ListedCity& city : cities) {
+        const Match match = folded.empty() ? kNone : MatchOf(city.folded, folded);
+        if (match != kNone) {
+            hits.emplace_back(match, city.rank, &city);
+        }
+    }
+    std::sort(hits.begin(), hits.end());
+    std::vector<const ListedCity*> found;
+    std::transform(hits.begin(), hits.end(), std::back_inserter(found),
+                   [](const Hit& hit) { return std::get<2>(hit); });
+    return found;
+}
+
+}  // namespace horavex

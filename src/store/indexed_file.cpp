@@ -1,0 +1,69 @@
+#include "store/indexed_file.h"
+
+#include "base/fault.h"
+#include "base/rounding.h"
+#include "platform/platform.h"
+#include "store/data_text.h"
+
+namespace horavex {
+
+RecordFile::RecordFile(std::string path, std::int64_t recordLength)
+    : path_(std::move(path)),
+      recordLength_(recordLength),
+      file_(Ports().programFolder.OpenForReading(path_)) {}
+
+Bytes RecordFile::Read(std::int64_t number) const {
+    if (number < 1) {
+        throw BoundsFault(path_ + ": there is no record " + std::to_string(number));
+    }
+    const auto length = static_cast<std::size_t>(recordLength_);
+    Bytes record = file_->ReadAt((number - 1) * recordLength_, length);
+    record.resize(length);
+    return record;
+}
+
+std::int64_t RecordFile::Count() const {
+    const auto size = static_cast<double>(file_->Size());
+    return static_cast<std::int64_t>(RoundHalfEven(size / static_cast<double>(recordLength_)));
+}
+
+bool RecordFile::IsLast(std::int64_t number) const {
+    return number * recordLength_ == file_->Size();
+}
+
+PackedTexts::PackedTexts(const std::string& path)
+    : path_(path), file_(Ports().programFolder.OpenForReading(path)) {}
+
+Bytes PackedTexts::Read(std::int64_t start, std::int64_t end) const {
+    const std::int64_t length = end - start;
+    if (length < 0 || (length > 0 && start < 1)) {
+        throw BoundsFault(path_ + ": no text from position " + std::to_string(start) + " to " +
+                          std::to_string(end));
+    }
+    if (length == 0) {
+        return {};
+    }
+    return DecodeText(file_->ReadAt(start - 1, static_cast<std::size_t>(length)));
+}
+
+std::int64_t PackedTexts::End() const {
+    return file_->Size() + 1;
+}
+
+Bytes ReadIndexedText(const RecordFile& index, const PackedTexts& texts, std::int64_t number,
+                      std::int64_t (*startOf)(ByteView record)) {
+    const std::int64_t start = startOf(index.Read(number));
+    const std::int64_t end =
+        index.IsLast(number) ? texts.End() : startOf(index.Read(number + 1));
+    return texts.Read(start, end);
+}
+
+std::int64_t ShortStart(ByteView record) {
+    return GetInt16(record, 0);
+}
+
+std::int64_t LongStart(ByteView record) {
+    return GetInt32(record, 0);
+}
+
+}  // namespace horavex

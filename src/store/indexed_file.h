@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "base/bytes.h"
+#include "platform/files.h"
+
+namespace horavex {
+
+/// A file of fixed-length records, numbered from 1.
+class RecordFile {
+public:
+    RecordFile(std::string path, std::int64_t recordLength);
+
+    /// The record's bytes; what lies behind the end of the file reads as zeros. Throws
+    /// BoundsFault for a number below 1.
+    Bytes Read(std::int64_t number) const;
+
+    /// Length of the file over the length of a record, rounded half to even.
+    std::int64_t Count() const;
+
+    /// True for the record with which the file ends exactly.
+    bool IsLast(std::int64_t number) const;
+
+private:
+    std::string path_;
+    std::int64_t recordLength_;
+    std::unique_ptr<OpenFile> file_;
+};
+
+/// Reads the packed text from 1-based position start up to, not including, position end, and
+/// undoes its substitution. Behind the end of the file there is nothing. Throws BoundsFault for
+/// an end before the start and for a position below 1, naming the file.
+class PackedTexts {
+public:
+    explicit PackedTexts(const std::string& path);
+
+    Bytes Read(std::int64_t start, std::int64_t end) const;
+
+    /// The position behind the last byte.
+    std::int64_t End() const;
+
+private:
+    std::string path_;
+    std::unique_ptr<OpenFile> file_;
+};
+
+/// The text whose start stands in record number of the index; it ends where the next record's
+/// text begins, or with the file for the last record. startOf takes a record's start from its
+/// bytes.
+Bytes ReadIndexedText(const RecordFile& index, const PackedTexts& texts, std::int64_t number,
+                      std::int64_t (*startOf)(ByteView record));
+
+/// The two widths of a start, at the head of a record.
+std::int64_t ShortStart(ByteView record);
+std::int64_t LongStart(ByteView record);
+
+}  // namespace horavex

@@ -1,0 +1,45 @@
+#include "store/isha_setting.h"
+
+#include <string>
+
+#include "base/number_text.h"
+#include "store/register.h"
+#include "store/settings_record.h"
+
+namespace horavex {
+
+namespace {
+
+/// A text that is no number counts as the value of a first run.
+double ReadAngle(const std::string& defaultValue) {
+    std::string text;
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kIshaValueName, defaultValue, text);
+    return IsNumeric(text) ? TextToNumber(text) : -1.0;
+}
+
+void WriteAngle(const std::string& text) {
+    std::int32_t result = 0;
+    CRegister().REGSaveSetting(kLocalMachine, kSettingsKey, kIshaValueName, text, result);
+}
+
+}  // namespace
+
+bool LoadIshaAngle() {
+    const bool firstRun = ReadAngle("-1") < 0.0;
+    if (firstRun) {
+        WriteAngle(kFirstIshaAngle);
+    }
+    IshaAngle = ReadAngle(kFirstIshaAngle);
+    return firstRun;
+}
+
+void PeekIshaAngle() {
+    const double stored = ReadAngle(kFirstIshaAngle);
+    IshaAngle = stored < 0.0 ? TextToNumber(kFirstIshaAngle) : stored;
+}
+
+void SaveIshaAngle() {
+    WriteAngle(NumberToText(IshaAngle));
+}
+
+}  // namespace horavex

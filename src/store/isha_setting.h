@@ -1,0 +1,19 @@
+#pragma once
+
+namespace horavex {
+
+/// The value's name in the registry, and the angle of a first run.
+inline constexpr const char* kIshaValueName = "Isha Dep Angle";
+inline constexpr const char* kFirstIshaAngle = "18";
+
+/// Reads IshaAngle from the registry at start. A missing value, or one below 0, is a first run:
+/// "18" is written, and the value is read again. Returns whether this is a first run.
+bool LoadIshaAngle();
+
+/// Reads IshaAngle without writing anything; 18 where a start would make it a first run.
+void PeekIshaAngle();
+
+/// Writes IshaAngle to the registry in the general form of a number.
+void SaveIshaAngle();
+
+}  // namespace horavex

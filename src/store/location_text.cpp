@@ -1,0 +1,75 @@
+#include "store/location_text.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "base/int16.h"
+#include "base/program_state.h"
+#include "engine/angle.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+
+namespace horavex {
+
+std::int16_t ZoneWest = 0;
+std::int16_t ZoneNearest = 0;
+std::int16_t ZoneEast = 0;
+std::string LatitudeText;
+std::string LongitudeText;
+std::string ZoneHintText;
+std::string ZoneWestText;
+
+namespace {
+
+const ProgramStateReset reset([] {
+    ZoneWest = ZoneNearest = ZoneEast = 0;
+    LatitudeText.clear();
+    LongitudeText.clear();
+    ZoneHintText.clear();
+    ZoneWestText.clear();
+});
+
+constexpr std::uint16_t kNorth = 12;
+constexpr std::uint16_t kEast = 13;
+constexpr std::uint16_t kSouth = 14;
+constexpr std::uint16_t kWest = 15;
+constexpr std::uint16_t kLatitudeCaption = 59;
+constexpr std::uint16_t kLongitudeCaption = 60;
+
+std::string FormatCoordinate(std::uint16_t caption, double degrees, std::uint16_t hemisphere,
+                             std::int16_t language) {
+    const DegreesMinutes split = SplitDegrees(degrees);
+    return TextItem(caption, language) + ": " + std::to_string(std::abs(split.whole)) + " " +
+           TextItem(16, language) + ", " + std::to_string(split.minutes) + " " +
+           TextItem(17, language) + " " + TextItem(hemisphere, language);
+}
+
+}  // namespace
+
+void ZoneFromLongitude(double longitude) {
+    const std::int16_t w = TruncateToInt16(longitude / 15.0);
+    ZoneWest = longitude < 0.0 ? SubtractInt16(w, 1) : w;
+    ZoneEast = AddInt16(ZoneWest, 1);
+    ZoneNearest = std::fabs(longitude / 15.0 - ZoneWest) < 0.5 ? ZoneWest : ZoneEast;
+}
+
+std::string FormatLatitude(double degrees, std::int16_t language) {
+    return FormatCoordinate(kLatitudeCaption, degrees, degrees < 0.0 ? kSouth : kNorth, language);
+}
+
+std::string FormatLongitude(double degrees, std::int16_t language) {
+    return FormatCoordinate(kLongitudeCaption, degrees, degrees < 0.0 ? kWest : kEast, language);
+}
+
+void ShowLocation(const LocationRecord& location) {
+    const double latitude = StoredCoord(location.City.Latitude);
+    const double longitude = StoredCoord(location.City.Longitude);
+    ZoneFromLongitude(longitude);
+    LatitudeText = FormatLatitude(latitude, Settings.Language);
+    LongitudeText = FormatLongitude(longitude, Settings.Language);
+    ZoneWestText = std::to_string(ZoneWest);
+    ZoneHintText = TextItem(49, Settings.Language) + " ( " + ZoneWestText + ", " +
+                   std::to_string(ZoneEast) + ", ...)";
+}
+
+}  // namespace horavex

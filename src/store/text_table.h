@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/code_page.h"
+
+namespace horavex {
+
+inline constexpr std::int16_t kTextLanguages = 6;
+inline constexpr std::int16_t kArabicColumn = 4;
+
+/// The code page in which a column of the table is stored: Arabic in its own, others in Latin.
+CodePage TextColumnCodePage(std::int16_t language);
+
+/// The text of an entry (from 1) in a language column (1 to 6; 0 is taken as 1), from
+/// "Dat/T.DAT" through "Dat/TI.DAT". Both files are opened on every call. An entry beyond the
+/// index gives an empty text. Throws FileFault for a missing file, OverflowFault for a record
+/// number beyond 16 bits, BoundsFault for a damaged index.
+std::string TextItem(std::uint16_t entry, std::int16_t language);
+
+}  // namespace horavex

@@ -1,0 +1,118 @@
+#!/usr/bin/env bash
+# Keeps the layers of the core apart: every include in the source folder names a header of the
+# C++ standard library, or a file that the including layer may use; and files form no cycle.
+# Prints one line a violation; status 1 when there is any.
+#
+# Usage: layers.sh SOURCE_FOLDER
+set -euo pipefail
+export LC_ALL=C
+cd "$1"
+
+# C++20, without the C library under its own names (math.h) and without what C++20 dropped.
+standard=" algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv
+chrono cinttypes climits clocale cmath codecvt compare complex concepts condition_variable coroutine
+csetjmp csignal cstdarg cstddef cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype deque
+exception execution filesystem format forward_list fstream functional future initializer_list
+iomanip ios iosfwd iostream istream iterator latch limits list locale map memory memory_resource
+mutex new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator
+semaphore set shared_mutex source_location span sstream stack stdexcept stop_token streambuf string
+string_view strstream syncstream system_error thread tuple type_traits typeindex typeinfo
+unordered_map unordered_set utility valarray variant vector version "
+standard=${standard//$'\n'/ }
+
+# What each layer may include besides itself, as patterns of paths. A layer may also include what
+# the layers that it uses may include. The primitives are two files of the engine that know the
+# base alone; everybody above the forms may use them.
+primitives="engine/angle.h engine/sun.h"
+declare -A uses
+uses[base]=""
+uses[platform]="base/*"
+uses[forms]="base/*"
+uses[primitives]="base/* $primitives"
+uses[windows]="base/* forms/* $primitives"
+uses[store]="base/* platform/* forms/* windows/* $primitives"
+uses[lang]="${uses[store]}"
+# Of the store, the engine knows the records and the text tables; of its own room, everything.
+uses[engine]="${uses[store]} store/*_record.h store/text_*.h"
+uses[calendar]="${uses[store]} engine/* store/* lang/*"
+uses[geo]="${uses[calendar]} calendar/*"
+uses[moon]="${uses[geo]} geo/*"
+uses[athan]="${uses[moon]} moon/*"
+uses[timetables]="${uses[athan]}"
+uses[config]="${uses[athan]}"
+uses[update]="${uses[athan]}"
+uses[shell]="${uses[athan]} athan/* timetables/* config/* update/*"
+
+violations=0
+complain() {
+    echo "$1"
+    violations=$((violations + 1))
+}
+
+layer_of() {
+    case $1 in
+        engine/angle.* | engine/sun.*) layer=primitives ;;
+        *) layer=${1%%/*} ;;
+    esac
+}
+
+# True when the file of the first argument may include the one of the second.
+may_use() {
+    local pattern patterns
+    layer_of "$1"
+    [[ $layer != primitives && $2 == "$layer"/* ]] && return 0
+    read -ra patterns <<<"${uses[$layer]}"
+    for pattern in "${patterns[@]}"; do
+        # shellcheck disable=SC2053  # the right side is a pattern
+        [[ $2 == $pattern ]] && return 0
+    done
+    return 1
+}
+
+edges=""
+check_project_include() { # PLACE FILE TARGET
+    layer_of "$2"
+    if [[ ! -v uses[$layer] ]]; then
+        complain "$1: $layer is no layer of the core"
+    elif [[ ! -f $3 ]]; then
+        complain "$1: \"$3\" is no file of the core"
+    elif [[ $2 == "$3" ]]; then
+        complain "$1: \"$3\" includes itself"
+    elif ! may_use "$2" "$3"; then
+        complain "$1: $layer may not include \"$3\""
+    fi
+    edges+="$2 $3"$'\n'
+}
+
+check_include() { # PLACE FILE REST-OF-THE-LINE
+    if [[ $3 =~ ^\<([^\>]+)\> ]]; then
+        [[ $standard == *" ${BASH_REMATCH[1]} "* ]] ||
+            complain "$1: <${BASH_REMATCH[1]}> is no header of the C++ standard library"
+    elif [[ $3 =~ ^\"([^\"]+)\" ]]; then
+        check_project_include "$1" "$2" "${BASH_REMATCH[1]}"
+    else
+        complain "$1: an include names neither <header> nor \"file\""
+    fi
+}
+
+check_all() {
+    local file number line
+    while IFS=: read -r file number line; do
+        line=${line#*#}
+        [[ $line =~ ^[[:space:]]*[a-z_]+[[:space:]]*(.*)$ ]]
+        check_include "$file:$number" "$file" "${BASH_REMATCH[1]}"
+    done
+}
+
+directive='^[[:space:]]*#[[:space:]]*(include|import)'
+if includes=$(grep -rnHsE "$directive" -- *); then
+    check_all <<<"$includes"
+else
+    complain "no include in $1"
+fi
+
+# tsort names the members of each cycle on standard error, one a line.
+cycle=$(tsort <<<"$edges" 2>&1 >/dev/null | sed -e 's/^tsort: //' -e '/^-: /d' | paste -sd ' ') || true
+[[ -z $cycle ]] || complain "a cycle of includes: $cycle"
+
+((violations == 0))

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/failing_files.h"
+#include "platform/fixed_formats.h"
+#include "platform/fixed_instance_guard.h"
+#include "platform/manual_clock.h"
+#include "platform/memory_files.h"
+#include "platform/memory_registry.h"
+#include "platform/platform.h"
+#include "platform/recording_dialogs.h"
+#include "platform/scripted_event_loop.h"
+
+namespace horavex {
+
+/// One of each port in memory, installed as long as it lives, over the state of a fresh process.
+/// The one program folder is "/program"; the wall clock stands at noon of Saturday, 21 November
+/// 2026. One at a time.
+class TestPlatform {
+public:
+    TestPlatform();
+    ~TestPlatform();
+    TestPlatform(const TestPlatform&) = delete;
+    TestPlatform& operator=(const TestPlatform&) = delete;
+
+    ManualClock clock;
+    ScriptedEventLoop loop{clock};
+    MemoryFiles files;
+    /// What the system sees of files; passes everything until it is told to fail.
+    FailingFiles failingFiles{files};
+    ProgramFolder folder{failingFiles, "/program", "/program"};
+    FixedFormats formats;
+    RecordingDialogs dialogs;
+    MemoryRegistry registry;
+    FixedInstanceGuard instanceGuard;
+
+private:
+    Platform platform_{clock,   loop,    failingFiles, folder,
+                       formats, dialogs, registry,     instanceGuard};
+};
+
+}  // namespace horavex

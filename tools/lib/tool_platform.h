@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/fixed_formats.h"
+#include "platform/fixed_instance_guard.h"
+#include "platform/manual_clock.h"
+#include "platform/memory_files.h"
+#include "platform/memory_registry.h"
+#include "platform/platform.h"
+#include "platform/recording_dialogs.h"
+#include "platform/scripted_event_loop.h"
+
+namespace horavex {
+
+/// The ports of a tool that calculates: nothing but memory, installed as long as it lives. The
+/// program folder is "/program" and holds an empty text table.
+class ToolPlatform {
+public:
+    ToolPlatform() {
+        files.WriteWhole("/program/Dat/T.DAT", {});
+        files.WriteWhole("/program/Dat/TI.DAT", {});
+        InstallPlatform(&platform_);
+    }
+    ~ToolPlatform() { InstallPlatform(nullptr); }
+    ToolPlatform(const ToolPlatform&) = delete;
+    ToolPlatform& operator=(const ToolPlatform&) = delete;
+
+    MemoryFiles files;
+
+private:
+    ManualClock clock_;
+    ScriptedEventLoop loop_{clock_};
+    ProgramFolder folder_{files, "/program", "/program"};
+    FixedFormats formats_;
+    RecordingDialogs dialogs_;
+    MemoryRegistry registry_;
+    FixedInstanceGuard instanceGuard_;
+    Platform platform_{clock_,   loop_,    files,     folder_,
+                       formats_, dialogs_, registry_, instanceGuard_};
+};
+
+}  // namespace horavex
