@@ -20,7 +20,7 @@ add_compile_options(-ffp-contract=off)
 add_compile_options(-Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                     -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
                     -Wduplicated-cond -Wlogical-op -Wimplicit-fallthrough)
-# g++ 12 sees overlapping copies in std::string's own concatenation (GCC bug 105651).
+# g++ 12 sees overlapping copies in the concatenation of std::string (GCC bug 105651).
 add_compile_options(-Wno-restrict)
 
 if(HORAVEX_SANITIZE)

@@ -14,7 +14,8 @@ namespace horavex {
 /// user's file is written, whole each time; each call reads anew, so that a change from outside
 /// counts. A missing file is empty. Where the user's file cannot be read every call returns
 /// kRegistryAccessDenied, and nothing is written over it; where the machine-wide one cannot be
-/// read it counts as empty. A failed write returns kRegistryWriteFault and keeps the old file.
+/// read it counts as empty. A failed write returns kRegistryWriteFault; the old file or the new
+/// one is then there, never a mixture.
 class RegistryFile : public RegistryStore {
 public:
     RegistryFile(Files& files, std::string userPath, std::string machinePath);

@@ -115,7 +115,6 @@ void Form::RestoreAll() {
     }
     Restore();
     drawing.clear();
-    topStacking_ = 0;
 }
 
 void Form::Show(Form* owner) {

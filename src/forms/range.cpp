@@ -6,7 +6,7 @@
 namespace horavex {
 
 int Range::Clip(int value) const {
-    const auto [lowest, highest] = std::minmax(Min(), Max());
+    const auto [lowest, highest] = std::minmax({Min(), Max()});
     return std::clamp(value, lowest, highest);
 }
 

@@ -6,27 +6,41 @@ namespace horavex {
 
 namespace {
 
-/// Takes one line off the front, without its end.
+/// Takes one line off the front, without its end and the blanks around it.
 std::string_view TakeLine(std::string_view& rest) {
     const std::size_t end = rest.find_first_of("\r\n");
     const std::string_view line = rest.substr(0, end);
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    return line;
+    return Trim(line);
 }
 
-bool IsSectionHeader(std::string_view line) {
-    return !line.empty() && line.front() == '[';
-}
-
-bool IsHeaderOf(std::string_view line, std::string_view section) {
+/// The name of the section that a line opens.
+std::optional<std::string_view> SectionOf(std::string_view line) {
     const std::size_t end = line.find(']');
-    return IsSectionHeader(line) && end != std::string_view::npos &&
-           EqualsIgnoringCase(Trim(line.substr(1, end - 1)), section);
+    if (!line.starts_with('[') || end == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return Trim(line.substr(1, end - 1));
+}
+
+/// Key and value of a line, still with its quotes.
+struct Assignment {
+    std::string_view key;
+    std::string_view value;
+};
+
+std::optional<Assignment> AssignmentOf(std::string_view line) {
+    const std::size_t mark = line.find('=');
+    if (line.starts_with(';') || line.starts_with('[') || mark == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return Assignment{Trim(line.substr(0, mark)), Trim(line.substr(mark + 1))};
 }
 
 bool SkipToSection(std::string_view& rest, std::string_view section) {
     while (!rest.empty()) {
-        if (IsHeaderOf(Trim(TakeLine(rest)), section)) {
+        const auto name = SectionOf(TakeLine(rest));
+        if (name && EqualsIgnoringCase(*name, section)) {
             return true;
         }
     }
@@ -47,18 +61,30 @@ std::optional<std::string_view> FindProfileValue(std::string_view file, std::str
         return std::nullopt;
     }
     while (!file.empty()) {
-        const std::string_view line = Trim(TakeLine(file));
-        if (IsSectionHeader(line)) {
+        const std::string_view line = TakeLine(file);
+        if (SectionOf(line)) {
             return std::nullopt;
         }
-        const std::size_t mark = line.find('=');
-        const bool comment = line.starts_with(';');
-        if (!comment && mark != std::string_view::npos &&
-            EqualsIgnoringCase(Trim(line.substr(0, mark)), key)) {
-            return Unquote(Trim(line.substr(mark + 1)));
+        const auto assignment = AssignmentOf(line);
+        if (assignment && EqualsIgnoringCase(assignment->key, key)) {
+            return Unquote(assignment->value);
         }
     }
     return std::nullopt;
+}
+
+std::vector<ProfileEntry> ListProfileEntries(std::string_view file) {
+    std::vector<ProfileEntry> entries;
+    std::string section;
+    while (!file.empty()) {
+        const std::string_view line = TakeLine(file);
+        if (const auto name = SectionOf(line)) {
+            section = *name;
+        } else if (const auto assignment = AssignmentOf(line)) {
+            entries.push_back({section, std::string(assignment->key)});
+        }
+    }
+    return entries;
 }
 
 }  // namespace horavex

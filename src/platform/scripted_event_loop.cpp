@@ -67,8 +67,9 @@ bool ScriptedEventLoop::IsDue() const {
 
 void ScriptedEventLoop::DeliverFirst() {
     // Off the list first: the event may pump in its turn.
-    const auto event = events_.extract(events_.begin());
-    event.mapped()();
+    const Event event = std::move(events_.begin()->second);
+    events_.erase(events_.begin());
+    event();
 }
 
 }  // namespace horavex

@@ -49,6 +49,12 @@ TEST(DateSerial, MonthsBeyondTheYearCarry) {
     EXPECT_EQ(DateSerial(2001, -12, 1), DateSerial(1999, 12, 1));
 }
 
+TEST(DateSerial, MonthsCarryBelowTheYearZero) {
+    const int daysOfYearZero = 366;
+    EXPECT_EQ(DateSerial(1, -11, 1), DateSerial(1, 1, 1) - daysOfYearZero);
+    EXPECT_EQ(DateSerial(1, -12, 1), DateSerial(1, 1, 1) - daysOfYearZero - 31);
+}
+
 TEST(DateSerial, DaysBeyondTheMonthCarry) {
     EXPECT_EQ(DateSerial(2001, 1, 0), DateSerial(2000, 12, 31));
     EXPECT_EQ(DateSerial(2000, 3, 0), DateSerial(2000, 2, 29));
@@ -123,6 +129,7 @@ TEST(IsCivilDate, KnowsTheLengthOfEveryMonth) {
 TEST(IsCivilDate, LeapDayStandsInLeapYearsOnly) {
     EXPECT_TRUE(IsCivilDate(2024, 2, 29));
     EXPECT_TRUE(IsCivilDate(2000, 2, 29));
+    EXPECT_FALSE(IsCivilDate(1800, 2, 29));
     EXPECT_FALSE(IsCivilDate(1900, 2, 29));
     EXPECT_FALSE(IsCivilDate(2100, 2, 29));
     EXPECT_FALSE(IsCivilDate(2000, 2, 30));

@@ -69,9 +69,10 @@ TEST(IsUtf8, NothingLiesBeyondTheLastCodePoint) {
 TEST(IsUtf8, TruncatedCharactersAreMalformed) {
     for (const std::string whole : {"é", "€", "😀"}) {
         for (std::size_t length = 1; length < whole.size(); ++length) {
-            EXPECT_FALSE(IsUtf8("a" + whole.substr(0, length))) << whole << length;
-            EXPECT_FALSE(IsUtf8(whole.substr(0, length) + "aaa")) << whole << length;
-            EXPECT_FALSE(IsUtf8(whole.substr(0, length) + "é")) << whole << length;
+            const std::string cut(whole.substr(0, length));
+            for (const auto& [before, behind] : {std::pair("a", ""), {"", "aaa"}, {"", "é"}}) {
+                EXPECT_FALSE(IsUtf8(before + cut + behind)) << whole << length;
+            }
         }
     }
 }
@@ -90,6 +91,11 @@ TEST(IsUtf8, WellFormedBeginningDoesNotSaveTheText) {
 TEST(Utf8Prefix, TakesTheWholeTextWhenItFits) {
     EXPECT_EQ(Utf8Prefix("aé", 3), "aé");
     EXPECT_EQ(Utf8Prefix("aé", 100), "aé");
+}
+
+TEST(Utf8Prefix, DoesNotLookBehindTheText) {
+    const std::string_view field = std::string_view("aé\xA9").substr(0, 3);
+    EXPECT_EQ(Utf8Prefix(field, 3), "aé");
 }
 
 TEST(Utf8Prefix, LeavesOutACharacterThatDoesNotFitWhole) {

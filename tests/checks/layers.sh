@@ -32,8 +32,9 @@ uses[primitives]="base/* $primitives"
 uses[windows]="base/* forms/* $primitives"
 uses[store]="base/* platform/* forms/* windows/* $primitives"
 uses[lang]="${uses[store]}"
-# Of the store, the engine knows the records and the text tables; of its own room, everything.
-uses[engine]="${uses[store]} store/*_record.h store/text_*.h"
+# Of the store, the engine knows the records and the text tables; of its own room, everything. The
+# names of the next prayer come from the language pack.
+uses[engine]="${uses[store]} store/*_record.h store/text_*.h lang/*"
 uses[calendar]="${uses[store]} engine/* store/* lang/*"
 uses[geo]="${uses[calendar]} calendar/*"
 uses[moon]="${uses[geo]} geo/*"
@@ -112,7 +113,8 @@ else
 fi
 
 # tsort names the members of each cycle on standard error, one a line.
-cycle=$(tsort <<<"$edges" 2>&1 >/dev/null | sed -e 's/^tsort: //' -e '/^-: /d' | paste -sd ' ') || true
+members=$(tsort <<<"$edges" 2>&1 >/dev/null | sed -e 's/^tsort: //' -e '/^-: /d') || true
+cycle=$(paste -sd ' ' <<<"$members")
 [[ -z $cycle ]] || complain "a cycle of includes: $cycle"
 
 ((violations == 0))

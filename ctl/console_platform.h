@@ -1,0 +1,71 @@
+#pragma once
+
+#include "engine/day_driver.h"
+#include "linux/instance_lock.h"
+#include "linux/posix_files.h"
+#include "linux/registry_file.h"
+#include "linux/system_clock.h"
+#include "platform/fixed_formats.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+/// There is no event loop at the command line: nothing is ever pending.
+class ConsoleEventLoop : public EventLoop {
+public:
+    void Pump() override {}
+    void Rest(int milliseconds) override { Sleep(milliseconds); }
+    void Sleep(int milliseconds) override;
+    [[noreturn]] void EndProcess() override;
+};
+
+/// Message boxes become lines on standard error.
+class ConsoleDialogs : public Dialogs {
+public:
+    void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
+};
+
+/// A clock that stands at a moment of the user's choice, or the system's.
+class ConsoleClock : public Clock {
+public:
+    Date Now() const override { return fixed_ ? *fixed_ : system_.Now(); }
+    double SteadySeconds() const override { return system_.SteadySeconds(); }
+    void StandAt(Date moment) { fixed_ = moment; }
+
+private:
+    SystemClock system_;
+    std::optional<Date> fixed_;
+};
+
+/// Calculates without any window or wait.
+class ConsoleHost : public DayHost {
+public:
+    void ReportProgress(double) override {}
+    void ComputeQibla() override;
+};
+
+/// The ports of the command line over the real system, installed as long as it lives. The forms
+/// of dates and times are fixed, so that scripts can rely on them.
+class ConsolePlatform {
+public:
+    ConsolePlatform();
+    ~ConsolePlatform();
+    ConsolePlatform(const ConsolePlatform&) = delete;
+    ConsolePlatform& operator=(const ConsolePlatform&) = delete;
+
+    ConsoleClock clock;
+    PosixFiles files;
+
+private:
+    ProgramFolder folder_;
+    RegistryFile registry_;
+    InstanceLock instanceLock_;
+    ConsoleEventLoop eventLoop_;
+    ConsoleDialogs dialogs_;
+    FixedFormats formats_;
+    ConsoleHost host_;
+    Platform platform_{clock,    eventLoop_, files,     folder_,
+                       formats_, dialogs_,   registry_, instanceLock_};
+};
+
+}  // namespace horavex

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "ctl/command.h"
+
+namespace horavex {
+
+/// Options that say where and by which method to calculate.
+struct PlaceOptions {
+    std::optional<std::string> city;
+    std::optional<int> cityIndex;
+    std::optional<double> latitude;   // degrees, north positive
+    std::optional<double> longitude;  // degrees, east positive
+    std::optional<double> zone;       // hours east of Greenwich
+    std::optional<double> fajr;       // degrees of depression
+    std::optional<double> isha;       // degrees of depression
+    std::optional<int> asr;           // shadow factor
+    std::optional<int> dstStart;      // 1-based day of the year
+    std::optional<int> dstEnd;        // 1-based day of the year
+};
+
+/// --latitude and --longitude; given together or not at all.
+void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool required);
+
+/// --zone, --fajr, --isha, --asr, --dst-start and --dst-end.
+void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required);
+
+/// --city and --city-index, beside the coordinates.
+void AddCityOptions(CLI::App& command, PlaceOptions& options);
+
+/// A coordinate as the files store it: rounded to the hundredth of a degree.
+std::int16_t StoredFromDegrees(double degrees);
+
+/// Fills the working settings, place and Isha angle. Without a place the accepted ones count; a
+/// city or coordinates alone take the nearest zone, the default Fajr angle of their band, 18
+/// degrees clipped to the band for Isha, ratio 1 and no daylight saving. Method options come on
+/// top. Refuses the usage for a city that is not there.
+void ApplyPlace(const PlaceOptions& options);
+
+}  // namespace horavex

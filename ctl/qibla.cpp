@@ -1,0 +1,36 @@
+#include <memory>
+
+#include "ctl/place.h"
+#include "engine/angle.h"
+#include "engine/solar_event.h"
+#include "geo/qibla.h"
+#include "store/settings_record.h"
+
+namespace horavex {
+
+namespace {
+
+void PrintQibla(const Session& session, const PlaceOptions& place) {
+    LatitudeRad = DegToRad(StoredCoord(StoredFromDegrees(*place.latitude)));
+    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(StoredFromDegrees(*place.longitude)));
+    Settings.QiblaMethod = 1;
+    ComputeQibla();
+    const DegreesMinutes split = SplitDegrees(QiblaDegrees);
+    session.Print({{"radians", QiblaRad},
+                   {"degrees", QiblaDegrees},
+                   {"whole", split.whole},
+                   {"minutes", split.minutes},
+                   {"text", QiblaText}},
+                  QiblaText + "\n");
+}
+
+}  // namespace
+
+void AddQiblaCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "qibla", "The direction of Mecca from a place");
+    auto place = std::make_shared<PlaceOptions>();
+    AddCoordinateOptions(*command, *place, true);
+    command->callback([&session, place] { PrintQibla(session, *place); });
+}
+
+}  // namespace horavex

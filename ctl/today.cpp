@@ -1,0 +1,137 @@
+#include <unistd.h>
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+#include "calendar/current_calendar.h"
+#include "ctl/calculation.h"
+#include "ctl/day_view.h"
+#include "ctl/place.h"
+#include "ctl/watch.h"
+#include "engine/current_year.h"
+#include "geo/qibla.h"
+#include "lang/language_pack.h"
+#include "store/language_setting.h"
+#include "store/location_record.h"
+
+namespace horavex {
+
+namespace {
+
+struct TodayOptions {
+    PlaceOptions place;
+    std::optional<std::string> at;
+    bool watch = false;
+};
+
+/// "2026-11-21T12:34:56", or the day alone for its midnight.
+Date ParseMoment(const std::string& text) {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+    int read = 0;
+    const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d%nT%2d:%2d:%2d%n", &year, &month,
+                                   &day, &read, &hour, &minute, &second, &read);
+    const bool complete = (fields == 3 || fields == 6) &&
+                          static_cast<std::size_t>(read) == text.size();
+    if (!complete || !IsCivilDate(year, month, day) || hour < 0 || hour > 23 || minute < 0 ||
+        minute > 59 || second < 0 || second > 59) {
+        RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
+    }
+    return DateSerial(year, month, day) + TimeSerial(hour, minute, second);
+}
+
+std::string IsoDate(Date date) {
+    const CivilDate civil = CivilFromDate(date);
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d", civil.year, civil.month, civil.day);
+    return text;
+}
+
+Json TimesJson(const PrayerRow& hours) {
+    Json times = Json::object();
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        times[kPrayerKeys[prayer]] = Ports().formats.MediumTime(hours[prayer] / 24.0);
+    }
+    return times;
+}
+
+Json HijriJson(const HijriTexts& hijri, Date date) {
+    const CalendarScope scope(kHijriCalendar);
+    return {{"day", DayOf(date)},
+            {"month", MonthOf(date)},
+            {"monthName", hijri.monthName},
+            {"year", YearOf(date)}};
+}
+
+Json DayJson(const DayView& view) {
+    return {{"city", CityText},
+            {"date", IsoDate(view.now)},
+            {"hijri", HijriJson(view.hijri, view.now)},
+            {"hours", view.hours},
+            {"times", TimesJson(view.hours)},
+            {"next",
+             {{"index", view.next.prayer},
+              {"sentence", view.next.sentence},
+              {"remainingSeconds", SecondsLeft(view)},
+              {"remaining", RemainingText(view.next.secondsFromNow)}}},
+            {"qibla", {{"degrees", QiblaDegrees}, {"text", QiblaText}}},
+            {"failure", FailureJson()}};
+}
+
+int PresentYear() {
+    return CivilFromDate(Ports().clock.Today()).year;
+}
+
+/// One frame of the live view; a new year is calculated when it has come.
+std::string Frame(Session& session) {
+    if (PresentYear() != CurrentYear) {
+        Calculate(session, PresentYear());
+    }
+    return DayText(TakeDayView(), true) + "\nCtrl+C ends\n";
+}
+
+void Watch(Session& session) {
+    if (isatty(STDOUT_FILENO) == 0) {
+        RefuseUsage("--watch wants a terminal");
+    }
+    if (session.status == kDone) {
+        WatchInTerminal([&] { return Frame(session); });
+    }
+}
+
+void RunToday(Session& session, const TodayOptions& options) {
+    if (options.at) {
+        session.platform.clock.StandAt(ParseMoment(*options.at));
+    }
+    currentLanguage = ReadStoredLanguage();
+    ApplyPlace(options.place);
+    Calculate(session, PresentYear());
+    if (options.watch) {
+        Watch(session);
+    } else {
+        const DayView view = TakeDayView();
+        session.Print(DayJson(view), session.status == kDone ? DayText(view, false) : "");
+    }
+}
+
+}  // namespace
+
+void AddTodayCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "today", "The day's times and the next prayer");
+    auto options = std::make_shared<TodayOptions>();
+    AddCoordinateOptions(*command, options->place, false);
+    AddCityOptions(*command, options->place);
+    AddMethodOptions(*command, options->place, false);
+    auto* at = command->add_option("--at", options->at, "A moment in place of now");
+    command->add_flag("--watch", options->watch, "Redraw each second in the terminal")
+        ->excludes(at)
+        ->excludes("--json");
+    command->callback([&session, options] { RunToday(session, *options); });
+}
+
+}  // namespace horavex

@@ -1,0 +1,60 @@
+#include "ctl/watch.h"
+
+#include <csignal>
+#include <ctime>
+#include <iostream>
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kEnter = "\x1b[?1049h\x1b[?25l";  // second screen, no cursor
+constexpr const char* kLeave = "\x1b[?25h\x1b[?1049l";
+constexpr const char* kHome = "\x1b[H";
+constexpr const char* kClearLineEnd = "\x1b[K\n";
+constexpr const char* kClearBelow = "\x1b[J";
+
+volatile std::sig_atomic_t stopped = 0;
+
+void Stop(int) {
+    stopped = 1;
+}
+
+void StopOnSignals() {
+    struct sigaction action {};
+    action.sa_handler = Stop;  // without SA_RESTART, so that the wait below ends too
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+/// Sleeps to the next whole second of the wall clock; a signal ends it early.
+void RestToWholeSecond() {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    const timespec rest{0, 1000000000L - now.tv_nsec};
+    nanosleep(&rest, nullptr);
+}
+
+/// Overwrites the former frame line by line, so that nothing flickers.
+std::string InPlace(const std::string& frame) {
+    std::string text = kHome;
+    for (const char c : frame) {
+        text += c == '\n' ? std::string(kClearLineEnd) : std::string(1, c);
+    }
+    return text + kClearBelow;
+}
+
+}  // namespace
+
+void WatchInTerminal(const std::function<std::string()>& frame) {
+    StopOnSignals();
+    std::cout << kEnter;
+    while (stopped == 0) {
+        std::cout << InPlace(frame()) << std::flush;
+        RestToWholeSecond();
+    }
+    std::cout << kLeave << std::flush;
+}
+
+}  // namespace horavex

@@ -1,0 +1,36 @@
+#include "lang/pack_keys.h"
+
+namespace horavex {
+
+namespace {
+
+/// The numbers from first to last as keys.
+std::vector<std::string> Numbers(int first, int last) {
+    std::vector<std::string> keys;
+    for (int number = first; number <= last; ++number) {
+        keys.push_back(std::to_string(number));
+    }
+    return keys;
+}
+
+std::vector<std::string> MessageKeys() {
+    auto keys = Numbers(1, 24);
+    std::erase(keys, "8");  // left free in the numbering
+    return keys;
+}
+
+std::vector<std::string> OtherKeys() {
+    auto keys = Numbers(1, 20);
+    keys.insert(keys.end(), {"Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    return keys;
+}
+
+}  // namespace
+
+const std::vector<PackSection>& PackVocabularies() {
+    static const std::vector<PackSection> sections = {
+        {"msg", MessageKeys()}, {"other", OtherKeys()}, {"Azan", {"0", "2", "3", "4", "5"}}};
+    return sections;
+}
+
+}  // namespace horavex

@@ -1,0 +1,249 @@
+#include "store/data_check.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "base/fault.h"
+#include "platform/platform.h"
+#include "store/data_text.h"
+#include "store/indexed_file.h"
+#include "store/location_files.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::int64_t kUsedTextEntries = 77;  // highest entry that the program asks for
+
+/// An index of fixed-length records over a file of packed texts.
+struct TextFiles {
+    const char* index;
+    std::int64_t recordLength;
+    const char* texts;
+    std::int64_t (*startOf)(ByteView record);
+};
+
+constexpr TextFiles kCountries = {"Dat/SI.DAt", 6, "Dat/S.DAT", ShortStart};
+constexpr TextFiles kCities = {"Dat/CI.DAT", 10, "Dat/C.DAt", LongStart};
+constexpr TextFiles kProvinces = {"Dat/PI.DAT", 2, "Dat/P.DAT", ShortStart};
+constexpr TextFiles kTexts = {"Dat/TI.DAT", 2, "Dat/T.DAT", ShortStart};
+
+std::string At(const char* file, std::int64_t number) {
+    return std::string(file) + ": record " + std::to_string(number) + ": ";
+}
+
+bool HasControlCharacter(const Bytes& text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](std::uint8_t code) { return code < 32 || code == 127; });
+}
+
+/// A loaded file cut into records.
+class Records {
+public:
+    Records(Bytes bytes, std::int64_t length) : bytes_(std::move(bytes)), length_(length) {}
+
+    std::int64_t Count() const { return static_cast<std::int64_t>(bytes_.size()) / length_; }
+    bool IsWhole() const { return static_cast<std::int64_t>(bytes_.size()) % length_ == 0; }
+
+    /// number: 1 to Count().
+    ByteView Of(std::int64_t number) const {
+        return ByteView(bytes_).subspan(static_cast<std::size_t>((number - 1) * length_),
+                                        static_cast<std::size_t>(length_));
+    }
+
+private:
+    Bytes bytes_;
+    std::int64_t length_;
+};
+
+class DataCheck {
+public:
+    explicit DataCheck(CheckReport& report) : report_(report) {}
+
+    void Run() {
+        CheckTexts(kProvinces);
+        CheckTexts(kCountries);
+        CheckTexts(kCities);
+        CheckTexts(kTexts);
+        CheckCityFields();
+        CheckCountryRanges();
+        CheckTextCount();
+        CheckRanks();
+        CheckBands();
+        CheckSettings("Dat/AI.DAT");
+        CheckSettings("Dat/Settings.DAT");
+    }
+
+private:
+    std::optional<Bytes> Load(const char* file) {
+        try {
+            return Ports().programFolder.ReadWhole(file);
+        } catch (const FileFault& fault) {
+            report_.Expect(false, std::string(file) + ": " + fault.what());
+            return std::nullopt;
+        }
+    }
+
+    /// The records of a file; a length that is no multiple is a problem, nothing when missing.
+    std::optional<Records> LoadRecords(const char* file, std::int64_t length) {
+        auto bytes = Load(file);
+        if (!bytes) {
+            return std::nullopt;
+        }
+        Records records(std::move(*bytes), length);
+        report_.Expect(records.IsWhole(), std::string(file) + ": the last record is cut short");
+        report_.Expect(records.Count() > 0, std::string(file) + ": there is no record");
+        return records;
+    }
+
+    void CheckTexts(const TextFiles& files) {
+        const auto index = LoadRecords(files.index, files.recordLength);
+        const auto texts = Load(files.texts);
+        if (!index || !texts) {
+            return;
+        }
+        const auto end = static_cast<std::int64_t>(texts->size()) + 1;
+        for (std::int64_t number = 1; number <= index->Count(); ++number) {
+            const std::int64_t start = files.startOf(index->Of(number));
+            const std::int64_t next =
+                number == index->Count() ? end : files.startOf(index->Of(number + 1));
+            CheckText(files, number, start, next, *texts);
+        }
+    }
+
+    void CheckText(const TextFiles& files, std::int64_t number, std::int64_t start,
+                   std::int64_t next, const Bytes& texts) {
+        const auto size = static_cast<std::int64_t>(texts.size());
+        const bool inside = start >= 1 && start < next && next <= size + 1;
+        report_.Expect(inside, At(files.index, number) + "no text from position " +
+                                   std::to_string(start) + " to " + std::to_string(next) +
+                                   " of " + files.texts);
+        if (inside) {
+            const auto stored = ByteView(texts).subspan(static_cast<std::size_t>(start - 1),
+                                                        static_cast<std::size_t>(next - start));
+            report_.Expect(!HasControlCharacter(DecodeText(stored)),
+                           At(files.index, number) + "its text holds control characters");
+        }
+    }
+
+    void CheckCityFields() {
+        const auto cities = LoadRecords(kCities.index, kCities.recordLength);
+        const auto provinces = LoadRecords(kProvinces.index, kProvinces.recordLength);
+        if (!cities || !provinces) {
+            return;
+        }
+        for (std::int64_t number = 1; number <= cities->Count(); ++number) {
+            const ByteView record = cities->Of(number);
+            const bool onEarth = std::abs(GetInt16(record, 4)) <= 9000 &&
+                                 std::abs(GetInt16(record, 6)) <= 18000;
+            report_.Expect(onEarth, At(kCities.index, number) + "its coordinates are off the earth");
+            const std::int16_t province = GetInt16(record, 8);
+            report_.Expect(province >= 0 && province <= provinces->Count(),
+                           At(kCities.index, number) + "there is no province " +
+                               std::to_string(province));
+        }
+    }
+
+    void CheckCountryRanges() {
+        const auto countries = LoadRecords(kCountries.index, kCountries.recordLength);
+        const auto cities = LoadRecords(kCities.index, kCities.recordLength);
+        if (!countries || !cities) {
+            return;
+        }
+        std::int64_t next = kFirstCityIndex;
+        for (std::int64_t number = 1; number <= countries->Count(); ++number) {
+            const ByteView record = countries->Of(number);
+            const std::int16_t count = GetInt16(record, 4);
+            report_.Expect(GetInt16(record, 2) == next && count >= 0,
+                           At(kCountries.index, number) +
+                               "its cities do not follow those of the country before");
+            next += count;
+        }
+        report_.Expect(next == kFirstCityIndex + cities->Count(),
+                       std::string(kCountries.index) +
+                           ": the countries do not hold all cities of " + kCities.index);
+    }
+
+    void CheckTextCount() {
+        if (const auto index = LoadRecords(kTexts.index, kTexts.recordLength)) {
+            report_.Expect(index->Count() >= kUsedTextEntries * kTextLanguages,
+                           std::string(kTexts.index) + ": fewer than " +
+                               std::to_string(kUsedTextEntries) + " entries in six languages");
+        }
+    }
+
+    void CheckRanks() {
+        const auto ranks = LoadRecords("Dat/RI.DAT", 2);
+        const auto cities = LoadRecords(kCities.index, kCities.recordLength);
+        if (ranks && cities) {
+            report_.Expect(ranks->Count() == cities->Count(),
+                           "Dat/RI.DAT: not one rank for each city of Dat/CI.DAT");
+        }
+    }
+
+    void CheckBands() {
+        const auto bands = LoadRecords("Dat/A.dat", 5);
+        if (!bands) {
+            return;
+        }
+        for (std::int64_t number = 1; number <= bands->Count(); ++number) {
+            const ByteView record = bands->Of(number);
+            const Bytes angles = DecodeText(record.subspan(2, 3));
+            report_.Expect(angles[0] >= angles[1] && angles[1] >= angles[2] && angles[2] >= 1,
+                           At("Dat/A.dat", number) +
+                               "its angles do not go from the largest to the smallest");
+            report_.Expect(number == 1 ? GetInt16(record, 0) < 0
+                                       : GetInt16(bands->Of(number - 1), 0) < GetInt16(record, 0),
+                           At("Dat/A.dat", number) + "its limit does not lie above the one before");
+        }
+    }
+
+    /// The program runs without settings; records that are there must make sense.
+    void CheckSettings(const char* file) {
+        if (!Ports().programFolder.Exists(file)) {
+            return;
+        }
+        const auto bytes = Load(file);
+        if (!bytes) {
+            return;
+        }
+        report_.Expect(bytes->size() >= kSettingsRecordSize,
+                       std::string(file) + ": record 1: shorter than " +
+                           std::to_string(kSettingsRecordSize) + " bytes");
+        if (bytes->size() >= kSettingsRecordSize) {
+            SettingsBytes record{};
+            std::copy_n(bytes->begin(), record.size(), record.begin());
+            CheckSettingsFields(file, DecodeSettings(record));
+        }
+    }
+
+    void CheckSettingsFields(const char* file, const SettingsRecord& record) {
+        const std::string place = At(file, 1);
+        report_.Expect(record.FajrAngle >= 0.0 && record.FajrAngle <= 90.0,
+                       place + "FajrAngle is no angle");
+        report_.Expect(record.AsrRatio == 1.0 || record.AsrRatio == 2.0,
+                       place + "AsrRatio is neither 1 nor 2");
+        report_.Expect(record.TimeZone >= -12.0 && record.TimeZone <= 12.0,
+                       place + "TimeZone is not from -12 to 12");
+        report_.Expect(record.Language >= 0 && record.Language <= kTextLanguages,
+                       place + "Language is not from 0 to 6");
+        report_.Expect(record.AlarmTime >= 0 && record.AlarmTime <= 287,
+                       place + "AlarmTime is not from 0 to 287");
+        const auto isDay = [](std::int16_t day) { return day >= 1 && day <= 366; };
+        report_.Expect(record.DstEnabled != 1 || (isDay(record.DstStart) && isDay(record.DstEnd)),
+                       place + "a day of daylight saving is not from 1 to 366");
+    }
+
+    CheckReport& report_;
+};
+
+}  // namespace
+
+void CheckDataFiles(CheckReport& report) {
+    DataCheck(report).Run();
+}
+
+}  // namespace horavex

@@ -1,0 +1,63 @@
+#include "linux/system_clock.h"
+
+#include "support/scoped_variable.h"
+
+namespace horavex {
+namespace {
+
+// 2026-07-01 12:00:00 UTC.
+constexpr std::time_t kSummerNoon = 1782907200;
+
+// Zones are written out, so that they need no zone files of the machine.
+constexpr const char* kBerlin = "CET-1CEST,M3.5.0,M10.5.0/3";
+
+TEST(LocalDate, IsTheZonesDateAndTime) {
+    const ScopedVariable zone("TZ", "UTC0");
+    EXPECT_EQ(LocalDate(kSummerNoon), DateSerial(2026, 7, 1) + TimeSerial(12, 0, 0));
+    EXPECT_EQ(LocalDate(0), DateSerial(1970, 1, 1));
+    EXPECT_EQ(LocalDate(-1), DateSerial(1969, 12, 31) + TimeSerial(23, 59, 59));
+}
+
+TEST(LocalDate, ZoneThatChangesTakesEffectAtOnce) {
+    const ScopedVariable before("TZ", "UTC0");
+    EXPECT_EQ(LocalDate(kSummerNoon), DateSerial(2026, 7, 1) + TimeSerial(12, 0, 0));
+    const ScopedVariable after("TZ", "XXX-14");
+    EXPECT_EQ(LocalDate(kSummerNoon), DateSerial(2026, 7, 2) + TimeSerial(2, 0, 0));
+}
+
+TEST(LocalDate, DaylightSavingIsInIt) {
+    const ScopedVariable zone("TZ", kBerlin);
+    EXPECT_EQ(LocalDate(kSummerNoon), DateSerial(2026, 7, 1) + TimeSerial(14, 0, 0));
+    // 2026-03-29 01:00 UTC: from 01:59:59 to 03:00:00.
+    constexpr std::time_t kSpring = 1774746000;
+    EXPECT_EQ(LocalDate(kSpring - 1), DateSerial(2026, 3, 29) + TimeSerial(1, 59, 59));
+    EXPECT_EQ(LocalDate(kSpring), DateSerial(2026, 3, 29) + TimeSerial(3, 0, 0));
+}
+
+TEST(SystemClock, NowIsTheRunningSecond) {
+    const ScopedVariable zone("TZ", "UTC0");
+    const SystemClock clock;
+    const std::time_t before = std::time(nullptr);
+    const Date now = clock.Now();
+    // The coarse clock of time() may lag behind by a scheduler's tick.
+    const std::time_t after = std::time(nullptr) + 1;
+    EXPECT_GE(now, LocalDate(before));
+    EXPECT_LE(now, LocalDate(after));
+    EXPECT_EQ(now, std::floor(now) + SecondOfDay(now) / kSecondsPerDay) << "a whole second";
+    EXPECT_EQ(clock.Today(), std::floor(now));
+}
+
+TEST(SystemClock, SteadyClockGoesForward) {
+    const SystemClock clock;
+    const double start = clock.SteadySeconds();
+    double last = start;
+    while (last < start + 0.01) {
+        const double next = clock.SteadySeconds();
+        ASSERT_GE(next, last);
+        last = next;
+    }
+    EXPECT_LT(last, start + 60.0) << "the unit is the second";
+}
+
+}  // namespace
+}  // namespace horavex
