@@ -6,8 +6,10 @@
 #include <thread>
 
 #include "engine/undefined_angle.h"
+#include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "linux/folders.h"
+#include "store/settings_record.h"
 
 namespace horavex {
 
@@ -23,7 +25,26 @@ RegistryFile FindRegistry(Files& files) {
     return {files, paths.user, paths.machine};
 }
 
+Date UniversalTime() {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    return DateSerial(1970, 1, 1) +
+           static_cast<double>(seconds.time_since_epoch().count()) / kSecondsPerDay;
+}
+
+Date WorkingZoneTime() {
+    const Date standard = UniversalTime() + Settings.TimeZone / 24.0;
+    return IsDaylightDay(standard) ? standard + 1.0 / 24.0 : standard;
+}
+
 }  // namespace
+
+void ConsoleClock::StandAt(Date moment) {
+    choice_ = [moment] { return moment; };
+}
+
+void ConsoleClock::RunInWorkingZone() {
+    choice_ = WorkingZoneTime;
+}
 
 void ConsoleEventLoop::Sleep(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));

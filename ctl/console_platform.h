@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "engine/day_driver.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
@@ -25,16 +27,22 @@ public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
 };
 
-/// A clock that stands at a moment of the user's choice, or the system's.
+/// The system's clock, or a clock of the user's choice.
 class ConsoleClock : public Clock {
 public:
-    Date Now() const override { return fixed_ ? *fixed_ : system_.Now(); }
+    Date Now() const override { return choice_ ? choice_() : system_.Now(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
-    void StandAt(Date moment) { fixed_ = moment; }
+
+    /// Shows that moment for good.
+    void StandAt(Date moment);
+
+    /// Runs as the clocks of a place do that keep the zone of the working settings, their days
+    /// of daylight saving included.
+    void RunInWorkingZone();
 
 private:
     SystemClock system_;
-    std::optional<Date> fixed_;
+    std::function<Date()> choice_;
 };
 
 /// Calculates without any window or wait.

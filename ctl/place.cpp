@@ -140,6 +140,10 @@ void AddCityOptions(CLI::App& command, PlaceOptions& options) {
     index->excludes("--latitude");
 }
 
+bool NamesPlace(const PlaceOptions& options) {
+    return options.city || options.cityIndex || options.latitude;
+}
+
 std::int16_t StoredFromDegrees(double degrees) {
     return RoundToInt16(degrees * 100.0);
 }

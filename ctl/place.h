@@ -31,6 +31,9 @@ void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required);
 /// --city and --city-index, beside the coordinates.
 void AddCityOptions(CLI::App& command, PlaceOptions& options);
 
+/// True when the options name another place than the accepted one.
+bool NamesPlace(const PlaceOptions& options);
+
 /// A coordinate as the files store it: rounded to the hundredth of a degree.
 std::int16_t StoredFromDegrees(double degrees);
 

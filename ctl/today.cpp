@@ -104,12 +104,20 @@ void Watch(Session& session) {
     }
 }
 
-void RunToday(Session& session, const TodayOptions& options) {
+/// The accepted place is where the computer stands, so its clock counts; another place has a
+/// clock of its own.
+void SetClock(ConsoleClock& clock, const TodayOptions& options) {
     if (options.at) {
-        session.platform.clock.StandAt(ParseMoment(*options.at));
+        clock.StandAt(ParseMoment(*options.at));
+    } else if (NamesPlace(options.place)) {
+        clock.RunInWorkingZone();
     }
+}
+
+void RunToday(Session& session, const TodayOptions& options) {
     currentLanguage = ReadStoredLanguage();
     ApplyPlace(options.place);
+    SetClock(session.platform.clock, options);
     Calculate(session, PresentYear());
     if (options.watch) {
         Watch(session);

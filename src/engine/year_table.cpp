@@ -176,6 +176,16 @@ void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const Progress
     CheckShiftedRows(firstDay, endDay);
 }
 
+bool IsDaylightDay(Date date) {
+    if (Settings.DstEnabled != 1) {
+        return false;
+    }
+    const double day = std::floor(date) - DateSerial(CivilFromDate(date).year, 1, 1) + 1.0;
+    const bool started = day >= Settings.DstStart;
+    const bool over = day > Settings.DstEnd;
+    return Settings.DstStart <= Settings.DstEnd ? started && !over : started || !over;
+}
+
 PrayerRow ComputeTodayTimes(Date today) {
     LastYearFailure.reset();
     const std::int16_t row = TruncateToInt16(today - DateSerial(CurrentYear, 1, 1));

@@ -44,6 +44,9 @@ using ProgressReport = std::function<void(double percent)>;
 /// run before left. Throws BoundsFault when DstStart or DstEnd is no day of the table.
 void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const ProgressReport& report);
 
+/// True for a day whose times of the table carry the daylight hour under the working settings.
+bool IsDaylightDay(Date date);
+
 /// The wizard's preview: the six times of one day alone, without touching the table. Shares the
 /// year's steps, but adds the daylight hour only strictly between DstStart and DstEnd, without
 /// the southern case, and repeats the narrow limits after it. On a broken limit it shows the

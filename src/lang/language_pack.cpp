@@ -19,7 +19,6 @@ namespace {
 const ProgramStateReset reset([] { currentLanguage.clear(); });
 
 constexpr std::size_t kMessageBuffer = 1024;  // bytes, with the closing zero
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 CodePage EightBitPage(const std::string& language) {
     return AsciiLower(language) == "arabic" ? CodePage::kWindows1256 : CodePage::kWindows1252;
@@ -32,10 +31,6 @@ std::string ReadPack(const std::string& language) {
     } catch (const FileFault&) {
         return {};
     }
-}
-
-std::string_view WithoutByteOrderMark(std::string_view pack) {
-    return pack.starts_with(kByteOrderMark) ? pack.substr(kByteOrderMark.size()) : pack;
 }
 
 std::string CutAndDecode(std::string_view value, std::size_t maxBytes, bool utf8) {
@@ -55,7 +50,7 @@ std::string LanguagePackPath(const std::string& language) {
 std::string ReadPackString(const std::string& section, const std::string& key,
                            const std::string& defaultText, std::size_t bufferSize) {
     const std::string pack = ReadPack(currentLanguage);
-    const auto value = FindProfileValue(WithoutByteOrderMark(pack), section, key);
+    const auto value = FindProfileValue(pack, section, key);
     return value ? CutAndDecode(*value, bufferSize - 1, IsUtf8(pack)) : defaultText;
 }
 

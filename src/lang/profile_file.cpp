@@ -6,6 +6,12 @@ namespace horavex {
 
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view WithoutByteOrderMark(std::string_view file) {
+    return file.starts_with(kByteOrderMark) ? file.substr(kByteOrderMark.size()) : file;
+}
+
 /// Takes one line off the front, without its end and the blanks around it.
 std::string_view TakeLine(std::string_view& rest) {
     const std::size_t end = rest.find_first_of("\r\n");
@@ -57,11 +63,12 @@ std::string_view Unquote(std::string_view value) {
 
 std::optional<std::string_view> FindProfileValue(std::string_view file, std::string_view section,
                                                  std::string_view key) {
-    if (!SkipToSection(file, section)) {
+    std::string_view rest = WithoutByteOrderMark(file);
+    if (!SkipToSection(rest, section)) {
         return std::nullopt;
     }
-    while (!file.empty()) {
-        const std::string_view line = TakeLine(file);
+    while (!rest.empty()) {
+        const std::string_view line = TakeLine(rest);
         if (SectionOf(line)) {
             return std::nullopt;
         }
@@ -76,8 +83,9 @@ std::optional<std::string_view> FindProfileValue(std::string_view file, std::str
 std::vector<ProfileEntry> ListProfileEntries(std::string_view file) {
     std::vector<ProfileEntry> entries;
     std::string section;
-    while (!file.empty()) {
-        const std::string_view line = TakeLine(file);
+    std::string_view rest = WithoutByteOrderMark(file);
+    while (!rest.empty()) {
+        const std::string_view line = TakeLine(rest);
         if (const auto name = SectionOf(line)) {
             section = *name;
         } else if (const auto assignment = AssignmentOf(line)) {

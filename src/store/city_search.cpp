@@ -51,6 +51,11 @@ Match MatchOf(const std::string& folded, const std::string& text) {
     return BeginsAWord(folded, text) ? kWordBeginning : kAnyPart;
 }
 
+/// Cities without a rank come last.
+std::uint16_t OrderOf(std::uint16_t rank) {
+    return static_cast<std::uint16_t>(rank - 1);
+}
+
 /// The ranks file is an aid of searching alone: without it, equal matches keep their order.
 Bytes ReadRanks() {
     try {
@@ -60,24 +65,34 @@ Bytes ReadRanks() {
     }
 }
 
-std::uint16_t RankOf(const Bytes& ranks, std::size_t position) {
-    const std::size_t offset = position * 2;
+/// cityIndex: of a city that the index can hold.
+std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
+    const auto offset = static_cast<std::size_t>(cityIndex - kFirstCityIndex) * 2;
     return offset + 2 <= ranks.size() ? static_cast<std::uint16_t>(GetInt16(ranks, offset)) : 0;
 }
 
-ListedCity ListCity(std::int16_t cityIndex, const std::string& country, std::uint16_t rank) {
+ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const Bytes& ranks) {
     CityRecord city;
     const std::string display = ReadCity(cityIndex, city);
-    return {cityIndex,     city.Name,      city.Province, country,
-            city.Latitude, city.Longitude, rank,          FoldForSearch(display + " - " + country)};
+    return {cityIndex,
+            city.Name,
+            city.Province,
+            country,
+            city.Latitude,
+            city.Longitude,
+            RankOf(ranks, cityIndex),
+            FoldForSearch(display + " - " + country)};
 }
 
 void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks) {
     CountryRecord country;
     ReadCountry(number, country);
+    // A damaged index could otherwise list its cities over and over.
+    if (std::ssize(cities) + country.CityCount > CityCount()) {
+        throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
+    }
     for (std::int32_t i = 0; i < country.CityCount; ++i) {
-        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name,
-                                  RankOf(ranks, cities.size())));
+        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name, ranks));
     }
 }
 
@@ -103,7 +118,7 @@ std::vector<const ListedCity*> SearchCities(const std::vector<ListedCity>& citie
     for (const ListedCity& city : cities) {
         const Match match = folded.empty() ? kNone : MatchOf(city.folded, folded);
         if (match != kNone) {
-            hits.emplace_back(match, city.rank, &city);
+            hits.emplace_back(match, OrderOf(city.rank), &city);
         }
     }
     std::sort(hits.begin(), hits.end());

@@ -18,13 +18,14 @@ struct ListedCity {
     std::string folded;      // "name, province - country" for comparing
 };
 
-/// All cities in the order of CityIndex. Throws as the readers of the location files do.
+/// All cities in the order of CityIndex. Throws as the readers of the location files do, and
+/// BoundsFault for countries that hold more cities than there are.
 std::vector<ListedCity> ListCities();
 
 /// The cities that match a typed text, best first: the whole name, then its beginning at a word's
 /// end, its beginning, a word's beginning anywhere in name, province or country, and any part.
-/// Letter case and accents do not matter; equal matches come by population. An empty text matches
-/// nothing. The pointers live as long as the list.
+/// Letter case and accents do not matter; equal matches come by population, those without a rank
+/// last. An empty text matches nothing. The pointers live as long as the list.
 std::vector<const ListedCity*> SearchCities(const std::vector<ListedCity>& cities,
                                             const std::string& text);
 

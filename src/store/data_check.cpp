@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <optional>
 
 #include "base/fault.h"
@@ -31,6 +32,12 @@ constexpr TextFiles kCities = {"Dat/CI.DAT", 10, "Dat/C.DAt", LongStart};
 constexpr TextFiles kProvinces = {"Dat/PI.DAT", 2, "Dat/P.DAT", ShortStart};
 constexpr TextFiles kTexts = {"Dat/TI.DAT", 2, "Dat/T.DAT", ShortStart};
 
+/// Populations' ranks of the cities, and the bands of depression angles.
+constexpr const char* kRanks = "Dat/RI.DAT";
+constexpr std::int64_t kRankLength = 2;
+constexpr const char* kBands = "Dat/A.dat";
+constexpr std::int64_t kBandLength = 5;
+
 std::string At(const char* file, std::int64_t number) {
     return std::string(file) + ": record " + std::to_string(number) + ": ";
 }
@@ -43,19 +50,19 @@ bool HasControlCharacter(const Bytes& text) {
 /// A loaded file cut into records.
 class Records {
 public:
-    Records(Bytes bytes, std::int64_t length) : bytes_(std::move(bytes)), length_(length) {}
+    Records(ByteView bytes, std::int64_t length) : bytes_(bytes), length_(length) {}
 
     std::int64_t Count() const { return static_cast<std::int64_t>(bytes_.size()) / length_; }
     bool IsWhole() const { return static_cast<std::int64_t>(bytes_.size()) % length_ == 0; }
 
     /// number: 1 to Count().
     ByteView Of(std::int64_t number) const {
-        return ByteView(bytes_).subspan(static_cast<std::size_t>((number - 1) * length_),
-                                        static_cast<std::size_t>(length_));
+        return bytes_.subspan(static_cast<std::size_t>((number - 1) * length_),
+                              static_cast<std::size_t>(length_));
     }
 
 private:
-    Bytes bytes_;
+    ByteView bytes_;
     std::int64_t length_;
 };
 
@@ -64,6 +71,11 @@ public:
     explicit DataCheck(CheckReport& report) : report_(report) {}
 
     void Run() {
+        for (const TextFiles& files : {kProvinces, kCountries, kCities, kTexts}) {
+            CheckLength(files.index, files.recordLength);
+        }
+        CheckLength(kRanks, kRankLength);
+        CheckLength(kBands, kBandLength);
         CheckTexts(kProvinces);
         CheckTexts(kCountries);
         CheckTexts(kCities);
@@ -78,30 +90,38 @@ public:
     }
 
 private:
-    std::optional<Bytes> Load(const char* file) {
+    std::optional<Bytes> ReadOrReport(const std::string& file) {
         try {
             return Ports().programFolder.ReadWhole(file);
         } catch (const FileFault& fault) {
-            report_.Expect(false, std::string(file) + ": " + fault.what());
+            report_.Expect(false, file + ": " + fault.what());
             return std::nullopt;
         }
     }
 
-    /// The records of a file; a length that is no multiple is a problem, nothing when missing.
+    /// The bytes of a file, nothing where it cannot be read. Each is read, and a failure told,
+    /// once.
+    const std::optional<Bytes>& Load(const std::string& file) {
+        const auto at = loaded_.find(file);
+        return at != loaded_.end() ? at->second
+                                   : loaded_.emplace(file, ReadOrReport(file)).first->second;
+    }
+
     std::optional<Records> LoadRecords(const char* file, std::int64_t length) {
-        auto bytes = Load(file);
-        if (!bytes) {
-            return std::nullopt;
+        const auto& bytes = Load(file);
+        return bytes ? std::optional(Records(*bytes, length)) : std::nullopt;
+    }
+
+    void CheckLength(const char* file, std::int64_t recordLength) {
+        if (const auto records = LoadRecords(file, recordLength)) {
+            report_.Expect(records->IsWhole(), At(file, records->Count() + 1) + "it is cut short");
+            report_.Expect(records->Count() > 0, std::string(file) + ": there is no record");
         }
-        Records records(std::move(*bytes), length);
-        report_.Expect(records.IsWhole(), std::string(file) + ": the last record is cut short");
-        report_.Expect(records.Count() > 0, std::string(file) + ": there is no record");
-        return records;
     }
 
     void CheckTexts(const TextFiles& files) {
         const auto index = LoadRecords(files.index, files.recordLength);
-        const auto texts = Load(files.texts);
+        const auto& texts = Load(files.texts);
         if (!index || !texts) {
             return;
         }
@@ -119,8 +139,8 @@ private:
         const auto size = static_cast<std::int64_t>(texts.size());
         const bool inside = start >= 1 && start < next && next <= size + 1;
         report_.Expect(inside, At(files.index, number) + "no text from position " +
-                                   std::to_string(start) + " to " + std::to_string(next) +
-                                   " of " + files.texts);
+                                   std::to_string(start) + " to " + std::to_string(next) + " of " +
+                                   files.texts);
         if (inside) {
             const auto stored = ByteView(texts).subspan(static_cast<std::size_t>(start - 1),
                                                         static_cast<std::size_t>(next - start));
@@ -137,13 +157,14 @@ private:
         }
         for (std::int64_t number = 1; number <= cities->Count(); ++number) {
             const ByteView record = cities->Of(number);
-            const bool onEarth = std::abs(GetInt16(record, 4)) <= 9000 &&
-                                 std::abs(GetInt16(record, 6)) <= 18000;
-            report_.Expect(onEarth, At(kCities.index, number) + "its coordinates are off the earth");
+            const bool onEarth =
+                std::abs(GetInt16(record, 4)) <= 9000 && std::abs(GetInt16(record, 6)) <= 18000;
+            report_.Expect(onEarth,
+                           At(kCities.index, number) + "its coordinates are off the earth");
             const std::int16_t province = GetInt16(record, 8);
-            report_.Expect(province >= 0 && province <= provinces->Count(),
-                           At(kCities.index, number) + "there is no province " +
-                               std::to_string(province));
+            report_.Expect(
+                province >= 0 && province <= provinces->Count(),
+                At(kCities.index, number) + "there is no province " + std::to_string(province));
         }
     }
 
@@ -156,11 +177,12 @@ private:
         std::int64_t next = kFirstCityIndex;
         for (std::int64_t number = 1; number <= countries->Count(); ++number) {
             const ByteView record = countries->Of(number);
+            const std::int16_t first = GetInt16(record, 2);
             const std::int16_t count = GetInt16(record, 4);
-            report_.Expect(GetInt16(record, 2) == next && count >= 0,
+            report_.Expect(first == next && count >= 0,
                            At(kCountries.index, number) +
                                "its cities do not follow those of the country before");
-            next += count;
+            next = std::int64_t{first} + count;
         }
         report_.Expect(next == kFirstCityIndex + cities->Count(),
                        std::string(kCountries.index) +
@@ -176,28 +198,29 @@ private:
     }
 
     void CheckRanks() {
-        const auto ranks = LoadRecords("Dat/RI.DAT", 2);
+        const auto ranks = LoadRecords(kRanks, kRankLength);
         const auto cities = LoadRecords(kCities.index, kCities.recordLength);
         if (ranks && cities) {
-            report_.Expect(ranks->Count() == cities->Count(),
-                           "Dat/RI.DAT: not one rank for each city of Dat/CI.DAT");
+            report_.Expect(
+                ranks->Count() == cities->Count(),
+                std::string(kRanks) + ": not one rank for each city of " + kCities.index);
         }
     }
 
     void CheckBands() {
-        const auto bands = LoadRecords("Dat/A.dat", 5);
+        const auto bands = LoadRecords(kBands, kBandLength);
         if (!bands) {
             return;
         }
         for (std::int64_t number = 1; number <= bands->Count(); ++number) {
             const ByteView record = bands->Of(number);
             const Bytes angles = DecodeText(record.subspan(2, 3));
-            report_.Expect(angles[0] >= angles[1] && angles[1] >= angles[2] && angles[2] >= 1,
-                           At("Dat/A.dat", number) +
-                               "its angles do not go from the largest to the smallest");
+            report_.Expect(
+                angles[0] >= angles[1] && angles[1] >= angles[2] && angles[2] >= 1,
+                At(kBands, number) + "its angles do not go from the largest to the smallest");
             report_.Expect(number == 1 ? GetInt16(record, 0) < 0
                                        : GetInt16(bands->Of(number - 1), 0) < GetInt16(record, 0),
-                           At("Dat/A.dat", number) + "its limit does not lie above the one before");
+                           At(kBands, number) + "its limit does not lie above the one before");
         }
     }
 
@@ -206,7 +229,7 @@ private:
         if (!Ports().programFolder.Exists(file)) {
             return;
         }
-        const auto bytes = Load(file);
+        const auto& bytes = Load(file);
         if (!bytes) {
             return;
         }
@@ -226,6 +249,10 @@ private:
                        place + "FajrAngle is no angle");
         report_.Expect(record.AsrRatio == 1.0 || record.AsrRatio == 2.0,
                        place + "AsrRatio is neither 1 nor 2");
+        report_.Expect(record.AthanType >= 1 && record.AthanType <= 3,
+                       place + "AthanType is not from 1 to 3");
+        report_.Expect(record.QiblaMethod == 1 || record.QiblaMethod == 2,
+                       place + "QiblaMethod is neither 1 nor 2");
         report_.Expect(record.TimeZone >= -12.0 && record.TimeZone <= 12.0,
                        place + "TimeZone is not from -12 to 12");
         report_.Expect(record.Language >= 0 && record.Language <= kTextLanguages,
@@ -238,6 +265,7 @@ private:
     }
 
     CheckReport& report_;
+    std::map<std::string, std::optional<Bytes>> loaded_;
 };
 
 }  // namespace

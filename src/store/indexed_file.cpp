@@ -53,8 +53,7 @@ std::int64_t PackedTexts::End() const {
 Bytes ReadIndexedText(const RecordFile& index, const PackedTexts& texts, std::int64_t number,
                       std::int64_t (*startOf)(ByteView record)) {
     const std::int64_t start = startOf(index.Read(number));
-    const std::int64_t end =
-        index.IsLast(number) ? texts.End() : startOf(index.Read(number + 1));
+    const std::int64_t end = index.IsLast(number) ? texts.End() : startOf(index.Read(number + 1));
     return texts.Read(start, end);
 }
 

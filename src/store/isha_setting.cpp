@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/fault.h"
 #include "base/number_text.h"
 #include "store/register.h"
 #include "store/settings_record.h"
@@ -10,11 +11,15 @@ namespace horavex {
 
 namespace {
 
-/// A text that is no number counts as the value of a first run.
+/// A text that is no number, or none that a 64-bit float holds, counts as the value of a first run.
 double ReadAngle(const std::string& defaultValue) {
     std::string text;
     CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kIshaValueName, defaultValue, text);
-    return IsNumeric(text) ? TextToNumber(text) : -1.0;
+    try {
+        return TextToNumber(text);
+    } catch (const Fault&) {
+        return -1.0;
+    }
 }
 
 void WriteAngle(const std::string& text) {

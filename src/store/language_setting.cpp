@@ -12,8 +12,7 @@ constexpr const char* kLanguageValueName = "Language";
 
 std::string ReadStoredLanguage() {
     std::string language;
-    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kLanguageValueName, "English",
-                              language);
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kLanguageValueName, "English", language);
     return language;
 }
 

@@ -136,13 +136,15 @@ std::int16_t FindCountryOfCity(std::int16_t cityIndex) {
 }
 
 std::string LookupLocation(std::int16_t cityIndex, LocationRecord& location) {
+    LocationRecord found;
     OpenCountryFiles();
     CountryRecord country;
-    location.Country = ReadCountry(FindCountryOfCity(cityIndex), country);
+    found.Country = ReadCountry(FindCountryOfCity(cityIndex), country);
     CloseCountryFiles();
     OpenCityFiles();
-    const std::string displayName = ReadCity(cityIndex, location.City);
+    const std::string displayName = ReadCity(cityIndex, found.City);
     CloseCityFiles();
+    location = found;
     return displayName + " - " + location.Country;
 }
 

@@ -48,7 +48,8 @@ std::string ReadProvince(CityRecord& city);
 /// number behind the last record; an empty index gives 1.
 std::int16_t FindCountryOfCity(std::int16_t cityIndex);
 
-/// Reads a place, opening and closing the files, and returns its text.
+/// Reads a place, opening and closing the files, and returns its text. A fault leaves location as
+/// it was.
 std::string LookupLocation(std::int16_t cityIndex, LocationRecord& location);
 
 }  // namespace horavex

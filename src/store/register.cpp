@@ -25,8 +25,7 @@ std::string FullKey(std::int32_t hive, const std::string& key) {
 }  // namespace
 
 std::int32_t CRegister::REGGetSetting(std::int32_t hive, const std::string& key,
-                                      const std::string& valueName,
-                                      const std::string& defaultValue,
+                                      const std::string& valueName, const std::string& defaultValue,
                                       std::string& value) const {
     value = defaultValue;
     const std::string fullKey = FullKey(hive, key);
@@ -54,14 +53,12 @@ std::int32_t CRegister::REGSaveSetting(std::int32_t hive, const std::string& key
 }
 
 std::int32_t CRegister::REGDeleteSetting(std::int32_t hive, const std::string& key,
-                                         const std::string& valueName,
-                                         std::int32_t& result) const {
+                                         const std::string& valueName, std::int32_t& result) const {
     const std::string fullKey = FullKey(hive, key);
     result = Ports().registry.OpenKey(fullKey, kRegistryAllAccess);
     if (result == kRegistrySuccess) {
-        result = valueName.empty()
-                     ? Ports().registry.DeleteKey(fullKey)
-                     : Ports().registry.DeleteValue(fullKey, StoredName(valueName));
+        result = valueName.empty() ? Ports().registry.DeleteKey(fullKey)
+                                   : Ports().registry.DeleteValue(fullKey, StoredName(valueName));
     }
     return result;
 }

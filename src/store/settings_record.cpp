@@ -44,8 +44,7 @@ void PutField(SettingsBytes& bytes, std::size_t offset, const Field& field) {
     } else if constexpr (std::is_same_v<Field, std::int16_t>) {
         PutInt16(bytes, offset, field);
     } else {
-        std::copy(field.begin(), field.end(),
-                  bytes.begin() + static_cast<std::ptrdiff_t>(offset));
+        std::copy(field.begin(), field.end(), bytes.begin() + static_cast<std::ptrdiff_t>(offset));
     }
 }
 

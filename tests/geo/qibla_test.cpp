@@ -1,0 +1,109 @@
+#include "geo/qibla.h"
+
+#include "engine/angle.h"
+#include "engine/solar_event.h"
+#include "store/data_text.h"
+#include "store/settings_record.h"
+#include "support/test_platform.h"
+
+namespace horavex {
+namespace {
+
+struct QiblaTest : testing::Test {
+    /// Texts in English for the entries of the sentence, in every column.
+    QiblaTest() {
+        Bytes texts;
+        Bytes index;
+        for (int record = 0; record < 77 * 6; ++record) {
+            index.resize(index.size() + 2);
+            PutInt16(index, index.size() - 2, static_cast<std::int16_t>(texts.size() + 1));
+            const Bytes stored = DecodeText(BytesOf(WordOf(record / 6 + 1)));
+            texts.insert(texts.end(), stored.begin(), stored.end());
+        }
+        platform.files.WriteWhole("/program/Dat/T.DAT", texts);
+        platform.files.WriteWhole("/program/Dat/TI.DAT", index);
+        Settings.QiblaMethod = 1;
+    }
+
+    static std::string WordOf(int entry) {
+        switch (entry) {
+            case 12:
+                return "North";
+            case 13:
+                return "East";
+            case 15:
+                return "West";
+            case 16:
+                return "degrees";
+            case 17:
+                return "minutes";
+            case 18:
+                return "of";
+            case 68:
+                return "Qibla";
+            default:
+                return "?";
+        }
+    }
+
+    void From(double latitude, double longitude) {
+        LatitudeRad = DegToRad(latitude);
+        LongitudeWestRad = -DegToRad(longitude);
+        ComputeQibla();
+    }
+
+    TestPlatform platform;
+};
+
+TEST_F(QiblaTest, FromCairo) {
+    From(30.05, 31.25);
+    EXPECT_NEAR(QiblaDegrees, 136.2, 0.05);
+    EXPECT_DOUBLE_EQ(QiblaRad, DegToRad(QiblaDegrees));
+    EXPECT_EQ(QiblaText, "Qibla: 136 degrees, 13 minutes East of North");
+}
+
+TEST_F(QiblaTest, FromTheMiddleOfNorthAmerica) {
+    From(40.0, -100.0);
+    EXPECT_NEAR(QiblaDegrees, 39.2, 0.05);
+    EXPECT_THAT(QiblaText, testing::HasSubstr("East of North"));
+}
+
+TEST_F(QiblaTest, FromTheEastItIsNegativeAndTellsWest) {
+    From(-6.2, 106.85);
+    EXPECT_LT(QiblaDegrees, 0.0);
+    EXPECT_EQ(QiblaText, "Qibla: 64 degrees, 51 minutes West of North");
+}
+
+TEST_F(QiblaTest, BothMethodsGiveTheSame) {
+    From(30.05, 31.25);
+    const double first = QiblaRad;
+    Settings.QiblaMethod = 2;
+    From(30.05, 31.25);
+    EXPECT_EQ(QiblaRad, first);
+}
+
+TEST_F(QiblaTest, UnknownMethodKeepsTheOldBearing) {
+    From(30.05, 31.25);
+    const double former = QiblaRad;
+    Settings.QiblaMethod = 3;
+    QiblaText.clear();
+    From(-6.2, 106.85);
+    EXPECT_EQ(QiblaRad, former);
+    EXPECT_EQ(QiblaText, "Qibla: 136 degrees, 13 minutes East of North");
+}
+
+TEST_F(QiblaTest, SixtyMinutesStandInTheSentence) {
+    Settings.QiblaMethod = 0;
+    QiblaDegrees = 58.999;
+    ComputeQibla();
+    EXPECT_EQ(QiblaText, "Qibla: 58 degrees, 60 minutes East of North");
+}
+
+TEST_F(QiblaTest, BesideMeccaItIsSomeDirection) {
+    From(21.42, 39.82);
+    EXPECT_GE(QiblaRad, -Pi);
+    EXPECT_LE(QiblaRad, Pi);
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,206 @@
+#include "support/data_folder.h"
+
+#include <algorithm>
+
+#include "base/code_page.h"
+#include "store/data_text.h"
+#include "store/text_table.h"
+
+namespace horavex {
+
+namespace {
+
+std::string RealPath(const std::string& file) {
+    return "/program/" + file;
+}
+
+/// A text as the name files and the table keep it.
+Bytes Stored(const std::string& text, CodePage page) {
+    return DecodeText(EncodeCodePage(text, page).value());
+}
+
+void Append(Bytes& bytes, const Bytes& more) {
+    bytes.insert(bytes.end(), more.begin(), more.end());
+}
+
+void AppendInt16(Bytes& bytes, std::int16_t value) {
+    bytes.resize(bytes.size() + 2);
+    PutInt16(bytes, bytes.size() - 2, value);
+}
+
+void AppendInt32(Bytes& bytes, std::size_t value) {
+    bytes.resize(bytes.size() + 4);
+    PutInt32(bytes, bytes.size() - 4, static_cast<std::int32_t>(value));
+}
+
+std::int16_t NextPosition(const Bytes& texts) {
+    return static_cast<std::int16_t>(texts.size() + 1);
+}
+
+}  // namespace
+
+void DataFolder::WriteCountry(const std::string& name) {
+    Bytes index = Read("Dat/SI.DAt");
+    Bytes names = Read("Dat/S.DAT");
+    AppendInt16(index, NextPosition(names));
+    AppendInt16(index, nextCity_);
+    AppendInt16(index, 0);
+    Append(names, Stored(name, CodePage::kWindows1252));
+    Write("Dat/SI.DAt", index);
+    Write("Dat/S.DAT", names);
+}
+
+std::int16_t DataFolder::WriteCity(const std::string& name, std::int16_t latitude,
+                                   std::int16_t longitude, const std::string& province) {
+    Bytes index = Read("Dat/CI.DAT");
+    Bytes names = Read("Dat/C.DAt");
+    AppendInt32(index, names.size() + 1);
+    AppendInt16(index, latitude);
+    AppendInt16(index, longitude);
+    AppendInt16(index, ProvinceRecord(province));
+    Append(names, Stored(name, CodePage::kWindows1252));
+    Write("Dat/CI.DAT", index);
+    Write("Dat/C.DAt", names);
+    Bytes countries = Read("Dat/SI.DAt");
+    const std::size_t count = countries.size() - 2;
+    PutInt16(countries, count, static_cast<std::int16_t>(GetInt16(countries, count) + 1));
+    Write("Dat/SI.DAt", countries);
+    return nextCity_++;
+}
+
+std::int16_t DataFolder::ProvinceRecord(const std::string& name) {
+    Bytes index = Read("Dat/PI.DAT");
+    Bytes names = Read("Dat/P.DAT");
+    if (!name.empty() && !provinces_.contains(name)) {
+        AppendInt16(index, NextPosition(names));
+        Append(names, Stored(name, CodePage::kWindows1252));
+        provinces_[name] = static_cast<std::int16_t>(index.size() / 2);
+    }
+    Write("Dat/PI.DAT", index);
+    Write("Dat/P.DAT", names);
+    return name.empty() ? std::int16_t{0} : provinces_[name];
+}
+
+void DataFolder::WriteRank(std::int16_t rank) {
+    Bytes ranks = Read("Dat/RI.DAT");
+    AppendInt16(ranks, rank);
+    Write("Dat/RI.DAT", ranks);
+}
+
+void DataFolder::WriteBand(std::int16_t limit, const AngleLimits& angles) {
+    Bytes bands = Read("Dat/A.dat");
+    AppendInt16(bands, limit);
+    const Bytes codes = {static_cast<std::uint8_t>(angles.largest),
+                         static_cast<std::uint8_t>(angles.middle),
+                         static_cast<std::uint8_t>(angles.smallest)};
+    Append(bands, DecodeText(codes));
+    Write("Dat/A.dat", bands);
+}
+
+void DataFolder::WriteTexts(std::uint16_t entries) {
+    entries_ = entries;
+    Bytes index;
+    Bytes texts;
+    for (std::uint16_t entry = 1; entry <= entries; ++entry) {
+        for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
+            const auto at = texts_.find({entry, language});
+            AppendInt16(index, NextPosition(texts));
+            Append(texts, Stored(at != texts_.end() ? at->second
+                                                    : "text " + std::to_string(entry) + " in " +
+                                                          std::to_string(language),
+                                 TextColumnCodePage(language)));
+        }
+    }
+    Write("Dat/TI.DAT", index);
+    Write("Dat/T.DAT", texts);
+}
+
+void DataFolder::WriteText(std::uint16_t entry, std::int16_t language, const std::string& text) {
+    texts_[{entry, language}] = text;
+    WriteTexts(std::max(entry, entries_));
+}
+
+void DataFolder::WriteSample() {
+    WriteCountry("Brazil");
+    WriteCity("Santa Rosa", -2787, -5448, "Rio Grande do Sul");
+    WriteCity("São Paulo", -2355, -4663, "São Paulo");
+    WriteCountry("Egypt");
+    WriteCity("Cairo", 3006, 3125);
+    WriteCity("Ismailia", 3060, 3227);
+    WriteCountry("Saudi Arabia");
+    WriteCity("Mecca", 2143, 3983, "Makkah");
+    for (const std::int16_t rank : {5, 1, 2, 4, 3}) {
+        WriteRank(rank);
+    }
+    WriteBand(-1, {20, 18, 5});
+    WriteBand(4500, {17, 17, 4});
+    WriteBand(5100, {12, 12, 3});
+    WriteTexts(77);
+    const SettingsBytes record = EncodeSettings(SampleSettings());
+    Write("Dat/AI.DAT", Bytes(record.begin(), record.end()));
+    Write("Dat/Settings.DAT", Bytes(record.begin(), record.end()));
+}
+
+void DataFolder::Write(const std::string& file, const Bytes& bytes) {
+    files_.WriteWhole(RealPath(file), bytes);
+}
+
+void DataFolder::Write(const std::string& file, const std::string& text) {
+    Write(file, BytesOf(text));
+}
+
+Bytes DataFolder::Read(const std::string& file) {
+    return files_.Exists(RealPath(file)) ? ReadWhole(files_, RealPath(file)) : Bytes();
+}
+
+void DataFolder::Remove(const std::string& file) {
+    files_.Delete(RealPath(file));
+}
+
+void DataFolder::ShrinkBy(const std::string& file, std::size_t bytes) {
+    ShrinkTo(file, files_.Contents(RealPath(file)).size() - bytes);
+}
+
+void DataFolder::ShrinkTo(const std::string& file, std::size_t bytes) {
+    Bytes& contents = files_.Contents(RealPath(file));
+    contents.erase(contents.begin() + static_cast<std::ptrdiff_t>(bytes), contents.end());
+}
+
+void DataFolder::SetByte(const std::string& file, std::size_t offset, std::uint8_t value) {
+    files_.Contents(RealPath(file)).at(offset) = value;
+}
+
+void DataFolder::SetInt16(const std::string& file, std::size_t offset, std::int16_t value) {
+    PutInt16(files_.Contents(RealPath(file)), offset, value);
+}
+
+void DataFolder::SetInt32(const std::string& file, std::size_t offset, std::int32_t value) {
+    PutInt32(files_.Contents(RealPath(file)), offset, value);
+}
+
+const std::vector<std::string>& DataFileNames() {
+    static const std::vector<std::string> names = {"Dat/SI.DAt", "Dat/S.DAT",  "Dat/CI.DAT",
+                                                   "Dat/C.DAt",  "Dat/PI.DAT", "Dat/P.DAT",
+                                                   "Dat/A.dat",  "Dat/T.DAT",  "Dat/TI.DAT"};
+    return names;
+}
+
+SettingsRecord SampleSettings() {
+    SettingsRecord record;
+    record.Reserved.fill(' ');
+    record.FajrAngle = 18.25;
+    record.AsrRatio = 2.0;
+    record.DstEnabled = 1;
+    record.DstStart = 94;
+    record.DstEnd = 297;
+    record.AthanType = 3;
+    record.QiblaMethod = 1;
+    record.Language = 5;
+    record.CityIndex = -31998;
+    record.TimeZone = -3.5;
+    record.AlarmTime = 78;
+    record.AlarmEnabled = 1;
+    return record;
+}
+
+}  // namespace horavex
