@@ -33,8 +33,7 @@ void Keep(Selection& selection, Predicate wanted) {
 }
 
 Selection Select(const std::vector<ListedCity>& cities, const CityFilter& filter) {
-    Selection selection =
-        filter.search ? SearchCities(cities, *filter.search) : AllOf(cities);
+    Selection selection = filter.search ? SearchCities(cities, *filter.search) : AllOf(cities);
     if (filter.country) {
         const std::string wanted = FoldForSearch(*filter.country);
         Keep(selection, [&](const ListedCity& city) {

@@ -54,8 +54,8 @@ std::string DayText(const DayView& view, bool highlight) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         text += PrayerLine(view, prayer, highlight);
     }
-    return text + "\nNext: " + view.next.sentence + "\nRemaining: " +
-           RemainingText(view.next.secondsFromNow) + "\n" + QiblaText + "\n";
+    return text + "\nNext: " + view.next.sentence +
+           "\nRemaining: " + RemainingText(view.next.secondsFromNow) + "\n" + QiblaText + "\n";
 }
 
 }  // namespace horavex

@@ -99,10 +99,9 @@ void TakeMethod(const PlaceOptions& options) {
 }  // namespace
 
 void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool required) {
-    auto* latitude =
-        command.add_option("--latitude", options.latitude, "Degrees, north positive")
-            ->check(CLI::Range(-90.0, 90.0))
-            ->required(required);
+    auto* latitude = command.add_option("--latitude", options.latitude, "Degrees, north positive")
+                         ->check(CLI::Range(-90.0, 90.0))
+                         ->required(required);
     auto* longitude =
         command.add_option("--longitude", options.longitude, "Degrees, east positive")
             ->check(CLI::Range(-180.0, 180.0))

@@ -1,9 +1,10 @@
+#include "geo/qibla.h"
+
 #include <memory>
 
 #include "ctl/place.h"
 #include "engine/angle.h"
 #include "engine/solar_event.h"
-#include "geo/qibla.h"
 #include "store/settings_record.h"
 
 namespace horavex {

@@ -34,10 +34,10 @@ Date ParseMoment(const std::string& text) {
     int minute = 0;
     int second = 0;
     int read = 0;
-    const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d%nT%2d:%2d:%2d%n", &year, &month,
-                                   &day, &read, &hour, &minute, &second, &read);
-    const bool complete = (fields == 3 || fields == 6) &&
-                          static_cast<std::size_t>(read) == text.size();
+    const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d%nT%2d:%2d:%2d%n", &year, &month, &day,
+                                   &read, &hour, &minute, &second, &read);
+    const bool complete =
+        (fields == 3 || fields == 6) && static_cast<std::size_t>(read) == text.size();
     if (!complete || !IsCivilDate(year, month, day) || hour < 0 || hour > 23 || minute < 0 ||
         minute > 59 || second < 0 || second > 59) {
         RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");

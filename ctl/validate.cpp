@@ -33,8 +33,8 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
         RefuseUsage("there is no folder \"" + path + "\"");
     }
     const ProgramFolder folder(session.platform.files, path, path);
-    const Platform ports{former.clock, former.eventLoop, former.files,    folder,
-                         former.formats, former.dialogs, former.registry, former.instanceGuard};
+    const Platform ports{former.clock,   former.eventLoop, former.files,    folder,
+                         former.formats, former.dialogs,   former.registry, former.instanceGuard};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

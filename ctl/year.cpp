@@ -34,8 +34,7 @@ Json TimesJson() {
 std::string DayLine(std::size_t row) {
     const CivilDate date = CivilFromDate(DateSerial(CurrentYear, 1, 1) + static_cast<double>(row));
     std::ostringstream line;
-    line << (date.month < 10 ? "0" : "") << date.month << (date.day < 10 ? "-0" : "-")
-         << date.day;
+    line << (date.month < 10 ? "0" : "") << date.month << (date.day < 10 ? "-0" : "-") << date.day;
     for (const double hours : TimesOfRow(row)) {
         line << "  "
              << (hours == NoEvent ? std::string("   --   ")

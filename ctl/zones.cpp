@@ -19,16 +19,16 @@ struct DstOptions {
 void PrintDst(const Session& session, const DstOptions& options) {
     constexpr std::int16_t kSomewhereSouth = -1;
     SetDefaultDstDays(DateSerial(options.year, 1, 1), options.south ? kSomewhereSouth : 0);
-    session.Print({{"start", Settings.DstStart}, {"end", Settings.DstEnd}},
-                  std::to_string(Settings.DstStart) + " to " + std::to_string(Settings.DstEnd) +
-                      "\n");
+    session.Print(
+        {{"start", Settings.DstStart}, {"end", Settings.DstEnd}},
+        std::to_string(Settings.DstStart) + " to " + std::to_string(Settings.DstEnd) + "\n");
 }
 
 void PrintZones(const Session& session, double longitude) {
     ZoneFromLongitude(StoredCoord(StoredFromDegrees(longitude)));
     session.Print({{"west", ZoneWest}, {"nearest", ZoneNearest}, {"east", ZoneEast}},
-                  "west " + std::to_string(ZoneWest) + ", nearest " +
-                      std::to_string(ZoneNearest) + ", east " + std::to_string(ZoneEast) + "\n");
+                  "west " + std::to_string(ZoneWest) + ", nearest " + std::to_string(ZoneNearest) +
+                      ", east " + std::to_string(ZoneEast) + "\n");
 }
 
 void AddDstCommand(CLI::App& app, Session& session) {

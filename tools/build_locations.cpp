@@ -35,7 +35,11 @@ City ParseCity(const std::string& line) {
     if (columns.size() != 6) {
         throw TypeMismatchFault("a city wants six columns: " + line);
     }
-    return {columns[0], columns[1], columns[2], WholeNumber(columns[3]), WholeNumber(columns[4]),
+    return {columns[0],
+            columns[1],
+            columns[2],
+            WholeNumber(columns[3]),
+            WholeNumber(columns[4]),
             WholeNumber(columns[5])};
 }
 

@@ -16,8 +16,7 @@ constexpr std::int64_t kLargestPosition = 32767;
 
 void CheckRow(const CsvRow& row, std::size_t entry) {
     if (row.size() != 1 + kTextLanguages || row[0] != std::to_string(entry)) {
-        throw TypeMismatchFault("row " + std::to_string(entry) +
-                                " wants its number and six texts");
+        throw TypeMismatchFault("row " + std::to_string(entry) + " wants its number and six texts");
     }
 }
 

@@ -21,9 +21,9 @@ namespace {
 
 using namespace horavex;
 
-constexpr int kLargestAngle = 20;                 // degrees; no convention asks for more
-constexpr int kUsualAngle = 18;                   // degrees; the default where it is possible
-constexpr int kLastLatitude = 62;                 // degrees; beyond it no angle lasts a year
+constexpr int kLargestAngle = 20;                   // degrees; no convention asks for more
+constexpr int kUsualAngle = 18;                     // degrees; the default where it is possible
+constexpr int kLastLatitude = 62;                   // degrees; beyond it no angle lasts a year
 constexpr std::array kLongitudes = {-750, 0, 749};  // hundredths: the width of zone 0
 constexpr std::array kWithinBand = {1, 50, 100};    // hundredths above the band's limit
 constexpr std::array<std::int16_t, 6> kYears = {2024, 2025, 2026, 2027, 2038, 2048};

@@ -46,8 +46,8 @@ HijriDate HijriFromDate(Date date) {
 }
 
 Date DateFromHijri(const HijriDate& hijri) {
-    return static_cast<double>(kEpoch + DaysBeforeYear(hijri.year) +
-                               DaysBeforeMonth(hijri.month) + hijri.day - 1);
+    return static_cast<double>(kEpoch + DaysBeforeYear(hijri.year) + DaysBeforeMonth(hijri.month) +
+                               hijri.day - 1);
 }
 
 }  // namespace horavex

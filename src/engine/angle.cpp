@@ -52,8 +52,7 @@ double RadToDeg(double radians) {
 }
 
 double DmsToDegrees(std::int32_t degrees, std::int16_t minutes, double seconds) {
-    const double size =
-        std::fabs(static_cast<double>(degrees)) + minutes / 60.0 + seconds / 3600.0;
+    const double size = std::fabs(static_cast<double>(degrees)) + minutes / 60.0 + seconds / 3600.0;
     return degrees < 0 ? -size : size;
 }
 

@@ -17,8 +17,7 @@ const ProgramStateReset reset([] {
 }  // namespace
 
 void LeapYearFlag() {
-    const bool leap =
-        CurrentYear % 4 == 0 && (CurrentYear % 100 != 0 || CurrentYear % 400 == 0);
+    const bool leap = CurrentYear % 4 == 0 && (CurrentYear % 100 != 0 || CurrentYear % 400 == 0);
     LeapFlag = leap ? 1 : 0;
 }
 

@@ -36,8 +36,7 @@ Remedy RemedyOf(char message) {
 void ShowLimitMessage(char message) {
     const auto [remedy] = RemedyOf(message);
     Ports().dialogs.ShowMessage(Text(62) + Crlf + Crlf + Text(63) + " " + Text(49) + Crlf +
-                                    Text(remedy[0]) + " " + Text(remedy[1]) + " " +
-                                    Text(remedy[2]),
+                                    Text(remedy[0]) + " " + Text(remedy[1]) + " " + Text(remedy[2]),
                                 "", MessageIcon::kNone);
 }
 

@@ -49,8 +49,7 @@ double EventTime(std::int16_t day, double zenith, double guess) {
     const SunPosition sun = SunAt(t);
     const double s = sun.sinDeclination;
     const double c = std::sqrt(1.0 - s * s);
-    const double x =
-        (std::cos(zenith) - std::sin(LatitudeRad) * s) / (std::cos(LatitudeRad) * c);
+    const double x = (std::cos(zenith) - std::sin(LatitudeRad) * s) / (std::cos(LatitudeRad) * c);
     if (std::fabs(x) > 1.0) {
         return NoEvent;
     }

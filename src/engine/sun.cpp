@@ -35,8 +35,7 @@ double DayNumber(std::int16_t year) {
 }
 
 void ComputeObliquity(double T) {
-    const double obliquity =
-        DegToRad(DmsToDegrees(23, 27, 8.26) - DmsToDegrees(0, 0, 46.845) * T);
+    const double obliquity = DegToRad(DmsToDegrees(23, 27, 8.26) - DmsToDegrees(0, 0, 46.845) * T);
     CosObliquity = std::cos(obliquity);
     SinObliquity = std::sin(obliquity);
 }

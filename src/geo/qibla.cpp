@@ -31,8 +31,8 @@ constexpr double kMeccaLongitudeWest = -0.69504828;  // radians, west positive
 double GreatCircleBearing() {
     const double D = LongitudeWestRad - kMeccaLongitudeWest;
     const double y = std::sin(D);
-    const double x = std::tan(kMeccaLatitude) * std::cos(LatitudeRad) -
-                     std::cos(D) * std::sin(LatitudeRad);
+    const double x =
+        std::tan(kMeccaLatitude) * std::cos(LatitudeRad) - std::cos(D) * std::sin(LatitudeRad);
     return Atan2Checked(y, x);
 }
 
@@ -40,8 +40,8 @@ std::string BearingSentence(double degrees, std::int16_t language) {
     const auto text = [language](std::uint16_t entry) { return TextItem(entry, language); };
     const DegreesMinutes split = SplitDegrees(degrees);
     return text(68) + ": " + std::to_string(std::abs(split.whole)) + " " + text(16) + ", " +
-           std::to_string(split.minutes) + " " + text(17) + " " +
-           text(degrees < 0.0 ? 15 : 13) + " " + text(18) + " " + text(12);
+           std::to_string(split.minutes) + " " + text(17) + " " + text(degrees < 0.0 ? 15 : 13) +
+           " " + text(18) + " " + text(12);
 }
 
 }  // namespace

@@ -89,9 +89,9 @@ TEST(SplitDegrees, SignStaysOnTheWholeDegrees) {
 }
 
 TEST(SplitDegrees, TiesOfAMinuteGoToTheEvenOne) {
-    EXPECT_EQ(SplitDegrees(1.0 / 128).minutes, 0);    // 0.46875
-    EXPECT_EQ(SplitDegrees(0.375 / 3).minutes, 8);    // 7.5
-    EXPECT_EQ(SplitDegrees(0.375).minutes, 22);       // 22.5
+    EXPECT_EQ(SplitDegrees(1.0 / 128).minutes, 0);  // 0.46875
+    EXPECT_EQ(SplitDegrees(0.375 / 3).minutes, 8);  // 7.5
+    EXPECT_EQ(SplitDegrees(0.375).minutes, 22);     // 22.5
 }
 
 TEST(SplitDegrees, WholeDegreesBeyondSixteenBitsAreAFault) {

@@ -14,9 +14,9 @@ TEST_P(LeapYear, FlagIsThePlainNumber) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Years, LeapYear,
-                         testing::Values(std::pair(1900, 0), std::pair(2000, 1),
-                                         std::pair(2023, 0), std::pair(2024, 1),
-                                         std::pair(2100, 0), std::pair(2400, 1)));
+                         testing::Values(std::pair(1900, 0), std::pair(2000, 1), std::pair(2023, 0),
+                                         std::pair(2024, 1), std::pair(2100, 0),
+                                         std::pair(2400, 1)));
 
 }  // namespace
 }  // namespace horavex

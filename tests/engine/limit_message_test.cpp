@@ -1,8 +1,8 @@
 #include "engine/limit_message.h"
 
 #include "base/fault.h"
-#include "engine/sample_year.h"
 #include "engine/angle.h"
+#include "engine/sample_year.h"
 #include "engine/undefined_angle.h"
 #include "store/data_text.h"
 

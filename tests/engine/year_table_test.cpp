@@ -264,7 +264,8 @@ TEST_F(YearTableTest, WrappedIshaGoesOnAlongTheMorningBranch) {
     RecalculateYear();  // gives up early, and leaves the year constants behind
     EXPECT_NEAR(EventTime(79, DegToRad(107.5), 20.0), 0.4, 0.05);
     ComputeYearTimes(79, 82, nullptr);
-    EXPECT_EQ(Times[kIsha][79], EventTime(80, DegToRad(107.5), EventTime(79, DegToRad(107.5), 20.0)));
+    EXPECT_EQ(Times[kIsha][79],
+              EventTime(80, DegToRad(107.5), EventTime(79, DegToRad(107.5), 20.0)));
     EXPECT_NEAR(Times[kIsha][79], 9.68, 0.05) << "the morning's depression of 17.5 degrees";
     EXPECT_NEAR(Times[kIsha][81], 9.63, 0.05);
 }
