@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string Home() {
-    if (const std::string home = FolderVariable("HOME"); !home.empty()) {
+    if (std::string home = FolderVariable("HOME"); !home.empty()) {
         return home;
     }
     const passwd* user = ::getpwuid(::getuid());
