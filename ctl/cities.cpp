@@ -11,6 +11,8 @@ namespace horavex {
 
 namespace {
 
+constexpr int kMostListed = 65535;  // more than city indexes can number
+
 struct CityFilter {
     std::optional<std::string> search;
     std::optional<std::string> country;
@@ -83,7 +85,7 @@ void AddCitiesCommand(CLI::App& app, Session& session) {
     command->add_option("--country", filter->country, "A part of the country's name");
     command->add_option("--index", filter->index, "The city's number");
     command->add_option("--limit", filter->limit, "The most that are listed")
-        ->check(CLI::PositiveNumber);
+        ->check(CLI::Range(1, kMostListed));
     command->callback([&session, filter] { PrintCities(session, *filter); });
 }
 

@@ -55,7 +55,9 @@ void ConsoleEventLoop::EndProcess() {
 }
 
 void ConsoleDialogs::ShowMessage(const std::string& text, const std::string&, MessageIcon) {
-    std::cerr << text << '\n';
+    std::string lines = text;
+    std::erase(lines, '\r');
+    std::cerr << lines << '\n';
 }
 
 void ConsoleHost::ComputeQibla() {

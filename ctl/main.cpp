@@ -1,6 +1,7 @@
 // horavexctl: the calculations of the program for scripts, status bars and checks. It opens no
 // window and never writes a setting.
 
+#include <algorithm>
 #include <iostream>
 
 #include "base/fault.h"
@@ -8,8 +9,18 @@
 
 namespace horavex {
 
+namespace {
+
+/// Words of the user and names of files may hold bytes that are no UTF-8; these come out as
+/// U+FFFD.
+std::string Dump(const Json& object) {
+    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+}  // namespace
+
 void Session::Print(const Json& object, const std::string& text) const {
-    std::cout << (json ? object.dump() + "\n" : text) << std::flush;
+    std::cout << (json ? Dump(object) + "\n" : text) << std::flush;
 }
 
 CLI::App* AddCommand(CLI::App& app, Session& session, const char* name, const char* description) {
@@ -28,7 +39,10 @@ namespace {
 
 using namespace horavex;
 
-int Fail(const std::string& reason, int status) {
+/// A reason may repeat words of the user, which hold any character.
+int Fail(std::string reason, int status) {
+    std::replace_if(
+        reason.begin(), reason.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');
     std::cerr << "horavexctl: " << reason << '\n';
     return status;
 }
@@ -53,12 +67,16 @@ void AddCommands(CLI::App& app, Session& session) {
 int main(int argumentCount, char** arguments) {
     CLI::App app("Prayer times, qibla and calendars at the command line", "horavexctl");
     app.set_version_flag("--version", HORAVEX_VERSION);
-    app.require_subcommand(1);
+    // None at all is refused below, so that an unknown one is named.
+    app.require_subcommand(0, 1);
     try {
         ConsolePlatform platform;
         Session session{platform};
         AddCommands(app, session);
         app.parse(argumentCount, arguments);
+        if (app.get_subcommands().empty()) {
+            RefuseUsage("a subcommand is required; --help lists them");
+        }
         return session.status;
     } catch (const CLI::ParseError& error) {
         return EndParsing(app, error);

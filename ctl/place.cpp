@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/int16.h"
+#include "ctl/number_range.h"
 #include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "store/angle_band.h"
@@ -88,7 +89,7 @@ void TakeMethod(const PlaceOptions& options) {
     Settings.TimeZone = options.zone.value_or(Settings.TimeZone);
     Settings.FajrAngle = options.fajr.value_or(Settings.FajrAngle);
     IshaAngle = options.isha.value_or(IshaAngle);
-    Settings.AsrRatio = options.asr.value_or(static_cast<int>(Settings.AsrRatio));
+    Settings.AsrRatio = options.asr.value_or(Settings.AsrRatio);
     if (options.dstStart) {
         Settings.DstEnabled = 1;
         Settings.DstStart = ToInt16(*options.dstStart);
@@ -100,11 +101,11 @@ void TakeMethod(const PlaceOptions& options) {
 
 void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool required) {
     auto* latitude = command.add_option("--latitude", options.latitude, "Degrees, north positive")
-                         ->check(CLI::Range(-90.0, 90.0))
+                         ->check(NumberFrom(-90.0, 90.0))
                          ->required(required);
     auto* longitude =
         command.add_option("--longitude", options.longitude, "Degrees, east positive")
-            ->check(CLI::Range(-180.0, 180.0))
+            ->check(NumberFrom(-180.0, 180.0))
             ->required(required);
     latitude->needs(longitude);
     longitude->needs(latitude);
@@ -112,13 +113,13 @@ void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool require
 
 void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required) {
     command.add_option("--zone", options.zone, "Hours east of Greenwich, fractions allowed")
-        ->check(CLI::Range(-12.0, 12.0))
+        ->check(NumberFrom(-12.0, 12.0))
         ->required(required);
     command.add_option("--fajr", options.fajr, "Fajr depression angle in degrees")
-        ->check(CLI::Range(-90.0, 90.0))
+        ->check(NumberFrom(-90.0, 90.0))
         ->required(required);
     command.add_option("--isha", options.isha, "Isha depression angle in degrees")
-        ->check(CLI::Range(-90.0, 90.0))
+        ->check(NumberFrom(-90.0, 90.0))
         ->required(required);
     command.add_option("--asr", options.asr, "Asr shadow factor: 1, or 2 for Hanafi")
         ->check(CLI::IsMember({1, 2}))

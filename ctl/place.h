@@ -17,7 +17,7 @@ struct PlaceOptions {
     std::optional<double> zone;       // hours east of Greenwich
     std::optional<double> fajr;       // degrees of depression
     std::optional<double> isha;       // degrees of depression
-    std::optional<int> asr;           // shadow factor
+    std::optional<double> asr;        // shadow factor
     std::optional<int> dstStart;      // 1-based day of the year
     std::optional<int> dstEnd;        // 1-based day of the year
 };

@@ -1,9 +1,11 @@
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
 
+#include "base/text.h"
 #include "calendar/current_calendar.h"
 #include "ctl/calculation.h"
 #include "ctl/day_view.h"
@@ -25,24 +27,25 @@ struct TodayOptions {
     bool watch = false;
 };
 
+/// True for a text with a digit for each 0 of the shape, and else the shape's characters.
+bool HasShape(const std::string& text, const std::string& shape) {
+    return std::equal(text.begin(), text.end(), shape.begin(), shape.end(),
+                      [](char c, char wanted) { return wanted == '0' ? IsDigit(c) : c == wanted; });
+}
+
 /// "2026-11-21T12:34:56", or the day alone for its midnight.
 Date ParseMoment(const std::string& text) {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    int hour = 0;
-    int minute = 0;
-    int second = 0;
-    int read = 0;
-    const int fields = std::sscanf(text.c_str(), "%4d-%2d-%2d%nT%2d:%2d:%2d%n", &year, &month, &day,
-                                   &read, &hour, &minute, &second, &read);
-    const bool complete =
-        (fields == 3 || fields == 6) && static_cast<std::size_t>(read) == text.size();
-    if (!complete || !IsCivilDate(year, month, day) || hour < 0 || hour > 23 || minute < 0 ||
-        minute > 59 || second < 0 || second > 59) {
-        RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
+    const std::string moment = HasShape(text, "0000-00-00") ? text + "T00:00:00" : text;
+    if (HasShape(moment, "0000-00-00T00:00:00")) {
+        const auto field = [&](std::size_t at) { return std::stoi(moment.substr(at, 2)); };
+        const int year = std::stoi(moment.substr(0, 4));
+        if (IsCivilDate(year, field(5), field(8)) && field(11) < 24 && field(14) < 60 &&
+            field(17) < 60) {
+            return DateSerial(year, field(5), field(8)) +
+                   TimeSerial(field(11), field(14), field(17));
+        }
     }
-    return DateSerial(year, month, day) + TimeSerial(hour, minute, second);
+    RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
 }
 
 std::string IsoDate(Date date) {

@@ -1,4 +1,4 @@
-#include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <optional>
 
@@ -29,7 +29,8 @@ CheckReport Check() {
 /// The same ports with another program folder, as long as the check runs.
 CheckReport CheckFolder(Session& session, const std::string& path) {
     const Platform& former = Ports();
-    if (!session.platform.files.Exists(path)) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(path, error)) {
         RefuseUsage("there is no folder \"" + path + "\"");
     }
     const ProgramFolder folder(session.platform.files, path, path);

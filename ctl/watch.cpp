@@ -28,12 +28,21 @@ void StopOnSignals() {
     }
 }
 
+/// The terminal's second screen, without a cursor, as long as it lives.
+class SecondScreen {
+public:
+    SecondScreen() { std::cout << kEnter; }
+    ~SecondScreen() { std::cout << kLeave << std::flush; }
+    SecondScreen(const SecondScreen&) = delete;
+    SecondScreen& operator=(const SecondScreen&) = delete;
+};
+
 /// Sleeps to the next whole second of the wall clock; a signal ends it early.
 void RestToWholeSecond() {
     timespec now{};
     clock_gettime(CLOCK_REALTIME, &now);
-    const timespec rest{0, 1000000000L - now.tv_nsec};
-    nanosleep(&rest, nullptr);
+    const timespec next{now.tv_sec + 1, 0};
+    clock_nanosleep(CLOCK_REALTIME, TIMER_ABSTIME, &next, nullptr);
 }
 
 /// Overwrites the former frame line by line, so that nothing flickers.
@@ -49,12 +58,11 @@ std::string InPlace(const std::string& frame) {
 
 void WatchInTerminal(const std::function<std::string()>& frame) {
     StopOnSignals();
-    std::cout << kEnter;
+    const SecondScreen screen;
     while (stopped == 0) {
         std::cout << InPlace(frame()) << std::flush;
         RestToWholeSecond();
     }
-    std::cout << kLeave << std::flush;
 }
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "base/date.h"
+#include "ctl/number_range.h"
 #include "ctl/place.h"
 #include "engine/angle.h"
 #include "store/location_text.h"
@@ -49,7 +50,7 @@ void AddZoneCommands(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "zones", "The time zones that a longitude suggests");
     auto longitude = std::make_shared<double>(0.0);
     command->add_option("--longitude", *longitude, "Degrees, east positive")
-        ->check(CLI::Range(-180.0, 180.0))
+        ->check(NumberFrom(-180.0, 180.0))
         ->required();
     command->callback([&session, longitude] { PrintZones(session, *longitude); });
 }

@@ -38,6 +38,9 @@ void AppendBand(Bytes& file, const CsvRow& row) {
 
 void Build(char** arguments) {
     const auto rows = ReadCsv(arguments[0]);
+    if (rows.size() < 2) {
+        throw BoundsFault("there is no band");
+    }
     Bytes file;
     for (std::size_t i = 1; i < rows.size(); ++i) {
         CheckRow(rows[i]);

@@ -121,6 +121,12 @@ void DataFolder::WriteText(std::uint16_t entry, std::int16_t language, const std
 }
 
 void DataFolder::WriteSample() {
+    for (const std::string& name : files_.List(RealPath("Dat"))) {
+        Remove("Dat/" + name);
+    }
+    nextCity_ = kFirstCityIndex;
+    provinces_.clear();
+    texts_.clear();
     WriteCountry("Brazil");
     WriteCity("Santa Rosa", -2787, -5448, "Rio Grande do Sul");
     WriteCity("São Paulo", -2355, -4663, "São Paulo");
@@ -129,16 +135,15 @@ void DataFolder::WriteSample() {
     WriteCity("Ismailia", 3060, 3227);
     WriteCountry("Saudi Arabia");
     WriteCity("Mecca", 2143, 3983, "Makkah");
-    for (const std::int16_t rank : {5, 1, 2, 4, 3}) {
-        WriteRank(rank);
+    for (const int rank : {5, 1, 2, 4, 3}) {
+        WriteRank(static_cast<std::int16_t>(rank));
     }
     WriteBand(-1, {20, 18, 5});
     WriteBand(4500, {17, 17, 4});
     WriteBand(5100, {12, 12, 3});
     WriteTexts(77);
-    const SettingsBytes record = EncodeSettings(SampleSettings());
-    Write("Dat/AI.DAT", Bytes(record.begin(), record.end()));
-    Write("Dat/Settings.DAT", Bytes(record.begin(), record.end()));
+    Write("Dat/AI.DAT", RecordOf(SampleSettings()));
+    Write("Dat/Settings.DAT", RecordOf(SampleSettings()));
 }
 
 void DataFolder::Write(const std::string& file, const Bytes& bytes) {
@@ -183,6 +188,11 @@ const std::vector<std::string>& DataFileNames() {
                                                    "Dat/C.DAt",  "Dat/PI.DAT", "Dat/P.DAT",
                                                    "Dat/A.dat",  "Dat/T.DAT",  "Dat/TI.DAT"};
     return names;
+}
+
+Bytes RecordOf(const SettingsRecord& settings) {
+    const SettingsBytes bytes = EncodeSettings(settings);
+    return {bytes.begin(), bytes.end()};
 }
 
 SettingsRecord SampleSettings() {

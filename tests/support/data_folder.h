@@ -8,6 +8,7 @@
 
 #include "platform/memory_files.h"
 #include "store/angle_band.h"
+#include "store/location_files.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -39,7 +40,7 @@ public:
     void WriteText(std::uint16_t entry, std::int16_t language, const std::string& text);
 
     /// Cities with and without a province in three countries, ranks, bands, texts and both
-    /// settings records, all of them sound.
+    /// settings records, all of them sound. Nothing else stays in the folder "Dat".
     void WriteSample();
 
     void Write(const std::string& file, const Bytes& bytes);
@@ -58,7 +59,7 @@ private:
     std::int16_t ProvinceRecord(const std::string& name);
 
     MemoryFiles& files_;
-    std::int16_t nextCity_ = -32000;
+    std::int16_t nextCity_ = kFirstCityIndex;
     std::map<std::string, std::int16_t> provinces_;
     std::uint16_t entries_ = 0;
     std::map<std::pair<std::uint16_t, std::int16_t>, std::string> texts_;
@@ -66,6 +67,9 @@ private:
 
 /// The data files that hold records or texts, as the system names them.
 const std::vector<std::string>& DataFileNames();
+
+/// The record as a file of its own holds it, 97 bytes.
+Bytes RecordOf(const SettingsRecord& settings);
 
 /// Settings that no check finds fault with.
 SettingsRecord SampleSettings();

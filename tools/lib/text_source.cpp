@@ -31,7 +31,9 @@ private:
             rows_.back().push_back(ReadField());
         } while (Accept(','));
         Accept('\r');
-        Accept('\n');
+        if (!Accept('\n') && at_ < text_.size()) {
+            throw TypeMismatchFault("a quoted field goes on behind its quote");
+        }
     }
 
     std::string ReadField() { return Accept('"') ? ReadQuoted() : ReadPlain(); }
@@ -67,6 +69,15 @@ private:
     std::vector<CsvRow> rows_;
 };
 
+/// The text of a source that begins with a heading.
+std::string ReadTable(const std::string& path) {
+    std::string text = ReadText(path);
+    if (text.empty()) {
+        throw TypeMismatchFault(path + ": there is no heading");
+    }
+    return text;
+}
+
 }  // namespace
 
 std::string ReadText(const std::string& path) {
@@ -79,7 +90,7 @@ std::string ReadText(const std::string& path) {
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
-    std::vector<std::string> lines = Split(ReadText(path), '\n');
+    std::vector<std::string> lines = Split(ReadTable(path), '\n');
     if (lines.back().empty()) {
         lines.pop_back();
     }
@@ -91,7 +102,7 @@ std::vector<std::string> SplitTabs(const std::string& line) {
 }
 
 std::vector<CsvRow> ReadCsv(const std::string& path) {
-    const std::string text = ReadText(path);
+    const std::string text = ReadTable(path);
     return CsvReader(text).Read();
 }
 

@@ -1,0 +1,184 @@
+#include <algorithm>
+
+#include "ctl/ctl_json.h"
+
+namespace horavex {
+namespace {
+
+/// One line that begins with the program's name, and nothing printed.
+void ExpectRefusal(const ProgramRun& run, int status) {
+    EXPECT_EQ(run.status, status);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.err, testing::StartsWith("horavexctl: "));
+    EXPECT_THAT(run.err, testing::EndsWith("\n"));
+    EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+    EXPECT_LT(run.err.size(), 200U) << run.err;
+}
+
+struct BadCall {
+    const char* line;
+    const char* reason;  // a piece of the line on standard error
+};
+
+void PrintTo(const BadCall& call, std::ostream* out) {
+    *out << call.line;
+}
+
+class BadUsage : public testing::TestWithParam<BadCall> {};
+
+TEST_P(BadUsage, EndsWithStatus2AndOneLineThatNamesTheMistake) {
+    const ProgramRun run = Ctl().Run(GetParam().line);
+    SCOPED_TRACE(GetParam().line);
+    ExpectRefusal(run, 2);
+    EXPECT_THAT(run.err, testing::HasSubstr(GetParam().reason));
+}
+
+constexpr BadCall kCommands[] = {
+    {"", "subcommand"},        {"--json", "--json"},
+    {"tomorrow", "tomorrow"},  {"dst --year 2026 zones", "zones"},
+    {"cities Cairo", "Cairo"}, {"qibla --latitude 1 --longitude 1 --altitude 3", "altitude"},
+};
+INSTANTIATE_TEST_SUITE_P(Commands, BadUsage, testing::ValuesIn(kCommands));
+
+constexpr BadCall kMissing[] = {
+    {"year", "--latitude"},
+    {"year --latitude 1 --longitude 1 --zone 0 --fajr 18 --isha 18 --asr 1", "--year"},
+    {"year --latitude 1 --longitude 1 --fajr 18 --isha 18 --asr 1 --year 2026", "--zone"},
+    {"year --latitude 1 --longitude 1 --zone 0 --fajr 18 --isha 18 --year 2026", "--asr"},
+    {"qibla --latitude 1", "--longitude"},
+    {"qibla --longitude 1", "--latitude"},
+    {"today --latitude 1", "--longitude"},
+    {"today --longitude 1", "--latitude"},
+    {"today --dst-start 90", "--dst-end"},
+    {"today --dst-end 90", "--dst-start"},
+    {"dst", "--year"},
+    {"zones", "--longitude"},
+    {"text --entry 1", "--language"},
+    {"text --language 1", "--entry"},
+    {"lang --section msg", "--key"},
+    {"lang --key 1", "--section"},
+    {"today --city", "--city"},
+};
+INSTANTIATE_TEST_SUITE_P(MissingOptions, BadUsage, testing::ValuesIn(kMissing));
+
+constexpr BadCall kRanges[] = {
+    {"qibla --latitude 90.01 --longitude 0", "--latitude"},
+    {"qibla --latitude -91 --longitude 0", "--latitude"},
+    {"qibla --latitude 0 --longitude 180.01", "--longitude"},
+    {"zones --longitude -181", "--longitude"},
+    {"today --zone 12.5", "--zone"},
+    {"today --fajr 91", "--fajr"},
+    {"today --isha -91", "--isha"},
+    {"today --asr 3", "--asr"},
+    {"today --dst-start 0 --dst-end 9", "--dst-start"},
+    {"today --dst-start 9 --dst-end 367", "--dst-end"},
+    {"dst --year 0", "--year"},
+    {"dst --year 10000", "--year"},
+    {"text --entry 0 --language 1", "--entry"},
+    {"text --entry 65536 --language 1", "--entry"},
+    {"text --entry 1 --language 7", "--language"},
+    {"text --entry 1 --language -1", "--language"},
+    {"cities --limit 0", "--limit"},
+    {"cities --limit -1", "--limit"},
+    {"today --city-index -32001", "city indexes run from -32000"},
+    {"today --city-index 32767", "city indexes run from -32000"},
+    {"today --city-index 40000", "city indexes run from -32000"},
+};
+INSTANTIATE_TEST_SUITE_P(OutOfRange, BadUsage, testing::ValuesIn(kRanges));
+
+constexpr BadCall kNumbers[] = {
+    {"qibla --latitude north --longitude 0", "--latitude"},
+    {"qibla --latitude 1x --longitude 0", "--latitude"},
+    {"qibla --latitude nan --longitude 0", "--latitude"},
+    {"qibla --latitude 0 --longitude inf", "--longitude"},
+    {"zones --longitude nan", "--longitude"},
+    {"today --zone nan", "--zone"},
+    {"today --fajr nan", "--fajr"},
+    {"today --isha nan", "--isha"},
+    {"today --asr one", "--asr"},
+    {"dst --year 2026.5", "--year"},
+    {"cities --index many", "--index"},
+    {"cities --limit 99999999999999999999", "--limit"},
+    {"text --entry five --language 1", "--entry"},
+};
+INSTANTIATE_TEST_SUITE_P(NoNumbers, BadUsage, testing::ValuesIn(kNumbers));
+
+constexpr BadCall kMoments[] = {
+    {"today --at now", "--at"},
+    {"today --at 2026-02-29", "--at"},
+    {"today --at 2026-13-01", "--at"},
+    {"today --at 0000-01-01", "--at"},
+    {"today --at 2026-11-21T24:00:00", "--at"},
+    {"today --at 2026-11-21T12:60:00", "--at"},
+    {"today --at 2026-11-21T12:00:60", "--at"},
+    {"today --at 2026-11-21T12:00", "--at"},
+    {"today --at 2026-11-21T", "--at"},
+    {"today --at 2026-11-21T12:34:56Z", "--at"},
+    {"today --at 2026-11-21x", "--at"},
+    {"today --at 20261121", "--at"},
+    {"today --at -2026-11-21", "--at"},
+    {"today --at 2026--1-21", "--at"},
+    {"today --at 2026-1-2", "--at"},
+    {"today --at +026-11-21", "--at"},
+};
+INSTANTIATE_TEST_SUITE_P(Moments, BadUsage, testing::ValuesIn(kMoments));
+
+constexpr BadCall kTogether[] = {
+    {"today --city Cairo --latitude 1 --longitude 1", "--city"},
+    {"today --city-index 5183 --latitude 1 --longitude 1", "--city-index"},
+    {"today --city Cairo --city-index 5183", "--city"},
+    {"today --watch --json", "--watch"},
+    {"today --watch --at 2026-11-21", "--watch"},
+};
+INSTANTIATE_TEST_SUITE_P(ExcludingOptions, BadUsage, testing::ValuesIn(kTogether));
+
+constexpr BadCall kAbsent[] = {
+    {"today --city Xyzzyx", "no city matches \"Xyzzyx\""},
+    {"today --watch", "--watch wants a terminal"},
+    {"validate nowhere/at/all", "there is no folder \"nowhere/at/all\""},
+    {"validate /dev/null", "there is no folder \"/dev/null\""},
+};
+INSTANTIATE_TEST_SUITE_P(ThingsThatAreNotThere, BadUsage, testing::ValuesIn(kAbsent));
+
+TEST(CtlUsage, EmptyWordsAreNoPlaces) {
+    ExpectRefusal(Ctl().Run("today --city", {""}), 2);
+    ExpectRefusal(Ctl().Run("today --city", {"  "}), 2);
+    ExpectRefusal(Ctl().Run("today --at", {""}), 2);
+}
+
+TEST(CtlUsage, LineBreakInAWordDoesNotBreakTheMessage) {
+    ExpectRefusal(Ctl().Run("today --city", {"Xyz\nzyx"}), 2);
+    ExpectRefusal(Ctl().Run("today --at", {"2026-\n11-21"}), 2);
+}
+
+TEST(CtlUsage, HelpAndVersionAreNoMistakes) {
+    for (const char* line : {"--help", "today --help", "cities -h"}) {
+        const ProgramRun run = Ctl().Run(line);
+        EXPECT_EQ(run.status, 0) << line;
+        EXPECT_THAT(run.out, testing::HasSubstr("--")) << line;
+        EXPECT_EQ(run.err, "") << line;
+    }
+    EXPECT_THAT(Ctl().Run("--version").out, testing::MatchesRegex("[0-9]+(\\.[0-9]+)+\n"));
+}
+
+TEST(CtlUsage, MissingDataFolderIsOneClearLine) {
+    Ctl ctl;
+    ctl.variables["HORAVEX_PROGRAM_FOLDER"] = ctl / "nowhere";
+    for (const char* line : {"today", "today --city Cairo", "cities", "text --entry 1 --language 1",
+                             "qibla --latitude 1 --longitude 1"}) {
+        SCOPED_TRACE(line);
+        const ProgramRun run = ctl.Run(line);
+        ExpectRefusal(run, 1);
+        EXPECT_THAT(run.err, testing::HasSubstr("Dat"));
+    }
+}
+
+TEST(CtlUsage, CallsWithoutDataNeedNoFolder) {
+    Ctl ctl;
+    ctl.variables["HORAVEX_PROGRAM_FOLDER"] = ctl / "nowhere";
+    EXPECT_EQ(ctl.Run("dst --year 2026").status, 0);
+    EXPECT_EQ(ctl.Run("zones --longitude 30").status, 0);
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,73 @@
+#include <algorithm>
+
+#include "base/utf8.h"
+#include "data/built_data.h"
+#include "lang/language_pack.h"
+#include "lang/pack_check.h"
+#include "lang/pack_keys.h"
+
+namespace horavex {
+namespace {
+
+using LanguagePacks = BuiltData;
+
+bool HasArabicLetter(const std::string& text) {
+    const auto codePoints = DecodeUtf8(text).value();
+    return std::any_of(codePoints.begin(), codePoints.end(),
+                       [](char32_t c) { return c >= 0x621 && c <= 0x64A; });
+}
+
+std::string English(const char* section, const char* key) {
+    currentLanguage = "English";
+    return GetLangString(section, key, "");
+}
+
+TEST_F(LanguagePacks, EnglishAndArabicAreThere) {
+    EXPECT_THAT(folder.List("lang"), testing::UnorderedElementsAre("English.ini", "Arabic.ini"));
+}
+
+TEST_F(LanguagePacks, EveryKeyThatIsReadHasAText) {
+    for (const char* language : {"English", "Arabic"}) {
+        currentLanguage = language;
+        for (const PackSection& section : PackVocabularies()) {
+            for (const std::string& key : section.keys) {
+                EXPECT_NE(GetLangString(section.name, key, ""), "")
+                    << language << " [" << section.name << "] " << key;
+            }
+        }
+    }
+}
+
+TEST_F(LanguagePacks, NoKeyIsReadByNothing) {
+    CheckReport report;
+    CheckLanguagePacks(report);
+    EXPECT_THAT(report.problems, testing::IsEmpty());
+    EXPECT_GT(report.passed, 100);
+}
+
+TEST_F(LanguagePacks, ArabicMonthsPrayersAndAthanTextsAreInArabicLetters) {
+    currentLanguage = "Arabic";
+    for (const PackSection& section : PackVocabularies()) {
+        for (const std::string& key : section.keys) {
+            EXPECT_TRUE(HasArabicLetter(GetLangString(section.name, key, "")))
+                << "[" << section.name << "] " << key;
+        }
+    }
+}
+
+TEST_F(LanguagePacks, EnglishPrayersOpenASentenceThatATimeEnds) {
+    EXPECT_EQ(English("other", "Fajr"), "Fajr at");
+    EXPECT_EQ(English("other", "Zuhr"), "Zuhr at");
+    EXPECT_EQ(English("other", "Asr"), "Asr at");
+    EXPECT_EQ(English("other", "Maghrib"), "Maghrib at");
+    EXPECT_EQ(English("other", "Isha"), "Isha at");
+}
+
+TEST_F(LanguagePacks, EnglishMonthsBeginAndEndTheYear) {
+    EXPECT_EQ(English("other", "1"), "Muharram");
+    EXPECT_EQ(English("other", "9"), "Ramadan");
+    EXPECT_EQ(English("other", "12"), "Zul Hijja");
+}
+
+}  // namespace
+}  // namespace horavex

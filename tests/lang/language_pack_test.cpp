@@ -1,0 +1,207 @@
+#include "lang/language_pack.h"
+
+#include <random>
+
+#include "base/code_page.h"
+#include "base/program_state.h"
+#include "base/utf8.h"
+#include "support/data_folder_test.h"
+
+namespace horavex {
+namespace {
+
+class LanguagePackTest : public DataFolderTest {
+protected:
+    LanguagePackTest() { currentLanguage = "English"; }
+
+    /// A pack of one message, "1" of section "msg".
+    void WritePack(const std::string& value) {
+        data.Write("lang/" + currentLanguage + ".ini", "[msg]\r\n1=" + value + "\r\n");
+    }
+
+    void WriteEightBitPack(const std::string& value, CodePage page) {
+        data.Write("lang/" + currentLanguage + ".ini",
+                   "[msg]\r\n1=" + StringOf(EncodeCodePage(value, page).value()) + "\r\n");
+    }
+
+    static std::string Message() { return GetLangString("msg", "1", "default"); }
+};
+
+std::string Repeat(const std::string& text, int times) {
+    std::string repeated;
+    for (int i = 0; i < times; ++i) {
+        repeated += text;
+    }
+    return repeated;
+}
+
+TEST_F(LanguagePackTest, PackLiesInTheLangFolder) {
+    EXPECT_EQ(LanguagePackPath("Arabic"), "\\lang\\Arabic.ini");
+}
+
+TEST_F(LanguagePackTest, MessageComesFromTheCurrentPack) {
+    WritePack("Hello");
+    EXPECT_EQ(Message(), "Hello");
+    currentLanguage = "French";
+    WritePack("Bonjour");
+    EXPECT_EQ(Message(), "Bonjour");
+}
+
+TEST_F(LanguagePackTest, BothSpellingsOfFolderAndNameMeanTheOne) {
+    data.Write("Lang/English.INI", "[msg]\n1=Hello");
+    EXPECT_EQ(Message(), "Hello");
+    currentLanguage = "ENGLISH";
+    EXPECT_EQ(Message(), "Hello");
+}
+
+TEST_F(LanguagePackTest, MissingPackSectionOrKeyGivesTheDefaultAsItStands) {
+    const std::string asItStands = " \"" + Repeat("é", 1000) + "\" \r\n";
+    EXPECT_EQ(GetLangString("msg", "18", asItStands), asItStands);
+    WritePack("Hello");
+    EXPECT_EQ(GetLangString("msg", "18", asItStands), asItStands);
+    EXPECT_EQ(GetLangString("other", "1", asItStands), asItStands);
+}
+
+TEST_F(LanguagePackTest, EmptyValueIsEmptyAndNotTheDefault) {
+    WritePack("");
+    EXPECT_EQ(Message(), "");
+}
+
+TEST_F(LanguagePackTest, NothingIsCached) {
+    WritePack("before");
+    EXPECT_EQ(Message(), "before");
+    WritePack("after");
+    EXPECT_EQ(Message(), "after");
+    data.Remove("lang/English.ini");
+    EXPECT_EQ(Message(), "default");
+}
+
+TEST_F(LanguagePackTest, Utf8PackIsReadAsSuchInAnyLanguage) {
+    for (const std::string language : {"English", "Arabic"}) {
+        currentLanguage = language;
+        WritePack("Café شروق");
+        EXPECT_EQ(Message(), "Café شروق");
+    }
+}
+
+TEST_F(LanguagePackTest, ByteOrderMarkDoesNotHideTheFirstSection) {
+    data.Write("lang/English.ini", "\xEF\xBB\xBF[msg]\r\n1=Prière");
+    EXPECT_EQ(Message(), "Prière");
+}
+
+TEST_F(LanguagePackTest, EightBitPackIsLatin) {
+    WriteEightBitPack("Prière – €", CodePage::kWindows1252);
+    EXPECT_EQ(Message(), "Prière – €");
+}
+
+TEST_F(LanguagePackTest, EightBitPackOfArabicIsArabicWhateverItsCase) {
+    for (const std::string language : {"Arabic", "ARABIC", "arabic"}) {
+        currentLanguage = language;
+        WriteEightBitPack("صلاة الفجر", CodePage::kWindows1256);
+        EXPECT_EQ(Message(), "صلاة الفجر");
+    }
+}
+
+TEST_F(LanguagePackTest, OneBadByteAnywhereMakesThePackEightBit) {
+    data.Write("lang/English.ini", "[msg]\n1=\xC3\xA9\n[x]\ny=\xFF");
+    EXPECT_EQ(Message(), "Ã©");
+}
+
+TEST_F(LanguagePackTest, ValueIsCutAtTheBufferLessOne) {
+    WritePack(Repeat("x", 1023));
+    EXPECT_EQ(Message(), Repeat("x", 1023));
+    WritePack(Repeat("x", 1024));
+    EXPECT_EQ(Message(), Repeat("x", 1023));
+    EXPECT_EQ(ReadPackString("msg", "1", "", 255), Repeat("x", 254));
+}
+
+TEST_F(LanguagePackTest, CutNeverSplitsACharacter) {
+    WritePack(Repeat("x", 1021) + "é!");
+    EXPECT_EQ(Message(), Repeat("x", 1021) + "é");
+    WritePack(Repeat("x", 1022) + "é!");
+    EXPECT_EQ(Message(), Repeat("x", 1022));
+    WritePack(Repeat("x", 252) + "€");
+    EXPECT_EQ(ReadPackString("msg", "1", "", 255), Repeat("x", 252));
+}
+
+TEST_F(LanguagePackTest, CutCountsTheBytesOfAnEightBitPack) {
+    WriteEightBitPack(Repeat("é", 2000), CodePage::kWindows1252);
+    EXPECT_EQ(Message(), Repeat("é", 1023));
+    EXPECT_EQ(ReadPackString("msg", "1", "", 255), Repeat("é", 254));
+    currentLanguage = "Arabic";
+    WriteEightBitPack(Repeat("ش", 2000), CodePage::kWindows1256);
+    EXPECT_EQ(Message(), Repeat("ش", 1023));
+    EXPECT_EQ(ReadPackString("msg", "1", "", 255), Repeat("ش", 254));
+}
+
+TEST_F(LanguagePackTest, QuotesAreTakenOffBeforeTheCut) {
+    WritePack("\"" + Repeat("x", 1023) + "\"");
+    EXPECT_EQ(Message(), Repeat("x", 1023));
+}
+
+TEST_F(LanguagePackTest, LanguageThatLeadsOutOfTheFolderIsAMissingPack) {
+    data.Write("secret.ini", "[msg]\n1=secret");
+    currentLanguage = "../secret";
+    EXPECT_EQ(Message(), "default");
+    currentLanguage = "";
+    EXPECT_EQ(Message(), "default");
+}
+
+TEST_F(LanguagePackTest, EveryFailingCallGivesTheDefault) {
+    WritePack("Hello");
+    platform.failingFiles.FailCall(0);
+    Message();
+    const int calls = platform.failingFiles.Calls();
+    ASSERT_EQ(calls, 2);  // the open and the read
+    for (int n = 1; n <= calls; ++n) {
+        platform.failingFiles.FailCall(n);
+        EXPECT_EQ(Message(), "default");
+        EXPECT_EQ(Message(), "Hello");
+    }
+}
+
+TEST_F(LanguagePackTest, EveryCutOfAPackGivesABeginningOrTheDefault) {
+    WritePack("Grüße");
+    const std::string whole = Message();
+    for (std::size_t length = data.Read("lang/English.ini").size(); length-- > 0;) {
+        data.ShrinkTo("lang/English.ini", length);
+        const std::string cut = Message();
+        const bool splits = length == 12 || length == 14;  // inside "ü" and "ß"
+        EXPECT_TRUE(splits || cut == "default" || whole.starts_with(cut)) << length << " " << cut;
+        EXPECT_EQ(cut == "default", length < 9) << length;  // up to the sign of equality
+    }
+}
+
+TEST_F(LanguagePackTest, RandomBytesGiveTextOrTheDefault) {
+    std::mt19937 random(7);  // a fixed seed
+    for (int run = 0; run < 3000; ++run) {
+        currentLanguage = run % 2 == 0 ? "English" : "Arabic";
+        Bytes noise(random() % 60);
+        for (std::uint8_t& byte : noise) {
+            byte = static_cast<std::uint8_t>(random());
+        }
+        const std::string tail = StringOf(noise);
+        data.Write("lang/" + currentLanguage + ".ini",
+                   run % 3 == 0 ? tail : "[msg]\n1=" + tail + "\n" + tail);
+        EXPECT_TRUE(IsUtf8(Message())) << run;
+    }
+}
+
+TEST_F(LanguagePackTest, HugePackIsReadToItsEnd) {
+    data.Write("lang/English.ini",
+               Repeat("[filler]\r\nkey=value\r\n", 100000) + "[msg]\r\n1=found");
+    EXPECT_EQ(Message(), "found");
+}
+
+TEST_F(LanguagePackTest, HugeLineIsCut) {
+    WritePack(Repeat("0123456789", 200000));
+    EXPECT_EQ(Message().size(), 1023U);
+}
+
+TEST_F(LanguagePackTest, FreshProcessHasNoLanguage) {
+    ResetProgramState();
+    EXPECT_EQ(currentLanguage, "");
+}
+
+}  // namespace
+}  // namespace horavex

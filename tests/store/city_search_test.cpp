@@ -1,0 +1,210 @@
+#include "store/city_search.h"
+
+#include "base/fault.h"
+#include "base/fold.h"
+#include "store/location_files.h"
+#include "support/data_folder_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class ListCitiesTest : public DataFolderTest {
+protected:
+    ListCitiesTest() { data.WriteSample(); }
+
+    static std::vector<std::string> Names() {
+        std::vector<std::string> names;
+        for (const ListedCity& city : ListCities()) {
+            names.push_back(city.name);
+        }
+        return names;
+    }
+};
+
+TEST_F(ListCitiesTest, CitiesComeInTheOrderOfTheirIndex) {
+    EXPECT_THAT(Names(), ElementsAre("Santa Rosa", "São Paulo", "Cairo", "Ismailia", "Mecca"));
+}
+
+TEST_F(ListCitiesTest, CityHasWhatASearchNeeds) {
+    const ListedCity city = ListCities().at(1);
+    EXPECT_EQ(city.cityIndex, -31999);
+    EXPECT_EQ(city.province, "São Paulo");
+    EXPECT_EQ(city.country, "Brazil");
+    EXPECT_EQ(city.latitude, -2355);
+    EXPECT_EQ(city.longitude, -4663);
+    EXPECT_EQ(city.rank, 1);
+    EXPECT_EQ(city.folded, "sao paulo, sao paulo - brazil");
+}
+
+TEST_F(ListCitiesTest, CityWithoutProvinceHasNone) {
+    const ListedCity city = ListCities().at(2);
+    EXPECT_EQ(city.province, "");
+    EXPECT_EQ(city.folded, "cairo - egypt");
+}
+
+TEST_F(ListCitiesTest, RanksAreUnsigned) {
+    data.SetInt16("Dat/RI.DAT", 8, static_cast<std::int16_t>(52800));
+    EXPECT_EQ(ListCities().at(4).rank, 52800);
+}
+
+TEST_F(ListCitiesTest, WithoutRanksEveryRankIsZero) {
+    data.Remove("Dat/RI.DAT");
+    for (const ListedCity& city : ListCities()) {
+        EXPECT_EQ(city.rank, 0);
+    }
+}
+
+TEST_F(ListCitiesTest, CutRanksLeaveTheLastCitiesWithoutOne) {
+    data.ShrinkBy("Dat/RI.DAT", 3);
+    EXPECT_EQ(ListCities().at(2).rank, 2);
+    EXPECT_EQ(ListCities().at(3).rank, 0);
+    EXPECT_EQ(ListCities().at(4).rank, 0);
+}
+
+TEST_F(ListCitiesTest, RankBelongsToTheIndexOfItsCity) {
+    data.SetInt16("Dat/SI.DAt", 4, 0);  // Brazil's two cities are listed no more
+    const auto cities = ListCities();
+    ASSERT_THAT(cities, SizeIs(3));
+    EXPECT_EQ(cities[0].name, "Cairo");
+    EXPECT_EQ(cities[0].rank, 2);
+}
+
+TEST_F(ListCitiesTest, EmptyFilesListNothing) {
+    data.ShrinkTo("Dat/SI.DAt", 0);
+    EXPECT_THAT(ListCities(), IsEmpty());
+}
+
+TEST_F(ListCitiesTest, MoreCitiesThanTheIndexHoldsAreAFault) {
+    data.SetInt16("Dat/SI.DAt", 16, 2);
+    EXPECT_THROW(ListCities(), BoundsFault);
+    data.SetInt16("Dat/SI.DAt", 16, 32767);
+    EXPECT_THROW(ListCities(), BoundsFault);
+}
+
+TEST_F(ListCitiesTest, CityBeyondTheLargestIndexIsAFault) {
+    data.SetInt16("Dat/SI.DAt", 14, 32767);
+    EXPECT_THAT(Names(), ElementsAre("Santa Rosa", "São Paulo", "Cairo", "Ismailia", ""));
+    data.ShrinkBy("Dat/SI.DAt", 6);
+    data.SetInt16("Dat/SI.DAt", 8, 32767);
+    EXPECT_THROW(ListCities(), OverflowFault);
+}
+
+TEST_F(ListCitiesTest, MissingFilesAreFileFaults) {
+    data.Remove("Dat/C.DAt");
+    EXPECT_THROW(ListCities(), FileFault);
+}
+
+TEST_F(ListCitiesTest, FilesAreClosedAgain) {
+    ListCities();
+    EXPECT_THROW(CityCount(), FileFault);
+    EXPECT_THROW(CountryCount(), FileFault);
+}
+
+/// Cities made by hand: "name, province - country" and a rank.
+class SearchCitiesTest : public testing::Test {
+protected:
+    void Add(const std::string& name, std::uint16_t rank, const std::string& country = "Nowhere",
+             const std::string& province = "") {
+        const std::string display = province.empty() ? name : name + ", " + province;
+        cities.push_back(
+            {0, name, province, country, 0, 0, rank, FoldForSearch(display + " - " + country)});
+    }
+
+    std::vector<std::string> Search(const std::string& text) const {
+        std::vector<std::string> names;
+        for (const ListedCity* city : SearchCities(cities, text)) {
+            names.push_back(city->name);
+        }
+        return names;
+    }
+
+    std::vector<ListedCity> cities;
+};
+
+TEST_F(SearchCitiesTest, BetterMatchesComeFirstWhateverTheRank) {
+    Add("Kansan City", 1);
+    Add("Puerto San Carlos", 2);
+    Add("Serravalle", 3, "San Marino");
+    Add("Lima", 4, "Peru", "San Isidro");
+    Add("Santiago", 5);
+    Add("San Jose", 6);
+    Add("San", 7);
+    Add("Cairo", 8);
+    EXPECT_THAT(Search("san"), ElementsAre("San", "San Jose", "Santiago", "Puerto San Carlos",
+                                           "Serravalle", "Lima", "Kansan City"));
+}
+
+TEST_F(SearchCitiesTest, WholeNameMayBeFollowedByProvinceOrCountry) {
+    Add("Mecca Hills", 1);
+    Add("Mecca", 3, "United States", "California");
+    Add("Mecca", 2, "Saudi Arabia");
+    EXPECT_THAT(Search("mecca"), ElementsAre("Mecca", "Mecca", "Mecca Hills"));
+    EXPECT_EQ(SearchCities(cities, "mecca").at(0)->country, "Saudi Arabia");
+    EXPECT_THAT(Search("mecca, california"), ElementsAre("Mecca"));
+    EXPECT_THAT(Search("Mecca - Saudi Arabia"), ElementsAre("Mecca"));
+}
+
+TEST_F(SearchCitiesTest, NameAtAWordsEndComesBeforeALongerWord) {
+    Add("Yorkton", 1);
+    Add("York-under-Hill", 2);
+    EXPECT_THAT(Search("york"), ElementsAre("York-under-Hill", "Yorkton"));
+}
+
+TEST_F(SearchCitiesTest, LetterBeyondAsciiIsPartOfAWord) {
+    Add("Sanşa", 1);
+    Add("şan", 2);
+    Add("San Juan", 3);
+    EXPECT_THAT(Search("san"), ElementsAre("San Juan", "Sanşa"));
+    EXPECT_THAT(Search("an"), ElementsAre("Sanşa", "şan", "San Juan"));  // no word begins so
+}
+
+TEST_F(SearchCitiesTest, WordsBeginningIsFoundBehindAPlainPart) {
+    Add("Kansan", 1);
+    Add("Kansan San", 2);
+    EXPECT_THAT(Search("san"), ElementsAre("Kansan San", "Kansan"));
+}
+
+TEST_F(SearchCitiesTest, EqualMatchesComeByPopulationAndThoseWithoutARankLast) {
+    Add("Springfield", 0, "A");
+    Add("Springfield", 65535, "B");
+    Add("Springfield", 7, "C");
+    Add("Springfield", 0, "D");
+    Add("Springfield", 1, "E");
+    std::string countries;
+    for (const ListedCity* city : SearchCities(cities, "springfield")) {
+        countries += city->country;
+    }
+    EXPECT_EQ(countries, "ECBAD");  // equal ranks in the order of the list
+}
+
+TEST_F(SearchCitiesTest, CaseAndAccentsDoNotMatter) {
+    Add("São Paulo", 1);
+    Add("Köln", 2);
+    EXPECT_THAT(Search("SAO PAULO"), ElementsAre("São Paulo"));
+    EXPECT_THAT(Search("são paulo"), ElementsAre("São Paulo"));
+    EXPECT_THAT(Search("KOLN"), ElementsAre("Köln"));
+}
+
+TEST_F(SearchCitiesTest, BlanksAroundTheTextDoNotMatter) {
+    Add("Cairo", 1);
+    EXPECT_THAT(Search("  cairo\t"), ElementsAre("Cairo"));
+}
+
+TEST_F(SearchCitiesTest, EmptyTextMatchesNothing) {
+    Add("Cairo", 1);
+    EXPECT_THAT(Search(""), IsEmpty());
+    EXPECT_THAT(Search(" \t "), IsEmpty());
+}
+
+TEST_F(SearchCitiesTest, UnknownTextMatchesNothing) {
+    Add("Cairo", 1);
+    EXPECT_THAT(Search("Cairos"), IsEmpty());
+    EXPECT_THAT(Search("C\xFF"), IsEmpty());
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,39 @@
+#include "support/run_ctl.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "base/text.h"
+#include "support/build_folder.h"
+
+namespace horavex {
+
+Ctl::Ctl()
+    : variables{{"HOME", home_.Path()},
+                {"XDG_CONFIG_HOME", home_ / "config"},
+                {"XDG_DATA_HOME", home_ / "data"},
+                {"XDG_CONFIG_DIRS", home_ / "machine"},
+                {"XDG_RUNTIME_DIR", home_.Path()},
+                {"TZ", "UTC"},
+                {"LC_ALL", "C.UTF-8"}} {}
+
+ProgramRun Ctl::Run(const std::string& line, const std::vector<std::string>& more) const {
+    std::vector<std::string> words = line.empty() ? std::vector<std::string>() : Split(line, ' ');
+    words.insert(words.end(), more.begin(), more.end());
+    return RunProgram("horavexctl", words, variables);
+}
+
+std::string Ctl::UseFolderCopy() {
+    const std::string copy = home_ / "program";
+    std::filesystem::copy(BuiltProgramFolder(), copy, std::filesystem::copy_options::recursive);
+    variables["HORAVEX_PROGRAM_FOLDER"] = copy;
+    return copy;
+}
+
+void Ctl::StoreRegistryValue(const std::string& name, const std::string& value) const {
+    std::filesystem::create_directories(home_ / "config/horavex");
+    std::ofstream file(home_ / "config/horavex/registry.ini");
+    file << "[Software\\\\Horavex\\\\Settings]\n" << name << "=" << value << "\n";
+}
+
+}  // namespace horavex
