@@ -73,7 +73,8 @@ TEST_P(FilesOfAFolder, EmptyOneIsNamed) {
 }
 
 TEST_P(FilesOfAFolder, OneCutInHalfIsNamed) {
-    folder.Truncate(GetParam(), folder.SizeOf(GetParam()) / 2 - 1);
+    // An odd length cuts a record too.
+    folder.Truncate(GetParam(), folder.SizeOf(GetParam()) / 2 | 1);
     ExpectToBeNamed();
 }
 
@@ -84,7 +85,7 @@ TEST_P(FilesOfAFolder, OneCutToAByteIsNamed) {
 
 INSTANTIATE_TEST_SUITE_P(Files, FilesOfAFolder, testing::ValuesIn(kDataFiles), TestName);
 
-/// Files of which no half can be missing, and whose bytes all count.
+/// Every file but the records and the packs, without which the program runs.
 class FilesThatCannotBeMissing : public FilesOfAFolder {};
 
 TEST_P(FilesThatCannotBeMissing, MissingOneIsNamed) {
@@ -98,16 +99,16 @@ INSTANTIATE_TEST_SUITE_P(Files, FilesThatCannotBeMissing,
                                          "Dat/TI.DAT", "Dat/T.DAT"),
                          TestName);
 
-struct RandomFile {
+struct Damage {
     const char* file;
-    const char* problem;  // how a problem begins
+    const char* problem;  // how it begins
 };
 
-void PrintTo(const RandomFile& random, std::ostream* out) {
-    *out << random.file;
+void PrintTo(const Damage& damage, std::ostream* out) {
+    *out << damage.file;
 }
 
-class RandomFiles : public testing::TestWithParam<RandomFile> {};
+class RandomFiles : public testing::TestWithParam<Damage> {};
 
 TEST_P(RandomFiles, AreNamedWithTheRecord) {
     const DamagedFolder folder;
@@ -116,19 +117,18 @@ TEST_P(RandomFiles, AreNamedWithTheRecord) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, RandomFiles,
-                         testing::Values(RandomFile{"Dat/SI.DAt", "Dat/SI.DAt: record "},
-                                         RandomFile{"Dat/S.DAT", "Dat/SI.DAt: record "},
-                                         RandomFile{"Dat/CI.DAT", "Dat/CI.DAT: record "},
-                                         RandomFile{"Dat/C.DAt", "Dat/CI.DAT: record "},
-                                         RandomFile{"Dat/PI.DAT", "Dat/PI.DAT: record "},
-                                         RandomFile{"Dat/P.DAT", "Dat/PI.DAT: record "},
-                                         RandomFile{"Dat/A.dat", "Dat/A.dat: record "},
-                                         RandomFile{"Dat/TI.DAT", "Dat/TI.DAT: record "},
-                                         RandomFile{"Dat/T.DAT", "Dat/TI.DAT: record "},
-                                         RandomFile{"Dat/AI.DAT", "Dat/AI.DAT: record 1: "},
-                                         RandomFile{"Dat/Settings.DAT",
-                                                    "Dat/Settings.DAT: record 1: "},
-                                         RandomFile{"lang/English.ini", "lang/English.ini: "}));
+                         testing::Values(Damage{"Dat/SI.DAt", "Dat/SI.DAt: record "},
+                                         Damage{"Dat/S.DAT", "Dat/SI.DAt: record "},
+                                         Damage{"Dat/CI.DAT", "Dat/CI.DAT: record "},
+                                         Damage{"Dat/C.DAt", "Dat/CI.DAT: record "},
+                                         Damage{"Dat/PI.DAT", "Dat/PI.DAT: record "},
+                                         Damage{"Dat/P.DAT", "Dat/PI.DAT: record "},
+                                         Damage{"Dat/A.dat", "Dat/A.dat: record "},
+                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record "},
+                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record "},
+                                         Damage{"Dat/AI.DAT", "Dat/AI.DAT: record 1: "},
+                                         Damage{"Dat/Settings.DAT", "Dat/Settings.DAT: record 1: "},
+                                         Damage{"lang/English.ini", "lang/English.ini: "}));
 
 struct Flip {
     const char* file;
@@ -173,23 +173,64 @@ INSTANTIATE_TEST_SUITE_P(
         Flip{"Dat/A.dat", 5 * 3 + 2, 0, "Dat/A.dat: record 4: its angles"},
         Flip{"Dat/AI.DAT", 81, 7, "Dat/AI.DAT: record 1: Language"},
         Flip{"Dat/AI.DAT", 93, 288, "Dat/AI.DAT: record 1: AlarmTime"},
-        Flip{"Dat/AI.DAT", 71, 1, "Dat/AI.DAT: record 1: a day of daylight saving"},
         Flip{"Dat/AI.DAT", 61, -1, "Dat/AI.DAT: record 1: FajrAngle"},
         Flip{"Dat/AI.DAT", 91, 32767, "Dat/AI.DAT: record 1: TimeZone"}));
 
-class OversizedFiles : public testing::TestWithParam<const char*> {};
+TEST(CtlValidate, DaysOfDaylightSavingCountWhereItApplies) {
+    const DamagedFolder folder;
+    folder.PutNumber("Dat/AI.DAT", 73, 367);
+    EXPECT_EQ(folder.ctl.Run("validate").status, 0);
+    folder.PutNumber("Dat/AI.DAT", 71, 1);
+    EXPECT_THAT(ProblemsOf(folder),
+                Contains(StartsWith("Dat/AI.DAT: record 1: a day of daylight saving")));
+}
+
+class OversizedFiles : public testing::TestWithParam<Damage> {};
 
 TEST_P(OversizedFiles, AreNamed) {
     const DamagedFolder folder;
-    folder.Append(GetParam(), 3000, 0);
-    EXPECT_THAT(ProblemsOf(folder), Contains(HasSubstr(GetParam())));
+    folder.Append(GetParam().file, 3000, 0);
+    EXPECT_THAT(ProblemsOf(folder), Contains(StartsWith(GetParam().problem)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
-                         testing::Values("Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt",
-                                         "Dat/PI.DAT", "Dat/P.DAT", "Dat/RI.DAT", "Dat/A.dat",
-                                         "Dat/TI.DAT", "Dat/T.DAT"),
-                         TestName);
+                         testing::Values(Damage{"Dat/SI.DAt", "Dat/SI.DAt: record 247: "},
+                                         Damage{"Dat/S.DAT", "Dat/SI.DAt: record 246: "},
+                                         Damage{"Dat/CI.DAT", "Dat/CI.DAT: record 53251: "},
+                                         Damage{"Dat/C.DAt", "Dat/CI.DAT: record 53250: "},
+                                         Damage{"Dat/PI.DAT", "Dat/PI.DAT: record "},
+                                         Damage{"Dat/P.DAT", "Dat/PI.DAT: record "},
+                                         Damage{"Dat/RI.DAT", "Dat/RI.DAT: not one rank"},
+                                         Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
+                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 463: "},
+                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 462: "}));
+
+struct LostRecord {
+    const char* file;
+    std::size_t length;   // of a record
+    const char* problem;  // how it begins
+};
+
+void PrintTo(const LostRecord& lost, std::ostream* out) {
+    *out << lost.file;
+}
+
+class LostRecords : public testing::TestWithParam<LostRecord> {};
+
+TEST_P(LostRecords, AtTheEndAreMissed) {
+    const DamagedFolder folder;
+    folder.Truncate(GetParam().file, folder.SizeOf(GetParam().file) - GetParam().length);
+    EXPECT_THAT(ProblemsOf(folder), Contains(StartsWith(GetParam().problem)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, LostRecords,
+    testing::Values(LostRecord{"Dat/SI.DAt", 6, "Dat/SI.DAt: the countries do not hold all cities"},
+                    LostRecord{"Dat/CI.DAT", 10,
+                               "Dat/SI.DAt: the countries do not hold all cities"},
+                    LostRecord{"Dat/PI.DAT", 2, "Dat/CI.DAT: record "},
+                    LostRecord{"Dat/RI.DAT", 2, "Dat/RI.DAT: not one rank"},
+                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 77 entries"}));
 
 }  // namespace
 }  // namespace horavex

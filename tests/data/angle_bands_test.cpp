@@ -20,15 +20,7 @@ constexpr std::int16_t kUsualIshaAngle = 18;
 constexpr std::size_t kSampleStep = 40;
 constexpr std::int16_t kYears[] = {2024, 2026, 2027};
 
-class QuietHost : public DayHost {
-public:
-    void ReportProgress(double) override {}
-    void ComputeQibla() override {}
-};
-
 struct AngleBands : BuiltData {
-    AngleBands() { InstallDayHost(&host); }
-
     AngleLimits BandOf(std::int16_t latitude) {
         AngleBand = {};
         LoadAngleBand(latitude);
@@ -73,8 +65,6 @@ struct AngleBands : BuiltData {
             ExpectYear(year, 1);
         }
     }
-
-    QuietHost host;
 };
 
 TEST_F(AngleBands, EquatorFindsABand) {

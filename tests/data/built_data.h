@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/program_state.h"
+#include "engine/day_driver.h"
 #include "linux/posix_files.h"
 #include "platform/fixed_formats.h"
 #include "platform/fixed_instance_guard.h"
@@ -16,6 +17,13 @@
 
 namespace horavex {
 
+/// Calculates without a window; the qibla is not asked for.
+class QuietHost : public DayHost {
+public:
+    void ReportProgress(double) override {}
+    void ComputeQibla() override {}
+};
+
 /// A fresh process over the program folder that the build has compiled; everything else is in
 /// memory.
 class BuiltData : public testing::Test {
@@ -23,6 +31,7 @@ protected:
     BuiltData() {
         InstallPlatform(&platform_);
         ResetProgramState();
+        InstallDayHost(&host_);
     }
     ~BuiltData() override {
         ResetProgramState();
@@ -34,6 +43,7 @@ protected:
     RecordingDialogs dialogs;
 
 private:
+    QuietHost host_;
     ManualClock clock_;
     ScriptedEventLoop loop_{clock_};
     FixedFormats formats_;

@@ -156,9 +156,9 @@ TEST_F(TextTable, RemainingCompositionsAreSentences) {
     EXPECT_EQ(text(5) + " 2026", "Calculating the prayer times of 2026");
     EXPECT_EQ(text(63) + " " + text(49) + ". " + text(69) + " 3",
               "Please check the Time Zone. The nearest zone of this place is 3");
-    EXPECT_EQ("* " + text(35) + " : " + text(32) + " " + text(34) + ".",
-              "* Note : Start of daylight saving.");
-    EXPECT_EQ("(" + text(77) + " " + text(75) + ")", "(first method)");
+    EXPECT_EQ(text(35) + " : " + text(32) + " " + text(34) + ".",
+              "Note : Start of daylight saving.");
+    EXPECT_EQ(text(77) + " " + text(75), "first method");
     EXPECT_EQ("06:30 AM : " + text(53), "06:30 AM : It is time for your alarm.");
 }
 
