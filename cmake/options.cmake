@@ -22,7 +22,8 @@ add_compile_options(-Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-convers
                     -Wduplicated-cond -Wlogical-op -Wimplicit-fallthrough)
 # g++ 12 sees overlapping, overlong and outlying copies inside std::string where it optimises
 # (GCC bugs 105651 and 105329); the sanitizers look for real ones.
-add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
+add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread
+                    -Wno-array-bounds)
 
 if(HORAVEX_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
