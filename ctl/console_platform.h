@@ -7,6 +7,7 @@
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
+#include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
 #include "platform/platform.h"
 
@@ -25,6 +26,7 @@ public:
 class ConsoleDialogs : public Dialogs {
 public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
+    void Beep() override {}
 };
 
 /// The system's clock, or a clock of the user's choice.
@@ -50,6 +52,8 @@ class ConsoleHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override;
+    void RunSetAction() override {}
+    void SetFlashVariables() override {}
 };
 
 /// The ports of the command line over the real system, installed as long as it lives. The forms
@@ -72,8 +76,12 @@ private:
     ConsoleDialogs dialogs_;
     FixedFormats formats_;
     ConsoleHost host_;
-    Platform platform_{clock,    eventLoop_, files,     folder_,
-                       formats_, dialogs_,   registry_, instanceLock_};
+    AbsentFace face_;
+    AbsentWindows windows_;
+    AbsentTray tray_;
+    AbsentShell shell_;
+    Platform platform_{clock,     eventLoop_,    files, folder_,  formats_, dialogs_,
+                       registry_, instanceLock_, face_, windows_, tray_,    shell_};
 };
 
 }  // namespace horavex

@@ -35,7 +35,8 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
     }
     const ProgramFolder folder(session.platform.files, path, path);
     const Platform ports{former.clock,   former.eventLoop, former.files,    folder,
-                         former.formats, former.dialogs,   former.registry, former.instanceGuard};
+                         former.formats, former.dialogs,   former.registry, former.instanceGuard,
+                         former.face,    former.windows,   former.tray,     former.shell};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

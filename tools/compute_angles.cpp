@@ -32,6 +32,8 @@ class QuietHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override {}
+    void RunSetAction() override {}
+    void SetFlashVariables() override {}
 };
 
 bool LastsYear(std::int16_t year, bool daylightSaving) {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/fault.h"
+#include "base/rounding.h"
 #include "base/text.h"
 
 namespace horavex {
@@ -115,6 +116,14 @@ std::string NumberToText(double value, char decimalMark) {
     }
     const Decimal number = TakeApart(value);
     return (number.negative ? "-" : "") + Magnitude(number, decimalMark);
+}
+
+std::string SignedFixedText(double value, char decimalMark) {
+    const auto hundredths = static_cast<long>(RoundHalfEven(value * 100.0));
+    const long size = std::labs(hundredths);
+    const std::string places = std::to_string(size % 100);
+    return (hundredths < 0 ? "-" : "+") + std::to_string(size / 100) + decimalMark +
+           std::string(2 - places.size(), '0') + places;
 }
 
 bool IsNumeric(std::string_view text) {

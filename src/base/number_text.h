@@ -11,6 +11,10 @@ namespace horavex {
 /// 3.33333333333333E-02. Any finite value; decimalMark stands between whole and fraction.
 std::string NumberToText(double value, char decimalMark = '.');
 
+/// A number with a sign and two places, the form "+#0.00;-#0.00": "+2.00", "-5.50", "+0.00".
+/// Rounded to the nearest hundredth; magnitudes below a million.
+std::string SignedFixedText(double value, char decimalMark = '.');
+
 /// True for what TextToNumber accepts: blanks around, a sign in front, digits with at most one
 /// mark (point or comma), and an exponent. A lone sign or mark is no number.
 bool IsNumeric(std::string_view text);

@@ -6,12 +6,6 @@
 
 namespace horavex {
 
-namespace {
-
-constexpr std::size_t kNameBuffer = 255;  // bytes, with the closing zero
-
-}  // namespace
-
 HijriTexts HijriToday() {
     const CalendarScope hijri(kHijriCalendar);
     const Date today = Ports().clock.Today();
@@ -20,7 +14,7 @@ HijriTexts HijriToday() {
 }
 
 std::string HijriMonthName(int month) {
-    return ReadPackString("other", std::to_string(month), "", kNameBuffer);
+    return ReadPackString("other", std::to_string(month), "", kPackNameBuffer);
 }
 
 }  // namespace horavex

@@ -1,21 +1,87 @@
 #include "engine/day_driver.h"
 
+#include <cmath>
+
+#include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/day_state.h"
+#include "engine/next_prayer.h"
 #include "engine/solar_event.h"
 #include "engine/sun.h"
+#include "engine/wait.h"
 #include "engine/year_table.h"
+#include "platform/platform.h"
 #include "store/location_record.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+#include "windows/f_message.h"
+#include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
 namespace {
 
+constexpr double kShortestProgress = 3.0 / kSecondsPerDay;  // days
+
 DayHost* host = nullptr;
 
 const ProgramStateReset reset([] { host = nullptr; });
+
+std::string Text(std::uint16_t entry) {
+    return TextItem(entry, ActiveSettings.Language);
+}
+
+void ShowProgressWindow() {
+    fMessage->Load();
+    fMessage->lblMessage1.SetCaption(Text(5) + " " + std::to_string(CurrentYear));
+    fMessage->lblMessage2.SetCaption(Text(1));
+    fMessage->Show();
+}
+
+/// A gap of exactly one day is the turn of the date and refreshes nothing.
+void RefreshAfterGap() {
+    const Date today = Ports().clock.Today();
+    if (std::fabs(today - LastRefreshDate) > 1.0) {
+        LastRefreshDate = today;
+        host->RunSetAction();
+    }
+}
+
+std::size_t RowOfToday() {
+    const double row = TodayDate - DateSerial(CurrentYear, 1, 1);
+    if (row < 0.0 || row >= static_cast<double>(kYearRows)) {
+        throw BoundsFault("today lies outside the year of the table");
+    }
+    return static_cast<std::size_t>(row);
+}
+
+void ShowTimes(const PrayerRow& row) {
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        TodayTimes[prayer] = row[prayer] / 24.0;
+        frmMain->lblTime(static_cast<int>(prayer))
+            .SetCaption(Ports().formats.MediumTime(TodayTimes[prayer]));
+    }
+}
+
+void ShowDates() {
+    frmMain->lblDate.SetCaption(Ports().formats.LongDate(TodayDate));
+    frmMain->lblCurrTime.SetCaption(Ports().formats.LongTime(Ports().clock.Now()));
+}
+
+void ShowNextPrayer(std::size_t row) {
+    const Date now = Ports().clock.Now();
+    const std::int16_t found = FindNextPrayer(TimesOfRow(row), now);
+    if (NextPrayer == -1) {
+        NextPrayer = found;
+    }
+    const NextPrayerDescription next = DescribeNextPrayer(found, row, now);
+    frmMain->lblNextAthan.SetCaption(next.sentence);
+    frmMain->lblRemaining.SetCaption(RemainingText(next.secondsFromNow));
+}
 
 }  // namespace
 
@@ -33,6 +99,30 @@ void RecalculateYear() {
     if (CalcFailed == 0) {
         host->ComputeQibla();
     }
+}
+
+void RefreshAll() {
+    CalcFailed = 0;
+    const double start = Ports().clock.SteadySeconds();
+    CurrentYear = ToInt16(CivilFromDate(Ports().clock.Now()).year);
+    ShowProgressWindow();
+    RecalculateYear();
+    ShowDay();
+    WaitSeconds(kShortestProgress - (Ports().clock.SteadySeconds() - start) / kSecondsPerDay);
+    fMessage->Unload();
+    if (CalcFailed == 0) {
+        HoravexMainForm->SetEnabled(true);
+    }
+}
+
+void ShowDay() {
+    RefreshAfterGap();
+    TodayDate = Ports().clock.Today();
+    const std::size_t row = RowOfToday();
+    ShowTimes(TimesOfRow(row));
+    ShowDates();
+    ShowNextPrayer(row);
+    host->SetFlashVariables();
 }
 
 }  // namespace horavex

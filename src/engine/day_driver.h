@@ -12,6 +12,12 @@ public:
 
     /// Works out the qibla of the place that the engine has just taken over.
     virtual void ComputeQibla() = 0;
+
+    /// The action of the settings window's set button.
+    virtual void RunSetAction() = 0;
+
+    /// Hands the day's values to the face.
+    virtual void SetFlashVariables() = 0;
 };
 
 /// Installs the host; nullptr takes it away. The host outlives its installation.
@@ -20,5 +26,14 @@ void InstallDayHost(DayHost* host);
 /// Works the whole year's table out for CurrentYear and the working location, and with it the
 /// qibla unless the calculation gave up (CalcFailed). Needs an installed host.
 void RecalculateYear();
+
+/// Recalculates the present year behind the progress window, which stays up for three seconds at
+/// least, and shows the day, also after a calculation that gave up. Needs an installed host.
+void RefreshAll();
+
+/// Puts today's row of the table into the labels of frmMain and hands them to the face. Does not
+/// look at CalcFailed. A day more than one away from LastRefreshDate runs the set action first.
+/// Throws BoundsFault for a day outside the table.
+void ShowDay();
 
 }  // namespace horavex

@@ -8,7 +8,6 @@ namespace horavex {
 namespace {
 
 constexpr std::int16_t kNoneLeft = 6;
-constexpr std::size_t kNameBuffer = 255;  // bytes, with the closing zero
 
 double FractionOf(double hours) {
     return hours / 24.0;
@@ -22,7 +21,7 @@ const char* NameKey(std::int16_t prayer) {
 }
 
 std::string NameOf(std::int16_t prayer) {
-    return ReadPackString("other", NameKey(prayer), "", kNameBuffer);
+    return ReadPackString("other", NameKey(prayer), "", kPackNameBuffer);
 }
 
 // Today's Fajr is told by a fixed English text; only tomorrow's has a name in the pack.

@@ -6,6 +6,7 @@
 #include "base/program_state.h"
 #include "forms/control_array.h"
 #include "forms/focusable.h"
+#include "forms/modal_loop.h"
 
 namespace horavex {
 
@@ -124,6 +125,7 @@ void Form::Show(Form* owner) {
 void Form::ShowModal(Form* owner) {
     Present(owner, true);
     if (host != nullptr && Visible()) {
+        const ModalLoop loop;
         host->RunModal(*this);
     }
 }

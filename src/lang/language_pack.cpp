@@ -1,9 +1,8 @@
 #include "lang/language_pack.h"
 
-#include <optional>
-
 #include "base/code_page.h"
 #include "base/fault.h"
+#include "base/flag.h"
 #include "base/program_state.h"
 #include "base/text.h"
 #include "base/utf8.h"
@@ -13,32 +12,33 @@
 namespace horavex {
 
 std::string currentLanguage;
+std::int16_t languageFilesPresent = kFalse;
 
 namespace {
 
-const ProgramStateReset reset([] { currentLanguage.clear(); });
+const ProgramStateReset reset([] {
+    currentLanguage.clear();
+    languageFilesPresent = kFalse;
+});
 
-constexpr std::size_t kMessageBuffer = 1024;  // bytes, with the closing zero
+/// The name of the file without its folder and without what follows its last point.
+std::string BaseName(const std::string& path) {
+    const std::size_t name = path.find_last_of("\\/") + 1;  // 0 for a path without a folder
+    return path.substr(name, path.rfind('.') - name);
+}
 
-CodePage EightBitPage(const std::string& language) {
-    return AsciiLower(language) == "arabic" ? CodePage::kWindows1256 : CodePage::kWindows1252;
+CodePage EightBitPage(const std::string& packPath) {
+    return EqualsIgnoringCase(BaseName(packPath), "arabic") ? CodePage::kWindows1256
+                                                            : CodePage::kWindows1252;
 }
 
 /// A missing or unreadable pack is as good as an empty one.
-std::string ReadPack(const std::string& language) {
+std::string ReadPack(const std::string& packPath) {
     try {
-        return StringOf(Ports().programFolder.ReadWhole(LanguagePackPath(language)));
+        return StringOf(Ports().programFolder.ReadWhole(packPath));
     } catch (const FileFault&) {
         return {};
     }
-}
-
-std::string CutAndDecode(std::string_view value, std::size_t maxBytes, bool utf8) {
-    if (utf8) {
-        return std::string(Utf8Prefix(value, maxBytes));
-    }
-    return DecodeCodePage(BytesOf(std::string(value.substr(0, maxBytes))),
-                          EightBitPage(currentLanguage));
 }
 
 }  // namespace
@@ -47,16 +47,29 @@ std::string LanguagePackPath(const std::string& language) {
     return "\\lang\\" + language + ".ini";
 }
 
+std::string ReadPackString(const std::string& packPath, const std::string& section,
+                           const std::string& key, const std::string& defaultText,
+                           std::size_t bufferSize) {
+    const std::string pack = ReadPack(packPath);
+    const auto value = FindProfileValue(pack, section, key);
+    if (!value) {
+        return defaultText;
+    }
+    if (IsUtf8(pack)) {
+        return std::string(Utf8Prefix(*value, bufferSize - 1));
+    }
+    return DecodeCodePage(BytesOf(std::string(value->substr(0, bufferSize - 1))),
+                          EightBitPage(packPath));
+}
+
 std::string ReadPackString(const std::string& section, const std::string& key,
                            const std::string& defaultText, std::size_t bufferSize) {
-    const std::string pack = ReadPack(currentLanguage);
-    const auto value = FindProfileValue(pack, section, key);
-    return value ? CutAndDecode(*value, bufferSize - 1, IsUtf8(pack)) : defaultText;
+    return ReadPackString(LanguagePackPath(currentLanguage), section, key, defaultText, bufferSize);
 }
 
 std::string GetLangString(const std::string& section, const std::string& key,
                           const std::string& defaultText) {
-    return ReadPackString(section, key, defaultText, kMessageBuffer);
+    return ReadPackString(section, key, defaultText, kPackTextBuffer);
 }
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace horavex {
@@ -9,17 +10,31 @@ namespace horavex {
 /// lower case only. Written at start and by the language menu.
 extern std::string currentLanguage;
 
+/// Flag: the language menu has seen a pack, so that forms translate themselves at their load.
+/// Never cleared again.
+extern std::int16_t languageFilesPresent;
+
+/// Buffers that texts of a pack are read through, bytes with the closing zero: messages and
+/// captions, and the short names that go to the face.
+inline constexpr std::size_t kPackTextBuffer = 1024;
+inline constexpr std::size_t kPackNameBuffer = 255;
+
 /// Path of a pack in the program folder: "\lang\", the language and ".ini".
 std::string LanguagePackPath(const std::string& language);
 
-/// The value of a key in the current pack, or defaultText where the file, the section or the key
-/// is missing. The value is cut to bufferSize - 1 bytes of the file's own encoding, never inside
-/// a character. A pack that is valid UTF-8 is read as such; any other is Windows-1256 when its
-/// language is Arabic, else Windows-1252. The file is read anew on every call.
+/// The value of a key in the pack of that path, or defaultText where the file, the section or the
+/// key is missing. The value is cut to bufferSize - 1 bytes of the file's own encoding, never
+/// inside a character. A pack that is valid UTF-8 is read as such; any other is Windows-1256 when
+/// its base name is Arabic, in any case, else Windows-1252. The file is read anew on every call.
+std::string ReadPackString(const std::string& packPath, const std::string& section,
+                           const std::string& key, const std::string& defaultText,
+                           std::size_t bufferSize);
+
+/// The same of the current pack, whose path is made anew on every call.
 std::string ReadPackString(const std::string& section, const std::string& key,
                            const std::string& defaultText, std::size_t bufferSize);
 
-/// ReadPackString with the buffer of messages, 1024 bytes.
+/// A message of the current pack: ReadPackString with kPackTextBuffer.
 std::string GetLangString(const std::string& section, const std::string& key,
                           const std::string& defaultText);
 

@@ -4,6 +4,7 @@
 
 #include "base/fault.h"
 #include "base/text.h"
+#include "lang/pack_files.h"
 #include "lang/pack_keys.h"
 #include "lang/profile_file.h"
 #include "platform/platform.h"
@@ -12,16 +13,15 @@ namespace horavex {
 
 namespace {
 
-bool IsPackName(const std::string& name) {
-    return name.size() > 4 && EqualsIgnoringCase(name.substr(name.size() - 4), ".ini");
-}
+using Sections = std::vector<PackSection>;
 
 std::string KeyOf(const std::string& section, const std::string& key) {
     return "[" + section + "] " + key;
 }
 
-void CheckWanted(CheckReport& report, const std::string& file, const std::string& pack) {
-    for (const PackSection& section : PackVocabularies()) {
+void CheckWanted(CheckReport& report, const Sections& sections, const std::string& file,
+                 const std::string& pack) {
+    for (const PackSection& section : sections) {
         for (const std::string& key : section.keys) {
             const auto value = FindProfileValue(pack, section.name, key);
             report.Expect(value.has_value(),
@@ -32,26 +32,38 @@ void CheckWanted(CheckReport& report, const std::string& file, const std::string
     }
 }
 
-void CheckUnknown(CheckReport& report, const std::string& file, const std::string& pack) {
+bool IsRead(const Sections& sections, const ProfileEntry& entry) {
+    return std::ranges::any_of(sections, [&](const PackSection& section) {
+        return EqualsIgnoringCase(section.name, entry.section) &&
+               std::ranges::any_of(section.keys, [&](const std::string& key) {
+                   return EqualsIgnoringCase(key, entry.key);
+               });
+    });
+}
+
+void CheckUnknown(CheckReport& report, const Sections& sections, const std::string& file,
+                  const std::string& pack) {
     for (const ProfileEntry& entry : ListProfileEntries(pack)) {
-        const auto& sections = PackVocabularies();
-        const bool known =
-            std::any_of(sections.begin(), sections.end(), [&](const PackSection& section) {
-                return EqualsIgnoringCase(section.name, entry.section) &&
-                       std::any_of(section.keys.begin(), section.keys.end(),
-                                   [&](const std::string& key) {
-                                       return EqualsIgnoringCase(key, entry.key);
-                                   });
-            });
-        report.Expect(known, file + ": " + KeyOf(entry.section, entry.key) + " is read by nothing");
+        report.Expect(IsRead(sections, entry),
+                      file + ": " + KeyOf(entry.section, entry.key) + " is read by nothing");
     }
 }
 
-void CheckPack(CheckReport& report, const std::string& file) {
+// A name without its small ".ini" would end the language menu, and one of nothing else would
+// stand there as an empty line.
+void CheckName(CheckReport& report, const std::string& name) {
+    try {
+        report.Expect(!LanguageOfFile(name).empty(), "lang/" + name + ": has no name");
+    } catch (const BoundsFault& fault) {
+        report.Expect(false, std::string("lang/") + fault.what());
+    }
+}
+
+void CheckPack(CheckReport& report, const Sections& sections, const std::string& file) {
     try {
         const std::string pack = StringOf(Ports().programFolder.ReadWhole(file));
-        CheckWanted(report, file, pack);
-        CheckUnknown(report, file, pack);
+        CheckWanted(report, sections, file, pack);
+        CheckUnknown(report, sections, file, pack);
     } catch (const FileFault& fault) {
         report.Expect(false, file + ": " + fault.what());
     }
@@ -60,10 +72,10 @@ void CheckPack(CheckReport& report, const std::string& file) {
 }  // namespace
 
 void CheckLanguagePacks(CheckReport& report) {
-    for (const std::string& name : Ports().programFolder.List("lang")) {
-        if (IsPackName(name)) {
-            CheckPack(report, "lang/" + name);
-        }
+    const Sections sections = PackSections();
+    for (const std::string& name : ListLanguageFiles(".ini")) {
+        CheckName(report, name);
+        CheckPack(report, sections, "lang/" + name);
     }
 }
 

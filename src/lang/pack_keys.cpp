@@ -1,5 +1,8 @@
 #include "lang/pack_keys.h"
 
+#include "lang/form_language.h"
+#include "lang/pack_forms.h"
+
 namespace horavex {
 
 namespace {
@@ -30,6 +33,28 @@ std::vector<std::string> OtherKeys() {
 const std::vector<PackSection>& PackVocabularies() {
     static const std::vector<PackSection> sections = {
         {"msg", MessageKeys()}, {"other", OtherKeys()}, {"Azan", {"0", "2", "3", "4", "5"}}};
+    return sections;
+}
+
+std::vector<std::string> FormPackKeys(const Form& form) {
+    std::vector<std::string> keys = {form.Name()};
+    for (const Control* control : form.Controls()) {
+        if (!TakesPackTexts(*control)) {
+            continue;
+        }
+        keys.push_back(CaptionKey(*control));
+        if (HasToolTip(*control)) {
+            keys.push_back(ToolTipKey(*control));
+        }
+    }
+    return keys;
+}
+
+std::vector<PackSection> PackSections() {
+    std::vector<PackSection> sections = PackVocabularies();
+    for (const auto& form : PackForms()) {
+        sections.push_back({form->Name(), FormPackKeys(*form)});
+    }
     return sections;
 }
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "forms/form.h"
+
 namespace horavex {
 
 /// The keys that the program asks a pack for in one section.
@@ -14,5 +16,13 @@ struct PackSection {
 /// The vocabularies of a pack: messages, labels with the Hijri months and the prayer names, and
 /// the texts of the athan window.
 const std::vector<PackSection>& PackVocabularies();
+
+/// The keys of one form, as it stands: its own name for its caption, then in the order of its
+/// controls the caption of each that takes its texts from a pack, with the tooltip where the
+/// control has one.
+std::vector<std::string> FormPackKeys(const Form& form);
+
+/// The whole of a pack: the vocabularies, then a section for each of PackForms.
+std::vector<PackSection> PackSections();
 
 }  // namespace horavex

@@ -15,6 +15,9 @@ public:
     /// application's.
     virtual void ShowMessage(const std::string& text, const std::string& title,
                              MessageIcon icon) = 0;
+
+    /// The system's beep, which returns at once.
+    virtual void Beep() = 0;
 };
 
 }  // namespace horavex

@@ -3,11 +3,15 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
+#include "platform/face.h"
 #include "platform/files.h"
 #include "platform/instance_guard.h"
 #include "platform/program_folder.h"
 #include "platform/regional_formats.h"
 #include "platform/registry_store.h"
+#include "platform/shell.h"
+#include "platform/tray.h"
+#include "platform/windows.h"
 
 namespace horavex {
 
@@ -22,6 +26,10 @@ struct Platform {
     Dialogs& dialogs;
     RegistryStore& registry;
     InstanceGuard& instanceGuard;
+    Face& face;
+    Windows& windows;
+    Tray& tray;
+    Shell& shell;
 };
 
 /// Installs the ports; nullptr takes them away again.

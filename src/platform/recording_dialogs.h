@@ -20,7 +20,10 @@ public:
         messages.push_back({text, title, icon});
     }
 
+    void Beep() override { ++beeps; }
+
     std::vector<Message> messages;
+    int beeps = 0;
 };
 
 }  // namespace horavex

@@ -38,6 +38,10 @@ bool LoadIshaAngle() {
     return firstRun;
 }
 
+void ReloadIshaAngle() {
+    IshaAngle = ReadAngle("-1");
+}
+
 void PeekIshaAngle() {
     const double stored = ReadAngle(kFirstIshaAngle);
     IshaAngle = stored < 0.0 ? TextToNumber(kFirstIshaAngle) : stored;

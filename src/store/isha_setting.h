@@ -10,6 +10,9 @@ inline constexpr const char* kFirstIshaAngle = "18";
 /// "18" is written, and the value is read again. Returns whether this is a first run.
 bool LoadIshaAngle();
 
+/// Reads IshaAngle again as the settings window's close box does; -1 where none is stored.
+void ReloadIshaAngle();
+
 /// Reads IshaAngle without writing anything; 18 where a start would make it a first run.
 void PeekIshaAngle();
 

@@ -6,6 +6,7 @@
 #include "base/program_state.h"
 #include "engine/day_driver.h"
 #include "linux/posix_files.h"
+#include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
 #include "platform/fixed_instance_guard.h"
 #include "platform/manual_clock.h"
@@ -22,6 +23,8 @@ class QuietHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override {}
+    void RunSetAction() override {}
+    void SetFlashVariables() override {}
 };
 
 /// A fresh process over the program folder that the build has compiled; everything else is in
@@ -49,7 +52,12 @@ private:
     FixedFormats formats_;
     MemoryRegistry registry_;
     FixedInstanceGuard instanceGuard_;
-    Platform platform_{clock_, loop_, files, folder, formats_, dialogs, registry_, instanceGuard_};
+    AbsentFace face_;
+    AbsentWindows windows_;
+    AbsentTray tray_;
+    AbsentShell shell_;
+    Platform platform_{clock_,    loop_,          files, folder,   formats_, dialogs,
+                       registry_, instanceGuard_, face_, windows_, tray_,    shell_};
 };
 
 }  // namespace horavex

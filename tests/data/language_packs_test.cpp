@@ -22,12 +22,14 @@ std::string English(const char* section, const char* key) {
     return GetLangString(section, key, "");
 }
 
-TEST_F(LanguagePacks, EnglishAndArabicAreThere) {
-    EXPECT_THAT(folder.List("lang"), testing::UnorderedElementsAre("English.ini", "Arabic.ini"));
+TEST_F(LanguagePacks, FiveAreThere) {
+    EXPECT_THAT(folder.List("lang"),
+                testing::UnorderedElementsAre("Arabic.ini", "English.ini", "French.ini",
+                                              "German.ini", "Spanish.ini"));
 }
 
 TEST_F(LanguagePacks, EveryKeyThatIsReadHasAText) {
-    for (const char* language : {"English", "Arabic"}) {
+    for (const char* language : {"Arabic", "English", "French", "German", "Spanish"}) {
         currentLanguage = language;
         for (const PackSection& section : PackVocabularies()) {
             for (const std::string& key : section.keys) {

@@ -1,8 +1,15 @@
 #include "engine/day_driver.h"
 
+#include "base/fault.h"
 #include "engine/angle.h"
+#include "engine/day_state.h"
+#include "engine/progress.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
+#include "engine/wait.h"
+#include "windows/f_message.h"
+#include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
 namespace {
@@ -33,6 +40,152 @@ TEST_F(RecalculateYearTest, ReportsEveryDayOfALeapYear) {
     Calculate(2024);
     EXPECT_EQ(host.percents.size(), 366U);
     EXPECT_EQ(LeapFlag, 1);
+}
+
+/// Clock, row of the table and labels of a Saturday in Cairo.
+struct DayTest : EngineTest {
+    DayTest() {
+        Cairo();
+        LastRefreshDate = platform.clock.Today();
+    }
+
+    void At(int month, int day, int hour, int minute, int second) {
+        platform.clock.Set(DateSerial(2026, month, day) + TimeSerial(hour, minute, second));
+        LastRefreshDate = platform.clock.Today();
+    }
+};
+
+using RefreshAllTest = DayTest;
+
+TEST_F(RefreshAllTest, StaysUpForThreeSecondsHoweverFast) {
+    const double before = platform.clock.SteadySeconds();
+    RefreshAll();
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 3.0, 0.02);
+    EXPECT_FALSE(fMessage->IsLoaded());
+}
+
+TEST_F(RefreshAllTest, SlowCalculationWaitsNoLonger) {
+    platform.loop.AtPump(1, [] {});
+    struct SlowHost : RecordingHost {
+        explicit SlowHost(ManualClock& c) : clock(c) {}
+        void ReportProgress(double) override { clock.Advance(0.1); }
+        ManualClock& clock;
+    } slow(platform.clock);
+    InstallDayHost(&slow);
+    const double before = platform.clock.SteadySeconds();
+    RefreshAll();
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 36.5, 0.02);
+}
+
+TEST_F(RefreshAllTest, TakesTheYearOfNow) {
+    RefreshAll();
+    EXPECT_EQ(CurrentYear, 2026);
+    EXPECT_EQ(TodayDate, DateSerial(2026, 11, 21));
+}
+
+TEST_F(RefreshAllTest, EnablesTheSettingsWindowAfterASuccessOnly) {
+    HoravexMainForm->SetEnabled(false);
+    London(18.0, 17.0);
+    RefreshAll();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_FALSE(HoravexMainForm->Enabled());
+    EXPECT_FALSE(fMessage->IsLoaded()) << "the progress window closes all the same";
+    Cairo();
+    RefreshAll();
+    EXPECT_EQ(CalcFailed, 0);
+    EXPECT_TRUE(HoravexMainForm->Enabled());
+}
+
+TEST_F(RefreshAllTest, FailedCalculationStillShowsTheDay) {
+    London(18.0, 17.0);
+    RefreshAll();
+    EXPECT_EQ(host.faces, 1);
+    EXPECT_NE(frmMain->lblTime(0).Caption(), "");
+}
+
+using ShowDayTest = DayTest;
+
+TEST_F(ShowDayTest, FillsLabelsAndFractions) {
+    RefreshAll();
+    EXPECT_EQ(frmMain->lblTime(kZuhr).Caption(), "11:40 AM");
+    EXPECT_DOUBLE_EQ(TodayTimes[kZuhr], Times[kZuhr][324] / 24.0);
+    EXPECT_EQ(frmMain->lblDate.Caption(), "Saturday, November 21, 2026");
+    EXPECT_EQ(frmMain->lblCurrTime.Caption(), "12:00:00 PM");
+    EXPECT_THAT(frmMain->lblNextAthan.Caption(), testing::HasSubstr("2:3"));
+    EXPECT_EQ(host.faces, 1);
+}
+
+TEST_F(ShowDayTest, NextPrayerIsFilledOnlyWhileItIsNotYetSet) {
+    NextPrayer = -1;
+    RefreshAll();
+    EXPECT_EQ(NextPrayer, 3);
+    At(11, 21, 23, 0, 0);
+    ShowDay();
+    EXPECT_EQ(NextPrayer, 3);
+}
+
+TEST_F(ShowDayTest, GapOfOneDayRefreshesNothing) {
+    RefreshAll();
+    platform.clock.Set(DateSerial(2026, 11, 22) + 0.5);
+    ShowDay();
+    EXPECT_EQ(host.setActions, 0);
+    EXPECT_EQ(LastRefreshDate, DateSerial(2026, 11, 21));
+    EXPECT_EQ(TodayDate, DateSerial(2026, 11, 22));
+}
+
+TEST_F(ShowDayTest, GapOfTwoDaysEitherWayRunsTheSetAction) {
+    RefreshAll();
+    platform.clock.Set(DateSerial(2026, 11, 23) + 0.5);
+    ShowDay();
+    EXPECT_EQ(host.setActions, 1);
+    EXPECT_EQ(LastRefreshDate, DateSerial(2026, 11, 23));
+    platform.clock.Set(DateSerial(2026, 11, 20) + 0.5);
+    ShowDay();
+    EXPECT_EQ(host.setActions, 2);
+}
+
+TEST_F(ShowDayTest, DayOutsideTheTableIsAFault) {
+    RefreshAll();
+    CurrentYear = 2020;
+    EXPECT_THROW(ShowDay(), BoundsFault);
+    CurrentYear = 2027;
+    EXPECT_THROW(ShowDay(), BoundsFault);
+}
+
+TEST_F(ShowDayTest, TimeThatDoesNotExistShowsTheTimeOfAFarDate) {
+    RefreshAll();
+    Times[kAsr][324] = NoEvent;
+    ShowDay();
+    EXPECT_EQ(frmMain->lblTime(kAsr).Caption(), "04:00 PM");  // 10,000,000 hours
+}
+
+TEST(WaitSeconds, SpanOfNothingReturnsAtOnce) {
+    TestPlatform platform;
+    WaitSeconds(0.0);
+    WaitSeconds(-1.0);
+    EXPECT_EQ(platform.loop.Rests(), 0);
+    EXPECT_EQ(platform.loop.Pumps(), 0);
+}
+
+TEST(WaitSeconds, DeliversEventsMeanwhile) {
+    TestPlatform platform;
+    int delivered = 0;
+    platform.loop.After(0.5, [&] { ++delivered; });
+    platform.loop.After(1.5, [&] { ++delivered; });
+    WaitSeconds(1.0 / 86400.0);
+    EXPECT_EQ(delivered, 1);
+}
+
+TEST(ReportProgress, FillsTheBarFromTheLeft) {
+    TestPlatform platform;
+    fMessage->Load();
+    ReportProgress(25.0);
+    ASSERT_EQ(fMessage->picProgress.drawing.size(), 1U);
+    const auto& box = std::get<PolygonStep>(fMessage->picProgress.drawing[0]);
+    EXPECT_EQ(box.fill, (Colour{250, 250, 250}));
+    EXPECT_EQ(box.corners[0].x, 0.0);
+    EXPECT_DOUBLE_EQ(box.corners[2].x, fMessage->picProgress.Width() / 4.0);
+    EXPECT_EQ(platform.loop.Pumps(), 1);
 }
 
 }  // namespace

@@ -16,9 +16,13 @@ class RecordingHost : public DayHost {
 public:
     void ReportProgress(double percent) override { percents.push_back(percent); }
     void ComputeQibla() override { ++qiblas; }
+    void RunSetAction() override { ++setActions; }
+    void SetFlashVariables() override { ++faces; }
 
     std::vector<double> percents;
     int qiblas = 0;
+    int setActions = 0;
+    int faces = 0;
 };
 
 /// A fresh process with an empty text table and a place to calculate for.

@@ -7,6 +7,7 @@
 #include "platform/memory_files.h"
 #include "platform/memory_registry.h"
 #include "platform/platform.h"
+#include "platform/recording_desktop.h"
 #include "platform/recording_dialogs.h"
 #include "platform/scripted_event_loop.h"
 
@@ -32,10 +33,15 @@ public:
     RecordingDialogs dialogs;
     MemoryRegistry registry;
     FixedInstanceGuard instanceGuard;
+    DesktopLog desktop;
+    RecordingFace face{desktop};
+    RecordingWindows windows{desktop};
+    RecordingTray tray{desktop};
+    RecordingShell shell{desktop};
 
 private:
-    Platform platform_{clock,   loop,    failingFiles, folder,
-                       formats, dialogs, registry,     instanceGuard};
+    Platform platform_{clock,    loop,          failingFiles, folder,  formats, dialogs,
+                       registry, instanceGuard, face,         windows, tray,    shell};
 };
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
 #include "platform/fixed_instance_guard.h"
 #include "platform/manual_clock.h"
@@ -34,8 +35,12 @@ private:
     RecordingDialogs dialogs_;
     MemoryRegistry registry_;
     FixedInstanceGuard instanceGuard_;
-    Platform platform_{clock_,   loop_,    files,     folder_,
-                       formats_, dialogs_, registry_, instanceGuard_};
+    AbsentFace face_;
+    AbsentWindows windows_;
+    AbsentTray tray_;
+    AbsentShell shell_;
+    Platform platform_{clock_,    loop_,          files, folder_,  formats_, dialogs_,
+                       registry_, instanceGuard_, face_, windows_, tray_,    shell_};
 };
 
 }  // namespace horavex

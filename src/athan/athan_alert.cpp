@@ -1,0 +1,75 @@
+#include "athan/athan_alert.h"
+
+#include "athan/athan_state.h"
+#include "base/flag.h"
+#include "engine/wait.h"
+#include "engine/year_table.h"
+#include "platform/platform.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+#include "windows/f_message.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::int16_t kAlarm = 7;
+constexpr double kAlarmStepsPerDay = 288.0;
+constexpr double kBeforeSound = 2.0;  // seconds
+constexpr double kAfterBeep = 3.0;    // seconds
+constexpr double kHold = 12.504;      // seconds; 20 beeps and 20 holds make about 310
+constexpr int kRepeats = 20;
+
+void WaitUntil(double start, double seconds) {
+    WaitSeconds((seconds - (Ports().clock.SteadySeconds() - start)) / kSecondsPerDay);
+}
+
+void ShowAlarmMessage() {
+    fMessage->Load();
+    fMessage->cmdAlarmClose.SetVisible(true);
+    fMessage->CmdCancel.SetCaption("Cancel");
+    fMessage->CmdCancel.SetVisible(false);
+    fMessage->SetCaption("Horavex Prayer Time Software ");
+    fMessage->Shape1.SetVisible(false);
+    fMessage->lblMessage2.SetCaption(
+        Ports().formats.MediumTime(ActiveSettings.AlarmTime / kAlarmStepsPerDay) + " : " +
+        TextItem(53, ActiveSettings.Language));
+    fMessage->Show();
+}
+
+void BeepUntilDismissed() {
+    for (int i = 0; i < kRepeats && alarmDismissed == kFalse; ++i) {
+        Ports().dialogs.Beep();
+        WaitSeconds(kAfterBeep / kSecondsPerDay);
+    }
+}
+
+void HoldUntilDismissed() {
+    for (int i = 0; i < kRepeats && alarmDismissed == kFalse; ++i) {
+        WaitSeconds(kHold / kSecondsPerDay);
+    }
+}
+
+void SoundAlarm(double start) {
+    ShowAlarmMessage();
+    WaitUntil(start, kBeforeSound);
+    BeepUntilDismissed();
+    HoldUntilDismissed();
+    fMessage->Unload();
+}
+
+}  // namespace
+
+void sub04F9(std::int16_t index) {
+    if (index == static_cast<std::int16_t>(kShurooq)) {
+        return;
+    }
+    const double start = Ports().clock.SteadySeconds();
+    if (index == kAlarm) {
+        SoundAlarm(start);
+    }
+    HoravexMainForm->SetEnabled(true);
+}
+
+}  // namespace horavex

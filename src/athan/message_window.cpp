@@ -1,0 +1,47 @@
+#include "athan/message_window.h"
+
+#include "athan/athan_state.h"
+#include "base/flag.h"
+#include "lang/form_language.h"
+#include "store/cancel_load.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+#include "windows/f_message.h"
+
+namespace horavex {
+
+namespace {
+
+void fMessage_Load() {
+    TranslateOnLoad(*fMessage);
+    fMessage->SetCaption("Horavex Prayer Time Software ");
+    fMessage->CmdCancel.SetCaption(TextItem(27, ActiveSettings.Language));
+    alarmDismissed = kFalse;
+}
+
+void cmdAlarmClose_Click() {
+    alarmDismissed = kTrue;
+    fMessage->Unload();
+}
+
+void CmdCancel_Click() {
+    alarmDismissed = kTrue;
+}
+
+/// A user who closes the window cancels the list that is being filled.
+void fMessage_QueryUnload(const CloseRequest& request) {
+    if (request.reason == CloseReason::kUser) {
+        CancelLoad = kTrue;
+    }
+}
+
+}  // namespace
+
+void BindMessageWindow() {
+    fMessage->onLoad = fMessage_Load;
+    fMessage->onCloseRequest = fMessage_QueryUnload;
+    fMessage->cmdAlarmClose.onClick = cmdAlarmClose_Click;
+    fMessage->CmdCancel.onClick = CmdCancel_Click;
+}
+
+}  // namespace horavex

@@ -1,0 +1,233 @@
+#include "config/settings_controls.h"
+
+#include <cmath>
+
+#include "base/fault.h"
+#include "base/flag.h"
+#include "base/int16.h"
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "base/text.h"
+#include "config/settings_display.h"
+#include "engine/current_year.h"
+#include "platform/platform.h"
+#include "store/angle_band.h"
+#include "store/cancel_load.h"
+#include "store/location_record.h"
+#include "store/location_text.h"
+#include "store/settings_defaults.h"
+#include "store/settings_files.h"
+#include "store/settings_record.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kQuarter = 0.25;      // degrees a step of the fine sliders
+constexpr double kRefusedZone = 13.0;  // hours; what rounds to this or more is thrown out
+
+/// Options that a record names but the window does not have stay unselected.
+void Select(const ControlArray<OptionButton>& options, int index) {
+    if (options.Contains(index)) {
+        options(index).SetValue(true);
+    }
+}
+
+void ShowAngle(double angle, ScrollBar& whole, Slider& quarters) {
+    const double floor = std::floor(angle);
+    whole.SetValue(static_cast<int>(floor));
+    quarters.SetValue(static_cast<int>(RoundHalfEven(std::fabs(angle - floor) / kQuarter)));
+}
+
+/// Moving the sliders writes their clipped values; the remembered angles come back last.
+void ShowAngles(double fajrAngle, double ishaAngle) {
+    SettingsForm& form = *HoravexMainForm;
+    ShowAngle(fajrAngle, form.hsDepr, form.hsDepr1);
+    ShowAngle(ishaAngle, form.hsDepr2, form.hsDepr21);
+    Settings.FajrAngle = fajrAngle;
+    IshaAngle = ishaAngle;
+    sub06FB();
+}
+
+void ShowAlarmAndDaylight() {
+    SettingsForm& form = *HoravexMainForm;
+    form.chkDayLT.SetValue(Settings.DstEnabled);
+    form.chkAlarm.SetValue(Settings.AlarmEnabled);
+    form.hsAlarm.SetValue(Settings.AlarmTime);
+    ShowDaylightDays();
+    sub0690();
+    sub06C6();
+    sub071C();
+    sub0602();
+    sub05CD();
+}
+
+void ShowLanguage() {
+    if (Settings.Language >= 1 && Settings.Language <= HoravexMainForm->lstLanguage.ListCount()) {
+        HoravexMainForm->lstLanguage.SetListIndex(Settings.Language - 1);
+    }
+}
+
+void ShowSettings(double fajrAngle, double ishaAngle) {
+    SettingsForm& form = *HoravexMainForm;
+    Select(form.optAsrRatio, static_cast<int>(RoundHalfEven(Settings.AsrRatio)));
+    Select(form.optAthanType, Settings.AthanType);
+    Select(form.optQiblaMethod, Settings.QiblaMethod);
+    ShowAngles(fajrAngle, ishaAngle);
+    ShowAlarmAndDaylight();
+    ShowLanguage();
+}
+
+void hsDepr_Change() {
+    const SettingsForm& form = *HoravexMainForm;
+    Settings.FajrAngle = form.hsDepr.Value() + kQuarter * form.hsDepr1.Value();
+    sub06FB();
+}
+
+void hsDepr2_Change() {
+    const SettingsForm& form = *HoravexMainForm;
+    IshaAngle = form.hsDepr2.Value() + kQuarter * form.hsDepr21.Value();
+    sub06FB();
+}
+
+void hsBegin_Change() {
+    Settings.DstStart = ToInt16(HoravexMainForm->hsBegin.Value() + 1);
+    sub06C6();
+}
+
+void hsEnd_Change() {
+    Settings.DstEnd = ToInt16(HoravexMainForm->hsEnd.Value() + 1);
+    sub071C();
+}
+
+void hsAlarm_Change() {
+    Settings.AlarmTime = ToInt16(HoravexMainForm->hsAlarm.Value());
+    sub0690();
+}
+
+void chkDayLT_Click() {
+    Settings.DstEnabled = ToInt16(HoravexMainForm->chkDayLT.Value());
+    sub0602();
+}
+
+void chkAlarm_Click() {
+    Settings.AlarmEnabled = ToInt16(HoravexMainForm->chkAlarm.Value());
+    sub05CD();
+}
+
+void lstLanguage_Click() {
+    Settings.Language = ToInt16(HoravexMainForm->lstLanguage.ListIndex() + 1);
+    TranslateSettingsWindow(Settings.Language);
+    sub06FB();
+    HoravexMainForm->SetHelpContextId(Settings.Language * 1000 + 200);
+}
+
+void txtTimeZone_Change() {
+    if (!Trim(HoravexMainForm->txtTimeZone.Text()).empty()) {
+        HoravexMainForm->SettingsSet.SetEnabled(true);
+    }
+}
+
+void txtTimeZone_GotFocus() {
+    HoravexMainForm->lastTimeZoneText = HoravexMainForm->txtTimeZone.Text();
+}
+
+/// A lone sign is no number and goes at once: digits come first, the sign afterwards.
+void txtTimeZone_KeyUp() {
+    TextBox& box = HoravexMainForm->txtTimeZone;
+    const bool fits =
+        IsNumeric(box.Text()) && RoundHalfEven(std::fabs(TextToNumber(box.Text()))) < kRefusedZone;
+    if (!fits) {
+        box.SetText(HoravexMainForm->lastTimeZoneText);
+    }
+}
+
+void cmdDefault_Click() {
+    ApplyDefaultSettings(Ports().clock.Today());
+    HoravexMainForm->txtTimeZone.SetText(std::to_string(ZoneNearest));
+    sub0651();
+}
+
+/// The display follows the thumb while it is dragged.
+void BindRange(MovableRange& range, void (*change)()) {
+    range.onChange = change;
+    range.onScroll = change;
+}
+
+/// Each option of an array writes its index.
+void BindOptions(ControlArray<OptionButton>& options, void (*write)(std::int16_t index)) {
+    options.Bind([write](OptionButton& option) {
+        option.onClick = [write, &option] { write(ToInt16(option.Index())); };
+    });
+}
+
+}  // namespace
+
+void Settings_Form_Load() {
+    CancelLoad = kFalse;
+    CurrentYear = ToInt16(CivilFromDate(Ports().clock.Today()).year);
+    LeapYearFlag();
+    CopyActiveToWorking();
+    HoravexMainForm->lblCity.SetCaption(ActiveCityText);
+    ShowTimeZone();
+    ShowLocationInWindow();
+    LoadQiblaLabels();
+    SetDepressionLimits(Location.City.Latitude);
+    // The ranges may have clipped the sliders, whose change wrote their values.
+    Settings.FajrAngle = ActiveSettings.FajrAngle;
+    LoadSettingsIntoControls();
+}
+
+void SetDepressionLimits(std::int16_t latitude) {
+    try {
+        LoadAngleBand(latitude);
+    } catch (const FileFault&) {
+        // Without the file the limits stay as they were.
+    }
+    SettingsForm& form = *HoravexMainForm;
+    for (ScrollBar* bar : {&form.hsDepr, &form.hsDepr2}) {
+        bar->SetMin(AngleBand.smallest);
+        bar->SetMax(AngleBand.largest);
+    }
+    for (Label* label : {&form.lblDeprMin, &form.Label7}) {
+        label->SetCaption(std::to_string(AngleBand.smallest));
+    }
+    for (Label* label : {&form.lblDeprMax, &form.Label6}) {
+        label->SetCaption(std::to_string(AngleBand.largest));
+    }
+}
+
+void LoadSettingsIntoControls() {
+    const double fajrAngle = Settings.FajrAngle;
+    const double ishaAngle = IshaAngle;
+    LoadWorkingSettings();
+    ShowSettings(fajrAngle, ishaAngle);
+}
+
+void sub0651() {
+    ShowSettings(Settings.FajrAngle, IshaAngle);
+}
+
+void BindSettingsControls() {
+    SettingsForm& form = *HoravexMainForm;
+    BindRange(form.hsDepr, hsDepr_Change);
+    BindRange(form.hsDepr1, hsDepr_Change);
+    BindRange(form.hsDepr2, hsDepr2_Change);
+    BindRange(form.hsDepr21, hsDepr2_Change);
+    BindRange(form.hsBegin, hsBegin_Change);
+    BindRange(form.hsEnd, hsEnd_Change);
+    BindRange(form.hsAlarm, hsAlarm_Change);
+    BindOptions(form.optAsrRatio, [](std::int16_t index) { Settings.AsrRatio = index; });
+    BindOptions(form.optAthanType, [](std::int16_t index) { Settings.AthanType = index; });
+    BindOptions(form.optQiblaMethod, [](std::int16_t index) { Settings.QiblaMethod = index; });
+    form.chkDayLT.onClick = chkDayLT_Click;
+    form.chkAlarm.onClick = chkAlarm_Click;
+    form.lstLanguage.onClick = lstLanguage_Click;
+    form.txtTimeZone.onChange = txtTimeZone_Change;
+    form.txtTimeZone.onGotFocus = txtTimeZone_GotFocus;
+    form.txtTimeZone.onKeyUp = txtTimeZone_KeyUp;
+    form.cmdDefault.onClick = cmdDefault_Click;
+}
+
+}  // namespace horavex

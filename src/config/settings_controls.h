@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+
+namespace horavex {
+
+/// Fills the settings window from the accepted state: the working copy of settings and place,
+/// the texts of the place, the ranges of the angles, and every control.
+void Settings_Form_Load();
+
+/// Takes the band of a latitude (stored hundredths of a degree) and sets the ranges of the angle
+/// controls and the labels of their limits. Without a band file the former band stays.
+void SetDepressionLimits(std::int16_t latitude);
+
+/// Reads the stored working settings back and shows them, but keeps both angles.
+void LoadSettingsIntoControls();
+
+/// Shows the present working settings in every control.
+void sub0651();
+
+/// Binds the handlers of the settings window's controls.
+void BindSettingsControls();
+
+}  // namespace horavex

@@ -1,0 +1,73 @@
+#include "config/startup_entry.h"
+
+#include <string>
+
+#include "base/fault.h"
+#include "base/int16.h"
+#include "base/number_text.h"
+#include "engine/angle.h"
+#include "platform/platform.h"
+#include "store/register.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kEntryName = "ZORIT";
+constexpr const char* kValueName = "ADD TO STARTUP";
+
+/// The stored wish as a whole number; a text that is none is a fault.
+std::int16_t ReadWish(const std::string& defaultValue) {
+    std::string text;
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kValueName, defaultValue, text);
+    return RoundToInt16(TextToNumber(text));
+}
+
+}  // namespace
+
+void AddStartupShortcut() {
+    Ports().shell.WriteStartupEntry(kEntryName);
+}
+
+void RemoveStartupShortcut() {
+    Shell& shell = Ports().shell;
+    if (!shell.HasStartupEntry(kEntryName)) {
+        return;
+    }
+    try {
+        shell.DeleteStartupEntry(kEntryName);
+    } catch (const FileFault&) {
+        // The misspelt word is the message's own.
+        Ports().dialogs.ShowMessage(
+            "Error deleteing file: " + shell.StartupEntryPath(kEntryName) + Crlf, "",
+            MessageIcon::kNone);
+    }
+}
+
+void chkAddToStartup_Click() {
+    const int value = HoravexMainForm->chkAddToStartup.Value();
+    if (value == 1) {
+        AddStartupShortcut();
+    } else {
+        RemoveStartupShortcut();
+    }
+    std::int32_t result = 0;
+    CRegister().REGSaveSetting(kLocalMachine, kSettingsKey, kValueName, std::to_string(value),
+                               result);
+}
+
+void LoadStartupWish() {
+    HoravexMainForm->chkAddToStartup.SetValue(ReadWish("1"));
+    if (ReadWish("0") == 1) {
+        AddStartupShortcut();
+    }
+}
+
+void KeepStartupEntry() {
+    if (HoravexMainForm->chkAddToStartup.Value() == 1) {
+        AddStartupShortcut();
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "base/date.h"
+#include "engine/year_table.h"
+
+namespace horavex {
+
+/// Today's six times as fractions of a day. Written by ShowDay, and by the day browser, which
+/// the next tick repairs.
+extern std::array<double, kPrayerCount> TodayTimes;
+
+/// Index of the prayer that comes next, 6 for none left; -1 is not yet set. ShowDay fills it
+/// while it is -1; the clock counts it on.
+extern std::int16_t NextPrayer;
+
+/// Day of the last ShowDay, and of the last refresh after a longer gap.
+extern Date TodayDate;
+extern Date LastRefreshDate;
+
+}  // namespace horavex

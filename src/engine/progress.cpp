@@ -1,0 +1,24 @@
+#include "engine/progress.h"
+
+#include "platform/platform.h"
+#include "windows/f_message.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr Colour kBarColour{250, 250, 250};
+
+}  // namespace
+
+void ReportProgress(double percent) {
+    Picture& bar = fMessage->picProgress;
+    const double right = bar.Width() * percent / 100.0;
+    const double bottom = bar.Height();
+    bar.drawing = {PolygonStep{
+        {{0.0, 0.0}, {right, 0.0}, {right, bottom}, {0.0, bottom}}, kBarColour, {kBarColour, 1}}};
+    bar.Refresh();
+    Ports().eventLoop.Pump();
+}
+
+}  // namespace horavex

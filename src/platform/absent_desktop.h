@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/face.h"
+#include "platform/shell.h"
+#include "platform/tray.h"
+#include "platform/windows.h"
+
+namespace horavex {
+
+// The desktop's ports of a front end that has no desktop: nothing shows and nothing happens.
+
+class AbsentFace : public Face {
+public:
+    void LoadMovie(int, const std::string&) override {}
+    void SetVariable(const std::string&, const std::string&) override {}
+    void Play() override {}
+    void Place(double, double) override {}
+};
+
+class AbsentWindows : public Windows {
+public:
+    ScreenSize Screen() override { return {0.0, 0.0}; }
+    void StartDrag(const std::string&) override {}
+    void PopUpMenu(const std::string&, const std::string&, int, int) override {}
+};
+
+class AbsentTray : public Tray {
+public:
+    void Add(const std::string&) override {}
+    void Remove() override {}
+    void SetTip(const std::string&) override {}
+};
+
+class AbsentShell : public Shell {
+public:
+    void OpenDateTimeTool() override {}
+    void WriteStartupEntry(const std::string&) override {}
+    bool HasStartupEntry(const std::string&) override { return false; }
+    void DeleteStartupEntry(const std::string&) override {}
+    std::string StartupEntryPath(const std::string&) override { return {}; }
+};
+
+}  // namespace horavex

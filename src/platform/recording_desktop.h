@@ -1,0 +1,109 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/face.h"
+#include "platform/shell.h"
+#include "platform/tray.h"
+#include "platform/windows.h"
+
+namespace horavex {
+
+/// Writes down in one list, in order, what the ports of the desktop are asked for.
+struct DesktopLog {
+    std::vector<std::string> calls;
+
+    void Note(std::string call) { calls.push_back(std::move(call)); }
+};
+
+class RecordingFace : public Face {
+public:
+    explicit RecordingFace(DesktopLog& log) : log_(log) {}
+
+    void LoadMovie(int layer, const std::string& url) override {
+        log_.Note("LoadMovie " + std::to_string(layer) + " " + url);
+    }
+    void SetVariable(const std::string& name, const std::string& value) override {
+        variables.emplace_back(name, value);
+    }
+    void Play() override { log_.Note("Play"); }
+    void Place(double left, double top) override {
+        log_.Note("Place " + std::to_string(static_cast<int>(left)) + " " +
+                  std::to_string(static_cast<int>(top)));
+    }
+
+    /// The last value of a variable; empty where it was never set.
+    std::string Value(const std::string& name) const {
+        for (auto it = variables.rbegin(); it != variables.rend(); ++it) {
+            if (it->first == name) {
+                return it->second;
+            }
+        }
+        return {};
+    }
+
+    std::vector<std::pair<std::string, std::string>> variables;  // in the order of setting
+
+private:
+    DesktopLog& log_;
+};
+
+class RecordingWindows : public Windows {
+public:
+    explicit RecordingWindows(DesktopLog& log) : log_(log) {}
+
+    ScreenSize Screen() override { return screen; }
+    void StartDrag(const std::string& form) override { log_.Note("StartDrag " + form); }
+    void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) override {
+        log_.Note("PopUpMenu " + form + " " + menu + " " + std::to_string(x) + " " +
+                  std::to_string(y));
+    }
+
+    ScreenSize screen{19200.0, 10800.0};
+
+private:
+    DesktopLog& log_;
+};
+
+class RecordingTray : public Tray {
+public:
+    explicit RecordingTray(DesktopLog& log) : log_(log) {}
+
+    void Add(const std::string& tip) override { log_.Note("TrayAdd " + tip); }
+    void Remove() override { log_.Note("TrayRemove"); }
+    void SetTip(const std::string& tip) override { log_.Note("TraySetTip " + tip); }
+
+private:
+    DesktopLog& log_;
+};
+
+class RecordingShell : public Shell {
+public:
+    explicit RecordingShell(DesktopLog& log) : log_(log) {}
+
+    void OpenDateTimeTool() override { log_.Note("OpenDateTimeTool"); }
+    void WriteStartupEntry(const std::string& baseName) override {
+        log_.Note("WriteStartupEntry " + baseName);
+        startupEntries.insert(baseName);
+    }
+    bool HasStartupEntry(const std::string& baseName) override {
+        return startupEntries.contains(baseName);
+    }
+    void DeleteStartupEntry(const std::string& baseName) override {
+        log_.Note("DeleteStartupEntry " + baseName);
+        startupEntries.erase(baseName);
+    }
+    std::string StartupEntryPath(const std::string& baseName) override {
+        return "/startup/" + baseName;
+    }
+
+    std::set<std::string> startupEntries;
+
+private:
+    DesktopLog& log_;
+};
+
+}  // namespace horavex

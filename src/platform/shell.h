@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// The desktop's own services.
+class Shell {
+public:
+    virtual ~Shell() = default;
+
+    /// Opens the system's tool for date and time; nothing where there is none.
+    virtual void OpenDateTimeTool() = 0;
+
+    /// The entry with which the user's session starts this program. Writing it again renews it.
+    /// Throw FileFault where the entry cannot be written or deleted.
+    virtual void WriteStartupEntry(const std::string& baseName) = 0;
+    virtual bool HasStartupEntry(const std::string& baseName) = 0;
+    virtual void DeleteStartupEntry(const std::string& baseName) = 0;
+
+    /// What a message calls the entry.
+    virtual std::string StartupEntryPath(const std::string& baseName) = 0;
+};
+
+}  // namespace horavex

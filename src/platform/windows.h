@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+struct ScreenSize {
+    double width;   // twips
+    double height;  // twips
+};
+
+/// What windows need of the desktop beyond the life of their forms. Forms and menus are named as
+/// the system names them. Never fails; a compositor that refuses leaves things as they are.
+class Windows {
+public:
+    virtual ~Windows() = default;
+
+    /// The screen that the program's face is on.
+    virtual ScreenSize Screen() = 0;
+
+    /// Lets the user move the form with the mouse button that is down.
+    virtual void StartDrag(const std::string& form) = 0;
+
+    /// Opens a menu of the form at a place of its inside, in pixels, and returns when it is
+    /// closed again.
+    virtual void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) = 0;
+};
+
+}  // namespace horavex

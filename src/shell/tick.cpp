@@ -1,0 +1,99 @@
+#include "shell/tick.h"
+
+#include <optional>
+#include <vector>
+
+#include "athan/athan_alert.h"
+#include "athan/athan_state.h"
+#include "base/flag.h"
+#include "base/rounding.h"
+#include "engine/current_year.h"
+#include "engine/day_driver.h"
+#include "engine/day_state.h"
+#include "forms/modal_loop.h"
+#include "platform/platform.h"
+#include "store/settings_record.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kMatchWindow = 10.0;  // seconds in which a moment counts as arrived
+constexpr double kAlarmStepsPerDay = 288.0;
+constexpr std::int16_t kAlarm = 7;
+
+/// Depth of modal loops at which each unfinished tick runs, the innermost last.
+std::vector<int> runningTicks;
+
+struct RunningTick {
+    RunningTick() { runningTicks.push_back(ModalLoop::Depth()); }
+    ~RunningTick() { runningTicks.pop_back(); }
+};
+
+/// Compares the clock in whole seconds with a fraction of a day. The difference is taken to the
+/// microsecond, so that the tenth second after a moment is never inside its window.
+bool HasArrived(double moment) {
+    const double elapsed =
+        RoundToPlaces(SecondOfDay(Ports().clock.Now()) - moment * kSecondsPerDay, 6);
+    return elapsed >= 0.0 && elapsed < kMatchWindow;
+}
+
+void FollowCalendar(const TickActions& actions) {
+    if (CivilFromDate(Ports().clock.Now()).year != CurrentYear) {
+        actions.refreshAll();
+    } else if (Ports().clock.Today() != TodayDate) {
+        actions.showDay();
+    }
+}
+
+/// The first prayer that has arrived; of two within the window only the earlier one fires.
+std::optional<std::int16_t> ArrivedPrayer() {
+    for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
+        if (HasArrived(TodayTimes[prayer])) {
+            return static_cast<std::int16_t>(prayer);
+        }
+    }
+    return std::nullopt;
+}
+
+void TestPrayers(const TickActions& actions) {
+    const auto prayer = ArrivedPrayer();
+    if (!prayer) {
+        return;
+    }
+    if (*prayer != static_cast<std::int16_t>(kShurooq) && athanActive == kFalse) {
+        actions.alert(*prayer);
+    }
+    // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
+    ++NextPrayer;
+}
+
+/// The alarm is compared every day, whatever the state of its check box.
+void TestAlarm(const TickActions& actions) {
+    if (HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
+        actions.alert(kAlarm);
+    }
+}
+
+}  // namespace
+
+TickActions DefaultTickActions() {
+    return {RefreshAll, ShowDay, sub04F9};
+}
+
+void RunTick(const TickActions& actions) {
+    FollowCalendar(actions);
+    TestPrayers(actions);
+    TestAlarm(actions);
+    actions.showDay();
+}
+
+void tmrUpdate_Timer() {
+    if (!runningTicks.empty() && runningTicks.back() == ModalLoop::Depth()) {
+        return;
+    }
+    const RunningTick running;
+    RunTick(DefaultTickActions());
+}
+
+}  // namespace horavex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "forms/command_button.h"
+#include "forms/form.h"
+#include "forms/form_instance.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/picture.h"
+
+namespace horavex {
+
+/// The small window of progress and of the alarm.
+class MessageForm : public Form {
+public:
+    MessageForm() : Form("fMessage", {.caption = "Horavex", .width = 5400, .height = 2100}) {}
+
+    Label lblMessage1{*this, "lblMessage1"};
+    Label lblMessage2{*this, "lblMessage2"};
+
+    /// The progress frame and the bar in it.
+    Shape Shape1{*this, "Shape1", {.width = 4800, .height = 300}};
+    Picture picProgress{*this, "picProgress", {.width = 4770, .height = 270}};
+
+    CommandButton CmdCancel{*this, "CmdCancel", {.caption = "Cancel", .visible = false}};
+    CommandButton cmdAlarmClose{*this, "cmdAlarmClose", {.caption = "Close", .visible = false}};
+};
+
+inline const FormInstance<MessageForm> fMessage;
+
+}  // namespace horavex

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/form_instance.h"
+#include "forms/label.h"
+#include "forms/menu_item.h"
+#include "forms/picture.h"
+#include "forms/timer.h"
+
+namespace horavex {
+
+/// The face's window. Its labels lie hidden behind the face and are the program's store of
+/// display texts: everybody may read and write them. Its menus are popped up by the face and the
+/// tray, never shown as a bar.
+class FrmMain : public Form {
+public:
+    FrmMain() : Form("frmMain", {.caption = "Horavex", .width = 6300, .height = 6300}) {}
+
+    /// What the face tells: today's times, the date and the time of day.
+    ControlArray<Label> lblZoritName{*this,
+                                     "lblZoritName",
+                                     {{0, {.caption = "Dawn"}},
+                                      {1, {.caption = "Sunrise"}},
+                                      {2, {.caption = "Noon"}},
+                                      {3, {.caption = "Afternoon"}},
+                                      {4, {.caption = "Sunset"}},
+                                      {5, {.caption = "Night"}}}};
+    ControlArray<Label> lblZoritNameArabic{*this,
+                                           "lblZoritNameArabic",
+                                           {{0, {.caption = "Fajr"}},
+                                            {1, {.caption = "Shurooq"}},
+                                            {2, {.caption = "Zuhr"}},
+                                            {3, {.caption = "Asr"}},
+                                            {4, {.caption = "Maghrib"}},
+                                            {5, {.caption = "Isha"}}}};
+    ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
+    Label lblDate{*this, "lblDate"};
+    Label lblCurrTime{*this, "lblCurrTime"};
+    Label Label1{*this, "Label1", {.caption = "Next Athan:"}};
+    Label lblNextAthan{*this, "lblNextAthan"};
+    Label Label3{*this, "Label3", {.caption = "Remaining:"}};
+    Label lblRemaining{*this, "lblRemaining"};
+    Label lblCity{*this, "lblCity"};
+    Label lblQibla{*this, "lblQibla"};
+
+    /// The clock of the whole program: from the start to the end of the process.
+    Timer tmrUpdate{*this, "tmrUpdate", {.enabled = false, .intervalMs = 1000}};
+
+    /// Element 0 is the icon of the notification area.
+    ControlArray<Picture> traypic{*this, "traypic", {{0}, {1}, {2}, {3}}};
+
+    MenuItem mnuAthan{*this, "mnuAthan", {.caption = "Athan"}};
+    MenuItem mnuThanNow{mnuAthan, "mnuThanNow", {.caption = "Athan Now"}};
+    MenuItem mnuExport{mnuAthan, "mnuExport", {.caption = "Export Prayer Calender"}};
+    MenuItem mnuExit{mnuAthan, "mnuExit", {.caption = "Exit"}};
+
+    MenuItem mnuSettings{*this, "mnuSettings", {.caption = "Settings"}};
+    MenuItem mnumSettings{mnuSettings, "mnumSettings", {.caption = "Settings"}};
+    MenuItem mnuChangeCity{
+        mnuSettings, "mnuChangeCity", {.caption = "Change City", .enabled = false}};
+    MenuItem mnuAthanSettings{mnuSettings, "mnuAthanSettings", {.caption = "Athan Settings"}};
+    MenuItem mnuPrayerTimes{mnuSettings, "mnuPrayerTimes", {.caption = "Prayer Times"}};
+    MenuItem mnuChangeLanguage{mnuSettings, "mnuChangeLanguage", {.caption = "Language"}};
+    ControlArray<MenuItem> mnuL{mnuChangeLanguage, "mnuL", {{0, {.caption = "-"}}}};
+    MenuItem mnuWizard{mnuSettings, "mnuWizard", {.caption = "Configuration Wizard"}};
+
+    MenuItem mnuTools{*this, "mnuTools", {.caption = "Tools"}};
+    MenuItem mnuDateConversion{mnuTools, "mnuDateConversion", {.caption = "Date Conversion"}};
+    MenuItem mnuQibla{mnuTools, "mnuQibla", {.caption = "Qibla"}};
+    MenuItem mnuDistance{mnuTools, "mnuDistance", {.caption = "Distance between 2 cities"}};
+    MenuItem mnuMoonPhases{mnuTools, "mnuMoonPhases", {.caption = "Moon Phases"}};
+
+    MenuItem mnuHelp{*this, "mnuHelp", {.caption = "Help"}};
+    MenuItem mnuAbout{mnuHelp, "mnuAbout", {.caption = "About Us"}};
+    MenuItem mnuHelpIndex{mnuHelp, "mnuHelpIndex", {.caption = "Help Index"}};
+    MenuItem mnuUpdate{mnuHelp, "mnuUpdate", {.caption = "Update"}};
+
+    MenuItem mnuPopup{*this, "mnuPopup", {.caption = "Popup", .enabled = false}};
+    MenuItem mnuPopAthan{mnuPopup, "mnuPopAthan", {.caption = "&Athan", .enabled = false}};
+    MenuItem mnuPopMoonPhases{
+        mnuPopup, "mnuPopMoonPhases", {.caption = "&Moon Phases", .enabled = false}};
+    MenuItem mnuPopShow{mnuPopup, "mnuPopShow", {.caption = "&Prayer Time"}};
+    MenuItem mnuPopQibla{mnuPopup, "mnuPopQibla", {.caption = "&Qibla", .enabled = false}};
+    MenuItem mnuPopExport{mnuPopup, "mnuPopExport", {.caption = "E&xport"}};
+    MenuItem mnuPopHelp{mnuPopup, "mnuPopHelp", {.caption = "&Help"}};
+    MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
+    MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
+    MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
+};
+
+inline const FormInstance<FrmMain> frmMain;
+
+}  // namespace horavex

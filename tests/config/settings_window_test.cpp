@@ -1,0 +1,288 @@
+#include "config/settings_window.h"
+
+#include "config/settings_controls.h"
+#include "config/settings_display.h"
+#include "engine/current_year.h"
+#include "engine/year_table.h"
+#include "store/angle_band.h"
+#include "store/isha_setting.h"
+#include "store/location_files.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+struct SettingsWindowTest : ProgramTest {
+    SettingsWindowTest() { StartAgain(); }
+
+    SettingsRecord StoredRecord(const std::string& file) {
+        const Bytes bytes = platform.folder.ReadWhole(file);
+        SettingsBytes record{};
+        std::copy_n(bytes.begin(), record.size(), record.begin());
+        return DecodeSettings(record);
+    }
+
+    void TypeZone(const std::string& text) {
+        ShowSettingsWindow();
+        HoravexMainForm->txtTimeZone.UserType(text);
+    }
+
+    SettingsForm& form = *HoravexMainForm;
+};
+
+TEST_F(SettingsWindowTest, LoadShowsTheAcceptedState) {
+    EXPECT_EQ(form.lblCity.Caption(), "Mecca, Mecca - Saudi Arabia");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+    EXPECT_EQ(form.lblLocationLat.Caption(), "Latitude: 21 degrees, 26 minutes North");
+    EXPECT_EQ(form.lblTimeZone.Caption(), "Time Zone ( 2, 3, ...)");
+    EXPECT_TRUE(form.optAsrRatio(1).Value());
+    EXPECT_TRUE(form.optAthanType(3).Value());
+    EXPECT_TRUE(form.optQiblaMethod(1).Value());
+    EXPECT_EQ(form.hsDepr.Value(), 18);
+    EXPECT_EQ(form.hsDepr.Min(), 5);
+    EXPECT_EQ(form.hsDepr.Max(), 20);
+    EXPECT_EQ(form.lblDeprMin.Caption(), "5");
+    EXPECT_EQ(form.Label6.Caption(), "20");
+    EXPECT_EQ(form.lblDepr.Caption(), "degrees 18");
+    EXPECT_EQ(form.lblAlarm.Caption(), "06:30 AM");
+    EXPECT_EQ(form.hsBegin.Max(), 364);
+    EXPECT_EQ(form.hsBegin.LargeStep(), 30);
+}
+
+TEST_F(SettingsWindowTest, ControlsWriteStraightIntoTheWorkingRecord) {
+    form.hsDepr.UserSlide(17);
+    form.hsDepr1.UserSlide(3);
+    EXPECT_EQ(Settings.FajrAngle, 17.75);
+    EXPECT_EQ(form.lblDepr.Caption(), "degrees 17.75");
+    form.hsDepr2.UserDrag(15);
+    EXPECT_EQ(IshaAngle, 15.0) << "the display follows the thumb";
+    form.hsAlarm.UserSlide(287);
+    EXPECT_EQ(Settings.AlarmTime, 287);
+    EXPECT_EQ(form.lblAlarm.Caption(), "11:55 PM");
+    form.optAsrRatio(2).UserClick();
+    EXPECT_EQ(Settings.AsrRatio, 2.0);
+    form.optAthanType(1).UserClick();
+    EXPECT_EQ(Settings.AthanType, 1);
+    EXPECT_EQ(ActiveSettings.AthanType, 3);
+}
+
+TEST_F(SettingsWindowTest, QuartersSplitAndAdd) {
+    ActiveSettings.FajrAngle = 18.75;
+    Settings_Form_Load();
+    EXPECT_EQ(form.hsDepr.Value(), 18);
+    EXPECT_EQ(form.hsDepr1.Value(), 3);
+    form.hsDepr1.UserSlide(4);
+    EXPECT_EQ(Settings.FajrAngle, 19.0);
+    EXPECT_EQ(form.hsDepr.Value(), 18);
+}
+
+TEST_F(SettingsWindowTest, ClippedSliderLeavesTheSavedAngle) {
+    ActiveSettings.FajrAngle = 25.5;
+    Settings_Form_Load();
+    EXPECT_EQ(form.hsDepr.Value(), 20);
+    EXPECT_EQ(Settings.FajrAngle, 25.5);
+    form.hsDepr1.UserSlide(0);
+    EXPECT_EQ(Settings.FajrAngle, 20.0);
+}
+
+TEST_F(SettingsWindowTest, LastDayOfALeapYear) {
+    SetClock(2028, 6, 1, 12, 0, 0);
+    Settings_Form_Load();
+    form.chkDayLT.UserClick();
+    form.hsBegin.UserSlide(9999);
+    EXPECT_EQ(Settings.DstStart, 366);
+    EXPECT_EQ(form.lblBegin.Caption(), "Sunday, December 31, 2028");
+}
+
+TEST_F(SettingsWindowTest, DaylightBoxEnablesItsControls) {
+    EXPECT_FALSE(form.hsBegin.Enabled());
+    form.chkDayLT.UserClick();
+    EXPECT_EQ(Settings.DstEnabled, 1);
+    for (const Control* control :
+         std::initializer_list<const Control*>{&form.hsBegin, &form.lblBeginAt, &form.lblBegin,
+                                               &form.hsEnd, &form.lblEndAT, &form.lblEnd}) {
+        EXPECT_TRUE(control->Enabled()) << control->Name();
+    }
+}
+
+TEST_F(SettingsWindowTest, AlarmBoxEnablesItsControls) {
+    form.chkAlarm.UserClick();
+    EXPECT_EQ(Settings.AlarmEnabled, 0);
+    EXPECT_FALSE(form.hsAlarm.Enabled());
+    EXPECT_FALSE(form.lblAlarm.Enabled());
+}
+
+TEST_F(SettingsWindowTest, LanguageListSpeaksAtOnce) {
+    form.lstLanguage.UserSelect(2);
+    EXPECT_EQ(Settings.Language, 3);
+    EXPECT_EQ(form.HelpContextId(), 3200);
+    EXPECT_EQ(form.lblDepr.Caption(), "Grad 18");
+    EXPECT_EQ(ActiveSettings.Language, 1);
+}
+
+TEST_F(SettingsWindowTest, ZoneBoxThrowsOutWhatIsNoZone) {
+    TypeZone("-");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+    TypeZone("13");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+    TypeZone("12.5");  // rounds to the even 12
+    EXPECT_EQ(form.txtTimeZone.Text(), "12.5");
+    TypeZone("99999999");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+}
+
+TEST_F(SettingsWindowTest, ZoneTextEnablesTheSetButton) {
+    form.SettingsSet.SetEnabled(false);
+    form.txtTimeZone.SetText("  ");
+    EXPECT_FALSE(form.SettingsSet.Enabled());
+    form.txtTimeZone.SetText("4");
+    EXPECT_TRUE(form.SettingsSet.Enabled());
+}
+
+TEST_F(SettingsWindowTest, DefaultsLeaveIshaAndLanguage) {
+    IshaAngle = 12.0;
+    Settings.FajrAngle = 10.0;
+    form.cmdDefault.UserClick();
+    EXPECT_EQ(Settings.FajrAngle, 18.0);
+    EXPECT_EQ(IshaAngle, 12.0);
+    EXPECT_EQ(Settings.DstEnabled, 1);
+    EXPECT_EQ(Settings.DstStart, 94);
+    EXPECT_EQ(Settings.DstEnd, 297);
+    EXPECT_EQ(form.txtTimeZone.Text(), "3");
+    EXPECT_EQ(form.hsBegin.Value(), 93);
+}
+
+TEST_F(SettingsWindowTest, SetAcceptsAndStoresEverything) {
+    ShowSettingsWindow();
+    form.optAsrRatio(2).UserClick();
+    form.hsDepr2.UserSlide(15);
+    TypeZone("3.5");
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(ActiveSettings.AsrRatio, 2.0);
+    EXPECT_EQ(ActiveSettings.TimeZone, 3.5);
+    EXPECT_EQ(StoredRecord("Dat/AI.DAT"), ActiveSettings);
+    EXPECT_EQ(StoredRecord("Dat/Settings.DAT"), Settings);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "15");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.50");
+    EXPECT_FALSE(form.Visible());
+}
+
+TEST_F(SettingsWindowTest, FailedYearAcceptsNothingButStoresTheWorkingValues) {
+    const SettingsRecord accepted = ActiveSettings;
+    form.hsDepr.SetMin(1);
+    form.hsDepr.UserSlide(1);
+    form.hsDepr2.UserSlide(14);
+    form.optAsrRatio(2).UserClick();
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_EQ(ActiveSettings, accepted);
+    EXPECT_EQ(StoredRecord("Dat/AI.DAT"), accepted);
+    EXPECT_EQ(StoredRecord("Dat/Settings.DAT").FajrAngle, 1.0);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "14");
+}
+
+TEST_F(SettingsWindowTest, ReopeningAfterAFailureShowsTheFailedValuesButTheAngles) {
+    form.hsDepr.SetMin(1);
+    form.hsDepr.UserSlide(1);
+    form.optAsrRatio(2).UserClick();
+    form.SettingsSet.UserClick();
+    Settings_Form_Load();
+    EXPECT_TRUE(form.optAsrRatio(2).Value());
+    EXPECT_EQ(Settings.AsrRatio, 2.0);
+    EXPECT_EQ(Settings.FajrAngle, 18.0);
+}
+
+class ZoneBound : public SettingsWindowTest,
+                  public testing::WithParamInterface<std::pair<const char*, bool>> {};
+
+TEST_P(ZoneBound, CommitTakesFromMinusTwelveToTwelve) {
+    form.txtTimeZone.SetText(GetParam().first);
+    const Bytes before = platform.folder.ReadWhole("Dat/Settings.DAT");
+    ShowSettingsWindow();
+    SettingsSet_Click();
+    EXPECT_EQ(platform.dialogs.messages.empty() || CalcFailed != 0, GetParam().second);
+    if (!GetParam().second) {
+        EXPECT_EQ(platform.dialogs.messages.back().text,
+                  "Please check the Time Zone. The nearest zone of this place is 3");
+        EXPECT_TRUE(form.txtTimeZone.HasFocus());
+        EXPECT_TRUE(form.Visible());
+        EXPECT_EQ(platform.folder.ReadWhole("Dat/Settings.DAT"), before);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Zones, ZoneBound,
+                         testing::Values(std::pair("12", true), std::pair("-12", true),
+                                         std::pair("12.01", false), std::pair("-12.01", false),
+                                         std::pair("", false), std::pair("abc", false)));
+
+TEST_F(SettingsWindowTest, LanguageChangeSetsTheHelpTopic) {
+    form.lstLanguage.UserSelect(1);
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(form.HelpContextId(), 2000);
+    EXPECT_EQ(ActiveSettings.Language, 2);
+}
+
+TEST_F(SettingsWindowTest, QiblaIsNotOfferedInMecca) {
+    EXPECT_FALSE(form.cmdQibla.Enabled());
+    Settings.CityIndex = 0;
+    CityText = LookupLocation(0, Location);
+    form.txtTimeZone.SetText("0");
+    Settings.TimeZone = 0;
+    SettingsSet_Click();
+    EXPECT_EQ(form.cmdQibla.Enabled(), CalcFailed == 0);
+}
+
+TEST_F(SettingsWindowTest, AthanButtonFollowsTheAcceptedType) {
+    EXPECT_TRUE(form.cmdAthan.Enabled());
+    form.optAthanType(2).UserClick();
+    EXPECT_TRUE(form.cmdAthan.Enabled());
+    form.SettingsSet.UserClick();
+    EXPECT_FALSE(form.cmdAthan.Enabled());
+}
+
+TEST_F(SettingsWindowTest, FailedFileStepsArePassedOver) {
+    platform.failingFiles.FailCall(0);
+    ShowSettingsWindow();
+    form.optAsrRatio(2).UserClick();
+    for (int call = 1; call <= 40; ++call) {
+        platform.failingFiles.FailCall(call);
+        EXPECT_NO_THROW(form.SettingsSet.UserClick());
+        platform.failingFiles.FailCall(0);
+        EXPECT_EQ(platform.folder.ReadWhole("Dat/AI.DAT").size(), 97U);
+        EXPECT_EQ(platform.folder.ReadWhole("Dat/Settings.DAT").size(), 97U);
+    }
+}
+
+TEST_F(SettingsWindowTest, CloseBoxThrowsEditsAway) {
+    ShowSettingsWindow();
+    form.optAsrRatio(2).UserClick();
+    form.hsDepr2.UserSlide(11);
+    form.UserClose();
+    EXPECT_FALSE(form.Visible());
+    EXPECT_TRUE(form.IsLoaded());
+    EXPECT_EQ(Settings.AsrRatio, 1.0);
+    EXPECT_EQ(IshaAngle, 18.0);
+    EXPECT_TRUE(form.optAsrRatio(1).Value());
+    EXPECT_EQ(form.hsDepr2.Value(), 18);
+}
+
+TEST_F(SettingsWindowTest, MinimisedWindowHides) {
+    ShowSettingsWindow();
+    form.SetWindowState(WindowState::kMinimized);
+    EXPECT_FALSE(form.Visible());
+    ShowSettingsWindow();
+    EXPECT_TRUE(form.Visible());
+    EXPECT_EQ(form.State(), WindowState::kNormal);
+}
+
+TEST_F(SettingsWindowTest, MissingBandFileKeepsTheLimits) {
+    const AngleLimits before = AngleBand;
+    platform.files.Delete("/program/Dat/A.dat");
+    SetDepressionLimits(5200);
+    EXPECT_EQ(AngleBand, before);
+    EXPECT_EQ(form.hsDepr.Max(), 20);
+    EXPECT_FALSE(platform.folder.Exists("Dat/A.dat"));
+}
+
+}  // namespace
+}  // namespace horavex

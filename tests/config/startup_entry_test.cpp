@@ -1,0 +1,52 @@
+#include "config/startup_entry.h"
+
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+struct StartupEntryTest : ProgramTest {
+    void Store(const std::string& wish) {
+        platform.registry.CreateKey("Software\\Horavex\\Settings");
+        platform.registry.SetValue("Software\\Horavex\\Settings", "ADD TO STARTUP", wish);
+    }
+
+    bool HasEntry() { return platform.shell.startupEntries.contains("ZORIT"); }
+};
+
+TEST_F(StartupEntryTest, WithNothingStoredTheEntryIsMadeAndNothingStored) {
+    Start();
+    EXPECT_TRUE(HasEntry());
+    EXPECT_EQ(HoravexMainForm->chkAddToStartup.Value(), 1);
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "");
+}
+
+TEST_F(StartupEntryTest, StoredZeroUnticksAndRemoves) {
+    platform.shell.startupEntries.insert("ZORIT");
+    Store("0");
+    Start();
+    EXPECT_FALSE(HasEntry());
+    EXPECT_EQ(HoravexMainForm->chkAddToStartup.Value(), 0);
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "0");
+}
+
+TEST_F(StartupEntryTest, StoredOneWritesTheEntryTwiceOver) {
+    Store("1");
+    Start();
+    EXPECT_EQ(std::count(platform.desktop.calls.begin(), platform.desktop.calls.end(),
+                         "WriteStartupEntry ZORIT"),
+              2);
+}
+
+TEST_F(StartupEntryTest, ClickDoesAndStoresIt) {
+    Start();
+    HoravexMainForm->chkAddToStartup.UserClick();
+    EXPECT_FALSE(HasEntry());
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "0");
+    HoravexMainForm->chkAddToStartup.UserClick();
+    EXPECT_TRUE(HasEntry());
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "1");
+}
+
+}  // namespace
+}  // namespace horavex

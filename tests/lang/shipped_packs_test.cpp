@@ -1,0 +1,236 @@
+// The packs that are shipped, as they lie in the source folder.
+
+#include <cstdlib>
+#include <map>
+#include <set>
+#include <stdexcept>
+
+#include "base/text.h"
+#include "base/utf8.h"
+#include "forms/menu_item.h"
+#include "lang/form_language.h"
+#include "lang/lang_test.h"
+#include "lang/language_menu.h"
+#include "lang/language_pack.h"
+#include "lang/pack_check.h"
+#include "lang/pack_forms.h"
+#include "lang/pack_keys.h"
+#include "linux/posix_files.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr const char* kLanguages[] = {"Arabic", "English", "French", "German", "Spanish"};
+
+std::string SourceFolder() {
+    const char* folder = std::getenv("HORAVEX_TEST_SOURCE_DIR");
+    if (folder == nullptr) {
+        throw std::runtime_error("HORAVEX_TEST_SOURCE_DIR is not set");
+    }
+    return folder;
+}
+
+/// The folder data/lang of the source as the packs of the program folder.
+class ShippedPacks : public LangTest {
+protected:
+    ShippedPacks() {
+        PosixFiles disk;
+        const std::string folder = SourceFolder() + "/data/lang";
+        for (const std::string& name : disk.List(folder)) {
+            data.Write("lang/" + name, ReadWhole(disk, folder + "/" + name));
+        }
+    }
+
+    std::string Source(const std::string& language) {
+        return StringOf(data.Read("lang/" + language + ".ini"));
+    }
+
+    /// The forms in one language.
+    static std::vector<std::unique_ptr<Form>> FormsIn(const std::string& language) {
+        auto forms = PackForms();
+        for (const auto& form : forms) {
+            LoadFormLanguage(*form, LanguagePackPath(language));
+        }
+        return forms;
+    }
+
+    static std::string Text(const std::string& language, const std::string& section,
+                            const std::string& key) {
+        return ReadPackString(LanguagePackPath(language), section, key, "", kPackTextBuffer);
+    }
+};
+
+/// The letter behind the mark of the access key, small; empty for none. "&&" is a plain "&".
+std::string AccessKey(const std::string& caption) {
+    const std::size_t mark = caption.find('&');
+    if (mark == std::string::npos) {
+        return {};
+    }
+    std::string key;
+    AppendUtf8(key, DecodeUtf8(caption.substr(mark + 1)).value().at(0));
+    return AsciiLower(key);
+}
+
+TEST_F(ShippedPacks, AreFiveAndTheMenuNamesThem) {
+    BuildLanguageMenu("English");
+    std::vector<std::string> captions;
+    for (const MenuItem* item : frmMain->mnuChangeLanguage.Entries()) {
+        captions.push_back(item->Caption());
+    }
+    EXPECT_THAT(captions, ElementsAre("Arabic", "English", "French", "German", "Spanish"));
+    EXPECT_TRUE(frmMain->mnuL(1).Checked());
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+}
+
+TEST_F(ShippedPacks, HaveNoMissingEmptyOrUnknownKey) {
+    CheckReport report;
+    CheckLanguagePacks(report);
+    EXPECT_THAT(report.problems, IsEmpty());
+    EXPECT_GT(report.passed, 5 * 300);
+}
+
+TEST_F(ShippedPacks, AreUtf8WithoutAByteOrderMarkOrCarriageReturns) {
+    for (const char* language : kLanguages) {
+        const std::string source = Source(language);
+        EXPECT_TRUE(IsUtf8(source)) << language;
+        EXPECT_THAT(source, Not(HasSubstr("\xEF\xBB\xBF"))) << language;
+        EXPECT_THAT(source, Not(HasSubstr("\r"))) << language;
+        EXPECT_TRUE(source.ends_with("\n")) << language;
+    }
+}
+
+TEST_F(ShippedPacks, HaveEachKeyOnce) {
+    for (const char* language : kLanguages) {
+        std::set<std::string> seen;
+        std::string section;
+        for (const std::string& line : Split(Source(language), '\n')) {
+            if (line.starts_with('[')) {
+                EXPECT_TRUE(seen.insert(line).second) << language << " " << line;
+                section = line;
+            } else if (const std::size_t mark = line.find('='); mark != std::string::npos) {
+                EXPECT_TRUE(seen.insert(section + line.substr(0, mark)).second)
+                    << language << " " << line;
+            }
+        }
+    }
+}
+
+TEST_F(ShippedPacks, BlankNoCaptionOfAnyForm) {
+    for (const char* language : kLanguages) {
+        for (const auto& form : FormsIn(language)) {
+            EXPECT_NE(form->Caption(), form->Name()) << language;
+            for (const Control* control : form->Controls()) {
+                if (TakesPackTexts(*control)) {
+                    EXPECT_NE(control->Caption(), "") << language << " " << control->Name();
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ShippedPacks, TitlesOfTheFacesButtonsCarryNoAccessKey) {
+    for (const char* language : kLanguages) {
+        for (const char* key : {"mnuAthan", "mnuSettings", "mnuTools", "mnuHelp"}) {
+            EXPECT_THAT(Text(language, "frmMain", key), Not(HasSubstr("&"))) << language;
+        }
+    }
+}
+
+TEST_F(ShippedPacks, EveryMenuEntryHasAnAccessKeyOfItsOwnInItsMenu) {
+    for (const char* language : kLanguages) {
+        std::map<const Element*, std::set<std::string>> keysOfMenu;
+        for (const auto& form : FormsIn(language)) {
+            for (const Control* control : form->Controls()) {
+                if (control->Kind() != ControlKind::kMenuItem || !TakesPackTexts(*control) ||
+                    &control->Parent() == form.get()) {
+                    continue;
+                }
+                const std::string key = AccessKey(control->Caption());
+                EXPECT_NE(key, "") << language << " " << control->Name();
+                EXPECT_TRUE(keysOfMenu[&control->Parent()].insert(key).second)
+                    << language << " " << control->Caption();
+            }
+        }
+        EXPECT_EQ(keysOfMenu.size(), 5U);
+    }
+}
+
+TEST_F(ShippedPacks, ButtonsOfAWindowShareNoAccessKey) {
+    for (const char* language : kLanguages) {
+        for (const auto& form : FormsIn(language)) {
+            std::set<std::string> keys;
+            for (const Control* control : form->Controls()) {
+                if (control->Kind() != ControlKind::kMenuItem && TakesPackTexts(*control)) {
+                    const std::string key = AccessKey(control->Caption());
+                    EXPECT_TRUE(key.empty() || keys.insert(key).second)
+                        << language << " " << control->Caption();
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ShippedPacks, PrayersOfTheFaceAreSixNamesWithoutAColon) {
+    for (const char* language : kLanguages) {
+        std::set<std::string> names;
+        for (int prayer = 0; prayer < 6; ++prayer) {
+            const std::string name =
+                Text(language, "frmMain", "lblZoritNameArabic_" + std::to_string(prayer));
+            EXPECT_THAT(name, Not(HasSubstr(":"))) << language;
+            names.insert(name);
+        }
+        EXPECT_EQ(names.size(), 6U) << language;
+    }
+}
+
+TEST_F(ShippedPacks, OpeningsOfTheNextPrayerBeginWithTheNameOnTheFace) {
+    const std::map<std::string, int> prayers = {
+        {"Fajr", 0}, {"Zuhr", 2}, {"Asr", 3}, {"Maghrib", 4}, {"Isha", 5}};
+    for (const char* language : kLanguages) {
+        for (const auto& [key, prayer] : prayers) {
+            const std::string name =
+                Text(language, "frmMain", "lblZoritNameArabic_" + std::to_string(prayer));
+            EXPECT_TRUE(Text(language, "other", key).starts_with(name + " "))
+                << language << " " << key;
+        }
+    }
+}
+
+TEST_F(ShippedPacks, TwoLabelsOfTheFaceEndInAColon) {
+    for (const char* language : kLanguages) {
+        EXPECT_TRUE(Text(language, "frmMain", "Label1").ends_with(":")) << language;
+        EXPECT_TRUE(Text(language, "frmMain", "Label3").ends_with(":")) << language;
+    }
+}
+
+TEST_F(ShippedPacks, FitTheirBuffers) {
+    for (const char* language : kLanguages) {
+        for (const std::string& line : Split(Source(language), '\n')) {
+            EXPECT_LT(line.size(), kPackNameBuffer) << language << " " << line;
+        }
+    }
+}
+
+TEST_F(ShippedPacks, SpeakTheirOwnLanguage) {
+    EXPECT_EQ(Text("Arabic", "frmMain", "mnuHelp"), "مساعدة");
+    EXPECT_EQ(Text("English", "frmMain", "mnuHelp"), "Help");
+    EXPECT_EQ(Text("French", "frmMain", "mnuHelp"), "Aide");
+    EXPECT_EQ(Text("German", "frmMain", "mnuHelp"), "Hilfe");
+    EXPECT_EQ(Text("Spanish", "frmMain", "mnuHelp"), "Ayuda");
+}
+
+TEST_F(ShippedPacks, NumberNothingThatIsLeftFree) {
+    for (const char* language : kLanguages) {
+        EXPECT_EQ(Text(language, "msg", "8"), "") << language;
+        EXPECT_TRUE(Text(language, "msg", "18").ends_with("/ ")) << language;
+    }
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,116 @@
+#include "shell/face_bridge.h"
+
+#include "calendar/current_calendar.h"
+#include "engine/day_driver.h"
+#include "geo/qibla.h"
+#include "lang/language_pack.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::Pair;
+
+struct FaceBridgeTest : ProgramTest {
+    FaceBridgeTest() { StartAgain(); }
+};
+
+TEST_F(FaceBridgeTest, ElevenVariablesGoOutInOrder) {
+    QiblaDegrees = -137.25;
+    frmMain->lblNextAthan.SetCaption("Zuhr at 12:06:28 PM");
+    frmMain->lblRemaining.SetCaption("0:6:28");
+    SetFlashVariables();
+    EXPECT_THAT(
+        platform.face.variables,
+        ElementsAre(Pair("_root.iArabicDay", "10"), Pair("_root.ArabicMonth", "Jamad Thani"),
+                    Pair("_root.iArabicYear", "1448"),
+                    Pair("_root.sNextPrayer", "Next Athan: Zuhr at 12:06:28 PM"),
+                    Pair("_root.sNextRemaining", "Remaining: 0:6:28"),
+                    Pair("_root.allPrayerTime.allPrayerTimeText.sAllPrayers",
+                         " Fajr:05:17 AM Shurooq:06:35 AM Zuhr:12:06 PM Asr:03:15 PM"
+                         " Maghrib:05:37 PM Isha:06:55 PM"),
+                    Pair("_root.icompassAngle", "-137.25"), Pair("_root.myDay", "Saturday"),
+                    Pair("_root.myMonth", "November"), Pair("_root.myYear", "2026"),
+                    Pair("_root.myNumber", "21")));
+}
+
+TEST_F(FaceBridgeTest, CalendarIsAsItWasAfterwards) {
+    CurrentCalendar = kHijriCalendar;
+    SetFlashVariables();
+    EXPECT_EQ(CurrentCalendar, kHijriCalendar);
+    EXPECT_EQ(platform.face.Value("_root.myYear"), "2026");
+}
+
+TEST_F(FaceBridgeTest, WithoutAPackTheMonthIsEmptyAndTheRestGoesOut) {
+    currentLanguage = "Nowhere";
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.variables.size(), 11U);
+    EXPECT_EQ(platform.face.Value("_root.ArabicMonth"), "");
+    EXPECT_EQ(platform.face.Value("_root.iArabicDay"), "10");
+}
+
+TEST_F(FaceBridgeTest, MonthStaysEnglishInArabic) {
+    currentLanguage = "Arabic";
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.myMonth"), "November");
+}
+
+TEST_F(FaceBridgeTest, SameValuesAreSentAgain) {
+    SetFlashVariables();
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.variables.size(), 22U);
+}
+
+struct FaceCommandTest : FaceBridgeTest {
+    void Command(const std::string& command) { platform.face.onFSCommand(command, "anything"); }
+};
+
+TEST_F(FaceCommandTest, MenusPopUpAtTheirPlaces) {
+    Command("IDC_FS_azan");
+    Command("IDC_FS_settings");
+    Command("IDC_FS_tools");
+    Command("IDC_FS_help");
+    EXPECT_THAT(
+        platform.desktop.calls,
+        ElementsAre("PopUpMenu frmMain mnuAthan 50 135", "PopUpMenu frmMain mnuSettings 100 135",
+                    "PopUpMenu frmMain mnuTools 150 135", "PopUpMenu frmMain mnuHelp 200 135"));
+}
+
+TEST_F(FaceCommandTest, ClockAndDayOpenTheDateAndTimeTool) {
+    Command("IDC_FS_Clock");
+    Command("IDC_FS_Day");
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenDateTimeTool", "OpenDateTimeTool"));
+}
+
+TEST_F(FaceCommandTest, DragStartsADragOfTheWindow) {
+    Command("IDC_FS_drag");
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("StartDrag frmMain"));
+}
+
+TEST_F(FaceCommandTest, CloseHidesAndMinimizeMinimises) {
+    Command("IDC_FS_minimize");
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    Command("IDC_FS_close");
+    EXPECT_FALSE(frmMain->Visible());
+}
+
+TEST_F(FaceCommandTest, QiblaAndAllTimesAreTheirMenuEntries) {
+    std::vector<std::string> chosen;
+    frmMain->mnuQibla.onClick = [&] { chosen.push_back("qibla"); };
+    frmMain->mnuPrayerTimes.onClick = [&] { chosen.push_back("times"); };
+    Command("IDC_FS_Qibla");
+    Command("IDC_FS_allTimes");
+    EXPECT_THAT(chosen, ElementsAre("qibla", "times"));
+}
+
+TEST_F(FaceCommandTest, OtherSpellingsAreIgnored) {
+    Command("IDC_FS_CLOSE");
+    Command("idc_fs_close");
+    Command("");
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_THAT(platform.desktop.calls, testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,174 @@
+#include "shell/start.h"
+
+#include "athan/athan_state.h"
+#include "engine/day_state.h"
+#include "lang/language_pack.h"
+#include "shell/menus.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+using StartTest = ProgramTest;
+
+TEST_F(StartTest, FirstRunComesUpInItsFixedOrder) {
+    Start();
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmMain", "load HoravexMainForm", "WriteStartupEntry ZORIT",
+                            "load fMessage", "show fMessage", "unload fMessage", "TrayAdd Horavex",
+                            "Place -89 -67", "LoadMovie 0 \\\\skin\\skin.swf", "show frmMain"));
+}
+
+TEST_F(StartTest, FirstRunStoresTheIshaAngleAndChoosesTheSound) {
+    Start();
+    EXPECT_EQ(firstRun, -1);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "18");
+    EXPECT_EQ(IshaAngle, 18.0);
+    EXPECT_EQ(Settings.AthanType, 3);
+}
+
+TEST_F(StartTest, StoredMinusOneIsAFirstRunAllTheSame) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Isha Dep Angle", "-1");
+    Start();
+    EXPECT_EQ(firstRun, -1);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "18");
+}
+
+TEST_F(StartTest, StoredAngleIsNoFirstRun) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Isha Dep Angle", "17,75");
+    Start();
+    EXPECT_EQ(firstRun, 0);
+    EXPECT_EQ(IshaAngle, 17.75);
+}
+
+TEST_F(StartTest, FreshInstallCalculatesMeccaAtOnce) {
+    Start();
+    EXPECT_EQ(CalcFailed, 0);
+    EXPECT_EQ(frmMain->lblCity.Caption(), "Mecca, Mecca - Saudi Arabia");
+    EXPECT_EQ(frmMain->lblTime(kZuhr).Caption(), "12:06 PM");
+    EXPECT_THAT(frmMain->lblQibla.Caption(), HasSubstr("Qibla: "));
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_FALSE(HoravexMainForm->Visible());
+    EXPECT_TRUE(HoravexMainForm->IsLoaded());
+    EXPECT_FALSE(fMessage->IsLoaded());
+}
+
+TEST_F(StartTest, ClockRunsFromTheStart) {
+    Start();
+    EXPECT_TRUE(frmMain->tmrUpdate.Running());
+}
+
+TEST_F(StartTest, EndsWithTheLanguageOfTheUser) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Language", "Arabic");
+    Start();
+    EXPECT_EQ(currentLanguage, "Arabic");
+    EXPECT_EQ(frmMain->lblZoritNameArabic(0).Caption(), "الفجر");
+}
+
+TEST_F(StartTest, WithoutAStoredLanguageItIsEnglish) {
+    Start();
+    EXPECT_EQ(currentLanguage, "English");
+}
+
+TEST_F(StartTest, ProgressWindowStaysForThreeSeconds) {
+    const double before = platform.clock.SteadySeconds();
+    Start();
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 3.0, 0.02);
+}
+
+TEST_F(StartTest, FixedSpellingsStandInTheSettingsWindow) {
+    Start();
+    EXPECT_EQ(HoravexMainForm->lblZoritName(2).Caption(), "Thuhr");
+    EXPECT_EQ(HoravexMainForm->lblZoritName(5).Caption(), "Ishaa");
+}
+
+TEST_F(StartTest, SecondInstanceEndsWithAMessageAndTouchesNothing) {
+    platform.instanceGuard.anotherIsRunning = true;
+    EXPECT_THROW(Start(), ProcessEnded);
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "Horavex is already running.");
+    EXPECT_EQ(platform.dialogs.messages[0].title, "Horavex");
+    EXPECT_EQ(platform.dialogs.messages[0].icon, MessageIcon::kCritical);
+    EXPECT_THAT(platform.desktop.calls, testing::Not(testing::Contains(HasSubstr("show"))));
+    EXPECT_THAT(platform.desktop.calls, testing::Not(testing::Contains(HasSubstr("Tray"))));
+}
+
+TEST_F(StartTest, WithoutSettingsTheSettingsWindowOpens) {
+    platform.files.Delete("/program/Dat/AI.DAT");
+    Start();
+    EXPECT_TRUE(HoravexMainForm->Visible());
+    EXPECT_EQ(HoravexMainForm->Owner(), &*frmMain);
+    EXPECT_TRUE(frmMain->Visible());
+}
+
+TEST_F(StartTest, FailedYearOpensTheSettingsWindow) {
+    LoadActiveSettings();
+    ActiveSettings.FajrAngle = 1.0;  // a dawn of some four minutes
+    SaveActiveSettings();
+    Start();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_TRUE(HoravexMainForm->Visible());
+}
+
+TEST_F(StartTest, ScratchFileOfTheUpdateGoes) {
+    platform.files.WriteWhole("/program/Dat/update.txt", {});
+    Start();
+    EXPECT_FALSE(platform.files.Exists("/program/Dat/update.txt"));
+}
+
+TEST_F(StartTest, CustomSoundsAreRead) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Custom Athan File1", "/a/b.ogg");
+    Start();
+    EXPECT_EQ(customAthanFiles[0], "");
+    EXPECT_EQ(customAthanFiles[1], "/a/b.ogg");
+}
+
+TEST_F(StartTest, MissingTablesFailTheStart) {
+    platform.files.Delete("/program/Dat/TI.DAT");
+    EXPECT_THROW(Start(), FileFault);
+}
+
+using StopTest = ProgramTest;
+
+TEST_F(StopTest, CloseBoxOfTheFaceHidesIt) {
+    StartAgain();
+    frmMain->UserClose();
+    EXPECT_FALSE(frmMain->Visible());
+    EXPECT_TRUE(frmMain->IsLoaded());
+    EXPECT_TRUE(frmMain->tmrUpdate.Running());
+    EXPECT_THAT(platform.desktop.calls, testing::IsEmpty());
+}
+
+TEST_F(StopTest, EndOfTheSessionUnloadsWithNothingSaved) {
+    StartAgain();
+    currentLanguage = "French";
+    frmMain->Unload(CloseReason::kSessionEnd);
+    EXPECT_FALSE(frmMain->IsLoaded());
+    EXPECT_EQ(Stored("Language"), "");
+    EXPECT_THAT(platform.desktop.calls, testing::Not(testing::Contains("TrayRemove")));
+}
+
+TEST_F(StopTest, ExitStoresTheLanguageThenRemovesTheIconThenEnds) {
+    StartAgain();
+    currentLanguage = "French";
+    EXPECT_THROW(frmMain->mnuExit.UserClick(), ProcessEnded);
+    EXPECT_EQ(Stored("Language"), "French");
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("TrayRemove"));
+}
+
+TEST_F(StopTest, TraysExitIsTheSame) {
+    StartAgain();
+    EXPECT_THROW(frmMain->mnuPopExit.UserClick(), ProcessEnded);
+    EXPECT_EQ(Stored("Language"), "English");
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,212 @@
+#include "shell/tick.h"
+
+#include "athan/athan_state.h"
+#include "engine/current_year.h"
+#include "engine/day_driver.h"
+#include "engine/day_state.h"
+#include "forms/modal_loop.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Ticks whose three ways out are written down: "refresh", "day" and the alert's index.
+struct TickTest : testing::Test {
+    TickTest() {
+        CurrentYear = 2026;
+        TodayDate = DateSerial(2026, 11, 21);
+        ActiveSettings.AlarmTime = 78;
+        const double times[] = {5.0, 6.5, 12.0, 15.0, 18.0, 19.5};
+        for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+            TodayTimes[prayer] = times[prayer] / 24.0;
+        }
+    }
+
+    void TickAt(int hour, int minute, int second) {
+        platform.clock.Set(DateSerial(2026, 11, 21) + TimeSerial(hour, minute, second));
+        Tick();
+    }
+
+    void Tick() {
+        calls.clear();
+        RunTick({[this] { calls.push_back("refresh"); }, [this] { calls.push_back("day"); },
+                 [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
+    }
+
+    TestPlatform platform;
+    std::vector<std::string> calls;
+};
+
+TEST_F(TickTest, OrdinaryTickShowsTheDayOnce) {
+    TickAt(10, 0, 0);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, PrayerArrivesAtItsSecond) {
+    TickAt(11, 59, 59);
+    EXPECT_THAT(calls, ElementsAre("day"));
+    TickAt(12, 0, 0);
+    EXPECT_THAT(calls, ElementsAre("2", "day"));
+}
+
+TEST_F(TickTest, WindowIsTenSeconds) {
+    TickAt(12, 0, 9);
+    EXPECT_THAT(calls, ElementsAre("2", "day"));
+    TickAt(12, 0, 10);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, ActiveAthanHoldsTheNextOneBack) {
+    athanActive = -1;
+    TickAt(12, 0, 3);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, EveryTickInAWindowCountsTheNextPrayerOn) {
+    NextPrayer = 2;
+    athanActive = -1;
+    TickAt(12, 0, 3);
+    TickAt(12, 0, 4);
+    TickAt(6, 30, 5);  // sunrise counts too
+    EXPECT_EQ(NextPrayer, 5);
+    TickAt(9, 0, 0);
+    EXPECT_EQ(NextPrayer, 5);
+}
+
+TEST_F(TickTest, SunriseHasNoAthan) {
+    ActiveSettings.AlarmTime = 0;
+    TickAt(6, 30, 0);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, OfTwoPrayersWithinTheWindowTheEarlierFires) {
+    TodayTimes[3] = TodayTimes[2] + 5.0 / 86400.0;
+    TickAt(12, 0, 6);
+    EXPECT_THAT(calls, ElementsAre("2", "day"));
+}
+
+TEST_F(TickTest, AlarmComesWhateverItsBoxSays) {
+    ActiveSettings.AlarmEnabled = 0;
+    athanActive = -1;
+    TickAt(6, 30, 9);
+    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    TickAt(6, 30, 10);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, AlarmTimesReachFromMidnightToFiveBefore) {
+    ActiveSettings.AlarmTime = 0;
+    TickAt(0, 0, 9);
+    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    ActiveSettings.AlarmTime = 287;
+    TickAt(23, 55, 0);
+    EXPECT_THAT(calls, ElementsAre("7", "day"));
+}
+
+TEST_F(TickTest, NewDateShowsTheDayBeforeAndAfterTheTests) {
+    TodayDate -= 1.0;
+    TickAt(10, 0, 0);
+    EXPECT_THAT(calls, ElementsAre("day", "day"));
+}
+
+TEST_F(TickTest, NewYearRefreshesInstead) {
+    CurrentYear = 2025;
+    TodayDate -= 1.0;
+    TickAt(10, 0, 0);
+    EXPECT_THAT(calls, ElementsAre("refresh", "day"));
+}
+
+TEST_F(TickTest, ClockThatJumpsOverTheWindowMissesTheAthan) {
+    TickAt(11, 59, 59);
+    TickAt(12, 0, 11);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, ClockSetBackFiresAgain) {
+    TickAt(12, 0, 5);
+    TickAt(12, 0, 2);
+    EXPECT_THAT(calls, ElementsAre("2", "day"));
+}
+
+TEST_F(TickTest, TimeThatDoesNotExistNeverMatches) {
+    TodayTimes[2] = 10000000.0 / 24.0;
+    for (int minute = 0; minute < 24 * 60; ++minute) {
+        platform.clock.Set(DateSerial(2026, 11, 21) + minute / 1440.0);
+        Tick();
+        EXPECT_THAT(calls, testing::Not(testing::Contains("2")));
+    }
+}
+
+struct RunningClockTest : ProgramTest {
+    RunningClockTest() { StartAgain(); }
+
+    void AlarmInMoment() {
+        ActiveSettings.AlarmTime = 78;
+        SetClock(2026, 11, 21, 6, 30, 0);
+    }
+};
+
+TEST_F(RunningClockTest, TickSendsTheFace) {
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(platform.face.variables.size(), 11U);
+}
+
+TEST_F(RunningClockTest, HiddenFaceIsSentAllTheSame) {
+    frmMain->UserClose();
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(platform.face.variables.size(), 11U);
+}
+
+TEST_F(RunningClockTest, AlarmDoesNotNestInItself) {
+    AlarmInMoment();
+    int ticksInside = 0;
+    platform.loop.After(5.0, [&] {
+        frmMain->tmrUpdate.Tick();
+        ++ticksInside;
+    });
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(ticksInside, 1);
+    EXPECT_EQ(platform.dialogs.beeps, 20) << "a nested alarm would have beeped on its own";
+}
+
+TEST_F(RunningClockTest, TicksGoOnUnderAModalWindow) {
+    AlarmInMoment();
+    std::size_t before = 0;
+    std::size_t after = 0;
+    platform.loop.After(30.0, [&] {
+        const ModalLoop modal;
+        before = platform.face.variables.size();
+        frmMain->tmrUpdate.Tick();
+        after = platform.face.variables.size();
+    });
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(after, before + 11);
+}
+
+TEST_F(RunningClockTest, NewYearRecalculatesBehindTheProgressWindow) {
+    SetClock(2027, 1, 1, 0, 0, 0);
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(CurrentYear, 2027);
+    EXPECT_THAT(platform.desktop.calls, testing::Contains("show fMessage"));
+    EXPECT_FALSE(fMessage->IsLoaded());
+}
+
+TEST_F(RunningClockTest, TurnOfTheDayDoesNotRecalculate) {
+    SetClock(2026, 11, 22, 0, 0, 0);
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(TodayDate, DateSerial(2026, 11, 22));
+    EXPECT_THAT(platform.desktop.calls, IsEmpty());
+}
+
+TEST_F(RunningClockTest, GapOfTwoDaysRunsTheSetAction) {
+    SetClock(2026, 11, 23, 8, 0, 0);
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(LastRefreshDate, DateSerial(2026, 11, 23));
+    EXPECT_THAT(platform.desktop.calls, testing::Contains("show fMessage"));
+}
+
+}  // namespace
+}  // namespace horavex
