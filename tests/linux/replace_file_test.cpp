@@ -50,11 +50,13 @@ private:
     void (*former_)(int) = SIG_DFL;
 };
 
-// The number that the next descriptor gets.
-rlim_t NextDescriptor() {
-    const int next = ::open("/", O_RDONLY | O_CLOEXEC);
-    ::close(next);
-    return static_cast<rlim_t>(next);
+// The numbers that the next two descriptors get; what started the tests may have left gaps.
+std::array<rlim_t, 2> NextDescriptors() {
+    const int first = ::open("/", O_RDONLY | O_CLOEXEC);
+    const int second = ::open("/", O_RDONLY | O_CLOEXEC);
+    ::close(first);
+    ::close(second);
+    return {static_cast<rlim_t>(first), static_cast<rlim_t>(second)};
 }
 
 // Another process that writes two contents in turn until it is killed, at any of its steps.
@@ -199,15 +201,15 @@ TEST_F(ReplaceFileTest, WriteThatFailsAtAnyByteKeepsTheOldFile) {
 
 TEST_F(ReplaceFileTest, WantOfDescriptorsKeepsTheOldFile) {
     ReplaceFile(folder / "a", BytesOf("old content"));
-    const rlim_t next = NextDescriptor();
-    for (rlim_t free = 0; free < 2; ++free) {  // the folder's and the file's
+    const auto [ofFolder, ofFile] = NextDescriptors();
+    for (const rlim_t missing : {ofFolder, ofFile}) {
         {
-            const LoweredLimit limit(RLIMIT_NOFILE, next + free);
-            EXPECT_THROW(ReplaceFile(folder / "a", BytesOf("new")), FileFault) << free;
+            const LoweredLimit limit(RLIMIT_NOFILE, missing);
+            EXPECT_THROW(ReplaceFile(folder / "a", BytesOf("new")), FileFault) << missing;
         }
         ExpectOldFileAlone();
     }
-    const LoweredLimit limit(RLIMIT_NOFILE, next + 2);
+    const LoweredLimit limit(RLIMIT_NOFILE, ofFile + 1);
     ReplaceFile(folder / "a", BytesOf("new"));
 }
 
