@@ -1,0 +1,29 @@
+#include "desktop/application.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/end_signals.h"
+#include "desktop/fault_box.h"
+#include "shell/start.h"
+#include "windows/frm_main.h"
+
+namespace {
+
+// The start runs before the event loop does, so that its faults have no other boundary.
+void Start() {
+    try {
+        horavex::frmMain->Load();
+    } catch (const std::exception& fault) {
+        horavex::ShowFault(fault);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    horavex::Application application(argc, argv);
+    const horavex::DesktopPlatform platform;
+    const horavex::EndSignals signals;
+    application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
+    horavex::BindWindows();
+    Start();
+    return horavex::Application::exec();
+}
