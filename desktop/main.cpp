@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include "desktop/application.h"
 #include "desktop/desktop_platform.h"
 #include "desktop/end_signals.h"
@@ -7,12 +9,15 @@
 
 namespace {
 
-// The start runs before the event loop does, so that its faults have no other boundary.
-void Start() {
+// The start runs before the event loop does, so that its faults have no other boundary. What is
+// left after one has no window to be reached by: the program says so and ends.
+bool Start() {
     try {
         horavex::frmMain->Load();
+        return true;
     } catch (const std::exception& fault) {
         horavex::ShowFault(fault);
+        return false;
     }
 }
 
@@ -24,6 +29,5 @@ int main(int argc, char** argv) {
     const horavex::EndSignals signals;
     application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
     horavex::BindWindows();
-    Start();
-    return horavex::Application::exec();
+    return Start() ? horavex::Application::exec() : EXIT_FAILURE;
 }
