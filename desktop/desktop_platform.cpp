@@ -1,9 +1,5 @@
 #include "desktop/desktop_platform.h"
 
-#include <QCursor>
-
-#include "desktop/form_window/menu.h"
-#include "forms/modal_loop.h"
 #include "linux/folders.h"
 #include "windows/frm_main.h"
 
@@ -21,16 +17,6 @@ RegistryFile FindRegistry(Files& files) {
     return {files, paths.user, paths.machine};
 }
 
-void ShowFace() {
-    frmMain->SetWindowState(WindowState::kNormal);
-    frmMain->Show();
-}
-
-void OpenTrayMenu() {
-    const ModalLoop loop;
-    RunMenu(frmMain->mnuPopup, nullptr, QCursor::pos());
-}
-
 }  // namespace
 
 DesktopPlatform::DesktopPlatform()
@@ -39,9 +25,8 @@ DesktopPlatform::DesktopPlatform()
       instanceLock_(InstanceLockPath()),
       formWindows_(AllLayouts()),
       windows_(formWindows_),
+      tray_(frmMain->mnuPopup),
       shell_(files_) {
-    tray_.onChosen = ShowFace;
-    tray_.onMenu = OpenTrayMenu;
     InstallPlatform(&platform_);
 }
 

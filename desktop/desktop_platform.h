@@ -12,6 +12,7 @@
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
+#include "linux/system_network.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -40,8 +41,9 @@ private:
     QtWindows windows_;
     QtTray tray_;
     QtShell shell_;
-    Platform platform_{clock_,    eventLoop_,    files_, folder_,  formats_, dialogs_,
-                       registry_, instanceLock_, face_,  windows_, tray_,    shell_};
+    SystemNetwork network_;
+    Platform platform_{clock_,        eventLoop_, files_,   folder_, formats_, dialogs_, registry_,
+                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
 };
 
 }  // namespace horavex

@@ -12,7 +12,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kSignals[] = {SIGTERM, SIGINT};
+constexpr int kSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
 // A pipe to ourselves: its write end is what a signal's handler may touch.
 int ends[2] = {-1, -1};

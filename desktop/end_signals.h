@@ -5,7 +5,7 @@
 
 namespace horavex {
 
-/// Turns SIGTERM and SIGINT into an event that asks the application to quit, which ends the
+/// Turns SIGTERM, SIGINT and SIGHUP into an event that asks the application to quit, which ends the
 /// program between two events and never in the middle of a write. A signal that is ignored stays
 /// ignored. One at a time.
 class EndSignals {

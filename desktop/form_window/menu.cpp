@@ -1,5 +1,8 @@
 #include "desktop/form_window/menu.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "desktop/form_window/caption_text.h"
 #include "platform/platform.h"
 
@@ -16,8 +19,12 @@ QIcon IconOf(const MenuItem& item) {
     return QIcon(QString::fromStdString(Ports().programFolder.RealPath(item.Picture())));
 }
 
+QString CaptionOf(const MenuItem& item) {
+    return WithoutBrokenKey(QString::fromStdString(item.Caption()));
+}
+
 void AddEntry(QMenu& menu, MenuItem& item) {
-    const QString caption = WithoutBrokenKey(QString::fromStdString(item.Caption()));
+    const QString caption = CaptionOf(item);
     QAction* action = nullptr;
     if (item.Caption() == kSeparator) {
         action = menu.addSeparator();
@@ -45,6 +52,18 @@ void FillMenu(QMenu& menu, const MenuItem& source) {
     const QList<QAction*> actions = menu.actions();
     const bool rightToLeft = !actions.isEmpty() && actions.first()->text().isRightToLeft();
     menu.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source) {
+    std::vector<MenuItem*> entries = source.Entries();
+    std::erase_if(entries, [](const MenuItem* entry) { return !entry->Visible(); });
+    const QList<QAction*> actions = menu.actions();
+    return std::equal(actions.begin(), actions.end(), entries.begin(), entries.end(),
+                      [](const QAction* action, const MenuItem* entry) {
+                          return ItemOf(action) == entry && action->text() == CaptionOf(*entry) &&
+                                 action->isEnabled() == entry->Enabled() &&
+                                 action->isChecked() == entry->Checked();
+                      });
 }
 
 MenuItem* ItemOf(const QAction* action) {

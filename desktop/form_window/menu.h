@@ -11,6 +11,9 @@ namespace horavex {
 /// ItemOf.
 void FillMenu(QMenu& menu, const MenuItem& source);
 
+/// Whether a menu already has the visible entries of the source, as they are now.
+bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source);
+
 /// The menu item behind an entry; nullptr for no entry.
 MenuItem* ItemOf(const QAction* action);
 

@@ -4,8 +4,8 @@
 
 namespace horavex {
 
-/// The program's emblem, a crescent over a dial of the night sky, in the sizes that trays and
-/// window managers ask for.
+/// The program's emblem, a crescent over a dial of the night sky, drawn anew at every size that
+/// notification areas and window managers ask for.
 QIcon Emblem();
 
 }  // namespace horavex

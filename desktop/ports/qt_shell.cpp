@@ -1,8 +1,10 @@
 #include "desktop/ports/qt_shell.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QUrl>
 
 namespace horavex {
 
@@ -43,6 +45,10 @@ void QtShell::OpenDateTimeTool() {
             return;
         }
     }
+}
+
+void QtShell::OpenAddress(const std::string& address) {
+    QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
 }
 
 }  // namespace horavex

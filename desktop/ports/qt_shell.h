@@ -11,6 +11,7 @@ public:
     explicit QtShell(Files& files);
 
     void OpenDateTimeTool() override;
+    void OpenAddress(const std::string& address) override;
     void WriteStartupEntry(const std::string& baseName) override { entries_.Write(baseName); }
     bool HasStartupEntry(const std::string& baseName) override { return entries_.Has(baseName); }
     void DeleteStartupEntry(const std::string& baseName) override { entries_.Delete(baseName); }

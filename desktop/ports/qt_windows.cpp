@@ -1,5 +1,6 @@
 #include "desktop/ports/qt_windows.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
@@ -37,10 +38,37 @@ void QtWindows::StartDrag(const std::string& form) {
 }
 
 void QtWindows::PopUpMenu(const std::string& form, const std::string& menu, int x, int y) {
+    const FormWindow* window = windows_.Find(form);
+    if (window != nullptr) {
+        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)));
+    }
+}
+
+void QtWindows::PopUpMenuAtPointer(const std::string& form, const std::string& menu) {
+    RunMenuOf(form, menu, QCursor::pos());
+}
+
+// A hidden window cannot stand behind its menu.
+void QtWindows::RunMenuOf(const std::string& form, const std::string& menu, QPoint place) {
     FormWindow* window = windows_.Find(form);
     const MenuItem* item = window == nullptr ? nullptr : FindMenu(window->Shown(), menu);
     if (item != nullptr) {
-        RunMenu(*item, window, window->mapToGlobal(QPoint(x, y)));
+        RunMenu(*item, window->isVisible() ? window : nullptr, place);
+    }
+}
+
+void QtWindows::Activate(const std::string& form) {
+    FormWindow* window = windows_.Find(form);
+    if (window != nullptr && window->isVisible()) {
+        window->activateWindow();
+    }
+}
+
+void QtWindows::SetForeground(const std::string& form) {
+    FormWindow* window = windows_.Find(form);
+    if (window != nullptr && window->isVisible()) {
+        window->raise();
+        window->activateWindow();
     }
 }
 

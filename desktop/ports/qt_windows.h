@@ -13,8 +13,13 @@ public:
     ScreenSize Screen() override;
     void StartDrag(const std::string& form) override;
     void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) override;
+    void PopUpMenuAtPointer(const std::string& form, const std::string& menu) override;
+    void Activate(const std::string& form) override;
+    void SetForeground(const std::string& form) override;
 
 private:
+    void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);
+
     const FormWindows& windows_;
 };
 

@@ -22,9 +22,11 @@
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "shell/close_face.h"
 #include "shell/face_bridge.h"
 #include "shell/menus.h"
 #include "shell/tick.h"
+#include "shell/tray_icon.h"
 #include "store/isha_setting.h"
 #include "store/language_setting.h"
 #include "store/location_files.h"
@@ -138,7 +140,7 @@ void SettingsForm_Load() {
     alarmDismissed = kFalse;
     Settings_Form_Load();
     LoadQiblaLabels();
-    Ports().tray.Add(kTitle);
+    TrayAdd();
 }
 
 void BringFaceUp() {
@@ -170,7 +172,7 @@ void FrmMain_Load() {
 void FrmMain_QueryUnload(CloseRequest& request) {
     if (request.reason == CloseReason::kUser || request.reason == CloseReason::kCode) {
         request.cancel = true;
-        frmMain->Hide();
+        CloseFace();
     }
 }
 
@@ -187,6 +189,7 @@ void BindWindows() {
     frmMain->onLoad = FrmMain_Load;
     frmMain->onCloseRequest = FrmMain_QueryUnload;
     frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
+    Ports().tray.onMessage = traypic_MouseMove;
     Ports().face.onFSCommand = [](const std::string& command, const std::string&) {
         OnFaceCommand(command);
     };

@@ -34,7 +34,7 @@ TEST_P(EndSignalsTest, IgnoredSignalStaysIgnored) {
     EXPECT_EQ(std::signal(GetParam(), SIG_DFL), SIG_IGN);
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, EndSignalsTest, testing::Values(SIGTERM, SIGINT));
+INSTANTIATE_TEST_SUITE_P(Each, EndSignalsTest, testing::Values(SIGTERM, SIGINT, SIGHUP));
 
 }  // namespace
 }  // namespace horavex
