@@ -1,5 +1,6 @@
 #include "shell/start.h"
 
+#include "athan/athan_files.h"
 #include "athan/athan_state.h"
 #include "athan/message_window.h"
 #include "base/fault.h"
@@ -11,6 +12,7 @@
 #include "config/settings_display.h"
 #include "config/settings_window.h"
 #include "config/startup_entry.h"
+#include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
 #include "engine/progress.h"
@@ -140,6 +142,7 @@ void SettingsForm_Load() {
     alarmDismissed = kFalse;
     Settings_Form_Load();
     LoadQiblaLabels();
+    CheckAthanFiles();
     TrayAdd();
 }
 
@@ -157,6 +160,7 @@ void FrmMain_Load() {
     Qibla();
     currentLanguage = ReadStoredLanguage();
     BringFaceUp();
+    CenterOnScreen(*frmMain);
     frmMain->Show();
     if (languageMenuBuilt == kFalse) {
         BuildLanguageMenu(currentLanguage);

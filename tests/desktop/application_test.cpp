@@ -55,7 +55,8 @@ TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
     const Platform& ports = Ports();
     const Platform faulting{ports.clock,   ports.eventLoop, ports.files,    ports.programFolder,
                             ports.formats, dialogs,         ports.registry, ports.instanceGuard,
-                            ports.face,    ports.windows,   ports.tray,     ports.shell};
+                            ports.face,    ports.windows,   ports.tray,     ports.shell,
+                            ports.network};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));
