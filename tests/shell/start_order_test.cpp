@@ -105,6 +105,7 @@ public:
     void ShowMessage(const std::string& text, const std::string&, MessageIcon) override {
         log_.Note("message " + text);
     }
+    std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override { log_.Note("beep"); }
 
 private:
@@ -180,10 +181,22 @@ struct OrderTest : ProgramTest {
     WatchedRegistry registry{platform.registry, platform.desktop};
     WatchedGuard guard{platform.desktop};
     WatchedDialogs dialogs{platform.desktop};
-    const Platform ports{platform.clock,   platform.loop,    files,         folder,
-                         platform.formats, dialogs,          registry,      guard,
-                         platform.face,    platform.windows, platform.tray, platform.shell,
-                         platform.network};
+    const Platform ports{platform.clock,
+                         platform.loop,
+                         files,
+                         folder,
+                         platform.formats,
+                         dialogs,
+                         registry,
+                         guard,
+                         platform.face,
+                         platform.athanFace,
+                         platform.windows,
+                         platform.tray,
+                         platform.shell,
+                         platform.network,
+                         platform.audioFile,
+                         platform.audioPlayer};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };
