@@ -86,8 +86,8 @@ private:
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
     Platform platform_{clock,     eventLoop_,    files,      folder_,     formats_, dialogs_,
-                       registry_, instanceLock_, face_,      athanFace_,  windows_, tray_,
-                       shell_,    network_,      audioFile_, audioPlayer_};
+                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex

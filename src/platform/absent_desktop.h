@@ -73,7 +73,7 @@ public:
     void SetFormat(int, SampleFormat) override {}
     std::int32_t BytesFor(int) override { return 0; }
     void Start() override {}
-    bool Write(ByteView) override { return false; }
+    void Write(ByteView) override {}
     void Pause() override {}
     void Stop() override {}
     std::int64_t Position() override { return 0; }

@@ -7,16 +7,19 @@
 
 namespace horavex {
 
-/// How samples lie in a block: floats of 32 bits in the machine's byte order, full scale at 1,
-/// those of one moment side by side.
+/// Bytes of a sample, and the one mode in which blocks are handed out, whatever the file holds:
+/// signed integers of 16 bits in the machine's byte order.
+inline constexpr int kSampleBytes = 2;
+
+/// How samples lie in a block: those of one moment side by side.
 struct SampleFormat {
     int channels;  // 1 or more
 
+    /// Bytes that one moment takes.
+    int MomentBytes() const { return channels * kSampleBytes; }
+
     bool operator==(const SampleFormat&) const = default;
 };
-
-/// The one mode in which blocks are handed out: as SampleFormat has it, whatever the file holds.
-inline constexpr int kFloatSamples = 2;
 
 /// A reader of sound files, of one at a time. What a file is, its content tells and not its name.
 /// Failures are answers: nothing throws.
@@ -24,7 +27,7 @@ class AudioFile {
 public:
     virtual ~AudioFile() = default;
 
-    /// How blocks are handed out from now on; kFloatSamples.
+    /// How blocks are handed out from now on; kSampleBytes.
     virtual void SetMode(int mode) = 0;
 
     /// Opens a file by its real path, in place of the one that is open. 0 for success, any other

@@ -26,8 +26,8 @@ public:
     /// Plays what is queued and what comes. The position counts from here.
     virtual void Start() = 0;
 
-    /// Queues one block, before the start or behind it. False where it can go nowhere.
-    virtual bool Write(ByteView block) = 0;
+    /// Queues one block, before the start or behind it. Dropped where it can go nowhere.
+    virtual void Write(ByteView block) = 0;
 
     /// Falls silent at once and drops what is queued. The position stays until the next start.
     virtual void Pause() = 0;

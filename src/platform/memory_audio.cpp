@@ -7,7 +7,6 @@ namespace horavex {
 namespace {
 
 constexpr int kNoSuchFile = 2;
-constexpr std::int64_t kSampleBytes = 4;
 
 void Fire(const std::function<void()>& event) {
     if (event) {
@@ -42,7 +41,7 @@ std::int64_t MemoryAudioFile::Seek(std::int64_t position) {
     if (open_ == nullptr) {
         return 0;
     }
-    const std::int64_t moment = kSampleBytes * open_->format.channels;
+    const std::int64_t moment = open_->format.MomentBytes();
     const auto end = static_cast<std::int64_t>(open_->samples.size());
     position_ =
         static_cast<std::size_t>(std::clamp<std::int64_t>(position, 0, end) / moment * moment);
@@ -56,7 +55,7 @@ void MemoryAudioPlayer::SetFormat(int sampleRate, SampleFormat format) {
 
 std::int32_t MemoryAudioPlayer::BytesFor(int milliseconds) {
     const std::int64_t moments = std::int64_t{milliseconds} * sampleRate_ / 1000;
-    return static_cast<std::int32_t>(moments * format_.channels * kSampleBytes);
+    return static_cast<std::int32_t>(moments * format_.MomentBytes());
 }
 
 void MemoryAudioPlayer::Start() {
@@ -68,13 +67,11 @@ void MemoryAudioPlayer::Start() {
     }
 }
 
-bool MemoryAudioPlayer::Write(ByteView block) {
-    if (!hasDevice) {
-        return false;
+void MemoryAudioPlayer::Write(ByteView block) {
+    if (hasDevice) {
+        queue_.emplace_back(block.begin(), block.end());
+        mostQueued = std::max(mostQueued, queue_.size());
     }
-    queue_.emplace_back(block.begin(), block.end());
-    mostQueued = std::max(mostQueued, queue_.size());
-    return true;
 }
 
 void MemoryAudioPlayer::Pause() {

@@ -51,7 +51,7 @@ public:
     void SetFormat(int sampleRate, SampleFormat format) override;
     std::int32_t BytesFor(int milliseconds) override;
     void Start() override;
-    bool Write(ByteView block) override;
+    void Write(ByteView block) override;
     void Pause() override;
     void Stop() override;
     std::int64_t Position() override { return position_; }

@@ -29,12 +29,12 @@ struct Platform {
     Dialogs& dialogs;
     RegistryStore& registry;
     InstanceGuard& instanceGuard;
-    Face& face;       // in the window of frmMain
-    Face& athanFace;  // in the window of frmAzan
+    Face& face;  // in the window of frmMain
     Windows& windows;
     Tray& tray;
     Shell& shell;
     Network& network;
+    Face& athanFace;  // in the window of frmAzan
     AudioFile& audioFile;
     AudioPlayer& audioPlayer;
 };

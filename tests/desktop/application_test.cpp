@@ -55,8 +55,8 @@ TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
     const Platform& ports = Ports();
     const Platform faulting{ports.clock,   ports.eventLoop, ports.files,     ports.programFolder,
                             ports.formats, dialogs,         ports.registry,  ports.instanceGuard,
-                            ports.face,    ports.athanFace, ports.windows,   ports.tray,
-                            ports.shell,   ports.network,   ports.audioFile, ports.audioPlayer};
+                            ports.face,    ports.windows,   ports.tray,      ports.shell,
+                            ports.network, ports.athanFace, ports.audioFile, ports.audioPlayer};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));

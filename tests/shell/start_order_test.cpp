@@ -190,11 +190,11 @@ struct OrderTest : ProgramTest {
                          registry,
                          guard,
                          platform.face,
-                         platform.athanFace,
                          platform.windows,
                          platform.tray,
                          platform.shell,
                          platform.network,
+                         platform.athanFace,
                          platform.audioFile,
                          platform.audioPlayer};
     WatchedForm face{*frmMain, platform.desktop};
@@ -203,6 +203,7 @@ struct OrderTest : ProgramTest {
 
 /// Up to the question for another instance. Without a stored angle this is a first run.
 const std::string kReads = R"(load frmMain
+audio mode 2
 load HoravexMainForm
 delete Dat/update.txt
 get ADD TO STARTUP

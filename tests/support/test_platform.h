@@ -47,8 +47,8 @@ public:
 
 private:
     Platform platform_{clock,    loop,          failingFiles, folder,     formats, dialogs,
-                       registry, instanceGuard, face,         athanFace,  windows, tray,
-                       shell,    network,       audioFile,    audioPlayer};
+                       registry, instanceGuard, face,         windows,    tray,    shell,
+                       network,  athanFace,     audioFile,    audioPlayer};
 };
 
 }  // namespace horavex

@@ -44,8 +44,8 @@ private:
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
     Platform platform_{clock_,    loop_,          files,      folder_,     formats_, dialogs_,
-                       registry_, instanceGuard_, face_,      athanFace_,  windows_, tray_,
-                       shell_,    network_,       audioFile_, audioPlayer_};
+                       registry_, instanceGuard_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,     audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex
