@@ -64,7 +64,6 @@ private:
     void FollowDrawing();
     void Present();
     const QWidget* OwnerOrModalWindow() const;
-    void TellState();
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
