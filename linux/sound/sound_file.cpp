@@ -9,12 +9,13 @@ namespace horavex {
 
 namespace {
 
-constexpr float kFullScale = 32767.0F;
+constexpr float kFullScale = 32768.0F;
 constexpr sf_count_t kSkippedAtOnce = 4096;  // moments
 
 // Files of floats may go beyond full scale.
 std::int16_t ToSample(float value) {
-    return static_cast<std::int16_t>(std::lrintf(std::clamp(value, -1.0F, 1.0F) * kFullScale));
+    const float scaled = std::clamp(value * kFullScale, -kFullScale, kFullScale - 1.0F);
+    return static_cast<std::int16_t>(std::lrintf(scaled));
 }
 
 Bytes BytesOfSamples(const std::vector<float>& samples, std::size_t count) {
@@ -61,21 +62,25 @@ Bytes SoundFile::Read(std::int32_t bytes) {
     return BytesOfSamples(samples_, static_cast<std::size_t>(read) * channels);
 }
 
+// A decoder that looks back finds its feet in the second before the position. Some formats can
+// only be read from their beginning.
 std::int64_t SoundFile::Seek(std::int64_t position) {
     if (file_ == nullptr) {
         return 0;
     }
     const sf_count_t wanted = std::min<sf_count_t>(position / Format().MomentBytes(), info_.frames);
-    const sf_count_t reached = info_.seekable != 0 ? ::sf_seek(file_.get(), wanted, SEEK_SET) : -1;
-    return (reached >= 0 ? reached : SkipFromStart(wanted)) * Format().MomentBytes();
+    const sf_count_t before = std::max<sf_count_t>(wanted - info_.samplerate, 0);
+    sf_count_t reached = info_.seekable != 0 ? ::sf_seek(file_.get(), before, SEEK_SET) : -1;
+    if (reached < 0) {
+        reached = 0;
+        if (Open(std::string(path_)) != 0) {
+            return 0;
+        }
+    }
+    return (reached + Skip(wanted - reached)) * Format().MomentBytes();
 }
 
-// Some formats can only be read from their beginning.
-std::int64_t SoundFile::SkipFromStart(std::int64_t moments) {
-    const std::string path = path_;
-    if (Open(path) != 0) {
-        return 0;
-    }
+std::int64_t SoundFile::Skip(std::int64_t moments) {
     samples_.resize(static_cast<std::size_t>(kSkippedAtOnce * info_.channels));
     sf_count_t skipped = 0;
     while (skipped < moments) {

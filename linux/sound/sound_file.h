@@ -27,7 +27,8 @@ private:
         void operator()(SNDFILE* file) const { ::sf_close(file); }
     };
 
-    std::int64_t SkipFromStart(std::int64_t moments);
+    /// Reads on and tells how many moments were there.
+    std::int64_t Skip(std::int64_t moments);
 
     std::string path_;
     std::unique_ptr<SNDFILE, Closer> file_;

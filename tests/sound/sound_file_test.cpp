@@ -52,17 +52,13 @@ TEST_F(SoundFileTest, ReadsSamplesOfSixteenBitsUnchanged) {
     EXPECT_EQ(file.SampleRate(), 8000);
     EXPECT_EQ(file.Format(), SampleFormat{1});
     const auto samples = ReadAll();
-    ASSERT_EQ(samples.size(), 5U);
-    const std::vector<int> wanted = {0, 16384, -16384, 32767, -32768};
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
-        EXPECT_NEAR(samples[i], wanted[i], 1);
-    }
+    EXPECT_THAT(samples, testing::ElementsAre(0, 16384, -16384, 32767, -32767));
 }
 
 TEST_F(SoundFileTest, SamplesBeyondFullScaleAreCut) {
     WriteSound(Path("a.wav"), SF_FORMAT_WAV | SF_FORMAT_FLOAT, {3.0F, -3.0F});
     file.Open(Path("a.wav"));
-    EXPECT_THAT(ReadAll(), testing::ElementsAre(32767, -32767));
+    EXPECT_THAT(ReadAll(), testing::ElementsAre(32767, -32768));
 }
 
 TEST_F(SoundFileTest, ReadsOnInWholeMomentsAndEndsShort) {
@@ -167,14 +163,14 @@ TEST_F(SoundFileTest, SeekGoesToTheSameSampleInEveryFormat) {
     const auto check = [&](const std::string& path) {
         ASSERT_EQ(file.Open(path), 0);
         const auto all = ReadAll();
-        ASSERT_EQ(file.Seek(6400), 6400);
+        ASSERT_EQ(file.Seek(40000), 40000);
         const auto rest = ReadAll();
-        ASSERT_EQ(rest.size(), all.size() - 3200);
-        for (std::size_t i = 0; i < rest.size(); i += 100) {
-            ASSERT_NEAR(rest[i], all[i + 3200], 400) << i;
+        ASSERT_EQ(rest.size(), all.size() - 20000);
+        for (std::size_t i = 0; i < rest.size(); ++i) {
+            ASSERT_NEAR(rest[i], all[i + 20000], 2) << path << " " << i;
         }
     };
-    const auto tone = ToneOf(2.0, 440.0);
+    const auto tone = ToneOf(4.0, 440.0);
     for (const Format& format : kWithoutHeader) {
         SCOPED_TRACE(format.ending);
         WriteSound(Path(std::string("a.") + format.ending), format.format, tone);
