@@ -26,6 +26,7 @@ public:
 class ConsoleDialogs : public Dialogs {
 public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
+    std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override {}
 };
 
@@ -81,8 +82,12 @@ private:
     AbsentTray tray_;
     AbsentShell shell_;
     AbsentNetwork network_;
-    Platform platform_{clock,         eventLoop_, files,    folder_, formats_, dialogs_, registry_,
-                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
+    AbsentFace athanFace_;
+    AbsentAudioFile audioFile_;
+    AbsentAudioPlayer audioPlayer_;
+    Platform platform_{clock,     eventLoop_,    files,      folder_,     formats_, dialogs_,
+                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex

@@ -11,6 +11,7 @@
 #include "store/language_setting.h"
 #include "update/connection_probes.h"
 #include "update/web_server.h"
+#include "windows/frm_athan.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -27,14 +28,14 @@ void TellThatWindowIsMissing() {
 }
 
 void BindMissingWindows() {
-    for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuAthanSettings,
-          &frmMain->mnuPrayerTimes, &frmMain->mnuWizard, &frmMain->mnuDateConversion,
-          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuPrayerTimes,
+                            &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
+                            &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
+                            &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
+                            &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
+    frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
 }
 
 }  // namespace
@@ -77,6 +78,7 @@ void BindMenus() {
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
     frmMain->mnuExit.onClick = mnuExit_Click;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
+    frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;

@@ -1,8 +1,11 @@
 #include "shell/start.h"
 
 #include "athan/athan_files.h"
+#include "athan/athan_settings_window.h"
 #include "athan/athan_state.h"
+#include "athan/azan_window.h"
 #include "athan/message_window.h"
+#include "athan/player.h"
 #include "base/fault.h"
 #include "base/flag.h"
 #include "base/prayer_names.h"
@@ -154,6 +157,7 @@ void BringFaceUp() {
 void FrmMain_Load() {
     LastRefreshDate = Ports().clock.Today();
     NextPrayer = -1;
+    Ports().audioFile.SetMode(kSampleBytes);
     HoravexMainForm->Load();
     frmMain->lblCity.SetCaption(ActiveCityText);
     frmMain->tmrUpdate.SetEnabled(true);
@@ -186,7 +190,10 @@ void BindWindows() {
     static ShellDayHost host;
     InstallDayHost(&host);
     InstallUndefinedAngleReport();
+    BindPlayer();
+    BindAzanWindow();
     BindMessageWindow();
+    BindAthanSettingsWindow();
     BindSettingsWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;

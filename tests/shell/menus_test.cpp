@@ -4,6 +4,7 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/frm_athan.h"
 
 namespace horavex {
 namespace {
@@ -125,8 +126,7 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
-                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
+    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
                             &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
                             &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
                             &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
@@ -134,6 +134,9 @@ TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
     }
+    platform.dialogs.messages.clear();
+    frmAthan->AthanSettingHelp.UserClick();
+    EXPECT_THAT(Messages(), ElementsAre("This window is not there yet."));
 }
 
 using CloseFaceTest = MenusTest;

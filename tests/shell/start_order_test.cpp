@@ -105,6 +105,7 @@ public:
     void ShowMessage(const std::string& text, const std::string&, MessageIcon) override {
         log_.Note("message " + text);
     }
+    std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override { log_.Note("beep"); }
 
 private:
@@ -180,16 +181,29 @@ struct OrderTest : ProgramTest {
     WatchedRegistry registry{platform.registry, platform.desktop};
     WatchedGuard guard{platform.desktop};
     WatchedDialogs dialogs{platform.desktop};
-    const Platform ports{platform.clock,   platform.loop,    files,         folder,
-                         platform.formats, dialogs,          registry,      guard,
-                         platform.face,    platform.windows, platform.tray, platform.shell,
-                         platform.network};
+    const Platform ports{platform.clock,
+                         platform.loop,
+                         files,
+                         folder,
+                         platform.formats,
+                         dialogs,
+                         registry,
+                         guard,
+                         platform.face,
+                         platform.windows,
+                         platform.tray,
+                         platform.shell,
+                         platform.network,
+                         platform.athanFace,
+                         platform.audioFile,
+                         platform.audioPlayer};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };
 
 /// Up to the question for another instance. Without a stored angle this is a first run.
 const std::string kReads = R"(load frmMain
+audio mode 2
 load HoravexMainForm
 delete Dat/update.txt
 get ADD TO STARTUP

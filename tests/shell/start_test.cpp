@@ -18,9 +18,10 @@ using StartTest = ProgramTest;
 TEST_F(StartTest, FirstRunComesUpInItsFixedOrder) {
     Start();
     EXPECT_THAT(platform.desktop.calls,
-                ElementsAre("load frmMain", "load HoravexMainForm", "WriteStartupEntry ZORIT",
-                            "load fMessage", "show fMessage", "unload fMessage", "TrayAdd Horavex",
-                            "Place -89 -67", "LoadMovie 0 \\\\skin\\skin.swf", "show frmMain"));
+                ElementsAre("load frmMain", "audio mode 2", "load HoravexMainForm",
+                            "WriteStartupEntry ZORIT", "load fMessage", "show fMessage",
+                            "unload fMessage", "TrayAdd Horavex", "Place -89 -67",
+                            "LoadMovie 0 \\\\skin\\skin.swf", "show frmMain"));
 }
 
 TEST_F(StartTest, FirstRunStoresTheIshaAngleAndChoosesTheSound) {
