@@ -1,8 +1,11 @@
 #include "lang/pack_forms.h"
 
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 
@@ -18,7 +21,7 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm>();
+    return Make<FrmMain, SettingsForm, MessageForm, CountryForm, NewCoordinatesForm, WizardForm>();
 }
 
 }  // namespace horavex

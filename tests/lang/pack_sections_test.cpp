@@ -47,7 +47,7 @@ TEST_F(PackSectionsTest, RuntimeMembersAskForNoKey) {
     EXPECT_THAT(FormPackKeys(form), Not(Contains("mnuL_1")));
 }
 
-TEST_F(PackSectionsTest, FormsAreTheThreeLongLivedWindowsAsDefined) {
+TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
     frmMain->SetCaption("changed");
     frmMain->mnuL.Load(1);
     std::vector<std::string> names;

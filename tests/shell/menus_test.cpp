@@ -4,6 +4,8 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/f_country.h"
+#include "windows/frm_wizard.h"
 
 namespace horavex {
 namespace {
@@ -68,6 +70,21 @@ TEST_F(MenusTest, SettingsEntryBringsTheSettingsWindowUpInFrontOfTheFace) {
     EXPECT_EQ(HoravexMainForm->Owner(), &*frmMain);
 }
 
+TEST_F(MenusTest, WizardEntryBringsTheWizardUpInFrontOfTheFace) {
+    frmMain->mnuWizard.UserClick();
+    EXPECT_TRUE(frmWizard->Visible());
+    EXPECT_FALSE(frmWizard->IsModal());
+    EXPECT_EQ(frmWizard->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, CityEntryIsDisabledAndOpensThePicker) {
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_FALSE(fCountry->IsLoaded());
+    frmMain->mnuChangeCity.SetEnabled(true);
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_TRUE(fCountry->Visible());
+}
+
 TEST_F(MenusTest, ShowEntryTurnsTheVisibilityOver) {
     frmMain->mnuPopShow.UserClick();
     EXPECT_FALSE(frmMain->Visible());
@@ -125,11 +142,11 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
-                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuAthanSettings, &frmMain->mnuPrayerTimes,
+          &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
+          &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex, &frmMain->mnuUpdate,
+          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         platform.dialogs.messages.clear();
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
