@@ -64,12 +64,12 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names,
-                ElementsAre("msg", "other", "Azan", "frmMain", "HoravexMainForm", "fMessage"));
+    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
+                                   "fMessage"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[3].keys;
+    const auto keys = PackSections()[4].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {
