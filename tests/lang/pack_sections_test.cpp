@@ -56,7 +56,8 @@ TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage"));
+    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "fCountry",
+                                   "NewCoordinates", "frmWizard"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -65,7 +66,7 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
         names.push_back(section.name);
     }
     EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
-                                   "fMessage"));
+                                   "fMessage", "fCountry", "NewCoordinates", "frmWizard"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {

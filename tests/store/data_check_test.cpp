@@ -116,8 +116,8 @@ TEST_F(DataCheckTest, EmptyTextIsNamed) {
 TEST_F(DataCheckTest, TextsBeyondSixteenBitsAreNamed) {
     data.WriteText(89, 5, std::string(32767, 'x'));
     EXPECT_THAT(Problems(),
-                ElementsAre(StartsWith("Dat/TI.DAT: record 461: no text from position "),
-                            StartsWith("Dat/TI.DAT: record 462: no text from position -")));
+                ElementsAre(StartsWith("Dat/TI.DAT: record 533: no text from position "),
+                            StartsWith("Dat/TI.DAT: record 534: no text from position -")));
 }
 
 TEST_F(DataCheckTest, ControlCharactersAreNamed) {
