@@ -117,6 +117,7 @@ void StartOnFirstPage() {
 
 void frmWizard_Load() {
     const PreviewHold hold;
+    ForgetPreview();
     TranslateOnLoad(*frmWizard);
     CopyLimits();
     frmWizard->label5.SetVisible(firstRun != kFalse);

@@ -1,6 +1,8 @@
 #include "config/wizard_preview.h"
 
+#include <cstdint>
 #include <exception>
+#include <optional>
 #include <utility>
 
 #include "base/program_state.h"
@@ -11,6 +13,7 @@
 #include "engine/year_table.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
+#include "store/settings_record.h"
 #include "windows/frm_wizard.h"
 
 namespace horavex {
@@ -22,10 +25,31 @@ constexpr double kHoursPerDay = 24.0;
 int holds = 0;
 bool asked = false;  // for a preview, while it is put off
 
+/// What a preview depends on.
+struct PreviewInput {
+    SettingsRecord settings;
+    double ishaAngle;
+    std::int16_t latitude;
+    std::int16_t longitude;
+    Date today;
+
+    bool operator==(const PreviewInput&) const = default;
+};
+
+/// Of the times on view. The same input has the same times or the same message, which is not
+/// told twice.
+std::optional<PreviewInput> shown;
+
 const ProgramStateReset reset([] {
     holds = 0;
     asked = false;
+    shown.reset();
 });
+
+PreviewInput PresentInput() {
+    return {Settings, IshaAngle, Location.City.Latitude, Location.City.Longitude,
+            Ports().clock.Today()};
+}
 
 /// The engine at the working place, as long as it lives.
 class AtWorkingPlace {
@@ -58,11 +82,19 @@ void SetTodayPrayerTimes() {
         asked = true;
         return;
     }
+    if (shown == PresentInput()) {
+        return;
+    }
+    shown = PresentInput();
     const PrayerRow times = TimesOfToday();
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         frmWizard->lblTime(static_cast<int>(prayer))
             .SetCaption(Ports().formats.MediumTime(times[prayer] / kHoursPerDay));
     }
+}
+
+void ForgetPreview() {
+    shown.reset();
 }
 
 PreviewHold::PreviewHold() {
