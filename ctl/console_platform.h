@@ -35,6 +35,7 @@ class ConsoleClock : public Clock {
 public:
     Date Now() const override { return choice_ ? choice_() : system_.Now(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
+    ClockOffset OffsetOn(Date day) const override { return system_.OffsetOn(day); }
 
     /// Shows that moment for good.
     void StandAt(Date moment);

@@ -1,9 +1,12 @@
 #include "lang/pack_forms.h"
 
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 
@@ -19,7 +22,8 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm, FrmAthan>();
+    return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
+                WizardForm>();
 }
 
 }  // namespace horavex

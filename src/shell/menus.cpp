@@ -2,7 +2,9 @@
 
 #include "athan/athan_alert.h"
 #include "base/flag.h"
+#include "config/city_choice.h"
 #include "config/settings_window.h"
+#include "config/wizard.h"
 #include "forms/modal_loop.h"
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
@@ -28,11 +30,11 @@ void TellThatWindowIsMissing() {
 }
 
 void BindMissingWindows() {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuPrayerTimes,
-                            &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
-                            &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-                            &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-                            &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuDateConversion,
+          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
+          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
+          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
     frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
@@ -79,6 +81,8 @@ void BindMenus() {
     frmMain->mnuExit.onClick = mnuExit_Click;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
+    frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition
+    frmMain->mnuWizard.onClick = ShowWizard;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;

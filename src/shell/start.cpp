@@ -15,6 +15,7 @@
 #include "config/settings_display.h"
 #include "config/settings_window.h"
 #include "config/startup_entry.h"
+#include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
@@ -45,15 +46,11 @@
 
 namespace horavex {
 
-std::int16_t firstRun = kFalse;
 std::string programFolder;
 
 namespace {
 
-const ProgramStateReset reset([] {
-    firstRun = kFalse;
-    programFolder.clear();
-});
+const ProgramStateReset reset([] { programFolder.clear(); });
 
 constexpr double kFaceLeft = -89.0;  // the face's outer margin lies outside the window
 constexpr double kFaceTop = -67.0;
@@ -170,6 +167,9 @@ void FrmMain_Load() {
         BuildLanguageMenu(currentLanguage);
     }
     TranslateOnLoad(*frmMain);
+    if (firstRun != kFalse) {
+        ShowWizard();
+    }
     // A second line of defence behind the settings window's own test.
     if (Ports().instanceGuard.AnotherIsRunning()) {
         Ports().eventLoop.EndProcess();

@@ -4,7 +4,9 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/f_country.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_wizard.h"
 
 namespace horavex {
 namespace {
@@ -69,6 +71,21 @@ TEST_F(MenusTest, SettingsEntryBringsTheSettingsWindowUpInFrontOfTheFace) {
     EXPECT_EQ(HoravexMainForm->Owner(), &*frmMain);
 }
 
+TEST_F(MenusTest, WizardEntryBringsTheWizardUpInFrontOfTheFace) {
+    frmMain->mnuWizard.UserClick();
+    EXPECT_TRUE(frmWizard->Visible());
+    EXPECT_FALSE(frmWizard->IsModal());
+    EXPECT_EQ(frmWizard->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, CityEntryIsDisabledAndOpensThePicker) {
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_FALSE(fCountry->IsLoaded());
+    frmMain->mnuChangeCity.SetEnabled(true);
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_TRUE(fCountry->Visible());
+}
+
 TEST_F(MenusTest, ShowEntryTurnsTheVisibilityOver) {
     frmMain->mnuPopShow.UserClick();
     EXPECT_FALSE(frmMain->Visible());
@@ -126,7 +143,7 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
+    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuPrayerTimes,
                             &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
                             &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
                             &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {

@@ -251,6 +251,12 @@ LoadMovie 0 \\skin\skin.swf
 show frmMain
 frmMain.mnuL_0
 frmMain.mnuExport
+)";
+
+/// The wizard of a first run, between the face and the second line of defence.
+const std::string kWizard = R"(read Dat/A.dat
+load frmWizard
+show frmWizard
 another instance?
 )";
 
@@ -258,7 +264,7 @@ using StartOrderTest = OrderTest;
 
 TEST_F(StartOrderTest, FirstRunGoesThroughEveryStepInTurn) {
     Start();
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
@@ -274,7 +280,7 @@ TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
 TEST_F(StartOrderTest, InstanceThatCameUpMeanwhileEndsTheStartAtItsVeryEnd) {
     guard.firstYes = 2;
     EXPECT_THROW(Start(), ProcessEnded);
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, FirstRunChoosesTheSoundBeforeTheStoredSettingsAreRead) {
