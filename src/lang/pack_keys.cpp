@@ -24,7 +24,7 @@ std::vector<std::string> MessageKeys() {
 
 std::vector<std::string> OtherKeys() {
     auto keys = Numbers(1, 20);
-    keys.insert(keys.end(), {"Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    keys.insert(keys.end(), {"AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
     return keys;
 }
 
