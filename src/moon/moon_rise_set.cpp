@@ -3,8 +3,11 @@
 #include <cmath>
 
 #include "base/int16.h"
+#include "base/number_text.h"
 #include "base/rounding.h"
+#include "lang/language_pack.h"
 #include "moon/moon_position.h"
+#include "platform/platform.h"
 
 namespace horavex {
 
@@ -85,6 +88,11 @@ MoonClock UniversalClock(const CivilDate& date, double siderealHours) {
     return {time.whole, time.minutes, time.seconds};
 }
 
+std::string ClockText(const MoonClock& time) {
+    return std::to_string(time.hour) + ":" + std::to_string(time.minute) + ":" +
+           NumberToText(time.second, Ports().formats.DecimalMark());
+}
+
 void CarryMinutes(MoonClock& time) {
     if (time.minute == 60) {
         time.minute = 0;
@@ -159,6 +167,23 @@ void MoveByZone(MoonClock& time, double zone) {
     const ThreeParts moved = DecimalToClock(d);
     time.hour = moved.whole;
     time.minute = moved.minutes;
+}
+
+void AddDaylightHour(MoonRiseSet& times) {
+    times.rise.hour = AddInt16(times.rise.hour, 1);
+    times.set.hour = AddInt16(times.set.hour, 1);
+}
+
+std::string MoonRiseText(const MoonRiseSet& times) {
+    return "Moon Rise at:" + ClockText(times.rise);
+}
+
+std::string MoonSetText(const MoonRiseSet& times) {
+    return "Moon Set at:" + ClockText(times.set);
+}
+
+std::string MoonErrorText() {
+    return GetLangString("msg", "4", "Input Error");
 }
 
 }  // namespace horavex

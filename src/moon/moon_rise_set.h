@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "base/date.h"
 #include "moon/moon_angle.h"
@@ -55,5 +56,15 @@ void FoldSeconds(MoonRiseSet& times);
 /// Moves a time by the zone, by one day at most; through six decimals, which may lose a minute
 /// (10:08 gives 10:07). The seconds stay.
 void MoveByZone(MoonClock& time, double zone);
+
+/// One hour more on both, without a wrap at 24.
+void AddDaylightHour(MoonRiseSet& times);
+
+/// "Moon Rise at:14:30:10.98" and "Moon Set at:2:52:0", nothing padded.
+std::string MoonRiseText(const MoonRiseSet& times);
+std::string MoonSetText(const MoonRiseSet& times);
+
+/// What both say where there is no rise or set, or no input that makes sense.
+std::string MoonErrorText();
 
 }  // namespace horavex

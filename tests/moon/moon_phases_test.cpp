@@ -41,6 +41,45 @@ TEST_F(MoonPhasesTest, NewMoonsOf2001) {
                                      "14 December 2001, 20hrs 48min"));
 }
 
+TEST_F(MoonPhasesTest, FirstQuartersOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(FirstQuarterRows),
+        testing::ElementsAre("2 January 2001,  22hrs 32min", "1 February 2001,  14hrs 3min",
+                             "3 March 2001,  2hrs 4min", "1 April 2001,  10hrs 50min",
+                             "30 April 2001,  17hrs 8min", "29 May 2001,  22hrs 10min",
+                             "28 June 2001,  3hrs 20min", "27 July 2001,  10hrs 9min",
+                             "25 August 2001,  19hrs 55min", "24 September 2001,  9hrs 31min",
+                             "24 October 2001,  2hrs 59min", "22 November 2001,  23hrs 21min",
+                             "22 December 2001,  20hrs 57min"));
+}
+
+TEST_F(MoonPhasesTest, FullMoonsOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(FullMoonRows),
+        testing::ElementsAre("9 January 2001,  20hrs 25min", "8 February 2001,  7hrs 12min",
+                             "9 March 2001,  17hrs 24min", "8 April 2001,  3hrs 22min",
+                             "7 May 2001,  13hrs 53min", "6 June 2001,  1hrs 40min",
+                             "5 July 2001,  15hrs 4min", "4 August 2001,  5hrs 56min",
+                             "2 September 2001,  21hrs 44min", "2 October 2001,  13hrs 49min",
+                             "1 November 2001,  5hrs 42min", "30 November 2001,  20hrs 50min",
+                             "30 December 2001,  10hrs 41min"));
+}
+
+TEST_F(MoonPhasesTest, LastQuartersOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(LastQuarterRows),
+        testing::ElementsAre("16 January 2001,  12hrs 35min", "15 February 2001,  3hrs 24min",
+                             "16 March 2001,  20hrs 46min", "15 April 2001,  15hrs 32min",
+                             "15 May 2001,  10hrs 11min", "14 June 2001,  3hrs 29min",
+                             "13 July 2001,  18hrs 46min", "12 August 2001,  7hrs 54min",
+                             "10 September 2001,  19hrs 0min", "10 October 2001,  4hrs 20min",
+                             "8 November 2001,  12hrs 22min", "7 December 2001,  19hrs 52min",
+                             "6 January 2002,  3hrs 55min"));
+}
+
 TEST_F(MoonPhasesTest, EveryYearOfTwoCenturiesHas13RowsOfEachPhase) {
     const std::string row = "[0-9]+ [A-Z][a-z]+ [0-9]+,";
     const std::string clock = "[0-9]+hrs [0-9]+min";

@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "moon/moon_position.h"
+#include "support/test_platform.h"
 
 namespace horavex {
 namespace {
@@ -156,6 +157,21 @@ TEST(MoonRiseSetTest, SiderealTimesStandAroundTheRightAscension) {
     const SiderealRiseSet onEquator = MoonRiseSetSidereal({0, 0, 0.0}, {7, 0, 0.0}, 30);
     EXPECT_NEAR(onEquator.rise, 1.0, 1e-5);
     EXPECT_NEAR(onEquator.set, 13.0, 1e-5);
+}
+
+TEST(MoonRiseSetTest, TextsArePlainAndUnpadded) {
+    const TestPlatform platform;
+    const MoonRiseSet times{{5, 7, 9.25}, {18, 0, 0.0}};
+    EXPECT_EQ(MoonRiseText(times), "Moon Rise at:5:7:9.25");
+    EXPECT_EQ(MoonSetText(times), "Moon Set at:18:0:0");
+    EXPECT_EQ(MoonErrorText(), "Input Error");
+}
+
+TEST(MoonRiseSetTest, DaylightHourIsNotWrapped) {
+    MoonRiseSet times{{23, 10, 0.0}, {5, 0, 0.0}};
+    AddDaylightHour(times);
+    EXPECT_EQ(times.rise.hour, 24);
+    EXPECT_EQ(times.set.hour, 6);
 }
 
 }  // namespace
