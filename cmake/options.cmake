@@ -11,7 +11,11 @@ option(HORAVEX_COVERAGE "Instrument for line coverage" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    # Without these it never finds a file again that is compiled with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        ${CCACHE_PROGRAM})
+    add_compile_options(-fpch-preprocess)
 endif()
 
 # The year's table must come out the same on every machine and at every optimisation level: no

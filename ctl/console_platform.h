@@ -80,8 +80,9 @@ private:
     AbsentWindows windows_;
     AbsentTray tray_;
     AbsentShell shell_;
-    Platform platform_{clock,     eventLoop_,    files, folder_,  formats_, dialogs_,
-                       registry_, instanceLock_, face_, windows_, tray_,    shell_};
+    AbsentNetwork network_;
+    Platform platform_{clock,         eventLoop_, files,    folder_, formats_, dialogs_, registry_,
+                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
 };
 
 }  // namespace horavex

@@ -2,6 +2,7 @@
 
 #include "athan/athan_state.h"
 #include "base/flag.h"
+#include "engine/center_on_screen.h"
 #include "lang/form_language.h"
 #include "store/cancel_load.h"
 #include "store/settings_record.h"
@@ -17,6 +18,7 @@ void fMessage_Load() {
     fMessage->SetCaption("Horavex Prayer Time Software ");
     fMessage->CmdCancel.SetCaption(TextItem(27, ActiveSettings.Language));
     alarmDismissed = kFalse;
+    CenterOnScreen(*fMessage);
 }
 
 void cmdAlarmClose_Click() {

@@ -63,10 +63,14 @@ void ShowAlarmAndDaylight() {
     sub05CD();
 }
 
+/// Showing the language is no choice of the user's: the window keeps its help topic.
 void ShowLanguage() {
-    if (Settings.Language >= 1 && Settings.Language <= HoravexMainForm->lstLanguage.ListCount()) {
-        HoravexMainForm->lstLanguage.SetListIndex(Settings.Language - 1);
+    SettingsForm& form = *HoravexMainForm;
+    const int topic = form.HelpContextId();
+    if (Settings.Language >= 1 && Settings.Language <= form.lstLanguage.ListCount()) {
+        form.lstLanguage.SetListIndex(Settings.Language - 1);
     }
+    form.SetHelpContextId(topic);
 }
 
 void ShowSettings(double fajrAngle, double ishaAngle) {

@@ -31,8 +31,10 @@ std::vector<std::string> OtherKeys() {
 }  // namespace
 
 const std::vector<PackSection>& PackVocabularies() {
-    static const std::vector<PackSection> sections = {
-        {"msg", MessageKeys()}, {"other", OtherKeys()}, {"Azan", {"0", "2", "3", "4", "5"}}};
+    static const std::vector<PackSection> sections = {{"msg", MessageKeys()},
+                                                      {"other", OtherKeys()},
+                                                      {"Azan", {"0", "2", "3", "4", "5"}},
+                                                      {"desktop", {"NoTray"}}};
     return sections;
 }
 

@@ -13,8 +13,8 @@ struct PackSection {
     std::vector<std::string> keys;
 };
 
-/// The vocabularies of a pack: messages, labels with the Hijri months and the prayer names, and
-/// the texts of the athan window.
+/// The vocabularies of a pack: messages, labels with the Hijri months and the prayer names,
+/// the texts of the athan window, and what desktops of some kind bring along.
 const std::vector<PackSection>& PackVocabularies();
 
 /// The keys of one form, as it stands: its own name for its caption, then in the order of its

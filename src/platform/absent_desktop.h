@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/face.h"
+#include "platform/network.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
 #include "platform/windows.h"
@@ -22,6 +23,9 @@ public:
     ScreenSize Screen() override { return {0.0, 0.0}; }
     void StartDrag(const std::string&) override {}
     void PopUpMenu(const std::string&, const std::string&, int, int) override {}
+    void PopUpMenuAtPointer(const std::string&, const std::string&) override {}
+    void Activate(const std::string&) override {}
+    void SetForeground(const std::string&) override {}
 };
 
 class AbsentTray : public Tray {
@@ -29,15 +33,22 @@ public:
     void Add(const std::string&) override {}
     void Remove() override {}
     void SetTip(const std::string&) override {}
+    bool HasHost() override { return false; }
 };
 
 class AbsentShell : public Shell {
 public:
     void OpenDateTimeTool() override {}
+    void OpenAddress(const std::string&) override {}
     void WriteStartupEntry(const std::string&) override {}
     bool HasStartupEntry(const std::string&) override { return false; }
     void DeleteStartupEntry(const std::string&) override {}
     std::string StartupEntryPath(const std::string&) override { return {}; }
+};
+
+class AbsentNetwork : public Network {
+public:
+    ConnectionState Connection() override { return {false, 0}; }
 };
 
 }  // namespace horavex

@@ -6,6 +6,7 @@
 #include "platform/face.h"
 #include "platform/files.h"
 #include "platform/instance_guard.h"
+#include "platform/network.h"
 #include "platform/program_folder.h"
 #include "platform/regional_formats.h"
 #include "platform/registry_store.h"
@@ -30,6 +31,7 @@ struct Platform {
     Windows& windows;
     Tray& tray;
     Shell& shell;
+    Network& network;
 };
 
 /// Installs the ports; nullptr takes them away again.

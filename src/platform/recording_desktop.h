@@ -61,6 +61,11 @@ public:
         log_.Note("PopUpMenu " + form + " " + menu + " " + std::to_string(x) + " " +
                   std::to_string(y));
     }
+    void PopUpMenuAtPointer(const std::string& form, const std::string& menu) override {
+        log_.Note("PopUpMenuAtPointer " + form + " " + menu);
+    }
+    void Activate(const std::string& form) override { log_.Note("Activate " + form); }
+    void SetForeground(const std::string& form) override { log_.Note("SetForeground " + form); }
 
     ScreenSize screen{19200.0, 10800.0};
 
@@ -75,6 +80,9 @@ public:
     void Add(const std::string& tip) override { log_.Note("TrayAdd " + tip); }
     void Remove() override { log_.Note("TrayRemove"); }
     void SetTip(const std::string& tip) override { log_.Note("TraySetTip " + tip); }
+    bool HasHost() override { return hasHost; }
+
+    bool hasHost = true;
 
 private:
     DesktopLog& log_;
@@ -85,6 +93,7 @@ public:
     explicit RecordingShell(DesktopLog& log) : log_(log) {}
 
     void OpenDateTimeTool() override { log_.Note("OpenDateTimeTool"); }
+    void OpenAddress(const std::string& address) override { log_.Note("OpenAddress " + address); }
     void WriteStartupEntry(const std::string& baseName) override {
         log_.Note("WriteStartupEntry " + baseName);
         startupEntries.insert(baseName);

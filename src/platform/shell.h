@@ -12,6 +12,9 @@ public:
     /// Opens the system's tool for date and time; nothing where there is none.
     virtual void OpenDateTimeTool() = 0;
 
+    /// Opens a document or an address with what the user has for it; nothing where there is none.
+    virtual void OpenAddress(const std::string& address) = 0;
+
     /// The entry with which the user's session starts this program. Writing it again renews it.
     /// Throw FileFault where the entry cannot be written or deleted.
     virtual void WriteStartupEntry(const std::string& baseName) = 0;

@@ -24,6 +24,15 @@ public:
     /// Opens a menu of the form at a place of its inside, in pixels, and returns when it is
     /// closed again.
     virtual void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) = 0;
+
+    /// The same at the place of the pointer.
+    virtual void PopUpMenuAtPointer(const std::string& form, const std::string& menu) = 0;
+
+    /// Gives the keyboard to a window on view.
+    virtual void Activate(const std::string& form) = 0;
+
+    /// Puts a window on view above the others and gives it the keyboard.
+    virtual void SetForeground(const std::string& form) = 0;
 };
 
 }  // namespace horavex

@@ -7,6 +7,7 @@
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
+#include "shell/close_face.h"
 #include "shell/menus.h"
 #include "windows/frm_main.h"
 
@@ -66,7 +67,7 @@ constexpr FaceCommand kCommands[] = {
     {"IDC_FS_settings", [] { PopUp(frmMain->mnuSettings, 100, kMenuTop); }},
     {"IDC_FS_tools", [] { PopUp(frmMain->mnuTools, 150, kMenuTop); }},
     {"IDC_FS_help", [] { PopUp(frmMain->mnuHelp, 200, kMenuTop); }},
-    {"IDC_FS_close", [] { frmMain->Hide(); }},
+    {"IDC_FS_close", CloseFace},
     {"IDC_FS_minimize", [] { frmMain->SetWindowState(WindowState::kMinimized); }},
     {"IDC_FS_allTimes", [] { frmMain->mnuPrayerTimes.UserClick(); }},
 };

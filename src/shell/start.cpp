@@ -1,5 +1,6 @@
 #include "shell/start.h"
 
+#include "athan/athan_files.h"
 #include "athan/athan_state.h"
 #include "athan/message_window.h"
 #include "base/fault.h"
@@ -11,6 +12,7 @@
 #include "config/settings_display.h"
 #include "config/settings_window.h"
 #include "config/startup_entry.h"
+#include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
 #include "engine/progress.h"
@@ -22,9 +24,11 @@
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "shell/close_face.h"
 #include "shell/face_bridge.h"
 #include "shell/menus.h"
 #include "shell/tick.h"
+#include "shell/tray_icon.h"
 #include "store/isha_setting.h"
 #include "store/language_setting.h"
 #include "store/location_files.h"
@@ -138,7 +142,8 @@ void SettingsForm_Load() {
     alarmDismissed = kFalse;
     Settings_Form_Load();
     LoadQiblaLabels();
-    Ports().tray.Add(kTitle);
+    CheckAthanFiles();
+    TrayAdd();
 }
 
 void BringFaceUp() {
@@ -155,6 +160,7 @@ void FrmMain_Load() {
     Qibla();
     currentLanguage = ReadStoredLanguage();
     BringFaceUp();
+    CenterOnScreen(*frmMain);
     frmMain->Show();
     if (languageMenuBuilt == kFalse) {
         BuildLanguageMenu(currentLanguage);
@@ -170,7 +176,7 @@ void FrmMain_Load() {
 void FrmMain_QueryUnload(CloseRequest& request) {
     if (request.reason == CloseReason::kUser || request.reason == CloseReason::kCode) {
         request.cancel = true;
-        frmMain->Hide();
+        CloseFace();
     }
 }
 
@@ -187,6 +193,7 @@ void BindWindows() {
     frmMain->onLoad = FrmMain_Load;
     frmMain->onCloseRequest = FrmMain_QueryUnload;
     frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
+    Ports().tray.onMessage = traypic_MouseMove;
     Ports().face.onFSCommand = [](const std::string& command, const std::string&) {
         OnFaceCommand(command);
     };

@@ -12,6 +12,7 @@
 #include "engine/day_state.h"
 #include "forms/modal_loop.h"
 #include "platform/platform.h"
+#include "shell/tray_icon.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -94,6 +95,8 @@ void tmrUpdate_Timer() {
     }
     const RunningTick running;
     RunTick(DefaultTickActions());
+    // No notification area tells when the user points at the icon: its tip is kept fresh.
+    RefreshTrayTip();
 }
 
 }  // namespace horavex

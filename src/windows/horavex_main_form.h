@@ -8,6 +8,7 @@
 #include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list.h"
+#include "forms/menu_item.h"
 #include "forms/option_button.h"
 #include "forms/range.h"
 #include "forms/text_box.h"
@@ -94,6 +95,10 @@ public:
 
     /// The six fixed spellings of the prayers.
     ControlArray<Label> lblZoritName{*this, "lblZoritName", {{0}, {1}, {2}, {3}, {4}, {5}}};
+
+    /// Visible as long as the sound can be chosen; they have no menu around them.
+    MenuItem mnuPopSound{*this, "mnuPopSound", {.caption = "Sound"}};
+    MenuItem mnuSound{*this, "mnuSound", {.caption = "Sound"}};
 
     /// Nothing starts either of them; the date conversion window stops them all the same.
     Timer Timer1{*this, "Timer1", {.enabled = false}};

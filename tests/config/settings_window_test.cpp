@@ -4,7 +4,9 @@
 #include "config/settings_display.h"
 #include "engine/current_year.h"
 #include "engine/year_table.h"
+#include "geo/qibla.h"
 #include "store/angle_band.h"
+#include "store/cancel_load.h"
 #include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "support/program_test.h"
@@ -47,6 +49,56 @@ TEST_F(SettingsWindowTest, LoadShowsTheAcceptedState) {
     EXPECT_EQ(form.lblAlarm.Caption(), "06:30 AM");
     EXPECT_EQ(form.hsBegin.Max(), 364);
     EXPECT_EQ(form.hsBegin.LargeStep(), 30);
+}
+
+TEST_F(SettingsWindowTest, LoadTakesPlaceAndSettingsFromTheAcceptedState) {
+    Settings = {};
+    Location = {};
+    Settings_Form_Load();
+    EXPECT_EQ(Settings, ActiveSettings);
+    EXPECT_EQ(Location.Country, "Saudi Arabia");
+    EXPECT_EQ(Location.City.Name, "Mecca");
+}
+
+TEST_F(SettingsWindowTest, LoadForgetsACancelledList) {
+    CancelLoad = -1;
+    Settings_Form_Load();
+    EXPECT_EQ(CancelLoad, 0);
+}
+
+TEST_F(SettingsWindowTest, LoadTakesTheYearOfNow) {
+    SetClock(2028, 6, 1, 12, 0, 0);
+    Settings_Form_Load();
+    EXPECT_EQ(CurrentYear, 2028);
+    EXPECT_EQ(LeapFlag, 1);
+    EXPECT_EQ(form.hsEnd.Max(), 365);
+}
+
+TEST_F(SettingsWindowTest, LoadShowsTheZoneWithItsSign) {
+    ActiveSettings.TimeZone = -4.5;
+    SaveActiveSettings();
+    Settings = ActiveSettings;
+    SaveWorkingSettings();
+    Settings_Form_Load();
+    EXPECT_EQ(form.txtTimeZone.Text(), "-4.50");
+    ActiveSettings.TimeZone = 0.0;
+    Settings_Form_Load();
+    EXPECT_EQ(form.txtTimeZone.Text(), "+0.00");
+}
+
+TEST_F(SettingsWindowTest, LimitsOfTheLatitudeSetBothAnglesAndTheirLabels) {
+    SetDepressionLimits(-5200);
+    for (const ScrollBar* bar : {&form.hsDepr, &form.hsDepr2}) {
+        EXPECT_EQ(bar->Min(), AngleBand.smallest);
+        EXPECT_EQ(bar->Max(), AngleBand.largest);
+    }
+    EXPECT_LT(AngleBand.largest, 20);
+    for (const Label* label : {&form.lblDeprMin, &form.Label7}) {
+        EXPECT_EQ(label->Caption(), std::to_string(AngleBand.smallest));
+    }
+    for (const Label* label : {&form.lblDeprMax, &form.Label6}) {
+        EXPECT_EQ(label->Caption(), std::to_string(AngleBand.largest));
+    }
 }
 
 TEST_F(SettingsWindowTest, ControlsWriteStraightIntoTheWorkingRecord) {
@@ -192,6 +244,69 @@ TEST_F(SettingsWindowTest, ReopeningAfterAFailureShowsTheFailedValuesButTheAngle
     EXPECT_EQ(Settings.FajrAngle, 18.0);
 }
 
+TEST_F(SettingsWindowTest, FailedYearShowsTheWindowAndTheCommitHidesItAgain) {
+    form.hsDepr.SetMin(1);
+    form.hsDepr.UserSlide(1);
+    platform.desktop.calls.clear();
+    form.SettingsSet.UserClick();
+    EXPECT_THAT(platform.desktop.calls,
+                testing::ElementsAre("load fMessage", "show fMessage", "unload fMessage",
+                                     "show HoravexMainForm"));
+    EXPECT_FALSE(form.Visible());
+}
+
+struct PlaceCommitTest : SettingsWindowTest {
+    /// The next city of the list as the picker leaves it: chosen, not yet accepted.
+    PlaceCommitTest() {
+        Settings.CityIndex = static_cast<std::int16_t>(Settings.CityIndex + 1);
+        CityText = LookupLocation(Settings.CityIndex, Location);
+    }
+};
+
+TEST_F(PlaceCommitTest, AcceptedPlaceFollowsTheWorkingOne) {
+    form.SettingsSet.UserClick();
+    ASSERT_EQ(CalcFailed, 0);
+    EXPECT_EQ(ActiveSettings.CityIndex, Settings.CityIndex);
+    EXPECT_EQ(ActiveCityText, CityText);
+    EXPECT_EQ(ActiveLocation.City.Name, Location.City.Name);
+    EXPECT_EQ(form.lblCityBanner.Caption(), "City: " + CityText);
+    EXPECT_TRUE(form.cmdQibla.Enabled());
+}
+
+TEST_F(PlaceCommitTest, FailedYearKeepsTheAcceptedPlace) {
+    const std::string banner = form.lblCityBanner.Caption();
+    form.hsDepr.SetMin(1);
+    form.hsDepr.UserSlide(1);
+    form.SettingsSet.UserClick();
+    ASSERT_NE(CalcFailed, 0);
+    EXPECT_EQ(ActiveCityText, "Mecca, Mecca - Saudi Arabia");
+    EXPECT_EQ(ActiveLocation.City.Name, "Mecca");
+    EXPECT_EQ(form.lblCityBanner.Caption(), banner);
+    EXPECT_FALSE(form.cmdQibla.Enabled());
+}
+
+TEST_F(SettingsWindowTest, CommitOfTheSamePlaceLeavesTheBanner) {
+    const std::string banner = form.lblCityBanner.Caption();
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(form.lblCityBanner.Caption(), banner);
+}
+
+TEST_F(SettingsWindowTest, CommitShowsTheQiblaOfTheAcceptedPlace) {
+    form.lblQibla.SetCaption("");
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(form.lblQibla.Caption(), QiblaText);
+    EXPECT_NE(QiblaText, "");
+}
+
+TEST_F(SettingsWindowTest, RefusedZoneChangesNothing) {
+    const SettingsRecord working = Settings;
+    form.txtTimeZone.SetText("13");
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(Settings, working);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "18");
+    EXPECT_THAT(platform.desktop.calls, testing::IsEmpty());
+}
+
 class ZoneBound : public SettingsWindowTest,
                   public testing::WithParamInterface<std::pair<const char*, bool>> {};
 
@@ -251,6 +366,15 @@ TEST_F(SettingsWindowTest, FailedFileStepsArePassedOver) {
         EXPECT_EQ(platform.folder.ReadWhole("Dat/AI.DAT").size(), 97U);
         EXPECT_EQ(platform.folder.ReadWhole("Dat/Settings.DAT").size(), 97U);
     }
+}
+
+TEST_F(SettingsWindowTest, CloseBoxBringsTheLanguageBack) {
+    ShowSettingsWindow();
+    form.lstLanguage.UserSelect(1);
+    form.UserClose();
+    EXPECT_EQ(Settings.Language, 1);
+    EXPECT_EQ(form.lstLanguage.ListIndex(), 0);
+    EXPECT_EQ(form.fraCity.Caption(), "Location");
 }
 
 TEST_F(SettingsWindowTest, CloseBoxThrowsEditsAway) {

@@ -56,8 +56,9 @@ private:
     AbsentWindows windows_;
     AbsentTray tray_;
     AbsentShell shell_;
-    Platform platform_{clock_,    loop_,          files, folder,   formats_, dialogs,
-                       registry_, instanceGuard_, face_, windows_, tray_,    shell_};
+    AbsentNetwork network_;
+    Platform platform_{clock_,         loop_, files,    folder, formats_, dialogs, registry_,
+                       instanceGuard_, face_, windows_, tray_,  shell_,   network_};
 };
 
 }  // namespace horavex

@@ -7,6 +7,7 @@
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
 #include "engine/wait.h"
+#include "support/data_folder.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
@@ -77,6 +78,46 @@ TEST_F(RefreshAllTest, SlowCalculationWaitsNoLonger) {
     EXPECT_NEAR(platform.clock.SteadySeconds() - before, 36.5, 0.02);
 }
 
+TEST_F(RefreshAllTest, WaitsForWhatIsLeftOfTheThreeSeconds) {
+    struct : RecordingHost {
+        void ComputeQibla() override { clock->Advance(0.2); }
+        ManualClock* clock = nullptr;
+    } slow;
+    slow.clock = &platform.clock;
+    InstallDayHost(&slow);
+    const double before = platform.clock.SteadySeconds();
+    RefreshAll();
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 3.0, 0.02);
+}
+
+TEST_F(RefreshAllTest, ProgressWindowTellsTheYearInTheAcceptedLanguage) {
+    DataFolder(platform.files).WriteTexts(5);
+    ActiveSettings.Language = 2;
+    Settings.Language = 3;
+    bool shown = false;
+    platform.loop.After(1.0, [&shown] {
+        EXPECT_EQ(fMessage->lblMessage1.Caption(), "text 5 in 2 2026");
+        EXPECT_EQ(fMessage->lblMessage2.Caption(), "text 1 in 2");
+        shown = fMessage->Visible();
+    });
+    RefreshAll();
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(RefreshAllTest, CommonYearKeepsTheLastRowOfTheLeapYearBefore) {
+    platform.clock.Set(DateSerial(2028, 12, 31) + 0.5);
+    LastRefreshDate = platform.clock.Today();
+    RefreshAll();
+    const PrayerRow leapDay = TimesOfRow(365);
+    platform.clock.Set(DateSerial(2029, 12, 31) + TimeSerial(23, 0, 0));
+    LastRefreshDate = platform.clock.Today();
+    RefreshAll();
+    EXPECT_EQ(TimesOfRow(365), leapDay);
+    EXPECT_NE(TimesOfRow(364), leapDay);
+    EXPECT_EQ(frmMain->lblNextAthan.Caption(),
+              " " + platform.formats.LongTime(leapDay[kFajr] / 24.0));
+}
+
 TEST_F(RefreshAllTest, TakesTheYearOfNow) {
     RefreshAll();
     EXPECT_EQ(CurrentYear, 2026);
@@ -113,6 +154,29 @@ TEST_F(ShowDayTest, FillsLabelsAndFractions) {
     EXPECT_EQ(frmMain->lblCurrTime.Caption(), "12:00:00 PM");
     EXPECT_THAT(frmMain->lblNextAthan.Caption(), testing::HasSubstr("2:3"));
     EXPECT_EQ(host.faces, 1);
+}
+
+TEST_F(ShowDayTest, FaceComesLastAndFindsEveryLabelFilled) {
+    struct : RecordingHost {
+        void SetFlashVariables() override {
+            labels = {frmMain->lblTime(kIsha).Caption(), frmMain->lblDate.Caption(),
+                      frmMain->lblCurrTime.Caption(), frmMain->lblNextAthan.Caption(),
+                      frmMain->lblRemaining.Caption()};
+        }
+        std::vector<std::string> labels;
+    } face;
+    InstallDayHost(&face);
+    RefreshAll();
+    EXPECT_THAT(face.labels, testing::Each(testing::Not("")));
+    EXPECT_THAT(face.labels, testing::SizeIs(5));
+}
+
+TEST_F(ShowDayTest, MinuteBehindIshaNamesTomorrowsFajr) {
+    RefreshAll();
+    platform.clock.Set(platform.clock.Today() + TodayTimes[kIsha] + 60.0 / kSecondsPerDay);
+    ShowDay();
+    EXPECT_EQ(frmMain->lblNextAthan.Caption(),
+              " " + platform.formats.LongTime(Times[kFajr][325] / 24.0));
 }
 
 TEST_F(ShowDayTest, NextPrayerIsFilledOnlyWhileItIsNotYetSet) {

@@ -267,7 +267,8 @@ TEST(LanguageMenuOfTwoFolders, MergesBothWithTheUsersPacksInFront) {
     const Platform& ports = Ports();
     const Platform mergedPorts{ports.clock,   ports.eventLoop, ports.files,    merged,
                                ports.formats, ports.dialogs,   ports.registry, ports.instanceGuard,
-                               ports.face,    ports.windows,   ports.tray,     ports.shell};
+                               ports.face,    ports.windows,   ports.tray,     ports.shell,
+                               ports.network};
     InstallPlatform(&mergedPorts);
     platform.files.WriteWhole("/installed/lang/Arabic.ini", BytesOf("[frmMain]\nfrmMain=old"));
     platform.files.WriteWhole("/installed/lang/English.ini", BytesOf("[frmMain]\nfrmMain=new"));

@@ -50,10 +50,55 @@ TEST_F(FaceBridgeTest, WithoutAPackTheMonthIsEmptyAndTheRestGoesOut) {
     EXPECT_EQ(platform.face.Value("_root.iArabicDay"), "10");
 }
 
-TEST_F(FaceBridgeTest, MonthStaysEnglishInArabic) {
+TEST_F(FaceBridgeTest, MonthStaysEnglishInArabicAndTheWeekdayTheSystems) {
     currentLanguage = "Arabic";
     SetFlashVariables();
     EXPECT_EQ(platform.face.Value("_root.myMonth"), "November");
+    EXPECT_EQ(platform.face.Value("_root.myDay"), "Saturday");
+}
+
+TEST_F(FaceBridgeTest, HijriMonthFollowsTheLanguageOfTheMoment) {
+    currentLanguage = "Arabic";
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.ArabicMonth"), "جمادى الآخرة");
+    currentLanguage = "English";
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.ArabicMonth"), "Jamad Thani");
+}
+
+TEST_F(FaceBridgeTest, ArabicTurnsNoTextsAround) {
+    currentLanguage = "ARABIC";
+    frmMain->Label1.SetCaption("1");
+    frmMain->lblNextAthan.SetCaption("2");
+    frmMain->Label3.SetCaption("3");
+    frmMain->lblRemaining.SetCaption("4");
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.sNextPrayer"), "1 2");
+    EXPECT_EQ(platform.face.Value("_root.sNextRemaining"), "3 4");
+}
+
+TEST_F(FaceBridgeTest, CompassIsNotRoundedAndHasTheDecimalMarkOfTheUser) {
+    struct : FixedFormats {
+        char DecimalMark() const override { return ','; }
+    } comma;
+    const Platform& own = Ports();
+    const Platform ports{own.clock,  own.eventLoop, own.files,    own.programFolder,
+                         comma,      own.dialogs,   own.registry, own.instanceGuard,
+                         own.face,   own.windows,   own.tray,     own.shell,
+                         own.network};
+    InstallPlatform(&ports);
+    QiblaDegrees = 58.4817263540912;
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.icompassAngle"), "58,4817263540912");
+}
+
+TEST_F(FaceBridgeTest, DaysOfOneDigitHaveNoZeroBeforeThem) {
+    SetClock(2027, 1, 9, 12, 0, 0);
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.myNumber"), "9");
+    SetClock(2027, 1, 10, 12, 0, 0);
+    SetFlashVariables();
+    EXPECT_EQ(platform.face.Value("_root.iArabicDay"), "1");
 }
 
 TEST_F(FaceBridgeTest, SameValuesAreSentAgain) {

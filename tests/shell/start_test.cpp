@@ -1,6 +1,7 @@
 #include "shell/start.h"
 
 #include "athan/athan_state.h"
+#include "base/program_state.h"
 #include "engine/day_state.h"
 #include "lang/language_pack.h"
 #include "shell/menus.h"
@@ -71,6 +72,51 @@ TEST_F(StartTest, EndsWithTheLanguageOfTheUser) {
     EXPECT_EQ(frmMain->lblZoritNameArabic(0).Caption(), "الفجر");
 }
 
+TEST_F(StartTest, StoredLanguageInCapitalsIsFoundAllTheSame) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Language", "ARABIC");
+    Start();
+    EXPECT_TRUE(frmMain->mnuL(0).Checked());
+    EXPECT_EQ(frmMain->lblZoritNameArabic(0).Caption(), "الفجر");
+}
+
+TEST_F(StartTest, WithoutPacksTheFaceKeepsItsOwnTextsAndTheClockRuns) {
+    for (const char* language : {"Arabic", "English", "French", "German", "Spanish"}) {
+        platform.files.Delete("/program/lang/" + std::string(language) + ".ini");
+    }
+    Start();
+    EXPECT_EQ(frmMain->mnuL(0).Caption(), "Not Available");
+    EXPECT_EQ(frmMain->Label1.Caption(), "Next Athan:");
+    EXPECT_EQ(platform.face.Value("_root.azan"), "");
+    EXPECT_TRUE(frmMain->tmrUpdate.Running());
+}
+
+TEST_F(StartTest, FirstPassOfTheLanguageGivesTheFaceItsSixTexts) {
+    Start();
+    ASSERT_GE(platform.face.variables.size(), 6U);
+    const std::vector<std::pair<std::string, std::string>> last(platform.face.variables.end() - 6,
+                                                                platform.face.variables.end());
+    EXPECT_THAT(
+        last, ElementsAre(
+                  testing::Pair("_root.azan", "Athan"), testing::Pair("_root.settings", "Settings"),
+                  testing::Pair("_root.tools", "Tools"), testing::Pair("_root.help", "Help"),
+                  testing::Pair("qibla", "Qibla"), testing::Pair("prayer_time", "Prayer Times")));
+}
+
+TEST_F(StartTest, SettingsWindowKeepsTheHelpTopicOfItsLanguage) {
+    Start();
+    EXPECT_EQ(HoravexMainForm->HelpContextId(), 1000);
+}
+
+TEST_F(StartTest, WindowsOfTheStartStandInTheMiddleOfTheScreen) {
+    double left = 0.0;
+    platform.loop.After(1.0, [&left] { left = fMessage->Left(); });
+    Start();
+    EXPECT_EQ(left, (platform.windows.screen.width - fMessage->Width()) / 2.0);
+    EXPECT_EQ(frmMain->Left(), (platform.windows.screen.width - frmMain->Width()) / 2.0);
+    EXPECT_EQ(frmMain->Top(), (platform.windows.screen.height - frmMain->Height()) / 2.0);
+}
+
 TEST_F(StartTest, WithoutAStoredLanguageItIsEnglish) {
     Start();
     EXPECT_EQ(currentLanguage, "English");
@@ -134,6 +180,49 @@ TEST_F(StartTest, CustomSoundsAreRead) {
 TEST_F(StartTest, MissingTablesFailTheStart) {
     platform.files.Delete("/program/Dat/TI.DAT");
     EXPECT_THROW(Start(), FileFault);
+}
+
+struct LanguageOfTheNextStart : ProgramTest {
+    LanguageOfTheNextStart() { StartAgain(); }
+
+    /// The entries stand in the order of the alphabet.
+    static void ChooseArabic() { frmMain->mnuL(0).UserClick(); }
+
+    void NextStart() {
+        ResetProgramState();
+        BindWindows();
+        Start();
+    }
+};
+
+TEST_F(LanguageOfTheNextStart, ChoiceSpeaksAtOnceAndInEveryWindowThatLoadsLater) {
+    ChooseArabic();
+    EXPECT_EQ(frmMain->mnuHelp.Caption(), "مساعدة");
+    EXPECT_EQ(platform.face.Value("_root.help"), "مساعدة");
+    fMessage->Load();
+    EXPECT_EQ(fMessage->cmdAlarmClose.Caption(), "إغلاق");
+}
+
+TEST_F(LanguageOfTheNextStart, IsTheOneOfTheExit) {
+    ChooseArabic();
+    EXPECT_THROW(frmMain->mnuExit.UserClick(), ProcessEnded);
+    NextStart();
+    EXPECT_EQ(currentLanguage, "Arabic");
+    EXPECT_EQ(frmMain->mnuHelp.Caption(), "مساعدة");
+}
+
+TEST_F(LanguageOfTheNextStart, IsTheFormerOneIfTheSessionEnds) {
+    ChooseArabic();
+    frmMain->Unload(CloseReason::kSessionEnd);
+    NextStart();
+    EXPECT_EQ(currentLanguage, "English");
+    EXPECT_EQ(frmMain->mnuHelp.Caption(), "Help");
+}
+
+TEST_F(LanguageOfTheNextStart, IsTheFormerOneAfterACrash) {
+    ChooseArabic();
+    NextStart();
+    EXPECT_EQ(currentLanguage, "English");
 }
 
 using StopTest = ProgramTest;

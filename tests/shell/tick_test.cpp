@@ -11,6 +11,7 @@ namespace horavex {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 /// Ticks whose three ways out are written down: "refresh", "day" and the alert's index.
@@ -112,6 +113,34 @@ TEST_F(TickTest, NewDateShowsTheDayBeforeAndAfterTheTests) {
     EXPECT_THAT(calls, ElementsAre("day", "day"));
 }
 
+TEST_F(TickTest, TimesOfTheNewDayAreInPlaceForItsOwnTests) {
+    TodayDate -= 1.0;
+    platform.clock.Set(DateSerial(2026, 11, 21) + TimeSerial(4, 0, 5));
+    RunTick({[] {}, [] { TodayTimes[0] = 4.0 / 24.0; },
+             [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
+    EXPECT_THAT(calls, ElementsAre("0"));
+}
+
+TEST_F(TickTest, BrowsedDayIsRepairedBeforeTheTests) {
+    TodayDate += 3.0;
+    TodayTimes[0] = 4.0 / 24.0;
+    platform.clock.Set(DateSerial(2026, 11, 21) + TimeSerial(4, 0, 5));
+    RunTick({[] {}, [] { TodayTimes[0] = 5.0 / 24.0; },
+             [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
+    EXPECT_THAT(calls, IsEmpty());
+}
+
+TEST_F(TickTest, PrayerComesBeforeTheAlarmOfTheSameSecond) {
+    ActiveSettings.AlarmTime = 144;
+    TickAt(12, 0, 0);
+    EXPECT_THAT(calls, ElementsAre("2", "7", "day"));
+}
+
+TEST_F(TickTest, ShurooqDoesNotHideTheAlarm) {
+    TickAt(6, 30, 0);
+    EXPECT_THAT(calls, ElementsAre("7", "day"));
+}
+
 TEST_F(TickTest, NewYearRefreshesInstead) {
     CurrentYear = 2025;
     TodayDate -= 1.0;
@@ -160,6 +189,27 @@ TEST_F(RunningClockTest, HiddenFaceIsSentAllTheSame) {
     EXPECT_EQ(platform.face.variables.size(), 11U);
 }
 
+TEST_F(RunningClockTest, HiddenFaceDoesNotKeepTheAlarmAway) {
+    frmMain->UserClose();
+    AlarmInMoment();
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(platform.dialogs.beeps, 20);
+}
+
+TEST_F(RunningClockTest, TickInsideACalculationShowsTheDayAndCalculatesNothing) {
+    SetClock(2027, 1, 1, 8, 0, 0);
+    LastRefreshDate = platform.clock.Today();
+    std::string shown;
+    platform.loop.AtPump(platform.loop.Pumps() + 10, [&shown] {
+        frmMain->tmrUpdate.Tick();
+        shown = frmMain->lblDate.Caption();
+    });
+    RefreshAll();
+    EXPECT_EQ(shown, "Friday, January 1, 2027");
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("load fMessage", "show fMessage",
+                                                    HasSubstr("TraySetTip"), "unload fMessage"));
+}
+
 TEST_F(RunningClockTest, AlarmDoesNotNestInItself) {
     AlarmInMoment();
     int ticksInside = 0;
@@ -198,7 +248,7 @@ TEST_F(RunningClockTest, TurnOfTheDayDoesNotRecalculate) {
     SetClock(2026, 11, 22, 0, 0, 0);
     frmMain->tmrUpdate.Tick();
     EXPECT_EQ(TodayDate, DateSerial(2026, 11, 22));
-    EXPECT_THAT(platform.desktop.calls, IsEmpty());
+    EXPECT_THAT(platform.desktop.calls, ElementsAre(HasSubstr("TraySetTip")));
 }
 
 TEST_F(RunningClockTest, GapOfTwoDaysRunsTheSetAction) {

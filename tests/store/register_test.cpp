@@ -206,10 +206,10 @@ public:
 
 TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
     WatchedRegistry watched;
-    const Platform ports{platform.clock,   platform.loop,          platform.failingFiles,
-                         platform.folder,  platform.formats,       platform.dialogs,
-                         watched,          platform.instanceGuard, platform.face,
-                         platform.windows, platform.tray,          platform.shell};
+    const Platform ports{
+        platform.clock,   platform.loop,  platform.failingFiles,  platform.folder, platform.formats,
+        platform.dialogs, watched,        platform.instanceGuard, platform.face,   platform.windows,
+        platform.tray,    platform.shell, platform.network};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

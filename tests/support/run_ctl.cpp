@@ -1,10 +1,10 @@
 #include "support/run_ctl.h"
 
 #include <filesystem>
-#include <fstream>
 
 #include "base/text.h"
 #include "support/build_folder.h"
+#include "support/registry_values.h"
 
 namespace horavex {
 
@@ -31,9 +31,7 @@ std::string Ctl::UseFolderCopy() {
 }
 
 void Ctl::StoreRegistryValue(const std::string& name, const std::string& value) const {
-    std::filesystem::create_directories(home_ / "config/horavex");
-    std::ofstream file(home_ / "config/horavex/registry.ini");
-    file << "[Software\\\\Horavex\\\\Settings]\n" << name << "=" << value << "\n";
+    StoreUsersRegistryValue(home_ / "config", name, value);
 }
 
 }  // namespace horavex

@@ -27,8 +27,14 @@ struct ProgramRun {
     std::string err;
 };
 
-/// Runs a program of the build's bin folder to its end, with nothing on its standard input and
-/// no variables but the given ones.
+/// The bytes of a file; none where there is no such file.
+std::string ContentOf(const std::string& path);
+
+/// Runs a program, by its path or found in the PATH of the tests, to its end, with nothing on its
+/// standard input and no variables but the given ones.
+ProgramRun RunCommand(const std::vector<std::string>& words, const Environment& environment);
+
+/// Runs a program of the build's bin folder so.
 ProgramRun RunProgram(const std::string& name, const std::vector<std::string>& arguments,
                       const Environment& environment);
 

@@ -10,6 +10,7 @@
 #include "platform/recording_desktop.h"
 #include "platform/recording_dialogs.h"
 #include "platform/scripted_event_loop.h"
+#include "platform/scripted_network.h"
 
 namespace horavex {
 
@@ -38,10 +39,11 @@ public:
     RecordingWindows windows{desktop};
     RecordingTray tray{desktop};
     RecordingShell shell{desktop};
+    ScriptedNetwork network;
 
 private:
-    Platform platform_{clock,    loop,          failingFiles, folder,  formats, dialogs,
-                       registry, instanceGuard, face,         windows, tray,    shell};
+    Platform platform_{clock,         loop, failingFiles, folder, formats, dialogs, registry,
+                       instanceGuard, face, windows,      tray,   shell,   network};
 };
 
 }  // namespace horavex

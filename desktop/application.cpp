@@ -1,0 +1,33 @@
+#include "desktop/application.h"
+
+#include "desktop/fault_box.h"
+#include "desktop/ports/emblem.h"
+
+namespace horavex {
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setApplicationName(QStringLiteral("Horavex"));
+    setDesktopFileName(QStringLiteral("horavex"));
+    setWindowIcon(Emblem());
+    setQuitOnLastWindowClosed(false);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& fault) {
+        ShowFault(fault);
+        return true;
+    }
+}
+
+// The toolkit would first ask each window to close, and they only hide.
+bool Application::event(QEvent* event) {
+    if (event->type() == QEvent::Quit && onEnd) {
+        onEnd();
+        return true;
+    }
+    return QApplication::event(event);
+}
+
+}  // namespace horavex

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "desktop/face/qt_face.h"
+#include "desktop/form_window/form_windows.h"
+#include "desktop/ports/qt_dialogs.h"
+#include "desktop/ports/qt_event_loop.h"
+#include "desktop/ports/qt_formats.h"
+#include "desktop/ports/qt_shell.h"
+#include "desktop/ports/qt_tray.h"
+#include "desktop/ports/qt_windows.h"
+#include "linux/instance_lock.h"
+#include "linux/posix_files.h"
+#include "linux/registry_file.h"
+#include "linux/system_clock.h"
+#include "linux/system_network.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+/// The ports over the user's desktop, installed as long as it lives. Needs an application.
+class DesktopPlatform {
+public:
+    DesktopPlatform();
+    ~DesktopPlatform();
+    DesktopPlatform(const DesktopPlatform&) = delete;
+    DesktopPlatform& operator=(const DesktopPlatform&) = delete;
+
+private:
+    Layouts AllLayouts();
+
+    SystemClock clock_;
+    QtEventLoop eventLoop_;
+    PosixFiles files_;
+    ProgramFolder folder_;
+    QtFormats formats_;
+    QtDialogs dialogs_;
+    RegistryFile registry_;
+    InstanceLock instanceLock_;
+    QtFace face_;
+    FormWindows formWindows_;
+    QtWindows windows_;
+    QtTray tray_;
+    QtShell shell_;
+    SystemNetwork network_;
+    Platform platform_{clock_,        eventLoop_, files_,   folder_, formats_, dialogs_, registry_,
+                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
+};
+
+}  // namespace horavex

@@ -1,0 +1,233 @@
+#include "desktop/face/face_view.h"
+
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "desktop/face/clock_dial.h"
+#include "desktop/face/compass.h"
+#include "desktop/face/face_button.h"
+#include "desktop/face/palette.h"
+#include "desktop/face/text_line.h"
+#include "desktop/face/times_view.h"
+
+namespace horavex {
+
+namespace {
+
+// All places in pixels of the face. The menus open at 50, 100, 150 and 200 across and 135 down,
+// so that their buttons stand close together above that line.
+constexpr QRect kFace(0, 0, 420, 420);
+constexpr QRect kClock(20, 12, 84, 84);
+constexpr QRect kDay(116, 12, 234, 32);
+constexpr QRect kDate(116, 44, 234, 24);
+constexpr QRect kHijriDate(116, 68, 234, 24);
+constexpr QRect kMinimise(356, 10, 26, 26);
+constexpr QRect kClose(384, 10, 26, 26);
+constexpr QRect kMenuBand(1, 104, 418, 31);
+constexpr QRect kMenu(50, 105, 350, 29);
+constexpr QRect kNext(28, 146, 364, 24);
+constexpr QRect kRemaining(28, 170, 364, 32);
+constexpr QRect kTimesCard(16, 212, 240, 194);
+constexpr QRect kTimes(22, 218, 228, 150);
+constexpr QRect kAllTimes(26, 372, 220, 28);
+constexpr QRect kCompassCard(264, 212, 140, 194);
+constexpr QRect kCompass(274, 220, 120, 148);
+constexpr QRect kQibla(274, 372, 120, 28);
+
+constexpr double kCardCorner = 8.0;  // radius, pixels
+
+constexpr const char* kNextPrayer = "_root.sNextPrayer";
+constexpr const char* kRemainingTime = "_root.sNextRemaining";
+constexpr const char* kAllPrayers = "_root.allPrayerTime.allPrayerTimeText.sAllPrayers";
+
+const TextLine::Look kDateLook{15, kCream, Qt::AlignCenter};
+const TextLine::Look kNextLook{16, kCream, Qt::AlignLeading | Qt::AlignVCenter};
+const TextLine::Look kRemainingLook{24, kGold, Qt::AlignLeading | Qt::AlignVCenter};
+
+}  // namespace
+
+const std::map<std::string, FaceView::Reaction>& FaceView::Reactions() {
+    static const std::map<std::string, Reaction> reactions = {
+        {"_root.iArabicDay", &FaceView::ShowHijriDate},
+        {"_root.ArabicMonth", &FaceView::ShowHijriDate},
+        {"_root.iArabicYear", &FaceView::ShowHijriDate},
+        {kNextPrayer, &FaceView::ShowNext},
+        {kRemainingTime, &FaceView::ShowRemaining},
+        {kAllPrayers, &FaceView::ShowTimes},
+        {"_root.icompassAngle", &FaceView::ShowBearing},
+        {"_root.myDay", &FaceView::ShowDay},
+        {"_root.myMonth", &FaceView::ShowDate},
+        {"_root.myYear", &FaceView::ShowDate},
+        {"_root.myNumber", &FaceView::ShowDate},
+        {"_root.azan", &FaceView::ShowMenu},
+        {"_root.settings", &FaceView::ShowMenu},
+        {"_root.tools", &FaceView::ShowMenu},
+        {"_root.help", &FaceView::ShowMenu},
+        {"qibla", &FaceView::ShowCaptions},
+        {"prayer_time", &FaceView::ShowCaptions},
+    };
+    return reactions;
+}
+
+FaceView::FaceView(std::function<QTime()> now) : now_(std::move(now)) {
+    setFixedSize(kFace.size());
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    MakeButtons();
+    MakeTexts();
+    ShowDefaults();
+}
+
+// The order in which they are made is the order of the keyboard.
+void FaceView::MakeButtons() {
+    using Look = CaptionButton::Look;
+    clock_ = Place(new ClockDial(this), kClock, "IDC_FS_Clock");
+    day_ = Place(new CaptionButton(this, Look::kHeading), kDay, "IDC_FS_Day");
+    menu_ = {
+        {{"_root.azan", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_azan")},
+         {"_root.settings", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_settings")},
+         {"_root.tools", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_tools")},
+         {"_root.help", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_help")}}};
+    allTimes_ = Place(new CaptionButton(this, Look::kOutlined), kAllTimes, "IDC_FS_allTimes");
+    qibla_ = Place(new CaptionButton(this, Look::kOutlined), kQibla, "IDC_FS_Qibla");
+    Place(new SignButton(this, SignButton::Sign::kMinimise), kMinimise, "IDC_FS_minimize");
+    Place(new SignButton(this, SignButton::Sign::kClose), kClose, "IDC_FS_close");
+}
+
+void FaceView::MakeTexts() {
+    date_ = Place(new TextLine(this, kDateLook), kDate);
+    hijriDate_ = Place(new TextLine(this, kDateLook), kHijriDate);
+    next_ = Place(new TextLine(this, kNextLook), kNext);
+    remaining_ = Place(new TextLine(this, kRemainingLook), kRemaining);
+    times_ = Place(new TimesView(this), kTimes);
+    times_->setObjectName(QStringLiteral("times"));
+    compass_ = Place(new Compass(this), kCompass);
+    compass_->setObjectName(QStringLiteral("compass"));
+}
+
+template <class Widget>
+Widget* FaceView::Place(Widget* widget, const QRect& place) {
+    widget->setGeometry(place);
+    return widget;
+}
+
+// The object name of a button is its command.
+template <class Button>
+Button* FaceView::Place(Button* button, const QRect& place, const char* command) {
+    button->setObjectName(QString::fromUtf8(command));
+    connect(button, &QAbstractButton::clicked, this, [this, command] { Tell(command); });
+    return Place(button, place);
+}
+
+/// What the face says before it is told anything.
+void FaceView::ShowDefaults() {
+    SetVariable("_root.azan", QStringLiteral("Athan"));
+    SetVariable("_root.settings", QStringLiteral("Settings"));
+    SetVariable("_root.tools", QStringLiteral("Tools"));
+    SetVariable("_root.help", QStringLiteral("Help"));
+    SetVariable("qibla", QStringLiteral("Qibla"));
+    SetVariable("prayer_time", QStringLiteral("Prayer Times"));
+    clock_->ShowTime(now_());
+}
+
+void FaceView::SetVariable(const std::string& name, const QString& value) {
+    const auto reaction = Reactions().find(name);
+    if (reaction != Reactions().end()) {
+        values_[name] = value;
+        (this->*reaction->second)();
+    }
+}
+
+QString FaceView::Value(const char* variable) const {
+    const auto found = values_.find(variable);
+    return found == values_.end() ? QString() : found->second;
+}
+
+void FaceView::ShowDay() {
+    const QString day = Value("_root.myDay");
+    if (day != day_->text()) {
+        day_->setText(day);
+    }
+}
+
+void FaceView::ShowDate() {
+    date_->ShowText(Value("_root.myNumber") + u' ' + Value("_root.myMonth") + u' ' +
+                    Value("_root.myYear"));
+}
+
+void FaceView::ShowHijriDate() {
+    hijriDate_->ShowText(Value("_root.iArabicDay") + u' ' + Value("_root.ArabicMonth") + u' ' +
+                         Value("_root.iArabicYear"));
+}
+
+void FaceView::ShowNext() {
+    next_->ShowText(Value(kNextPrayer));
+    times_->ShowNext(Value(kNextPrayer));
+}
+
+void FaceView::ShowRemaining() {
+    remaining_->ShowText(Value(kRemainingTime));
+    clock_->ShowTime(now_());
+}
+
+void FaceView::ShowTimes() {
+    times_->ShowTimes(Value(kAllPrayers));
+}
+
+void FaceView::ShowBearing() {
+    compass_->ShowBearing(ReadBearing(Value("_root.icompassAngle")));
+}
+
+// Side by side from the left in every language, since the menus open at fixed places.
+void FaceView::ShowMenu() {
+    int natural = 0;
+    for (const MenuButton& entry : menu_) {
+        entry.button->setText(Value(entry.variable));
+        natural += entry.button->NaturalWidth();
+    }
+    int left = kMenu.left();
+    for (const MenuButton& entry : menu_) {
+        const int wanted = entry.button->NaturalWidth();
+        const int width = natural > kMenu.width() ? wanted * kMenu.width() / natural : wanted;
+        entry.button->setGeometry(left, kMenu.top(), width, kMenu.height());
+        left += width;
+    }
+}
+
+void FaceView::ShowCaptions() {
+    qibla_->setText(Value("qibla"));
+    allTimes_->setText(Value("prayer_time"));
+}
+
+void FaceView::Tell(const char* command) {
+    if (onCommand) {
+        onCommand(command);
+    }
+}
+
+// What is no button is a handle to move the window by.
+void FaceView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        Tell("IDC_FS_drag");
+    }
+}
+
+void FaceView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0.0, 0.0, 0.0, kFace.height());
+    sky.setColorAt(0.0, kSkyTop);
+    sky.setColorAt(1.0, kSkyBottom);
+    painter.fillRect(rect(), sky);
+    painter.fillRect(kMenuBand, kCard);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kCard);
+    painter.drawRoundedRect(kTimesCard, kCardCorner, kCardCorner);
+    painter.drawRoundedRect(kCompassCard, kCardCorner, kCardCorner);
+    painter.setPen(kEdge);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+}  // namespace horavex

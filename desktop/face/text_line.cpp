@@ -1,0 +1,25 @@
+#include "desktop/face/text_line.h"
+
+#include <QPainter>
+
+#include "desktop/face/fitted_text.h"
+
+namespace horavex {
+
+TextLine::TextLine(QWidget* parent, Look look) : QLabel(parent), look_(look) {
+    setTextFormat(Qt::PlainText);
+}
+
+void TextLine::ShowText(const QString& text) {
+    if (text != this->text()) {
+        setText(text);
+    }
+}
+
+void TextLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(look_.colour);
+    DrawFitted(painter, rect(), look_.alignment, FaceFont(look_.pixels), text());
+}
+
+}  // namespace horavex

@@ -1,0 +1,74 @@
+#include "desktop/face/times_view.h"
+
+#include <QPainter>
+
+#include "desktop/face/fitted_text.h"
+#include "desktop/face/palette.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::size_t kRows = 6;
+constexpr int kTypeSize = 15;      // pixels
+constexpr double kPadding = 10.0;  // beside a row's texts, pixels
+constexpr double kNamePart = 0.5;  // of a row's width
+
+}  // namespace
+
+void TimesView::ShowTimes(const QString& text) {
+    if (text == text_) {
+        return;
+    }
+    text_ = text;
+    rows_ = ReadPrayerLine(text, TailsOfTimes()).value_or(std::vector<PrayerEntry>{{text, {}}});
+    next_ = RowNamedIn(sentence_, rows_);
+    setAccessibleName(text.trimmed());
+    update();
+}
+
+void TimesView::ShowNext(const QString& sentence) {
+    sentence_ = sentence;
+    const auto next = RowNamedIn(sentence, rows_);
+    if (next != next_) {
+        next_ = next;
+        update();
+    }
+}
+
+QRectF TimesView::AreaOf(std::size_t row) const {
+    const double rowHeight = height() / static_cast<double>(kRows);
+    return {0.0, static_cast<double>(row) * rowHeight, static_cast<double>(width()), rowHeight};
+}
+
+void TimesView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        PaintRow(painter, row);
+    }
+}
+
+void TimesView::PaintRow(QPainter& painter, std::size_t row) const {
+    const PrayerEntry& entry = rows_[row];
+    const bool isNext = row == next_;
+    const QRectF area = AreaOf(row);
+    if (isNext) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(kGlow);
+        painter.drawRoundedRect(area.adjusted(1.0, 1.0, -1.0, -1.0), 5.0, 5.0);
+    }
+    QRectF name = area.adjusted(kPadding, 0.0, -kPadding, 0.0);
+    QRectF time = name;
+    const double cut = entry.time.isEmpty() ? name.width() : name.width() * kNamePart;
+    const bool nameIsRight = DirectionOf(entry.name) == Qt::RightToLeft;
+    nameIsRight ? name.setLeft(name.right() - cut) : name.setRight(name.left() + cut);
+    nameIsRight ? time.setRight(name.left()) : time.setLeft(name.right());
+    painter.setPen(isNext ? kGold : kCream);
+    const QFont font = FaceFont(kTypeSize, isNext);
+    DrawFitted(painter, name, Qt::AlignLeading | Qt::AlignVCenter, font, entry.name);
+    const Qt::Alignment side = nameIsRight ? Qt::AlignLeft : Qt::AlignRight;
+    DrawFitted(painter, time, side | Qt::AlignAbsolute | Qt::AlignVCenter, font, entry.time);
+}
+
+}  // namespace horavex

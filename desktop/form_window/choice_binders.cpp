@@ -1,0 +1,122 @@
+#include "desktop/form_window/choice_binders.h"
+
+#include <QLineEdit>
+#include <QStringList>
+
+#include "desktop/form_window/caption_text.h"
+
+namespace horavex {
+
+namespace {
+
+QStringList ItemsOf(const List& list) {
+    QStringList items;
+    for (const std::string& item : list.Items()) {
+        items << QString::fromStdString(item);
+    }
+    return items;
+}
+
+}  // namespace
+
+CheckBoxBinder::CheckBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QCheckBox::clicked, this, [this] { Hand([this] { control.UserClick(); }); });
+}
+
+void CheckBoxBinder::Show() {
+    widget.setText(ShownCaption(control, widget));
+    widget.setChecked(control.Value() != 0);
+}
+
+OptionButtonBinder::OptionButtonBinder(Control& bound, QWidget& boundWidget,
+                                       RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QRadioButton::clicked, this,
+            [this] { Hand([this] { control.UserClick(); }); });
+}
+
+// The toolkit never clears the set button of a group, while a group of options may have none.
+void OptionButtonBinder::Show() {
+    widget.setText(ShownCaption(control, widget));
+    widget.setAutoExclusive(false);
+    widget.setChecked(control.Value());
+    widget.setAutoExclusive(true);
+}
+
+ListBoxBinder::ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QListWidget::currentRowChanged, this,
+            [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
+    connect(&widget, &QListWidget::itemDoubleClicked, this,
+            [this] { Hand([this] { control.UserDoubleClick(); }); });
+}
+
+void ListBoxBinder::Show() {
+    ShowItems();
+    widget.setCurrentRow(control.ListIndex());
+}
+
+void ListBoxBinder::ShowItems() {
+    const QStringList items = ItemsOf(control);
+    QStringList shown;
+    for (int row = 0; row < widget.count(); ++row) {
+        shown << widget.item(row)->text();
+    }
+    if (shown != items) {
+        widget.clear();
+        widget.addItems(items);
+    }
+}
+
+ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QComboBox::activated, this,
+            [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
+    connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
+    });
+}
+
+void ComboBoxBinder::Show() {
+    ShowItems();
+    widget.setCurrentIndex(control.ListIndex());
+    const QString text = QString::fromStdString(control.Text());
+    if (widget.currentText() != text) {
+        widget.setEditText(text);
+    }
+}
+
+void ComboBoxBinder::ShowItems() {
+    const QStringList items = ItemsOf(control);
+    QStringList shown;
+    for (int row = 0; row < widget.count(); ++row) {
+        shown << widget.itemText(row);
+    }
+    if (shown != items) {
+        widget.clear();
+        widget.addItems(items);
+    }
+}
+
+TabStripBinder::TabStripBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QTabBar::currentChanged, this,
+            [this](int page) { Hand([this, page] { control.UserSelect(page); }); });
+}
+
+void TabStripBinder::Show() {
+    const QStringList captions = ItemsOf(control);
+    while (widget.count() > captions.size()) {
+        widget.removeTab(widget.count() - 1);
+    }
+    while (widget.count() < captions.size()) {
+        widget.addTab({});
+    }
+    for (int page = 0; page < widget.count(); ++page) {
+        widget.setTabText(page, captions[page]);
+    }
+    widget.setCurrentIndex(control.ListIndex());
+}
+
+}  // namespace horavex

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTabBar>
+
+#include "desktop/form_window/binder_of.h"
+#include "forms/check_box.h"
+#include "forms/combo_box.h"
+#include "forms/list.h"
+#include "forms/option_button.h"
+
+namespace horavex {
+
+// Controls that a user chooses with.
+
+class CheckBoxBinder : public BinderOf<CheckBox, QCheckBox> {
+public:
+    CheckBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+};
+
+class OptionButtonBinder : public BinderOf<OptionButton, QRadioButton> {
+public:
+    OptionButtonBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+};
+
+class ListBoxBinder : public BinderOf<ListBox, QListWidget> {
+public:
+    ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+
+private:
+    void ShowItems();
+};
+
+class ComboBoxBinder : public BinderOf<ComboBox, QComboBox> {
+public:
+    ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+
+private:
+    void ShowItems();
+};
+
+/// The tabs alone; what lies on a page is shown and hidden by the form.
+class TabStripBinder : public BinderOf<TabStrip, QTabBar> {
+public:
+    TabStripBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+};
+
+}  // namespace horavex

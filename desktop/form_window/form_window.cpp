@@ -1,0 +1,257 @@
+#include "desktop/form_window/form_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPainter>
+#include <QWindow>
+#include <utility>
+
+#include "desktop/form_window/accessible_names.h"
+#include "desktop/form_window/canvas.h"
+#include "desktop/form_window/caption_text.h"
+#include "desktop/form_window/twips.h"
+#include "desktop/form_window/widget_names.h"
+#include "forms/focusable.h"
+
+namespace horavex {
+
+namespace {
+
+WindowState FormStateOf(Qt::WindowStates states) {
+    if (states.testFlag(Qt::WindowMinimized)) {
+        return WindowState::kMinimized;
+    }
+    return states.testFlag(Qt::WindowMaximized) ? WindowState::kMaximized : WindowState::kNormal;
+}
+
+Qt::WindowStates ToolkitStateOf(WindowState state) {
+    switch (state) {
+        case WindowState::kMinimized:
+            return Qt::WindowMinimized;
+        case WindowState::kMaximized:
+            return Qt::WindowMaximized;
+        case WindowState::kNormal:
+            break;
+    }
+    return Qt::WindowNoState;
+}
+
+QPoint PlaceOf(const Form& form) {
+    return {PixelsOf(form.Left()), PixelsOf(form.Top())};
+}
+
+QSize SizeOf(const Form& form) {
+    return {PixelsOf(form.Width()), PixelsOf(form.Height())};
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, const Layout& layout) : form_(form), size_(SizeOf(form)) {
+    layout(*this);
+    resize(size_);
+    for (Control* control : form_.Controls()) {
+        Bind(*control);
+    }
+    form_.SetObserver(this);
+    FlushLater();
+}
+
+void FormWindow::Bind(Control& control) {
+    if (control.Kind() == ControlKind::kTimer) {
+        timers_[&control] = std::make_unique<TimerDrive>(static_cast<Timer&>(control));
+        return;
+    }
+    QWidget* widget = HasWidget(control) ? findChild<QWidget*>(WidgetNameOf(control)) : nullptr;
+    if (widget != nullptr) {
+        binders_[&control] =
+            MakeBinder(control, *widget, [this](Control& changed) { RefreshLater(changed); });
+        changed_.insert(&control);
+    }
+}
+
+void FormWindow::Retire() {
+    retired_ = true;
+    form_.SetObserver(nullptr);
+    timers_.clear();
+    hide();
+    if (modalLoop_ != nullptr) {
+        modalLoop_->quit();
+    }
+    deleteLater();
+}
+
+void FormWindow::ControlChanged(Control& control) {
+    if (const auto timer = timers_.find(&control); timer != timers_.end()) {
+        timer->second->Update();
+        return;
+    }
+    RefreshLater(control);
+}
+
+void FormWindow::FormChanged() {
+    formChanged_ = true;
+    FlushLater();
+    if (modalLoop_ != nullptr && !form_.Visible()) {
+        modalLoop_->quit();
+    }
+}
+
+void FormWindow::RefreshLater(Control& control) {
+    if (binders_.contains(&control)) {
+        changed_.insert(&control);
+        FlushLater();
+    }
+}
+
+void FormWindow::FlushLater() {
+    if (!std::exchange(flushPending_, true)) {
+        QMetaObject::invokeMethod(
+            this, [this] { Flush(); }, Qt::QueuedConnection);
+    }
+}
+
+void FormWindow::Flush() {
+    flushPending_ = false;
+    if (retired_) {
+        return;
+    }
+    const bool controlsChanged = !changed_.empty();
+    if (controlsChanged) {
+        setLayoutDirection(DirectionOfCaptions(form_));
+    }
+    for (Control* control : std::exchange(changed_, {})) {
+        binders_.at(control)->Refresh();
+    }
+    if (controlsChanged) {
+        NameWidgets(*this);
+    }
+    if (std::exchange(formChanged_, false)) {
+        FollowForm();
+    }
+}
+
+void FormWindow::FollowForm() {
+    following_ = true;
+    setWindowTitle(QString::fromStdString(form_.Caption()));
+    setEnabled(form_.Enabled());
+    FollowPlace();
+    FollowVisibility();
+    FollowFocus();
+    following_ = false;
+    FollowDrawing();
+}
+
+// A form that names no place comes up over its owner, or where the window manager puts it.
+void FormWindow::FollowPlace() {
+    if (const QPoint place = PlaceOf(form_); place != place_) {
+        place_ = place;
+        move(place);
+    }
+    if (const QSize size = SizeOf(form_); size != size_) {
+        size_ = size;
+        resize(size);
+    }
+}
+
+void FormWindow::FollowVisibility() {
+    if (!form_.Visible()) {
+        hide();
+        return;
+    }
+    if (FormStateOf(windowState()) != form_.State()) {
+        setWindowState(ToolkitStateOf(form_.State()));
+    }
+    if (!isVisible()) {
+        Present();
+    }
+}
+
+void FormWindow::Present() {
+    setWindowModality(form_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+    winId();  // makes the window of the platform, which the owner is set on
+    windowHandle()->setTransientParent(owner_ == nullptr ? nullptr : owner_->windowHandle());
+    if (owner_ != nullptr && owner_->isVisible() && place_.isNull()) {
+        resize(size().expandedTo(minimumSizeHint()));
+        move(owner_->frameGeometry().center() - rect().center());
+    }
+    show();
+}
+
+void FormWindow::FollowFocus() {
+    Focusable* const holder = form_.FocusHolder();
+    const auto binder = holder == nullptr ? binders_.end() : binders_.find(holder);
+    if (binder != binders_.end()) {
+        binder->second->Widget().setFocus();
+    }
+}
+
+void FormWindow::FollowDrawing() {
+    if (form_.onPaint) {
+        form_.Paint();
+        update();
+    }
+}
+
+void FormWindow::BringUp(const QWidget* owner) {
+    owner_ = owner;
+    Flush();
+    raise();
+    activateWindow();
+}
+
+void FormWindow::RunUntilHidden() {
+    QEventLoop loop;
+    QEventLoop* const outer = std::exchange(modalLoop_, &loop);
+    if (form_.Visible()) {
+        loop.exec();
+    }
+    modalLoop_ = outer;
+}
+
+bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && !retired_) {
+        form_.UserActivate();
+    }
+    return QWidget::event(event);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !following_ && !retired_) {
+        form_.SetWindowState(FormStateOf(windowState()));
+    }
+}
+
+// The form decides; when it agrees, it is unloaded by the time UserClose returns.
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!retired_) {
+        form_.UserClose();
+    }
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+    if (following_ || retired_ || pos() == place_) {
+        return;
+    }
+    place_ = pos();
+    form_.SetLeft(TwipsOf(place_.x()));
+    form_.SetTop(TwipsOf(place_.y()));
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    if (following_ || retired_ || size() == size_) {
+        return;
+    }
+    size_ = size();
+    form_.SetWidth(TwipsOf(size_.width()));
+    form_.SetHeight(TwipsOf(size_.height()));
+}
+
+void FormWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    DrawSteps(painter, rect(), {form_.ScaleWidth(), form_.ScaleHeight()}, form_.drawing);
+}
+
+}  // namespace horavex

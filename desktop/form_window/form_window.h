@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <set>
+
+#include "desktop/form_window/binder.h"
+#include "desktop/form_window/layouts.h"
+#include "desktop/form_window/timer_drive.h"
+#include "forms/form.h"
+
+class QEventLoop;
+
+namespace horavex {
+
+/// The window of one loaded form: a binder for each control, the form's timers, and the window
+/// itself with its place, state and close box. What changes in the form shows in the next turn of
+/// the event loop, however often it changes in one.
+class FormWindow : public QWidget, private FormObserver {
+public:
+    FormWindow(Form& form, const Layout& layout);
+
+    const Form& Shown() const { return form_; }
+
+    /// The form is unloaded: the window goes away as soon as no event of its own is running.
+    void Retire();
+
+    /// Shows what is pending now.
+    void Flush();
+
+    /// Shows the window in front of the others, its owner included; nullptr for none.
+    void BringUp(const QWidget* owner);
+
+    /// Delivers events until the form is hidden.
+    void RunUntilHidden();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void ControlChanged(Control& control) override;
+    void FormChanged() override;
+
+    void Bind(Control& control);
+    void RefreshLater(Control& control);
+    void FlushLater();
+
+    void FollowForm();
+    void FollowPlace();
+    void FollowVisibility();
+    void FollowFocus();
+    void FollowDrawing();
+    void Present();
+    void TellState();
+
+    Form& form_;
+    std::map<Control*, std::unique_ptr<Binder>> binders_;
+    std::map<Control*, std::unique_ptr<TimerDrive>> timers_;
+    std::set<Control*> changed_;  // controls that are to be refreshed
+    bool formChanged_ = true;     // the window itself is to be refreshed
+    bool flushPending_ = false;   // a Flush is on its way
+    bool following_ = false;      // the window takes over the form's values at this moment
+    bool retired_ = false;
+    QPoint place_;  // pixels, as last known on both sides
+    QSize size_;    // pixels, likewise
+    QPointer<const QWidget> owner_;
+    QEventLoop* modalLoop_ = nullptr;  // of the innermost RunUntilHidden
+};
+
+}  // namespace horavex

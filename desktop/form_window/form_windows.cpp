@@ -1,0 +1,43 @@
+#include "desktop/form_window/form_windows.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace horavex {
+
+FormWindows::FormWindows(Layouts layouts) : layouts_(std::move(layouts)) {
+    InstallFormHost(this);
+}
+
+FormWindows::~FormWindows() {
+    InstallFormHost(nullptr);
+}
+
+FormWindow* FormWindows::Find(const Form* form) const {
+    const auto found = windows_.find(form);
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+FormWindow* FormWindows::Find(const std::string& form) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [&](const auto& entry) { return entry.first->Name() == form; });
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void FormWindows::Loaded(Form& form) {
+    windows_[&form].reset(new FormWindow(form, layouts_.at(form.Name())));
+}
+
+void FormWindows::Unloaded(Form& form) {
+    windows_.erase(&form);
+}
+
+void FormWindows::BroughtUp(Form& form) {
+    windows_.at(&form)->BringUp(Find(form.Owner()));
+}
+
+void FormWindows::RunModal(Form& form) {
+    windows_.at(&form)->RunUntilHidden();
+}
+
+}  // namespace horavex

@@ -1,0 +1,24 @@
+#include "desktop/form_window/layouts.h"
+
+#include "ui_HoravexMainForm.h"
+#include "ui_fMessage.h"
+
+namespace horavex {
+
+namespace {
+
+template <class Drawn>
+void Fill(QWidget& window) {
+    Drawn().setupUi(&window);
+}
+
+}  // namespace
+
+Layouts DrawnLayouts() {
+    return {
+        {"fMessage", Fill<Ui::fMessage>},
+        {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
+    };
+}
+
+}  // namespace horavex

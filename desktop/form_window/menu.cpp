@@ -1,0 +1,82 @@
+#include "desktop/form_window/menu.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "desktop/form_window/caption_text.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kSeparator = "-";
+
+QIcon IconOf(const MenuItem& item) {
+    if (item.Picture().empty() || item.Checked()) {
+        return {};
+    }
+    return QIcon(QString::fromStdString(Ports().programFolder.RealPath(item.Picture())));
+}
+
+QString CaptionOf(const MenuItem& item) {
+    return WithoutBrokenKey(QString::fromStdString(item.Caption()));
+}
+
+void AddEntry(QMenu& menu, MenuItem& item) {
+    const QString caption = CaptionOf(item);
+    QAction* action = nullptr;
+    if (item.Caption() == kSeparator) {
+        action = menu.addSeparator();
+    } else if (item.Entries().empty()) {
+        action = menu.addAction(IconOf(item), caption);
+        action->setCheckable(item.Checked());
+        action->setChecked(item.Checked());
+    } else {
+        QMenu* inner = menu.addMenu(IconOf(item), caption);
+        FillMenu(*inner, item);
+        action = inner->menuAction();
+    }
+    action->setEnabled(item.Enabled());
+    action->setData(QVariant::fromValue<void*>(&item));
+}
+
+}  // namespace
+
+void FillMenu(QMenu& menu, const MenuItem& source) {
+    for (MenuItem* entry : source.Entries()) {
+        if (entry->Visible()) {
+            AddEntry(menu, *entry);
+        }
+    }
+    const QList<QAction*> actions = menu.actions();
+    const bool rightToLeft = !actions.isEmpty() && actions.first()->text().isRightToLeft();
+    menu.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source) {
+    std::vector<MenuItem*> entries = source.Entries();
+    std::erase_if(entries, [](const MenuItem* entry) { return !entry->Visible(); });
+    const QList<QAction*> actions = menu.actions();
+    return std::equal(actions.begin(), actions.end(), entries.begin(), entries.end(),
+                      [](const QAction* action, const MenuItem* entry) {
+                          return ItemOf(action) == entry && action->text() == CaptionOf(*entry) &&
+                                 action->isEnabled() == entry->Enabled() &&
+                                 action->isChecked() == entry->Checked();
+                      });
+}
+
+MenuItem* ItemOf(const QAction* action) {
+    return action == nullptr ? nullptr : static_cast<MenuItem*>(action->data().value<void*>());
+}
+
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place) {
+    QMenu shown(parent);
+    FillMenu(shown, menu);
+    MenuItem* chosen = ItemOf(shown.exec(place));
+    if (chosen != nullptr) {
+        chosen->UserClick();
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QMenu>
+#include <QPoint>
+
+#include "forms/menu_item.h"
+
+namespace horavex {
+
+/// Adds the visible entries inside a menu, with their submenus. Entries know their menu item by
+/// ItemOf.
+void FillMenu(QMenu& menu, const MenuItem& source);
+
+/// Whether a menu already has the visible entries of the source, as they are now.
+bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source);
+
+/// The menu item behind an entry; nullptr for no entry.
+MenuItem* ItemOf(const QAction* action);
+
+/// Opens a menu at a place of the screen, in pixels, and clicks what the user chooses. Returns
+/// when the menu is closed and the click's work is done; events are delivered meanwhile.
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place);
+
+}  // namespace horavex

@@ -1,0 +1,36 @@
+#include "desktop/form_window/range_binders.h"
+
+#include <algorithm>
+
+namespace horavex {
+
+MovableRangeBinder::MovableRangeBinder(Control& bound, QWidget& boundWidget,
+                                       RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
+        const bool held = widget.isSliderDown();
+        Hand([this, held, value] { held ? control.UserDrag(value) : control.UserSlide(value); });
+    });
+    connect(&widget, &QAbstractSlider::sliderReleased, this,
+            [this] { Hand([this] { control.UserSlide(widget.value()); }); });
+}
+
+void MovableRangeBinder::Show() {
+    const auto [lowest, highest] = std::minmax({control.Min(), control.Max()});
+    const bool backwards = control.Min() > control.Max();
+    widget.setInvertedAppearance(backwards);
+    widget.setInvertedControls(backwards);
+    widget.setRange(lowest, highest);
+    widget.setSingleStep(control.SmallStep());
+    widget.setPageStep(control.LargeStep());
+    widget.setValue(control.Value());
+}
+
+void ProgressBarBinder::Show() {
+    const auto [lowest, highest] = std::minmax({control.Min(), control.Max()});
+    widget.setInvertedAppearance(control.Min() > control.Max());
+    widget.setRange(lowest, highest);
+    widget.setValue(control.Value());
+}
+
+}  // namespace horavex

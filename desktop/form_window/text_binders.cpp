@@ -1,0 +1,48 @@
+#include "desktop/form_window/text_binders.h"
+
+#include "desktop/form_window/caption_text.h"
+
+namespace horavex {
+
+void FrameBinder::Show() {
+    widget.setTitle(ShownCaption(control, widget));
+}
+
+void LabelBinder::Show() {
+    widget.setTextFormat(Qt::PlainText);
+    widget.setText(QString::fromStdString(control.Caption()));
+    const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
+    widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                        Qt::AlignVCenter);
+}
+
+void LabelBinder::Clicked() {
+    Hand([this] { control.UserClick(); });
+}
+
+CommandButtonBinder::CommandButtonBinder(Control& bound, QWidget& boundWidget,
+                                         RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QPushButton::clicked, this,
+            [this] { Hand([this] { control.UserClick(); }); });
+}
+
+void CommandButtonBinder::Show() {
+    widget.setText(ShownCaption(control, widget));
+}
+
+TextBoxBinder::TextBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) {
+        Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
+    });
+}
+
+void TextBoxBinder::Show() {
+    const QString text = QString::fromStdString(control.Text());
+    if (widget.text() != text) {
+        widget.setText(text);
+    }
+}
+
+}  // namespace horavex

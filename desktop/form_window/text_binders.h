@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "desktop/form_window/binder_of.h"
+#include "forms/command_button.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/text_box.h"
+
+namespace horavex {
+
+// Controls that show one text.
+
+class FrameBinder : public BinderOf<Frame, QGroupBox> {
+public:
+    using BinderOf::BinderOf;
+
+protected:
+    void Show() override;
+};
+
+/// A mere outline: there is nothing to show but its visibility.
+class ShapeBinder : public BinderOf<Shape, QFrame> {
+public:
+    using BinderOf::BinderOf;
+
+protected:
+    void Show() override {}
+};
+
+/// Labels and skin labels. The text runs in its own direction and stands at the side where the
+/// window begins.
+class LabelBinder : public BinderOf<Label, QLabel> {
+public:
+    using BinderOf::BinderOf;
+
+protected:
+    void Show() override;
+    void Clicked() override;
+};
+
+class CommandButtonBinder : public BinderOf<CommandButton, QPushButton> {
+public:
+    CommandButtonBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+};
+
+/// The cursor stays where it is unless the text is another one.
+class TextBoxBinder : public BinderOf<TextBox, QLineEdit> {
+public:
+    TextBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
+
+protected:
+    void Show() override;
+};
+
+}  // namespace horavex

@@ -1,0 +1,33 @@
+#include <cstdlib>
+
+#include "desktop/application.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/end_signals.h"
+#include "desktop/fault_box.h"
+#include "shell/start.h"
+#include "windows/frm_main.h"
+
+namespace {
+
+// The start runs before the event loop does, so that its faults have no other boundary. What is
+// left after one has no window to be reached by: the program says so and ends.
+bool Start() {
+    try {
+        horavex::frmMain->Load();
+        return true;
+    } catch (const std::exception& fault) {
+        horavex::ShowFault(fault);
+        return false;
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    horavex::Application application(argc, argv);
+    const horavex::DesktopPlatform platform;
+    const horavex::EndSignals signals;
+    application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
+    horavex::BindWindows();
+    return Start() ? horavex::Application::exec() : EXIT_FAILURE;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QTimer>
+
+#include "platform/event_loop.h"
+
+namespace horavex {
+
+/// The loop of the toolkit. Both waits deliver input, timers and repaints alike.
+class QtEventLoop : public EventLoop {
+public:
+    QtEventLoop();
+
+    void Pump() override;
+    void Rest(int milliseconds) override;
+    void Sleep(int milliseconds) override;
+
+    /// Status 0. No destructor runs and no window is told.
+    [[noreturn]] void EndProcess() override;
+
+private:
+    QTimer wakeUp_;  // an event of its own when no other comes
+};
+
+}  // namespace horavex

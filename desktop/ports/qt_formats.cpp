@@ -1,0 +1,62 @@
+#include "desktop/ports/qt_formats.h"
+
+#include <QDate>
+#include <QTime>
+#include <cmath>
+
+#include "base/rounding.h"
+#include "desktop/ports/date_time_pattern.h"
+
+namespace horavex {
+
+namespace {
+
+std::string Plain(QString text) {
+    text.replace(QChar(0x202F), QChar(u' '));  // the narrow no-break space
+    text.replace(QChar(QChar::Nbsp), QChar(u' '));
+    return text.toStdString();
+}
+
+QTime TimeOf(Date moment) {
+    const ClockTime time = ClockTimeOf(moment);
+    return {time.hour, time.minute, time.second};
+}
+
+// The day that holds the moment once it is rounded to a whole second.
+QDate DayOf(Date moment) {
+    const CivilDate day =
+        CivilFromDate(std::floor(RoundHalfEven(moment * kSecondsPerDay) / kSecondsPerDay));
+    return {day.year, day.month, day.day};
+}
+
+}  // namespace
+
+std::string QtFormats::MediumTime(Date time) const {
+    const QString pattern = MediumTimePattern(locale_.timeFormat(QLocale::ShortFormat));
+    return Plain(locale_.toString(TimeOf(time), pattern));
+}
+
+std::string QtFormats::LongTime(Date time) const {
+    const QString pattern = LongTimePattern(locale_.timeFormat(QLocale::LongFormat));
+    return Plain(locale_.toString(TimeOf(time), pattern));
+}
+
+std::string QtFormats::LongDate(Date date) const {
+    return Plain(locale_.toString(DayOf(date), QLocale::LongFormat));
+}
+
+std::string QtFormats::ShortDate(Date date) const {
+    const QString pattern = ShortDatePattern(locale_.dateFormat(QLocale::ShortFormat));
+    return Plain(locale_.toString(DayOf(date), pattern));
+}
+
+std::string QtFormats::WeekdayName(Date date) const {
+    return Plain(locale_.toString(DayOf(date), QStringLiteral("dddd")));
+}
+
+char QtFormats::DecimalMark() const {
+    const QString mark = locale_.decimalPoint();
+    return mark == QStringLiteral(",") ? ',' : '.';
+}
+
+}  // namespace horavex

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "linux/autostart_entry.h"
+#include "platform/shell.h"
+
+namespace horavex {
+
+/// The services of the user's desktop; entries at its start name this executable.
+class QtShell : public Shell {
+public:
+    explicit QtShell(Files& files);
+
+    void OpenDateTimeTool() override;
+    void OpenAddress(const std::string& address) override;
+    void WriteStartupEntry(const std::string& baseName) override { entries_.Write(baseName); }
+    bool HasStartupEntry(const std::string& baseName) override { return entries_.Has(baseName); }
+    void DeleteStartupEntry(const std::string& baseName) override { entries_.Delete(baseName); }
+    std::string StartupEntryPath(const std::string& baseName) override {
+        return entries_.Path(baseName);
+    }
+
+private:
+    AutostartEntries entries_;
+};
+
+}  // namespace horavex

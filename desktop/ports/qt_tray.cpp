@@ -1,0 +1,100 @@
+#include "desktop/ports/qt_tray.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+#include "desktop/form_window/menu.h"
+#include "desktop/ports/emblem.h"
+
+namespace horavex {
+
+QtTray::QtTray(const MenuItem& menu) : source_(menu) {
+    connect(&menu_, &QMenu::aboutToShow, this, &QtTray::FillOfferedMenu);
+    connect(&menu_, &QMenu::triggered, this,
+            [](const QAction* entry) { ItemOf(entry)->UserClick(); });
+}
+
+void QtTray::Add(const std::string& tip) {
+    SetTip(tip);
+    area_.Await([this](AreaKind kind) { Appear(kind); });
+}
+
+void QtTray::Remove() {
+    icon_.reset();
+}
+
+void QtTray::SetTip(const std::string& tip) {
+    tip_ = QString::fromStdString(tip);
+    if (icon_) {
+        icon_->setToolTip(tip_);
+    }
+}
+
+void QtTray::Appear(AreaKind kind) {
+    kind_ = kind;
+    icon_ = std::make_unique<QSystemTrayIcon>(Emblem());
+    icon_->setToolTip(tip_);
+    connect(icon_.get(), &QSystemTrayIcon::activated, this, &QtTray::Activated);
+    if (kind == AreaKind::kStatusNotifier) {
+        OfferMenu();
+    }
+    icon_->show();
+}
+
+void QtTray::OfferMenu() {
+    FillOfferedMenu();
+    icon_->setContextMenu(&menu_);
+}
+
+// An area asks for the menu before it draws it. Entries keep their numbers while nothing changed.
+void QtTray::FillOfferedMenu() {
+    if (!ShowsEntriesOf(menu_, source_)) {
+        menu_.clear();
+        FillMenu(menu_, source_);
+    }
+}
+
+void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
+    switch (reason) {
+        case QSystemTrayIcon::Trigger:
+            Clicked();
+            break;
+        case QSystemTrayIcon::DoubleClick:
+            sinceClick_.invalidate();
+            onMessage(TrayMessage::kLeftDoubleClick);
+            break;
+        case QSystemTrayIcon::Context:
+            onMessage(TrayMessage::kRightDown);
+            if (kind_ == AreaKind::kXEmbed) {
+                qApp->installEventFilter(this);  // the button comes up over the icon's own window
+            } else {
+                onMessage(TrayMessage::kRightUp);
+            }
+            break;
+        default:
+            break;
+    }
+}
+
+void QtTray::Clicked() {
+    const bool isSecond =
+        sinceClick_.isValid() && sinceClick_.elapsed() <= QApplication::doubleClickInterval();
+    if (isSecond) {
+        sinceClick_.invalidate();
+        onMessage(TrayMessage::kLeftDoubleClick);
+    } else {
+        sinceClick_.start();
+        onMessage(TrayMessage::kLeftDown);
+    }
+}
+
+bool QtTray::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
+        qApp->removeEventFilter(this);
+        onMessage(TrayMessage::kRightUp);
+    }
+    return false;
+}
+
+}  // namespace horavex

@@ -1,0 +1,75 @@
+#include "desktop/ports/qt_windows.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include "desktop/form_window/menu.h"
+#include "desktop/form_window/twips.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+namespace {
+
+const MenuItem* FindMenu(const Form& form, const std::string& name) {
+    for (const Control* control : form.Controls()) {
+        if (control->Kind() == ControlKind::kMenuItem && control->Name() == name) {
+            return static_cast<const MenuItem*>(control);
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+ScreenSize QtWindows::Screen() {
+    const FormWindow* face = windows_.Find(&*frmMain);
+    const QScreen* screen = face == nullptr ? QGuiApplication::primaryScreen() : face->screen();
+    return {TwipsOf(screen->size().width()), TwipsOf(screen->size().height())};
+}
+
+void QtWindows::StartDrag(const std::string& form) {
+    const FormWindow* window = windows_.Find(form);
+    if (window != nullptr && window->windowHandle() != nullptr) {
+        window->windowHandle()->startSystemMove();
+    }
+}
+
+void QtWindows::PopUpMenu(const std::string& form, const std::string& menu, int x, int y) {
+    const FormWindow* window = windows_.Find(form);
+    if (window != nullptr) {
+        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)));
+    }
+}
+
+void QtWindows::PopUpMenuAtPointer(const std::string& form, const std::string& menu) {
+    RunMenuOf(form, menu, QCursor::pos());
+}
+
+// A hidden window cannot stand behind its menu.
+void QtWindows::RunMenuOf(const std::string& form, const std::string& menu, QPoint place) {
+    FormWindow* window = windows_.Find(form);
+    const MenuItem* item = window == nullptr ? nullptr : FindMenu(window->Shown(), menu);
+    if (item != nullptr) {
+        RunMenu(*item, window->isVisible() ? window : nullptr, place);
+    }
+}
+
+void QtWindows::Activate(const std::string& form) {
+    FormWindow* window = windows_.Find(form);
+    if (window != nullptr && window->isVisible()) {
+        window->activateWindow();
+    }
+}
+
+void QtWindows::SetForeground(const std::string& form) {
+    FormWindow* window = windows_.Find(form);
+    if (window != nullptr && window->isVisible()) {
+        window->raise();
+        window->activateWindow();
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "desktop/form_window/form_windows.h"
+#include "platform/windows.h"
+
+namespace horavex {
+
+/// Forms that are not loaded have no window: what is asked of them does nothing.
+class QtWindows : public Windows {
+public:
+    explicit QtWindows(const FormWindows& windows) : windows_(windows) {}
+
+    ScreenSize Screen() override;
+    void StartDrag(const std::string& form) override;
+    void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) override;
+    void PopUpMenuAtPointer(const std::string& form, const std::string& menu) override;
+    void Activate(const std::string& form) override;
+    void SetForeground(const std::string& form) override;
+
+private:
+    void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);
+
+    const FormWindows& windows_;
+};
+
+}  // namespace horavex

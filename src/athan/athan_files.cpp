@@ -1,0 +1,42 @@
+#include "athan/athan_files.h"
+
+#include "base/steps.h"
+#include "platform/platform.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+/// A sound that is played, and the built-in one that stands in for it.
+struct AthanFile {
+    const char* played;
+    const char* builtIn;
+};
+
+constexpr AthanFile kOtherPrayers = {"Athan\\athan.mp3", "Athan\\athan1.mp3"};
+constexpr AthanFile kFajr = {"Athan\\fagr_athan.mp3", "Athan\\fagr_athan1.mp3"};
+
+void MakeIfMissing(const AthanFile& file) {
+    const ProgramFolder& folder = Ports().programFolder;
+    if (folder.Exists(file.builtIn) && !folder.Exists(file.played)) {
+        RunStep([&] { folder.WriteWhole(file.played, folder.ReadWhole(file.builtIn)); });
+    }
+}
+
+void OfferSound(bool offered) {
+    HoravexMainForm->optAthanType(3).SetVisible(offered);
+    HoravexMainForm->mnuPopSound.SetVisible(offered);
+    HoravexMainForm->mnuSound.SetVisible(offered);
+}
+
+}  // namespace
+
+void CheckAthanFiles() {
+    MakeIfMissing(kOtherPrayers);
+    MakeIfMissing(kFajr);
+    // The sound of Fajr decides alone, whatever has become of the other.
+    OfferSound(Ports().programFolder.Exists(kFajr.played));
+}
+
+}  // namespace horavex

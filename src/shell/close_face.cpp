@@ -1,0 +1,39 @@
+#include "shell/close_face.h"
+
+#include "base/program_state.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+namespace {
+
+bool wasTold = false;
+
+const ProgramStateReset reset([] { wasTold = false; });
+
+void TellOnce() {
+    if (wasTold) {
+        return;
+    }
+    wasTold = true;
+    Ports().dialogs.ShowMessage(
+        GetLangString("desktop", "NoTray",
+                      "This desktop has no notification area, so Horavex stays in the window list. "
+                      "Menu \"Athan\", \"Exit\" ends it."),
+        "", MessageIcon::kInformation);
+}
+
+}  // namespace
+
+void CloseFace() {
+    if (Ports().tray.HasHost()) {
+        frmMain->Hide();
+        return;
+    }
+    frmMain->SetWindowState(WindowState::kMinimized);
+    TellOnce();
+}
+
+}  // namespace horavex

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// The root page of the vendor's web server, without a slash at its end. Whoever packages the
+/// program sets it as the machine-wide setting "Web Server".
+std::string WebServer();
+
+}  // namespace horavex

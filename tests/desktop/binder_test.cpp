@@ -1,0 +1,272 @@
+#include "desktop/form_window_fixture.h"
+
+namespace horavex {
+namespace {
+
+class BinderTest : public FormWindowTest {
+protected:
+    BinderTest() { Show(); }
+
+    /// What the handlers were called for, in order.
+    std::vector<std::string> calls;
+
+    Handler Note(const std::string& call) {
+        return [this, call] { calls.push_back(call); };
+    }
+};
+
+TEST_F(BinderTest, CaptionsOfEachKindShowAndChange) {
+    form.frame.SetCaption("Frame 2");
+    form.label.SetCaption("Label <b>2</b>");
+    form.skinLabel.SetCaption("Skin 2");
+    form.button.SetCaption("Button 2");
+    form.check.SetCaption("Check 2");
+    form.option(2).SetCaption("Option 2");
+    Settle();
+    EXPECT_EQ(Find<QGroupBox>("frame").title(), "Frame 2");
+    EXPECT_EQ(Find<QLabel>("label").text(), "Label <b>2</b>");
+    EXPECT_EQ(Find<QLabel>("label").textFormat(), Qt::PlainText);
+    EXPECT_EQ(Find<QLabel>("skinLabel").text(), "Skin 2");
+    EXPECT_EQ(Find<QPushButton>("button").text(), "Button 2");
+    EXPECT_EQ(Find<QCheckBox>("check").text(), "Check 2");
+    EXPECT_EQ(Find<QRadioButton>("option_2").text(), "Option 2");
+}
+
+TEST_F(BinderTest, EnabledVisibleAndToolTipShow) {
+    form.button.SetEnabled(false);
+    form.label.SetVisible(false);
+    form.shape.SetVisible(false);
+    form.check.SetToolTipText("tip");
+    Settle();
+    EXPECT_FALSE(Find<QPushButton>("button").isEnabled());
+    EXPECT_TRUE(Find<QLabel>("label").isHidden());
+    EXPECT_TRUE(Find<QFrame>("shape").isHidden());
+    EXPECT_EQ(Find<QCheckBox>("check").toolTip(), "tip");
+}
+
+TEST_F(BinderTest, FormAndFrameShutWhatLiesInside) {
+    form.frame.SetEnabled(false);
+    Settle();
+    EXPECT_FALSE(Find<QRadioButton>("option_1").isEnabled());
+    EXPECT_TRUE(Find<QPushButton>("button").isEnabled());
+    form.SetEnabled(false);
+    Settle();
+    EXPECT_FALSE(Find<QPushButton>("button").isEnabled());
+}
+
+TEST_F(BinderTest, ButtonClickReachesTheControlOnce) {
+    form.button.onClick = Note("click");
+    Click(Find<QPushButton>("button"));
+    EXPECT_EQ(calls, std::vector<std::string>{"click"});
+}
+
+TEST_F(BinderTest, LabelsAndPicturesAreClickedOnTheRelease) {
+    form.label.onClick = Note("label");
+    form.skinLabel.onClick = Note("skin");
+    form.picture.onClick = Note("picture");
+    Press(Find<QLabel>("label"), QEvent::MouseButtonPress);
+    EXPECT_TRUE(calls.empty());
+    Press(Find<QLabel>("label"), QEvent::MouseButtonRelease);
+    Press(Find<QLabel>("label"), QEvent::MouseButtonRelease, Qt::RightButton);
+    Click(Find<QLabel>("skinLabel"));
+    Click(Find<Canvas>("picture"));
+    EXPECT_EQ(calls, (std::vector<std::string>{"label", "skin", "picture"}));
+}
+
+TEST_F(BinderTest, CheckBoxGoesBothWays) {
+    form.check.onClick = Note("click");
+    form.check.SetValue(1);
+    Settle();
+    EXPECT_TRUE(Find<QCheckBox>("check").isChecked());
+    EXPECT_EQ(calls.size(), 1U);  // by the assignment, not by the widget
+    Find<QCheckBox>("check").click();
+    EXPECT_EQ(form.check.Value(), 0);
+    EXPECT_EQ(calls.size(), 2U);
+}
+
+TEST_F(BinderTest, CheckBoxShowsWhatTheHandlerMadeOfIt) {
+    form.check.onClick = [this] { form.check.SetValue(0); };
+    Find<QCheckBox>("check").click();
+    Settle();
+    EXPECT_FALSE(Find<QCheckBox>("check").isChecked());
+}
+
+TEST_F(BinderTest, OptionsGoBothWaysAndMayAllBeClear) {
+    form.option(1).onClick = Note("one");
+    form.option(2).onClick = Note("two");
+    EXPECT_FALSE(Find<QRadioButton>("option_1").isChecked());
+    form.option(1).SetValue(true);
+    Settle();
+    EXPECT_TRUE(Find<QRadioButton>("option_1").isChecked());
+    Find<QRadioButton>("option_2").click();
+    EXPECT_TRUE(form.option(2).Value());
+    EXPECT_FALSE(form.option(1).Value());
+    form.option(2).SetValue(false);
+    Settle();
+    EXPECT_FALSE(Find<QRadioButton>("option_1").isChecked());
+    EXPECT_FALSE(Find<QRadioButton>("option_2").isChecked());
+    EXPECT_EQ(calls, (std::vector<std::string>{"one", "two"}));
+}
+
+TEST_F(BinderTest, TypedTextComesBeforeTheReleaseOfItsKey) {
+    form.text.onChange = [this] { calls.push_back("change to " + form.text.Text()); };
+    form.text.onKeyUp = Note("key up");
+    auto& line = Find<QLineEdit>("text");
+    line.setFocus();
+    line.end(false);
+    Key(line, Qt::Key_5, "5");
+    EXPECT_EQ(calls, (std::vector<std::string>{"change to text5", "key up"}));
+}
+
+TEST_F(BinderTest, TextThatTheHandlerTakesBackGoesFromTheWidget) {
+    form.text.onKeyUp = [this] { form.text.SetText("text"); };
+    auto& line = Find<QLineEdit>("text");
+    line.setFocus();
+    Key(line, Qt::Key_Minus, "-");
+    Settle();
+    EXPECT_EQ(line.text(), "text");
+}
+
+TEST_F(BinderTest, AssignedTextShowsWithoutAnEventOfTheWidget) {
+    form.text.onChange = Note("change");
+    form.text.SetText("other");
+    Settle();
+    EXPECT_EQ(Find<QLineEdit>("text").text(), "other");
+    EXPECT_EQ(calls.size(), 1U);
+}
+
+TEST_F(BinderTest, ListGoesBothWays) {
+    form.list.onClick = Note("click");
+    form.list.onDblClick = Note("double");
+    auto& list = Find<QListWidget>("list");
+    EXPECT_EQ(list.count(), 3);
+    EXPECT_EQ(list.currentRow(), -1);
+    form.list.AddItem("d");
+    form.list.SetListIndex(3);
+    Settle();
+    EXPECT_EQ(list.item(3)->text(), "d");
+    EXPECT_EQ(list.currentRow(), 3);
+    list.setCurrentRow(1);
+    EXPECT_EQ(form.list.ListIndex(), 1);
+    Q_EMIT list.itemDoubleClicked(list.item(1));
+    EXPECT_EQ(calls, (std::vector<std::string>{"click", "click", "double"}));
+}
+
+TEST_F(BinderTest, ComboBoxGoesBothWays) {
+    form.combo.onClick = Note("click");
+    form.combo.onChange = Note("change");
+    auto& combo = Find<QComboBox>("combo");
+    form.combo.SetListIndex(1);
+    Settle();
+    EXPECT_EQ(combo.currentIndex(), 1);
+    EXPECT_EQ(combo.currentText(), "y");
+    combo.setCurrentIndex(0);
+    Q_EMIT combo.activated(0);
+    EXPECT_EQ(form.combo.ListIndex(), 0);
+    combo.setFocus();
+    combo.lineEdit()->end(false);
+    Key(combo, Qt::Key_Z, "z");
+    EXPECT_EQ(form.combo.Text(), "xz");
+    EXPECT_EQ(calls, (std::vector<std::string>{"click", "click", "change"}));
+}
+
+TEST_F(BinderTest, RangesShowTheirLimitsValueAndSteps) {
+    form.scroll.SetMax(30);
+    form.scroll.SetMin(10);
+    form.scroll.SetValue(12);
+    form.progress.SetValue(40);
+    Settle();
+    auto& scroll = Find<QScrollBar>("scroll");
+    EXPECT_EQ(scroll.minimum(), 10);
+    EXPECT_EQ(scroll.maximum(), 30);
+    EXPECT_EQ(scroll.value(), 12);
+    EXPECT_EQ(scroll.pageStep(), 4);
+    EXPECT_EQ(Find<QSlider>("slider").maximum(), 4);
+    EXPECT_EQ(Find<QProgressBar>("progress").value(), 40);
+}
+
+TEST_F(BinderTest, StepsSlideAndAHeldThumbDrags) {
+    form.scroll.onChange = [this] { calls.push_back("at " + std::to_string(form.scroll.Value())); };
+    form.scroll.onScroll = Note("scroll");
+    auto& scroll = Find<QScrollBar>("scroll");
+    scroll.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    scroll.triggerAction(QAbstractSlider::SliderPageStepAdd);
+    scroll.setSliderDown(true);
+    scroll.setSliderPosition(15);
+    scroll.setSliderPosition(17);
+    scroll.setSliderDown(false);
+    EXPECT_EQ(calls, (std::vector<std::string>{"at 6", "at 10", "scroll", "scroll", "at 17"}));
+}
+
+TEST_F(BinderTest, GreaterLowerLimitTurnsTheWidgetRound) {
+    form.slider.SetMin(9);
+    Settle();
+    auto& slider = Find<QSlider>("slider");
+    EXPECT_TRUE(slider.invertedAppearance());
+    EXPECT_EQ(slider.minimum(), 4);
+    EXPECT_EQ(slider.maximum(), 9);
+}
+
+TEST_F(BinderTest, TabsGoBothWays) {
+    form.tabs.onClick = Note("click");
+    auto& tabs = Find<QTabBar>("tabs");
+    EXPECT_EQ(tabs.count(), 2);
+    form.tabs.SetTabCaption(1, "Last");
+    Settle();
+    EXPECT_EQ(tabs.tabText(1), "Last");
+    tabs.setCurrentIndex(1);
+    EXPECT_EQ(form.tabs.ListIndex(), 1);
+    EXPECT_EQ(calls, std::vector<std::string>{"click"});
+}
+
+TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {
+    form.picture.drawing = {
+        PolygonStep{{{0, 0}, {300, 0}, {300, 600}, {0, 600}}, {250, 0, 0}, {{250, 0, 0}, 1}}};
+    form.picture.Refresh();
+    Settle();
+    auto& canvas = Find<Canvas>("picture");
+    EXPECT_EQ(canvas.sizeHint(), QSize(40, 40));
+    const QImage image = canvas.grab().toImage();
+    EXPECT_EQ(image.pixelColor(image.width() / 4, image.height() / 2), QColor(250, 0, 0));
+    EXPECT_NE(image.pixelColor(image.width() * 3 / 4, image.height() / 2), QColor(250, 0, 0));
+}
+
+TEST_F(BinderTest, FocusMovesWithItsEvents) {
+    QApplication::setActiveWindow(&Window());
+    form.button.SetFocus();
+    Settle();
+    form.text.onGotFocus = Note("text got");
+    form.text.onLostFocus = Note("text lost");
+    form.check.onGotFocus = Note("check got");
+    Find<QLineEdit>("text").setFocus();
+    Find<QCheckBox>("check").setFocus();
+    EXPECT_EQ(calls, (std::vector<std::string>{"text got", "text lost", "check got"}));
+    form.text.SetFocus();
+    Settle();
+    EXPECT_TRUE(Find<QLineEdit>("text").hasFocus());
+}
+
+TEST_F(BinderTest, CaptionsAreTheNamesForAssistiveTools) {
+    EXPECT_EQ(Find<QPushButton>("button").accessibleName(), "Button");
+    EXPECT_EQ(Find<QLineEdit>("text").accessibleName(), "A label");
+    form.label.SetCaption("Another");
+    Settle();
+    EXPECT_EQ(Find<QLineEdit>("text").accessibleName(), "Another");
+}
+
+TEST_F(BinderTest, ArabicCaptionsTurnTheWindowRound) {
+    EXPECT_EQ(Window().layoutDirection(), Qt::LeftToRight);
+    for (Control* control : form.Controls()) {
+        if (control->Has(Property::kCaption)) {
+            control->SetCaption("القبلة");
+        }
+    }
+    form.label.SetCaption("06:30 AM");
+    Settle();
+    EXPECT_EQ(Window().layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(Find<QLabel>("label").text(), "06:30 AM");
+    EXPECT_TRUE(Find<QLabel>("label").alignment().testFlag(Qt::AlignRight));
+}
+
+}  // namespace
+}  // namespace horavex

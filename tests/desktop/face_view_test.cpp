@@ -1,0 +1,243 @@
+#include "desktop/face/face_view.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "desktop/face/compass.h"
+#include "desktop/face/qt_face.h"
+#include "desktop/face/text_line.h"
+#include "desktop/face_values.h"
+#include "support/test_platform.h"
+
+namespace horavex {
+namespace {
+
+TEST(ReadBearing, EitherDecimalMarkIsRead) {
+    EXPECT_EQ(ReadBearing("136.25"), 136.25);
+    EXPECT_EQ(ReadBearing("136,25"), 136.25);
+    EXPECT_EQ(ReadBearing("-60"), 300.0);
+    EXPECT_EQ(ReadBearing("0"), 0.0);
+    EXPECT_EQ(ReadBearing("1.5E-5"), 1.5e-5);
+    EXPECT_EQ(ReadBearing(""), std::nullopt);
+    EXPECT_EQ(ReadBearing("east"), std::nullopt);
+}
+
+class FaceTest : public testing::Test {
+protected:
+    FaceTest() {
+        face.onFSCommand = [this](const std::string& command, const std::string& arguments) {
+            commands.push_back(command);
+            EXPECT_EQ(arguments, "");
+        };
+        face.Fill(window);
+        window.show();
+    }
+
+    FaceView& View() { return *window.findChild<FaceView*>(); }
+
+    QAbstractButton& Button(const char* command) {
+        return *window.findChild<QAbstractButton*>(QString::fromUtf8(command));
+    }
+
+    /// The texts that the face shows, without those of buttons.
+    QStringList Lines() {
+        QStringList lines;
+        for (const TextLine* line : window.findChildren<TextLine*>()) {
+            lines << line->text();
+        }
+        return lines;
+    }
+
+    // What lies at the place gets the event, or else what lies behind it.
+    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        QWidget* target = View().childAt(at) == nullptr ? &View() : View().childAt(at);
+        const QPointF local = target->mapFrom(&View(), at);
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, local, target->mapToGlobal(local), button, button,
+                              Qt::NoModifier);
+            QApplication::sendEvent(target, &event);
+        }
+    }
+
+    TestPlatform platform;
+    QtFace face;
+    QWidget window;
+    std::vector<std::string> commands;
+};
+
+TEST_F(FaceTest, VariablesBeforeTheLoadAreDropped) {
+    face.SetVariable("_root.azan", "Adhan");
+    face.LoadMovie(0, "skin.swf");
+    EXPECT_EQ(Button("IDC_FS_azan").text(), "Athan");
+    face.SetVariable("_root.azan", "Adhan");
+    EXPECT_EQ(Button("IDC_FS_azan").text(), "Adhan");
+}
+
+TEST_F(FaceTest, EachVariableShows) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    EXPECT_EQ(Lines(), (QStringList{"21 November 2026", "11 Jamad Thani 1448",
+                                    "Next Athan: Asr at 2:36:00 PM", "Remaining: 2:36:0"}));
+    EXPECT_EQ(Button("IDC_FS_Day").text(), "Saturday");
+    EXPECT_EQ(window.findChild<QWidget*>("compass")->accessibleName(), "136°");
+    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith("Fajr:04:56 AM"));
+}
+
+TEST_F(FaceTest, CaptionsAreEnglishUntilThePackNamesThem) {
+    face.LoadMovie(0, "");
+    const auto captions = [this] {
+        QStringList texts;
+        for (const char* command : {"IDC_FS_azan", "IDC_FS_settings", "IDC_FS_tools", "IDC_FS_help",
+                                    "IDC_FS_Qibla", "IDC_FS_allTimes"}) {
+            texts << Button(command).text();
+        }
+        return texts;
+    };
+    EXPECT_EQ(captions(),
+              (QStringList{"Athan", "Settings", "Tools", "Help", "Qibla", "Prayer Times"}));
+    TellArabic(face);
+    EXPECT_EQ(captions(), (QStringList{"الأذان", "الإعدادات", "الأدوات", "المساعدة", "القبلة",
+                                       "مواقيت الصلاة"}));
+}
+
+TEST_F(FaceTest, NamesCountExactlyAndUnknownOnesAreIgnored) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    const QStringList before = Lines();
+    for (const char* name : {"_root.qibla", "_root.prayer_time", "_root.MyYear", "myYear", ""}) {
+        face.SetVariable(name, "x");
+    }
+    EXPECT_EQ(Lines(), before);
+    EXPECT_EQ(Button("IDC_FS_Qibla").text(), "Qibla");
+}
+
+TEST_F(FaceTest, EachButtonTellsItsCommand) {
+    std::vector<std::string> expected;
+    for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        Click(button->geometry().center());
+        expected.push_back(button->objectName().toStdString());
+    }
+    EXPECT_EQ(commands, expected);
+    EXPECT_THAT(commands, testing::UnorderedElementsAre(
+                              "IDC_FS_Clock", "IDC_FS_Day", "IDC_FS_azan", "IDC_FS_settings",
+                              "IDC_FS_tools", "IDC_FS_help", "IDC_FS_allTimes", "IDC_FS_Qibla",
+                              "IDC_FS_minimize", "IDC_FS_close"));
+}
+
+TEST_F(FaceTest, EachButtonIsReachedByTabAndPressedByReturnAndBlank) {
+    QApplication::setActiveWindow(&window);
+    const qsizetype count = window.findChildren<QAbstractButton*>().size();
+    std::set<QWidget*> reached;
+    for (qsizetype step = 0; step < count; ++step) {
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QApplication::sendEvent(QApplication::focusWidget(), &tab);
+        QWidget* button = QApplication::focusWidget();
+        reached.insert(button);
+        commands.clear();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(button, &press);
+            QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+            QApplication::sendEvent(button, &release);
+        }
+        const std::string command = button->objectName().toStdString();
+        EXPECT_EQ(commands, (std::vector<std::string>{command, command}));
+    }
+    EXPECT_EQ(reached.size(), static_cast<std::size_t>(count));
+}
+
+TEST_F(FaceTest, ButtonReachedByKeyShowsIt) {
+    QAbstractButton& button = Button("IDC_FS_tools");
+    QApplication::setActiveWindow(&window);
+    button.setFocus(Qt::OtherFocusReason);
+    const QImage without = button.grab().toImage();
+    Button("IDC_FS_help").setFocus(Qt::TabFocusReason);
+    button.setFocus(Qt::BacktabFocusReason);
+    EXPECT_NE(button.grab().toImage(), without);
+}
+
+TEST_F(FaceTest, EachButtonHasANameForAssistiveTools) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        EXPECT_FALSE((button->text() + button->accessibleName()).isEmpty())
+            << button->objectName().toStdString();
+    }
+}
+
+TEST_F(FaceTest, PressOnTheGroundDragsAndTheRightButtonDoesNothing) {
+    Click(QPoint(410, 250));
+    Click(QPoint(100, 290));  // among the times
+    EXPECT_EQ(commands, (std::vector<std::string>{"IDC_FS_drag", "IDC_FS_drag"}));
+    Click(QPoint(410, 250), Qt::RightButton);
+    Click(Button("IDC_FS_azan").geometry().center(), Qt::RightButton);
+    EXPECT_EQ(commands.size(), 2U);
+}
+
+TEST_F(FaceTest, MenusStandSideBySideAndFitWhateverTheirTexts) {
+    face.LoadMovie(0, "");
+    for (const char* name : {"_root.azan", "_root.settings", "_root.tools", "_root.help"}) {
+        face.SetVariable(name, "Konfigurationseinstellungen");
+    }
+    EXPECT_EQ(Button("IDC_FS_azan").x(), 50);
+    EXPECT_EQ(Button("IDC_FS_settings").x(), Button("IDC_FS_azan").geometry().right() + 1);
+    EXPECT_LE(Button("IDC_FS_help").geometry().right(), 400);
+}
+
+/// The widgets that were painted.
+class Painted : public QObject {
+public:
+    explicit Painted(QWidget& view) {
+        for (QWidget* widget : view.findChildren<QWidget*>()) {
+            widget->installEventFilter(this);
+        }
+    }
+
+    /// All that is painted up to and with the next turn of the clock.
+    QSet<QObject*> WithNextTurnOf(QAbstractButton& clock) {
+        widgets_.clear();
+        while (!widgets_.contains(&clock)) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        return widgets_;
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            widgets_.insert(watched);
+        }
+        return false;
+    }
+
+private:
+    QSet<QObject*> widgets_;
+};
+
+TEST_F(FaceTest, ATickPaintsTheCountdownAndTheClockAlone) {
+    Painted painted(View());
+    QAbstractButton& clock = Button("IDC_FS_Clock");
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    painted.WithNextTurnOf(clock);
+    TellEnglish(face);
+    face.SetVariable("_root.sNextRemaining", "Remaining: 2:35:59");
+    EXPECT_EQ(painted.WithNextTurnOf(clock).size(), 2);
+}
+
+TEST(ClockOfTheFace, HandsMoveWithTheCountdown) {
+    const TestPlatform platform;
+    QTime now(3, 0, 0);
+    FaceView view([&] { return now; });
+    auto& clock = *view.findChild<QAbstractButton*>("IDC_FS_Clock");
+    const QImage three = clock.grab().toImage();
+    now = QTime(9, 0, 0);
+    EXPECT_EQ(clock.grab().toImage(), three);
+    view.SetVariable("_root.sNextRemaining", "Remaining: 1:0:0");
+    EXPECT_NE(clock.grab().toImage(), three);
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,99 @@
+#include "desktop/form_window/layouts.h"
+
+#include <QApplication>
+
+#include "desktop/face/qt_face.h"
+#include "desktop/form_window/form_windows.h"
+#include "desktop/form_window/widget_names.h"
+#include "forms/focusable.h"
+#include "support/test_platform.h"
+#include "windows/f_message.h"
+#include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+namespace {
+
+QStringList ControlNames(const Form& form) {
+    QStringList names;
+    for (Control* control : form.Controls()) {
+        if (HasWidget(*control)) {
+            names << WidgetNameOf(*control);
+        }
+    }
+    names.sort();
+    return names;
+}
+
+// Widgets inside widgets of the toolkit have its own names or none.
+QStringList WidgetNames(const QWidget& window) {
+    QStringList names;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_")) {
+            names << widget->objectName();
+        }
+    }
+    names.sort();
+    return names;
+}
+
+class LayoutsTest : public testing::TestWithParam<Form* (*)()> {
+protected:
+    Form& Loaded() {
+        Form& form = *GetParam()();
+        form.Load();
+        windows.Find(&form)->Flush();
+        return form;
+    }
+
+    TestPlatform platform;
+    FormWindows windows{DrawnLayouts()};
+};
+
+TEST_P(LayoutsTest, EachControlHasItsWidgetAndEachWidgetItsControl) {
+    Form& form = Loaded();
+    EXPECT_EQ(WidgetNames(*windows.Find(&form)), ControlNames(form));
+}
+
+TEST_P(LayoutsTest, LayoutHoldsNoText) {
+    const Form& form = *GetParam()();
+    QWidget window;
+    DrawnLayouts().at(form.Name())(window);
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        EXPECT_TRUE(widget->property("text").toString().isEmpty())
+            << widget->objectName().toStdString();
+        EXPECT_TRUE(widget->property("title").toString().isEmpty())
+            << widget->objectName().toStdString();
+        EXPECT_TRUE(widget->toolTip().isEmpty()) << widget->objectName().toStdString();
+    }
+}
+
+TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
+    Form& form = Loaded();
+    for (Control* control : form.Controls()) {
+        if (HasWidget(*control) && dynamic_cast<Focusable*>(control) != nullptr) {
+            const auto* widget = windows.Find(&form)->findChild<QWidget*>(WidgetNameOf(*control));
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << control->Name();
+            EXPECT_TRUE(widget->focusPolicy() & Qt::TabFocus) << control->Name();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
+                         testing::Values([]() -> Form* { return &*fMessage; },
+                                         []() -> Form* { return &*HoravexMainForm; }),
+                         [](const auto& form) { return form.param()->Name(); });
+
+TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
+    const TestPlatform platform;
+    QtFace face;
+    const FormWindows windows{Layouts{{"frmMain", [&](QWidget& window) { face.Fill(window); }}}};
+    EXPECT_EQ(ControlNames(*frmMain), QStringList());
+    frmMain->Show();
+    const QWidget& window = *windows.Find(&*frmMain);
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(window.size(), QSize(420, 420));
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,138 @@
+#include "desktop/form_window/menu.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QTimer>
+
+#include "desktop/face/qt_face.h"
+#include "desktop/form_window/form_windows.h"
+#include "desktop/ports/qt_windows.h"
+#include "support/test_platform.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+namespace {
+
+QStringList Texts(const QMenu& menu) {
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        texts << action->text();
+    }
+    return texts;
+}
+
+class MenuTest : public testing::Test {
+protected:
+    /// Runs when the next menu is open.
+    static void WhenOpen(const std::function<void(QMenu&)>& act) {
+        QTimer::singleShot(0, [act] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr);
+            act(*menu);
+            menu->close();
+        });
+    }
+
+    TestPlatform platform;
+    QtFace face;
+    FormWindows windows{Layouts{{"frmMain", [this](QWidget& window) { face.Fill(window); }}}};
+    QtWindows port{windows};
+};
+
+TEST_F(MenuTest, EntriesComeInOrderWithTheirKeysAndState) {
+    QMenu menu;
+    frmMain->mnuPopShow.SetChecked(true);
+    frmMain->mnuPopHelp.SetVisible(false);
+    FillMenu(menu, frmMain->mnuPopup);
+    EXPECT_EQ(Texts(menu), (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla",
+                                        "E&xport", "&Visit Our Site", "&Email Us", "&Exit"}));
+    EXPECT_FALSE(menu.actions().at(0)->isEnabled());
+    EXPECT_TRUE(menu.actions().at(2)->isEnabled());
+    EXPECT_TRUE(menu.actions().at(2)->isChecked());
+    EXPECT_FALSE(menu.actions().at(4)->isCheckable());
+}
+
+TEST_F(MenuTest, EntriesWithEntriesAreSubmenusAndADashIsALine) {
+    frmMain->mnuL.Load(1).SetCaption("Arabic");
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuSettings);
+    const QAction* language = menu.actions().at(4);
+    ASSERT_NE(language->menu(), nullptr);
+    EXPECT_TRUE(language->menu()->actions().at(0)->isSeparator());
+    EXPECT_EQ(language->menu()->actions().at(1)->text(), "Arabic");
+}
+
+TEST_F(MenuTest, PictureOfTheProgramFolderIsTheIconWhileUnchecked) {
+    frmMain->mnuAbout.SetPicture("lang\\French.bmp");
+    frmMain->mnuUpdate.SetPicture("lang\\French.bmp");
+    frmMain->mnuUpdate.SetChecked(true);
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuHelp);
+    EXPECT_FALSE(menu.actions().at(0)->icon().isNull());
+    EXPECT_TRUE(menu.actions().at(1)->icon().isNull());
+    EXPECT_TRUE(menu.actions().at(2)->icon().isNull());
+}
+
+TEST_F(MenuTest, ArabicEntriesTurnTheMenuRound) {
+    frmMain->mnuAbout.SetCaption("حول ال&برنامج");
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuHelp);
+    EXPECT_EQ(menu.layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(menu.actions().first()->text(), "حول البرنامج");  // its letters stay joined
+}
+
+TEST_F(MenuTest, ChosenEntryIsClickedOnceTheMenuIsClosed) {
+    frmMain->Show();
+    bool wasClosed = false;
+    frmMain->mnuQibla.onClick = [&] { wasClosed = QApplication::activePopupWidget() == nullptr; };
+    WhenOpen([](QMenu& menu) {
+        menu.setActiveAction(menu.actions().at(1));
+        QKeyEvent choose(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &choose);
+    });
+    port.PopUpMenu("frmMain", "mnuTools", 150, 135);
+    EXPECT_TRUE(wasClosed);
+}
+
+TEST_F(MenuTest, MenuOpensAtItsPlaceInTheWindowAndNothingIsClickedWithoutAChoice) {
+    frmMain->Show();
+    bool clicked = false;
+    frmMain->mnuAbout.onClick = [&] { clicked = true; };
+    const QPoint expected = windows.Find(&*frmMain)->mapToGlobal(QPoint(200, 135));
+    QPoint place;
+    WhenOpen([&](QMenu& menu) { place = menu.pos(); });
+    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
+    EXPECT_EQ(place, expected);
+    EXPECT_FALSE(clicked);
+}
+
+TEST_F(MenuTest, TimersGoOnWhileAMenuIsOpen) {
+    frmMain->Show();
+    int ticks = 0;
+    QTimer timer;
+    timer.callOnTimeout([&] {
+        if (++ticks == 3) {
+            QApplication::activePopupWidget()->close();
+        }
+    });
+    timer.start(5);
+    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
+    EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(MenuTest, UnknownMenusAndUnloadedFormsOpenNothing) {
+    port.PopUpMenu("frmMain", "mnuHelp", 0, 0);
+    frmMain->Show();
+    port.PopUpMenu("frmMain", "mnuNone", 0, 0);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(MenuTest, ScreenIsMeasuredInTwips) {
+    const QSize pixels = QGuiApplication::primaryScreen()->size();
+    EXPECT_EQ(port.Screen().width, pixels.width() * 15.0);
+    EXPECT_EQ(port.Screen().height, pixels.height() * 15.0);
+}
+
+}  // namespace
+}  // namespace horavex

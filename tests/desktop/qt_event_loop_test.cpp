@@ -1,0 +1,67 @@
+#include "desktop/ports/qt_event_loop.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+
+namespace horavex {
+namespace {
+
+TEST(QtEventLoop, PumpDeliversWhatIsPendingAndReturns) {
+    QtEventLoop loop;
+    int delivered = 0;
+    QTimer::singleShot(0, [&] { ++delivered; });
+    QTimer::singleShot(60000, [&] { ++delivered; });
+    loop.Pump();
+    EXPECT_EQ(delivered, 1);
+}
+
+TEST(QtEventLoop, RestReturnsWithTheNextEvent) {
+    QtEventLoop loop;
+    loop.Pump();
+    bool delivered = false;
+    QTimer::singleShot(1, [&] { delivered = true; });
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!delivered) {
+        loop.Rest(60000);
+    }
+    EXPECT_LT(elapsed.elapsed(), 60000);
+}
+
+TEST(QtEventLoop, RestWithoutEventsLastsItsTimeAtMost) {
+    QtEventLoop loop;
+    loop.Pump();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (elapsed.elapsed() < 20) {
+        loop.Rest(20);
+    }
+    EXPECT_LT(elapsed.elapsed(), 5000);
+}
+
+TEST(QtEventLoop, SleepDeliversNothing) {
+    QtEventLoop loop;
+    bool delivered = false;
+    QTimer::singleShot(0, [&] { delivered = true; });
+    loop.Sleep(2);
+    EXPECT_FALSE(delivered);
+    loop.Pump();
+    EXPECT_TRUE(delivered);
+}
+
+TEST(QtEventLoopDeathTest, EndOfTheProcessRunsNoDestructor) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(
+        {
+            struct Loud {
+                ~Loud() { std::abort(); }
+            };
+            static const Loud loud;
+            QtEventLoop().EndProcess();
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,78 @@
+#include "desktop/form_window/timer_drive.h"
+
+#include "desktop/form_window_fixture.h"
+
+namespace horavex {
+namespace {
+
+TEST(DelayToTick, OneSecondTimerWaitsForTheTurnOfTheSecond) {
+    EXPECT_EQ(DelayToTick(1000, 1'700'000'000'250), 750);
+    EXPECT_EQ(DelayToTick(1000, 1'700'000'000'999), 1);
+    EXPECT_EQ(DelayToTick(1000, 1'700'000'000'000), 1000);
+}
+
+TEST(DelayToTick, EveryOtherTimerWaitsForItsInterval) {
+    EXPECT_EQ(DelayToTick(30000, 1'700'000'000'250), 30000);
+    EXPECT_EQ(DelayToTick(40, 1'700'000'000'999), 40);
+}
+
+class TimerDriveTest : public FormWindowTest {
+protected:
+    TimerDriveTest() {
+        form.timer.SetInterval(5);
+        form.timer.onTimer = [this] { ++ticks; };
+    }
+
+    void WaitForTicks(int count) {
+        while (ticks < count) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+    }
+
+    int ticks = 0;
+};
+
+TEST_F(TimerDriveTest, TimerTicksFromItsEnablingUntilItIsStopped) {
+    form.Load();
+    form.timer.SetEnabled(true);
+    WaitForTicks(2);
+    form.timer.onTimer = [this] {
+        ++ticks;
+        form.timer.SetEnabled(false);
+    };
+    WaitForTicks(3);
+    EXPECT_FALSE(form.timer.Running());
+}
+
+TEST_F(TimerDriveTest, TimerThatRunsByItsDefinitionTicksFromTheLoad) {
+    form.timer.SetEnabled(true);
+    form.Load();
+    WaitForTicks(1);
+    EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(TimerDriveTest, TimerGoesOnUnderALoopThatItsHandlerRuns) {
+    form.timer.onTimer = [this] {
+        if (++ticks == 1) {
+            WaitForTicks(3);
+        }
+    };
+    form.Load();
+    form.timer.SetEnabled(true);
+    WaitForTicks(1);
+    EXPECT_GE(ticks, 3);
+}
+
+TEST_F(TimerDriveTest, UnloadedFormTicksNoMore) {
+    form.timer.onTimer = [this] {
+        ++ticks;
+        form.Unload();
+    };
+    form.timer.SetEnabled(true);
+    form.Load();
+    WaitForTicks(1);
+    EXPECT_EQ(windows.Find(&form), nullptr);
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,168 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+
+#include "e2e/harness/faked_clock.h"
+#include "e2e/harness/test_desktop.h"
+#include "e2e/harness/wait_until.h"
+
+namespace horavex {
+namespace {
+
+using std::chrono::steady_clock;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr const char* kFaceTitle = "Horavex";
+constexpr const char* kProgressTitle = "Horavex Prayer Time Software ";
+
+/// The built desktop program as a user meets it who starts it for the first time.
+class FaceProgramTest : public testing::Test {
+protected:
+    FaceProgramTest() {
+        clock.InstallIn(programVariables);
+        desktop.variables["TZ"] = "UTC";
+    }
+
+    /// Only the program sees the faked clock, not the tools around it.
+    ChildProcess StartProgram() {
+        Environment former = desktop.variables;
+        desktop.variables.insert(programVariables.begin(), programVariables.end());
+        ChildProcess program = desktop.Start("horavex");
+        desktop.variables = std::move(former);
+        return program;
+    }
+
+    std::string StoredValues() const { return ContentOf(desktop / "config/horavex/registry.ini"); }
+
+    TestDesktop desktop;
+    FakedClock clock{"2026-11-21 12:34:56"};
+    Environment programVariables;
+};
+
+TEST_F(FaceProgramTest, FaceComesUpAfterTheProgressWindow) {
+    const auto start = steady_clock::now();
+    const ChildProcess program = StartProgram();
+    const std::string progress = desktop.WaitForWindow(program, kProgressTitle);
+    desktop.SaveScreen("progress");
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    EXPECT_GE(steady_clock::now() - start, std::chrono::seconds(3));
+    EXPECT_FALSE(desktop.IsOnView(program, progress));
+    EXPECT_EQ(desktop.PlaceOf(face).width, 420);
+    EXPECT_EQ(desktop.PlaceOf(face).height, 420);
+    EXPECT_THAT(StoredValues(), HasSubstr("Isha Dep Angle=18"));
+    EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
+}
+
+TEST_F(FaceProgramTest, FaceChangesWithEverySecond) {
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    for (int second = 0; second < 3; ++second) {
+        const std::string before = desktop.Fingerprint();
+        EXPECT_TRUE(WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; }));
+    }
+}
+
+TEST_F(FaceProgramTest, ProgramRunsOnBehindAClosedFace) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    desktop.Click(face, 397, 23);
+    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(FaceProgramTest, CloseRequestOfTheManagerHidesTheFace) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "alt+F4"});
+    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(FaceProgramTest, FaceIsMinimised) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    desktop.Click(face, 369, 23);
+    EXPECT_TRUE(WaitUntil("a minimised face", [&] {
+        return desktop.Use({"xprop", "-id", face, "WM_STATE"}).find("Iconic") != std::string::npos;
+    }));
+}
+
+TEST_F(FaceProgramTest, FaceIsDraggedByItsGround) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const ScreenPlace before = desktop.PlaceOf(face);
+    desktop.Use({"xdotool", "mousemove", "--window", face, "30", "150", "mousedown", "1"});
+    // The window manager takes the pointer over; it follows from then on.
+    const auto follows = [&] {
+        desktop.Use({"xdotool", "mousemove_relative", "--", "10", "6"});
+        return desktop.PlaceOf(face).x > before.x + 20;
+    };
+    EXPECT_TRUE(WaitUntil("a window that follows the pointer", follows));
+    desktop.Use({"xdotool", "mouseup", "1"});
+    EXPECT_GT(desktop.PlaceOf(face).y, before.y);
+}
+
+TEST_F(FaceProgramTest, MenuOpensBelowItsButtonAndItsExitEndsTheProgram) {
+    ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const std::size_t windows = desktop.WindowsOf(program).size();
+    desktop.Click(face, 78, 120);
+    WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() == windows + 1; });
+    desktop.SaveScreen("menu");
+    desktop.PressKey("Up");  // from the bottom: the exit
+    desktop.PressKey("Return");
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_THAT(StoredValues(), HasSubstr("Language=English"));
+}
+
+TEST_F(FaceProgramTest, RightButtonOpensNoMenu) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const std::size_t windows = desktop.WindowsOf(program).size();
+    desktop.Click(face, 200, 150, 3);
+    desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "Menu"});
+    // A menu would be there by the time that the next two seconds are on view.
+    for (int second = 0; second < 2; ++second) {
+        const std::string before = desktop.Fingerprint();
+        WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; });
+    }
+    EXPECT_EQ(desktop.WindowsOf(program).size(), windows);
+}
+
+TEST_F(FaceProgramTest, EndOfTheSessionEndsTheProgramWithNothingSaved) {
+    ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_THAT(StoredValues(), Not(HasSubstr("Language")));
+}
+
+TEST_F(FaceProgramTest, SecondStartSaysSoAndLeavesTheFirstAlone) {
+    const ChildProcess first = StartProgram();
+    const std::string face = desktop.WaitForWindow(first, kFaceTitle);
+    ChildProcess second = StartProgram();
+    const std::string message = desktop.WaitForWindow(second, "Horavex");
+    desktop.SaveScreen("second-start");
+    EXPECT_EQ(desktop.WindowsOf(second).size(), 1U);
+    desktop.Use({"xdotool", "windowactivate", "--sync", message, "key", "Return"});
+    EXPECT_EQ(second.Wait(), 0);
+    EXPECT_TRUE(first.IsRunning());
+    EXPECT_TRUE(desktop.IsOnView(first, face));
+}
+
+TEST_F(FaceProgramTest, StartWithoutItsFilesNamesOneAndEnds) {
+    programVariables["HORAVEX_PROGRAM_FOLDER"] = desktop / "nothing";
+    ChildProcess program = StartProgram();
+    const std::string message = desktop.WaitForWindow(program, "Horavex");
+    desktop.SaveScreen("no-files");
+    desktop.Use({"xdotool", "windowactivate", "--sync", message, "key", "Return"});
+    EXPECT_EQ(program.Wait(), EXIT_FAILURE);
+}
+
+}  // namespace
+}  // namespace horavex

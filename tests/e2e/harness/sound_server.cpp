@@ -1,0 +1,41 @@
+#include "e2e/harness/sound_server.h"
+
+#include <cstdlib>
+
+#include "e2e/harness/wait_until.h"
+
+namespace horavex {
+
+namespace {
+
+std::vector<std::string> ServersWords(const std::string& socket) {
+    return {"pulseaudio",
+            "-n",
+            "--daemonize=no",
+            "--use-pid-file=no",
+            "--exit-idle-time=-1",
+            "--disable-shm=yes",
+            "--load=module-native-protocol-unix socket=" + socket + " auth-anonymous=1",
+            "--load=module-null-sink sink_name=nul rate=44100 norewinds=1"};
+}
+
+Environment ServersVariables(const TemporaryFolder& folder) {
+    return {
+        {"HOME", folder.Path()}, {"PATH", std::getenv("PATH")}, {"XDG_RUNTIME_DIR", folder.Path()}};
+}
+
+}  // namespace
+
+SoundServer::SoundServer() : server_(ServersWords(SocketPath()), ServersVariables(folder_)) {
+    Environment variables = ServersVariables(folder_);
+    InstallIn(variables);
+    WaitUntil("a sound server", [&] {
+        return RunCommand({"pactl", "info"}, variables).status == 0;
+    });
+}
+
+void SoundServer::InstallIn(Environment& variables) const {
+    variables["PULSE_SERVER"] = "unix:" + SocketPath();
+}
+
+}  // namespace horavex

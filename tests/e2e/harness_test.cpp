@@ -1,0 +1,83 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <optional>
+
+#include "e2e/harness/faked_clock.h"
+#include "e2e/harness/loopback_server.h"
+#include "e2e/harness/sound_server.h"
+#include "e2e/harness/test_desktop.h"
+#include "e2e/harness/tray_host.h"
+#include "e2e/harness/wait_until.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+bool Lives(pid_t process) {
+    return ::kill(process, 0) == 0;
+}
+
+TEST(HarnessTest, DesktopHasADisplayAManagerAndABus) {
+    const TestDesktop desktop;
+    EXPECT_THAT(desktop.Use({"xdpyinfo"}), HasSubstr("1280x960"));
+    EXPECT_THAT(desktop.Use({"xprop", "-root", "_NET_SUPPORTED"}),
+                HasSubstr("_NET_WM_STATE_HIDDEN"));
+    EXPECT_THAT(desktop.Use({"dbus-send", "--session", "--print-reply",
+                             "--dest=org.freedesktop.DBus", "/", "org.freedesktop.DBus.GetId"}),
+                HasSubstr("string"));
+}
+
+TEST(HarnessTest, FailedToolIsAFailure) {
+    const TestDesktop desktop;
+    EXPECT_THROW(desktop.Use({"xprop", "-id", "1"}), std::runtime_error);
+}
+
+TEST(HarnessTest, SoundServerHasItsSinkAndEndsWithItsObject) {
+    auto server = std::make_optional<SoundServer>();
+    Environment variables{{"HOME", "/"}};
+    server->InstallIn(variables);
+    EXPECT_THAT(RunCommand({"pactl", "list", "short", "sinks"}, variables).out, HasSubstr("nul"));
+    const pid_t process = server->Id();
+    server.reset();
+    EXPECT_FALSE(Lives(process));
+}
+
+TEST(HarnessTest, TrayHostOwnsTheSelectionOfTheDisplay) {
+    const TestDesktop desktop;
+    auto host = std::make_optional<TrayHost>(desktop.variables);
+    WaitUntil("a panel", [&] {
+        return RunCommand({"xdotool", "search", "--class", "trayer"}, desktop.variables).status ==
+               0;
+    });
+    const pid_t process = host->Id();
+    host.reset();
+    EXPECT_FALSE(Lives(process));
+}
+
+TEST(HarnessTest, FakedClockIsSetAndSetAgain) {
+    const FakedClock clock("2026-03-01 04:59:30");
+    Environment variables{{"TZ", "UTC"}};
+    clock.InstallIn(variables);
+    EXPECT_THAT(RunCommand({"date", "+%F %H:%M"}, variables).out, "2026-03-01 04:59\n");
+    clock.Set("2027-12-31 23:58:30");
+    EXPECT_THAT(RunCommand({"date", "+%F %H:%M"}, variables).out, "2027-12-31 23:58\n");
+}
+
+TEST(HarnessTest, LoopbackServerAnswersWhatItWasGiven) {
+    LoopbackServer server;
+    server.Serve("/a/b.txt", "4.2\n");
+    const auto fetch = [&](const std::string& path) {
+        return RunCommand({"curl", "--silent", "--fail", server.Address() + path}, {});
+    };
+    EXPECT_EQ(fetch("/a/b.txt").out, "4.2\n");
+    EXPECT_EQ(fetch("/a/c.txt").status, 22);
+    EXPECT_THAT(server.Requests(), ElementsAre("/a/b.txt", "/a/c.txt"));
+}
+
+}  // namespace
+}  // namespace horavex

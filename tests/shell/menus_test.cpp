@@ -1,0 +1,177 @@
+#include "shell/menus.h"
+
+#include <vector>
+
+#include "shell/close_face.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+class MenusTest : public ProgramTest {
+protected:
+    MenusTest() { StartAgain(); }
+
+    std::vector<std::string> NamesIn(const MenuItem& menu) {
+        std::vector<std::string> names;
+        for (const MenuItem* entry : menu.Entries()) {
+            names.push_back(entry->Name());
+        }
+        return names;
+    }
+
+    std::vector<std::string> Messages() const {
+        std::vector<std::string> texts;
+        for (const auto& message : platform.dialogs.messages) {
+            texts.push_back(message.text);
+        }
+        return texts;
+    }
+};
+
+TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
+    EXPECT_THAT(NamesIn(frmMain->mnuAthan), ElementsAre("mnuThanNow", "mnuExport", "mnuExit"));
+    EXPECT_THAT(NamesIn(frmMain->mnuSettings),
+                ElementsAre("mnumSettings", "mnuChangeCity", "mnuAthanSettings", "mnuPrayerTimes",
+                            "mnuChangeLanguage", "mnuWizard"));
+    EXPECT_THAT(NamesIn(frmMain->mnuTools),
+                ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases"));
+    EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
+    EXPECT_THAT(
+        NamesIn(frmMain->mnuPopup),
+        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
+                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopExit"));
+}
+
+TEST_F(MenusTest, FiveEntriesAreDisabled) {
+    std::vector<std::string> disabled;
+    for (const Control* control : frmMain->Controls()) {
+        if (control->Kind() == ControlKind::kMenuItem && !control->Enabled()) {
+            disabled.push_back(control->Name());
+        }
+    }
+    EXPECT_THAT(disabled, ElementsAre("mnuChangeCity", "mnuPopup", "mnuPopAthan",
+                                      "mnuPopMoonPhases", "mnuPopQibla"));
+}
+
+TEST_F(MenusTest, SettingsEntryBringsTheSettingsWindowUpInFrontOfTheFace) {
+    HoravexMainForm->SetWindowState(WindowState::kMinimized);
+    frmMain->mnumSettings.UserClick();
+    EXPECT_TRUE(HoravexMainForm->Visible());
+    EXPECT_FALSE(HoravexMainForm->IsModal());
+    EXPECT_EQ(HoravexMainForm->State(), WindowState::kNormal);
+    EXPECT_EQ(HoravexMainForm->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, ShowEntryTurnsTheVisibilityOver) {
+    frmMain->mnuPopShow.UserClick();
+    EXPECT_FALSE(frmMain->Visible());
+    EXPECT_FALSE(frmMain->mnuPopShow.Checked());
+    frmMain->mnuPopShow.UserClick();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_TRUE(frmMain->mnuPopShow.Checked());
+}
+
+TEST_F(MenusTest, CheckMarkFollowsTheShowEntryAlone) {
+    frmMain->mnuPopShow.UserClick();
+    frmMain->mnuPopShow.UserClick();
+    frmMain->UserClose();
+    EXPECT_TRUE(frmMain->mnuPopShow.Checked());
+    frmMain->Show();
+    EXPECT_TRUE(frmMain->mnuPopShow.Checked());
+}
+
+TEST_F(MenusTest, ShowEntryHidesAMinimisedFaceAndRestoresAHiddenOne) {
+    frmMain->SetWindowState(WindowState::kMinimized);
+    frmMain->mnuPopShow.UserClick();
+    EXPECT_FALSE(frmMain->Visible());
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    frmMain->mnuPopShow.UserClick();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_EQ(frmMain->State(), WindowState::kNormal);
+}
+
+TEST_F(MenusTest, VisitOpensTheRootPageWhereTheMachineIsOnline) {
+    platform.network.connection = {true, kLanConnection};
+    frmMain->mnuPopVisitWebSite.UserClick();
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenAddress https://horavex.invalid/"));
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, VisitGoesToTheServerThatIsSet) {
+    platform.network.connection = {true, kLanConnection};
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Web Server",
+                               "https://prayer.example");
+    frmMain->mnuPopVisitWebSite.UserClick();
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenAddress https://prayer.example/"));
+}
+
+TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
+    platform.network.connection = {false, kConnectionOffline};
+    frmMain->mnuPopVisitWebSite.UserClick();
+    EXPECT_THAT(platform.desktop.calls, IsEmpty());
+    EXPECT_THAT(Messages(), ElementsAre("No internet connection."));
+}
+
+TEST_F(MenusTest, EmailEntryDoesNothing) {
+    frmMain->mnuPopEmailUS.UserClick();
+    EXPECT_THAT(platform.desktop.calls, IsEmpty());
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
+    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
+                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
+                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
+                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
+                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+        platform.dialogs.messages.clear();
+        entry->UserClick();
+        EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
+    }
+}
+
+using CloseFaceTest = MenusTest;
+
+TEST_F(CloseFaceTest, HidesBehindTheIcon) {
+    CloseFace();
+    EXPECT_FALSE(frmMain->Visible());
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(CloseFaceTest, MinimisesWithoutANotificationAreaAndSaysSoOnce) {
+    platform.tray.hasHost = false;
+    CloseFace();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    EXPECT_THAT(Messages(), ElementsAre(HasSubstr("no notification area")));
+    frmMain->SetWindowState(WindowState::kNormal);
+    CloseFace();
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    EXPECT_EQ(Messages().size(), 1U);
+}
+
+TEST_F(CloseFaceTest, SpeaksTheLanguageOfThePack) {
+    platform.tray.hasHost = false;
+    frmMain->mnuL(0).UserClick();  // Arabic, the first by name
+    CloseFace();
+    EXPECT_THAT(Messages(), ElementsAre(Not(HasSubstr("notification"))));
+}
+
+TEST_F(CloseFaceTest, CloseBoxAndTheFacesCommandDoTheSame) {
+    platform.tray.hasHost = false;
+    frmMain->UserClose();
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    frmMain->SetWindowState(WindowState::kNormal);
+    platform.face.onFSCommand("IDC_FS_close", "");
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    EXPECT_TRUE(frmMain->IsLoaded());
+}
+
+}  // namespace
+}  // namespace horavex
