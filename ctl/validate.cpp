@@ -36,7 +36,8 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
     const ProgramFolder folder(session.platform.files, path, path);
     const Platform ports{former.clock,   former.eventLoop, former.files,    folder,
                          former.formats, former.dialogs,   former.registry, former.instanceGuard,
-                         former.face,    former.windows,   former.tray,     former.shell};
+                         former.face,    former.windows,   former.tray,     former.shell,
+                         former.network};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

@@ -5,8 +5,8 @@
 
 namespace horavex {
 
-/// The event boundary: a fault that leaves an event's handler is told to the user and goes no
-/// further. Windows that close do not end the program.
+/// The last of the event boundaries: a fault that nothing before it stopped is told to the user.
+/// Windows that close do not end the program.
 class Application : public QApplication {
 public:
     Application(int& argc, char** argv);

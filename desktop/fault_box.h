@@ -9,4 +9,15 @@ namespace horavex {
 /// bury the screen.
 void ShowFault(const std::exception& fault);
 
+/// Runs what a user or a timer has set in motion. A fault ends here and is told to the user: it
+/// must not pass through frames of the toolkit, which would lose what they hold.
+template <class Action>
+void RunGuarded(Action action) {
+    try {
+        action();
+    } catch (const std::exception& fault) {
+        ShowFault(fault);
+    }
+}
+
 }  // namespace horavex

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include "desktop/fault_box.h"
+
 namespace horavex {
 
 void QtFace::LoadMovie(int, const std::string&) {
@@ -20,7 +22,7 @@ void QtFace::Fill(QWidget& window) {
     view_ = new FaceView;
     view_->onCommand = [this](const std::string& command) {
         if (onFSCommand) {
-            onFSCommand(command, {});
+            RunGuarded([&] { onFSCommand(command, {}); });
         }
     };
     auto* layout = new QVBoxLayout(&window);

@@ -59,15 +59,15 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
 // The control that gets the focus takes it from the one that had it, so that leaving counts only
 // where no other widget gets it. A window that is left keeps its focus for its return.
 void Binder::FocusMoved(const QEvent& event) {
-    if (focusable_ == nullptr) {
+    if (focusable_ == nullptr || retired_) {
         return;
     }
     const auto reason = static_cast<const QFocusEvent&>(event).reason();
     if (event.type() == QEvent::FocusIn) {
-        focusable_->UserFocus();
+        RunGuarded([this] { focusable_->UserFocus(); });
     } else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
                QApplication::focusWidget() == nullptr) {
-        focusable_->UserLeave();
+        RunGuarded([this] { focusable_->UserLeave(); });
     }
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "desktop/fault_box.h"
 #include "forms/control.h"
 
 namespace horavex {
@@ -22,6 +23,9 @@ public:
 
     QWidget& Widget() const { return widget_; }
 
+    /// The form is unloaded: from now on the widget is on its own.
+    void Retire() { retired_ = true; }
+
     /// Shows the control's present values. The widget sends no signal meanwhile.
     void Refresh();
 
@@ -35,8 +39,10 @@ protected:
     /// Hands a user's action to the control. The last step of its caller: the form may be gone.
     template <class Action>
     void Hand(Action action) {
-        refreshLater_(control_);
-        action();
+        if (!retired_) {
+            refreshLater_(control_);
+            RunGuarded(action);
+        }
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,6 +54,7 @@ private:
     QWidget& widget_;
     RefreshLater refreshLater_;
     Focusable* focusable_;  // the control, if its kind can hold the focus
+    bool retired_ = false;
 };
 
 /// The binder of the control's kind. Throws std::bad_cast where the layout has a widget of

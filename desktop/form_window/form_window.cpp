@@ -7,6 +7,7 @@
 #include <QWindow>
 #include <utility>
 
+#include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
@@ -74,6 +75,9 @@ void FormWindow::Retire() {
     retired_ = true;
     form_.SetObserver(nullptr);
     timers_.clear();
+    for (const auto& [control, binder] : binders_) {
+        binder->Retire();
+    }
     hide();
     if (modalLoop_ != nullptr) {
         modalLoop_->quit();
@@ -211,7 +215,7 @@ void FormWindow::RunUntilHidden() {
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && !retired_) {
-        form_.UserActivate();
+        RunGuarded([this] { form_.UserActivate(); });
     }
     return QWidget::event(event);
 }
@@ -219,7 +223,7 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && !following_ && !retired_) {
-        form_.SetWindowState(FormStateOf(windowState()));
+        RunGuarded([this] { form_.SetWindowState(FormStateOf(windowState())); });
     }
 }
 
@@ -227,7 +231,7 @@ void FormWindow::changeEvent(QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!retired_) {
-        form_.UserClose();
+        RunGuarded([this] { form_.UserClose(); });
     }
 }
 
@@ -245,11 +249,16 @@ void FormWindow::resizeEvent(QResizeEvent*) {
         return;
     }
     size_ = size();
-    form_.SetWidth(TwipsOf(size_.width()));
-    form_.SetHeight(TwipsOf(size_.height()));
+    RunGuarded([this] {
+        form_.SetWidth(TwipsOf(size_.width()));
+        form_.SetHeight(TwipsOf(size_.height()));
+    });
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
+    if (retired_) {
+        return;
+    }
     QPainter painter(this);
     DrawSteps(painter, rect(), {form_.ScaleWidth(), form_.ScaleHeight()}, form_.drawing);
 }

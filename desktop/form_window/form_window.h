@@ -58,7 +58,6 @@ private:
     void FollowFocus();
     void FollowDrawing();
     void Present();
-    void TellState();
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;

@@ -2,6 +2,8 @@
 
 #include <QDateTime>
 
+#include "desktop/fault_box.h"
+
 namespace horavex {
 
 namespace {
@@ -44,7 +46,7 @@ void TimerDrive::Arm() {
 // handler may also unload the form, so that nothing comes after it.
 void TimerDrive::Fire() {
     Arm();
-    timer_.Tick();
+    RunGuarded([this] { timer_.Tick(); });
 }
 
 }  // namespace horavex

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 
+#include "desktop/fault_box.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/ports/emblem.h"
 
@@ -11,7 +12,7 @@ namespace horavex {
 QtTray::QtTray(const MenuItem& menu) : source_(menu) {
     connect(&menu_, &QMenu::aboutToShow, this, &QtTray::FillOfferedMenu);
     connect(&menu_, &QMenu::triggered, this,
-            [](const QAction* entry) { ItemOf(entry)->UserClick(); });
+            [](const QAction* entry) { RunGuarded([entry] { ItemOf(entry)->UserClick(); }); });
 }
 
 void QtTray::Add(const std::string& tip) {
@@ -61,14 +62,14 @@ void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
             break;
         case QSystemTrayIcon::DoubleClick:
             sinceClick_.invalidate();
-            onMessage(TrayMessage::kLeftDoubleClick);
+            Tell(TrayMessage::kLeftDoubleClick);
             break;
         case QSystemTrayIcon::Context:
-            onMessage(TrayMessage::kRightDown);
+            Tell(TrayMessage::kRightDown);
             if (kind_ == AreaKind::kXEmbed) {
                 qApp->installEventFilter(this);  // the button comes up over the icon's own window
             } else {
-                onMessage(TrayMessage::kRightUp);
+                Tell(TrayMessage::kRightUp);
             }
             break;
         default:
@@ -76,15 +77,19 @@ void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
     }
 }
 
+void QtTray::Tell(TrayMessage message) {
+    RunGuarded([&] { onMessage(message); });
+}
+
 void QtTray::Clicked() {
     const bool isSecond =
         sinceClick_.isValid() && sinceClick_.elapsed() <= QApplication::doubleClickInterval();
     if (isSecond) {
         sinceClick_.invalidate();
-        onMessage(TrayMessage::kLeftDoubleClick);
+        Tell(TrayMessage::kLeftDoubleClick);
     } else {
         sinceClick_.start();
-        onMessage(TrayMessage::kLeftDown);
+        Tell(TrayMessage::kLeftDown);
     }
 }
 
@@ -92,7 +97,7 @@ bool QtTray::eventFilter(QObject*, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
         qApp->removeEventFilter(this);
-        onMessage(TrayMessage::kRightUp);
+        Tell(TrayMessage::kRightUp);
     }
     return false;
 }

@@ -33,6 +33,7 @@ private:
     void FillOfferedMenu();
     void Activated(QSystemTrayIcon::ActivationReason reason);
     void Clicked();
+    void Tell(TrayMessage message);
 
     const MenuItem& source_;
     NotificationArea area_;

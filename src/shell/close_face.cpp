@@ -32,8 +32,8 @@ void CloseFace() {
         frmMain->Hide();
         return;
     }
-    frmMain->SetWindowState(WindowState::kMinimized);
     TellOnce();
+    frmMain->SetWindowState(WindowState::kMinimized);
 }
 
 }  // namespace horavex

@@ -5,8 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 
-#include "e2e/harness/faked_clock.h"
-#include "e2e/harness/test_desktop.h"
+#include "e2e/harness/program_fixture.h"
 #include "e2e/harness/wait_until.h"
 
 namespace horavex {
@@ -17,32 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-constexpr const char* kFaceTitle = "Horavex";
-constexpr const char* kProgressTitle = "Horavex Prayer Time Software ";
-
-/// The built desktop program as a user meets it who starts it for the first time.
-class FaceProgramTest : public testing::Test {
-protected:
-    FaceProgramTest() {
-        clock.InstallIn(programVariables);
-        desktop.variables["TZ"] = "UTC";
-    }
-
-    /// Only the program sees the faked clock, not the tools around it.
-    ChildProcess StartProgram() {
-        Environment former = desktop.variables;
-        desktop.variables.insert(programVariables.begin(), programVariables.end());
-        ChildProcess program = desktop.Start("horavex");
-        desktop.variables = std::move(former);
-        return program;
-    }
-
-    std::string StoredValues() const { return ContentOf(desktop / "config/horavex/registry.ini"); }
-
-    TestDesktop desktop;
-    FakedClock clock{"2026-11-21 12:34:56"};
-    Environment programVariables;
-};
+using FaceProgramTest = ProgramFixture;
 
 TEST_F(FaceProgramTest, FaceComesUpAfterTheProgressWindow) {
     const auto start = steady_clock::now();
@@ -61,25 +35,7 @@ TEST_F(FaceProgramTest, FaceComesUpAfterTheProgressWindow) {
 TEST_F(FaceProgramTest, FaceChangesWithEverySecond) {
     const ChildProcess program = StartProgram();
     desktop.WaitForWindow(program, kFaceTitle);
-    for (int second = 0; second < 3; ++second) {
-        const std::string before = desktop.Fingerprint();
-        EXPECT_TRUE(WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; }));
-    }
-}
-
-TEST_F(FaceProgramTest, ProgramRunsOnBehindAClosedFace) {
-    const ChildProcess program = StartProgram();
-    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
-    desktop.Click(face, 397, 23);
-    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
-    EXPECT_TRUE(program.IsRunning());
-}
-
-TEST_F(FaceProgramTest, CloseRequestOfTheManagerHidesTheFace) {
-    const ChildProcess program = StartProgram();
-    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
-    desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "alt+F4"});
-    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
+    LetSecondsPass(3);
     EXPECT_TRUE(program.IsRunning());
 }
 
@@ -126,11 +82,7 @@ TEST_F(FaceProgramTest, RightButtonOpensNoMenu) {
     const std::size_t windows = desktop.WindowsOf(program).size();
     desktop.Click(face, 200, 150, 3);
     desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "Menu"});
-    // A menu would be there by the time that the next two seconds are on view.
-    for (int second = 0; second < 2; ++second) {
-        const std::string before = desktop.Fingerprint();
-        WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; });
-    }
+    LetSecondsPass(2);
     EXPECT_EQ(desktop.WindowsOf(program).size(), windows);
 }
 

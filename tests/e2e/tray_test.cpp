@@ -1,0 +1,142 @@
+#include <gmock/gmock.h>
+
+#include <optional>
+
+#include "e2e/harness/program_fixture.h"
+#include "e2e/harness/tray_host.h"
+#include "e2e/harness/wait_until.h"
+
+namespace horavex {
+namespace {
+
+using testing::HasSubstr;
+
+/// The program's icon in a panel that embeds windows of others.
+class TrayTest : public ProgramFixture {
+protected:
+    /// Waits for the icon's own window, which is as high as the panel.
+    std::string WaitForIcon(const ChildProcess& program) {
+        return WaitUntil("an icon",
+                         [&]() -> std::optional<std::string> {
+                             for (const std::string& window : desktop.WindowsOf(program)) {
+                                 const int height = desktop.PlaceOf(window).height;
+                                 if (height >= 16 && height <= 32) {
+                                     return window;
+                                 }
+                             }
+                             return std::nullopt;
+                         })
+            .value();
+    }
+
+    void CloseFace(const ChildProcess& program, const std::string& face) {
+        desktop.Click(face, 397, 23);
+        WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); });
+    }
+
+    std::size_t CountOfWindows(const ChildProcess& program) {
+        return desktop.WindowsOf(program).size();
+    }
+};
+
+TEST_F(TrayTest, ClosedFaceComesBackByADoubleClick) {
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    const std::string icon = WaitForIcon(program);
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    LetSecondsPass(1);
+    desktop.SaveScreen("tray");
+    CloseFace(program, face);
+    desktop.Use({"xdotool", "mousemove", "--window", icon, "8", "8", "click", "--repeat", "2",
+                 "--delay", "60", "1"});
+    EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.IsOnView(program, face); }));
+}
+
+TEST_F(TrayTest, CloseRequestOfTheManagerHidesTheFace) {
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    WaitForIcon(program);
+    desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "alt+F4"});
+    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(TrayTest, SingleClickDoesNothingAndTheRightButtonOpensTheMenuAsItIsLetGo) {
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    const std::size_t windows = CountOfWindows(program);
+    desktop.Click(icon, 8, 8);
+    desktop.Use({"xdotool", "mousemove", "--window", icon, "8", "8", "mousedown", "3"});
+    LetSecondsPass(2);
+    EXPECT_EQ(CountOfWindows(program), windows);
+    desktop.Use({"xdotool", "mouseup", "3"});
+    EXPECT_TRUE(WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; }));
+    desktop.SaveScreen("tray-menu");
+}
+
+TEST_F(TrayTest, ExitOfTheIconsMenuEndsTheProgram) {
+    const TrayHost host(desktop.variables);
+    ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    const std::size_t windows = CountOfWindows(program);
+    desktop.Click(icon, 8, 8, 3);
+    WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; });
+    desktop.PressKey("Up");
+    desktop.PressKey("Return");
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_THAT(StoredValues(), HasSubstr("Language=English"));
+}
+
+TEST_F(TrayTest, PointingAtTheIconBringsTheTip) {
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    LetSecondsPass(1);
+    const std::size_t windows = CountOfWindows(program);
+    desktop.Use({"xdotool", "mousemove", "--window", icon, "7", "8"});
+    desktop.Use({"xdotool", "mousemove_relative", "1", "1"});
+    EXPECT_TRUE(WaitUntil("a tip", [&] { return CountOfWindows(program) == windows + 1; }));
+    desktop.SaveScreen("tray-tip");
+}
+
+TEST_F(TrayTest, PanelThatComesLaterGetsTheIcon) {
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    const TrayHost host(desktop.variables);
+    EXPECT_NE(WaitForIcon(program), "");
+}
+
+TEST_F(TrayTest, WithoutAPanelClosingMinimisesAndSaysSoOnce) {
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const auto isMinimised = [&] {
+        return desktop.Use({"xprop", "-id", face, "WM_STATE"}).find("Iconic") != std::string::npos;
+    };
+    const auto message = [&]() -> std::optional<std::string> {
+        for (const std::string& window : desktop.WindowsOf(program)) {
+            if (window != face) {
+                return window;
+            }
+        }
+        return std::nullopt;
+    };
+    desktop.Click(face, 397, 23);
+    const std::string box = WaitUntil("the message", message).value();
+    desktop.SaveScreen("no-tray");
+    desktop.Use({"xdotool", "windowactivate", "--sync", box, "key", "Return"});
+    EXPECT_TRUE(WaitUntil("a minimised face", isMinimised));
+    EXPECT_FALSE(message());
+    desktop.Use({"xdotool", "windowactivate", "--sync", face});
+    desktop.Click(face, 397, 23);
+    EXPECT_TRUE(WaitUntil("a minimised face", isMinimised));
+    EXPECT_FALSE(message());
+    EXPECT_TRUE(program.IsRunning());
+}
+
+}  // namespace
+}  // namespace horavex
