@@ -1,8 +1,13 @@
 #include "lang/pack_forms.h"
 
 #include "windows/f_message.h"
+#include "windows/f_qibla.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
 #include "windows/frm_main.h"
+#include "windows/frm_ramadan.h"
 #include "windows/horavex_main_form.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 
@@ -18,7 +23,8 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm>();
+    return Make<FrmMain, SettingsForm, MessageForm, DateConvertForm, QiblaForm, DistanceForm,
+                MoonPhasesForm, RamadanForm>();
 }
 
 }  // namespace horavex

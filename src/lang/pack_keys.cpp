@@ -56,6 +56,9 @@ std::vector<PackSection> PackSections() {
     std::vector<PackSection> sections = PackVocabularies();
     for (const auto& form : PackForms()) {
         sections.push_back({form->Name(), FormPackKeys(*form)});
+        if (form->Name() == "frmRamadan") {
+            sections.back().keys.push_back("Text1");  // the help text, which is no caption
+        }
     }
     return sections;
 }

@@ -15,11 +15,12 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies, AreMessagesLabelsAndTheAthanWindow) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(3));
+TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowAndTheDesktop) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(4));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
+    EXPECT_EQ(Section(3).name, "desktop");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
