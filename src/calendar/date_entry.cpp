@@ -16,7 +16,7 @@ void RefuseDateEntry() {
             "Valid entry for Day 1-31." + Crlf +
             GetLangString("msg", "10", "Valid entry for Month 1-12.") + Crlf +
             GetLangString("msg", "11", "Valid entry for Year >= 1."),
-        GetLangString("msg", "12", "Error"), MessageIcon::kCritical);
+        "", MessageIcon::kCritical);
 }
 
 }  // namespace

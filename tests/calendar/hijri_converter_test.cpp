@@ -95,6 +95,7 @@ TEST_F(HijriConverterTest, RefusedEntryIsOneMessageOfFourLines) {
     EXPECT_EQ(message.text, "Please check Day, Month, and Year for valid entry." + Crlf +
                                 "Valid entry for Day 1-31." + Crlf + "Valid entry for Month 1-12." +
                                 Crlf + "Valid entry for Year >= 1.");
+    EXPECT_EQ(message.title, "");
     EXPECT_EQ(message.icon, MessageIcon::kCritical);
 }
 
