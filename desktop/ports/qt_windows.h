@@ -3,7 +3,12 @@
 #include "desktop/form_window/form_windows.h"
 #include "platform/windows.h"
 
+class QPrinter;
+
 namespace horavex {
+
+/// Puts a picture of a window onto one page, at most as large as the page is.
+void PrintWindow(QWidget& window, QPrinter& printer);
 
 /// Forms that are not loaded have no window: what is asked of them does nothing.
 class QtWindows : public Windows {
@@ -16,6 +21,7 @@ public:
     void PopUpMenuAtPointer(const std::string& form, const std::string& menu) override;
     void Activate(const std::string& form) override;
     void SetForeground(const std::string& form) override;
+    void Print(const std::string& form) override;
 
 private:
     void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);

@@ -26,6 +26,7 @@ public:
     void PopUpMenuAtPointer(const std::string&, const std::string&) override {}
     void Activate(const std::string&) override {}
     void SetForeground(const std::string&) override {}
+    void Print(const std::string&) override {}
 };
 
 class AbsentTray : public Tray {

@@ -66,6 +66,7 @@ public:
     }
     void Activate(const std::string& form) override { log_.Note("Activate " + form); }
     void SetForeground(const std::string& form) override { log_.Note("SetForeground " + form); }
+    void Print(const std::string& form) override { log_.Note("Print " + form); }
 
     ScreenSize screen{19200.0, 10800.0};
 

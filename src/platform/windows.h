@@ -33,6 +33,10 @@ public:
 
     /// Puts a window on view above the others and gives it the keyboard.
     virtual void SetForeground(const std::string& form) = 0;
+
+    /// Prints a window on view as it looks, on the printer that the user chooses; nothing where
+    /// the user chooses none.
+    virtual void Print(const std::string& form) = 0;
 };
 
 }  // namespace horavex
