@@ -4,6 +4,10 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/f_qibla.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 namespace {
@@ -125,15 +129,45 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
-                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuAthanSettings, &frmMain->mnuPrayerTimes,
+          &frmMain->mnuWizard, &frmMain->mnuAbout, &frmMain->mnuHelpIndex, &frmMain->mnuUpdate,
+          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         platform.dialogs.messages.clear();
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
     }
+}
+
+TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {
+    const std::pair<MenuItem*, Form*> tools[] = {{&frmMain->mnuDateConversion, &*frmDateConvert},
+                                                 {&frmMain->mnuQibla, &*fQibla},
+                                                 {&frmMain->mnuDistance, &*frmDistance},
+                                                 {&frmMain->mnuMoonPhases, &*Moon_Phases}};
+    for (const auto& [entry, form] : tools) {
+        entry->UserClick();
+        EXPECT_TRUE(form->IsModal()) << form->Name();
+        EXPECT_EQ(form->Owner(), &*frmMain) << form->Name();
+        form->UserClose();
+        EXPECT_FALSE(form->IsLoaded()) << form->Name();
+    }
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, QiblaEntryOfTheIconIsDisabledAndDoesAsTheFaces) {
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_FALSE(fQibla->IsLoaded());
+    frmMain->mnuPopQibla.SetEnabled(true);
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_TRUE(fQibla->IsModal());
+}
+
+TEST_F(MenusTest, CityButtonsOfTheDistanceWindowSayThatTheirWindowIsToCome) {
+    frmMain->mnuDistance.UserClick();
+    frmDistance->cmdCityA.UserClick();
+    frmDistance->cmdCityB.UserClick();
+    EXPECT_THAT(Messages(),
+                ElementsAre("This window is not there yet.", "This window is not there yet."));
 }
 
 using CloseFaceTest = MenusTest;
