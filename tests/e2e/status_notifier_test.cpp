@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <memory>
+
 #include "e2e/harness/program_fixture.h"
 #include "e2e/harness/status_notifier_host.h"
 #include "e2e/harness/wait_until.h"
@@ -90,6 +92,17 @@ TEST_F(StatusNotifierTest, PanelThatComesLaterGetsTheIcon) {
     StatusNotifierHost host(desktop);
     host.AwaitIcon();
     EXPECT_THAT(Tip(host, "Next"), Not(HasSubstr("Error")));
+}
+
+TEST_F(StatusNotifierTest, PanelThatStartsAnewGetsTheIconAgain) {
+    auto host = std::make_unique<StatusNotifierHost>(desktop);
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    host->AwaitIcon();
+    host.reset();
+    host = std::make_unique<StatusNotifierHost>(desktop);
+    host->AwaitIcon();
+    EXPECT_THAT(Tip(*host, "Next"), Not(HasSubstr("Error")));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <memory>
 #include <optional>
 
 #include "e2e/harness/program_fixture.h"
@@ -108,6 +109,17 @@ TEST_F(TrayTest, PanelThatComesLaterGetsTheIcon) {
     const ChildProcess program = StartProgram();
     desktop.WaitForWindow(program, kFaceTitle);
     const TrayHost host(desktop.variables);
+    EXPECT_NE(WaitForIcon(program), "");
+}
+
+TEST_F(TrayTest, PanelThatStartsAnewGetsTheIconAgain) {
+    auto host = std::make_unique<TrayHost>(desktop.variables);
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    host.reset();
+    WaitUntil("no icon", [&] { return !desktop.IsOnView(program, icon); });
+    host = std::make_unique<TrayHost>(desktop.variables);
     EXPECT_NE(WaitForIcon(program), "");
 }
 
