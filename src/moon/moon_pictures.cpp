@@ -108,6 +108,9 @@ void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongatio
     const double phase = Normalize360(elongation);
     const bool waxing = phase < 180.0;
     drawing.emplace_back(FilledCircleStep{centre, radius, kDarkSide, {kRim}});
+    if (phase == 0.0) {
+        return;  // not even a line of light
+    }
     drawing.emplace_back(LitSide(centre, radius, phase, waxing != south ? 1.0 : -1.0));
 }
 

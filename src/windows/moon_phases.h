@@ -19,7 +19,7 @@ namespace horavex {
 class MoonPhasesForm : public Form {
 public:
     MoonPhasesForm()
-        : Form("Moon_Phases", {.caption = "Moon Phases", .width = 11400, .height = 7200}) {}
+        : Form("Moon_Phases", {.caption = "Moon Phases", .width = 12900, .height = 7200}) {}
 
     SkinLabel SkinLabel1{
         *this,
