@@ -117,6 +117,7 @@ void TabStripBinder::Show() {
         widget.setTabText(page, captions[page]);
     }
     widget.setCurrentIndex(control.ListIndex());
+    widget.setAccessibleName(captions.value(control.ListIndex()));
 }
 
 }  // namespace horavex

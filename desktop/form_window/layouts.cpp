@@ -3,8 +3,13 @@
 #include <QStyle>
 
 #include "ui_HoravexMainForm.h"
+#include "ui_Moon_Phases.h"
 #include "ui_fMessage.h"
+#include "ui_fQibla.h"
 #include "ui_frmAthan.h"
+#include "ui_frmDateConvert.h"
+#include "ui_frmDistance.h"
+#include "ui_frmRamadan.h"
 
 namespace horavex {
 
@@ -32,7 +37,12 @@ Layouts DrawnLayouts() {
     return {
         {"fMessage", Fill<Ui::fMessage>},
         {"frmAthan", FillAthan},
+        {"fQibla", Fill<Ui::fQibla>},
+        {"frmDateConvert", Fill<Ui::frmDateConvert>},
+        {"frmDistance", Fill<Ui::frmDistance>},
+        {"frmRamadan", Fill<Ui::frmRamadan>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
+        {"Moon_Phases", Fill<Ui::Moon_Phases>},
     };
 }
 

@@ -14,6 +14,13 @@ std::unique_ptr<Binder> Make(Control& control, QWidget& widget, Binder::RefreshL
     return std::make_unique<BinderType>(control, widget, std::move(later));
 }
 
+/// A text box of one line or of several, as the layout has it.
+std::unique_ptr<Binder> MakeTextBox(Control& control, QWidget& widget, Binder::RefreshLater later) {
+    const bool severalLines = qobject_cast<QTextEdit*>(&widget) != nullptr;
+    return severalLines ? Make<LinesBinder>(control, widget, std::move(later))
+                        : Make<TextBoxBinder>(control, widget, std::move(later));
+}
+
 auto MakerOf(ControlKind kind) {
     switch (kind) {
         case ControlKind::kFrame:
@@ -30,7 +37,7 @@ auto MakerOf(ControlKind kind) {
         case ControlKind::kOptionButton:
             return Make<OptionButtonBinder>;
         case ControlKind::kTextBox:
-            return Make<TextBoxBinder>;
+            return MakeTextBox;
         case ControlKind::kListBox:
             return Make<ListBoxBinder>;
         case ControlKind::kComboBox:

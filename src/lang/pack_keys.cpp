@@ -24,7 +24,7 @@ std::vector<std::string> MessageKeys() {
 
 std::vector<std::string> OtherKeys() {
     auto keys = Numbers(1, 20);
-    keys.insert(keys.end(), {"Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    keys.insert(keys.end(), {"AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
     return keys;
 }
 
@@ -56,6 +56,9 @@ std::vector<PackSection> PackSections() {
     std::vector<PackSection> sections = PackVocabularies();
     for (const auto& form : PackForms()) {
         sections.push_back({form->Name(), FormPackKeys(*form)});
+        if (form->Name() == "frmRamadan") {
+            sections.back().keys.push_back("Text1");  // the help text, which is no caption
+        }
     }
     return sections;
 }

@@ -30,6 +30,7 @@ public:
     void Activate(const std::string&) override {}
     void SetForeground(const std::string&) override {}
     void SetTopMost(const std::string&, bool) override {}
+    void Print(const std::string&) override {}
 };
 
 class AbsentTray : public Tray {

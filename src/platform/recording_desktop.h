@@ -73,6 +73,7 @@ public:
     void SetTopMost(const std::string& form, bool topMost) override {
         log_.Note((topMost ? "SetTopMost " : "SetNotTopMost ") + form);
     }
+    void Print(const std::string& form) override { log_.Note("Print " + form); }
 
     ScreenSize screen{19200.0, 10800.0};
     ScreenCorner workArea{19200.0, 10400.0};

@@ -2,12 +2,16 @@
 
 #include "athan/athan_alert.h"
 #include "base/flag.h"
+#include "calendar/date_conversion_window.h"
 #include "config/city_choice.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
 #include "forms/modal_loop.h"
+#include "geo/distance_window.h"
+#include "geo/qibla_window.h"
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
+#include "moon/moon_window.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
@@ -31,13 +35,19 @@ void TellThatWindowIsMissing() {
 
 void BindMissingWindows() {
     for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuDateConversion,
-          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
+          &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
     frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
+}
+
+void BindTools() {
+    frmMain->mnuDateConversion.onClick = ShowDateConversion;
+    frmMain->mnuQibla.onClick = ShowQibla;
+    frmMain->mnuDistance.onClick = ShowDistance;
+    frmMain->mnuMoonPhases.onClick = ShowMoonPhases;
+    frmMain->mnuPopQibla.onClick = ShowQibla;
 }
 
 }  // namespace
@@ -77,6 +87,7 @@ void mnuPopVisitWebSite_Click() {
 
 void BindMenus() {
     BindMissingWindows();
+    BindTools();
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
     frmMain->mnuExit.onClick = mnuExit_Click;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;

@@ -45,6 +45,13 @@ constexpr const char* kCalls[] = {
     "text --entry 12 --language 4",
     "lang --section msg --key 1",
     "lang --section msg --key 1 --language Arabic",
+    "moon --year 2026 --zone 2",
+    "eclipses --year 2026 --zone 2",
+    "moonrise --date 2026-11-21 --latitude 30:3N --longitude 31:15E --zone 2",
+    "moonrise --date 2026-11-21 --latitude 90:0N --longitude 31:15E --zone 2",
+    "hijri --date 2026-11-21",
+    "gregorian --date 1448-6-11",
+    "distance --from 30:3:0N,31:15:0E --to mecca --unit km",
     "validate",
     "--help",
 };

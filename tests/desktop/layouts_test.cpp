@@ -1,6 +1,7 @@
 #include "desktop/form_window/layouts.h"
 
 #include <QApplication>
+#include <QTabBar>
 
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
@@ -8,8 +9,13 @@
 #include "forms/focusable.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/f_qibla.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
 #include "windows/frm_main.h"
+#include "windows/frm_ramadan.h"
 #include "windows/horavex_main_form.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 namespace {
@@ -25,11 +31,14 @@ QStringList ControlNames(const Form& form) {
     return names;
 }
 
-// Widgets inside widgets of the toolkit have its own names or none.
+// Widgets inside widgets of the toolkit have its own names or none, and so have those that only
+// hold a place in a layout.
 QStringList WidgetNames(const QWidget& window) {
     QStringList names;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_")) {
+        const bool isInTabs = qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr;
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_") &&
+            !isInTabs) {
             names << widget->objectName();
         }
     }
@@ -81,7 +90,12 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
                          testing::Values([]() -> Form* { return &*fMessage; },
-                                         []() -> Form* { return &*HoravexMainForm; }),
+                                         []() -> Form* { return &*HoravexMainForm; },
+                                         []() -> Form* { return &*frmDateConvert; },
+                                         []() -> Form* { return &*fQibla; },
+                                         []() -> Form* { return &*frmDistance; },
+                                         []() -> Form* { return &*Moon_Phases; },
+                                         []() -> Form* { return &*frmRamadan; }),
                          [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {

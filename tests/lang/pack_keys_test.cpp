@@ -30,11 +30,11 @@ TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
     EXPECT_THAT(Section(0).keys, Not(Contains("8")));
 }
 
-TEST(PackVocabularies, LabelsAreNumberedTo20AndFollowedByPrayersWithoutShurooq) {
-    EXPECT_THAT(Section(1).keys, SizeIs(25));
+TEST(PackVocabularies, LabelsAreNumberedTo20AndFollowedByTheEraAndPrayersWithoutShurooq) {
+    EXPECT_THAT(Section(1).keys, SizeIs(26));
     EXPECT_EQ(Section(1).keys[7], "8");
     const std::vector<std::string> names(Section(1).keys.begin() + 20, Section(1).keys.end());
-    EXPECT_THAT(names, ElementsAre("Fajr", "Zuhr", "Asr", "Maghrib", "Isha"));
+    EXPECT_THAT(names, ElementsAre("AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"));
 }
 
 TEST(PackVocabularies, AthanWindowHasAPrayersNumberWithoutShurooq) {

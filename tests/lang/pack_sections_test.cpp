@@ -57,7 +57,8 @@ TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
         EXPECT_NE(form->Caption(), "changed");
     }
     EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
-                                   "NewCoordinates", "frmWizard"));
+                                   "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
+                                   "frmDistance", "Moon_Phases", "frmRamadan"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -65,9 +66,15 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names,
-                ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
-                            "fMessage", "frmAthan", "fCountry", "NewCoordinates", "frmWizard"));
+    EXPECT_THAT(
+        names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
+                           "fMessage", "frmAthan", "fCountry", "NewCoordinates", "frmWizard",
+                           "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases", "frmRamadan"));
+}
+
+TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
+    EXPECT_THAT(PackSections().back().keys,
+                ElementsAre("frmRamadan", "SkinLabel1", "cmdClose", "Text1"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {

@@ -5,8 +5,12 @@
 #include "shell/close_face.h"
 #include "support/program_test.h"
 #include "windows/f_country.h"
+#include "windows/f_qibla.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
 #include "windows/frm_wizard.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 namespace {
@@ -143,10 +147,9 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuPrayerTimes,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
+          &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         platform.dialogs.messages.clear();
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
@@ -154,6 +157,29 @@ TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
     platform.dialogs.messages.clear();
     frmAthan->AthanSettingHelp.UserClick();
     EXPECT_THAT(Messages(), ElementsAre("This window is not there yet."));
+}
+
+TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {
+    const std::pair<MenuItem*, Form*> tools[] = {{&frmMain->mnuDateConversion, &*frmDateConvert},
+                                                 {&frmMain->mnuQibla, &*fQibla},
+                                                 {&frmMain->mnuDistance, &*frmDistance},
+                                                 {&frmMain->mnuMoonPhases, &*Moon_Phases}};
+    for (const auto& [entry, form] : tools) {
+        entry->UserClick();
+        EXPECT_TRUE(form->IsModal()) << form->Name();
+        EXPECT_EQ(form->Owner(), &*frmMain) << form->Name();
+        form->UserClose();
+        EXPECT_FALSE(form->IsLoaded()) << form->Name();
+    }
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, QiblaEntryOfTheIconIsDisabledAndDoesAsTheFaces) {
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_FALSE(fQibla->IsLoaded());
+    frmMain->mnuPopQibla.SetEnabled(true);
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_TRUE(fQibla->IsModal());
 }
 
 using CloseFaceTest = MenusTest;

@@ -52,6 +52,23 @@ TEST_F(DataCheckTest, MissingFileIsOneProblemThatNamesIt) {
     }
 }
 
+TEST_F(DataCheckTest, MonthOfAnImpossibleLengthIsAProblem) {
+    data.SetByte("Dat/UQ.DAT", 18 + 17, 31);
+    EXPECT_THAT(Problems(),
+                ElementsAre("Dat/UQ.DAT: record 2: a month is not from 28 to 30 days long"));
+    data.SetByte("Dat/UQ.DAT", 18 + 17, 27);
+    EXPECT_THAT(Problems(), testing::SizeIs(1));
+}
+
+TEST_F(DataCheckTest, HijriYearThatDoesNotFollowIsAProblem) {
+    const char* const problem = "Dat/UQ.DAT: record 2: it does not begin where the one before ends";
+    data.SetInt16("Dat/UQ.DAT", 18, 1449);
+    EXPECT_THAT(Problems(), ElementsAre(problem));
+    data.SetInt16("Dat/UQ.DAT", 18, 1448);
+    data.SetInt32("Dat/UQ.DAT", 20, 46189);
+    EXPECT_THAT(Problems(), ElementsAre(problem));
+}
+
 TEST_F(DataCheckTest, EmptyFolderHasAProblemForEachFileButTheSettings) {
     for (const std::string& name : platform.files.List("/program/Dat")) {
         data.Remove("Dat/" + name);
@@ -63,7 +80,7 @@ TEST_F(DataCheckTest, EveryFailingCallIsAProblemOfItsFile) {
     platform.failingFiles.FailCall(0);
     Problems();
     const int calls = platform.failingFiles.Calls();
-    EXPECT_EQ(calls, 12 * 2);  // twelve files, opened and read once
+    EXPECT_EQ(calls, 13 * 2);  // thirteen files, opened and read once
     for (int n = 1; n <= calls; ++n) {
         platform.failingFiles.FailCall(n);
         EXPECT_THAT(Problems(), ElementsAre(StartsWith("Dat/"))) << n;
