@@ -2,12 +2,15 @@
 
 #include <QApplication>
 
+#include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/frm_athan.h"
+#include "windows/frm_azan.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
@@ -81,6 +84,7 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
                          testing::Values([]() -> Form* { return &*fMessage; },
+                                         []() -> Form* { return &*frmAthan; },
                                          []() -> Form* { return &*HoravexMainForm; }),
                          [](const auto& form) { return form.param()->Name(); });
 
@@ -93,6 +97,18 @@ TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const QWidget& window = *windows.Find(&*frmMain);
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_EQ(window.size(), QSize(420, 420));
+}
+
+TEST(FaceLayout, FrmAzanShowsItsFaceInAWindowOfItsOwnSize) {
+    const TestPlatform platform;
+    AzanFace face;
+    const FormWindows windows{Layouts{{"frmAzan", [&](QWidget& window) { face.Fill(window); }}}};
+    EXPECT_EQ(ControlNames(*frmAzan), QStringList());
+    frmAzan->Show();
+    const QWidget& window = *windows.Find(&*frmAzan);
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(window.size(), QSize(360, 226));
+    EXPECT_EQ(window.size() * 15, QSize(5400, 3390)) << "the form's own size in twips";
 }
 
 }  // namespace
