@@ -33,15 +33,15 @@ std::size_t NextSound(const Samples& recorded, std::size_t from) {
                                     recorded.begin());
 }
 
-/// The end of the sound that a place lies in: behind it is silence for that long, if anything.
+/// Where the sound ends that a place lies in: behind it is silence for that long, if anything.
 std::size_t EndOfSound(const Samples& recorded, std::size_t from, std::size_t silence) {
-    std::size_t last = from;
-    for (std::size_t i = from; i < recorded.size() && i - last <= silence; ++i) {
+    std::size_t end = from;
+    for (std::size_t i = from; i < recorded.size() && i <= end + silence; ++i) {
         if (IsAudible(recorded[i])) {
-            last = i;
+            end = i + 1;
         }
     }
-    return last;
+    return end;
 }
 
 double LikenessAt(const Samples& recorded, std::size_t at, const Samples& sound, std::size_t from,
@@ -104,7 +104,7 @@ std::size_t SinkRecording::WaitForSilence(std::size_t behind) const {
 std::vector<Stretch> SoundsIn(const Samples& recorded) {
     std::vector<Stretch> sounds;
     for (std::size_t at = NextSound(recorded, 0); at < recorded.size();
-         at = NextSound(recorded, sounds.back().to + 1)) {
+         at = NextSound(recorded, sounds.back().to)) {
         sounds.push_back({at, EndOfSound(recorded, at, 2 * kTenth)});
     }
     return sounds;
