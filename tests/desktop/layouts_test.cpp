@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTabBar>
 
+#include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/form_window/widget_names.h"
@@ -10,6 +11,8 @@
 #include "support/test_platform.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_athan.h"
+#include "windows/frm_azan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -95,7 +98,8 @@ INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
                                          []() -> Form* { return &*fQibla; },
                                          []() -> Form* { return &*frmDistance; },
                                          []() -> Form* { return &*Moon_Phases; },
-                                         []() -> Form* { return &*frmRamadan; }),
+                                         []() -> Form* { return &*frmRamadan; },
+                                         []() -> Form* { return &*frmAthan; }),
                          [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
@@ -107,6 +111,18 @@ TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const QWidget& window = *windows.Find(&*frmMain);
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_EQ(window.size(), QSize(420, 420));
+}
+
+TEST(FaceLayout, FrmAzanShowsItsFaceInAWindowOfItsOwnSize) {
+    const TestPlatform platform;
+    AzanFace face;
+    const FormWindows windows{Layouts{{"frmAzan", [&](QWidget& window) { face.Fill(window); }}}};
+    EXPECT_EQ(ControlNames(*frmAzan), QStringList());
+    frmAzan->Show();
+    const QWidget& window = *windows.Find(&*frmAzan);
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(window.size(), QSize(360, 226));
+    EXPECT_EQ(window.size() * 15, QSize(5400, 3390)) << "the form's own size in twips";
 }
 
 }  // namespace
