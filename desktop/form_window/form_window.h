@@ -18,6 +18,9 @@ namespace horavex {
 /// The window of one loaded form: a binder for each control, the form's timers, and the window
 /// itself with its place, state and close box. What changes in the form shows in the next turn of
 /// the event loop, however often it changes in one.
+///
+/// Enter presses the button that has the focus, or else the layout's default button; Escape the
+/// one that the layout marks with the property "cancels", or closes a window that is marked so.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -37,6 +40,7 @@ public:
     void RunUntilHidden();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

@@ -1,7 +1,10 @@
 #include "desktop/form_window/layouts.h"
 
 #include "ui_HoravexMainForm.h"
+#include "ui_NewCoordinates.h"
+#include "ui_fCountry.h"
 #include "ui_fMessage.h"
+#include "ui_frmWizard.h"
 
 namespace horavex {
 
@@ -16,7 +19,10 @@ void Fill(QWidget& window) {
 
 Layouts DrawnLayouts() {
     return {
+        {"NewCoordinates", Fill<Ui::NewCoordinates>},
+        {"fCountry", Fill<Ui::fCountry>},
         {"fMessage", Fill<Ui::fMessage>},
+        {"frmWizard", Fill<Ui::frmWizard>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
     };
 }

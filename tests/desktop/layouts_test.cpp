@@ -7,9 +7,12 @@
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
 #include "support/test_platform.h"
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 namespace {
@@ -80,7 +83,10 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 }
 
 INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
-                         testing::Values([]() -> Form* { return &*fMessage; },
+                         testing::Values([]() -> Form* { return &*NewCoordinates; },
+                                         []() -> Form* { return &*fCountry; },
+                                         []() -> Form* { return &*fMessage; },
+                                         []() -> Form* { return &*frmWizard; },
                                          []() -> Form* { return &*HoravexMainForm; }),
                          [](const auto& form) { return form.param()->Name(); });
 
