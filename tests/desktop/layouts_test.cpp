@@ -9,6 +9,7 @@
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
 #include "support/test_platform.h"
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
 #include "windows/frm_athan.h"
@@ -17,8 +18,10 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 namespace {
@@ -91,16 +94,17 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
-                         testing::Values([]() -> Form* { return &*fMessage; },
-                                         []() -> Form* { return &*HoravexMainForm; },
-                                         []() -> Form* { return &*frmDateConvert; },
-                                         []() -> Form* { return &*fQibla; },
-                                         []() -> Form* { return &*frmDistance; },
-                                         []() -> Form* { return &*Moon_Phases; },
-                                         []() -> Form* { return &*frmRamadan; },
-                                         []() -> Form* { return &*frmAthan; }),
-                         [](const auto& form) { return form.param()->Name(); });
+INSTANTIATE_TEST_SUITE_P(
+    DrawnForms, LayoutsTest,
+    testing::Values([]() -> Form* { return &*fMessage; },
+                    []() -> Form* { return &*HoravexMainForm; },
+                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
+                    []() -> Form* { return &*frmDistance; },
+                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
+                    []() -> Form* { return &*frmAthan; },
+                    []() -> Form* { return &*NewCoordinates; },
+                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; }),
+    [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;
