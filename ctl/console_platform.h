@@ -26,6 +26,7 @@ public:
 class ConsoleDialogs : public Dialogs {
 public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
+    std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override {}
 };
 
@@ -34,6 +35,7 @@ class ConsoleClock : public Clock {
 public:
     Date Now() const override { return choice_ ? choice_() : system_.Now(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
+    ClockOffset OffsetOn(Date day) const override { return system_.OffsetOn(day); }
 
     /// Shows that moment for good.
     void StandAt(Date moment);
@@ -81,8 +83,12 @@ private:
     AbsentTray tray_;
     AbsentShell shell_;
     AbsentNetwork network_;
-    Platform platform_{clock,         eventLoop_, files,    folder_, formats_, dialogs_, registry_,
-                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
+    AbsentFace athanFace_;
+    AbsentAudioFile audioFile_;
+    AbsentAudioPlayer audioPlayer_;
+    Platform platform_{clock,     eventLoop_,    files,      folder_,     formats_, dialogs_,
+                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex

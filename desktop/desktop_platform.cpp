@@ -1,5 +1,8 @@
 #include "desktop/desktop_platform.h"
 
+#include <QApplication>
+#include <utility>
+
 #include "linux/folders.h"
 #include "windows/frm_main.h"
 
@@ -17,16 +20,24 @@ RegistryFile FindRegistry(Files& files) {
     return {files, paths.user, paths.machine};
 }
 
+// The player's thread must not outlive the platform; what it has posted by then is dropped there.
+void PostToProgramThread(std::function<void()> event) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(event), Qt::QueuedConnection);
+}
+
 }  // namespace
 
 DesktopPlatform::DesktopPlatform()
     : folder_(FindProgramFolder(files_)),
+      beep_(PostToProgramThread, QApplication::beep),
+      dialogs_([this] { beep_.Sound(); }),
       registry_(FindRegistry(files_)),
       instanceLock_(InstanceLockPath()),
       formWindows_(AllLayouts()),
       windows_(formWindows_),
       tray_(frmMain->mnuPopup),
-      shell_(files_) {
+      shell_(files_),
+      audioPlayer_(PostToProgramThread) {
     InstallPlatform(&platform_);
 }
 
@@ -37,6 +48,7 @@ DesktopPlatform::~DesktopPlatform() {
 Layouts DesktopPlatform::AllLayouts() {
     Layouts layouts = DrawnLayouts();
     layouts["frmMain"] = [this](QWidget& window) { face_.Fill(window); };
+    layouts["frmAzan"] = [this](QWidget& window) { athanFace_.Fill(window); };
     return layouts;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/ports/qt_dialogs.h"
@@ -11,6 +12,9 @@
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
+#include "linux/sound/beep.h"
+#include "linux/sound/pulse_player.h"
+#include "linux/sound/sound_file.h"
 #include "linux/system_clock.h"
 #include "linux/system_network.h"
 #include "platform/platform.h"
@@ -33,6 +37,7 @@ private:
     PosixFiles files_;
     ProgramFolder folder_;
     QtFormats formats_;
+    horavex::Beep beep_;
     QtDialogs dialogs_;
     RegistryFile registry_;
     InstanceLock instanceLock_;
@@ -42,8 +47,12 @@ private:
     QtTray tray_;
     QtShell shell_;
     SystemNetwork network_;
-    Platform platform_{clock_,        eventLoop_, files_,   folder_, formats_, dialogs_, registry_,
-                       instanceLock_, face_,      windows_, tray_,   shell_,   network_};
+    AzanFace athanFace_;
+    SoundFile audioFile_;
+    PulsePlayer audioPlayer_;
+    Platform platform_{clock_,    eventLoop_,    files_,     folder_,     formats_, dialogs_,
+                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex

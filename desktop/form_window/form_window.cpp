@@ -4,7 +4,9 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QPainter>
+#include <QScreen>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/fault_box.h"
@@ -46,10 +48,16 @@ QSize SizeOf(const Form& form) {
     return {PixelsOf(form.Width()), PixelsOf(form.Height())};
 }
 
+/// True for a window that its program alone places.
+bool LayOut(QWidget& window, const Layout& layout) {
+    layout(window);
+    return window.property("placedByProgram").toBool();
+}
+
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const Layout& layout) : form_(form), size_(SizeOf(form)) {
-    layout(*this);
+FormWindow::FormWindow(Form& form, const Layout& layout)
+    : form_(form), size_(SizeOf(form)), placedByProgram_(LayOut(*this, layout)) {
     resize(size_);
     for (Control* control : form_.Controls()) {
         Bind(*control);
@@ -159,7 +167,7 @@ void FormWindow::FollowPlace() {
 }
 
 void FormWindow::FollowVisibility() {
-    if (!form_.Visible()) {
+    if (!form_.Visible() || (placedByProgram_ && !LiesOnAScreen())) {
         hide();
         return;
     }
@@ -171,15 +179,29 @@ void FormWindow::FollowVisibility() {
     }
 }
 
+bool FormWindow::LiesOnAScreen() const {
+    const QRect area(place_, size_);
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&area](const QScreen* screen) {
+        return screen->geometry().intersects(area);
+    });
+}
+
 void FormWindow::Present() {
     setWindowModality(form_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
     winId();  // makes the window of the platform, which the owner is set on
-    windowHandle()->setTransientParent(owner_ == nullptr ? nullptr : owner_->windowHandle());
+    const QWidget* over = OwnerOrModalWindow();
+    windowHandle()->setTransientParent(over == nullptr ? nullptr : over->windowHandle());
     if (owner_ != nullptr && owner_->isVisible() && place_.isNull()) {
         resize(size().expandedTo(minimumSizeHint()));
         move(owner_->frameGeometry().center() - rect().center());
     }
     show();
+}
+
+// A window that comes up by itself over a modal one would be shut off without it.
+const QWidget* FormWindow::OwnerOrModalWindow() const {
+    return owner_ != nullptr ? owner_.data() : QApplication::activeModalWidget();
 }
 
 void FormWindow::FollowFocus() {
@@ -201,7 +223,9 @@ void FormWindow::BringUp(const QWidget* owner) {
     owner_ = owner;
     Flush();
     raise();
-    activateWindow();
+    if (!placedByProgram_) {
+        activateWindow();
+    }
 }
 
 void FormWindow::RunUntilHidden() {
@@ -236,7 +260,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::moveEvent(QMoveEvent*) {
-    if (following_ || retired_ || pos() == place_) {
+    if (following_ || retired_ || placedByProgram_ || pos() == place_) {
         return;
     }
     place_ = pos();

@@ -18,6 +18,10 @@ namespace horavex {
 /// The window of one loaded form: a binder for each control, the form's timers, and the window
 /// itself with its place, state and close box. What changes in the form shows in the next turn of
 /// the event loop, however often it changes in one.
+///
+/// A layout may name its window "placedByProgram": the place is then the form's alone, the window
+/// takes no keyboard as it comes up, and while it lies outside all screens it is hidden, since not
+/// every desktop lets a window be put there.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -55,9 +59,11 @@ private:
     void FollowForm();
     void FollowPlace();
     void FollowVisibility();
+    bool LiesOnAScreen() const;
     void FollowFocus();
     void FollowDrawing();
     void Present();
+    const QWidget* OwnerOrModalWindow() const;
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
@@ -69,6 +75,7 @@ private:
     bool retired_ = false;
     QPoint place_;  // pixels, as last known on both sides
     QSize size_;    // pixels, likewise
+    const bool placedByProgram_;
     QPointer<const QWidget> owner_;
     QEventLoop* modalLoop_ = nullptr;  // of the innermost RunUntilHidden
 };

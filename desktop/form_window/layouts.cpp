@@ -1,9 +1,12 @@
 #include "desktop/form_window/layouts.h"
 
+#include <QStyle>
+
 #include "ui_HoravexMainForm.h"
 #include "ui_Moon_Phases.h"
 #include "ui_fMessage.h"
 #include "ui_fQibla.h"
+#include "ui_frmAthan.h"
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
 #include "ui_frmRamadan.h"
@@ -17,11 +20,23 @@ void Fill(QWidget& window) {
     Drawn().setupUi(&window);
 }
 
+void FillAthan(QWidget& window) {
+    Ui::frmAthan drawn;
+    drawn.setupUi(&window);
+    const auto sign = [&window](QStyle::StandardPixmap picture, auto... buttons) {
+        (buttons->setIcon(window.style()->standardIcon(picture)), ...);
+    };
+    sign(QStyle::SP_MediaPlay, drawn.Picture__1, drawn.Picture__4);
+    sign(QStyle::SP_MediaPause, drawn.Picture__2, drawn.Picture__5);
+    sign(QStyle::SP_MediaStop, drawn.Picture__3, drawn.Picture__6);
+}
+
 }  // namespace
 
 Layouts DrawnLayouts() {
     return {
         {"fMessage", Fill<Ui::fMessage>},
+        {"frmAthan", FillAthan},
         {"fQibla", Fill<Ui::fQibla>},
         {"frmDateConvert", Fill<Ui::frmDateConvert>},
         {"frmDistance", Fill<Ui::frmDistance>},

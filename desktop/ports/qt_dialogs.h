@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "platform/dialogs.h"
 
 namespace horavex {
@@ -8,8 +11,14 @@ namespace horavex {
 /// they stand, never as markup.
 class QtDialogs : public Dialogs {
 public:
+    explicit QtDialogs(std::function<void()> beep) : beep_(std::move(beep)) {}
+
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
-    void Beep() override;
+    std::string OpenFile(const FileRequest& request) override;
+    void Beep() override { beep_(); }
+
+private:
+    std::function<void()> beep_;
 };
 
 }  // namespace horavex

@@ -28,10 +28,19 @@ const MenuItem* FindMenu(const Form& form, const std::string& name) {
 
 }  // namespace
 
-ScreenSize QtWindows::Screen() {
+const QScreen& QtWindows::FaceScreen() const {
     const FormWindow* face = windows_.Find(&*frmMain);
-    const QScreen* screen = face == nullptr ? QGuiApplication::primaryScreen() : face->screen();
-    return {TwipsOf(screen->size().width()), TwipsOf(screen->size().height())};
+    return face == nullptr ? *QGuiApplication::primaryScreen() : *face->screen();
+}
+
+ScreenSize QtWindows::Screen() {
+    const QSize size = FaceScreen().size();
+    return {TwipsOf(size.width()), TwipsOf(size.height())};
+}
+
+ScreenCorner QtWindows::WorkArea() {
+    const QRect area = FaceScreen().availableGeometry();
+    return {TwipsOf(area.x() + area.width()), TwipsOf(area.y() + area.height())};
 }
 
 void QtWindows::StartDrag(const std::string& form) {
@@ -92,6 +101,19 @@ void QtWindows::SetForeground(const std::string& form) {
     if (window != nullptr && window->isVisible()) {
         window->raise();
         window->activateWindow();
+    }
+}
+
+void QtWindows::SetTopMost(const std::string& form, bool topMost) {
+    FormWindow* window = windows_.Find(form);
+    if (window == nullptr || window->windowHandle() == nullptr) {
+        return;
+    }
+    // The widget's own way would take the window from the screen and put it back.
+    window->windowHandle()->setFlag(Qt::WindowStaysOnTopHint, topMost);
+    window->overrideWindowFlags(window->windowHandle()->flags());
+    if (topMost) {
+        window->raise();
     }
 }
 

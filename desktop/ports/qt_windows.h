@@ -3,6 +3,7 @@
 #include "desktop/form_window/form_windows.h"
 #include "platform/windows.h"
 
+class QScreen;
 class QPrinter;
 
 namespace horavex {
@@ -16,14 +17,17 @@ public:
     explicit QtWindows(const FormWindows& windows) : windows_(windows) {}
 
     ScreenSize Screen() override;
+    ScreenCorner WorkArea() override;
     void StartDrag(const std::string& form) override;
     void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) override;
     void PopUpMenuAtPointer(const std::string& form, const std::string& menu) override;
     void Activate(const std::string& form) override;
     void SetForeground(const std::string& form) override;
+    void SetTopMost(const std::string& form, bool topMost) override;
     void Print(const std::string& form) override;
 
 private:
+    const QScreen& FaceScreen() const;
     void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);
 
     const FormWindows& windows_;

@@ -1,6 +1,8 @@
 #include "athan/athan_alert.h"
 
 #include "athan/athan_state.h"
+#include "athan/azan_window.h"
+#include "athan/sound.h"
 #include "base/flag.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
@@ -8,13 +10,17 @@
 #include "store/settings_record.h"
 #include "store/text_table.h"
 #include "windows/f_message.h"
+#include "windows/frm_azan.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
 
 namespace {
 
+constexpr std::int16_t kFajr = 0;
 constexpr std::int16_t kAlarm = 7;
+constexpr std::int16_t kAthanNow = -1;
+constexpr std::int16_t kSoundAthan = 3;
 constexpr double kAlarmStepsPerDay = 288.0;
 constexpr double kBeforeSound = 2.0;  // seconds
 constexpr double kAfterBeep = 3.0;    // seconds
@@ -59,6 +65,33 @@ void SoundAlarm(double start) {
     fMessage->Unload();
 }
 
+void BringAthanWindowUp(std::int16_t index) {
+    frmAzan->Load();
+    frmAzan->prayerIndex = index;
+    if (index != kAthanNow) {
+        SetAzanText();
+    }
+    ShowMe();
+}
+
+/// Only an athan of sound that has been accepted is heard; a buzzer is as silent as mute.
+void PlayAthan(std::int16_t index) {
+    if (ActiveSettings.AthanType != kSoundAthan || Settings.AthanType != kSoundAthan) {
+        return;
+    }
+    if (index == kFajr) {
+        Fagr_Athan_Sound_Click();
+    } else {
+        Athan_Sound_Click();
+    }
+}
+
+void SoundAthan(std::int16_t index, double start) {
+    BringAthanWindowUp(index);
+    WaitUntil(start, kBeforeSound);
+    PlayAthan(index);
+}
+
 }  // namespace
 
 void sub04F9(std::int16_t index) {
@@ -68,6 +101,8 @@ void sub04F9(std::int16_t index) {
     const double start = Ports().clock.SteadySeconds();
     if (index == kAlarm) {
         SoundAlarm(start);
+    } else {
+        SoundAthan(index, start);
     }
     HoravexMainForm->SetEnabled(true);
 }

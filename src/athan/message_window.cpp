@@ -1,6 +1,7 @@
 #include "athan/message_window.h"
 
 #include "athan/athan_state.h"
+#include "athan/sound.h"
 #include "base/flag.h"
 #include "engine/center_on_screen.h"
 #include "lang/form_language.h"
@@ -28,6 +29,7 @@ void cmdAlarmClose_Click() {
 
 void CmdCancel_Click() {
     alarmDismissed = kTrue;
+    StopSound();
 }
 
 /// A user who closes the window cancels the list that is being filled.
@@ -41,7 +43,9 @@ void fMessage_QueryUnload(const CloseRequest& request) {
 
 void BindMessageWindow() {
     fMessage->onLoad = fMessage_Load;
+    fMessage->onUnload = StopSound;  // a year that is calculated silences an athan, too
     fMessage->onCloseRequest = fMessage_QueryUnload;
+    fMessage->Athan_Sound.onClick = Athan_Sound_Click;
     fMessage->cmdAlarmClose.onClick = cmdAlarmClose_Click;
     fMessage->CmdCancel.onClick = CmdCancel_Click;
 }

@@ -4,26 +4,22 @@
 #include <array>
 #include <cmath>
 #include <optional>
-#include <utility>
 
 #include "base/number_text.h"
-#include "base/program_state.h"
 #include "forms/show_modal.h"
+#include "geo/city_picker.h"
 #include "geo/distance.h"
 #include "geo/mecca.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "store/location_text.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
 
 namespace {
-
-std::function<void(DistanceCity)> cityPicker;
-
-const ProgramStateReset reset([] { cityPicker = nullptr; });
 
 constexpr const char* kFillAll = "Please, Fill in all text boxes with valid values.";
 constexpr const char* kEmptyField = "Form field is empty!";
@@ -210,9 +206,12 @@ void cmdDistanceClear_Click() {
 }
 
 void PickCity(DistanceCity city) {
-    if (cityPicker) {
-        cityPicker(city);
-    }
+    PickCityForDistance(*frmDistance, [city] {
+        FillPickedCity(
+            city, PickCityText,
+            FormatLatitude(StoredCoord(PickLocation.City.Latitude), Settings.Language),
+            FormatLongitude(StoredCoord(PickLocation.City.Longitude), Settings.Language));
+    });
 }
 
 void frmDistance_Load() {
@@ -263,10 +262,6 @@ void FillCoordinate(const CoordinateControls& coordinate, const std::string& tex
 void ShowDistance() {
     Bind();
     ShowModalOrUnload(*frmDistance, &*frmMain);
-}
-
-void SetDistanceCityPicker(std::function<void(DistanceCity)> picker) {
-    cityPicker = std::move(picker);
 }
 
 void FillPickedCity(DistanceCity city, const std::string& name, const std::string& latitude,

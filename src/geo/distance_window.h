@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 namespace horavex {
@@ -10,10 +9,6 @@ void ShowDistance();
 
 /// The two cities of the window.
 enum class DistanceCity { kA, kB };
-
-/// Installs what lets the user pick a city from the database; it answers by FillPickedCity. An
-/// empty one leaves the two buttons without effect.
-void SetDistanceCityPicker(std::function<void(DistanceCity)> picker);
 
 /// Takes a picked city over: its name into the label, its coordinates, in the words that the
 /// settings window shows them with, into the boxes. Coordinates that are not in English words

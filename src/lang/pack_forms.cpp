@@ -1,13 +1,17 @@
 #include "lang/pack_forms.h"
 
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 
@@ -23,8 +27,9 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm, DateConvertForm, QiblaForm, DistanceForm,
-                MoonPhasesForm, RamadanForm>();
+    return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
+                WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm,
+                RamadanForm>();
 }
 
 }  // namespace horavex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/audio_file.h"
+#include "platform/audio_player.h"
 #include "platform/face.h"
 #include "platform/network.h"
 #include "platform/shell.h"
@@ -21,11 +23,13 @@ public:
 class AbsentWindows : public Windows {
 public:
     ScreenSize Screen() override { return {0.0, 0.0}; }
+    ScreenCorner WorkArea() override { return {0.0, 0.0}; }
     void StartDrag(const std::string&) override {}
     void PopUpMenu(const std::string&, const std::string&, int, int) override {}
     void PopUpMenuAtPointer(const std::string&, const std::string&) override {}
     void Activate(const std::string&) override {}
     void SetForeground(const std::string&) override {}
+    void SetTopMost(const std::string&, bool) override {}
     void Print(const std::string&) override {}
 };
 
@@ -50,6 +54,30 @@ public:
 class AbsentNetwork : public Network {
 public:
     ConnectionState Connection() override { return {false, 0}; }
+};
+
+/// No file opens.
+class AbsentAudioFile : public AudioFile {
+public:
+    void SetMode(int) override {}
+    int Open(const std::string&) override { return 1; }
+    void Close() override {}
+    bool HasAudio() override { return false; }
+    int SampleRate() override { return 0; }
+    SampleFormat Format() override { return {0}; }
+    Bytes Read(std::int32_t) override { return {}; }
+    std::int64_t Seek(std::int64_t) override { return 0; }
+};
+
+class AbsentAudioPlayer : public AudioPlayer {
+public:
+    void SetFormat(int, SampleFormat) override {}
+    std::int32_t BytesFor(int) override { return 0; }
+    void Start() override {}
+    void Write(ByteView) override {}
+    void Pause() override {}
+    void Stop() override {}
+    std::int64_t Position() override { return 0; }
 };
 
 }  // namespace horavex

@@ -6,6 +6,13 @@ namespace horavex {
 
 enum class MessageIcon { kNone, kInformation, kExclamation, kCritical };
 
+/// Which file a user is asked for.
+struct FileRequest {
+    std::string title;
+    std::string filter;  // "label|pattern;pattern|" over and over
+    int filterIndex;     // the label that comes first, 1-based
+};
+
 /// What is asked of the user outside the program's own windows.
 class Dialogs {
 public:
@@ -15,6 +22,9 @@ public:
     /// application's.
     virtual void ShowMessage(const std::string& text, const std::string& title,
                              MessageIcon icon) = 0;
+
+    /// The real path of a file that is there, or empty where the user chose none.
+    virtual std::string OpenFile(const FileRequest& request) = 0;
 
     /// The system's beep, which returns at once.
     virtual void Beep() = 0;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/audio_file.h"
+#include "platform/audio_player.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
@@ -27,11 +29,14 @@ struct Platform {
     Dialogs& dialogs;
     RegistryStore& registry;
     InstanceGuard& instanceGuard;
-    Face& face;
+    Face& face;  // in the window of frmMain
     Windows& windows;
     Tray& tray;
     Shell& shell;
     Network& network;
+    Face& athanFace;  // in the window of frmAzan
+    AudioFile& audioFile;
+    AudioPlayer& audioPlayer;
 };
 
 /// Installs the ports; nullptr takes them away again.

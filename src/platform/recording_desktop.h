@@ -21,17 +21,19 @@ struct DesktopLog {
 
 class RecordingFace : public Face {
 public:
-    explicit RecordingFace(DesktopLog& log) : log_(log) {}
+    /// name goes in front of what is noted; empty for the face of frmMain.
+    explicit RecordingFace(DesktopLog& log, std::string name = "")
+        : log_(log), name_(std::move(name)) {}
 
     void LoadMovie(int layer, const std::string& url) override {
-        log_.Note("LoadMovie " + std::to_string(layer) + " " + url);
+        log_.Note(name_ + "LoadMovie " + std::to_string(layer) + " " + url);
     }
     void SetVariable(const std::string& name, const std::string& value) override {
         variables.emplace_back(name, value);
     }
-    void Play() override { log_.Note("Play"); }
+    void Play() override { log_.Note(name_ + "Play"); }
     void Place(double left, double top) override {
-        log_.Note("Place " + std::to_string(static_cast<int>(left)) + " " +
+        log_.Note(name_ + "Place " + std::to_string(static_cast<int>(left)) + " " +
                   std::to_string(static_cast<int>(top)));
     }
 
@@ -49,6 +51,7 @@ public:
 
 private:
     DesktopLog& log_;
+    std::string name_;
 };
 
 class RecordingWindows : public Windows {
@@ -56,6 +59,7 @@ public:
     explicit RecordingWindows(DesktopLog& log) : log_(log) {}
 
     ScreenSize Screen() override { return screen; }
+    ScreenCorner WorkArea() override { return workArea; }
     void StartDrag(const std::string& form) override { log_.Note("StartDrag " + form); }
     void PopUpMenu(const std::string& form, const std::string& menu, int x, int y) override {
         log_.Note("PopUpMenu " + form + " " + menu + " " + std::to_string(x) + " " +
@@ -66,9 +70,13 @@ public:
     }
     void Activate(const std::string& form) override { log_.Note("Activate " + form); }
     void SetForeground(const std::string& form) override { log_.Note("SetForeground " + form); }
+    void SetTopMost(const std::string& form, bool topMost) override {
+        log_.Note((topMost ? "SetTopMost " : "SetNotTopMost ") + form);
+    }
     void Print(const std::string& form) override { log_.Note("Print " + form); }
 
     ScreenSize screen{19200.0, 10800.0};
+    ScreenCorner workArea{19200.0, 10400.0};
 
 private:
     DesktopLog& log_;

@@ -7,7 +7,7 @@
 
 namespace horavex {
 
-/// Writes down each message box and closes it at once.
+/// Writes down each message box and closes it at once; answers for the user who chooses a file.
 class RecordingDialogs : public Dialogs {
 public:
     struct Message {
@@ -20,9 +20,16 @@ public:
         messages.push_back({text, title, icon});
     }
 
+    std::string OpenFile(const FileRequest& request) override {
+        fileRequests.push_back(request);
+        return chosenFile;
+    }
+
     void Beep() override { ++beeps; }
 
     std::vector<Message> messages;
+    std::vector<FileRequest> fileRequests;
+    std::string chosenFile;  // empty for a user who cancels
     int beeps = 0;
 };
 

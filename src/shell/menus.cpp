@@ -3,7 +3,9 @@
 #include "athan/athan_alert.h"
 #include "base/flag.h"
 #include "calendar/date_conversion_window.h"
+#include "config/city_choice.h"
 #include "config/settings_window.h"
+#include "config/wizard.h"
 #include "forms/modal_loop.h"
 #include "geo/distance_window.h"
 #include "geo/qibla_window.h"
@@ -15,6 +17,7 @@
 #include "store/language_setting.h"
 #include "update/connection_probes.h"
 #include "update/web_server.h"
+#include "windows/frm_athan.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -32,12 +35,11 @@ void TellThatWindowIsMissing() {
 
 void BindMissingWindows() {
     for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuAthanSettings,
-          &frmMain->mnuPrayerTimes, &frmMain->mnuWizard, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
+         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
           &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
-    SetDistanceCityPicker([](DistanceCity) { TellThatWindowIsMissing(); });
+    frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
 }
 
 void BindTools() {
@@ -89,6 +91,9 @@ void BindMenus() {
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
     frmMain->mnuExit.onClick = mnuExit_Click;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
+    frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
+    frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition
+    frmMain->mnuWizard.onClick = ShowWizard;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;

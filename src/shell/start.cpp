@@ -1,8 +1,11 @@
 #include "shell/start.h"
 
 #include "athan/athan_files.h"
+#include "athan/athan_settings_window.h"
 #include "athan/athan_state.h"
+#include "athan/azan_window.h"
 #include "athan/message_window.h"
+#include "athan/player.h"
 #include "base/fault.h"
 #include "base/flag.h"
 #include "base/prayer_names.h"
@@ -12,6 +15,7 @@
 #include "config/settings_display.h"
 #include "config/settings_window.h"
 #include "config/startup_entry.h"
+#include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
@@ -42,15 +46,11 @@
 
 namespace horavex {
 
-std::int16_t firstRun = kFalse;
 std::string programFolder;
 
 namespace {
 
-const ProgramStateReset reset([] {
-    firstRun = kFalse;
-    programFolder.clear();
-});
+const ProgramStateReset reset([] { programFolder.clear(); });
 
 constexpr double kFaceLeft = -89.0;  // the face's outer margin lies outside the window
 constexpr double kFaceTop = -67.0;
@@ -154,6 +154,7 @@ void BringFaceUp() {
 void FrmMain_Load() {
     LastRefreshDate = Ports().clock.Today();
     NextPrayer = -1;
+    Ports().audioFile.SetMode(kSampleBytes);
     HoravexMainForm->Load();
     frmMain->lblCity.SetCaption(ActiveCityText);
     frmMain->tmrUpdate.SetEnabled(true);
@@ -166,6 +167,9 @@ void FrmMain_Load() {
         BuildLanguageMenu(currentLanguage);
     }
     TranslateOnLoad(*frmMain);
+    if (firstRun != kFalse) {
+        ShowWizard();
+    }
     // A second line of defence behind the settings window's own test.
     if (Ports().instanceGuard.AnotherIsRunning()) {
         Ports().eventLoop.EndProcess();
@@ -186,7 +190,10 @@ void BindWindows() {
     static ShellDayHost host;
     InstallDayHost(&host);
     InstallUndefinedAngleReport();
+    BindPlayer();
+    BindAzanWindow();
     BindMessageWindow();
+    BindAthanSettingsWindow();
     BindSettingsWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;

@@ -21,6 +21,7 @@ public:
     Shape Shape1{*this, "Shape1", {.width = 4800, .height = 300}};
     Picture picProgress{*this, "picProgress", {.width = 4770, .height = 270}};
 
+    CommandButton Athan_Sound{*this, "Athan_Sound", {.caption = "Listen"}};
     CommandButton CmdCancel{*this, "CmdCancel", {.caption = "Cancel", .visible = false}};
     CommandButton cmdAlarmClose{*this, "cmdAlarmClose", {.caption = "Close", .visible = false}};
 };

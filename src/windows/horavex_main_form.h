@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/check_box.h"
+#include "forms/combo_box.h"
 #include "forms/command_button.h"
 #include "forms/control_array.h"
 #include "forms/form.h"
@@ -32,8 +33,12 @@ public:
     Label lblTimeZone{fraCity, "lblTimeZone", {.caption = "Time Zone"}};
     Label lblGMT{fraCity, "lblGMT", {.caption = "GMT"}};
     TextBox txtTimeZone{fraCity, "txtTimeZone"};
+    CommandButton cmdComputerZone{
+        fraCity, "cmdComputerZone", {.caption = "Use this computer's &zone"}};
 
     horavex::Frame fraAngles{*this, "fraAngles", {.caption = "Depression angles"}};
+    Label lblMethod{fraAngles, "lblMethod", {.caption = "&Method"}};
+    ComboBox cboMethod{fraAngles, "cboMethod", {.typed = false}};
     Label lblFajrAngle{fraAngles, "lblFajrAngle", {.caption = "Fajr angle"}};
     Label lblDeprMin{fraAngles, "lblDeprMin"};
     ScrollBar hsDepr{fraAngles, "hsDepr", {.max = 90}};

@@ -1,10 +1,217 @@
 #include "athan/athan_alert.h"
 
+#include <cmath>
+
 #include "athan/athan_state.h"
+#include "athan/player.h"
+#include "engine/day_driver.h"
+#include "engine/day_state.h"
+#include "shell/tick.h"
 #include "support/program_test.h"
+#include "windows/frm_azan.h"
 
 namespace horavex {
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kOthersSound = "/program/Athan/athan.mp3";
+constexpr const char* kFajrSound = "/program/Athan/fagr_athan.mp3";
+constexpr const char* kText = "_root.character_textField";
+
+struct AthanTest : ProgramTest {
+    AthanTest() {
+        platform.audioFile.sounds[kOthersSound] = {Bytes(2000), 100, {1}};  // ten seconds
+        platform.audioFile.sounds[kFajrSound] = {Bytes(2000), 100, {1}};
+        StartAgain();
+        SetAthanType(3);
+        ActiveSettings.AlarmTime = 0;
+    }
+
+    static void SetAthanType(std::int16_t type) {
+        Settings.AthanType = type;
+        ActiveSettings.AthanType = type;
+    }
+
+    void PressStop() { platform.athanFace.onFSCommand("IDC_FS_Stop", ""); }
+
+    const std::vector<std::string>& Opened() const { return platform.audioFile.opened; }
+    std::string Text() { return platform.athanFace.Value(kText); }
+};
+
+TEST_F(AthanTest, BringsItsWindowUpAndIsHeardTwoSecondsLater) {
+    platform.loop.After(1.5, [&] {
+        EXPECT_TRUE(frmAzan->Visible());
+        EXPECT_TRUE(frmAzan->Timer1.Running());
+        EXPECT_EQ(athanActive, -1);
+        EXPECT_THAT(Opened(), IsEmpty());
+    });
+    const double before = platform.clock.SteadySeconds();
+    sub04F9(3);
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 2.0, 0.02);
+    EXPECT_EQ(Text(), "It is time for the Asr prayer");
+    EXPECT_EQ(frmAzan->prayerIndex, 3);
+    EXPECT_EQ(playing, -1);
+}
+
+TEST_F(AthanTest, FajrHasASoundOfItsOwn) {
+    sub04F9(0);
+    EXPECT_THAT(Opened(), ElementsAre(kFajrSound));
+}
+
+TEST_F(AthanTest, OtherPrayersShareOne) {
+    for (const std::int16_t prayer : std::initializer_list<std::int16_t>{2, 3, 4, 5}) {
+        sub04F9(prayer);
+    }
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound, kOthersSound, kOthersSound, kOthersSound));
+}
+
+TEST_F(AthanTest, AthanNowKeepsTheTextAsItStands) {
+    sub04F9(5);
+    sub04F9(-1);
+    EXPECT_EQ(frmAzan->prayerIndex, -1);
+    EXPECT_EQ(Text(), "It is time for the Isha prayer");
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound, kOthersSound));
+}
+
+TEST_F(AthanTest, MenuEntryAsksForAthanNow) {
+    frmMain->mnuThanNow.UserClick();
+    EXPECT_TRUE(frmAzan->Visible());
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
+    EXPECT_EQ(platform.athanFace.variables.size(), 0U);
+}
+
+TEST_F(AthanTest, MuteAndBuzzerAreSilentWithTheWindowUpUntilStop) {
+    for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 2}) {
+        SetAthanType(type);
+        sub04F9(2);
+        EXPECT_TRUE(frmAzan->Visible());
+        EXPECT_THAT(Opened(), IsEmpty());
+        EXPECT_EQ(athanActive, -1);
+        EXPECT_EQ(platform.dialogs.beeps, 0);
+        PressStop();
+        EXPECT_EQ(athanActive, 0);
+    }
+}
+
+TEST_F(AthanTest, TypeThatWasNotAcceptedMakesNoSound) {
+    Settings.AthanType = 1;
+    sub04F9(2);
+    Settings.AthanType = 3;
+    ActiveSettings.AthanType = 1;
+    sub04F9(2);
+    EXPECT_THAT(Opened(), IsEmpty());
+}
+
+TEST_F(AthanTest, TypeIsLookedAtWhenTheSoundIsDue) {
+    SetAthanType(1);
+    platform.loop.After(1.0, [] { SetAthanType(3); });
+    sub04F9(2);
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
+}
+
+TEST_F(AthanTest, StopBeforeTheSoundIsDueDoesNotKeepItBack) {
+    platform.loop.After(1.0, [&] { PressStop(); });
+    sub04F9(2);
+    EXPECT_EQ(playing, -1);
+    EXPECT_EQ(athanActive, 0);
+}
+
+TEST_F(AthanTest, MissingSoundLeavesTheWindowUp) {
+    platform.audioFile.sounds.clear();
+    sub04F9(2);
+    EXPECT_TRUE(frmAzan->Visible());
+    EXPECT_EQ(athanActive, -1);
+    EXPECT_EQ(playing, 0);
+}
+
+TEST_F(AthanTest, EndOfTheSoundEndsTheCycle) {
+    sub04F9(2);
+    platform.audioPlayer.PlayToTheEnd();
+    EXPECT_EQ(athanActive, 0);
+    EXPECT_FALSE(frmAzan->IsLoaded());
+}
+
+TEST_F(AthanTest, CalculatedYearSilencesItAndTheWindowStays) {
+    sub04F9(2);
+    RefreshAll();
+    EXPECT_EQ(playing, 0);
+    EXPECT_TRUE(frmAzan->Visible());
+    EXPECT_EQ(athanActive, -1);
+}
+
+TEST_F(AthanTest, EnablesTheSettingsWindow) {
+    HoravexMainForm->SetEnabled(false);
+    sub04F9(2);
+    EXPECT_TRUE(HoravexMainForm->Enabled());
+}
+
+/// Ticks around the arrival of Asr.
+struct AthanTickTest : AthanTest {
+    AthanTickTest() { SetClockAtAsr(); }
+
+    void SetClockAtAsr(int later = 0) {
+        platform.clock.Set(platform.clock.Today() +
+                           std::ceil(TodayTimes[3] * kSecondsPerDay) / kSecondsPerDay +
+                           later / kSecondsPerDay);
+    }
+
+    /// A tick of the clock a second after the former one's end.
+    void TickAfter(double seconds) {
+        platform.clock.Advance(seconds);
+        tmrUpdate_Timer();
+    }
+};
+
+TEST_F(AthanTickTest, ArrivalSoundsOnceWhileItsWindowIsUp) {
+    tmrUpdate_Timer();
+    for (int tick = 0; tick < 7; ++tick) {
+        TickAfter(1.0);
+    }
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
+}
+
+TEST_F(AthanTickTest, StopInTheTenSecondsBringsItBackOnTheNextTickAndLaterNot) {
+    tmrUpdate_Timer();
+    PressStop();
+    TickAfter(1.0);
+    EXPECT_EQ(athanActive, -1) << "five seconds behind its time";
+    EXPECT_EQ(Opened().size(), 2U);
+    PressStop();
+    SetClockAtAsr(10);
+    tmrUpdate_Timer();
+    EXPECT_EQ(athanActive, 0);
+    EXPECT_EQ(Opened().size(), 2U);
+}
+
+TEST_F(AthanTickTest, SoundThatEndsInTheTenSecondsBringsItBack) {
+    tmrUpdate_Timer();
+    platform.audioPlayer.PlayToTheEnd();
+    TickAfter(1.0);
+    EXPECT_EQ(Opened().size(), 2U);
+    EXPECT_TRUE(frmAzan->Visible());
+}
+
+TEST_F(AthanTickTest, AthanThatIsUpKeepsTheNextPrayerBackAndQueuesNothing) {
+    athanActive = -1;
+    tmrUpdate_Timer();
+    EXPECT_FALSE(frmAzan->IsLoaded());
+    SetClockAtAsr(10);
+    athanActive = 0;
+    tmrUpdate_Timer();
+    EXPECT_FALSE(frmAzan->IsLoaded());
+}
+
+TEST_F(AthanTickTest, WaitForTheSoundHoldsTheNextTickUp) {
+    platform.loop.After(1.0, [&] {
+        PressStop();
+        tmrUpdate_Timer();
+        EXPECT_EQ(athanActive, 0) << "no tick inside a tick";
+    });
+    tmrUpdate_Timer();
+    EXPECT_EQ(Opened().size(), 1U);
+}
 
 struct AlarmTest : ProgramTest {
     AlarmTest() {
@@ -56,6 +263,29 @@ TEST_F(AlarmTest, EnablesTheSettingsWindow) {
     HoravexMainForm->SetEnabled(false);
     SoundAlarm();
     EXPECT_TRUE(HoravexMainForm->Enabled());
+}
+
+TEST_F(AlarmTest, ClosedEarlyItComesBackOnTheNextTickOfItsTenSeconds) {
+    SetClock(2026, 11, 21, 6, 30, 0);
+    platform.loop.After(3.0, [] { fMessage->cmdAlarmClose.UserClick(); });
+    tmrUpdate_Timer();
+    EXPECT_EQ(platform.dialogs.beeps, 1);
+    platform.loop.After(1.0, [] { EXPECT_TRUE(fMessage->Visible()); });
+    platform.loop.After(9.0, [] { fMessage->cmdAlarmClose.UserClick(); });
+    tmrUpdate_Timer();
+    EXPECT_EQ(platform.dialogs.beeps, 4);
+    tmrUpdate_Timer();
+    EXPECT_EQ(platform.dialogs.beeps, 4) << "its ten seconds are over";
+}
+
+TEST_F(AlarmTest, PlaysNoSoundFileWhateverTheAthanType) {
+    for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 2, 3}) {
+        Settings.AthanType = type;
+        ActiveSettings.AthanType = type;
+        SoundAlarm();
+    }
+    EXPECT_EQ(platform.dialogs.beeps, 60);
+    EXPECT_TRUE(platform.audioFile.opened.empty());
 }
 
 TEST_F(AlarmTest, SunriseReturnsAtOnce) {

@@ -57,8 +57,12 @@ private:
     AbsentTray tray_;
     AbsentShell shell_;
     AbsentNetwork network_;
-    Platform platform_{clock_,         loop_, files,    folder, formats_, dialogs, registry_,
-                       instanceGuard_, face_, windows_, tray_,  shell_,   network_};
+    AbsentFace athanFace_;
+    AbsentAudioFile audioFile_;
+    AbsentAudioPlayer audioPlayer_;
+    Platform platform_{clock_,    loop_,          files,      folder,      formats_, dialogs,
+                       registry_, instanceGuard_, face_,      windows_,    tray_,    shell_,
+                       network_,  athanFace_,     audioFile_, audioPlayer_};
 };
 
 }  // namespace horavex

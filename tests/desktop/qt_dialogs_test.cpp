@@ -18,7 +18,7 @@ void Show(const std::string& text, const std::string& title, MessageIcon icon, L
         look(*box);
         box->accept();
     });
-    QtDialogs().ShowMessage(text, title, icon);
+    QtDialogs([] {}).ShowMessage(text, title, icon);
 }
 
 TEST(QtDialogs, BoxShowsTextTitleIconAndOneButton) {

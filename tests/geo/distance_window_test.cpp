@@ -2,9 +2,11 @@
 
 #include "base/fault.h"
 #include "base/number_text.h"
+#include "geo/city_picker.h"
 #include "geo/distance.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"
+#include "windows/f_country.h"
 #include "windows/frm_distance.h"
 
 namespace horavex {
@@ -271,15 +273,19 @@ TEST_F(DistanceWindowTest, ClearGivesTheFirstStateBack) {
     EXPECT_EQ(form.lblCityB.Caption(), "City B is here");
 }
 
-TEST_F(DistanceWindowTest, CityButtonsAskThePickerForTheirCity) {
-    std::vector<DistanceCity> asked;
-    SetDistanceCityPicker([&asked](DistanceCity city) { asked.push_back(city); });
-    form.cmdCityA.UserClick();
+TEST_F(DistanceWindowTest, CityButtonsOpenThePickerWhoseCityFillsTheirBoxes) {
     form.cmdCityB.UserClick();
-    EXPECT_THAT(asked, ElementsAre(DistanceCity::kA, DistanceCity::kB));
-    SetDistanceCityPicker(nullptr);
-    form.cmdCityA.UserClick();
-    EXPECT_EQ(asked.size(), 2U);
+    ASSERT_TRUE(fCountry->IsModal());
+    EXPECT_EQ(fCountry->Owner(), &form);
+    const std::int16_t working = Settings.CityIndex;
+    fCountry->txtSearch.UserType("cairo");
+    fCountry->lstFound.UserSelect(0);
+    fCountry->cmdOK.UserClick();
+    EXPECT_EQ(form.lblCityB.Caption(), PickCityText);
+    EXPECT_EQ(form.lblCityA.Caption(), "City A is here");
+    const auto texts = Texts();
+    EXPECT_THAT(texts, ElementsAre("", "", "", "", "", "", "31", "15", "0", "30", "4", "0"));
+    EXPECT_EQ(Settings.CityIndex, working) << "the pick is not for the settings";
 }
 
 TEST_F(DistanceWindowTest, PickedCityFillsItsBoxesWithTheirSigns) {

@@ -56,8 +56,9 @@ TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmDateConvert",
-                                   "fQibla", "frmDistance", "Moon_Phases", "frmRamadan"));
+    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
+                                   "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
+                                   "frmDistance", "Moon_Phases", "frmRamadan"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -65,9 +66,10 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
-                                   "fMessage", "frmDateConvert", "fQibla", "frmDistance",
-                                   "Moon_Phases", "frmRamadan"));
+    EXPECT_THAT(
+        names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
+                           "fMessage", "frmAthan", "fCountry", "NewCoordinates", "frmWizard",
+                           "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases", "frmRamadan"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {

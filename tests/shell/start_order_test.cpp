@@ -105,6 +105,7 @@ public:
     void ShowMessage(const std::string& text, const std::string&, MessageIcon) override {
         log_.Note("message " + text);
     }
+    std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override { log_.Note("beep"); }
 
 private:
@@ -180,16 +181,29 @@ struct OrderTest : ProgramTest {
     WatchedRegistry registry{platform.registry, platform.desktop};
     WatchedGuard guard{platform.desktop};
     WatchedDialogs dialogs{platform.desktop};
-    const Platform ports{platform.clock,   platform.loop,    files,         folder,
-                         platform.formats, dialogs,          registry,      guard,
-                         platform.face,    platform.windows, platform.tray, platform.shell,
-                         platform.network};
+    const Platform ports{platform.clock,
+                         platform.loop,
+                         files,
+                         folder,
+                         platform.formats,
+                         dialogs,
+                         registry,
+                         guard,
+                         platform.face,
+                         platform.windows,
+                         platform.tray,
+                         platform.shell,
+                         platform.network,
+                         platform.athanFace,
+                         platform.audioFile,
+                         platform.audioPlayer};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };
 
 /// Up to the question for another instance. Without a stored angle this is a first run.
 const std::string kReads = R"(load frmMain
+audio mode 2
 load HoravexMainForm
 delete Dat/update.txt
 get ADD TO STARTUP
@@ -237,6 +251,12 @@ LoadMovie 0 \\skin\skin.swf
 show frmMain
 frmMain.mnuL_0
 frmMain.mnuExport
+)";
+
+/// The wizard of a first run, between the face and the second line of defence.
+const std::string kWizard = R"(read Dat/A.dat
+load frmWizard
+show frmWizard
 another instance?
 )";
 
@@ -244,7 +264,7 @@ using StartOrderTest = OrderTest;
 
 TEST_F(StartOrderTest, FirstRunGoesThroughEveryStepInTurn) {
     Start();
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
@@ -260,7 +280,7 @@ TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
 TEST_F(StartOrderTest, InstanceThatCameUpMeanwhileEndsTheStartAtItsVeryEnd) {
     guard.firstYes = 2;
     EXPECT_THROW(Start(), ProcessEnded);
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, FirstRunChoosesTheSoundBeforeTheStoredSettingsAreRead) {

@@ -206,10 +206,22 @@ public:
 
 TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
     WatchedRegistry watched;
-    const Platform ports{
-        platform.clock,   platform.loop,  platform.failingFiles,  platform.folder, platform.formats,
-        platform.dialogs, watched,        platform.instanceGuard, platform.face,   platform.windows,
-        platform.tray,    platform.shell, platform.network};
+    const Platform ports{platform.clock,
+                         platform.loop,
+                         platform.failingFiles,
+                         platform.folder,
+                         platform.formats,
+                         platform.dialogs,
+                         watched,
+                         platform.instanceGuard,
+                         platform.face,
+                         platform.windows,
+                         platform.tray,
+                         platform.shell,
+                         platform.network,
+                         platform.athanFace,
+                         platform.audioFile,
+                         platform.audioPlayer};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

@@ -4,6 +4,7 @@
 #include "platform/fixed_formats.h"
 #include "platform/fixed_instance_guard.h"
 #include "platform/manual_clock.h"
+#include "platform/memory_audio.h"
 #include "platform/memory_files.h"
 #include "platform/memory_registry.h"
 #include "platform/platform.h"
@@ -40,10 +41,14 @@ public:
     RecordingTray tray{desktop};
     RecordingShell shell{desktop};
     ScriptedNetwork network;
+    RecordingFace athanFace{desktop, "athan "};
+    MemoryAudioFile audioFile{desktop};
+    MemoryAudioPlayer audioPlayer;
 
 private:
-    Platform platform_{clock,         loop, failingFiles, folder, formats, dialogs, registry,
-                       instanceGuard, face, windows,      tray,   shell,   network};
+    Platform platform_{clock,    loop,          failingFiles, folder,     formats, dialogs,
+                       registry, instanceGuard, face,         windows,    tray,    shell,
+                       network,  athanFace,     audioFile,    audioPlayer};
 };
 
 }  // namespace horavex

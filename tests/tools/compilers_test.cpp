@@ -242,7 +242,8 @@ TEST_F(BuildSettings, MissingBandsFail) {
 }
 
 TEST_F(Compilers, WrongNumberOfArgumentsIsBadUsage) {
-    for (const char* tool : {"build_angles", "build_locations", "build_settings", "build_texts"}) {
+    for (const char* tool :
+         {"build_angles", "build_athan", "build_locations", "build_settings", "build_texts"}) {
         EXPECT_EQ(RunProgram(tool, {"a"}, {}).status, 2) << tool;
         EXPECT_EQ(RunProgram(tool, {"a", "b", "c"}, {}).status, 2) << tool;
     }

@@ -1,6 +1,7 @@
 #include "e2e/harness/sound_server.h"
 
 #include <cstdlib>
+#include <stdexcept>
 
 #include "e2e/harness/wait_until.h"
 
@@ -32,6 +33,16 @@ SoundServer::SoundServer() : server_(ServersWords(SocketPath()), ServersVariable
     WaitUntil("a sound server", [&] {
         return RunCommand({"pactl", "info"}, variables).status == 0;
     });
+}
+
+std::string SoundServer::Use(const std::vector<std::string>& words) const {
+    Environment variables = ServersVariables(folder_);
+    InstallIn(variables);
+    const ProgramRun run = RunCommand(words, variables);
+    if (run.status != 0) {
+        throw std::runtime_error(words[0] + " failed: " + run.err);
+    }
+    return run.out;
 }
 
 void SoundServer::InstallIn(Environment& variables) const {

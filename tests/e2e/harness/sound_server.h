@@ -15,6 +15,9 @@ public:
     /// Gives the server to the programs that are started with these variables.
     void InstallIn(Environment& variables) const;
 
+    /// Runs a tool on the server and returns what it prints. Throws where the tool fails.
+    std::string Use(const std::vector<std::string>& words) const;
+
     pid_t Id() const { return server_.Id(); }
 
 private:

@@ -1,0 +1,110 @@
+#include "desktop/face/azan_view.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "desktop/face/face_button.h"
+#include "desktop/face/palette.h"
+#include "desktop/face/text_line.h"
+
+namespace horavex {
+
+namespace {
+
+// All places in pixels of the face.
+constexpr QRect kFace(0, 0, 360, 200);
+constexpr QRect kText(24, 92, 312, 34);
+constexpr QRect kStop(140, 144, 80, 34);
+constexpr QPointF kMoon(176.0, 52.0);
+constexpr double kMoonRadius = 25.0;
+constexpr QPointF kShadow(185.0, 47.0);  // the disc that makes a crescent of the moon
+constexpr double kShadowRadius = 21.0;
+constexpr double kFrame = 6.5;        // of the inner frame from the edge
+constexpr double kFrameCorner = 5.0;  // its radius
+constexpr double kSignSize = 11.0;
+constexpr double kPill = 8.0;  // radius of the button's corners
+
+const TextLine::Look kTextLook{20, kCream, Qt::AlignCenter};
+
+/// The square that means stop in every language.
+class StopButton : public FaceButton {
+public:
+    explicit StopButton(QWidget* parent) : FaceButton(parent) {
+        setAccessibleName(QStringLiteral("Stop"));
+    }
+
+protected:
+    void PaintFace(QPainter& painter) override {
+        painter.setPen(kEdge);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), kPill, kPill);
+        QRectF sign(0.0, 0.0, kSignSize, kSignSize);
+        sign.moveCenter(QRectF(rect()).center());
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(kGold);
+        painter.drawRoundedRect(sign, 1.5, 1.5);
+    }
+};
+
+QPainterPath Crescent() {
+    QPainterPath moon;
+    moon.addEllipse(kMoon, kMoonRadius, kMoonRadius);
+    QPainterPath shadow;
+    shadow.addEllipse(kShadow, kShadowRadius, kShadowRadius);
+    return moon.subtracted(shadow);
+}
+
+/// A line on each side of the crescent, that fades outward.
+void DrawRays(QPainter& painter) {
+    for (const double side : {-1.0, 1.0}) {
+        const QPointF from(kFace.center().x() + side * 48.0, kMoon.y());
+        const QPointF to(kFace.center().x() + side * 140.0, kMoon.y());
+        QLinearGradient fading(from, to);
+        fading.setColorAt(0.0, kEdge);
+        fading.setColorAt(1.0, Qt::transparent);
+        painter.setPen(QPen(QBrush(fading), 1.0));
+        painter.drawLine(from, to);
+    }
+}
+
+}  // namespace
+
+AzanView::AzanView() : text_(new TextLine(this, kTextLook)) {
+    setFixedSize(kFace.size());
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    text_->setGeometry(kText);
+    auto* stop = new StopButton(this);
+    stop->setObjectName(QStringLiteral("IDC_FS_Stop"));
+    stop->setGeometry(kStop);
+    connect(stop, &QAbstractButton::clicked, this, [this] {
+        if (onCommand) {
+            onCommand("IDC_FS_Stop");
+        }
+    });
+}
+
+void AzanView::SetVariable(const std::string& name, const QString& value) {
+    if (name == "_root.character_textField") {
+        text_->ShowText(value);
+    }
+}
+
+void AzanView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0.0, 0.0, 0.0, kFace.height());
+    sky.setColorAt(0.0, kSkyTop);
+    sky.setColorAt(1.0, kSkyBottom);
+    painter.fillRect(rect(), sky);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(kGold);
+    painter.drawPath(Crescent());
+    DrawRays(painter);
+    painter.setPen(kEdge);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame), kFrameCorner,
+                            kFrameCorner);
+}
+
+}  // namespace horavex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string>
+
+namespace horavex {
+
+class TextLine;
+
+/// The face of the athan window, a still one: a crescent over the prayer's text, and a button to
+/// stop. It knows its one variable and its one command by their names.
+class AzanView : public QWidget {
+public:
+    AzanView();
+
+    /// Takes a value over; a variable that the face does not have is ignored.
+    void SetVariable(const std::string& name, const QString& value);
+
+    /// What the user asks for.
+    std::function<void(const std::string& command)> onCommand;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    TextLine* text_;
+};
+
+}  // namespace horavex

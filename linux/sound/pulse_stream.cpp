@@ -1,0 +1,185 @@
+#include "linux/sound/pulse_stream.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kName = "Horavex";
+
+// How far the server may run ahead of what is heard; a stop cuts no more off than this.
+constexpr pa_usec_t kLatency = 200 * PA_USEC_PER_MSEC;
+
+pa_buffer_attr Buffering(const pa_sample_spec& format) {
+    constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
+    return {.maxlength = kServersChoice,
+            .tlength = static_cast<std::uint32_t>(::pa_usec_to_bytes(kLatency, &format)),
+            .prebuf = kServersChoice,
+            .minreq = kServersChoice,
+            .fragsize = kServersChoice};
+}
+
+}  // namespace
+
+class PulseStream::Lock {
+public:
+    explicit Lock(PulseStream& stream) : loop_(stream.loop_.get()) {
+        ::pa_threaded_mainloop_lock(loop_);
+    }
+    ~Lock() { ::pa_threaded_mainloop_unlock(loop_); }
+    Lock(const Lock&) = delete;
+    Lock& operator=(const Lock&) = delete;
+
+private:
+    pa_threaded_mainloop* loop_;
+};
+
+PulseStream::PulseStream(const pa_sample_spec& format, Events events)
+    : format_(format), events_(std::move(events)), loop_(::pa_threaded_mainloop_new()) {
+    ::pa_threaded_mainloop_start(loop_.get());
+    const Lock lock(*this);
+    Connect();
+}
+
+// The thread ends first; from then on nothing is called. The closed connection takes the stream
+// off the server with all that was to be heard.
+PulseStream::~PulseStream() {
+    ::pa_threaded_mainloop_stop(loop_.get());
+    if (stream_ != nullptr) {
+        ::pa_stream_set_state_callback(stream_.get(), nullptr, nullptr);
+        ::pa_stream_disconnect(stream_.get());
+    }
+    stream_.reset();
+    if (context_ != nullptr) {
+        ::pa_context_set_state_callback(context_.get(), nullptr, nullptr);
+        ::pa_context_disconnect(context_.get());
+    }
+    context_.reset();
+}
+
+void PulseStream::Connect() {
+    context_.reset(::pa_context_new(::pa_threaded_mainloop_get_api(loop_.get()), kName));
+    ::pa_context_set_state_callback(
+        context_.get(),
+        [](pa_context*, void* self) { static_cast<PulseStream*>(self)->ContextChanged(); }, this);
+    if (::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
+        Fail();
+    }
+}
+
+void PulseStream::ContextChanged() {
+    const pa_context_state_t state = ::pa_context_get_state(context_.get());
+    if (state == PA_CONTEXT_READY) {
+        OpenStream();
+    } else if (!PA_CONTEXT_IS_GOOD(state)) {
+        Fail();
+    }
+}
+
+void PulseStream::OpenStream() {
+    stream_.reset(::pa_stream_new(context_.get(), kName, &format_, nullptr));
+    if (stream_ == nullptr) {
+        Fail();
+        return;
+    }
+    ::pa_stream_set_state_callback(
+        stream_.get(),
+        [](pa_stream*, void* self) { static_cast<PulseStream*>(self)->StreamChanged(); }, this);
+    ::pa_stream_set_write_callback(
+        stream_.get(),
+        [](pa_stream*, std::size_t, void* self) { static_cast<PulseStream*>(self)->Feed(); }, this);
+    const pa_buffer_attr buffering = Buffering(format_);
+    constexpr auto kFlags = static_cast<pa_stream_flags_t>(
+        PA_STREAM_ADJUST_LATENCY | PA_STREAM_AUTO_TIMING_UPDATE | PA_STREAM_INTERPOLATE_TIMING);
+    if (::pa_stream_connect_playback(stream_.get(), nullptr, &buffering, kFlags, nullptr, nullptr) <
+        0) {
+        Fail();
+    }
+}
+
+void PulseStream::StreamChanged() {
+    const pa_stream_state_t state = ::pa_stream_get_state(stream_.get());
+    if (state == PA_STREAM_READY) {
+        ready_ = true;
+        if (queue_.empty()) {
+            events_.empty();
+        }
+        Feed();
+    } else if (!PA_STREAM_IS_GOOD(state)) {
+        Fail();
+    }
+}
+
+void PulseStream::Feed() {
+    while (ready_ && !queue_.empty()) {
+        const Bytes& block = queue_.front();
+        const std::size_t room = ::pa_stream_writable_size(stream_.get());
+        if (room == 0 || room == static_cast<std::size_t>(-1)) {
+            return;
+        }
+        const std::size_t size = std::min(room, block.size() - taken_);
+        if (::pa_stream_write(stream_.get(), block.data() + taken_, size, nullptr, 0,
+                              PA_SEEK_RELATIVE) < 0) {
+            return;
+        }
+        taken_ += size;
+        if (taken_ == block.size()) {
+            queue_.pop_front();
+            taken_ = 0;
+            events_.taken();
+        }
+    }
+}
+
+void PulseStream::Queue(Bytes block) {
+    const Lock lock(*this);
+    queue_.push_back(std::move(block));
+    Feed();
+}
+
+bool PulseStream::HasQueued() {
+    const Lock lock(*this);
+    return !queue_.empty();
+}
+
+void PulseStream::Drain() {
+    const Lock lock(*this);
+    pa_operation* const operation = ::pa_stream_drain(
+        stream_.get(),
+        [](pa_stream*, int, void* self) {
+            auto& stream = *static_cast<PulseStream*>(self);
+            stream.TellOnce(stream.events_.ended);
+        },
+        this);
+    if (operation == nullptr) {
+        TellOnce(events_.ended);
+    } else {
+        ::pa_operation_unref(operation);
+    }
+}
+
+std::int64_t PulseStream::Position() {
+    const Lock lock(*this);
+    pa_usec_t heard = 0;
+    if (!ready_ || ::pa_stream_get_time(stream_.get(), &heard) < 0) {
+        return 0;
+    }
+    return static_cast<std::int64_t>(::pa_usec_to_bytes(heard, &format_));
+}
+
+void PulseStream::Fail() {
+    TellOnce(ready_ ? events_.ended : events_.unreachable);
+    ready_ = false;
+    queue_.clear();
+    taken_ = 0;
+}
+
+void PulseStream::TellOnce(const std::function<void()>& event) {
+    if (!std::exchange(told_, true)) {
+        event();
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,154 @@
+#include "athan/player.h"
+
+#include <limits>
+
+#include "athan/athan_state.h"
+#include "base/fault.h"
+#include "base/flag.h"
+#include "base/program_state.h"
+#include "platform/platform.h"
+#include "windows/frm_azan.h"
+
+namespace horavex {
+
+std::int16_t fileOpen = kFalse;
+std::int16_t playing = kFalse;
+std::int16_t Paused = kFalse;
+std::int32_t blockBytes = 0;
+std::int32_t playedBytes = 0;
+
+namespace {
+
+const ProgramStateReset reset([] {
+    fileOpen = kFalse;
+    playing = kFalse;
+    Paused = kFalse;
+    blockBytes = 0;
+    playedBytes = 0;
+});
+
+constexpr int kBlockMs = 1000;
+constexpr std::size_t kShortestBlock = 2;  // bytes; less is the end of the file
+
+std::int32_t ToPosition(std::int64_t bytes) {
+    if (bytes > std::numeric_limits<std::int32_t>::max()) {
+        throw OverflowFault("a position in a sound is too large: " + std::to_string(bytes));
+    }
+    return static_cast<std::int32_t>(bytes);
+}
+
+bool OpenSound(const std::string& path) {
+    AudioFile& file = Ports().audioFile;
+    return !path.empty() && file.Open(path) == 0 && file.HasAudio();
+}
+
+void RemoveAthanWindow() {
+    athanActive = kFalse;
+    frmAzan->Unload();
+}
+
+void Pause() {
+    Paused = kTrue;
+    if (fileOpen != kFalse) {
+        playedBytes = ToPosition(playedBytes + Ports().audioPlayer.Position());
+    }
+    Ports().audioPlayer.Pause();
+}
+
+void Resume() {
+    Paused = kFalse;
+    if (fileOpen != kFalse) {
+        playedBytes = ToPosition(Ports().audioFile.Seek(playedBytes));
+    }
+    FeedAudio();
+    FeedAudio();
+    Ports().audioPlayer.Start();
+}
+
+/// An athan and a sound that is only tried end alike.
+void AudioPlayer_EndPlay() {
+    RemoveAthanWindow();
+    StopPlay();
+}
+
+}  // namespace
+
+void OpenFileForPlay(const std::string& path) {
+    StopPlay();
+    CloseFile();
+    if (!OpenSound(path)) {
+        return;
+    }
+    AudioPlayer& player = Ports().audioPlayer;
+    player.SetFormat(Ports().audioFile.SampleRate(), Ports().audioFile.Format());
+    blockBytes = player.BytesFor(kBlockMs);
+    fileOpen = kTrue;
+    StartPlay();
+}
+
+void StartPlay() {
+    if (fileOpen == kFalse) {
+        return;
+    }
+    if (playing == kFalse) {
+        playing = kTrue;
+        Ports().audioPlayer.Start();
+        FeedAudio();
+        FeedAudio();
+    }
+    if (Paused != kFalse) {
+        PausePlay();
+    }
+}
+
+void FeedAudio() {
+    if (playing == kFalse) {
+        RemoveAthanWindow();
+        return;
+    }
+    if (fileOpen == kFalse) {
+        return;
+    }
+    const Bytes block = Ports().audioFile.Read(blockBytes);
+    // Behind the last block the player's own end of play comes.
+    if (block.size() >= kShortestBlock) {
+        Ports().audioPlayer.Write(block);
+    }
+}
+
+void PausePlay() {
+    if (playing == kFalse) {
+        return;
+    }
+    if (Paused != kFalse) {
+        Resume();
+    } else {
+        Pause();
+    }
+}
+
+void StopPlay() {
+    Ports().audioPlayer.Stop();
+    playing = kFalse;
+    Paused = kFalse;
+    playedBytes = 0;
+    if (fileOpen != kFalse) {
+        Ports().audioFile.Seek(0);
+    }
+}
+
+void CloseFile() {
+    if (fileOpen != kFalse) {
+        Ports().audioFile.Close();
+        fileOpen = kFalse;
+    }
+}
+
+void BindPlayer() {
+    AudioPlayer& player = Ports().audioPlayer;
+    player.onEndArrayPlay = FeedAudio;
+    player.onRequestOnLoadArray = FeedAudio;
+    player.onEndPlay = AudioPlayer_EndPlay;
+}
+
+}  // namespace horavex

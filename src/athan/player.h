@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace horavex {
+
+/// The player of the one sound that can play at a time. It is closed; or open and playing, paused,
+/// or stopped at its beginning. It reads a second of the file at a time and keeps two of them
+/// queued, so that a long file takes no more memory than a short one.
+
+/// Flags: a file is open; it plays, a pause included; it pauses.
+extern std::int16_t fileOpen;
+extern std::int16_t playing;
+extern std::int16_t Paused;
+
+/// Bytes that make one second of the open file, the size of one read.
+extern std::int32_t blockBytes;
+
+/// Where a pause has stopped, in bytes of samples from the beginning of the file.
+extern std::int32_t playedBytes;
+
+/// Plays the file of that real path from its beginning, in place of what plays. A file that is
+/// missing, unreadable, of an unknown format or without audio leaves nothing playing, in silence.
+void OpenFileForPlay(const std::string& path);
+
+/// Starts the open file, or resumes it.
+void StartPlay();
+
+/// Queues the next second. A player that has been stopped meanwhile takes the athan window away.
+void FeedAudio();
+
+/// Pauses, or resumes where the pause began. Nothing without a sound that plays. Throws
+/// OverflowFault for a pause behind 2,147,483,647 bytes, some three hours into a file.
+void PausePlay();
+
+/// Stops and goes back to the beginning; the file stays open.
+void StopPlay();
+
+/// Closes the open file.
+void CloseFile();
+
+/// Binds the player to the events of the audio port.
+void BindPlayer();
+
+}  // namespace horavex

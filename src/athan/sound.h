@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// What all sound buttons share.
+
+/// The real path of a file of the program folder.
+std::string FullPath(const std::string& relativePath);
+
+/// Plays a file by its real path. While a sound pauses this resumes it instead, whatever the path.
+void PlayFile(const std::string& path);
+
+void StopSound();
+
+/// Pauses the sound, or resumes it.
+void PauseSound();
+
+/// Plays the sound of Zuhr, Asr, Maghrib and Isha.
+void Athan_Sound_Click();
+
+/// Plays the sound of Fajr.
+void Fagr_Athan_Sound_Click();
+
+}  // namespace horavex

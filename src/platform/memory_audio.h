@@ -1,0 +1,90 @@
+#pragma once
+
+#include <deque>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/audio_file.h"
+#include "platform/audio_player.h"
+#include "platform/recording_desktop.h"
+
+namespace horavex {
+
+/// A sound of MemoryAudioFile.
+struct MemorySound {
+    Bytes samples;
+    int sampleRate = 100;
+    SampleFormat format{1};
+};
+
+/// Reads the sounds that it was given, by their paths; no other path opens.
+class MemoryAudioFile : public AudioFile {
+public:
+    explicit MemoryAudioFile(DesktopLog& log) : log_(log) {}
+
+    void SetMode(int mode) override { log_.Note("audio mode " + std::to_string(mode)); }
+    int Open(const std::string& path) override;
+    void Close() override { open_ = nullptr; }
+    bool HasAudio() override { return open_ != nullptr && !open_->samples.empty(); }
+    int SampleRate() override { return open_ == nullptr ? 0 : open_->sampleRate; }
+    SampleFormat Format() override { return open_ == nullptr ? SampleFormat{0} : open_->format; }
+    Bytes Read(std::int32_t bytes) override;
+    std::int64_t Seek(std::int64_t position) override;
+
+    bool IsOpen() const { return open_ != nullptr; }
+
+    std::map<std::string, MemorySound> sounds;  // by path
+    std::vector<std::string> opened;            // every path that was asked for, in order
+    std::size_t longestRead = 0;                // bytes
+
+private:
+    DesktopLog& log_;
+    const MemorySound* open_ = nullptr;
+    std::size_t position_ = 0;
+};
+
+/// Plays when the test lets time pass, block by block.
+class MemoryAudioPlayer : public AudioPlayer {
+public:
+    void SetFormat(int sampleRate, SampleFormat format) override;
+    std::int32_t BytesFor(int milliseconds) override;
+    void Start() override;
+    void Write(ByteView block) override;
+    void Pause() override;
+    void Stop() override;
+    std::int64_t Position() override { return position_; }
+
+    /// The first block is over. Nothing while nothing plays.
+    void FinishBlock();
+
+    /// So many bytes of the first block have been heard.
+    void Hear(std::int64_t bytes) { position_ += bytes; }
+
+    /// Finishes blocks until the play ends.
+    void PlayToTheEnd();
+
+    /// The device goes away while it plays.
+    void LoseDevice();
+
+    bool IsPlaying() const { return started_; }
+    std::size_t Queued() const { return queue_.size(); }
+
+    /// All that was heard, from the first start on.
+    Bytes heard;
+    std::size_t mostQueued = 0;  // blocks
+    int starts = 0;
+    bool hasDevice = true;
+
+private:
+    void End();
+
+    std::deque<Bytes> queue_;
+    int sampleRate_ = 0;
+    SampleFormat format_{0};
+    std::int64_t position_ = 0;
+    bool started_ = false;
+};
+
+}  // namespace horavex

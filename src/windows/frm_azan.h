@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+#include "forms/form.h"
+#include "forms/form_instance.h"
+#include "forms/timer.h"
+
+namespace horavex {
+
+/// The athan window, which holds a painted face of its own: the prayer's text and a command to
+/// stop. It speaks no language itself.
+class FrmAzan : public Form {
+public:
+    FrmAzan() : Form("frmAzan", {.caption = "Athan", .width = 5400, .height = 3000}) {}
+
+    /// Moves the window up while it rises.
+    Timer Timer1{*this, "Timer1", {.enabled = false, .intervalMs = 50}};
+
+    /// Whose athan it is: a prayer, 0 or 2 to 5, or -1 for one that the user asked for.
+    std::int16_t prayerIndex = 0;
+};
+
+inline const FormInstance<FrmAzan> frmAzan;
+
+}  // namespace horavex

@@ -1,0 +1,42 @@
+#include "athan/message_window.h"
+
+#include "athan/athan_state.h"
+#include "athan/player.h"
+#include "support/program_test.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+
+struct MessageWindowTest : ProgramTest {
+    MessageWindowTest() {
+        platform.audioFile.sounds["/program/Athan/athan.mp3"] = {Bytes(400), 100, {1}};
+        StartAgain();
+        fMessage->Show();
+    }
+};
+
+TEST_F(MessageWindowTest, ButtonPlaysTheSoundOfTheOtherPrayers) {
+    fMessage->Athan_Sound.UserClick();
+    EXPECT_THAT(platform.audioFile.opened, ElementsAre("/program/Athan/athan.mp3"));
+    EXPECT_EQ(playing, -1);
+}
+
+TEST_F(MessageWindowTest, UnloadStopsTheSound) {
+    fMessage->Athan_Sound.UserClick();
+    fMessage->Unload();
+    EXPECT_EQ(playing, 0);
+}
+
+TEST_F(MessageWindowTest, CancelStopsTheSoundAndTheWindowStays) {
+    fMessage->CmdCancel.SetVisible(true);
+    fMessage->Athan_Sound.UserClick();
+    fMessage->CmdCancel.UserClick();
+    EXPECT_EQ(playing, 0);
+    EXPECT_EQ(alarmDismissed, -1);
+    EXPECT_TRUE(fMessage->IsLoaded());
+}
+
+}  // namespace
+}  // namespace horavex
