@@ -12,6 +12,8 @@ public:
 
     void OpenDateTimeTool() override;
     void OpenAddress(const std::string& address) override;
+    bool StartProgram(const std::string& path) override;
+    bool OpenSystemInformation() override;
     void WriteStartupEntry(const std::string& baseName) override { entries_.Write(baseName); }
     bool HasStartupEntry(const std::string& baseName) override { return entries_.Has(baseName); }
     void DeleteStartupEntry(const std::string& baseName) override { entries_.Delete(baseName); }

@@ -1,6 +1,7 @@
 #include "lang/pack_forms.h"
 
 #include "windows/f_message.h"
+#include "windows/frm_about.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
@@ -18,7 +19,7 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm>();
+    return Make<FrmMain, SettingsForm, MessageForm, AboutForm>();
 }
 
 }  // namespace horavex

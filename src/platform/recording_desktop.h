@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/fault.h"
 #include "platform/face.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
@@ -94,6 +95,14 @@ public:
 
     void OpenDateTimeTool() override { log_.Note("OpenDateTimeTool"); }
     void OpenAddress(const std::string& address) override { log_.Note("OpenAddress " + address); }
+    bool StartProgram(const std::string& path) override {
+        log_.Note("StartProgram " + path);
+        return startsPrograms;
+    }
+    bool OpenSystemInformation() override {
+        log_.Note("OpenSystemInformation");
+        return hasSystemInformation;
+    }
     void WriteStartupEntry(const std::string& baseName) override {
         log_.Note("WriteStartupEntry " + baseName);
         startupEntries.insert(baseName);
@@ -103,6 +112,9 @@ public:
     }
     void DeleteStartupEntry(const std::string& baseName) override {
         log_.Note("DeleteStartupEntry " + baseName);
+        if (keepsStartupEntries) {
+            throw FileFault(StartupEntryPath(baseName), "not allowed");
+        }
         startupEntries.erase(baseName);
     }
     std::string StartupEntryPath(const std::string& baseName) override {
@@ -110,6 +122,9 @@ public:
     }
 
     std::set<std::string> startupEntries;
+    bool keepsStartupEntries = false;  // refuses to delete
+    bool startsPrograms = true;
+    bool hasSystemInformation = true;
 
 private:
     DesktopLog& log_;

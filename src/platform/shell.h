@@ -15,6 +15,12 @@ public:
     /// Opens a document or an address with what the user has for it; nothing where there is none.
     virtual void OpenAddress(const std::string& address) = 0;
 
+    /// Starts a program, by its path, in a window of its own. False where that fails.
+    virtual bool StartProgram(const std::string& path) = 0;
+
+    /// Opens the desktop's tool that tells about the machine. False where there is none.
+    virtual bool OpenSystemInformation() = 0;
+
     /// The entry with which the user's session starts this program. Writing it again renews it.
     /// Throw FileFault where the entry cannot be written or deleted.
     virtual void WriteStartupEntry(const std::string& baseName) = 0;

@@ -1,7 +1,7 @@
 #include "shell/menus.h"
 
 #include "athan/athan_alert.h"
-#include "base/flag.h"
+#include "config/about_window.h"
 #include "config/settings_window.h"
 #include "forms/modal_loop.h"
 #include "lang/language_menu.h"
@@ -9,7 +9,8 @@
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
-#include "update/connection_probes.h"
+#include "update/open_address.h"
+#include "update/update_check.h"
 #include "update/web_server.h"
 #include "windows/frm_main.h"
 
@@ -17,22 +18,17 @@ namespace horavex {
 
 namespace {
 
-void OpenIt(const std::string& target) {
-    Ports().shell.OpenAddress(target);
-}
-
 /// For entries whose windows are still to come.
 void TellThatWindowIsMissing() {
     Ports().dialogs.ShowMessage("This window is not there yet.", "", MessageIcon::kNone);
 }
 
 void BindMissingWindows() {
-    for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuAthanSettings,
-          &frmMain->mnuPrayerTimes, &frmMain->mnuWizard, &frmMain->mnuDateConversion,
-          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuChangeCity,
+                            &frmMain->mnuAthanSettings, &frmMain->mnuPrayerTimes,
+                            &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
+                            &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuHelpIndex,
+                            &frmMain->mnuPopQibla, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
 }
@@ -65,11 +61,7 @@ void mnuPopShow_Click() {
 }
 
 void mnuPopVisitWebSite_Click() {
-    if (IsOnline() == kFalse) {
-        Ports().dialogs.ShowMessage(GetConnectionSummary(), "", MessageIcon::kNone);
-        return;
-    }
-    OpenIt(WebServer() + "/");
+    OpenPage(WebServer() + "/");
 }
 
 void BindMenus() {
@@ -79,6 +71,8 @@ void BindMenus() {
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
+    frmMain->mnuAbout.onClick = ShowAboutWindow;
+    frmMain->mnuUpdate.onClick = Update;
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;

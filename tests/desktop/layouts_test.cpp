@@ -8,6 +8,7 @@
 #include "forms/focusable.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/frm_about.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
@@ -81,6 +82,7 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
                          testing::Values([]() -> Form* { return &*fMessage; },
+                                         []() -> Form* { return &*frmAbout; },
                                          []() -> Form* { return &*HoravexMainForm; }),
                          [](const auto& form) { return form.param()->Name(); });
 

@@ -4,6 +4,7 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/frm_about.h"
 
 namespace horavex {
 namespace {
@@ -118,6 +119,20 @@ TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
     EXPECT_THAT(Messages(), ElementsAre("No internet connection."));
 }
 
+TEST_F(MenusTest, AboutEntryShowsTheWindowModalOverTheFace) {
+    frmMain->mnuAbout.UserClick();
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmAbout", "show frmAbout", "modal frmAbout"));
+    EXPECT_EQ(frmAbout->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, UpdateEntryChecks) {
+    platform.network.connection = {true, kLanConnection};
+    frmMain->mnuUpdate.UserClick();
+    EXPECT_THAT(platform.network.requests,
+                ElementsAre("https://horavex.invalid/update/update.txt"));
+}
+
 TEST_F(MenusTest, EmailEntryDoesNothing) {
     frmMain->mnuPopEmailUS.UserClick();
     EXPECT_THAT(platform.desktop.calls, IsEmpty());
@@ -125,11 +140,11 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
-                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuAthanSettings, &frmMain->mnuPrayerTimes,
+          &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
+          &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuHelpIndex,
+          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
         platform.dialogs.messages.clear();
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();

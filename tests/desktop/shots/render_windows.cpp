@@ -3,12 +3,18 @@
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER
 #include <QApplication>
 
+#include "base/flag.h"
+#include "config/about_window.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
 #include "engine/progress.h"
+#include "lang/language_pack.h"
+#include "support/build_folder.h"
+#include "support/run_program.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/frm_about.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
@@ -102,12 +108,24 @@ void ShowMessage(bool arabic) {
     ReportProgress(60.0);
 }
 
+void ShowAbout(bool arabic) {
+    const std::string pack = ContentOf(BuiltProgramFolder() + "/lang/Arabic.ini");
+    Ports().programFolder.WriteWhole("lang\\Arabic.ini", BytesOf(pack));
+    currentLanguage = "Arabic";
+    languageFilesPresent = arabic ? kTrue : kFalse;
+    BindAboutWindow();
+    frmAbout->Unload();
+    frmAbout->Show();
+}
+
 void RenderAll(const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     arabic ? TellArabic(face) : TellEnglish(face);
     Save(windows, *frmMain, "face-" + language);
     ShowSettings(arabic);
     Save(windows, *HoravexMainForm, "settings-" + language);
+    ShowAbout(arabic);
+    Save(windows, *frmAbout, "about-" + language);
     ShowMessage(arabic);
     Save(windows, *fMessage, "progress-" + language);
 }
