@@ -71,4 +71,17 @@ bool QtShell::OpenSystemInformation() {
     return StartFirst(kSystemInformationTools);
 }
 
+void QtShell::ShowHelp(const HelpView& view) {
+    if (help_ == nullptr) {
+        help_ = std::make_unique<HelpWindow>();
+    }
+    help_->Show(view);
+}
+
+void QtShell::CloseHelp() {
+    if (help_ != nullptr) {
+        help_->hide();
+    }
+}
+
 }  // namespace horavex

@@ -4,6 +4,7 @@
 
 #include "base/number_text.h"
 #include "base/steps.h"
+#include "config/help.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"
@@ -100,6 +101,7 @@ void DiscardEdits() {
 }
 
 void HoravexMainForm_QueryUnload(CloseRequest& request) {
+    CloseHelp();
     if (request.reason == CloseReason::kUser || request.reason == CloseReason::kCode) {
         request.cancel = true;
         DiscardEdits();

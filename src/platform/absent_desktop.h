@@ -42,6 +42,8 @@ public:
     void OpenAddress(const std::string&) override {}
     bool StartProgram(const std::string&) override { return false; }
     bool OpenSystemInformation() override { return false; }
+    void ShowHelp(const HelpView&) override {}
+    void CloseHelp() override {}
     void WriteStartupEntry(const std::string&) override {}
     bool HasStartupEntry(const std::string&) override { return false; }
     void DeleteStartupEntry(const std::string&) override {}

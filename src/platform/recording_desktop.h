@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -103,6 +104,11 @@ public:
         log_.Note("OpenSystemInformation");
         return hasSystemInformation;
     }
+    void ShowHelp(const HelpView& view) override {
+        log_.Note("ShowHelp " + view.pages.at(view.page).title);
+        help = view;
+    }
+    void CloseHelp() override { help.reset(); }
     void WriteStartupEntry(const std::string& baseName) override {
         log_.Note("WriteStartupEntry " + baseName);
         startupEntries.insert(baseName);
@@ -125,6 +131,7 @@ public:
     bool keepsStartupEntries = false;  // refuses to delete
     bool startsPrograms = true;
     bool hasSystemInformation = true;
+    std::optional<HelpView> help;  // what the viewer shows
 
 private:
     DesktopLog& log_;

@@ -2,6 +2,7 @@
 
 #include "athan/athan_alert.h"
 #include "config/about_window.h"
+#include "config/help.h"
 #include "config/settings_window.h"
 #include "forms/modal_loop.h"
 #include "lang/language_menu.h"
@@ -24,13 +25,17 @@ void TellThatWindowIsMissing() {
 }
 
 void BindMissingWindows() {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuChangeCity,
-                            &frmMain->mnuAthanSettings, &frmMain->mnuPrayerTimes,
-                            &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
-                            &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuPopQibla, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuAthanSettings,
+          &frmMain->mnuPrayerTimes, &frmMain->mnuWizard, &frmMain->mnuDateConversion,
+          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuPopQibla,
+          &frmMain->mnuPopExport}) {
         entry->onClick = TellThatWindowIsMissing;
     }
+}
+
+void mnuHelpIndex_Click() {
+    ShowHelpContext(kHelpIndex);
 }
 
 }  // namespace
@@ -72,10 +77,12 @@ void BindMenus() {
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
     frmMain->mnuAbout.onClick = ShowAboutWindow;
+    frmMain->mnuHelpIndex.onClick = mnuHelpIndex_Click;
     frmMain->mnuUpdate.onClick = Update;
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
+    frmMain->mnuPopHelp.onClick = mnuHelpIndex_Click;
     frmMain->mnuPopExit.onClick = mnuExit_Click;
 }
 

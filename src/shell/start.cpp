@@ -9,6 +9,7 @@
 #include "base/program_version.h"
 #include "base/text.h"
 #include "config/about_window.h"
+#include "config/help.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/settings_window.h"
@@ -108,6 +109,7 @@ void TranslateMainForm() {
 
 void HoravexMainForm_Load() {
     programFolder = "\\";
+    InitHelp(HoravexMainForm->Name(), programFolder);
     LoadActiveSettings();
     RefuseSecondInstance();
     fMessage->Load();
@@ -181,6 +183,7 @@ void BindWindows() {
     BindSettingsWindow();
     BindUpdateCheck();
     BindAboutWindow();
+    BindHelp();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

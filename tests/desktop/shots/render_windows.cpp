@@ -5,9 +5,11 @@
 
 #include "base/flag.h"
 #include "config/about_window.h"
+#include "config/help_topics.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/ports/help_window.h"
 #include "engine/progress.h"
 #include "lang/language_pack.h"
 #include "support/build_folder.h"
@@ -118,6 +120,33 @@ void ShowAbout(bool arabic) {
     frmAbout->Show();
 }
 
+/// Every page of the help, as the built program folder has it.
+void RenderHelp(const std::string& language) {
+    const std::string help = BuiltProgramFolder() + "/help/" + language + "/";
+    HelpView view{.owner = "",
+                  .place = {0, 0, 1024, 1024},
+                  .title = "Help",
+                  .contents = "",
+                  .back = "Back",
+                  .forward = "Forward",
+                  .pages = {},
+                  .page = 0};
+    for (const std::string& page :
+         HelpTopics(ContentOf(BuiltProgramFolder() + "/Horavex.HLP")).Pages()) {
+        const std::string text = ContentOf(help + page);
+        const std::size_t title = text.find("<title>") + 7;
+        view.pages.push_back({text.substr(title, text.find("</title>") - title), help + page});
+    }
+    HelpWindow window;
+    for (; view.page < view.pages.size(); ++view.page) {
+        window.Show(view);
+        window.resize(820, 620);
+        QApplication::processEvents();
+        window.grab().save(folder + "/help-" + QString::fromStdString(language) +
+                           QString::number(view.page) + ".png");
+    }
+}
+
 void RenderAll(const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     arabic ? TellArabic(face) : TellEnglish(face);
@@ -143,5 +172,7 @@ int main(int argc, char** argv) {
     frmMain->Show();
     RenderAll(windows, false);
     RenderAll(windows, true);
+    RenderHelp("English");
+    RenderHelp("Arabic");
     return 0;
 }
