@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -318,6 +319,14 @@ void FormWindow::resizeEvent(QResizeEvent*) {
         form_.SetWidth(TwipsOf(size_.width()));
         form_.SetHeight(TwipsOf(size_.height()));
     });
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1 && !retired_) {
+        RunGuarded([this] { form_.UserHelp(); });
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {

@@ -8,6 +8,7 @@
 #include "ui_fCountry.h"
 #include "ui_fMessage.h"
 #include "ui_fQibla.h"
+#include "ui_frmAbout.h"
 #include "ui_frmAthan.h"
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
@@ -47,6 +48,7 @@ Layouts DrawnLayouts() {
         {"frmDistance", Fill<Ui::frmDistance>},
         {"frmRamadan", Fill<Ui::frmRamadan>},
         {"frmWizard", Fill<Ui::frmWizard>},
+        {"frmAbout", Fill<Ui::frmAbout>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
         {"Moon_Phases", Fill<Ui::Moon_Phases>},
     };

@@ -6,6 +6,7 @@
 #include "base/number_text.h"
 #include "base/steps.h"
 #include "config/city_choice.h"
+#include "config/help.h"
 #include "config/new_coordinates.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
@@ -101,6 +102,7 @@ void DiscardEdits() {
 }
 
 void HoravexMainForm_QueryUnload(CloseRequest& request) {
+    CloseHelp();
     if (request.reason == CloseReason::kUser || request.reason == CloseReason::kCode) {
         request.cancel = true;
         DiscardEdits();

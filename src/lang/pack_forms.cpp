@@ -3,6 +3,7 @@
 #include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_about.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
@@ -28,8 +29,8 @@ std::vector<std::unique_ptr<Form>> Make() {
 
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
-                WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm,
-                RamadanForm>();
+                WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
+                AboutForm>();
 }
 
 }  // namespace horavex

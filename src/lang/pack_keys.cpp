@@ -31,10 +31,11 @@ std::vector<std::string> OtherKeys() {
 }  // namespace
 
 const std::vector<PackSection>& PackVocabularies() {
-    static const std::vector<PackSection> sections = {{"msg", MessageKeys()},
-                                                      {"other", OtherKeys()},
-                                                      {"Azan", {"0", "2", "3", "4", "5"}},
-                                                      {"desktop", {"NoTray"}}};
+    static const std::vector<PackSection> sections = {
+        {"msg", MessageKeys()},
+        {"other", OtherKeys()},
+        {"Azan", {"0", "2", "3", "4", "5"}},
+        {"desktop", {"NoTray", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}}};
     return sections;
 }
 

@@ -3,7 +3,9 @@
 #include "athan/athan_alert.h"
 #include "base/flag.h"
 #include "calendar/date_conversion_window.h"
+#include "config/about_window.h"
 #include "config/city_choice.h"
+#include "config/help.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
 #include "forms/modal_loop.h"
@@ -15,7 +17,8 @@
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
-#include "update/connection_probes.h"
+#include "update/open_address.h"
+#include "update/update_check.h"
 #include "update/web_server.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
@@ -24,10 +27,6 @@ namespace horavex {
 
 namespace {
 
-void OpenIt(const std::string& target) {
-    Ports().shell.OpenAddress(target);
-}
-
 /// For entries whose windows are still to come.
 void TellThatWindowIsMissing() {
     Ports().dialogs.ShowMessage("This window is not there yet.", "", MessageIcon::kNone);
@@ -35,11 +34,9 @@ void TellThatWindowIsMissing() {
 
 void BindMissingWindows() {
     for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-          &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuPopExport}) {
         entry->onClick = TellThatWindowIsMissing;
     }
-    frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
 }
 
 void BindTools() {
@@ -48,6 +45,10 @@ void BindTools() {
     frmMain->mnuDistance.onClick = ShowDistance;
     frmMain->mnuMoonPhases.onClick = ShowMoonPhases;
     frmMain->mnuPopQibla.onClick = ShowQibla;
+}
+
+void mnuHelpIndex_Click() {
+    ShowHelpContext(kHelpIndex);
 }
 
 }  // namespace
@@ -78,11 +79,7 @@ void mnuPopShow_Click() {
 }
 
 void mnuPopVisitWebSite_Click() {
-    if (IsOnline() == kFalse) {
-        Ports().dialogs.ShowMessage(GetConnectionSummary(), "", MessageIcon::kNone);
-        return;
-    }
-    OpenIt(WebServer() + "/");
+    OpenPage(WebServer() + "/");
 }
 
 void BindMenus() {
@@ -96,9 +93,14 @@ void BindMenus() {
     frmMain->mnuWizard.onClick = ShowWizard;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
+    frmMain->mnuAbout.onClick = ShowAboutWindow;
+    frmMain->mnuHelpIndex.onClick = mnuHelpIndex_Click;
+    frmAthan->AthanSettingHelp.onClick = mnuHelpIndex_Click;
+    frmMain->mnuUpdate.onClick = Update;
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
+    frmMain->mnuPopHelp.onClick = mnuHelpIndex_Click;
     frmMain->mnuPopExit.onClick = mnuExit_Click;
 }
 

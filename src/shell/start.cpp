@@ -10,7 +10,10 @@
 #include "base/flag.h"
 #include "base/prayer_names.h"
 #include "base/program_state.h"
+#include "base/program_version.h"
 #include "base/text.h"
+#include "config/about_window.h"
+#include "config/help.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/settings_window.h"
@@ -40,6 +43,7 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "update/update_check.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
@@ -54,7 +58,6 @@ const ProgramStateReset reset([] { programFolder.clear(); });
 
 constexpr double kFaceLeft = -89.0;  // the face's outer margin lies outside the window
 constexpr double kFaceTop = -67.0;
-constexpr const char* kTitle = "Horavex";
 
 /// What the engine reaches above itself.
 class ShellDayHost : public DayHost {
@@ -64,16 +67,6 @@ public:
     void RunSetAction() override { SetSettings(); }
     void SetFlashVariables() override { horavex::SetFlashVariables(); }
 };
-
-void DeleteUpdateFile() {
-    try {
-        if (Ports().programFolder.Exists("Dat\\update.txt")) {
-            Ports().programFolder.Delete("Dat\\update.txt");
-        }
-    } catch (const FileFault&) {
-        // A scratch file: what cannot be deleted stays.
-    }
-}
 
 void LoadIshaAngleAtStart() {
     if (LoadIshaAngle()) {
@@ -86,7 +79,7 @@ void RefuseSecondInstance() {
     if (!Ports().instanceGuard.AnotherIsRunning()) {
         return;
     }
-    Ports().dialogs.ShowMessage(TextItem(54, ActiveSettings.Language), kTitle,
+    Ports().dialogs.ShowMessage(TextItem(54, ActiveSettings.Language), kProgramTitle,
                                 MessageIcon::kCritical);
     Ports().eventLoop.EndProcess();
 }
@@ -117,6 +110,7 @@ void TranslateMainForm() {
 
 void HoravexMainForm_Load() {
     programFolder = "\\";
+    InitHelp(HoravexMainForm->Name(), programFolder);
     LoadActiveSettings();
     RefuseSecondInstance();
     fMessage->Load();
@@ -133,7 +127,7 @@ void HoravexMainForm_Load() {
 
 void SettingsForm_Load() {
     TranslateOnLoad(*HoravexMainForm);
-    DeleteUpdateFile();
+    ClearUpdateFile();
     LoadStartupWish();
     LoadCustomAthanFiles();
     LoadIshaAngleAtStart();
@@ -195,6 +189,9 @@ void BindWindows() {
     BindMessageWindow();
     BindAthanSettingsWindow();
     BindSettingsWindow();
+    BindUpdateCheck();
+    BindAboutWindow();
+    BindHelp();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

@@ -111,6 +111,17 @@ public:
 
     /// The zone box as it stood when it last gained the focus.
     std::string lastTimeZoneText;
+
+    /// The update check, with what it shows while it runs, the way to the web site and the help.
+    Label VisitWebSiteLabel{*this, "VisitWebSiteLabel", {.caption = "Check for an update"}};
+    Label lblInternetConnect{*this,
+                             "lblInternetConnect",
+                             {.caption = "Checking internet connection ", .visible = false}};
+    ProgressBar ProgressBar1{*this, "ProgressBar1", {.visible = false, .max = 10}};
+    CommandButton AboutUpdateButton{*this, "AboutUpdateButton", {.caption = "Visit Our Site"}};
+    CommandButton QiblaHelpButton{fraQibla, "QiblaHelpButton", {.caption = "Help"}};
+    CommandButton SettingsHelp{*this, "SettingsHelp", {.caption = "Help on settings"}};
+    CommandButton Help{*this, "Help", {.caption = "Help Index"}};
 };
 
 inline const FormInstance<SettingsForm> HoravexMainForm;

@@ -12,6 +12,7 @@
 #include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_about.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_azan.h"
 #include "windows/frm_date_convert.h"
@@ -96,16 +97,19 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(
     DrawnForms, LayoutsTest,
-    testing::Values([]() -> Form* { return &*fMessage; },
-                    []() -> Form* { return &*HoravexMainForm; },
-                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
-                    []() -> Form* { return &*frmDistance; },
-                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
-                    []() -> Form* { return &*frmAthan; },
-                    []() -> Form* { return &*NewCoordinates; },
-                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; }),
-    [](const auto& form) { return form.param()->Name(); });
-
+    testing::Values([]() -> Form* {
+    return &*fMessage; }, []() -> Form* {
+    return &*HoravexMainForm; }, []() -> Form* {
+    return &*frmDateConvert; }, []() -> Form* {
+    return &*fQibla; }, []() -> Form* {
+    return &*frmDistance; }, []() -> Form* {
+    return &*Moon_Phases; }, []() -> Form* {
+    return &*frmRamadan; }, []() -> Form* {
+    return &*frmAthan; }, []() -> Form* {
+    return &*NewCoordinates; }, []() -> Form* {
+    return &*fCountry; }, []() -> Form* {
+    return &*frmWizard; }, []() -> Form* {
+    return &*frmAbout; })
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;
     QtFace face;
