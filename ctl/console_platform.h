@@ -27,12 +27,14 @@ class ConsoleDialogs : public Dialogs {
 public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
     void Beep() override {}
+    std::string SaveFile(const FileRequest&, const std::string&) override { return {}; }
 };
 
 /// The system's clock, or a clock of the user's choice.
 class ConsoleClock : public Clock {
 public:
     Date Now() const override { return choice_ ? choice_() : system_.Now(); }
+    Date UniversalNow() const override { return system_.UniversalNow(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
 
     /// Shows that moment for good.

@@ -15,6 +15,7 @@ Date LocalDate(std::time_t moment);
 class SystemClock : public Clock {
 public:
     Date Now() const override;
+    Date UniversalNow() const override;
     double SteadySeconds() const override;
 };
 

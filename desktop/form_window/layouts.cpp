@@ -2,6 +2,7 @@
 
 #include "ui_HoravexMainForm.h"
 #include "ui_fMessage.h"
+#include "ui_frmTimes.h"
 
 namespace horavex {
 
@@ -17,6 +18,7 @@ void Fill(QWidget& window) {
 Layouts DrawnLayouts() {
     return {
         {"fMessage", Fill<Ui::fMessage>},
+        {"frmTimes", Fill<Ui::frmTimes>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
     };
 }

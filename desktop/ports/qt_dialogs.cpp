@@ -1,6 +1,8 @@
 #include "desktop/ports/qt_dialogs.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QFileDialog>
 #include <QMessageBox>
 
 namespace horavex {
@@ -23,6 +25,17 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// "label|pattern;pattern|" over and over, as the toolkit has it: "label (pattern pattern)".
+QStringList FiltersOf(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        filters << parts[i] + " (" + patterns.replace(u';', u' ') + ")";
+    }
+    return filters;
+}
+
 }  // namespace
 
 void QtDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
@@ -36,6 +49,20 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
 
 void QtDialogs::Beep() {
     QApplication::beep();
+}
+
+std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
+    const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
+    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QString::fromStdString(suffix));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
 
 }  // namespace horavex

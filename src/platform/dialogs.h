@@ -6,6 +6,13 @@ namespace horavex {
 
 enum class MessageIcon { kNone, kInformation, kExclamation, kCritical };
 
+/// Which file a user is asked for.
+struct FileRequest {
+    std::string title;
+    std::string filter;  // "label|pattern;pattern|" over and over
+    int filterIndex;     // the label that comes first, 1-based
+};
+
 /// What is asked of the user outside the program's own windows.
 class Dialogs {
 public:
@@ -18,6 +25,10 @@ public:
 
     /// The system's beep, which returns at once.
     virtual void Beep() = 0;
+
+    /// The real path of a file to write, or empty where the user chose none. A name without a
+    /// suffix gets the given one, ".txt" for example; one that is there is asked about.
+    virtual std::string SaveFile(const FileRequest& request, const std::string& suffix) = 0;
 };
 
 }  // namespace horavex

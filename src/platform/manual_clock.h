@@ -23,6 +23,8 @@ public:
     }
 
     Date Now() const override { return now_; }
+    /// The local zone is that of Greenwich.
+    Date UniversalNow() const override { return now_; }
     double SteadySeconds() const override { return steadyMilliseconds_ / 1000.0; }
 
 private:

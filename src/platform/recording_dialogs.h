@@ -7,7 +7,7 @@
 
 namespace horavex {
 
-/// Writes down each message box and closes it at once.
+/// Writes down each message box and closes it at once; answers for the user who saves a file.
 class RecordingDialogs : public Dialogs {
 public:
     struct Message {
@@ -22,7 +22,19 @@ public:
 
     void Beep() override { ++beeps; }
 
+    std::string SaveFile(const FileRequest& request, const std::string& suffix) override {
+        saveRequests.push_back({request, suffix});
+        return savedFile;
+    }
+
+    struct SaveRequest {
+        FileRequest request;
+        std::string suffix;
+    };
+
     std::vector<Message> messages;
+    std::vector<SaveRequest> saveRequests;
+    std::string savedFile;  // empty for a user who cancels
     int beeps = 0;
 };
 

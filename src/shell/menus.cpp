@@ -9,6 +9,8 @@
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
+#include "timetables/export_command.h"
+#include "timetables/times_window.h"
 #include "update/connection_probes.h"
 #include "update/web_server.h"
 #include "windows/frm_main.h"
@@ -28,11 +30,10 @@ void TellThatWindowIsMissing() {
 
 void BindMissingWindows() {
     for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuAthanSettings,
-          &frmMain->mnuPrayerTimes, &frmMain->mnuWizard, &frmMain->mnuDateConversion,
-          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-          &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+         {&frmMain->mnuChangeCity, &frmMain->mnuAthanSettings, &frmMain->mnuWizard,
+          &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
+          &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex, &frmMain->mnuUpdate,
+          &frmMain->mnuPopQibla, &frmMain->mnuPopHelp}) {
         entry->onClick = TellThatWindowIsMissing;
     }
 }
@@ -75,13 +76,16 @@ void mnuPopVisitWebSite_Click() {
 void BindMenus() {
     BindMissingWindows();
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
+    frmMain->mnuExport.onClick = mnuExport_Click;
     frmMain->mnuExit.onClick = mnuExit_Click;
+    frmMain->mnuPrayerTimes.onClick = ShowTimesWindow;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
+    frmMain->mnuPopExport.onClick = mnuExport_Click;
     frmMain->mnuPopExit.onClick = mnuExit_Click;
 }
 

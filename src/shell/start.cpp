@@ -36,6 +36,7 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/times_window.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
@@ -188,6 +189,7 @@ void BindWindows() {
     InstallUndefinedAngleReport();
     BindMessageWindow();
     BindSettingsWindow();
+    BindTimesWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

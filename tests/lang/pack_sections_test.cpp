@@ -47,7 +47,7 @@ TEST_F(PackSectionsTest, RuntimeMembersAskForNoKey) {
     EXPECT_THAT(FormPackKeys(form), Not(Contains("mnuL_1")));
 }
 
-TEST_F(PackSectionsTest, FormsAreTheThreeLongLivedWindowsAsDefined) {
+TEST_F(PackSectionsTest, FormsStandAsDefined) {
     frmMain->SetCaption("changed");
     frmMain->mnuL.Load(1);
     std::vector<std::string> names;
@@ -56,7 +56,7 @@ TEST_F(PackSectionsTest, FormsAreTheThreeLongLivedWindowsAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage"));
+    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmTimes"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -64,12 +64,12 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
-                                   "fMessage"));
+    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
+                                   "HoravexMainForm", "fMessage", "frmTimes"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[4].keys;
+    const auto keys = PackSections()[5].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

@@ -4,6 +4,7 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/frm_times.h"
 
 namespace horavex {
 namespace {
@@ -118,6 +119,22 @@ TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
     EXPECT_THAT(Messages(), ElementsAre("No internet connection."));
 }
 
+TEST_F(MenusTest, PrayerTimesEntryAndTheFacesCommandOpenTheDayBrowserModally) {
+    frmMain->mnuPrayerTimes.UserClick();
+    platform.face.onFSCommand("IDC_FS_allTimes", "");
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmTimes", "show frmTimes", "modal frmTimes", "show frmTimes",
+                            "modal frmTimes"));
+    EXPECT_EQ(frmTimes->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, BothExportEntriesAskForAFile) {
+    frmMain->mnuExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 1U);
+    frmMain->mnuPopExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 2U);
+}
+
 TEST_F(MenusTest, EmailEntryDoesNothing) {
     frmMain->mnuPopEmailUS.UserClick();
     EXPECT_THAT(platform.desktop.calls, IsEmpty());
@@ -125,11 +142,10 @@ TEST_F(MenusTest, EmailEntryDoesNothing) {
 }
 
 TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuAthanSettings,
-                            &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
+    for (MenuItem* entry :
+         {&frmMain->mnuAthanSettings, &frmMain->mnuWizard, &frmMain->mnuDateConversion,
+          &frmMain->mnuQibla, &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
+          &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopHelp}) {
         platform.dialogs.messages.clear();
         entry->UserClick();
         EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
