@@ -59,6 +59,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddZoneCommands(app, session);
     AddCitiesCommand(app, session);
     AddTextCommands(app, session);
+    AddExportCommand(app, session);
     AddValidateCommand(app, session);
 }
 
