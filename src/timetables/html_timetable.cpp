@@ -15,7 +15,8 @@ constexpr const char* kStyle = R"css(
 @media (prefers-color-scheme: dark) { :root { --line: #46566a; --soft: #1d2733; --mark: #8fbbe8; } }
 body { font: 16px/1.4 system-ui, "Noto Sans", "DejaVu Sans", sans-serif; margin: 0 auto;
   max-width: 60rem; padding: 1rem; }
-h1 { font-size: 1.5rem; margin: 0 0 .5rem; }
+h1 { font-size: 1.5rem; margin: 0; }
+.place { font-size: 1.2rem; margin: 0 0 .5rem; }
 section { margin-top: 1.5rem; }
 caption { color: var(--mark); font-size: 1.2rem; font-weight: 600; text-align: start; }
 dl { display: flex; flex-wrap: wrap; gap: .25rem 1.5rem; margin: 0 0 1rem; }
@@ -114,7 +115,7 @@ std::string TimeCell(const TimetableDay& day, const std::optional<double>& hours
     }
     const DayMinute at = MinuteOf(day.date, *hours);
     return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
-           "\">" + Escaped(Ports().formats.MediumTime(*hours / 24.0)) + "</time></td>";
+           "\" dir=\"auto\">" + Escaped(Ports().formats.MediumTime(*hours / 24.0)) + "</time></td>";
 }
 
 std::string RowAttributes(const TimetableDay& day, Date today) {
@@ -161,7 +162,7 @@ std::string Month(const Timetable& table, const TimetableWords& words, int month
 }  // namespace
 
 std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, Date today) {
-    const std::string title = Escaped(words.title + ", " + table.place);
+    const std::string title = Escaped(words.title) + " " + std::to_string(table.year);
     std::string months;
     for (int month = 1; month <= 12; ++month) {
         months += Month(table, words, month, today);
@@ -169,10 +170,10 @@ std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, D
     return "<!DOCTYPE html>\n<html lang=\"" + Escaped(words.code) + "\" dir=\"" +
            (words.rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n" +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           title + "</title>\n<style>" + kStyle + "</style>\n</head>\n<body>\n<header>\n<h1>" +
-           title + " " + std::to_string(table.year) + "</h1>\n" + Facts(table, words) +
-           "</header>\n" + Contents(table, words) + "<main>\n" + months +
-           "</main>\n</body>\n</html>\n";
+           title + ", " + Escaped(table.place) + "</title>\n<style>" + kStyle +
+           "</style>\n</head>\n<body>\n<header>\n<h1>" + title + "</h1>\n<p class=\"place\"><bdi>" +
+           Escaped(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
+           Contents(table, words) + "<main>\n" + months + "</main>\n</body>\n</html>\n";
 }
 
 }  // namespace horavex

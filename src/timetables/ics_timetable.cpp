@@ -78,13 +78,21 @@ std::string PlaceId(const Timetable& table) {
     return Hundredths(table.latitude) + Hundredths(table.longitude);
 }
 
-/// Another year or place has another zone, since its days of daylight saving may differ.
-std::string ZoneId(const Timetable& table) {
-    return "Horavex/" + std::to_string(table.year) + PlaceId(table);
-}
-
 double OffsetOf(const Timetable& table, bool daylight) {
     return table.timeZone + (daylight ? 1.0 : 0.0);
+}
+
+/// Another clock has another name, since a calendar may keep the zones of earlier imports: year,
+/// offset on the first of January and the days on which it changes.
+std::string ZoneId(const Timetable& table) {
+    std::string id = "Horavex/" + std::to_string(table.year) + "/" +
+                     OffsetText(OffsetOf(table, table.days.front().daylight));
+    for (const TimetableDay& day : table.days) {
+        if (day.change != DaylightChange::kNone) {
+            id += "/" + CompactDate(day.date).substr(4);
+        }
+    }
+    return id;
 }
 
 /// A clock that begins on a day, which it rules from its first minute on. Wound back, it shows the

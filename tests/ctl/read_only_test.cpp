@@ -45,6 +45,7 @@ constexpr const char* kCalls[] = {
     "text --entry 12 --language 4",
     "lang --section msg --key 1",
     "lang --section msg --key 1 --language Arabic",
+    "export --city Cairo --year 2026 --format json --output /dev/null/year.json",
     "validate",
     "--help",
 };

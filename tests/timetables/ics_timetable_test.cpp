@@ -71,7 +71,7 @@ TEST_F(IcsTimetableTest, FirstEventIsTheFirstDaysFajrWithAnAlarm) {
     EXPECT_THAT(Calendar(), HasSubstr("BEGIN:VEVENT\r\n"
                                       "UID:20260101-fajr+3005+3125@horavex.invalid\r\n"
                                       "DTSTAMP:20261121T123456Z\r\n"
-                                      "DTSTART;TZID=Horavex/2026+3005+3125:20260101T050000\r\n"
+                                      "DTSTART;TZID=Horavex/2026/+0200:20260101T050000\r\n"
                                       "SUMMARY:Fajr\r\n"
                                       "LOCATION:Cairo - Egypt\r\n"
                                       "GEO:30.05;31.25\r\n"
@@ -130,6 +130,14 @@ TEST_F(IcsTimetableTest, DaylightSavingChangesTheClockAtTheBeginningOfItsDays) {
                                     "TZOFFSETFROM:+0300", "TZOFFSETTO:+0200", "END:STANDARD"));
 }
 
+TEST_F(IcsTimetableTest, OtherClockHasAZoneOfAnotherName) {
+    EXPECT_THAT(LinesWith("TZID:"), ElementsAre("TZID:Horavex/2026/+0200"));
+    Daylight(121, 273);
+    EXPECT_THAT(LinesWith("TZID:"), ElementsAre("TZID:Horavex/2026/+0200/0501/0930"));
+    Daylight(274, 91);
+    EXPECT_THAT(LinesWith("TZID:"), ElementsAre("TZID:Horavex/2026/+0300/0401/1001"));
+}
+
 TEST_F(IcsTimetableTest, SouthernSummerBeginsTheYearWithDaylightSaving) {
     Daylight(274, 91);
     const auto zone = Zone();
@@ -155,7 +163,7 @@ TEST_F(IcsTimetableTest, IshaBehindMidnightLiesOnTheNextDayAndKeepsItsIdentifier
     Times[kIsha][151] = 24.3;
     EXPECT_THAT(Calendar(), HasSubstr("UID:20260601-isha+3005+3125@horavex.invalid\r\n"
                                       "DTSTAMP:20261121T123456Z\r\n"
-                                      "DTSTART;TZID=Horavex/2026+3005+3125:20260602T001800\r\n"));
+                                      "DTSTART;TZID=Horavex/2026/+0200:20260602T001800\r\n"));
 }
 
 TEST_F(IcsTimetableTest, TimeThatDoesNotExistIsNoEvent) {
