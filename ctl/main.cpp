@@ -62,6 +62,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddMoonCommands(app, session);
     AddCalendarCommands(app, session);
     AddDistanceCommand(app, session);
+    AddExportCommand(app, session);
     AddValidateCommand(app, session);
 }
 

@@ -41,6 +41,12 @@ Date SystemClock::Now() const {
     return LocalDate(now.tv_sec);
 }
 
+Date SystemClock::UniversalNow() const {
+    std::timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return DateSerial(1970, 1, 1) + static_cast<double>(now.tv_sec) / kSecondsPerDay;
+}
+
 double SystemClock::SteadySeconds() const {
     std::timespec now = {};
     ::clock_gettime(CLOCK_MONOTONIC, &now);

@@ -13,6 +13,7 @@
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
 #include "ui_frmRamadan.h"
+#include "ui_frmTimes.h"
 #include "ui_frmWizard.h"
 
 namespace horavex {
@@ -49,6 +50,7 @@ Layouts DrawnLayouts() {
         {"frmRamadan", Fill<Ui::frmRamadan>},
         {"frmWizard", Fill<Ui::frmWizard>},
         {"frmAbout", Fill<Ui::frmAbout>},
+        {"frmTimes", Fill<Ui::frmTimes>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
         {"Moon_Phases", Fill<Ui::Moon_Phases>},
     };

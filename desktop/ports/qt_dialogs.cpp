@@ -36,6 +36,19 @@ QStringList FiltersOf(const QString& filter) {
     return filters;
 }
 
+/// The path that the user chooses; empty for none.
+std::string Ask(QFileDialog& dialog, const FileRequest& request) {
+    const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
+    dialog.setWindowTitle(QString::fromStdString(request.title));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
+}
+
 }  // namespace
 
 void QtDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
@@ -48,16 +61,16 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
 }
 
 std::string QtDialogs::OpenFile(const FileRequest& request) {
-    const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
-    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    QFileDialog dialog(QApplication::activeWindow());
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
-    if (dialog.exec() != QDialog::Accepted) {
-        return {};
-    }
-    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
+    return Ask(dialog, request);
+}
+
+std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QString::fromStdString(suffix));
+    return Ask(dialog, request);
 }
 
 }  // namespace horavex

@@ -9,6 +9,7 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
@@ -30,7 +31,7 @@ std::vector<std::unique_ptr<Form>> Make() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm>();
+                AboutForm, TimesForm>();
 }
 
 }  // namespace horavex

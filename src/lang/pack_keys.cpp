@@ -28,6 +28,21 @@ std::vector<std::string> OtherKeys() {
     return keys;
 }
 
+/// What a written timetable says; its months and weekdays are numbered.
+std::vector<std::string> TimetableKeys() {
+    std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",    "Hijri",
+                                     "Fajr",      "Shurooq",   "Zuhr",      "Asr",    "Maghrib",
+                                     "Isha",      "Latitude",  "Longitude", "Zone",   "FajrAngle",
+                                     "IshaAngle", "AsrRatio",  "Qibla",     "Begins", "Ends"};
+    for (const std::string& month : Numbers(1, 12)) {
+        keys.push_back("Month" + month);
+    }
+    for (const std::string& weekday : Numbers(0, 6)) {
+        keys.push_back("Weekday" + weekday);
+    }
+    return keys;
+}
+
 }  // namespace
 
 const std::vector<PackSection>& PackVocabularies() {
@@ -35,7 +50,8 @@ const std::vector<PackSection>& PackVocabularies() {
         {"msg", MessageKeys()},
         {"other", OtherKeys()},
         {"Azan", {"0", "2", "3", "4", "5"}},
-        {"desktop", {"NoTray", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}}};
+        {"desktop", {"NoTray", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
+        {"timetables", TimetableKeys()}};
     return sections;
 }
 

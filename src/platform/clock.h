@@ -22,6 +22,9 @@ public:
     /// Local date and time of this moment, to the second or finer.
     virtual Date Now() const = 0;
 
+    /// Date and time of this moment in Greenwich (UTC).
+    virtual Date UniversalNow() const = 0;
+
     /// Seconds of a clock that only goes forward, for spans. The zero is arbitrary.
     virtual double SteadySeconds() const = 0;
 

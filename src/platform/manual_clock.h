@@ -32,6 +32,8 @@ public:
         const auto next = offsets_.upper_bound(day);
         return next == offsets_.begin() ? ClockOffset{} : std::prev(next)->second;
     }
+    /// The local zone is that of Greenwich.
+    Date UniversalNow() const override { return now_; }
     double SteadySeconds() const override { return steadyMilliseconds_ / 1000.0; }
 
 private:

@@ -17,6 +17,9 @@
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
+#include "timetables/export_command.h"
+#include "timetables/times_window.h"
+#include "update/connection_probes.h"
 #include "update/open_address.h"
 #include "update/update_check.h"
 #include "update/web_server.h"
@@ -26,18 +29,6 @@
 namespace horavex {
 
 namespace {
-
-/// For entries whose windows are still to come.
-void TellThatWindowIsMissing() {
-    Ports().dialogs.ShowMessage("This window is not there yet.", "", MessageIcon::kNone);
-}
-
-void BindMissingWindows() {
-    for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuPopExport}) {
-        entry->onClick = TellThatWindowIsMissing;
-    }
-}
 
 void BindTools() {
     frmMain->mnuDateConversion.onClick = ShowDateConversion;
@@ -83,10 +74,11 @@ void mnuPopVisitWebSite_Click() {
 }
 
 void BindMenus() {
-    BindMissingWindows();
     BindTools();
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
+    frmMain->mnuExport.onClick = mnuExport_Click;
     frmMain->mnuExit.onClick = mnuExit_Click;
+    frmMain->mnuPrayerTimes.onClick = ShowTimesWindow;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
     frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition
@@ -101,6 +93,7 @@ void BindMenus() {
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
     frmMain->mnuPopHelp.onClick = mnuHelpIndex_Click;
+    frmMain->mnuPopExport.onClick = mnuExport_Click;
     frmMain->mnuPopExit.onClick = mnuExit_Click;
 }
 

@@ -43,6 +43,7 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/times_window.h"
 #include "update/update_check.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
@@ -192,6 +193,7 @@ void BindWindows() {
     BindUpdateCheck();
     BindAboutWindow();
     BindHelp();
+    BindTimesWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

@@ -52,6 +52,7 @@ constexpr const char* kCalls[] = {
     "hijri --date 2026-11-21",
     "gregorian --date 1448-6-11",
     "distance --from 30:3:0N,31:15:0E --to mecca --unit km",
+    "export --city Cairo --year 2026 --format json --output /dev/null/year.json",
     "validate",
     "--help",
 };

@@ -19,6 +19,7 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
@@ -97,19 +98,17 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(
     DrawnForms, LayoutsTest,
-    testing::Values([]() -> Form* {
-    return &*fMessage; }, []() -> Form* {
-    return &*HoravexMainForm; }, []() -> Form* {
-    return &*frmDateConvert; }, []() -> Form* {
-    return &*fQibla; }, []() -> Form* {
-    return &*frmDistance; }, []() -> Form* {
-    return &*Moon_Phases; }, []() -> Form* {
-    return &*frmRamadan; }, []() -> Form* {
-    return &*frmAthan; }, []() -> Form* {
-    return &*NewCoordinates; }, []() -> Form* {
-    return &*fCountry; }, []() -> Form* {
-    return &*frmWizard; }, []() -> Form* {
-    return &*frmAbout; })
+    testing::Values([]() -> Form* { return &*fMessage; },
+                    []() -> Form* { return &*HoravexMainForm; },
+                    []() -> Form* { return &*frmAbout; }, []() -> Form* { return &*frmAthan; },
+                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
+                    []() -> Form* { return &*frmDistance; },
+                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
+                    []() -> Form* { return &*NewCoordinates; },
+                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
+                    []() -> Form* { return &*frmTimes; }),
+    [](const auto& form) { return form.param()->Name(); });
+
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;
     QtFace face;

@@ -15,12 +15,13 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowAndTheDesktop) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(4));
+TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowTheDesktopAndTimetables) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(5));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
     EXPECT_EQ(Section(3).name, "desktop");
+    EXPECT_EQ(Section(4).name, "timetables");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {

@@ -47,6 +47,13 @@ TEST(SystemClock, NowIsTheRunningSecond) {
     EXPECT_EQ(clock.Today(), std::floor(now));
 }
 
+TEST(SystemClock, UniversalTimeKnowsNoZone) {
+    const ScopedVariable zone("TZ", "XXX-14");
+    const SystemClock clock;
+    const double ahead = clock.Now() - clock.UniversalNow();
+    EXPECT_NEAR(ahead * 24.0, 14.0, 0.01);
+}
+
 TEST(SystemClock, SteadyClockGoesForward) {
     const SystemClock clock;
     const double start = clock.SteadySeconds();

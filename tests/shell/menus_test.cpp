@@ -10,6 +10,7 @@
 #include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
+#include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/moon_phases.h"
 
@@ -141,6 +142,15 @@ TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
     EXPECT_THAT(Messages(), ElementsAre("No internet connection."));
 }
 
+TEST_F(MenusTest, PrayerTimesEntryAndTheFacesCommandOpenTheDayBrowserModally) {
+    frmMain->mnuPrayerTimes.UserClick();
+    platform.face.onFSCommand("IDC_FS_allTimes", "");
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmTimes", "show frmTimes", "modal frmTimes", "show frmTimes",
+                            "modal frmTimes"));
+    EXPECT_EQ(frmTimes->Owner(), &*frmMain);
+}
+
 TEST_F(MenusTest, AboutEntryShowsTheWindowModalOverTheFace) {
     frmMain->mnuAbout.UserClick();
     EXPECT_THAT(platform.desktop.calls,
@@ -169,19 +179,17 @@ TEST_F(MenusTest, UpdateEntryChecks) {
                 ElementsAre("https://horavex.invalid/update/update.txt"));
 }
 
+TEST_F(MenusTest, BothExportEntriesAskForAFile) {
+    frmMain->mnuExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 1U);
+    frmMain->mnuPopExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 2U);
+}
+
 TEST_F(MenusTest, EmailEntryDoesNothing) {
     frmMain->mnuPopEmailUS.UserClick();
     EXPECT_THAT(platform.desktop.calls, IsEmpty());
     EXPECT_THAT(Messages(), IsEmpty());
-}
-
-TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry :
-         {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuPopExport}) {
-        platform.dialogs.messages.clear();
-        entry->UserClick();
-        EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
-    }
 }
 
 TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {

@@ -28,6 +28,9 @@ public:
         Note("read ", path);
         return files_.OpenForReading(path);
     }
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override {
+        return files_.OpenForWriting(path);
+    }
     void WriteWhole(const std::string& path, ByteView bytes) override {
         Note("write ", path);
         files_.WriteWhole(path, bytes);
@@ -107,6 +110,7 @@ public:
     }
     std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override { log_.Note("beep"); }
+    std::string SaveFile(const FileRequest&, const std::string&) override { return {}; }
 
 private:
     DesktopLog& log_;
