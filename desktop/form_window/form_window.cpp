@@ -271,6 +271,10 @@ bool FormWindow::event(QEvent* event) {
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     QPushButton* button = nullptr;
+    if (event->key() == Qt::Key_F1 && !retired_) {
+        RunGuarded([this] { form_.UserHelp(); });
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         button = ButtonForEnter(*this);
     } else if (event->key() == Qt::Key_Escape && property(kCancels).toBool()) {
@@ -319,14 +323,6 @@ void FormWindow::resizeEvent(QResizeEvent*) {
         form_.SetWidth(TwipsOf(size_.width()));
         form_.SetHeight(TwipsOf(size_.height()));
     });
-}
-
-void FormWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1 && !retired_) {
-        RunGuarded([this] { form_.UserHelp(); });
-    } else {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
