@@ -159,8 +159,8 @@ TEST_F(AthanProgramTest, PrayersArrivalRisesSoundsStopsAndComesBackInItsTenSecon
     ExpectHeard(recording, start, others);
     desktop.SaveScreen("athan");
 
-    PressStop(window);
     const std::size_t stopped = recording.Taken().size();
+    PressStop(window);
     const std::size_t silent = recording.WaitForSilence(stopped);
     std::cout << "silent " << Stretch{stopped, silent}.Seconds() << " s after Stop\n";
     EXPECT_LT((Stretch{stopped, silent}.Seconds()), 0.3);
