@@ -21,7 +21,7 @@ namespace horavex {
 ///
 /// A layout may name its window "placedByProgram": the place is then the form's alone, the window
 /// takes no keyboard as it comes up, and while it lies outside all screens it is hidden, since not
-/// every desktop lets a window be put there.
+/// every desktop lets a window be put there. No modal window shuts it off.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -64,6 +64,7 @@ private:
     void FollowDrawing();
     void Present();
     const QWidget* OwnerOrModalWindow() const;
+    void LetPlacedWindowsBeUsed() const;
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
