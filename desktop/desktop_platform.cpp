@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <utility>
 
+#include "desktop/fault_box.h"
 #include "linux/folders.h"
 #include "windows/frm_main.h"
 
@@ -22,7 +23,9 @@ RegistryFile FindRegistry(Files& files) {
 
 // The player's thread must not outlive the platform; what it has posted by then is dropped there.
 void PostToProgramThread(std::function<void()> event) {
-    QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(event), Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [event = std::move(event)] { RunGuarded(event); },
+        Qt::QueuedConnection);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include "desktop/fault_box.h"
+
 namespace horavex {
 
 void AzanFace::SetVariable(const std::string& name, const std::string& value) {
@@ -17,7 +19,7 @@ void AzanFace::Fill(QWidget& window) {
     view_ = new AzanView;
     view_->onCommand = [this](const std::string& command) {
         if (onFSCommand) {
-            onFSCommand(command, {});
+            RunGuarded([&] { onFSCommand(command, {}); });
         }
     };
     auto* layout = new QVBoxLayout(&window);

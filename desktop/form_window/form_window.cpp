@@ -50,10 +50,12 @@ QSize SizeOf(const Form& form) {
     return {PixelsOf(form.Width()), PixelsOf(form.Height())};
 }
 
+constexpr const char* kPlacedByProgram = "placedByProgram";
+
 /// True for a window that its program alone places.
 bool LayOut(QWidget& window, const Layout& layout) {
     layout(window);
-    return window.property("placedByProgram").toBool();
+    return window.property(kPlacedByProgram).toBool();
 }
 
 constexpr const char* kCancels = "cancels";
@@ -217,6 +219,9 @@ void FormWindow::Present() {
     winId();  // makes the window of the platform, which the owner is set on
     const QWidget* over = OwnerOrModalWindow();
     windowHandle()->setTransientParent(over == nullptr ? nullptr : over->windowHandle());
+    if (form_.IsModal()) {
+        LetPlacedWindowsBeUsed();
+    }
     if (owner_ != nullptr && owner_->isVisible() && place_.isNull()) {
         resize(size().expandedTo(minimumSizeHint()));
         move(owner_->frameGeometry().center() - rect().center());
@@ -227,6 +232,15 @@ void FormWindow::Present() {
 // A window that comes up by itself over a modal one would be shut off without it.
 const QWidget* FormWindow::OwnerOrModalWindow() const {
     return owner_ != nullptr ? owner_.data() : QApplication::activeModalWidget();
+}
+
+// An athan can be stopped whatever window is open: what belongs to a modal window is not shut off.
+void FormWindow::LetPlacedWindowsBeUsed() const {
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->property(kPlacedByProgram).toBool() && window->windowHandle() != nullptr) {
+            window->windowHandle()->setTransientParent(windowHandle());
+        }
+    }
 }
 
 void FormWindow::FollowFocus() {

@@ -21,7 +21,7 @@ namespace horavex {
 ///
 /// A layout may name its window "placedByProgram": the place is then the form's alone, the window
 /// takes no keyboard as it comes up, and while it lies outside all screens it is hidden, since not
-/// every desktop lets a window be put there.
+/// every desktop lets a window be put there. No modal window shuts it off.
 ///
 /// Enter presses the button that has the focus, or else the layout's default button; Escape the
 /// one that the layout marks with the property "cancels", or closes a window that is marked so.
@@ -68,6 +68,7 @@ private:
     void FollowDrawing();
     void Present();
     const QWidget* OwnerOrModalWindow() const;
+    void LetPlacedWindowsBeUsed() const;
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;

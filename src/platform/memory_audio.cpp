@@ -19,13 +19,13 @@ void Fire(const std::function<void()>& event) {
 int MemoryAudioFile::Open(const std::string& path) {
     opened.push_back(path);
     const auto found = sounds.find(path);
-    open_ = found == sounds.end() ? nullptr : &found->second;
+    open_ = found == sounds.end() ? std::nullopt : std::optional(found->second);
     position_ = 0;
-    return open_ == nullptr ? kNoSuchFile : 0;
+    return open_ ? 0 : kNoSuchFile;
 }
 
 Bytes MemoryAudioFile::Read(std::int32_t bytes) {
-    if (open_ == nullptr) {
+    if (!open_) {
         return {};
     }
     longestRead = std::max(longestRead, static_cast<std::size_t>(bytes));
@@ -38,7 +38,7 @@ Bytes MemoryAudioFile::Read(std::int32_t bytes) {
 }
 
 std::int64_t MemoryAudioFile::Seek(std::int64_t position) {
-    if (open_ == nullptr) {
+    if (!open_) {
         return 0;
     }
     const std::int64_t moment = open_->format.MomentBytes();

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,21 +20,22 @@ struct MemorySound {
     SampleFormat format{1};
 };
 
-/// Reads the sounds that it was given, by their paths; no other path opens.
+/// Reads the sounds that it was given, by their paths; no other path opens. What is open stays
+/// readable when its path goes to another sound.
 class MemoryAudioFile : public AudioFile {
 public:
     explicit MemoryAudioFile(DesktopLog& log) : log_(log) {}
 
     void SetMode(int mode) override { log_.Note("audio mode " + std::to_string(mode)); }
     int Open(const std::string& path) override;
-    void Close() override { open_ = nullptr; }
-    bool HasAudio() override { return open_ != nullptr && !open_->samples.empty(); }
-    int SampleRate() override { return open_ == nullptr ? 0 : open_->sampleRate; }
-    SampleFormat Format() override { return open_ == nullptr ? SampleFormat{0} : open_->format; }
+    void Close() override { open_.reset(); }
+    bool HasAudio() override { return open_.has_value() && !open_->samples.empty(); }
+    int SampleRate() override { return open_ ? open_->sampleRate : 0; }
+    SampleFormat Format() override { return open_ ? open_->format : SampleFormat{0}; }
     Bytes Read(std::int32_t bytes) override;
     std::int64_t Seek(std::int64_t position) override;
 
-    bool IsOpen() const { return open_ != nullptr; }
+    bool IsOpen() const { return open_.has_value(); }
 
     std::map<std::string, MemorySound> sounds;  // by path
     std::vector<std::string> opened;            // every path that was asked for, in order
@@ -41,7 +43,7 @@ public:
 
 private:
     DesktopLog& log_;
-    const MemorySound* open_ = nullptr;
+    std::optional<MemorySound> open_;
     std::size_t position_ = 0;
 };
 

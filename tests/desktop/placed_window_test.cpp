@@ -80,6 +80,20 @@ TEST_F(PlacedWindowTest, WorkAreaIsThatOfTheScreen) {
     EXPECT_EQ(port.WorkArea().bottom, area.height() * 15.0);
 }
 
+TEST_F(PlacedWindowTest, ModalWindowThatIsOpenedLaterDoesNotShutItOff) {
+    form.Load();
+    MoveTo(1500, 1500);
+    form.Show();
+    QTimer::singleShot(0, [&] {
+        EXPECT_EQ(Window().windowHandle()->transientParent(), windows.Find(&modal)->windowHandle());
+        modal.Unload();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+    modal.ShowModal();
+    QApplication::processEvents();
+    EXPECT_TRUE(Window().isVisible());
+}
+
 TEST_F(PlacedWindowTest, WindowThatComesUpOverAModalOneCanBeUsed) {
     form.Load();
     MoveTo(1500, 1500);

@@ -159,8 +159,8 @@ TEST_F(AthanProgramTest, PrayersArrivalRisesSoundsStopsAndComesBackInItsTenSecon
     ExpectHeard(recording, start, others);
     desktop.SaveScreen("athan");
 
-    PressStop(window);
     const std::size_t stopped = recording.Taken().size();
+    PressStop(window);
     const std::size_t silent = recording.WaitForSilence(stopped);
     std::cout << "silent " << Stretch{stopped, silent}.Seconds() << " s after Stop\n";
     EXPECT_LT((Stretch{stopped, silent}.Seconds()), 0.3);
@@ -285,6 +285,57 @@ TEST_F(AthanProgramTest, AlarmBeepsUntilItIsClosedAndComesBackInItsTenSeconds) {
     EXPECT_FALSE(desktop.IsOnView(program, again));
     // Two before the window was closed, one of the second time.
     EXPECT_EQ(SoundsIn(recording.Taken()).size(), 3U);
+}
+
+/// The window of the athan's settings, opened by its menu entry.
+class AthanSettingsProgramTest : public AthanProgramTest {
+protected:
+    std::string OpenSettings(const ChildProcess& program) const {
+        const std::size_t windows = desktop.WindowsOf(program).size();
+        Click(face, 143, 120);
+        WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() == windows + 1; });
+        desktop.PressKey("a");
+        return desktop.WaitForWindow(program, "Athan Settings");
+    }
+
+    // The buttons of the Fajr group.
+    static constexpr int kListen = 63;
+    static constexpr int kPause = 151;
+    static constexpr int kStop = 239;
+    static constexpr int kButtons = 153;
+};
+
+TEST_F(AthanSettingsProgramTest, SoundIsTriedPausedResumedAndStopped) {
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    const std::string settings = OpenSettings(program);
+    Click(settings, kListen, kButtons);
+    const std::size_t start = recording.WaitForSound();
+    recording.Continue(2.0);
+    desktop.SaveScreen("athan-settings");
+    Click(settings, kPause, kButtons);
+    const std::size_t paused = recording.WaitForSilence(start);
+    Click(settings, kPause, kButtons);
+    const std::size_t resumed = recording.WaitForSound(paused);
+    recording.Continue(1.0);
+    Click(settings, kStop, kButtons);
+    const std::size_t stopped = recording.Taken().size();
+    EXPECT_LT((Stretch{stopped, recording.WaitForSilence(stopped)}.Seconds()), 0.3);
+    EXPECT_GT((Stretch{start, paused}.Seconds()), 1.9);
+    EXPECT_GT(resumed, paused);
+}
+
+TEST_F(AthanSettingsProgramTest, AthanThatComesUpOverItCanBeStopped) {
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    OpenSettings(program);
+    GoTo(3);
+    const std::string window = WaitForAthan(program);
+    const std::size_t start = recording.WaitForSound();
+    SetClock(SecondOf(3) + 60);
+    PressStop(window);
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+    recording.WaitForSilence(start);
 }
 
 long ProportionalKilobytes(const ChildProcess& program) {

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "e2e/harness/faked_clock.h"
+#include "e2e/harness/sink_recording.h"
 #include "e2e/harness/sound_server.h"
 #include "e2e/harness/test_desktop.h"
 #include "e2e/harness/tray_host.h"
@@ -45,6 +46,24 @@ TEST(HarnessTest, SoundServerHasItsSinkAndEndsWithItsObject) {
     const pid_t process = server->Id();
     server.reset();
     EXPECT_FALSE(Lives(process));
+}
+
+TEST(HarnessTest, RecordingHoldsWhatTheDevicePlays) {
+    const SoundServer server;
+    const SinkRecording recording(server);
+    const TemporaryFolder folder;
+    const Samples sound = Glide(1.0, 400.0, 700.0);
+    WriteWav(folder / "a.wav", sound);
+    server.Use({"paplay", folder / "a.wav"});
+    const std::size_t start = recording.WaitForSound();
+    recording.WaitForSilence(start);
+    const Samples recorded = recording.Taken();
+    const std::vector<Stretch> sounds = SoundsIn(recorded);
+    ASSERT_EQ(sounds.size(), 1U);
+    EXPECT_NEAR(sounds[0].Seconds(), 1.0, 0.05);
+    EXPECT_GT(Likeness(recorded, start, sound, 0, kWavRate / 4), 0.98);
+    EXPECT_LT(Likeness(recorded, start, Glide(1.0, 900.0, 800.0), 0, kWavRate / 4), 0.3);
+    EXPECT_NEAR(PlaceIn(sound, recorded, start + kWavRate / 2), 0.5, 0.02);
 }
 
 TEST(HarnessTest, TrayHostOwnsTheSelectionOfTheDisplay) {
