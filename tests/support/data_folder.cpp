@@ -141,7 +141,7 @@ void DataFolder::WriteSample() {
     WriteBand(-1, {20, 18, 5});
     WriteBand(4500, {17, 17, 4});
     WriteBand(5100, {12, 12, 3});
-    WriteTexts(89);
+    WriteTexts(90);
     Write("Dat/AI.DAT", RecordOf(SampleSettings()));
     Write("Dat/Settings.DAT", RecordOf(SampleSettings()));
 }
