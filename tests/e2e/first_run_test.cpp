@@ -58,15 +58,13 @@ protected:
     }
 
     /// Types a name into the picker, which stands open: the first Enter shows the best hit in the
-    /// lists, the next one accepts it; those that come while the lists are filled do nothing.
+    /// lists, the second accepts it.
     void PickCity(const ChildProcess& program, const std::string& name) const {
         const std::string picker = desktop.WaitForWindow(program, kPickerTitle);
         desktop.Use({"xdotool", "windowactivate", "--sync", picker, "type", name});
         desktop.SaveScreen("first-run-picker-" + name);
-        WaitUntil("a picked city", [&] {
-            RunCommand({"xdotool", "key", "--window", picker, "Return"}, desktop.variables);
-            return !desktop.IsOnView(program, picker);
-        });
+        Press(picker, {"Return", "Return"});
+        WaitUntilGone(program, picker);
     }
 
     /// Waits until a commit is through; the working record is the last that it writes.
