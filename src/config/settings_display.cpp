@@ -119,11 +119,13 @@ void TranslateSettingsWindow(std::int16_t language) {
         {&form.chkAlarm, 50},          {&form.lblAlarmAt, 51},        {&form.fraQibla, 68},
         {&form.optQiblaMethod(1), 70}, {&form.optQiblaMethod(2), 71}, {&form.cmdQibla, 68},
         {&form.fraLanguage, 24},       {&form.cmdComputerZone, 78},   {&form.lblMethod, 79},
-        {&form.chkAddToStartup, 66},   {&form.cmdDefault, 73},        {&form.SettingsSet, 72},
+        {&form.fraAngles, 90},         {&form.chkAddToStartup, 66},   {&form.cmdDefault, 73},
+        {&form.SettingsSet, 72},
     };
     for (const auto& [control, entry] : captions) {
         control->SetCaption(TextItem(entry, language));
     }
+    form.lblCityBanner.SetCaption(TextItem(25, language) + ": " + ActiveCityText);
     form.SetCaption("Horavex " + TextItem(19, language));
     ListMethods(*HoravexMainForm, language);
 }

@@ -241,8 +241,14 @@ bool ChooseBestHit() {
     return true;
 }
 
+/// While cities come in the selection is not the user's yet: an OK would take a city of another
+/// country.
+bool IsFilling() {
+    return !fCountry->lstcountry.Enabled();
+}
+
 void cmdOK_Click() {
-    if (ChooseBestHit()) {
+    if (IsFilling() || ChooseBestHit()) {
         return;
     }
     const std::int16_t cityIndex = PickedCity();

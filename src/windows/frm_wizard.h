@@ -23,7 +23,7 @@ public:
     WizardForm()
         : Form("frmWizard", {.caption = "Horavex Prayer Times Configuration Wizard",
                              .width = 9300,
-                             .height = 8400}) {}
+                             .height = 7350}) {}
 
     ControlArray<horavex::Frame> Frame{
         *this,

@@ -231,7 +231,7 @@ INSTANTIATE_TEST_SUITE_P(
                                "Dat/SI.DAt: the countries do not hold all cities"},
                     LostRecord{"Dat/PI.DAT", 2, "Dat/CI.DAT: record "},
                     LostRecord{"Dat/RI.DAT", 2, "Dat/RI.DAT: not one rank"},
-                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 89 entries"}));
+                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 90 entries"}));
 
 }  // namespace
 }  // namespace horavex

@@ -154,6 +154,16 @@ TEST_F(CityPickerTest, AnotherCountryDuringAFillTakesItsPlace) {
     EXPECT_TRUE(picker.lstcountry.Enabled());
 }
 
+TEST_F(CityPickerTest, OkDuringAFillIsTooSoon) {
+    Open();
+    platform.loop.AtPump(platform.loop.Pumps() + 2, [&] { picker.cmdOK.UserClick(); });
+    picker.txtSearch.UserType("jakarta");
+    picker.cmdOK.UserClick();
+    EXPECT_TRUE(picker.Visible());
+    EXPECT_EQ(Settings.CityIndex, kMeccaCityIndex);
+    EXPECT_EQ(picker.lstcity.Text(), "Jakarta, Jakarta");
+}
+
 TEST_F(CityPickerTest, LookUpDuringAFillDoesNotStopIt) {
     ASSERT_TRUE(LoadCityPicker());
     platform.loop.AtPump(platform.loop.Pumps() + 2, [] {
