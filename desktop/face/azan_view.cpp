@@ -12,8 +12,9 @@ namespace horavex {
 
 namespace {
 
-// All places in pixels of the face.
-constexpr QRect kFace(0, 0, 360, 200);
+// All places in pixels of the face. The window stands with its lowest 26 pixels below the screen.
+constexpr QRect kFace(0, 0, 360, 226);
+constexpr QRect kOnScreen(0, 0, 360, 199);
 constexpr QRect kText(24, 92, 312, 34);
 constexpr QRect kStop(140, 144, 80, 34);
 constexpr QPointF kMoon(176.0, 52.0);
@@ -103,8 +104,8 @@ void AzanView::paintEvent(QPaintEvent*) {
     painter.setPen(kEdge);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame), kFrameCorner,
-                            kFrameCorner);
+    painter.drawRoundedRect(QRectF(kOnScreen).adjusted(kFrame, kFrame, -kFrame, -kFrame),
+                            kFrameCorner, kFrameCorner);
 }
 
 }  // namespace horavex

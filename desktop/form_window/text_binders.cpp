@@ -15,7 +15,9 @@ void FrameBinder::Show() {
 
 void LabelBinder::Show() {
     widget.setTextFormat(Qt::PlainText);
-    widget.setText(QString::fromStdString(control.Caption()));
+    // A label marks the key of the control that it stands before.
+    widget.setText(widget.buddy() == nullptr ? QString::fromStdString(control.Caption())
+                                             : ShownCaption(control, widget));
     const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
     widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                         Qt::AlignVCenter);

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/number_text.h"
+#include "engine/angle.h"
 #include "forms/show_modal.h"
 #include "geo/city_picker.h"
 #include "geo/distance.h"

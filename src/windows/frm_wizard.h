@@ -71,7 +71,7 @@ public:
     Label lblCity2{Frame2(2), "lblCity2", {.caption = "City"}};
     Label lblLocationLat{Frame2(2), "lblLocationLat"};
     Label lblLocationLon{Frame2(2), "lblLocationLon"};
-    Label lblTimeZone{Frame2(2), "lblTimeZone"};
+    Label lblTimeZone{Frame2(2), "lblTimeZone", {.caption = "Time Zone"}};
     Label lblGMT{Frame2(2), "lblGMT", {.caption = "GMT"}};
     TextBox txtTimeZone{Frame2(2), "txtTimeZone"};
     CommandButton cmdComputerZone{Frame2(2),

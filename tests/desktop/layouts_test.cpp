@@ -3,19 +3,25 @@
 #include <QApplication>
 #include <QTabBar>
 
+#include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
 #include "support/test_platform.h"
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_athan.h"
+#include "windows/frm_azan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 namespace {
@@ -88,15 +94,17 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
-                         testing::Values([]() -> Form* { return &*fMessage; },
-                                         []() -> Form* { return &*HoravexMainForm; },
-                                         []() -> Form* { return &*frmDateConvert; },
-                                         []() -> Form* { return &*fQibla; },
-                                         []() -> Form* { return &*frmDistance; },
-                                         []() -> Form* { return &*Moon_Phases; },
-                                         []() -> Form* { return &*frmRamadan; }),
-                         [](const auto& form) { return form.param()->Name(); });
+INSTANTIATE_TEST_SUITE_P(
+    DrawnForms, LayoutsTest,
+    testing::Values([]() -> Form* { return &*fMessage; },
+                    []() -> Form* { return &*HoravexMainForm; },
+                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
+                    []() -> Form* { return &*frmDistance; },
+                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
+                    []() -> Form* { return &*frmAthan; },
+                    []() -> Form* { return &*NewCoordinates; },
+                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; }),
+    [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;
@@ -107,6 +115,18 @@ TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const QWidget& window = *windows.Find(&*frmMain);
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_EQ(window.size(), QSize(420, 420));
+}
+
+TEST(FaceLayout, FrmAzanShowsItsFaceInAWindowOfItsOwnSize) {
+    const TestPlatform platform;
+    AzanFace face;
+    const FormWindows windows{Layouts{{"frmAzan", [&](QWidget& window) { face.Fill(window); }}}};
+    EXPECT_EQ(ControlNames(*frmAzan), QStringList());
+    frmAzan->Show();
+    const QWidget& window = *windows.Find(&*frmAzan);
+    EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(window.size(), QSize(360, 226));
+    EXPECT_EQ(window.size() * 15, QSize(5400, 3390)) << "the form's own size in twips";
 }
 
 }  // namespace

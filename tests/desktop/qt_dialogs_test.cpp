@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QTimer>
+#include <fstream>
+
+#include "support/temporary_folder.h"
 
 namespace horavex {
 namespace {
@@ -43,6 +47,48 @@ TEST(QtDialogs, ArabicTextTurnsTheBoxRound) {
         EXPECT_EQ(box.layoutDirection(), Qt::RightToLeft);
         EXPECT_EQ(box.icon(), QMessageBox::Warning);
     });
+}
+
+TEST(QtDialogs, BeepIsWhatItWasGiven) {
+    int beeps = 0;
+    QtDialogs([&] { ++beeps; }).Beep();
+    EXPECT_EQ(beeps, 1);
+}
+
+/// Opens the dialogue for a file, looks at it while it is open, and closes it with what look says.
+template <class Look>
+std::string Open(const FileRequest& request, Look look) {
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        look(*dialog);
+    });
+    return QtDialogs([] {}).OpenFile(request);
+}
+
+const FileRequest kRequest{"Open it", "All (*.*)|*.wav;*.mp+|Ogg files (*.ogg)|*.ogg|", 2};
+
+TEST(QtDialogs, FileDialogueShowsItsTitleAndFilters) {
+    const std::string chosen = Open(kRequest, [](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Open it");
+        EXPECT_EQ(dialog.nameFilters(),
+                  QStringList({"All (*.*) (*.wav *.mp+)", "Ogg files (*.ogg) (*.ogg)"}));
+        EXPECT_EQ(dialog.selectedNameFilter(), "Ogg files (*.ogg)");
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        dialog.reject();
+    });
+    EXPECT_EQ(chosen, "");
+}
+
+TEST(QtDialogs, FileDialogueAnswersTheRealPath) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "نداء.ogg";
+    std::ofstream(path) << "sound";
+    const std::string chosen = Open(kRequest, [&](QFileDialog& dialog) {
+        dialog.selectFile(QString::fromStdString(path));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(chosen, path);
 }
 
 }  // namespace

@@ -4,13 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <condition_variable>
 #include <deque>
-#include <mutex>
 #include <optional>
 
 #include "e2e/harness/sound_server.h"
 #include "linux/sound/beep.h"
+#include "sound/posted_events.h"
 #include "support/scoped_variable.h"
 
 namespace horavex {
@@ -18,41 +17,6 @@ namespace {
 
 using std::chrono::duration;
 using std::chrono::steady_clock;
-
-/// The event loop of a program, by hand.
-class PostedEvents {
-public:
-    PulsePlayer::Post Post() {
-        return [this](std::function<void()> event) {
-            {
-                const std::lock_guard lock(mutex_);
-                events_.push_back(std::move(event));
-            }
-            arrived_.notify_one();
-        };
-    }
-
-    /// Delivers events until the test is true. False if nothing arrives for ten seconds.
-    bool RunUntil(const std::function<bool()>& test) {
-        while (!test()) {
-            std::unique_lock lock(mutex_);
-            if (!arrived_.wait_for(lock, std::chrono::seconds(10),
-                                   [this] { return !events_.empty(); })) {
-                return false;
-            }
-            const auto event = std::move(events_.front());
-            events_.pop_front();
-            lock.unlock();
-            event();
-        }
-        return true;
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable arrived_;
-    std::deque<std::function<void()>> events_;
-};
 
 constexpr int kRate = 8000;
 constexpr int kSecond = 2 * kRate;  // bytes

@@ -3,12 +3,18 @@
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER
 #include <QApplication>
 
+#include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
 #include "engine/progress.h"
+#include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "support/program_copy.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/frm_athan.h"
+#include "windows/frm_azan.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
@@ -18,6 +24,7 @@ using namespace horavex;
 
 QString folder;
 QtFace face;
+AzanFace athanFace;
 
 void Save(const FormWindows& windows, const Form& form, const QString& name) {
     QApplication::processEvents();
@@ -102,6 +109,27 @@ void ShowMessage(bool arabic) {
     ReportProgress(60.0);
 }
 
+/// The athan windows with the packs of a language.
+void RenderAthan(const FormWindows& windows, const std::string& language) {
+    const std::string pack = LanguagePackPath(language);
+    frmAthan->Load();
+    LoadFormLanguage(*frmAthan, pack);
+    frmAthan->lblCustomFajr.SetCaption("/home/user/Music/athan/a quiet call for the dawn.ogg");
+    frmAthan->lblCustomOther.SetCaption("");
+    frmAthan->DessamFajr.SetValue(true);
+    frmAthan->optCustomAll.SetValue(true);
+    frmAthan->Show();
+    Save(windows, *frmAthan, QString::fromStdString("athan-settings-" + language));
+    frmAzan->Load();
+    frmAzan->SetTop(0.0);
+    athanFace.LoadMovie(0, "");
+    athanFace.SetVariable("_root.character_textField", ReadPackString(pack, "Azan", "4", "", 200));
+    frmAzan->Show();
+    Save(windows, *frmAzan, QString::fromStdString("athan-" + language));
+    frmAthan->Unload();
+    frmAzan->Unload();
+}
+
 void RenderAll(const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     arabic ? TellArabic(face) : TellEnglish(face);
@@ -116,14 +144,19 @@ void RenderAll(const FormWindows& windows, bool arabic) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    const TestPlatform platform;
+    TestPlatform platform;
+    CopyBuiltProgramFolder(platform.files);
     folder = QString::fromLocal8Bit(argv[1]);
     Layouts layouts = DrawnLayouts();
     layouts["frmMain"] = [](QWidget& window) { face.Fill(window); };
+    layouts["frmAzan"] = [](QWidget& window) { athanFace.Fill(window); };
     const FormWindows windows(layouts);
     face.LoadMovie(0, "");
     frmMain->Show();
     RenderAll(windows, false);
     RenderAll(windows, true);
+    for (const std::string language : {"English", "French", "German", "Spanish", "Arabic"}) {
+        RenderAthan(windows, language);
+    }
     return 0;
 }

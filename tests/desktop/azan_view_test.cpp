@@ -1,0 +1,63 @@
+#include "desktop/face/azan_view.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+
+#include "desktop/face/azan_face.h"
+#include "desktop/form_window_fixture.h"
+
+namespace horavex {
+namespace {
+
+constexpr const char* kText = "_root.character_textField";
+
+struct AzanFaceTest : testing::Test {
+    AzanFaceTest() { face.Fill(window); }
+
+    QString Shown() const { return window.findChild<QLabel*>()->text(); }
+
+    QWidget window;
+    AzanFace face;
+};
+
+TEST_F(AzanFaceTest, ShowsTheTextOfItsVariable) {
+    face.LoadMovie(0, "");
+    face.SetVariable(kText, "It is time");
+    EXPECT_EQ(Shown(), "It is time");
+    face.SetVariable("_root.other", "no");
+    EXPECT_EQ(Shown(), "It is time");
+    face.SetVariable(kText, "");
+    EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(AzanFaceTest, DropsWhatIsSetBeforeItIsUp) {
+    face.SetVariable(kText, "It is time");
+    EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(AzanFaceTest, ItsButtonAsksToStopByMouseAndByKey) {
+    std::vector<std::string> commands;
+    face.onFSCommand = [&](const std::string& command, const std::string&) {
+        commands.push_back(command);
+    };
+    auto* button = window.findChild<QAbstractButton*>("IDC_FS_Stop");
+    button->click();
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(button, &enter);
+    EXPECT_EQ(commands, std::vector<std::string>(2, "IDC_FS_Stop"));
+    EXPECT_EQ(button->accessibleName(), "Stop");
+    EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus);
+}
+
+TEST_F(AzanFaceTest, OutlivesItsWindow) {
+    {
+        QWidget other;
+        face.Fill(other);
+    }
+    face.LoadMovie(0, "");
+    face.SetVariable(kText, "It is time");
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,324 @@
+// The athan as a user meets it: the built program, its windows, and what the sound device plays.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <iostream>
+#include <optional>
+#include <sstream>
+
+#include "e2e/harness/faked_clock.h"
+#include "e2e/harness/sink_recording.h"
+#include "e2e/harness/test_desktop.h"
+#include "e2e/harness/wait_until.h"
+#include "linux/replace_file.h"
+#include "store/settings_record.h"
+#include "support/build_folder.h"
+
+namespace horavex {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kFaceTitle = "Horavex";
+constexpr const char* kAthanTitle = "Athan";
+constexpr const char* kAlarmTitle = "Horavex Prayer Time Software ";
+constexpr int kAlarmTime = 150;  // 12:30
+constexpr int kNoAlarm = 0;      // midnight
+
+class AthanProgramTest : public testing::Test {
+protected:
+    AthanProgramTest() {
+        desktop.StoreRegistryValue("Isha Dep Angle", "18");  // no first run
+        clock.InstallIn(programVariables);
+        sound->InstallIn(programVariables);
+        fs::create_directories(desktop / "data/horavex/Athan");
+        SetSound("athan", others);
+        SetSound("fagr_athan", fajr);
+        StoreSettings(3, kNoAlarm);
+    }
+
+    void SetSound(const std::string& name, const Samples& samples) const {
+        WriteWav(desktop / ("data/horavex/Athan/" + name + ".mp3"), samples);
+    }
+
+    void StoreSettings(std::int16_t athanType, int alarmTime) const {
+        const std::string installed = BuiltProgramFolder() + "/Dat/AI.DAT";
+        SettingsBytes bytes{};
+        const std::string content = ContentOf(installed);
+        std::copy(content.begin(), content.end(), bytes.begin());
+        SettingsRecord record = DecodeSettings(bytes);
+        record.AthanType = athanType;
+        record.AlarmTime = static_cast<std::int16_t>(alarmTime);
+        bytes = EncodeSettings(record);
+        fs::create_directories(desktop / "data/horavex/Dat");
+        for (const std::string name : {"AI.DAT", "Settings.DAT"}) {
+            ReplaceFile(desktop / ("data/horavex/Dat/" + name), Bytes(bytes.begin(), bytes.end()));
+        }
+    }
+
+    /// Starts the program at noon and waits for its face.
+    ChildProcess Start() {
+        Environment former = desktop.variables;
+        desktop.variables.insert(programVariables.begin(), programVariables.end());
+        ChildProcess program = desktop.Start("horavex");
+        desktop.variables = std::move(former);
+        face = desktop.WaitForWindow(program, kFaceTitle);
+        return program;
+    }
+
+    /// When a prayer of the day comes, in seconds of the day.
+    int SecondOf(std::size_t prayer) const {
+        const std::string json =
+            RunProgram("horavexctl", {"today", "--json", "--at", "2026-11-21T00:00:00"},
+                       desktop.variables)
+                .out;
+        std::istringstream in(json.substr(json.find('[', json.find("\"hours\"")) + 1));
+        double hours = 0.0;
+        for (std::size_t i = 0; i <= prayer; ++i) {
+            in >> hours;
+            in.ignore(1);
+        }
+        return static_cast<int>(std::ceil(hours * 3600.0));
+    }
+
+    void SetClock(int second) const {
+        std::ostringstream moment;
+        moment << "2026-11-21 " << std::setfill('0') << std::setw(2) << second / 3600 << ':'
+               << std::setw(2) << second / 60 % 60 << ':' << std::setw(2) << second % 60;
+        clock.Set(moment.str());
+    }
+
+    /// A second before a prayer's time.
+    void GoTo(std::size_t prayer) const { SetClock(SecondOf(prayer) - 1); }
+
+    /// Waits until the athan window has risen, and returns it.
+    std::string WaitForAthan(const ChildProcess& program) const {
+        const std::string window = desktop.WaitForWindow(program, kAthanTitle);
+        WaitUntil("a window that stands", [&] { return IsTopMost(window); });
+        return window;
+    }
+
+    bool IsTopMost(const std::string& window) const {
+        return desktop.Use({"xprop", "-id", window, "_NET_WM_STATE"}).find("_STATE_ABOVE") !=
+               std::string::npos;
+    }
+
+    /// The tool waits in vain for a pointer that is there already.
+    void Click(const std::string& window, int x, int y) const {
+        desktop.Use({"xdotool", "mousemove", "0", "0"});
+        desktop.Click(window, x, y);
+    }
+
+    void PressStop(const std::string& window) const { Click(window, 180, 161); }
+
+    bool IsOnView(const ChildProcess& program) const {
+        for (const std::string& window : desktop.WindowsOf(program)) {
+            if (desktop.TitleOf(window) == kAthanTitle) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// The face shows another second: the program runs on.
+    void ExpectTicks() const {
+        const std::string before = desktop.Fingerprint();
+        EXPECT_TRUE(WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; }));
+    }
+
+    const Samples others = Glide(20.0, 300.0, 900.0);
+    const Samples fajr = Glide(20.0, 1500.0, 1000.0);
+    TestDesktop desktop;
+    std::optional<SoundServer> sound{std::in_place};
+    FakedClock clock{"2026-11-21 12:00:00"};
+    Environment programVariables;
+    std::string face;
+};
+
+/// The beginning of a sound is that of the recording's at that place.
+void ExpectHeard(const SinkRecording& recording, std::size_t at, const Samples& sound) {
+    recording.Continue(1.0);
+    EXPECT_GT(Likeness(recording.Taken(), at, sound, 0, kWavRate / 2), 0.95);
+}
+
+TEST_F(AthanProgramTest, PrayersArrivalRisesSoundsStopsAndComesBackInItsTenSeconds) {
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    GoTo(3);
+    const std::string window = WaitForAthan(program);
+    const ScreenPlace place = desktop.PlaceOf(window);
+    EXPECT_EQ(place.x + place.width, 1280);
+    EXPECT_NEAR(960 - place.y, place.height - 400 / 15, 3);
+    const std::size_t start = recording.WaitForSound();
+    ExpectHeard(recording, start, others);
+    desktop.SaveScreen("athan");
+
+    PressStop(window);
+    const std::size_t stopped = recording.Taken().size();
+    const std::size_t silent = recording.WaitForSilence(stopped);
+    std::cout << "silent " << Stretch{stopped, silent}.Seconds() << " s after Stop\n";
+    EXPECT_LT((Stretch{stopped, silent}.Seconds()), 0.3);
+
+    const std::string again = WaitForAthan(program);  // on the next tick
+    const std::size_t second = recording.WaitForSound(silent + kWavRate / 2);
+    ExpectHeard(recording, second, others);
+
+    SetClock(SecondOf(3) + 60);
+    ExpectTicks();
+    PressStop(again);
+    const std::size_t stoppedAgain = recording.Taken().size();
+    const std::size_t silentAgain = recording.WaitForSilence(stoppedAgain);
+    recording.Continue(4.0);
+    EXPECT_FALSE(IsOnView(program)) << "its ten seconds are over";
+    EXPECT_EQ(recording.WaitForSilence(silentAgain), silentAgain);
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(AthanProgramTest, FajrHasASoundOfItsOwn) {
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    SetClock(SecondOf(0) - 1);
+    WaitForAthan(program);
+    ExpectHeard(recording, recording.WaitForSound(), fajr);
+}
+
+TEST_F(AthanProgramTest, EndOfTheSoundTakesTheWindowAway) {
+    SetSound("athan", Glide(11.0, 300.0, 900.0));
+    const ChildProcess program = Start();
+    GoTo(2);
+    WaitForAthan(program);
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+    ExpectTicks();
+    EXPECT_FALSE(IsOnView(program));
+}
+
+TEST_F(AthanProgramTest, MuteAndBuzzerAreSilentWithTheWindowUp) {
+    for (const std::int16_t type : {std::int16_t{1}, std::int16_t{2}}) {
+        StoreSettings(type, kNoAlarm);
+        SetClock(12 * 3600);
+        const SinkRecording recording(*sound);
+        const ChildProcess program = Start();
+        GoTo(4);
+        const std::string window = WaitForAthan(program);
+        recording.Continue(2.0);
+        EXPECT_TRUE(SoundsIn(recording.Taken()).empty());
+        EXPECT_TRUE(IsOnView(program));
+    }
+}
+
+TEST_F(AthanProgramTest, WithoutASoundServerTheWindowComesUpAndTheProgramRunsOn) {
+    programVariables["PULSE_SERVER"] = "unix:" + (desktop / "nothing");
+    const ChildProcess program = Start();
+    GoTo(3);
+    const std::string window = WaitForAthan(program);
+    ExpectTicks();
+    ExpectTicks();
+    SetClock(SecondOf(3) + 60);
+    ExpectTicks();
+    PressStop(window);
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+}
+
+TEST_F(AthanProgramTest, DeviceThatVanishesEndsTheAthan) {
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    GoTo(3);
+    WaitForAthan(program);
+    recording.WaitForSound();
+    SetClock(SecondOf(3) + 60);
+    ExpectTicks();
+    sound.reset();
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+    ExpectTicks();
+}
+
+TEST_F(AthanProgramTest, WhatIsNoSoundLeavesTheWindowUp) {
+    std::ofstream(desktop / "data/horavex/Athan/athan.mp3") << "These are words.\n";
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    GoTo(5);
+    WaitForAthan(program);
+    recording.Continue(1.0);
+    EXPECT_TRUE(SoundsIn(recording.Taken()).empty());
+    EXPECT_TRUE(IsOnView(program));
+}
+
+TEST_F(AthanProgramTest, FreshInstallHasItsSoundsFromTheStart) {
+    fs::remove_all(desktop / "data/horavex/Athan");
+    const ChildProcess program = Start();
+    EXPECT_EQ(ContentOf(desktop / "data/horavex/Athan/athan.mp3"),
+              ContentOf(BuiltProgramFolder() + "/Athan/athan1.mp3"));
+    EXPECT_EQ(ContentOf(desktop / "data/horavex/Athan/fagr_athan.mp3"),
+              ContentOf(BuiltProgramFolder() + "/Athan/fagr_athan1.mp3"));
+}
+
+TEST_F(AthanProgramTest, AlarmBeepsUntilItIsClosedAndComesBackInItsTenSeconds) {
+    StoreSettings(3, kAlarmTime);
+    const SinkRecording recording(*sound);
+    const ChildProcess program = Start();
+    SetClock(kAlarmTime * 300 - 1);
+    const std::string window = desktop.WaitForWindow(program, kAlarmTitle);
+    const std::size_t first = recording.WaitForSound();
+    const std::size_t second = recording.WaitForSound(recording.WaitForSilence(first));
+    EXPECT_NEAR((Stretch{first, second}.Seconds()), 3.0, 0.3) << "a beep every three seconds";
+    desktop.SaveScreen("alarm");
+
+    const auto close = [&](const std::string& alarm) {
+        const ScreenPlace place = desktop.PlaceOf(alarm);
+        Click(alarm, place.width - 55, place.height - 28);
+        WaitUntil("a closed alarm", [&] { return !desktop.IsOnView(program, alarm); });
+    };
+    close(window);
+    const std::string again = desktop.WaitForWindow(program, kAlarmTitle);
+    recording.WaitForSound(recording.Taken().size());
+    SetClock(kAlarmTime * 300 + 60);
+    close(again);
+    const std::size_t closed = recording.Taken().size();
+    recording.Continue(5.0);
+    EXPECT_EQ(recording.WaitForSilence(closed), closed);
+    EXPECT_FALSE(desktop.IsOnView(program, again));
+    // Two before the window was closed, one of the second time.
+    EXPECT_EQ(SoundsIn(recording.Taken()).size(), 3U);
+}
+
+long ProportionalKilobytes(const ChildProcess& program) {
+    std::ifstream in("/proc/" + std::to_string(program.Id()) + "/smaps_rollup");
+    for (std::string line; std::getline(in, line);) {
+        if (line.starts_with("Pss:")) {
+            return std::stol(line.substr(4));
+        }
+    }
+    return 0;
+}
+
+TEST_F(AthanProgramTest, HourOfSoundTakesNoMoreMemoryThanSeconds) {
+    const auto memoryWhilePlaying = [this](const Samples& samples) {
+        SetSound("athan", samples);
+        SetClock(12 * 3600);
+        const SinkRecording recording(*sound);
+        const ChildProcess program = Start();
+        const long before = ProportionalKilobytes(program);
+        GoTo(3);
+        recording.WaitForSound();
+        recording.Continue(4.0);
+        return ProportionalKilobytes(program) - before;
+    };
+    Samples hour;
+    hour.reserve(std::size_t{3600} * kWavRate);
+    for (int i = 0; i < 180; ++i) {
+        hour.insert(hour.end(), others.begin(), others.end());
+    }
+    const long seconds = memoryWhilePlaying(others);
+    const long whole = memoryWhilePlaying(hour);
+    std::cout << "playing takes " << seconds << " KiB, an hour " << whole << " KiB\n";
+    EXPECT_LT(whole, seconds + 1024);
+}
+
+}  // namespace
+}  // namespace horavex
