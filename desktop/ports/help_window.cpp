@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QStyleOption>
 #include <QTextDocument>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -32,12 +33,19 @@ QWindow* OwnerWindow(const QString& form) {
     return nullptr;
 }
 
-void SetUpButton(QToolButton& button, QStyle::StandardPixmap icon) {
-    button.setIcon(button.style()->standardIcon(icon));
+void SetUpButton(QToolButton& button) {
     button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button.setAutoRaise(true);
     button.setFocusPolicy(Qt::TabFocus);
     button.setEnabled(false);
+}
+
+/// The arrow goes with the direction of reading.
+void NameButton(QToolButton& button, const std::string& text, QStyle::StandardPixmap arrow) {
+    QStyleOption option;
+    option.initFrom(&button);
+    button.setText(QString::fromStdString(text));
+    button.setIcon(button.style()->standardIcon(arrow, &option, &button));
 }
 
 }  // namespace
@@ -47,11 +55,13 @@ HelpWindow::HelpWindow() {
     forward_.setObjectName(QStringLiteral("forward"));
     contents_.setObjectName(QStringLiteral("contents"));
     page_.setObjectName(QStringLiteral("page"));
-    SetUpButton(back_, QStyle::SP_ArrowBack);
-    SetUpButton(forward_, QStyle::SP_ArrowForward);
+    SetUpButton(back_);
+    SetUpButton(forward_);
     back_.setShortcut(QKeySequence::Back);
     forward_.setShortcut(QKeySequence::Forward);
+    contents_.setWordWrap(true);
     page_.setOpenExternalLinks(true);
+    page_.document()->setDocumentMargin(kPageMargin);
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(&back_);
@@ -70,13 +80,13 @@ HelpWindow::HelpWindow() {
     connect(&forward_, &QToolButton::clicked, &page_, &QTextBrowser::forward);
     connect(&page_, &QTextBrowser::backwardAvailable, &back_, &QWidget::setEnabled);
     connect(&page_, &QTextBrowser::forwardAvailable, &forward_, &QWidget::setEnabled);
-    connect(&page_, &QTextBrowser::sourceChanged, this, [this] { FollowPage(); });
+    connect(&page_, &QTextBrowser::historyChanged, this, [this] { FollowPage(); });
     connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) { OpenRow(row); });
 }
 
 void HelpWindow::Show(const HelpView& view) {
-    Name(view);
     Fill(view);
+    Name(view);
     OpenRow(static_cast<int>(view.page));
     if (!isVisible()) {
         PlaceFirst(view.place);
@@ -90,8 +100,8 @@ void HelpWindow::Show(const HelpView& view) {
 
 void HelpWindow::Name(const HelpView& view) {
     setWindowTitle(QString::fromStdString(view.title));
-    back_.setText(QString::fromStdString(view.back));
-    forward_.setText(QString::fromStdString(view.forward));
+    NameButton(back_, view.back, QStyle::SP_ArrowBack);
+    NameButton(forward_, view.forward, QStyle::SP_ArrowForward);
     contents_.setAccessibleName(QString::fromStdString(view.contents));
     page_.setAccessibleName(QString::fromStdString(view.title));
 }
@@ -103,16 +113,8 @@ void HelpWindow::Fill(const HelpView& view) {
         auto* item = new QListWidgetItem(QString::fromStdString(page.title), &contents_);
         item->setData(Qt::UserRole, QUrl::fromLocalFile(QString::fromStdString(page.path)));
     }
-    Direct(contents_.item(0)->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-}
-
-// A paragraph takes the direction of the language, and not that of its first word.
-void HelpWindow::Direct(Qt::LayoutDirection direction) {
-    setLayoutDirection(direction);
-    QTextOption option = page_.document()->defaultTextOption();
-    option.setTextDirection(direction);
-    page_.document()->setDefaultTextOption(option);
-    page_.document()->setDocumentMargin(kPageMargin);
+    setLayoutDirection(contents_.item(0)->text().isRightToLeft() ? Qt::RightToLeft
+                                                                 : Qt::LeftToRight);
 }
 
 void HelpWindow::PlaceFirst(const HelpPlace& place) {

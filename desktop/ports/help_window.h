@@ -25,7 +25,6 @@ protected:
 private:
     void Name(const HelpView& view);
     void Fill(const HelpView& view);
-    void Direct(Qt::LayoutDirection direction);
     void PlaceFirst(const HelpPlace& place);
     void OpenRow(int row);
     void FollowPage();

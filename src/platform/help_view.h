@@ -29,7 +29,7 @@ struct HelpView {
     std::string contents;  // names of the list of pages and of the two ways through it
     std::string back;
     std::string forward;
-    std::vector<HelpPage> pages;  // one at least; their titles tell the direction of the viewer
+    std::vector<HelpPage> pages;  // one at least; the first title tells the direction of the viewer
     std::size_t page;             // the one to open
 };
 
