@@ -2,6 +2,7 @@
 
 #include "ui_HoravexMainForm.h"
 #include "ui_fMessage.h"
+#include "ui_frmMonth.h"
 #include "ui_frmTimes.h"
 
 namespace horavex {
@@ -19,6 +20,7 @@ Layouts DrawnLayouts() {
     return {
         {"fMessage", Fill<Ui::fMessage>},
         {"frmTimes", Fill<Ui::frmTimes>},
+        {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
     };
 }

@@ -2,6 +2,7 @@
 
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
 #include "windows/frm_times.h"
 #include "windows/horavex_main_form.h"
 
@@ -19,7 +20,7 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm, TimesForm>();
+    return Make<FrmMain, SettingsForm, MessageForm, TimesForm, MonthForm>();
 }
 
 }  // namespace horavex

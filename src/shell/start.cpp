@@ -36,6 +36,7 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/month_window.h"
 #include "timetables/times_window.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
@@ -190,6 +191,7 @@ void BindWindows() {
     BindMessageWindow();
     BindSettingsWindow();
     BindTimesWindow();
+    BindMonthWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

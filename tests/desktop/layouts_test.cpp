@@ -9,6 +9,7 @@
 #include "support/test_platform.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
 #include "windows/frm_times.h"
 #include "windows/horavex_main_form.h"
 
@@ -83,7 +84,8 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 INSTANTIATE_TEST_SUITE_P(DrawnForms, LayoutsTest,
                          testing::Values([]() -> Form* { return &*fMessage; },
                                          []() -> Form* { return &*HoravexMainForm; },
-                                         []() -> Form* { return &*frmTimes; }),
+                                         []() -> Form* { return &*frmTimes; },
+                                         []() -> Form* { return &*frmMonth; }),
                          [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {

@@ -56,7 +56,8 @@ TEST_F(PackSectionsTest, FormsStandAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmTimes"));
+    EXPECT_THAT(names,
+                ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmTimes", "frmMonth"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -65,7 +66,7 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
         names.push_back(section.name);
     }
     EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
-                                   "HoravexMainForm", "fMessage", "frmTimes"));
+                                   "HoravexMainForm", "fMessage", "frmTimes", "frmMonth"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {

@@ -3,18 +3,39 @@
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER
 #include <QApplication>
 
+#include "base/flag.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
+#include "engine/current_year.h"
+#include "engine/day_driver.h"
 #include "engine/progress.h"
+#include "geo/qibla.h"
+#include "lang/language_pack.h"
+#include "store/location_record.h"
+#include "store/settings_record.h"
+#include "support/program_copy.h"
 #include "support/test_platform.h"
+#include "timetables/month_window.h"
+#include "timetables/times_window.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
+#include "windows/frm_times.h"
 #include "windows/horavex_main_form.h"
 
 namespace {
 
 using namespace horavex;
+
+/// Calculates a year without any window.
+class SilentHost : public DayHost {
+public:
+    void ReportProgress(double) override {}
+    void ComputeQibla() override { horavex::ComputeQibla(); }
+    void RunSetAction() override {}
+    void SetFlashVariables() override {}
+};
 
 QString folder;
 QtFace face;
@@ -102,6 +123,44 @@ void ShowMessage(bool arabic) {
     ReportProgress(60.0);
 }
 
+/// The year of Cairo with a summer of daylight saving, as the windows of timetables show it.
+void TakeCairo(TestPlatform& platform, bool arabic) {
+    CopyBuiltProgramFolder(platform.files);
+    currentLanguage = arabic ? "Arabic" : "English";
+    languageFilesPresent = kTrue;
+    Location.City.Latitude = 3005;
+    Location.City.Longitude = 3125;
+    ActiveLocation = Location;
+    ActiveCityText = "Cairo - Egypt";
+    Settings.TimeZone = 2.0;
+    Settings.FajrAngle = 19.5;
+    Settings.AsrRatio = 1.0;
+    Settings.DstEnabled = 1;
+    Settings.DstStart = 115;
+    Settings.DstEnd = 302;
+    ActiveSettings = Settings;
+    IshaAngle = 17.5;
+    CurrentYear = 2026;
+    RecalculateYear();
+}
+
+void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool arabic) {
+    const QString language = arabic ? "arabic" : "english";
+    TakeCairo(platform, arabic);
+    frmTimes->Load();
+    frmTimes->Show();
+    Save(windows, *frmTimes, "times-" + language);
+    frmMonth->Load();
+    frmMonth->Show();
+    Save(windows, *frmMonth, "month-" + language);
+    frmMonth->grdMonth.UserPage(-1);
+    Save(windows, *frmMonth, "month-change-" + language);
+    frmMonth->tabPages.UserSelect(1);
+    Save(windows, *frmMonth, "year-" + language);
+    frmMonth->Unload();
+    frmTimes->Unload();
+}
+
 void RenderAll(const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     arabic ? TellArabic(face) : TellEnglish(face);
@@ -116,7 +175,7 @@ void RenderAll(const FormWindows& windows, bool arabic) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    const TestPlatform platform;
+    TestPlatform platform;
     folder = QString::fromLocal8Bit(argv[1]);
     Layouts layouts = DrawnLayouts();
     layouts["frmMain"] = [](QWidget& window) { face.Fill(window); };
@@ -125,5 +184,11 @@ int main(int argc, char** argv) {
     frmMain->Show();
     RenderAll(windows, false);
     RenderAll(windows, true);
+    SilentHost host;
+    InstallDayHost(&host);
+    BindTimesWindow();
+    BindMonthWindow();
+    RenderTimetables(platform, windows, false);
+    RenderTimetables(platform, windows, true);
     return 0;
 }
