@@ -12,6 +12,7 @@
 #include "ui_frmAthan.h"
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
+#include "ui_frmMonth.h"
 #include "ui_frmRamadan.h"
 #include "ui_frmTimes.h"
 #include "ui_frmWizard.h"
@@ -51,6 +52,7 @@ Layouts DrawnLayouts() {
         {"frmWizard", Fill<Ui::frmWizard>},
         {"frmAbout", Fill<Ui::frmAbout>},
         {"frmTimes", Fill<Ui::frmTimes>},
+        {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
         {"Moon_Phases", Fill<Ui::Moon_Phases>},
     };

@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "desktop/form_window/choice_binders.h"
+#include "desktop/form_window/grid_binder.h"
 #include "desktop/form_window/picture_binder.h"
 #include "desktop/form_window/range_binders.h"
 #include "desktop/form_window/text_binders.h"
@@ -51,6 +52,8 @@ auto MakerOf(ControlKind kind) {
             return Make<PictureBinder>;
         case ControlKind::kTabStrip:
             return Make<TabStripBinder>;
+        case ControlKind::kGrid:
+            return Make<GridBinder>;
         case ControlKind::kForm:
         case ControlKind::kMenuItem:
         case ControlKind::kTimer:

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 namespace horavex {
 
@@ -23,6 +24,12 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
             break;
     }
     return QMessageBox::NoIcon;
+}
+
+/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". Else empty.
+QString SuffixOf(const QString& filter) {
+    static const QRegularExpression oneSuffix(QStringLiteral(R"(\(\*\.(\w+)\)$)"));
+    return oneSuffix.match(filter).captured(1);
 }
 
 /// "label|pattern;pattern|" over and over, as the toolkit has it: "label (pattern pattern)".
@@ -70,6 +77,11 @@ std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& s
     QFileDialog dialog(QApplication::activeWindow());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(suffix));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& chosen) {
+        if (!SuffixOf(chosen).isEmpty()) {
+            dialog.setDefaultSuffix(SuffixOf(chosen));
+        }
+    });
     return Ask(dialog, request);
 }
 

@@ -8,6 +8,7 @@
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
@@ -31,7 +32,7 @@ std::vector<std::unique_ptr<Form>> Make() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm, TimesForm>();
+                AboutForm, TimesForm, MonthForm>();
 }
 
 }  // namespace horavex

@@ -33,7 +33,8 @@ std::vector<std::string> TimetableKeys() {
     std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",    "Hijri",
                                      "Fajr",      "Shurooq",   "Zuhr",      "Asr",    "Maghrib",
                                      "Isha",      "Latitude",  "Longitude", "Zone",   "FajrAngle",
-                                     "IshaAngle", "AsrRatio",  "Qibla",     "Begins", "Ends"};
+                                     "IshaAngle", "AsrRatio",  "Qibla",     "Begins", "Ends",
+                                     "MonthPage", "YearPage"};
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);
     }

@@ -43,6 +43,7 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/month_window.h"
 #include "timetables/times_window.h"
 #include "update/update_check.h"
 #include "windows/f_message.h"
@@ -194,6 +195,7 @@ void BindWindows() {
     BindAboutWindow();
     BindHelp();
     BindTimesWindow();
+    BindMonthWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "forms/drawing.h"
 #include "timetables/timetable.h"
 #include "timetables/timetable_words.h"
 
@@ -22,7 +23,17 @@ struct PrintedYear {
 /// empty is not there.
 struct DocumentTools {
     /// Replaces or makes the file.
-    std::function<void(const std::string& path, const PrintedYear& year)> writePdf;
+    std::function<void(const std::string& path, const PrintedYear& year)> writePdf = {};
+
+    /// Replaces or makes the file. Size in twips.
+    std::function<void(const std::string& path, const Drawing& drawing, double width,
+                       double height)>
+        writePng = {};
+
+    /// Shows the page of a month, 1 to 12, as it would be printed, or prints it on the printer that
+    /// the user chooses; returns when the user is done.
+    std::function<void(const PrintedYear& year, int month)> previewMonth = {};
+    std::function<void(const PrintedYear& year, int month)> printMonth = {};
 };
 
 /// Installs what the front end has.

@@ -10,6 +10,7 @@
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
+#include "timetables/month_window.h"
 #include "windows/frm_main.h"
 #include "windows/frm_times.h"
 
@@ -95,6 +96,7 @@ void BindTimesWindow() {
     frmTimes->cmdToday.onClick = cmdToday_Click;
     frmTimes->cmdPrev.onClick = cmdPrev_Click;
     frmTimes->cmdNext.onClick = cmdNext_Click;
+    frmTimes->cmdMonth.onClick = ShowMonthWindow;
     frmTimes->Timer1.onTimer = Timer1_Timer;
 }
 

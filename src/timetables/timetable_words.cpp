@@ -66,6 +66,8 @@ TimetableWords TakeTimetableWords() {
     words.qibla = Word("Qibla", "Qibla, clockwise from north");
     words.daylightBegins = Word("Begins", "Daylight saving begins on this day");
     words.daylightEnds = Word("Ends", "Daylight saving ends with this day");
+    words.monthPage = Word("MonthPage", "Month");
+    words.yearPage = Word("YearPage", "Year");
     TakeNames(words);
     return words;
 }

@@ -30,6 +30,8 @@ struct TimetableWords {
     std::string qibla;           // a bearing clockwise from north follows
     std::string daylightBegins;  // footnotes to a mark
     std::string daylightEnds;
+    std::string monthPage;  // pages of the month window
+    std::string yearPage;
 
     /// "November 2026".
     std::string MonthTitle(int year, int month) const;

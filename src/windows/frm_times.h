@@ -38,6 +38,7 @@ public:
     CommandButton cmdToday{*this, "cmdToday", {.caption = "Today"}};
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "Previous Day"}};
     CommandButton cmdNext{*this, "cmdNext", {.caption = "Next Day"}};
+    CommandButton cmdMonth{*this, "cmdMonth", {.caption = "Month"}};
 
     /// Fills the window once, half a second after its load; then it stands still.
     Timer Timer1{*this, "Timer1", {.intervalMs = 500}};

@@ -85,7 +85,7 @@ TEST_F(CtlExport, CsvHoldsTheMinutesOfTheYearsTable) {
 TEST_F(CtlExport, IndependentParserReadsTheMomentsOutOfTheCalendar) {
     const std::string script =
         std::string(std::getenv("HORAVEX_TEST_SOURCE_DIR")) + "/tests/ctl/read_calendar.py";
-    const auto events = Split(Tool({"python3", script, Export("ics")}), '\n');
+    const auto events = Split(Tool({"/usr/bin/python3", script, Export("ics")}), '\n');
     const Json year = Year();
     ASSERT_THAT(events, SizeIs(365 * 6 + 1));
     for (std::size_t row = 0; row < 365; ++row) {

@@ -298,6 +298,20 @@ TEST_F(BinderTest, TabsGoBothWays) {
     EXPECT_EQ(calls, std::vector<std::string>{"click"});
 }
 
+TEST_F(BinderTest, PictureTellsWhereThePointerIsInItsOwnScale) {
+    Show();
+    auto& canvas = Find<Canvas>("picture");
+    Point at{};
+    form.picture.onMouseMove = [&](Point point) { at = point; };
+    const QPointF middle = QRectF(canvas.rect()).center();
+    QMouseEvent move(QEvent::MouseMove, middle, canvas.mapToGlobal(middle), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&canvas, &move);
+    EXPECT_TRUE(canvas.hasMouseTracking());
+    EXPECT_NEAR(at.x, form.picture.ScaleWidth() / 2.0, 1.0);
+    EXPECT_NEAR(at.y, form.picture.ScaleHeight() / 2.0, 1.0);
+}
+
 TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {
     form.picture.drawing = {
         PolygonStep{{{0, 0}, {300, 0}, {300, 600}, {0, 600}}, {250, 0, 0}, {{250, 0, 0}, 1}}};

@@ -18,6 +18,7 @@
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
@@ -106,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
                     []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
                     []() -> Form* { return &*NewCoordinates; },
                     []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
-                    []() -> Form* { return &*frmTimes; }),
+                    []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; }),
     [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {

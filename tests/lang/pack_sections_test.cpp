@@ -61,7 +61,7 @@ TEST_F(PackSectionsTest, FormsStandAsDefined) {
     EXPECT_THAT(
         names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
                            "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla", "frmDistance",
-                           "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes"));
+                           "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -73,7 +73,7 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
                 ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
                             "HoravexMainForm", "fMessage", "frmAthan", "fCountry", "NewCoordinates",
                             "frmWizard", "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases",
-                            "frmRamadan", "frmAbout", "frmTimes"));
+                            "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
