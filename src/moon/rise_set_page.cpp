@@ -87,13 +87,16 @@ bool IsNegative(std::int16_t degrees, std::int16_t minutes) {
     return degrees < 0 || minutes < 0;
 }
 
-/// The boxes hold sizes; the options beside them hold the sign.
+/// The boxes hold sizes; the options beside them hold the sign. East and north are only ever set
+/// by the user: a place there leaves the options as they are, and nothing reads them for it.
 void ShowPlace(const MoonObserver& place) {
     MoonPhasesForm& form = *Moon_Phases;
-    const bool west = IsNegative(place.lonDeg, place.lonMin);
-    const bool south = IsNegative(place.latDeg, place.latMin);
-    (west ? form.optWest : form.optEast).SetValue(true);
-    (south ? form.optSouth : form.optNorth).SetValue(true);
+    if (IsNegative(place.lonDeg, place.lonMin)) {
+        form.optWest.SetValue(true);
+    }
+    if (IsNegative(place.latDeg, place.latMin)) {
+        form.optSouth.SetValue(true);
+    }
     form.txtLongH.SetText(std::to_string(std::abs(place.lonDeg)));
     form.txtLongM.SetText(std::to_string(std::abs(place.lonMin)));
     form.txtLatH.SetText(std::to_string(std::abs(place.latDeg)));
