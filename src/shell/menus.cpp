@@ -25,6 +25,7 @@
 #include "update/web_server.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
@@ -81,6 +82,8 @@ void BindMenus() {
     frmMain->mnuPrayerTimes.onClick = ShowTimesWindow;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
+    HoravexMainForm->cmdAthan.onClick = [] { frmAthan->ShowModal(&*HoravexMainForm); };
+    HoravexMainForm->cmdQibla.onClick = ShowQibla;
     frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition
     frmMain->mnuWizard.onClick = ShowWizard;
     frmMain->mnuL.Bind(

@@ -98,6 +98,17 @@ TEST_F(RiseSetPageTest, CustomPlaceUnlocksTheBoxesAndChangesNothingElse) {
     EXPECT_FALSE(form.txtLongH.Enabled());
 }
 
+TEST_F(RiseSetPageTest, PlaceInTheNorthEastLeavesTheOptionsThatTheUserSet) {
+    form.optCustomLocation.UserClick();
+    form.optWest.UserClick();
+    form.optSouth.UserClick();
+    form.optCurrentLocation.UserClick();
+    EXPECT_TRUE(form.optWest.Value());
+    EXPECT_TRUE(form.optSouth.Value());
+    form.cmdCalculate.UserClick();
+    ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {30, 3, 31, 15}, 2.0));
+}
+
 TEST_F(RiseSetPageTest, PlaceInTheSouthWestSetsItsOptions) {
     Show("Latitude: 34 degrees, 36 minutes South", "Longitude: 58 degrees, 27 minutes West",
          "-3.00");

@@ -12,6 +12,7 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
+#include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
 
 namespace horavex {
@@ -205,6 +206,18 @@ TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {
         EXPECT_FALSE(form->IsLoaded()) << form->Name();
     }
     EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, ButtonsOfTheSettingsWindowOpenTheAthanSettingsAndTheQibla) {
+    HoravexMainForm->Show();
+    for (const auto& [button, form] :
+         {std::pair<CommandButton*, Form*>{&HoravexMainForm->cmdAthan, &*frmAthan},
+          {&HoravexMainForm->cmdQibla, &*fQibla}}) {
+        button->SetEnabled(true);
+        button->UserClick();
+        EXPECT_TRUE(form->IsModal()) << form->Name();
+        form->UserClose();
+    }
 }
 
 TEST_F(MenusTest, QiblaEntryOfTheIconIsDisabledAndDoesAsTheFaces) {
