@@ -203,8 +203,8 @@ INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
                                          Damage{"Dat/P.DAT", "Dat/PI.DAT: record "},
                                          Damage{"Dat/RI.DAT", "Dat/RI.DAT: not one rank"},
                                          Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
-                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 463: "},
-                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 462: "}));
+                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 541: "},
+                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 540: "}));
 
 struct LostRecord {
     const char* file;

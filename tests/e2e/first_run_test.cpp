@@ -1,5 +1,5 @@
-// A first run from an empty home folder, by the keyboard alone: to a face with the right times,
-// which a restart shows again.
+// A first run from an empty home folder, by the keyboard alone and by the mouse: to a face with
+// the right times, which a restart shows again.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -161,6 +161,32 @@ TEST_F(FirstRunTest, CityInIndonesiaWithTheComputersZone) {
                "1"});
     EXPECT_EQ(Stored("AI.DAT").TimeZone, 7.0);
     EXPECT_EQ(Stored("AI.DAT").DstEnabled, 0);
+}
+
+TEST_F(FirstRunTest, MouseGoesThroughTheWizardToo) {
+    LiveIn("EET-2EEST,M4.5.5/0,M10.5.4/24");
+    const ChildProcess program = StartProgram();
+    const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
+    desktop.Click(wizard, 557, 152);  // the city
+    const std::string picker = desktop.WaitForWindow(program, kPickerTitle);
+    desktop.Click(picker, 300, 20);
+    desktop.Use({"xdotool", "type", "alexandria"});
+    desktop.Click(picker, 104, 54);  // the best hit
+    desktop.SaveScreen("first-run-mouse-picker");
+    desktop.Click(picker, 508, 537);  // OK
+    WaitUntilGone(program, picker);
+    desktop.Click(wizard, 568, 466);  // next
+    desktop.Click(wizard, 376, 226);  // this computer's zone
+    desktop.SaveScreen("first-run-mouse-zone");
+    for (int page = 2; page <= 4; ++page) {
+        desktop.Click(wizard, 560 + page, 466);  // the pointer has to move between two clicks
+    }
+    WaitForCommit();
+    WaitUntilGone(program, wizard);
+    EXPECT_EQ(Stored("AI.DAT").TimeZone, 2.0);
+    EXPECT_EQ(Stored("AI.DAT").DstStart, 114);
+    EXPECT_EQ(TimesToday({}), TimesToday({"--city", "Alexandria, Alexandria", "--zone", "2",
+                                          "--fajr", "19.5", "--isha", "17.75", "--asr", "1"}));
 }
 
 TEST_F(FirstRunTest, CityAt52DegreesWithTheZoneTypedInTheSettingsWindow) {
