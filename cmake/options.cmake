@@ -29,6 +29,9 @@ add_compile_options(-Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-convers
 add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread
                     -Wno-array-bounds)
 
+# A program loads only the libraries that it uses, and not all that its own libraries could.
+add_link_options(-Wl,--as-needed)
+
 if(HORAVEX_SANITIZE)
     # The check of an object's type opens a pipe, and takes a want of descriptors, which a test
     # brings about, for a broken object.

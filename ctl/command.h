@@ -32,6 +32,10 @@ void AddQiblaCommand(CLI::App& app, Session& session);
 void AddZoneCommands(CLI::App& app, Session& session);
 void AddCitiesCommand(CLI::App& app, Session& session);
 void AddTextCommands(CLI::App& app, Session& session);
+void AddMoonCommands(CLI::App& app, Session& session);
+void AddCalendarCommands(CLI::App& app, Session& session);
+void AddDistanceCommand(CLI::App& app, Session& session);
+void AddExportCommand(CLI::App& app, Session& session);
 void AddValidateCommand(CLI::App& app, Session& session);
 
 /// A subcommand with the --json flag that all of them have.

@@ -25,14 +25,8 @@ RegistryFile FindRegistry(Files& files) {
     return {files, paths.user, paths.machine};
 }
 
-Date UniversalTime() {
-    const auto seconds = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    return DateSerial(1970, 1, 1) +
-           static_cast<double>(seconds.time_since_epoch().count()) / kSecondsPerDay;
-}
-
 Date WorkingZoneTime() {
-    const Date standard = UniversalTime() + Settings.TimeZone / 24.0;
+    const Date standard = SystemClock().UniversalNow() + Settings.TimeZone / 24.0;
     return IsDaylightDay(standard) ? standard + 1.0 / 24.0 : standard;
 }
 

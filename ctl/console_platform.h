@@ -28,13 +28,16 @@ public:
     void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
     std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override {}
+    std::string SaveFile(const FileRequest&, const std::string&) override { return {}; }
 };
 
 /// The system's clock, or a clock of the user's choice.
 class ConsoleClock : public Clock {
 public:
     Date Now() const override { return choice_ ? choice_() : system_.Now(); }
+    Date UniversalNow() const override { return system_.UniversalNow(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
+    ClockOffset OffsetOn(Date day) const override { return system_.OffsetOn(day); }
 
     /// Shows that moment for good.
     void StandAt(Date moment);

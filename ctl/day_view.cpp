@@ -8,11 +8,9 @@
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
+#include "timetables/timetable.h"
 
 namespace horavex {
-
-const std::array<const char*, kPrayerCount> kPrayerKeys = {"Fajr", "Shurooq", "Zuhr",
-                                                           "Asr",  "Maghrib", "Isha"};
 
 namespace {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "base/date.h"
@@ -18,9 +17,6 @@ struct DayView {
 };
 
 DayView TakeDayView();
-
-/// English names of the six prayers, by index.
-extern const std::array<const char*, kPrayerCount> kPrayerKeys;
 
 /// The seconds until the next prayer: the time of day of the told span, since before today's
 /// Fajr that span reaches to tomorrow's.

@@ -59,6 +59,10 @@ void AddCommands(CLI::App& app, Session& session) {
     AddZoneCommands(app, session);
     AddCitiesCommand(app, session);
     AddTextCommands(app, session);
+    AddMoonCommands(app, session);
+    AddCalendarCommands(app, session);
+    AddDistanceCommand(app, session);
+    AddExportCommand(app, session);
     AddValidateCommand(app, session);
 }
 

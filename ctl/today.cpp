@@ -1,7 +1,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <optional>
 
@@ -16,6 +15,7 @@
 #include "lang/language_pack.h"
 #include "store/language_setting.h"
 #include "store/location_record.h"
+#include "timetables/timetable.h"
 
 namespace horavex {
 
@@ -48,13 +48,6 @@ Date ParseMoment(const std::string& text) {
     RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
 }
 
-std::string IsoDate(Date date) {
-    const CivilDate civil = CivilFromDate(date);
-    char text[32];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d", civil.year, civil.month, civil.day);
-    return text;
-}
-
 Json TimesJson(const PrayerRow& hours) {
     Json times = Json::object();
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
@@ -73,7 +66,7 @@ Json HijriJson(const HijriTexts& hijri, Date date) {
 
 Json DayJson(const DayView& view) {
     return {{"city", CityText},
-            {"date", IsoDate(view.now)},
+            {"date", IsoDate(CivilFromDate(view.now))},
             {"hijri", HijriJson(view.hijri, view.now)},
             {"hours", view.hours},
             {"times", TimesJson(view.hours)},

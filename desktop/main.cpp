@@ -4,6 +4,7 @@
 #include "desktop/desktop_platform.h"
 #include "desktop/end_signals.h"
 #include "desktop/fault_box.h"
+#include "desktop/printing/document_desk.h"
 #include "shell/start.h"
 #include "windows/frm_main.h"
 
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
     const horavex::DesktopPlatform platform;
     const horavex::EndSignals signals;
     application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
+    horavex::InstallDesktopDocuments();
     horavex::BindWindows();
     return Start() ? horavex::Application::exec() : EXIT_FAILURE;
 }

@@ -10,6 +10,7 @@
 #include "linux/descriptor.h"
 #include "linux/replace_file.h"
 #include "linux/system_call.h"
+#include "linux/write_all.h"
 
 namespace horavex {
 
@@ -66,6 +67,32 @@ private:
     Descriptor file_;
 };
 
+class PosixOutputFile : public OutputFile {
+public:
+    PosixOutputFile(std::string path, Descriptor file)
+        : path_(std::move(path)), file_(std::move(file)) {}
+
+    void Append(ByteView bytes) override { WriteAll(file_, bytes, path_); }
+
+private:
+    std::string path_;
+    Descriptor file_;
+};
+
+Descriptor OpenRegular(const std::string& path, int flags) {
+    constexpr mode_t kNewFileMode = 0666;  // the process's mask takes its part away
+    // Without O_NONBLOCK the open of a pipe would wait for its other end.
+    constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    Descriptor file(::open(SystemPath(path), flags | kFlags, kNewFileMode));
+    if (!file.IsOpen()) {
+        ThrowFileFault(path);
+    }
+    if (!S_ISREG(StatusOf(file, path).st_mode)) {
+        throw FileFault(path, "is no regular file");
+    }
+    return file;
+}
+
 bool MeansMissing(const std::error_code& error) {
     return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
 }
@@ -73,16 +100,11 @@ bool MeansMissing(const std::error_code& error) {
 }  // namespace
 
 std::unique_ptr<OpenFile> PosixFiles::OpenForReading(const std::string& path) {
-    // Without O_NONBLOCK the open of a pipe would wait for its writer.
-    constexpr int kFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    Descriptor file(::open(SystemPath(path), kFlags));
-    if (!file.IsOpen()) {
-        ThrowFileFault(path);
-    }
-    if (!S_ISREG(StatusOf(file, path).st_mode)) {
-        throw FileFault(path, "is no regular file");
-    }
-    return std::make_unique<OpenPosixFile>(path, std::move(file));
+    return std::make_unique<OpenPosixFile>(path, OpenRegular(path, O_RDONLY));
+}
+
+std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(const std::string& path) {
+    return std::make_unique<PosixOutputFile>(path, OpenRegular(path, O_WRONLY | O_CREAT | O_TRUNC));
 }
 
 void PosixFiles::WriteWhole(const std::string& path, ByteView bytes) {

@@ -7,6 +7,7 @@
 
 #include "linux/descriptor.h"
 #include "linux/system_call.h"
+#include "linux/write_all.h"
 
 namespace horavex {
 
@@ -49,15 +50,7 @@ public:
         }
     }
 
-    void Write(ByteView bytes) const {
-        while (!bytes.empty()) {
-            const ::ssize_t written = ::write(file_.Number(), bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR) {
-                ThrowFileFault(path_);
-            }
-            bytes = bytes.subspan(written < 0 ? 0 : static_cast<std::size_t>(written));
-        }
-    }
+    void Write(ByteView bytes) const { WriteAll(file_, bytes, path_); }
 
     void Flush() const {
         if (::fsync(file_.Number()) != 0) {

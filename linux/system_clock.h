@@ -10,11 +10,16 @@ namespace horavex {
 /// is looked up anew each time: a zone that changes while the program runs takes effect at once.
 Date LocalDate(std::time_t moment);
 
+/// The offset of the local clock at a moment, likewise.
+ClockOffset LocalOffset(std::time_t moment);
+
 /// The system's clocks. Now is the whole second that runs, so that it never shows a second, and
 /// at midnight a day, that has not come yet.
 class SystemClock : public Clock {
 public:
     Date Now() const override;
+    ClockOffset OffsetOn(Date day) const override;
+    Date UniversalNow() const override;
     double SteadySeconds() const override;
 };
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "linux/http_get.h"
 #include "platform/network.h"
 
 namespace horavex {
@@ -15,6 +16,7 @@ public:
     explicit SystemNetwork(std::string root = "") : root_(std::move(root)) {}
 
     ConnectionState Connection() override;
+    Bytes Get(const std::string& address) override { return HttpGet(address, FetchLimits()); }
 
 private:
     std::string root_;

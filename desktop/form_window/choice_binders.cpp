@@ -1,6 +1,7 @@
 #include "desktop/form_window/choice_binders.h"
 
 #include <QLineEdit>
+#include <QStandardItemModel>
 #include <QStringList>
 
 #include "desktop/form_window/caption_text.h"
@@ -46,6 +47,7 @@ void OptionButtonBinder::Show() {
 
 ListBoxBinder::ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
     : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    widget.setUniformItemSizes(true);
     connect(&widget, &QListWidget::currentRowChanged, this,
             [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
     connect(&widget, &QListWidget::itemDoubleClicked, this,
@@ -58,31 +60,35 @@ void ListBoxBinder::Show() {
 }
 
 void ListBoxBinder::ShowItems() {
-    const QStringList items = ItemsOf(control);
-    QStringList shown;
-    for (int row = 0; row < widget.count(); ++row) {
-        shown << widget.item(row)->text();
-    }
-    if (shown != items) {
+    if (clearings_ != control.Clearings()) {
+        clearings_ = control.Clearings();
         widget.clear();
-        widget.addItems(items);
     }
+    QStringList added;
+    for (int row = widget.count(); row < control.ListCount(); ++row) {
+        added << QString::fromStdString(control.ListItem(row));
+    }
+    widget.addItems(added);
 }
 
 ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
     : BinderOf(bound, boundWidget, std::move(refreshLater)) {
     connect(&widget, &QComboBox::activated, this,
             [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
-    connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-        Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
-    });
+    widget.setEditable(control.Typed());
+    if (control.Typed()) {
+        connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+            Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
+        });
+    }
 }
 
 void ComboBoxBinder::Show() {
     ShowItems();
+    ShowRefusals();
     widget.setCurrentIndex(control.ListIndex());
     const QString text = QString::fromStdString(control.Text());
-    if (widget.currentText() != text) {
+    if (control.Typed() && widget.currentText() != text) {
         widget.setEditText(text);
     }
 }
@@ -96,6 +102,15 @@ void ComboBoxBinder::ShowItems() {
     if (shown != items) {
         widget.clear();
         widget.addItems(items);
+    }
+}
+
+void ComboBoxBinder::ShowRefusals() {
+    const auto* model = dynamic_cast<QStandardItemModel*>(widget.model());
+    for (int row = 0; model != nullptr && row < widget.count(); ++row) {
+        const QString reason = QString::fromStdString(control.ItemRefusal(row));
+        model->item(row)->setEnabled(reason.isEmpty());
+        model->item(row)->setToolTip(reason);
     }
 }
 
@@ -117,6 +132,7 @@ void TabStripBinder::Show() {
         widget.setTabText(page, captions[page]);
     }
     widget.setCurrentIndex(control.ListIndex());
+    widget.setAccessibleName(captions.value(control.ListIndex()));
 }
 
 }  // namespace horavex

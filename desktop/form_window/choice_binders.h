@@ -32,6 +32,7 @@ protected:
     void Show() override;
 };
 
+/// Items are added as they come, so that a list of thousands can be filled one by one.
 class ListBoxBinder : public BinderOf<ListBox, QListWidget> {
 public:
     ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
@@ -41,6 +42,8 @@ protected:
 
 private:
     void ShowItems();
+
+    int clearings_ = -1;  // of the control, when its items were last shown
 };
 
 class ComboBoxBinder : public BinderOf<ComboBox, QComboBox> {
@@ -52,6 +55,7 @@ protected:
 
 private:
     void ShowItems();
+    void ShowRefusals();
 };
 
 /// The tabs alone; what lies on a page is shown and hidden by the form.

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -54,6 +56,29 @@ constexpr const char* kPlacedByProgram = "placedByProgram";
 bool LayOut(QWidget& window, const Layout& layout) {
     layout(window);
     return window.property(kPlacedByProgram).toBool();
+}
+
+constexpr const char* kCancels = "cancels";
+
+QPushButton* ButtonForEnter(const QWidget& window) {
+    if (auto* focused = qobject_cast<QPushButton*>(window.focusWidget())) {
+        return focused;
+    }
+    for (QPushButton* button : window.findChildren<QPushButton*>()) {
+        if (button->isDefault()) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+QPushButton* CancelButton(const QWidget& window) {
+    for (QPushButton* button : window.findChildren<QPushButton*>()) {
+        if (button->property(kCancels).toBool()) {
+            return button;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -256,6 +281,27 @@ bool FormWindow::event(QEvent* event) {
         RunGuarded([this] { form_.UserActivate(); });
     }
     return QWidget::event(event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    QPushButton* button = nullptr;
+    if (event->key() == Qt::Key_F1 && !retired_) {
+        RunGuarded([this] { form_.UserHelp(); });
+        return;
+    }
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        button = ButtonForEnter(*this);
+    } else if (event->key() == Qt::Key_Escape && property(kCancels).toBool()) {
+        close();
+        return;
+    } else if (event->key() == Qt::Key_Escape) {
+        button = CancelButton(*this);
+    }
+    if (button != nullptr) {
+        button->click();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void FormWindow::changeEvent(QEvent* event) {

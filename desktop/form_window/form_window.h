@@ -22,6 +22,9 @@ namespace horavex {
 /// A layout may name its window "placedByProgram": the place is then the form's alone, the window
 /// takes no keyboard as it comes up, and while it lies outside all screens it is hidden, since not
 /// every desktop lets a window be put there. No modal window shuts it off.
+///
+/// Enter presses the button that has the focus, or else the layout's default button; Escape the
+/// one that the layout marks with the property "cancels", or closes a window that is marked so.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -41,6 +44,7 @@ public:
     void RunUntilHidden();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

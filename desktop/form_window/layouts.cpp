@@ -3,8 +3,19 @@
 #include <QStyle>
 
 #include "ui_HoravexMainForm.h"
+#include "ui_Moon_Phases.h"
+#include "ui_NewCoordinates.h"
+#include "ui_fCountry.h"
 #include "ui_fMessage.h"
+#include "ui_fQibla.h"
+#include "ui_frmAbout.h"
 #include "ui_frmAthan.h"
+#include "ui_frmDateConvert.h"
+#include "ui_frmDistance.h"
+#include "ui_frmMonth.h"
+#include "ui_frmRamadan.h"
+#include "ui_frmTimes.h"
+#include "ui_frmWizard.h"
 
 namespace horavex {
 
@@ -30,9 +41,20 @@ void FillAthan(QWidget& window) {
 
 Layouts DrawnLayouts() {
     return {
+        {"NewCoordinates", Fill<Ui::NewCoordinates>},
+        {"fCountry", Fill<Ui::fCountry>},
         {"fMessage", Fill<Ui::fMessage>},
         {"frmAthan", FillAthan},
+        {"fQibla", Fill<Ui::fQibla>},
+        {"frmDateConvert", Fill<Ui::frmDateConvert>},
+        {"frmDistance", Fill<Ui::frmDistance>},
+        {"frmRamadan", Fill<Ui::frmRamadan>},
+        {"frmWizard", Fill<Ui::frmWizard>},
+        {"frmAbout", Fill<Ui::frmAbout>},
+        {"frmTimes", Fill<Ui::frmTimes>},
+        {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
+        {"Moon_Phases", Fill<Ui::Moon_Phases>},
     };
 }
 

@@ -1,6 +1,7 @@
 #include <stdexcept>
 
 #include "desktop/form_window/choice_binders.h"
+#include "desktop/form_window/grid_binder.h"
 #include "desktop/form_window/picture_binder.h"
 #include "desktop/form_window/range_binders.h"
 #include "desktop/form_window/text_binders.h"
@@ -12,6 +13,13 @@ namespace {
 template <class BinderType>
 std::unique_ptr<Binder> Make(Control& control, QWidget& widget, Binder::RefreshLater later) {
     return std::make_unique<BinderType>(control, widget, std::move(later));
+}
+
+/// A text box of one line or of several, as the layout has it.
+std::unique_ptr<Binder> MakeTextBox(Control& control, QWidget& widget, Binder::RefreshLater later) {
+    const bool severalLines = qobject_cast<QTextEdit*>(&widget) != nullptr;
+    return severalLines ? Make<LinesBinder>(control, widget, std::move(later))
+                        : Make<TextBoxBinder>(control, widget, std::move(later));
 }
 
 auto MakerOf(ControlKind kind) {
@@ -30,7 +38,7 @@ auto MakerOf(ControlKind kind) {
         case ControlKind::kOptionButton:
             return Make<OptionButtonBinder>;
         case ControlKind::kTextBox:
-            return Make<TextBoxBinder>;
+            return MakeTextBox;
         case ControlKind::kListBox:
             return Make<ListBoxBinder>;
         case ControlKind::kComboBox:
@@ -44,6 +52,8 @@ auto MakerOf(ControlKind kind) {
             return Make<PictureBinder>;
         case ControlKind::kTabStrip:
             return Make<TabStripBinder>;
+        case ControlKind::kGrid:
+            return Make<GridBinder>;
         case ControlKind::kForm:
         case ControlKind::kMenuItem:
         case ControlKind::kTimer:

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QMouseEvent>
+#include <utility>
+
 #include "desktop/form_window/binder_of.h"
 #include "desktop/form_window/canvas.h"
 #include "forms/picture.h"
@@ -8,9 +11,23 @@ namespace horavex {
 
 class PictureBinder : public BinderOf<Picture, Canvas> {
 public:
-    using BinderOf::BinderOf;
+    PictureBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+        : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+        widget.setMouseTracking(true);
+    }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseMove && control.onMouseMove) {
+            const QPointF at = static_cast<QMouseEvent*>(event)->position();
+            Hand([this, at] {
+                control.UserMouseMove({at.x() * control.ScaleWidth() / widget.width(),
+                                       at.y() * control.ScaleHeight() / widget.height()});
+            });
+        }
+        return BinderOf::eventFilter(watched, event);
+    }
+
     void Show() override {
         widget.Show({control.ScaleWidth(), control.ScaleHeight()}, control.PictureName(),
                     control.drawing);

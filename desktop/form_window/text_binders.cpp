@@ -1,5 +1,10 @@
 #include "desktop/form_window/text_binders.h"
 
+#include <QTextBlockFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextFrame>
+
 #include "desktop/form_window/caption_text.h"
 
 namespace horavex {
@@ -10,7 +15,9 @@ void FrameBinder::Show() {
 
 void LabelBinder::Show() {
     widget.setTextFormat(Qt::PlainText);
-    widget.setText(QString::fromStdString(control.Caption()));
+    // A label marks the key of the control that it stands before.
+    widget.setText(widget.buddy() == nullptr ? QString::fromStdString(control.Caption())
+                                             : ShownCaption(control, widget));
     const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
     widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                         Qt::AlignVCenter);
@@ -43,6 +50,36 @@ void TextBoxBinder::Show() {
     if (widget.text() != text) {
         widget.setText(text);
     }
+}
+
+void LinesBinder::Show() {
+    const QString text = QString::fromStdString(control.Text()).remove('\r');
+    if (widget.toPlainText() == text) {
+        return;
+    }
+    widget.setPlainText(text);
+    SetSideMargins();
+    if (const int height = widget.property("lineHeight").toInt(); height > 0) {
+        SetLineHeight(height);
+    }
+}
+
+// None above: the first line stands beside the top of a picture.
+void LinesBinder::SetSideMargins() {
+    constexpr double kMargin = 4.0;
+    QTextFrameFormat format = widget.document()->rootFrame()->frameFormat();
+    format.setMargin(0.0);
+    format.setLeftMargin(kMargin);
+    format.setRightMargin(kMargin);
+    widget.document()->rootFrame()->setFrameFormat(format);
+}
+
+void LinesBinder::SetLineHeight(int pixels) {
+    QTextBlockFormat format;
+    format.setLineHeight(pixels, QTextBlockFormat::FixedHeight);
+    QTextCursor all(widget.document());
+    all.select(QTextCursor::Document);
+    all.mergeBlockFormat(format);
 }
 
 }  // namespace horavex

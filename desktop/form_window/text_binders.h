@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextEdit>
 
 #include "desktop/form_window/binder_of.h"
 #include "forms/command_button.h"
@@ -59,6 +60,20 @@ public:
 
 protected:
     void Show() override;
+};
+
+/// A text box of several lines that users can only read. A layout may give all lines a height in
+/// pixels, its property "lineHeight", so that pictures can stand beside them.
+class LinesBinder : public BinderOf<TextBox, QTextEdit> {
+public:
+    using BinderOf::BinderOf;
+
+protected:
+    void Show() override;
+
+private:
+    void SetSideMargins();
+    void SetLineHeight(int pixels);
 };
 
 }  // namespace horavex

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 namespace horavex {
 
@@ -25,6 +26,12 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". Else empty.
+QString SuffixOf(const QString& filter) {
+    static const QRegularExpression oneSuffix(QStringLiteral(R"(\(\*\.(\w+)\)$)"));
+    return oneSuffix.match(filter).captured(1);
+}
+
 /// "label|pattern;pattern|" over and over, as the toolkit has it: "label (pattern pattern)".
 QStringList FiltersOf(const QString& filter) {
     const QStringList parts = filter.split(u'|');
@@ -34,6 +41,19 @@ QStringList FiltersOf(const QString& filter) {
         filters << parts[i] + " (" + patterns.replace(u';', u' ') + ")";
     }
     return filters;
+}
+
+/// The path that the user chooses; empty for none.
+std::string Ask(QFileDialog& dialog, const FileRequest& request) {
+    const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
+    dialog.setWindowTitle(QString::fromStdString(request.title));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
 
 }  // namespace
@@ -48,16 +68,21 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
 }
 
 std::string QtDialogs::OpenFile(const FileRequest& request) {
-    const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
-    QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
+    QFileDialog dialog(QApplication::activeWindow());
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(request.filterIndex - 1));
-    if (dialog.exec() != QDialog::Accepted) {
-        return {};
-    }
-    return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
+    return Ask(dialog, request);
+}
+
+std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QString::fromStdString(suffix));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& chosen) {
+        if (!SuffixOf(chosen).isEmpty()) {
+            dialog.setDefaultSuffix(SuffixOf(chosen));
+        }
+    });
+    return Ask(dialog, request);
 }
 
 }  // namespace horavex

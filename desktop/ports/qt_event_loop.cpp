@@ -8,13 +8,25 @@
 
 namespace horavex {
 
+namespace {
+
+constexpr qint64 kShortestGap = 5;  // milliseconds
+
+}  // namespace
+
 QtEventLoop::QtEventLoop() {
     wakeUp_.setSingleShot(true);
     wakeUp_.setTimerType(Qt::PreciseTimer);
 }
 
+// Routines pump after each item of a list, thousands of times a second; drawing the windows as
+// often would take most of the time.
 void QtEventLoop::Pump() {
+    if (sincePump_.isValid() && sincePump_.elapsed() < kShortestGap) {
+        return;
+    }
     QCoreApplication::processEvents();
+    sincePump_.start();
 }
 
 void QtEventLoop::Rest(int milliseconds) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include "platform/event_loop.h"
@@ -11,6 +12,7 @@ class QtEventLoop : public EventLoop {
 public:
     QtEventLoop();
 
+    /// Of pumps in quick succession, one in five milliseconds delivers.
     void Pump() override;
     void Rest(int milliseconds) override;
     void Sleep(int milliseconds) override;
@@ -20,6 +22,7 @@ public:
 
 private:
     QTimer wakeUp_;  // an event of its own when no other comes
+    QElapsedTimer sincePump_;
 };
 
 }  // namespace horavex

@@ -36,6 +36,10 @@ std::string QtFormats::MediumTime(Date time) const {
     return Plain(locale_.toString(TimeOf(time), pattern));
 }
 
+std::string QtFormats::TwelveHourTime(Date time) const {
+    return Plain(locale_.toString(TimeOf(time), QStringLiteral("hh:mm AP")));
+}
+
 std::string QtFormats::LongTime(Date time) const {
     const QString pattern = LongTimePattern(locale_.timeFormat(QLocale::LongFormat));
     return Plain(locale_.toString(TimeOf(time), pattern));
@@ -52,6 +56,13 @@ std::string QtFormats::ShortDate(Date date) const {
 
 std::string QtFormats::WeekdayName(Date date) const {
     return Plain(locale_.toString(DayOf(date), QStringLiteral("dddd")));
+}
+
+// A month's name that no day stands before is a form of its own in some languages.
+std::string QtFormats::MonthAndYear(Date date) const {
+    const QDate day = DayOf(date);
+    return Plain(locale_.standaloneMonthName(day.month()) + QChar(u' ') +
+                 locale_.toString(day, QStringLiteral("yyyy")));
 }
 
 char QtFormats::DecimalMark() const {

@@ -14,10 +14,12 @@ public:
     explicit QtFormats(QLocale locale = QLocale::system()) : locale_(std::move(locale)) {}
 
     std::string MediumTime(Date time) const override;
+    std::string TwelveHourTime(Date time) const override;
     std::string LongTime(Date time) const override;
     std::string LongDate(Date date) const override;
     std::string ShortDate(Date date) const override;
     std::string WeekdayName(Date date) const override;
+    std::string MonthAndYear(Date date) const override;
 
     /// A point for the marks outside ASCII, which no number of the system is read with.
     char DecimalMark() const override;

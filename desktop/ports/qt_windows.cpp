@@ -2,8 +2,12 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/form_window/menu.h"
 #include "desktop/form_window/twips.h"
@@ -70,6 +74,25 @@ void QtWindows::Activate(const std::string& form) {
     FormWindow* window = windows_.Find(form);
     if (window != nullptr && window->isVisible()) {
         window->activateWindow();
+    }
+}
+
+void PrintWindow(QWidget& window, QPrinter& printer) {
+    QPainter painter(&printer);
+    const QRectF page = painter.viewport();
+    const double scale = std::min(page.width() / window.width(), page.height() / window.height());
+    painter.scale(scale, scale);
+    window.render(&painter);
+}
+
+void QtWindows::Print(const std::string& form) {
+    FormWindow* window = windows_.Find(form);
+    if (window == nullptr || !window->isVisible()) {
+        return;
+    }
+    QPrinter printer;
+    if (QPrintDialog(&printer, window).exec() == QDialog::Accepted) {
+        PrintWindow(*window, printer);
     }
 }
 

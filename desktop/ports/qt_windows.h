@@ -4,8 +4,12 @@
 #include "platform/windows.h"
 
 class QScreen;
+class QPrinter;
 
 namespace horavex {
+
+/// Puts a picture of a window onto one page, at most as large as the page is.
+void PrintWindow(QWidget& window, QPrinter& printer);
 
 /// Forms that are not loaded have no window: what is asked of them does nothing.
 class QtWindows : public Windows {
@@ -20,6 +24,7 @@ public:
     void Activate(const std::string& form) override;
     void SetForeground(const std::string& form) override;
     void SetTopMost(const std::string& form, bool topMost) override;
+    void Print(const std::string& form) override;
 
 private:
     const QScreen& FaceScreen() const;

@@ -1,5 +1,7 @@
 #include "base/utf8.h"
 
+#include <algorithm>
+
 namespace horavex {
 
 namespace {
@@ -93,6 +95,22 @@ std::optional<std::u32string> DecodeUtf8(std::string_view text) {
 
 bool IsUtf8(std::string_view text) {
     return DecodeUtf8(text).has_value();
+}
+
+std::size_t Utf8Length(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return !IsContinuation(c); }));
+}
+
+std::string_view Utf8FirstCharacters(std::string_view text, std::size_t count) {
+    std::size_t end = 0;
+    for (std::size_t begun = 0; end < text.size(); ++end) {
+        begun += IsContinuation(text[end]) ? 0U : 1U;
+        if (begun > count) {
+            break;
+        }
+    }
+    return text.substr(0, end);
 }
 
 std::string_view Utf8Prefix(std::string_view text, std::size_t maxBytes) {

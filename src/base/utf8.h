@@ -15,6 +15,12 @@ std::optional<std::u32string> DecodeUtf8(std::string_view text);
 
 bool IsUtf8(std::string_view text);
 
+/// How many characters a text has. A stray byte counts as a part of the character before it.
+std::size_t Utf8Length(std::string_view text);
+
+/// The first characters of a text, all of them where it has fewer.
+std::string_view Utf8FirstCharacters(std::string_view text, std::size_t count);
+
 /// The longest beginning of at most maxBytes bytes that does not split a character.
 std::string_view Utf8Prefix(std::string_view text, std::size_t maxBytes);
 

@@ -1,14 +1,16 @@
 #include "config/settings_controls.h"
 
-#include <cmath>
-
 #include "base/fault.h"
 #include "base/flag.h"
 #include "base/int16.h"
-#include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/text.h"
+#include "config/angle_sliders.h"
+#include "config/computer_zone.h"
+#include "config/method_list.h"
 #include "config/settings_display.h"
+#include "config/wizard_preview.h"
+#include "config/zone_box.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
 #include "store/angle_band.h"
@@ -18,14 +20,12 @@
 #include "store/settings_defaults.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
 
 namespace {
-
-constexpr double kQuarter = 0.25;      // degrees a step of the fine sliders
-constexpr double kRefusedZone = 13.0;  // hours; what rounds to this or more is thrown out
 
 /// Options that a record names but the window does not have stay unselected.
 void Select(const ControlArray<OptionButton>& options, int index) {
@@ -34,17 +34,11 @@ void Select(const ControlArray<OptionButton>& options, int index) {
     }
 }
 
-void ShowAngle(double angle, ScrollBar& whole, Slider& quarters) {
-    const double floor = std::floor(angle);
-    whole.SetValue(static_cast<int>(floor));
-    quarters.SetValue(static_cast<int>(RoundHalfEven(std::fabs(angle - floor) / kQuarter)));
-}
-
 /// Moving the sliders writes their clipped values; the remembered angles come back last.
 void ShowAngles(double fajrAngle, double ishaAngle) {
     SettingsForm& form = *HoravexMainForm;
-    ShowAngle(fajrAngle, form.hsDepr, form.hsDepr1);
-    ShowAngle(ishaAngle, form.hsDepr2, form.hsDepr21);
+    MoveSliders(fajrAngle, form.hsDepr, form.hsDepr1);
+    MoveSliders(ishaAngle, form.hsDepr2, form.hsDepr21);
     Settings.FajrAngle = fajrAngle;
     IshaAngle = ishaAngle;
     sub06FB();
@@ -85,13 +79,13 @@ void ShowSettings(double fajrAngle, double ishaAngle) {
 
 void hsDepr_Change() {
     const SettingsForm& form = *HoravexMainForm;
-    Settings.FajrAngle = form.hsDepr.Value() + kQuarter * form.hsDepr1.Value();
+    Settings.FajrAngle = AngleOnSliders(form.hsDepr, form.hsDepr1);
     sub06FB();
 }
 
 void hsDepr2_Change() {
     const SettingsForm& form = *HoravexMainForm;
-    IshaAngle = form.hsDepr2.Value() + kQuarter * form.hsDepr21.Value();
+    IshaAngle = AngleOnSliders(form.hsDepr2, form.hsDepr21);
     sub06FB();
 }
 
@@ -137,20 +131,30 @@ void txtTimeZone_GotFocus() {
     HoravexMainForm->lastTimeZoneText = HoravexMainForm->txtTimeZone.Text();
 }
 
-/// A lone sign is no number and goes at once: digits come first, the sign afterwards.
 void txtTimeZone_KeyUp() {
-    TextBox& box = HoravexMainForm->txtTimeZone;
-    const bool fits =
-        IsNumeric(box.Text()) && RoundHalfEven(std::fabs(TextToNumber(box.Text()))) < kRefusedZone;
-    if (!fits) {
-        box.SetText(HoravexMainForm->lastTimeZoneText);
-    }
+    GuardZone(HoravexMainForm->txtTimeZone, HoravexMainForm->lastTimeZoneText);
 }
 
 void cmdDefault_Click() {
     ApplyDefaultSettings(Ports().clock.Today());
     HoravexMainForm->txtTimeZone.SetText(std::to_string(ZoneNearest));
     sub0651();
+}
+
+/// Ranges of the angle controls of a window, and the labels of their limits.
+template <class Window>
+void LimitAngles(Window& form) {
+    for (ScrollBar* bar : {&form.hsDepr, &form.hsDepr2}) {
+        bar->SetMin(AngleBand.smallest);
+        bar->SetMax(AngleBand.largest);
+    }
+    for (Label* label : {&form.lblDeprMin, &form.Label7}) {
+        label->SetCaption(std::to_string(AngleBand.smallest));
+    }
+    for (Label* label : {&form.lblDeprMax, &form.Label6}) {
+        label->SetCaption(std::to_string(AngleBand.largest));
+    }
+    ListMethods(form, Settings.Language);
 }
 
 /// The display follows the thumb while it is dragged.
@@ -189,17 +193,10 @@ void SetDepressionLimits(std::int16_t latitude) {
     } catch (const FileFault&) {
         // Without the file the limits stay as they were.
     }
-    SettingsForm& form = *HoravexMainForm;
-    for (ScrollBar* bar : {&form.hsDepr, &form.hsDepr2}) {
-        bar->SetMin(AngleBand.smallest);
-        bar->SetMax(AngleBand.largest);
-    }
-    for (Label* label : {&form.lblDeprMin, &form.Label7}) {
-        label->SetCaption(std::to_string(AngleBand.smallest));
-    }
-    for (Label* label : {&form.lblDeprMax, &form.Label6}) {
-        label->SetCaption(std::to_string(AngleBand.largest));
-    }
+    const PreviewHold hold;
+    LimitAngles(*HoravexMainForm);
+    LimitAngles(*frmWizard);
+    frmWizard->lblCity.SetCaption(HoravexMainForm->lblCity.Caption());
 }
 
 void LoadSettingsIntoControls() {
@@ -231,6 +228,8 @@ void BindSettingsControls() {
     form.txtTimeZone.onChange = txtTimeZone_Change;
     form.txtTimeZone.onGotFocus = txtTimeZone_GotFocus;
     form.txtTimeZone.onKeyUp = txtTimeZone_KeyUp;
+    form.cmdComputerZone.onClick = UseComputerZone;
+    form.cboMethod.onClick = [] { cboMethod_Click(*HoravexMainForm); };
     form.cmdDefault.onClick = cmdDefault_Click;
 }
 

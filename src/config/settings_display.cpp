@@ -6,8 +6,12 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
+#include "base/text.h"
+#include "config/method_list.h"
 #include "engine/current_year.h"
 #include "geo/qibla.h"
+#include "lang/arabic_labels.h"
+#include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
@@ -25,15 +29,15 @@ std::string Text(std::uint16_t entry) {
     return TextItem(entry, Settings.Language);
 }
 
-std::string DayText(std::int16_t day) {
-    return Ports().formats.LongDate(DateSerial(CurrentYear, 1, 1) + day - 1);
-}
+}  // namespace
 
 std::string AngleText(double angle) {
     return Text(16) + " " + NumberToText(angle, Ports().formats.DecimalMark());
 }
 
-}  // namespace
+std::string DayText(std::int16_t day) {
+    return Ports().formats.LongDate(DateSerial(CurrentYear, 1, 1) + day - 1);
+}
 
 void sub0690() {
     HoravexMainForm->lblAlarm.SetCaption(
@@ -51,6 +55,7 @@ void sub071C() {
 void sub06FB() {
     HoravexMainForm->lblDepr.SetCaption(AngleText(Settings.FajrAngle));
     HoravexMainForm->lblDepr1.SetCaption(AngleText(IshaAngle));
+    ShowMethod(*HoravexMainForm);
 }
 
 void sub0602() {
@@ -72,13 +77,16 @@ void sub05CD() {
     }
 }
 
+void SetDaylightRange(ScrollBar& bar) {
+    const int last = 364 + LeapFlag;
+    bar.SetMax(last);
+    bar.SetLargeStep(static_cast<int>(RoundHalfEven(last / 12.0)));
+}
+
 void ShowDaylightDays() {
     SettingsForm& form = *HoravexMainForm;
-    const int last = 364 + LeapFlag;
-    for (ScrollBar* bar : {&form.hsBegin, &form.hsEnd}) {
-        bar->SetMax(last);
-        bar->SetLargeStep(static_cast<int>(RoundHalfEven(last / 12.0)));
-    }
+    SetDaylightRange(form.hsBegin);
+    SetDaylightRange(form.hsEnd);
     form.hsBegin.SetValue(Settings.DstStart - 1);
     form.hsEnd.SetValue(Settings.DstEnd - 1);
 }
@@ -92,6 +100,13 @@ void ShowLocationInWindow() {
     form.lblGMT.SetCaption(Text(67));
 }
 
+void ShowNewLocation() {
+    ShowLocationInWindow();
+    if (AsciiLower(currentLanguage) == "arabic") {
+        Translate();
+    }
+}
+
 void TranslateSettingsWindow(std::int16_t language) {
     SettingsForm& form = *HoravexMainForm;
     const std::pair<Control*, std::uint16_t> captions[] = {
@@ -103,13 +118,16 @@ void TranslateSettingsWindow(std::int16_t language) {
         {&form.optAthanType(2), 58},   {&form.optAthanType(3), 61},   {&form.fraAlarm, 50},
         {&form.chkAlarm, 50},          {&form.lblAlarmAt, 51},        {&form.fraQibla, 68},
         {&form.optQiblaMethod(1), 70}, {&form.optQiblaMethod(2), 71}, {&form.cmdQibla, 68},
-        {&form.fraLanguage, 24},       {&form.chkAddToStartup, 66},   {&form.cmdDefault, 73},
+        {&form.fraLanguage, 24},       {&form.cmdComputerZone, 78},   {&form.lblMethod, 79},
+        {&form.fraAngles, 90},         {&form.chkAddToStartup, 66},   {&form.cmdDefault, 73},
         {&form.SettingsSet, 72},
     };
     for (const auto& [control, entry] : captions) {
         control->SetCaption(TextItem(entry, language));
     }
+    form.lblCityBanner.SetCaption(TextItem(25, language) + ": " + ActiveCityText);
     form.SetCaption("Horavex " + TextItem(19, language));
+    ListMethods(*HoravexMainForm, language);
 }
 
 void LoadQiblaLabels() {

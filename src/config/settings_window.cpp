@@ -2,15 +2,22 @@
 
 #include <string>
 
+#include "base/flag.h"
 #include "base/number_text.h"
 #include "base/steps.h"
+#include "config/city_choice.h"
+#include "config/help.h"
+#include "config/new_coordinates.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"
+#include "config/wizard.h"
+#include "config/zone_box.h"
 #include "engine/angle.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
+#include "store/cancel_load.h"
 #include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "store/location_record.h"
@@ -19,6 +26,7 @@
 #include "store/settings_record.h"
 #include "store/text_table.h"
 #include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -26,17 +34,10 @@ namespace horavex {
 namespace {
 
 constexpr std::int16_t kSoundAthan = 3;
+constexpr double kLastZone = 12.0;  // hours; the wizard stops an hour earlier
 
 std::string Text(std::uint16_t entry) {
     return TextItem(entry, Settings.Language);
-}
-
-bool IsZone(const std::string& text) {
-    if (!IsNumeric(text)) {
-        return false;
-    }
-    const double zone = TextToNumber(text);
-    return zone >= -12.0 && zone <= 12.0;
 }
 
 void RefuseZone() {
@@ -88,6 +89,7 @@ void Store() {
     RunStep(SaveIshaAngle);
     RunStep(LoadQiblaLabels);
     RunStep(ShowTimeZone);
+    frmWizard->lblCity.SetCaption(HoravexMainForm->lblCity.Caption());
 }
 
 /// The close box throws all edits away.
@@ -100,6 +102,7 @@ void DiscardEdits() {
 }
 
 void HoravexMainForm_QueryUnload(CloseRequest& request) {
+    CloseHelp();
     if (request.reason == CloseReason::kUser || request.reason == CloseReason::kCode) {
         request.cancel = true;
         DiscardEdits();
@@ -115,13 +118,14 @@ void HoravexMainForm_Resize() {
 }  // namespace
 
 void ShowSettingsWindow() {
+    CancelLoad = kFalse;
     HoravexMainForm->SetWindowState(WindowState::kNormal);
     HoravexMainForm->Show(&*frmMain);
 }
 
 void SettingsSet_Click() {
     const std::string zone = HoravexMainForm->txtTimeZone.Text();
-    if (!IsZone(zone)) {
+    if (!IsZone(zone, kLastZone)) {
         RefuseZone();
         return;
     }
@@ -147,6 +151,9 @@ void EnableDependentSettings() {
 
 void BindSettingsWindow() {
     BindSettingsControls();
+    BindCityChoice();
+    BindNewCoordinates();
+    BindWizard();
     HoravexMainForm->SettingsSet.onClick = SettingsSet_Click;
     HoravexMainForm->chkAddToStartup.onClick = chkAddToStartup_Click;
     HoravexMainForm->onCloseRequest = HoravexMainForm_QueryUnload;

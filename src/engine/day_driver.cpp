@@ -89,9 +89,13 @@ void InstallDayHost(DayHost* newHost) {
     host = newHost;
 }
 
+void TakePlace(const CityRecord& city) {
+    LatitudeRad = DegToRad(StoredCoord(city.Latitude));
+    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(city.Longitude));
+}
+
 void RecalculateYear() {
-    LatitudeRad = DegToRad(StoredCoord(Location.City.Latitude));
-    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(Location.City.Longitude));
+    TakePlace(Location.City);
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);
     ComputeYearTimes(0, AddInt16(365, LeapFlag),

@@ -176,14 +176,18 @@ void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const Progress
     CheckShiftedRows(firstDay, endDay);
 }
 
-bool IsDaylightDay(Date date) {
-    if (Settings.DstEnabled != 1) {
+bool IsDaylightDay(Date date, const SettingsRecord& settings) {
+    if (settings.DstEnabled != 1) {
         return false;
     }
     const double day = std::floor(date) - DateSerial(CivilFromDate(date).year, 1, 1) + 1.0;
-    const bool started = day >= Settings.DstStart;
-    const bool over = day > Settings.DstEnd;
-    return Settings.DstStart <= Settings.DstEnd ? started && !over : started || !over;
+    const bool started = day >= settings.DstStart;
+    const bool over = day > settings.DstEnd;
+    return settings.DstStart <= settings.DstEnd ? started && !over : started || !over;
+}
+
+bool IsDaylightDay(Date date) {
+    return IsDaylightDay(date, Settings);
 }
 
 PrayerRow ComputeTodayTimes(Date today) {

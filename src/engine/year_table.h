@@ -9,6 +9,8 @@
 
 namespace horavex {
 
+struct SettingsRecord;
+
 /// Prayer indexes, the columns of the table.
 enum Prayer : std::size_t { kFajr, kShurooq, kZuhr, kAsr, kMaghrib, kIsha };
 inline constexpr std::size_t kPrayerCount = 6;
@@ -44,7 +46,10 @@ using ProgressReport = std::function<void(double percent)>;
 /// run before left. Throws BoundsFault when DstStart or DstEnd is no day of the table.
 void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const ProgressReport& report);
 
-/// True for a day whose times of the table carry the daylight hour under the working settings.
+/// True for a day whose times of the table carry the daylight hour under the given settings.
+bool IsDaylightDay(Date date, const SettingsRecord& settings);
+
+/// The same under the working settings.
 bool IsDaylightDay(Date date);
 
 /// The wizard's preview: the six times of one day alone, without touching the table. Shares the

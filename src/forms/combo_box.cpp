@@ -20,6 +20,18 @@ void ComboBox::Clear() {
     SetText("");
 }
 
+void ComboBox::UserType(const std::string& text) {
+    if (Typed()) {
+        Type(text);
+    }
+}
+
+void ComboBox::UserEdit(const std::string& text) {
+    if (Typed()) {
+        Edit(text);
+    }
+}
+
 void ComboBox::SetHeight(double) {
     throw NoSuchPropertyFault(Name(), Property::kPlace);
 }

@@ -5,7 +5,8 @@
 namespace horavex {
 
 /// A list under an editable text. Choosing an item takes over its text and fires onClick alone;
-/// any other change of the text fires onChange alone.
+/// any other change of the text fires onChange alone. A box whose definition says that nothing is
+/// typed has its text from the list alone.
 class ComboBox : public List {
 public:
     ComboBox(Element& parent, ControlName name, ControlValues definition = {});
@@ -23,9 +24,11 @@ public:
     /// Its height is fixed: throws NoSuchPropertyFault.
     void SetHeight(double height) override;
 
-    /// As those of a text box.
-    void UserType(const std::string& text) { Type(text); }
-    void UserEdit(const std::string& text) { Edit(text); }
+    bool Typed() const { return Now().typed; }
+
+    /// As those of a text box; ignored where nothing is typed.
+    void UserType(const std::string& text);
+    void UserEdit(const std::string& text);
 
 private:
     void Selected() override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,8 @@ struct ControlValues {
     int smallStep = 1;
     int largeStep = 1;
     std::vector<std::string> items = {};
+    std::map<int, std::string> refusals = {};    // by index: why the item cannot be chosen
+    bool typed = true;                           // false where the text is chosen from a list alone
     int listIndex = -1;                          // 0 to the number of items less 1, or -1 for none
     int intervalMs = 0;                          // 0 for a timer that never ticks
     std::optional<int> tabIndex = std::nullopt;  // by default the next number of the form

@@ -14,8 +14,12 @@ namespace {
 
 FormHost* host = nullptr;
 Form* activeForm = nullptr;
+std::function<void(Form&)> pressedHelpKey;
 
-const ProgramStateReset reset([] { activeForm = nullptr; });
+const ProgramStateReset reset([] {
+    activeForm = nullptr;
+    pressedHelpKey = nullptr;
+});
 
 ControlValues Hidden(ControlValues definition) {
     definition.visible = false;
@@ -30,6 +34,10 @@ void InstallFormHost(FormHost* newHost) {
 
 Form* ActiveForm() {
     return activeForm;
+}
+
+void InstallHelpKey(std::function<void(Form&)> helpKey) {
+    pressedHelpKey = std::move(helpKey);
 }
 
 Form::Form(std::string name, ControlValues definition)
@@ -164,6 +172,12 @@ void Form::Activate() {
     if (Visible() && activeForm != this) {
         activeForm = this;
         Run(onActivate);
+    }
+}
+
+void Form::UserHelp() {
+    if (pressedHelpKey) {
+        Run([this] { pressedHelpKey(*this); });
     }
 }
 

@@ -94,6 +94,7 @@ public:
     /// What a front end reports.
     void UserClose() { Unload(CloseReason::kUser); }
     void UserActivate() { Activate(); }
+    void UserHelp();
 
     /// nullptr for none. Not owned.
     void SetObserver(FormObserver* observer) { observer_ = observer; }
@@ -141,5 +142,8 @@ private:
 
 /// The form that the user works with; nullptr for none.
 Form* ActiveForm();
+
+/// What the help key does on a form; nothing before it is installed, and in a fresh process.
+void InstallHelpKey(std::function<void(Form&)> helpKey);
 
 }  // namespace horavex

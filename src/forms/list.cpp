@@ -34,8 +34,27 @@ void List::AddItem(const std::string& item) {
 }
 
 void List::Clear() {
+    ++clearings_;
     Assign(&ControlValues::items, {});
+    Assign(&ControlValues::refusals, {});
     Assign(&ControlValues::listIndex, -1);
+}
+
+void List::Restore() {
+    ++clearings_;
+    Focusable::Restore();
+}
+
+std::string List::ItemRefusal(int index) const {
+    const auto found = Now().refusals.find(index);
+    return found == Now().refusals.end() ? std::string() : found->second;
+}
+
+void List::SetItemRefusal(int index, const std::string& reason) {
+    RequireItem(index);
+    if (ItemRefusal(index) != reason) {
+        Alter([&](ControlValues& now) { now.refusals[index] = reason; });
+    }
 }
 
 void List::SetListIndex(int index) {
@@ -49,7 +68,7 @@ void List::SetListIndex(int index) {
 }
 
 void List::UserSelect(int index) {
-    if (BeginUserAction()) {
+    if (BeginUserAction() && ItemRefusal(index).empty()) {
         SetListIndex(index);
     }
 }

@@ -31,13 +31,28 @@ public:
     /// Throws BoundsFault below -1 and beyond the last item.
     void SetListIndex(int index);
 
+    /// Why users cannot choose the item; empty where they can. Code can select it all the same.
+    std::string ItemRefusal(int index) const;
+
+    /// Throws BoundsFault for an index without an item.
+    void SetItemRefusal(int index, const std::string& reason);
+
+    /// Number of times that items went away. As long as it stays the same, items were only added,
+    /// so that a front end need not look at those that it has.
+    int Clearings() const { return clearings_; }
+
+    /// Ignored for an item that is refused.
     void UserSelect(int index);
 
 protected:
     void RequireItem(int index) const;
+    void Restore() override;
 
     /// The selection has moved; onClick comes next.
     virtual void Selected() {}
+
+private:
+    int clearings_ = 0;
 };
 
 class ListBox : public List {

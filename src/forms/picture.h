@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <utility>
 
 #include "forms/control.h"
@@ -15,6 +16,9 @@ public:
 
     Handler onClick;
 
+    /// The pointer stands at a place of the inside, in twips.
+    std::function<void(Point)> onMouseMove;
+
     /// Stays until it is changed or the form unloads; Refresh shows a change.
     Drawing drawing;
 
@@ -24,6 +28,12 @@ public:
     void UserClick() {
         if (AcceptsUser()) {
             Fire(onClick);
+        }
+    }
+
+    void UserMouseMove(Point at) {
+        if (AcceptsUser() && onMouseMove) {
+            Fire([this, at] { onMouseMove(at); });
         }
     }
 

@@ -58,6 +58,7 @@ const PropertySet& PropertiesOf(ControlKind kind) {
         case ControlKind::kSlider:
         case ControlKind::kProgressBar:
         case ControlKind::kTabStrip:
+        case ControlKind::kGrid:
             return kPlain;
         case ControlKind::kScrollBar:
             return kBar;

@@ -24,6 +24,7 @@ enum class ControlKind {
     kProgressBar,
     kPicture,
     kTabStrip,
+    kGrid,
     kTimer,
 };
 

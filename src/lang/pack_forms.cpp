@@ -1,9 +1,20 @@
 #include "lang/pack_forms.h"
 
+#include "windows/f_country.h"
 #include "windows/f_message.h"
+#include "windows/f_qibla.h"
+#include "windows/frm_about.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
 #include "windows/frm_main.h"
+#include "windows/frm_month.h"
+#include "windows/frm_ramadan.h"
+#include "windows/frm_times.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
+#include "windows/moon_phases.h"
+#include "windows/new_coordinates.h"
 
 namespace horavex {
 
@@ -19,7 +30,9 @@ std::vector<std::unique_ptr<Form>> Make() {
 }  // namespace
 
 std::vector<std::unique_ptr<Form>> PackForms() {
-    return Make<FrmMain, SettingsForm, MessageForm, FrmAthan>();
+    return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
+                WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
+                AboutForm, TimesForm, MonthForm>();
 }
 
 }  // namespace horavex

@@ -24,17 +24,35 @@ std::vector<std::string> MessageKeys() {
 
 std::vector<std::string> OtherKeys() {
     auto keys = Numbers(1, 20);
-    keys.insert(keys.end(), {"Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    keys.insert(keys.end(), {"AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    return keys;
+}
+
+/// What a written timetable says; its months and weekdays are numbered.
+std::vector<std::string> TimetableKeys() {
+    std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",    "Hijri",
+                                     "Fajr",      "Shurooq",   "Zuhr",      "Asr",    "Maghrib",
+                                     "Isha",      "Latitude",  "Longitude", "Zone",   "FajrAngle",
+                                     "IshaAngle", "AsrRatio",  "Qibla",     "Begins", "Ends",
+                                     "MonthPage", "YearPage"};
+    for (const std::string& month : Numbers(1, 12)) {
+        keys.push_back("Month" + month);
+    }
+    for (const std::string& weekday : Numbers(0, 6)) {
+        keys.push_back("Weekday" + weekday);
+    }
     return keys;
 }
 
 }  // namespace
 
 const std::vector<PackSection>& PackVocabularies() {
-    static const std::vector<PackSection> sections = {{"msg", MessageKeys()},
-                                                      {"other", OtherKeys()},
-                                                      {"Azan", {"0", "2", "3", "4", "5"}},
-                                                      {"desktop", {"NoTray"}}};
+    static const std::vector<PackSection> sections = {
+        {"msg", MessageKeys()},
+        {"other", OtherKeys()},
+        {"Azan", {"0", "2", "3", "4", "5"}},
+        {"desktop", {"NoTray", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
+        {"timetables", TimetableKeys()}};
     return sections;
 }
 
@@ -56,6 +74,9 @@ std::vector<PackSection> PackSections() {
     std::vector<PackSection> sections = PackVocabularies();
     for (const auto& form : PackForms()) {
         sections.push_back({form->Name(), FormPackKeys(*form)});
+        if (form->Name() == "frmRamadan") {
+            sections.back().keys.push_back("Text1");  // the help text, which is no caption
+        }
     }
     return sections;
 }

@@ -22,7 +22,8 @@ const std::vector<PackSection>& PackVocabularies();
 /// control has one.
 std::vector<std::string> FormPackKeys(const Form& form);
 
-/// The whole of a pack: the vocabularies, then a section for each of PackForms.
+/// The whole of a pack: the vocabularies, then a section for each of PackForms, with what the form
+/// reads of it beside the walk.
 std::vector<PackSection> PackSections();
 
 }  // namespace horavex

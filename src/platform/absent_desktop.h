@@ -30,6 +30,7 @@ public:
     void Activate(const std::string&) override {}
     void SetForeground(const std::string&) override {}
     void SetTopMost(const std::string&, bool) override {}
+    void Print(const std::string&) override {}
 };
 
 class AbsentTray : public Tray {
@@ -44,6 +45,10 @@ class AbsentShell : public Shell {
 public:
     void OpenDateTimeTool() override {}
     void OpenAddress(const std::string&) override {}
+    bool StartProgram(const std::string&) override { return false; }
+    bool OpenSystemInformation() override { return false; }
+    void ShowHelp(const HelpView&) override {}
+    void CloseHelp() override {}
     void WriteStartupEntry(const std::string&) override {}
     bool HasStartupEntry(const std::string&) override { return false; }
     void DeleteStartupEntry(const std::string&) override {}
@@ -53,6 +58,7 @@ public:
 class AbsentNetwork : public Network {
 public:
     ConnectionState Connection() override { return {false, 0}; }
+    Bytes Get(const std::string&) override { return {}; }
 };
 
 /// No file opens.

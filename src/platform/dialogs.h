@@ -28,6 +28,10 @@ public:
 
     /// The system's beep, which returns at once.
     virtual void Beep() = 0;
+
+    /// The real path of a file to write, or empty where the user chose none. A name without a
+    /// suffix gets the given one, ".txt" for example; one that is there is asked about.
+    virtual std::string SaveFile(const FileRequest& request, const std::string& suffix) = 0;
 };
 
 }  // namespace horavex

@@ -32,6 +32,22 @@ private:
     NthCall& call_;
 };
 
+class FailingOutputFile : public OutputFile {
+public:
+    FailingOutputFile(std::string path, std::unique_ptr<OutputFile> file, NthCall& call)
+        : path_(std::move(path)), file_(std::move(file)), call_(call) {}
+
+    void Append(ByteView bytes) override {
+        CountCall(call_, path_);
+        file_->Append(bytes);
+    }
+
+private:
+    std::string path_;
+    std::unique_ptr<OutputFile> file_;
+    NthCall& call_;
+};
+
 std::string TemporaryNameBeside(const std::string& path) {
     return path.substr(0, path.rfind('/') + 1) + ".half-written";
 }
@@ -46,6 +62,11 @@ void FailingFiles::FailCall(int n, WriteFailure writeFailure) {
 std::unique_ptr<OpenFile> FailingFiles::OpenForReading(const std::string& path) {
     CountCall(call_, path);
     return std::make_unique<OpenFailingFile>(path, files_.OpenForReading(path), call_);
+}
+
+std::unique_ptr<OutputFile> FailingFiles::OpenForWriting(const std::string& path) {
+    CountCall(call_, path);
+    return std::make_unique<FailingOutputFile>(path, files_.OpenForWriting(path), call_);
 }
 
 void FailingFiles::WriteWhole(const std::string& path, ByteView bytes) {

@@ -27,6 +27,7 @@ public:
     int Calls() const { return call_.Calls(); }
 
     std::unique_ptr<OpenFile> OpenForReading(const std::string& path) override;
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
     void WriteWhole(const std::string& path, ByteView bytes) override;
     void Delete(const std::string& path) override;
     bool Exists(const std::string& path) override;

@@ -22,6 +22,16 @@ public:
     virtual Bytes ReadAt(std::int64_t offset, std::size_t count) = 0;
 };
 
+/// A file open for writing from its beginning on. What was written stays, whatever happens later.
+/// Closes with its end of life.
+class OutputFile {
+public:
+    virtual ~OutputFile() = default;
+
+    /// Throws FileFault when the system fails the write; a part of the bytes may be out by then.
+    virtual void Append(ByteView bytes) = 0;
+};
+
 /// Files and folders by real path. Every failure is a FileFault that names the path.
 class Files {
 public:
@@ -29,6 +39,10 @@ public:
 
     /// Throws FileFault for a missing file; never creates one.
     virtual std::unique_ptr<OpenFile> OpenForReading(const std::string& path) = 0;
+
+    /// Makes the file, or empties the one that is there at once. Throws FileFault for a missing
+    /// folder.
+    virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;
 
     /// Replaces or makes the whole file, and its folder where that is missing. The bytes go to a
     /// temporary name first and are renamed: whatever happens, the old or the new file is there.

@@ -57,6 +57,11 @@ std::string FixedFormats::ShortDate(Date date) const {
     return std::to_string(d.month) + "/" + std::to_string(d.day) + "/" + std::to_string(d.year);
 }
 
+std::string FixedFormats::MonthAndYear(Date date) const {
+    const CivilDate d = CivilFromDate(DayOf(date));
+    return std::string(kMonths[d.month - 1]) + " " + std::to_string(d.year);
+}
+
 std::string FixedFormats::WeekdayName(Date date) const {
     return kWeekdays[Weekday(DayOf(date))];
 }

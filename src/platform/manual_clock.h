@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cmath>
+#include <iterator>
+#include <map>
 
 #include "platform/clock.h"
 
@@ -22,12 +24,22 @@ public:
         now_ = day + (total - day * kMillisecondsPerDay) / kMillisecondsPerDay;
     }
 
+    /// The zone from a day on: those of earlier days stay.
+    void SetOffset(Date firstDay, ClockOffset offset) { offsets_[firstDay] = offset; }
+
     Date Now() const override { return now_; }
+    ClockOffset OffsetOn(Date day) const override {
+        const auto next = offsets_.upper_bound(day);
+        return next == offsets_.begin() ? ClockOffset{} : std::prev(next)->second;
+    }
+    /// The local zone is that of Greenwich.
+    Date UniversalNow() const override { return now_; }
     double SteadySeconds() const override { return steadyMilliseconds_ / 1000.0; }
 
 private:
     static constexpr double kMillisecondsPerDay = kSecondsPerDay * 1000.0;
 
+    std::map<Date, ClockOffset> offsets_;  // by the first day of each; Greenwich before
     Date now_ = 0.0;
     double steadyMilliseconds_ = 0.0;
 };

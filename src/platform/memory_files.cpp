@@ -31,11 +31,28 @@ private:
     std::shared_ptr<const Bytes> bytes_;
 };
 
+class MemoryOutputFile : public OutputFile {
+public:
+    explicit MemoryOutputFile(std::shared_ptr<Bytes> bytes) : bytes_(std::move(bytes)) {}
+
+    void Append(ByteView bytes) override {
+        bytes_->insert(bytes_->end(), bytes.begin(), bytes.end());
+    }
+
+private:
+    std::shared_ptr<Bytes> bytes_;
+};
+
 }  // namespace
 
 std::unique_ptr<OpenFile> MemoryFiles::OpenForReading(const std::string& path) {
     Contents(path);
     return std::make_unique<OpenMemoryFile>(path, files_.at(path));
+}
+
+std::unique_ptr<OutputFile> MemoryFiles::OpenForWriting(const std::string& path) {
+    WriteWhole(path, {});
+    return std::make_unique<MemoryOutputFile>(files_.at(path));
 }
 
 void MemoryFiles::WriteWhole(const std::string& path, ByteView bytes) {

@@ -9,10 +9,12 @@
 
 namespace horavex {
 
-/// Files in memory under absolute paths with '/'. A folder is there as long as a file is in it.
+/// Files in memory under absolute paths with '/'. A folder is there as long as a file is in it; one
+/// that is to be written into is there always.
 class MemoryFiles : public Files {
 public:
     std::unique_ptr<OpenFile> OpenForReading(const std::string& path) override;
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override;
     void WriteWhole(const std::string& path, ByteView bytes) override;
     void Delete(const std::string& path) override;
     bool Exists(const std::string& path) override;

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "base/bytes.h"
+
 namespace horavex {
 
 /// Bits that tell how the machine is connected.
@@ -25,6 +29,12 @@ public:
 
     /// Asked afresh at every call, without any traffic. Never fails.
     virtual ConnectionState Connection() = 0;
+
+    /// The body of what lies at an address of the web, an error page's as well as any other.
+    /// Blocks the thread, 15 seconds at most in all. Empty for a transfer that is refused or not
+    /// complete, one of more than 64 KiB, and an address or a redirection that is neither http
+    /// nor https. Never fails.
+    virtual Bytes Get(const std::string& address) = 0;
 };
 
 }  // namespace horavex

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "base/fault.h"
 #include "platform/face.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
@@ -73,6 +75,7 @@ public:
     void SetTopMost(const std::string& form, bool topMost) override {
         log_.Note((topMost ? "SetTopMost " : "SetNotTopMost ") + form);
     }
+    void Print(const std::string& form) override { log_.Note("Print " + form); }
 
     ScreenSize screen{19200.0, 10800.0};
     ScreenCorner workArea{19200.0, 10400.0};
@@ -102,6 +105,19 @@ public:
 
     void OpenDateTimeTool() override { log_.Note("OpenDateTimeTool"); }
     void OpenAddress(const std::string& address) override { log_.Note("OpenAddress " + address); }
+    bool StartProgram(const std::string& path) override {
+        log_.Note("StartProgram " + path);
+        return startsPrograms;
+    }
+    bool OpenSystemInformation() override {
+        log_.Note("OpenSystemInformation");
+        return hasSystemInformation;
+    }
+    void ShowHelp(const HelpView& view) override {
+        log_.Note("ShowHelp " + view.pages.at(view.page).title);
+        help = view;
+    }
+    void CloseHelp() override { help.reset(); }
     void WriteStartupEntry(const std::string& baseName) override {
         log_.Note("WriteStartupEntry " + baseName);
         startupEntries.insert(baseName);
@@ -111,6 +127,9 @@ public:
     }
     void DeleteStartupEntry(const std::string& baseName) override {
         log_.Note("DeleteStartupEntry " + baseName);
+        if (keepsStartupEntries) {
+            throw FileFault(StartupEntryPath(baseName), "not allowed");
+        }
         startupEntries.erase(baseName);
     }
     std::string StartupEntryPath(const std::string& baseName) override {
@@ -118,6 +137,10 @@ public:
     }
 
     std::set<std::string> startupEntries;
+    bool keepsStartupEntries = false;  // refuses to delete
+    bool startsPrograms = true;
+    bool hasSystemInformation = true;
+    std::optional<HelpView> help;  // what the viewer shows
 
 private:
     DesktopLog& log_;

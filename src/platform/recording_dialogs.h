@@ -7,7 +7,8 @@
 
 namespace horavex {
 
-/// Writes down each message box and closes it at once; answers for the user who chooses a file.
+/// Writes down each message box and closes it at once; answers for the user who chooses a file to
+/// open or to save.
 class RecordingDialogs : public Dialogs {
 public:
     struct Message {
@@ -27,9 +28,21 @@ public:
 
     void Beep() override { ++beeps; }
 
+    std::string SaveFile(const FileRequest& request, const std::string& suffix) override {
+        saveRequests.push_back({request, suffix});
+        return savedFile;
+    }
+
+    struct SaveRequest {
+        FileRequest request;
+        std::string suffix;
+    };
+
     std::vector<Message> messages;
     std::vector<FileRequest> fileRequests;
     std::string chosenFile;  // empty for a user who cancels
+    std::vector<SaveRequest> saveRequests;
+    std::string savedFile;  // empty for a user who cancels
     int beeps = 0;
 };
 

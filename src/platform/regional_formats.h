@@ -15,6 +15,10 @@ public:
     /// Hours and minutes: "05:31 AM".
     virtual std::string MediumTime(Date time) const = 0;
 
+    /// Hours of the dial and minutes, with the half of the day, whatever the locale's own form:
+    /// "05:31 PM".
+    virtual std::string TwelveHourTime(Date time) const = 0;
+
     /// With seconds and without a zone's name: "5:31:00 AM".
     virtual std::string LongTime(Date time) const = 0;
 
@@ -26,6 +30,9 @@ public:
 
     /// The weekday's full name, the form "dddd".
     virtual std::string WeekdayName(Date date) const = 0;
+
+    /// "November 2026".
+    virtual std::string MonthAndYear(Date date) const = 0;
 
     /// The character between whole and fraction.
     virtual char DecimalMark() const = 0;

@@ -46,6 +46,9 @@ public:
     /// Keeps a window above all others from now on, or no longer. It keeps its place and gets no
     /// keyboard.
     virtual void SetTopMost(const std::string& form, bool topMost) = 0;
+    /// Prints a window on view as it looks, on the printer that the user chooses; nothing where
+    /// the user chooses none.
+    virtual void Print(const std::string& form) = 0;
 };
 
 }  // namespace horavex

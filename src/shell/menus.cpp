@@ -2,14 +2,26 @@
 
 #include "athan/athan_alert.h"
 #include "base/flag.h"
+#include "calendar/date_conversion_window.h"
+#include "config/about_window.h"
+#include "config/city_choice.h"
+#include "config/help.h"
 #include "config/settings_window.h"
+#include "config/wizard.h"
 #include "forms/modal_loop.h"
+#include "geo/distance_window.h"
+#include "geo/qibla_window.h"
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
+#include "moon/moon_window.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/language_setting.h"
+#include "timetables/export_command.h"
+#include "timetables/times_window.h"
 #include "update/connection_probes.h"
+#include "update/open_address.h"
+#include "update/update_check.h"
 #include "update/web_server.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
@@ -18,24 +30,16 @@ namespace horavex {
 
 namespace {
 
-void OpenIt(const std::string& target) {
-    Ports().shell.OpenAddress(target);
+void BindTools() {
+    frmMain->mnuDateConversion.onClick = ShowDateConversion;
+    frmMain->mnuQibla.onClick = ShowQibla;
+    frmMain->mnuDistance.onClick = ShowDistance;
+    frmMain->mnuMoonPhases.onClick = ShowMoonPhases;
+    frmMain->mnuPopQibla.onClick = ShowQibla;
 }
 
-/// For entries whose windows are still to come.
-void TellThatWindowIsMissing() {
-    Ports().dialogs.ShowMessage("This window is not there yet.", "", MessageIcon::kNone);
-}
-
-void BindMissingWindows() {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuChangeCity, &frmMain->mnuPrayerTimes,
-                            &frmMain->mnuWizard, &frmMain->mnuDateConversion, &frmMain->mnuQibla,
-                            &frmMain->mnuDistance, &frmMain->mnuMoonPhases, &frmMain->mnuAbout,
-                            &frmMain->mnuHelpIndex, &frmMain->mnuUpdate, &frmMain->mnuPopQibla,
-                            &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
-        entry->onClick = TellThatWindowIsMissing;
-    }
-    frmAthan->AthanSettingHelp.onClick = TellThatWindowIsMissing;
+void mnuHelpIndex_Click() {
+    ShowHelpContext(kHelpIndex);
 }
 
 }  // namespace
@@ -66,24 +70,30 @@ void mnuPopShow_Click() {
 }
 
 void mnuPopVisitWebSite_Click() {
-    if (IsOnline() == kFalse) {
-        Ports().dialogs.ShowMessage(GetConnectionSummary(), "", MessageIcon::kNone);
-        return;
-    }
-    OpenIt(WebServer() + "/");
+    OpenPage(WebServer() + "/");
 }
 
 void BindMenus() {
-    BindMissingWindows();
+    BindTools();
     frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
+    frmMain->mnuExport.onClick = mnuExport_Click;
     frmMain->mnuExit.onClick = mnuExit_Click;
+    frmMain->mnuPrayerTimes.onClick = ShowTimesWindow;
     frmMain->mnumSettings.onClick = ShowSettingsWindow;
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
+    frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition
+    frmMain->mnuWizard.onClick = ShowWizard;
     frmMain->mnuL.Bind(
         [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
+    frmMain->mnuAbout.onClick = ShowAboutWindow;
+    frmMain->mnuHelpIndex.onClick = mnuHelpIndex_Click;
+    frmAthan->AthanSettingHelp.onClick = mnuHelpIndex_Click;
+    frmMain->mnuUpdate.onClick = Update;
     frmMain->mnuPopShow.onClick = mnuPopShow_Click;
     // mnuPopEmailUS, mnuPopAthan and mnuPopMoonPhases do nothing.
     frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
+    frmMain->mnuPopHelp.onClick = mnuHelpIndex_Click;
+    frmMain->mnuPopExport.onClick = mnuExport_Click;
     frmMain->mnuPopExit.onClick = mnuExit_Click;
 }
 

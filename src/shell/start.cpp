@@ -10,11 +10,15 @@
 #include "base/flag.h"
 #include "base/prayer_names.h"
 #include "base/program_state.h"
+#include "base/program_version.h"
 #include "base/text.h"
+#include "config/about_window.h"
+#include "config/help.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/settings_window.h"
 #include "config/startup_entry.h"
+#include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
@@ -39,25 +43,23 @@
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/month_window.h"
+#include "timetables/times_window.h"
+#include "update/update_check.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
 
-std::int16_t firstRun = kFalse;
 std::string programFolder;
 
 namespace {
 
-const ProgramStateReset reset([] {
-    firstRun = kFalse;
-    programFolder.clear();
-});
+const ProgramStateReset reset([] { programFolder.clear(); });
 
 constexpr double kFaceLeft = -89.0;  // the face's outer margin lies outside the window
 constexpr double kFaceTop = -67.0;
-constexpr const char* kTitle = "Horavex";
 
 /// What the engine reaches above itself.
 class ShellDayHost : public DayHost {
@@ -67,16 +69,6 @@ public:
     void RunSetAction() override { SetSettings(); }
     void SetFlashVariables() override { horavex::SetFlashVariables(); }
 };
-
-void DeleteUpdateFile() {
-    try {
-        if (Ports().programFolder.Exists("Dat\\update.txt")) {
-            Ports().programFolder.Delete("Dat\\update.txt");
-        }
-    } catch (const FileFault&) {
-        // A scratch file: what cannot be deleted stays.
-    }
-}
 
 void LoadIshaAngleAtStart() {
     if (LoadIshaAngle()) {
@@ -89,7 +81,7 @@ void RefuseSecondInstance() {
     if (!Ports().instanceGuard.AnotherIsRunning()) {
         return;
     }
-    Ports().dialogs.ShowMessage(TextItem(54, ActiveSettings.Language), kTitle,
+    Ports().dialogs.ShowMessage(TextItem(54, ActiveSettings.Language), kProgramTitle,
                                 MessageIcon::kCritical);
     Ports().eventLoop.EndProcess();
 }
@@ -120,6 +112,7 @@ void TranslateMainForm() {
 
 void HoravexMainForm_Load() {
     programFolder = "\\";
+    InitHelp(HoravexMainForm->Name(), programFolder);
     LoadActiveSettings();
     RefuseSecondInstance();
     fMessage->Load();
@@ -136,7 +129,7 @@ void HoravexMainForm_Load() {
 
 void SettingsForm_Load() {
     TranslateOnLoad(*HoravexMainForm);
-    DeleteUpdateFile();
+    ClearUpdateFile();
     LoadStartupWish();
     LoadCustomAthanFiles();
     LoadIshaAngleAtStart();
@@ -170,6 +163,9 @@ void FrmMain_Load() {
         BuildLanguageMenu(currentLanguage);
     }
     TranslateOnLoad(*frmMain);
+    if (firstRun != kFalse) {
+        ShowWizard();
+    }
     // A second line of defence behind the settings window's own test.
     if (Ports().instanceGuard.AnotherIsRunning()) {
         Ports().eventLoop.EndProcess();
@@ -195,6 +191,11 @@ void BindWindows() {
     BindMessageWindow();
     BindAthanSettingsWindow();
     BindSettingsWindow();
+    BindUpdateCheck();
+    BindAboutWindow();
+    BindHelp();
+    BindTimesWindow();
+    BindMonthWindow();
     BindMenus();
     HoravexMainForm->onLoad = SettingsForm_Load;
     frmMain->onLoad = FrmMain_Load;

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
-namespace horavex {
+#include "config/first_run.h"  // firstRun, which the start writes
 
-/// -1 at a start that found no Isha angle stored. Read at the end of the start and by the wizard.
-extern std::int16_t firstRun;
+namespace horavex {
 
 /// The program's folder as the system writes paths: the program folder's own root, with a
 /// backslash at its end.

@@ -73,15 +73,17 @@ std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
 
 ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const Bytes& ranks) {
     CityRecord city;
-    const std::string display = ReadCity(cityIndex, city);
-    return {cityIndex,
-            city.Name,
-            city.Province,
-            country,
-            city.Latitude,
-            city.Longitude,
-            RankOf(ranks, cityIndex),
-            FoldForSearch(display + " - " + country)};
+    ReadCity(cityIndex, city);
+    ListedCity listed{cityIndex,
+                      city.Name,
+                      city.Province,
+                      country,
+                      city.Latitude,
+                      city.Longitude,
+                      RankOf(ranks, cityIndex),
+                      {}};
+    listed.folded = FoldForSearch(DisplayText(listed));
+    return listed;
 }
 
 void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks) {
@@ -97,6 +99,11 @@ void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Byt
 }
 
 }  // namespace
+
+std::string DisplayText(const ListedCity& city) {
+    const std::string province = city.province.empty() ? "" : ", " + city.province;
+    return city.name + province + " - " + city.country;
+}
 
 std::vector<ListedCity> ListCities() {
     const Bytes ranks = ReadRanks();

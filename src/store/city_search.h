@@ -18,6 +18,9 @@ struct ListedCity {
     std::string folded;      // "name, province - country" for comparing
 };
 
+/// "name, province - country", as a list of cities of all countries shows it.
+std::string DisplayText(const ListedCity& city);
+
 /// All cities in the order of CityIndex. Throws as the readers of the location files do, and
 /// BoundsFault for countries that hold more cities than there are.
 std::vector<ListedCity> ListCities();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
 #include <optional>
 
 #include "base/fault.h"
@@ -17,7 +18,7 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int64_t kUsedTextEntries = 77;  // highest entry that the program asks for
+constexpr std::int64_t kUsedTextEntries = 90;  // highest entry that the program asks for
 
 /// An index of fixed-length records over a file of packed texts.
 struct TextFiles {
@@ -37,6 +38,12 @@ constexpr const char* kRanks = "Dat/RI.DAT";
 constexpr std::int64_t kRankLength = 2;
 constexpr const char* kBands = "Dat/A.dat";
 constexpr std::int64_t kBandLength = 5;
+
+/// Published Hijri years.
+constexpr const char* kHijriYears = "Dat/UQ.DAT";
+constexpr std::int64_t kHijriYearLength = 18;
+constexpr std::uint8_t kShortestMonth = 28;
+constexpr std::uint8_t kLongestMonth = 30;
 
 std::string At(const char* file, std::int64_t number) {
     return std::string(file) + ": record " + std::to_string(number) + ": ";
@@ -76,6 +83,7 @@ public:
         }
         CheckLength(kRanks, kRankLength);
         CheckLength(kBands, kBandLength);
+        CheckLength(kHijriYears, kHijriYearLength);
         CheckTexts(kProvinces);
         CheckTexts(kCountries);
         CheckTexts(kCities);
@@ -85,6 +93,7 @@ public:
         CheckTextCount();
         CheckRanks();
         CheckBands();
+        CheckHijriYears();
         CheckSettings("Dat/AI.DAT");
         CheckSettings("Dat/Settings.DAT");
     }
@@ -222,6 +231,31 @@ private:
                                        : GetInt16(bands->Of(number - 1), 0) < GetInt16(record, 0),
                            At(kBands, number) + "its limit does not lie above the one before");
         }
+    }
+
+    void CheckHijriYears() {
+        const auto years = LoadRecords(kHijriYears, kHijriYearLength);
+        if (!years) {
+            return;
+        }
+        for (std::int64_t number = 1; number <= years->Count(); ++number) {
+            const ByteView months = years->Of(number).subspan(6);
+            report_.Expect(std::ranges::all_of(months,
+                                               [](std::uint8_t days) {
+                                                   return days >= kShortestMonth &&
+                                                          days <= kLongestMonth;
+                                               }),
+                           At(kHijriYears, number) + "a month is not from 28 to 30 days long");
+            report_.Expect(number == 1 || Follows(years->Of(number - 1), years->Of(number)),
+                           At(kHijriYears, number) + "it does not begin where the one before ends");
+        }
+    }
+
+    static bool Follows(ByteView year, ByteView next) {
+        const ByteView months = year.subspan(6);
+        return GetInt16(next, 0) == GetInt16(year, 0) + 1 &&
+               GetInt32(next, 2) ==
+                   std::accumulate(months.begin(), months.end(), GetInt32(year, 2));
     }
 
     /// The program runs without settings; records that are there must make sense.

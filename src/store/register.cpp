@@ -15,20 +15,19 @@ std::string StoredName(const std::string& valueName) {
     return valueName == "*" ? std::string() : valueName;
 }
 
-/// The hive is part of the key's path, so that one store serves all of them.
-std::string FullKey(std::int32_t hive, const std::string& key) {
+}  // namespace
+
+std::string RegistryKey(std::int32_t hive, const std::string& key) {
     std::string normal;
     CRegister::NormalizeKey(key, normal);
     return hive == kLocalMachine ? normal : std::to_string(hive) + "\\" + normal;
 }
 
-}  // namespace
-
 std::int32_t CRegister::REGGetSetting(std::int32_t hive, const std::string& key,
                                       const std::string& valueName, const std::string& defaultValue,
                                       std::string& value) const {
     value = defaultValue;
-    const std::string fullKey = FullKey(hive, key);
+    const std::string fullKey = RegistryKey(hive, key);
     std::int32_t code = OpenForReading(fullKey);
     if (code != kRegistrySuccess) {
         return code;
@@ -44,7 +43,7 @@ std::int32_t CRegister::REGGetSetting(std::int32_t hive, const std::string& key,
 std::int32_t CRegister::REGSaveSetting(std::int32_t hive, const std::string& key,
                                        const std::string& valueName, const std::string& data,
                                        std::int32_t& result) const {
-    const std::string fullKey = FullKey(hive, key);
+    const std::string fullKey = RegistryKey(hive, key);
     result = Ports().registry.CreateKey(fullKey);
     if (result == kRegistrySuccess) {
         result = Ports().registry.SetValue(fullKey, StoredName(valueName), data);
@@ -54,7 +53,7 @@ std::int32_t CRegister::REGSaveSetting(std::int32_t hive, const std::string& key
 
 std::int32_t CRegister::REGDeleteSetting(std::int32_t hive, const std::string& key,
                                          const std::string& valueName, std::int32_t& result) const {
-    const std::string fullKey = FullKey(hive, key);
+    const std::string fullKey = RegistryKey(hive, key);
     result = Ports().registry.OpenKey(fullKey, kRegistryAllAccess);
     if (result == kRegistrySuccess) {
         result = valueName.empty() ? Ports().registry.DeleteKey(fullKey)

@@ -11,6 +11,10 @@ inline constexpr std::int32_t kLocalMachine = static_cast<std::int32_t>(0x800000
 /// The program's one key.
 inline constexpr const char* kSettingsKey = "\\Software\\Horavex\\Settings";
 
+/// A key of a hive as the store names it: the hive is part of the path, so that one store serves
+/// all of them.
+std::string RegistryKey(std::int32_t hive, const std::string& key);
+
 /// Text values of the registry. Every operation returns 0 or the store's error code and never
 /// throws; callers let a failure pass.
 class CRegister {

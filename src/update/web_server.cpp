@@ -4,11 +4,22 @@
 
 namespace horavex {
 
-std::string WebServer() {
+namespace {
+
+std::string Configured(const char* name, const std::string& otherwise) {
     std::string address;
-    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, "Web Server", "https://horavex.invalid",
-                              address);
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, name, otherwise, address);
     return address;
+}
+
+}  // namespace
+
+std::string WebServer() {
+    return Configured("Web Server", "https://horavex.invalid");
+}
+
+std::string HomePage() {
+    return Configured("Home Page", WebServer() + "/");
 }
 
 }  // namespace horavex

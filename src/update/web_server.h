@@ -8,4 +8,7 @@ namespace horavex {
 /// program sets it as the machine-wide setting "Web Server".
 std::string WebServer();
 
+/// The vendor's home page: the setting "Home Page", or else the root page of the web server.
+std::string HomePage();
+
 }  // namespace horavex

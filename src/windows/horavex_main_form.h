@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/check_box.h"
+#include "forms/combo_box.h"
 #include "forms/command_button.h"
 #include "forms/control_array.h"
 #include "forms/form.h"
@@ -32,8 +33,12 @@ public:
     Label lblTimeZone{fraCity, "lblTimeZone", {.caption = "Time Zone"}};
     Label lblGMT{fraCity, "lblGMT", {.caption = "GMT"}};
     TextBox txtTimeZone{fraCity, "txtTimeZone"};
+    CommandButton cmdComputerZone{
+        fraCity, "cmdComputerZone", {.caption = "Use this computer's &zone"}};
 
     horavex::Frame fraAngles{*this, "fraAngles", {.caption = "Depression angles"}};
+    Label lblMethod{fraAngles, "lblMethod", {.caption = "&Method"}};
+    ComboBox cboMethod{fraAngles, "cboMethod", {.typed = false}};
     Label lblFajrAngle{fraAngles, "lblFajrAngle", {.caption = "Fajr angle"}};
     Label lblDeprMin{fraAngles, "lblDeprMin"};
     ScrollBar hsDepr{fraAngles, "hsDepr", {.max = 90}};
@@ -106,6 +111,17 @@ public:
 
     /// The zone box as it stood when it last gained the focus.
     std::string lastTimeZoneText;
+
+    /// The update check, with what it shows while it runs, the way to the web site and the help.
+    Label VisitWebSiteLabel{*this, "VisitWebSiteLabel", {.caption = "Check for an update"}};
+    Label lblInternetConnect{*this,
+                             "lblInternetConnect",
+                             {.caption = "Checking internet connection ", .visible = false}};
+    ProgressBar ProgressBar1{*this, "ProgressBar1", {.visible = false, .max = 10}};
+    CommandButton AboutUpdateButton{*this, "AboutUpdateButton", {.caption = "Visit Our Site"}};
+    CommandButton QiblaHelpButton{fraQibla, "QiblaHelpButton", {.caption = "Help"}};
+    CommandButton SettingsHelp{*this, "SettingsHelp", {.caption = "Help on settings"}};
+    CommandButton Help{*this, "Help", {.caption = "Help Index"}};
 };
 
 inline const FormInstance<SettingsForm> HoravexMainForm;

@@ -88,6 +88,20 @@ TEST(IsUtf8, WellFormedBeginningDoesNotSaveTheText) {
     EXPECT_FALSE(DecodeUtf8("abc\xFF").has_value());
 }
 
+TEST(Utf8Length, CountsCharactersAndNotBytes) {
+    EXPECT_EQ(Utf8Length(""), 0U);
+    EXPECT_EQ(Utf8Length("Asr"), 3U);
+    EXPECT_EQ(Utf8Length("العصر"), 5U);
+    EXPECT_EQ(Utf8Length("é\x80x"), 2U) << "a stray byte hangs on";
+}
+
+TEST(Utf8FirstCharacters, EndsBehindAWholeCharacter) {
+    EXPECT_EQ(Utf8FirstCharacters("العصر", 2), "ال");
+    EXPECT_EQ(Utf8FirstCharacters("aé", 2), "aé");
+    EXPECT_EQ(Utf8FirstCharacters("aé", 9), "aé");
+    EXPECT_EQ(Utf8FirstCharacters("aé", 0), "");
+}
+
 TEST(Utf8Prefix, TakesTheWholeTextWhenItFits) {
     EXPECT_EQ(Utf8Prefix("aé", 3), "aé");
     EXPECT_EQ(Utf8Prefix("aé", 100), "aé");

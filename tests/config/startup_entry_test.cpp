@@ -48,5 +48,27 @@ TEST_F(StartupEntryTest, ClickDoesAndStoresIt) {
     EXPECT_EQ(Stored("ADD TO STARTUP"), "1");
 }
 
+TEST_F(StartupEntryTest, EntryThatAUserRemovedByHandComesBackAtTheNextStart) {
+    Store("1");
+    EXPECT_FALSE(HasEntry());
+    Start();
+    EXPECT_TRUE(HasEntry());
+}
+
+TEST_F(StartupEntryTest, RemovingWhatIsNotThereTouchesNothing) {
+    RemoveStartupShortcut();
+    EXPECT_EQ(platform.desktop.calls.size(), 0U);
+}
+
+TEST_F(StartupEntryTest, FailedDeleteIsToldWithThePathAndALineBreak) {
+    Start();
+    platform.shell.keepsStartupEntries = true;
+    HoravexMainForm->chkAddToStartup.UserClick();
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "Error deleteing file: /startup/ZORIT\r\n");
+    EXPECT_TRUE(HasEntry());
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "0");
+}
+
 }  // namespace
 }  // namespace horavex

@@ -52,12 +52,29 @@ constexpr BadCall kMissing[] = {
     {"today --dst-start 90", "--dst-end"},
     {"today --dst-end 90", "--dst-start"},
     {"dst", "--year"},
+    {"export --format csv --output /x", "--year"},
+    {"export --year 2026 --output /x", "--format"},
+    {"export --year 2026 --format csv", "--output"},
+    {"export --year 2026 --format doc --output /x", "doc"},
+    {"export --year 2026 --format pdf --output /x --paper a5", "a5"},
     {"zones", "--longitude"},
     {"text --entry 1", "--language"},
     {"text --language 1", "--entry"},
     {"lang --section msg", "--key"},
     {"lang --key 1", "--section"},
     {"today --city", "--city"},
+    {"moon --year 2026", "--zone"},
+    {"moon --zone 2", "--year"},
+    {"eclipses --year 2026", "--zone"},
+    {"moonrise --latitude 1:0N --longitude 1:0E --zone 0", "--date"},
+    {"moonrise --date 2026-1-1 --longitude 1:0E --zone 0", "--latitude"},
+    {"moonrise --date 2026-1-1 --latitude 1:0N --zone 0", "--longitude"},
+    {"moonrise --date 2026-1-1 --latitude 1:0N --longitude 1:0E", "--zone"},
+    {"hijri", "--date"},
+    {"gregorian", "--date"},
+    {"distance --to mecca --unit km", "--from"},
+    {"distance --from 1:0:0N,1:0:0E --unit km", "--to"},
+    {"distance --from 1:0:0N,1:0:0E --to mecca", "--unit"},
 };
 INSTANTIATE_TEST_SUITE_P(MissingOptions, BadUsage, testing::ValuesIn(kMissing));
 
@@ -123,6 +140,45 @@ constexpr BadCall kMoments[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Moments, BadUsage, testing::ValuesIn(kMoments));
 
+constexpr BadCall kDays[] = {
+    {"hijri --date today", "--date"},
+    {"hijri --date 2026-11", "--date"},
+    {"hijri --date 2026-11-31", "there is no day"},
+    {"hijri --date 0-1-1", "there is no day"},
+    {"hijri --date 2026-11-21T00:00:00", "--date"},
+    {"gregorian --date 1448-1-30", "there is no day"},
+    {"gregorian --date 1448-13-1", "there is no day"},
+    {"gregorian --date 1448-1-0", "there is no day"},
+    {"gregorian --date 0-1-1", "there is no day"},
+    {"gregorian --date 10000-1-1", "there is no day"},
+    {"moonrise --date 2026-2-29 --latitude 1:0N --longitude 1:0E --zone 0", "there is no day"},
+};
+INSTANTIATE_TEST_SUITE_P(Days, BadUsage, testing::ValuesIn(kDays));
+
+constexpr BadCall kPlaces[] = {
+    {"distance --from 30:3:0N --to mecca --unit km", "30:3:0N"},
+    {"distance --from 30:3:0,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 30:3:0E,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 31:15:0E,30:3:0N --to mecca --unit km", "no coordinate"},
+    {"distance --from 90:0:1N,31:15:0E --to mecca --unit km", "up to 90 degrees"},
+    {"distance --from 30:60:0N,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 30:3:60N,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 30N,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from -30:3:0N,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 30:x:0N,31:15:0E --to mecca --unit km", "no coordinate"},
+    {"distance --from 30:3:0N,180:0:1E --to mecca --unit km", "up to 180 degrees"},
+    {"distance --from 30:3:0N,31:15:0E --to medina --unit km", "medina"},
+    {"distance --from 30:3:0N,31:15:0E --to mecca --unit m", "--unit"},
+    {"moonrise --date 2026-1-1 --latitude 1:0E --longitude 1:0E --zone 0", "no coordinate"},
+    {"moonrise --date 2026-1-1 --latitude 1:0:5N --longitude 1:0E --zone 0", "alone"},
+    {"moonrise --date 2026-1-1 --latitude 91:0N --longitude 1:0E --zone 0", "up to 90"},
+    {"moonrise --date 2026-1-1 --latitude 1:0N --longitude 1:0E --zone 13", "--zone"},
+    {"moon --year 2026 --zone here", "--zone"},
+    {"eclipses --year 2026 --zone -", "--zone"},
+    {"moon --year 0 --zone 0", "--year"},
+};
+INSTANTIATE_TEST_SUITE_P(Places, BadUsage, testing::ValuesIn(kPlaces));
+
 constexpr BadCall kTogether[] = {
     {"today --city Cairo --latitude 1 --longitude 1", "--city"},
     {"today --city-index 5183 --latitude 1 --longitude 1", "--city-index"},
@@ -165,7 +221,7 @@ TEST(CtlUsage, MissingDataFolderIsOneClearLine) {
     Ctl ctl;
     ctl.variables["HORAVEX_PROGRAM_FOLDER"] = ctl / "nowhere";
     for (const char* line : {"today", "today --city Cairo", "cities", "text --entry 1 --language 1",
-                             "qibla --latitude 1 --longitude 1"}) {
+                             "qibla --latitude 1 --longitude 1", "hijri --date 2026-11-21"}) {
         SCOPED_TRACE(line);
         const ProgramRun run = ctl.Run(line);
         ExpectRefusal(run, 1);
@@ -178,6 +234,8 @@ TEST(CtlUsage, CallsWithoutDataNeedNoFolder) {
     ctl.variables["HORAVEX_PROGRAM_FOLDER"] = ctl / "nowhere";
     EXPECT_EQ(ctl.Run("dst --year 2026").status, 0);
     EXPECT_EQ(ctl.Run("zones --longitude 30").status, 0);
+    EXPECT_EQ(ctl.Run("eclipses --year 2026 --zone 2").status, 0);
+    EXPECT_EQ(ctl.Run("distance --from 1:0:0N,1:0:0E --to mecca --unit km").status, 0);
 }
 
 }  // namespace

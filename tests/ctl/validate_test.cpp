@@ -96,7 +96,7 @@ TEST_P(FilesThatCannotBeMissing, MissingOneIsNamed) {
 INSTANTIATE_TEST_SUITE_P(Files, FilesThatCannotBeMissing,
                          testing::Values("Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt",
                                          "Dat/PI.DAT", "Dat/P.DAT", "Dat/RI.DAT", "Dat/A.dat",
-                                         "Dat/TI.DAT", "Dat/T.DAT"),
+                                         "Dat/UQ.DAT", "Dat/TI.DAT", "Dat/T.DAT"),
                          TestName);
 
 struct Damage {
@@ -124,6 +124,7 @@ INSTANTIATE_TEST_SUITE_P(Files, RandomFiles,
                                          Damage{"Dat/PI.DAT", "Dat/PI.DAT: record "},
                                          Damage{"Dat/P.DAT", "Dat/PI.DAT: record "},
                                          Damage{"Dat/A.dat", "Dat/A.dat: record "},
+                                         Damage{"Dat/UQ.DAT", "Dat/UQ.DAT: record "},
                                          Damage{"Dat/TI.DAT", "Dat/TI.DAT: record "},
                                          Damage{"Dat/T.DAT", "Dat/TI.DAT: record "},
                                          Damage{"Dat/AI.DAT", "Dat/AI.DAT: record 1: "},
@@ -230,7 +231,7 @@ INSTANTIATE_TEST_SUITE_P(
                                "Dat/SI.DAt: the countries do not hold all cities"},
                     LostRecord{"Dat/PI.DAT", 2, "Dat/CI.DAT: record "},
                     LostRecord{"Dat/RI.DAT", 2, "Dat/RI.DAT: not one rank"},
-                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 77 entries"}));
+                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 90 entries"}));
 
 }  // namespace
 }  // namespace horavex

@@ -1,4 +1,5 @@
 #include "desktop/form_window_fixture.h"
+#include "desktop/ports/qt_event_loop.h"
 
 namespace horavex {
 namespace {
@@ -170,6 +171,84 @@ TEST_F(BinderTest, ComboBoxGoesBothWays) {
     EXPECT_EQ(calls, (std::vector<std::string>{"click", "click", "change"}));
 }
 
+TEST_F(BinderTest, ListTakesUpWhatWasAddedAndDropsWhatWentAway) {
+    Show();
+    const auto& list = Find<QListWidget>("list");
+    const QListWidgetItem* first = list.item(0);
+    form.list.AddItem("d");
+    Settle();
+    EXPECT_EQ(list.item(0), first) << "what is there stays";
+    form.list.Clear();
+    for (const char* item : {"a", "x", "c", "d"}) {
+        form.list.AddItem(item);
+    }
+    Settle();
+    ASSERT_EQ(list.count(), 4);
+    EXPECT_EQ(list.item(1)->text(), "x");
+}
+
+TEST_F(BinderTest, TenThousandItemsComeInWithoutAVisibleStall) {
+    constexpr qint64 kGenerous = 4;  // for a busy machine
+    Show();
+    QtEventLoop loop;
+    QElapsedTimer sinceTick;
+    qint64 longest = 0;
+    QTimer tick;
+    QObject::connect(&tick, &QTimer::timeout,
+                     [&] { longest = std::max(longest, sinceTick.restart()); });
+    QElapsedTimer whole;
+    whole.start();
+    sinceTick.start();
+    tick.start(1);
+    for (int item = 0; item < 10000; ++item) {
+        form.list.AddItem("City " + std::to_string(item) + ", Province");
+        loop.Pump();
+    }
+    EXPECT_LT(longest, 100 * kGenerous) << "milliseconds without an event";
+    EXPECT_LT(whole.elapsed(), 2000 * kGenerous);
+    RecordProperty("longest_ms", static_cast<int>(longest));
+    RecordProperty("whole_ms", static_cast<int>(whole.elapsed()));
+    Settle();
+    EXPECT_EQ(Find<QListWidget>("list").count(), 10003);
+}
+
+TEST_F(BinderTest, ChoiceHasNoTextToType) {
+    Show();
+    auto& choice = Find<QComboBox>("choice");
+    EXPECT_FALSE(choice.isEditable());
+    form.choice.SetListIndex(1);
+    Settle();
+    EXPECT_EQ(choice.currentText(), "q");
+    Q_EMIT choice.activated(2);
+    EXPECT_EQ(form.choice.Text(), "r");
+}
+
+TEST_F(BinderTest, RefusedItemIsShutAndTellsTheReason) {
+    form.choice.SetItemRefusal(1, "not here");
+    Show();
+    auto& choice = Find<QComboBox>("choice");
+    const QModelIndex item = choice.model()->index(1, 0);
+    EXPECT_FALSE(item.flags().testFlag(Qt::ItemIsEnabled));
+    EXPECT_EQ(item.data(Qt::ToolTipRole), "not here");
+    EXPECT_TRUE(choice.model()->index(0, 0).flags().testFlag(Qt::ItemIsEnabled));
+    Q_EMIT choice.activated(1);
+    EXPECT_EQ(form.choice.ListIndex(), -1);
+    form.choice.SetItemRefusal(1, "");
+    Settle();
+    EXPECT_TRUE(choice.model()->index(1, 0).flags().testFlag(Qt::ItemIsEnabled));
+}
+
+TEST_F(BinderTest, LabelMarksTheKeyOfItsBuddyAlone) {
+    form.label.SetCaption("&Text");
+    Show();
+    auto& label = Find<QLabel>("label");
+    EXPECT_EQ(label.text(), "&Text");
+    label.setBuddy(&Find<QLineEdit>("text"));
+    form.label.SetCaption("&اسم");
+    Settle();
+    EXPECT_FALSE(label.text().contains('&')) << "no key where it cannot be typed";
+}
+
 TEST_F(BinderTest, RangesShowTheirLimitsValueAndSteps) {
     form.scroll.SetMax(30);
     form.scroll.SetMin(10);
@@ -217,6 +296,20 @@ TEST_F(BinderTest, TabsGoBothWays) {
     tabs.setCurrentIndex(1);
     EXPECT_EQ(form.tabs.ListIndex(), 1);
     EXPECT_EQ(calls, std::vector<std::string>{"click"});
+}
+
+TEST_F(BinderTest, PictureTellsWhereThePointerIsInItsOwnScale) {
+    Show();
+    auto& canvas = Find<Canvas>("picture");
+    Point at{};
+    form.picture.onMouseMove = [&](Point point) { at = point; };
+    const QPointF middle = QRectF(canvas.rect()).center();
+    QMouseEvent move(QEvent::MouseMove, middle, canvas.mapToGlobal(middle), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&canvas, &move);
+    EXPECT_TRUE(canvas.hasMouseTracking());
+    EXPECT_NEAR(at.x, form.picture.ScaleWidth() / 2.0, 1.0);
+    EXPECT_NEAR(at.y, form.picture.ScaleHeight() / 2.0, 1.0);
 }
 
 TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {

@@ -187,5 +187,46 @@ TEST_F(FormWindowLifeTest, FormPaintsItsOwnDrawing) {
     EXPECT_NE(image.pixelColor(image.width() - 3, image.height() - 3), QColor(0, 0, 250));
 }
 
+/// Enter and Escape as a layout arranges them.
+struct FormWindowKeysTest : FormWindowTest {
+    FormWindowKeysTest() {
+        form.button.onClick = [this] { ++clicks; };
+        Show();
+    }
+
+    int clicks = 0;
+};
+
+TEST_F(FormWindowKeysTest, EnterPressesTheDefaultButton) {
+    Key(Find<QLineEdit>("text"), Qt::Key_Return);
+    EXPECT_EQ(clicks, 0);
+    Find<QPushButton>("button").setDefault(true);
+    Key(Find<QLineEdit>("text"), Qt::Key_Return);
+    Key(Find<QListWidget>("list"), Qt::Key_Enter);
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(FormWindowKeysTest, EnterPressesTheButtonThatHasTheFocusFirst) {
+    QPushButton other(&Window());
+    other.setDefault(true);
+    Find<QPushButton>("button").setFocus();
+    Key(Find<QPushButton>("button"), Qt::Key_Return);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(FormWindowKeysTest, EscapePressesTheButtonThatCancels) {
+    Key(Find<QLineEdit>("text"), Qt::Key_Escape);
+    EXPECT_EQ(clicks, 0);
+    Find<QPushButton>("button").setProperty("cancels", true);
+    Key(Find<QLineEdit>("text"), Qt::Key_Escape);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(FormWindowKeysTest, EscapeClosesAWindowThatIsMarkedSo) {
+    Window().setProperty("cancels", true);
+    Key(Find<QLineEdit>("text"), Qt::Key_Escape);
+    EXPECT_FALSE(form.IsLoaded());
+}
+
 }  // namespace
 }  // namespace horavex

@@ -49,6 +49,7 @@ public:
     TextBox text{*this, "text", {.text = "text"}};
     ListBox list{*this, "list", {.items = {"a", "b", "c"}}};
     ComboBox combo{*this, "combo", {.items = {"x", "y"}}};
+    ComboBox choice{*this, "choice", {.items = {"p", "q", "r"}, .typed = false}};
     ScrollBar scroll{*this, "scroll", {.value = 5, .max = 20, .largeStep = 4}};
     Slider slider{*this, "slider", {.max = 4}};
     ProgressBar progress{*this, "progress", {.max = 100}};
@@ -82,6 +83,7 @@ inline void FillKinds(QWidget& window) {
     AddWidget<QLineEdit>(window, "text")->setProperty("namedBy", "label");
     AddWidget<QListWidget>(window, "list");
     AddWidget<QComboBox>(window, "combo")->setEditable(true);
+    AddWidget<QComboBox>(window, "choice");
     auto* scroll = AddWidget<QScrollBar>(window, "scroll");
     scroll->setOrientation(Qt::Horizontal);
     scroll->setFocusPolicy(Qt::StrongFocus);

@@ -91,5 +91,59 @@ TEST(QtDialogs, FileDialogueAnswersTheRealPath) {
     EXPECT_EQ(chosen, path);
 }
 
+const FileRequest kSaveRequest = {"Save",
+                                  "Text Files (*.txt)|*.txt|HTML Files|*.html;*.htm|CSV|*.csv", 2};
+
+/// Asks for a file to save, does something to the dialogue while it is open, and closes it.
+template <class Action>
+std::string Save(Action action) {
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        action(*dialog);
+    });
+    return QtDialogs([] {}).SaveFile(kSaveRequest, ".txt");
+}
+
+void Accept(QFileDialog& dialog) {
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
+
+TEST(QtDialogs, SaveDialogueOffersTheTypesAndBeginsWithTheOneOfTheRequest) {
+    const std::string path = Save([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Save");
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(dialog.nameFilters(), (QStringList{"Text Files (*.txt) (*.txt)",
+                                                     "HTML Files (*.html *.htm)", "CSV (*.csv)"}));
+        EXPECT_EQ(dialog.selectedNameFilter(), "HTML Files (*.html *.htm)");
+        dialog.reject();
+    });
+    EXPECT_EQ(path, "");
+}
+
+TEST(QtDialogs, SavedNameWithoutASuffixGetsThatOfTheRequest) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(Save([&](QFileDialog& dialog) {
+                  dialog.selectFile(QString::fromStdString(folder / "year"));
+                  Accept(dialog);
+              }),
+              folder / "year.txt");
+    EXPECT_EQ(Save([&](QFileDialog& dialog) {
+                  dialog.selectFile(QString::fromStdString(folder / "year.json"));
+                  Accept(dialog);
+              }),
+              folder / "year.json");
+}
+
+TEST(QtDialogs, ChosenTypeOfOneSuffixGivesItsOwn) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(Save([&](QFileDialog& dialog) {
+                  Q_EMIT dialog.filterSelected("CSV (*.csv)");
+                  dialog.selectFile(QString::fromStdString(folder / "year"));
+                  Accept(dialog);
+              }),
+              folder / "year.csv");
+}
+
 }  // namespace
 }  // namespace horavex

@@ -16,6 +16,24 @@ TEST(QtEventLoop, PumpDeliversWhatIsPendingAndReturns) {
     EXPECT_EQ(delivered, 1);
 }
 
+TEST(QtEventLoop, PumpsInQuickSuccessionDeliverOnceInAWhile) {
+    QtEventLoop loop;
+    int delivered = 0;
+    QTimer always;
+    QObject::connect(&always, &QTimer::timeout, [&] { ++delivered; });
+    always.start(0);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    int pumps = 0;
+    while (elapsed.elapsed() < 50) {
+        loop.Pump();
+        ++pumps;
+    }
+    EXPECT_GT(pumps, 1000);
+    EXPECT_GE(delivered, 2);
+    EXPECT_LE(delivered, 11);
+}
+
 TEST(QtEventLoop, RestReturnsWithTheNextEvent) {
     QtEventLoop loop;
     loop.Pump();

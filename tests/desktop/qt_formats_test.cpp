@@ -24,10 +24,12 @@ TEST(QtFormats, EnglishOfTheUnitedStatesAgreesWithTheFixedForms) {
     const FixedFormats fixed;
     for (const Date moment : {kEarly, kLate, kDay, kDay + 0.5, 0.0, 0.25}) {
         EXPECT_EQ(formats.MediumTime(moment), fixed.MediumTime(moment));
+        EXPECT_EQ(formats.TwelveHourTime(moment), fixed.TwelveHourTime(moment));
         EXPECT_EQ(formats.LongTime(moment), fixed.LongTime(moment));
         EXPECT_EQ(formats.LongDate(moment), fixed.LongDate(moment));
         EXPECT_EQ(formats.ShortDate(moment), fixed.ShortDate(moment));
         EXPECT_EQ(formats.WeekdayName(moment), fixed.WeekdayName(moment));
+        EXPECT_EQ(formats.MonthAndYear(moment), fixed.MonthAndYear(moment));
     }
     EXPECT_EQ(formats.MediumTime(kEarly), "05:31 AM");
     EXPECT_EQ(formats.DecimalMark(), '.');
@@ -55,6 +57,17 @@ TEST(QtFormats, OtherLocalesHaveTheirOwnForms) {
     EXPECT_EQ(In("C").MediumTime(kLate), "17:05");
     EXPECT_EQ(In("ar_EG").MediumTime(kEarly), "٠٥:٣١ ص");
     EXPECT_EQ(In("zh_TW").MediumTime(kLate), "下午05:05");
+}
+
+TEST(QtFormats, TwelveHourTimeKeepsTheDialWhereTheLocaleCountsToTwentyFour) {
+    EXPECT_EQ(In("de_DE").TwelveHourTime(kLate), "05:05 PM");
+    EXPECT_EQ(In("ar_EG").TwelveHourTime(kEarly), "٠٥:٣١ ص");
+}
+
+TEST(QtFormats, MonthAndYearStandAlone) {
+    EXPECT_EQ(In("de_DE").MonthAndYear(kDay), "November 2026");
+    EXPECT_EQ(In("pl_PL").MonthAndYear(kDay), "listopad 2026");
+    EXPECT_EQ(In("ar_EG").MonthAndYear(kDay), "نوفمبر ٢٠٢٦");
 }
 
 TEST(QtFormats, LongTimeOfEachLocaleTellsAllSecondsApart) {

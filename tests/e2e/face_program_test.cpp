@@ -28,7 +28,6 @@ TEST_F(FaceProgramTest, FaceComesUpAfterTheProgressWindow) {
     EXPECT_FALSE(desktop.IsOnView(program, progress));
     EXPECT_EQ(desktop.PlaceOf(face).width, 420);
     EXPECT_EQ(desktop.PlaceOf(face).height, 420);
-    EXPECT_THAT(StoredValues(), HasSubstr("Isha Dep Angle=18"));
     EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
 }
 

@@ -6,12 +6,12 @@
 #include <optional>
 
 #include "e2e/harness/faked_clock.h"
-#include "e2e/harness/loopback_server.h"
 #include "e2e/harness/sink_recording.h"
 #include "e2e/harness/sound_server.h"
 #include "e2e/harness/test_desktop.h"
 #include "e2e/harness/tray_host.h"
 #include "e2e/harness/wait_until.h"
+#include "support/loopback_server.h"
 
 namespace horavex {
 namespace {

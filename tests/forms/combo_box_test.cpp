@@ -87,5 +87,16 @@ TEST_F(ComboBoxTest, UserTypesAndAGuardPutsTheLastGoodTextBack) {
     EXPECT_THAT(events, ElementsAre("change 2x", "change 2"));
 }
 
+TEST(UntypedComboBox, TakesItsTextFromTheListAlone) {
+    Form form("frmChoice");
+    ComboBox choice(form, "cboChoice", {.items = {"a", "b"}, .typed = false});
+    form.Show();
+    choice.UserType("b");
+    choice.UserEdit("b");
+    EXPECT_EQ(choice.Text(), "");
+    choice.UserSelect(1);
+    EXPECT_EQ(choice.Text(), "b");
+}
+
 }  // namespace
 }  // namespace horavex

@@ -193,5 +193,37 @@ TEST_F(FormLifeTest, DestroyedFormIsNotActive) {
     EXPECT_EQ(ActiveForm(), nullptr);
 }
 
+TEST_F(FormLifeTest, HelpKeyDoesWhatIsInstalledForAnyForm) {
+    form.UserHelp();
+    std::vector<Form*> asked;
+    InstallHelpKey([&](Form& pressed) { asked.push_back(&pressed); });
+
+    form.UserHelp();
+
+    EXPECT_THAT(asked, ElementsAre(&form));
+}
+
+TEST_F(FormLifeTest, FormThatItsHelpKeyUnloadsGoesWhenTheKeyIsDone) {
+    form.Load();
+    InstallHelpKey([](Form& pressed) {
+        pressed.Unload();
+        EXPECT_TRUE(pressed.IsLoaded());
+    });
+
+    form.UserHelp();
+
+    EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(FormLifeTest, FreshProcessHasNoHelpKey) {
+    int asked = 0;
+    InstallHelpKey([&](Form&) { ++asked; });
+    ResetProgramState();
+
+    form.UserHelp();
+
+    EXPECT_EQ(asked, 0);
+}
+
 }  // namespace
 }  // namespace horavex

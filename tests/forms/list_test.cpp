@@ -94,5 +94,38 @@ TEST_F(ListTest, TabCaptionCanBeReplaced) {
     EXPECT_THROW(form.tabs.SetTabCaption(2, "x"), BoundsFault);
 }
 
+TEST_F(ListTest, RefusedItemIsNotForUsers) {
+    form.Show();
+    form.lstLanguage.SetItemRefusal(1, "no pack");
+    EXPECT_EQ(form.lstLanguage.ItemRefusal(1), "no pack");
+    EXPECT_EQ(form.lstLanguage.ItemRefusal(2), "");
+    form.lstLanguage.UserSelect(1);
+    EXPECT_EQ(form.lstLanguage.ListIndex(), 0);
+    form.lstLanguage.SetListIndex(1);
+    EXPECT_EQ(form.lstLanguage.ListIndex(), 1) << "code may";
+    form.lstLanguage.SetItemRefusal(2, "");
+    form.lstLanguage.UserSelect(2);
+    EXPECT_EQ(form.lstLanguage.ListIndex(), 2);
+}
+
+TEST_F(ListTest, RefusalNeedsAnItemAndGoesWithIt) {
+    EXPECT_THROW(form.lstLanguage.SetItemRefusal(3, "no"), BoundsFault);
+    form.lstLanguage.SetItemRefusal(0, "no");
+    form.lstLanguage.Clear();
+    form.lstLanguage.AddItem("new");
+    EXPECT_EQ(form.lstLanguage.ItemRefusal(0), "");
+}
+
+TEST_F(ListTest, ClearingsCountWhatTookItemsAway) {
+    const int before = form.lstLanguage.Clearings();
+    form.lstLanguage.AddItem("Dutch");
+    EXPECT_EQ(form.lstLanguage.Clearings(), before);
+    form.lstLanguage.Clear();
+    EXPECT_EQ(form.lstLanguage.Clearings(), before + 1);
+    form.Load();
+    form.Unload();
+    EXPECT_EQ(form.lstLanguage.Clearings(), before + 2) << "the definition's items came back";
+}
+
 }  // namespace
 }  // namespace horavex

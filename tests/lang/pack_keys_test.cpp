@@ -15,12 +15,13 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowAndTheDesktop) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(4));
+TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowTheDesktopAndTimetables) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(5));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
     EXPECT_EQ(Section(3).name, "desktop");
+    EXPECT_EQ(Section(4).name, "timetables");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -30,11 +31,11 @@ TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
     EXPECT_THAT(Section(0).keys, Not(Contains("8")));
 }
 
-TEST(PackVocabularies, LabelsAreNumberedTo20AndFollowedByPrayersWithoutShurooq) {
-    EXPECT_THAT(Section(1).keys, SizeIs(25));
+TEST(PackVocabularies, LabelsAreNumberedTo20AndFollowedByTheEraAndPrayersWithoutShurooq) {
+    EXPECT_THAT(Section(1).keys, SizeIs(26));
     EXPECT_EQ(Section(1).keys[7], "8");
     const std::vector<std::string> names(Section(1).keys.begin() + 20, Section(1).keys.end());
-    EXPECT_THAT(names, ElementsAre("Fajr", "Zuhr", "Asr", "Maghrib", "Isha"));
+    EXPECT_THAT(names, ElementsAre("AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"));
 }
 
 TEST(PackVocabularies, AthanWindowHasAPrayersNumberWithoutShurooq) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "lang/form_language.h"
 #include "lang/lang_test.h"
 #include "lang/language_pack.h"
@@ -47,7 +49,7 @@ TEST_F(PackSectionsTest, RuntimeMembersAskForNoKey) {
     EXPECT_THAT(FormPackKeys(form), Not(Contains("mnuL_1")));
 }
 
-TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
+TEST_F(PackSectionsTest, FormsStandAsDefined) {
     frmMain->SetCaption("changed");
     frmMain->mnuL.Load(1);
     std::vector<std::string> names;
@@ -56,7 +58,10 @@ TEST_F(PackSectionsTest, FormsAreTheTranslatedWindowsAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan"));
+    EXPECT_THAT(
+        names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
+                           "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla", "frmDistance",
+                           "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -64,12 +69,22 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "frmMain", "HoravexMainForm",
-                                   "fMessage", "frmAthan"));
+    EXPECT_THAT(names,
+                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
+                            "HoravexMainForm", "fMessage", "frmAthan", "fCountry", "NewCoordinates",
+                            "frmWizard", "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases",
+                            "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
+}
+
+TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
+    const auto sections = PackSections();
+    const auto help = std::ranges::find(sections, "frmRamadan", &PackSection::name);
+    ASSERT_NE(help, sections.end());
+    EXPECT_THAT(help->keys, ElementsAre("frmRamadan", "SkinLabel1", "cmdClose", "Text1"));
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[4].keys;
+    const auto keys = PackSections()[5].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

@@ -1,8 +1,15 @@
 #include "linux/autostart_entry.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include "base/fault.h"
+#include "e2e/harness/wait_until.h"
+#include "linux/posix_files.h"
 #include "platform/memory_files.h"
+#include "support/run_program.h"
 #include "support/scoped_variable.h"
+#include "support/temporary_folder.h"
 
 namespace horavex {
 namespace {
@@ -54,6 +61,39 @@ TEST_F(AutostartEntriesTest, SpecialCharactersOfThePathAreEscapedForBothReaders)
 
 TEST_F(AutostartEntriesTest, DeletingAMissingEntryIsAFault) {
     EXPECT_THROW(entries.Delete("Prayer"), FileFault);
+}
+
+/// A folder whose name needs every escape that launchers agree on. (GLib 2.74 looks for a program
+/// before it turns "%%" into "%".)
+class RealAutostartEntriesTest : public testing::Test {
+protected:
+    RealAutostartEntriesTest() {
+        std::filesystem::create_directories(programs);
+        std::ofstream(program) << "#!/bin/sh\nprintf started > " << folder / "mark"
+                               << "\n";
+        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+        entries.Write("ZORIT");
+    }
+
+    TemporaryFolder folder;
+    ScopedVariable config{"XDG_CONFIG_HOME", folder.Path().c_str()};
+    std::string programs = folder / R"("$HOME" `a` \b 'c')";
+    std::string program = programs + "/horavex";
+    PosixFiles files;
+    AutostartEntries entries{files, program};
+};
+
+TEST_F(RealAutostartEntriesTest, DesktopsOwnToolFindsTheEntryValid) {
+    const ProgramRun run = RunCommand({"desktop-file-validate", entries.Path("ZORIT")}, {});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out + run.err, "");
+}
+
+TEST_F(RealAutostartEntriesTest, DesktopsLauncherStartsTheProgram) {
+    const ProgramRun run =
+        RunCommand({"gio", "launch", entries.Path("ZORIT")}, {{"PATH", "/bin:/usr/bin"}});
+    EXPECT_EQ(run.status, 0) << run.err;
+    WaitUntil("the program", [&] { return ContentOf(folder / "mark") == "started"; });
 }
 
 }  // namespace

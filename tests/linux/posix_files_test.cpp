@@ -34,6 +34,28 @@ TEST_F(PosixFilesTest, ReadsAtPositions) {
     EXPECT_THAT(file->ReadAt(0, 0), IsEmpty());
 }
 
+TEST_F(PosixFilesTest, OutputReplacesTheFileAtOnceAndGrowsWithEachAppend) {
+    Put("a", "0123456789");
+    const auto file = files.OpenForWriting(folder / "a");
+    EXPECT_THAT(ReadWhole(files, folder / "a"), IsEmpty());
+    file->Append(BytesOf("ab"));
+    file->Append({});
+    file->Append(BytesOf("cd"));
+    EXPECT_EQ(StringOf(ReadWhole(files, folder / "a")), "abcd");
+}
+
+TEST_F(PosixFilesTest, OutputMakesTheFileButNoFolder) {
+    files.OpenForWriting(folder / "new")->Append(BytesOf("x"));
+    EXPECT_EQ(StringOf(ReadWhole(files, folder / "new")), "x");
+    EXPECT_THROW(files.OpenForWriting(folder / "missing/new"), FileFault);
+}
+
+TEST_F(PosixFilesTest, OutputIntoAFolderOrAPipeIsAFaultAtOnce) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_THROW(files.OpenForWriting(folder / "pipe"), FileFault);
+    EXPECT_THROW(files.OpenForWriting(folder / "."), FileFault);
+}
+
 TEST_F(PosixFilesTest, ReadEndsWithTheFile) {
     Put("a", "0123456789");
     const auto file = files.OpenForReading(folder / "a");

@@ -47,6 +47,13 @@ TEST(SystemClock, NowIsTheRunningSecond) {
     EXPECT_EQ(clock.Today(), std::floor(now));
 }
 
+TEST(SystemClock, UniversalTimeKnowsNoZone) {
+    const ScopedVariable zone("TZ", "XXX-14");
+    const SystemClock clock;
+    const double ahead = clock.Now() - clock.UniversalNow();
+    EXPECT_NEAR(ahead * 24.0, 14.0, 0.01);
+}
+
 TEST(SystemClock, SteadyClockGoesForward) {
     const SystemClock clock;
     const double start = clock.SteadySeconds();
@@ -57,6 +64,32 @@ TEST(SystemClock, SteadyClockGoesForward) {
         last = next;
     }
     EXPECT_LT(last, start + 60.0) << "the unit is the second";
+}
+
+TEST(SystemClock, OffsetOfADayIsThatOfItsNoon) {
+    const ScopedVariable zone("TZ", kBerlin);
+    const SystemClock clock;
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 3, 28)), (ClockOffset{1.0, false}));
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 3, 29)), (ClockOffset{2.0, true}));
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 10, 24)), (ClockOffset{2.0, true}));
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 10, 25)), (ClockOffset{1.0, false}));
+}
+
+TEST(SystemClock, OffsetsFarFromGreenwichAreOfTheLocalDay) {
+    const SystemClock clock;
+    {
+        const ScopedVariable zone("TZ", "NPT-5:45");
+        EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 6, 1)), (ClockOffset{5.75, false}));
+    }
+    // A zone 13 hours ahead whose daylight saving begins on 26 September at 2 in the morning.
+    const ScopedVariable zone("TZ", "XXX-13YYY,M9.4.6,M4.1.0");
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 9, 25)), (ClockOffset{13.0, false}));
+    EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 9, 26)), (ClockOffset{14.0, true}));
+}
+
+TEST(SystemClock, OffsetsBefore1970AreAskedForToo) {
+    const ScopedVariable zone("TZ", "UTC0");
+    EXPECT_EQ(SystemClock().OffsetOn(DateSerial(1900, 1, 1)), (ClockOffset{0.0, false}));
 }
 
 }  // namespace

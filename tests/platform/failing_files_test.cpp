@@ -42,6 +42,21 @@ TEST_F(FailingFilesTest, EachOfTheFourOperationsCanFail) {
     EXPECT_NO_THROW(RunAll());
 }
 
+TEST_F(FailingFilesTest, OutputFailsAtItsOpenAndAtEachAppend) {
+    for (int n = 1; n <= 3; ++n) {
+        failing.FailCall(n);
+        EXPECT_THROW(
+            {
+                const auto file = failing.OpenForWriting("/p/out");
+                file->Append(BytesOf("ab"));
+                file->Append(BytesOf("cd"));
+            },
+            FileFault)
+            << n;
+    }
+    EXPECT_EQ(StringOf(files.Contents("/p/out")), "ab");
+}
+
 TEST_F(FailingFilesTest, CallsBehindTheFailedOnePassAgain) {
     failing.FailCall(1);
     EXPECT_THROW(failing.WriteWhole("/a", {}), FileFault);

@@ -21,6 +21,15 @@ TEST(FixedFormats, MidnightAndNoonAreTwelve) {
     EXPECT_EQ(formats.LongTime(kDay + TimeSerial(11, 59, 59)), "11:59:59 AM");
 }
 
+TEST(FixedFormats, TwelveHourTimeIsTheMediumOne) {
+    EXPECT_EQ(FixedFormats().TwelveHourTime(kDay + TimeSerial(17, 5, 59)), "05:05 PM");
+}
+
+TEST(FixedFormats, MonthAndYearAreInFull) {
+    EXPECT_EQ(FixedFormats().MonthAndYear(kDay), "November 2026");
+    EXPECT_EQ(FixedFormats().MonthAndYear(DateSerial(2027, 1, 1)), "January 2027");
+}
+
 TEST(FixedFormats, LongTimeHasSeconds) {
     EXPECT_EQ(FixedFormats().LongTime(kDay + TimeSerial(5, 31, 0)), "5:31:00 AM");
     EXPECT_EQ(FixedFormats().LongTime(TimeSerial(23, 1, 9)), "11:01:09 PM");

@@ -4,7 +4,15 @@
 
 #include "shell/close_face.h"
 #include "support/program_test.h"
+#include "windows/f_country.h"
+#include "windows/f_qibla.h"
+#include "windows/frm_about.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_date_convert.h"
+#include "windows/frm_distance.h"
+#include "windows/frm_times.h"
+#include "windows/frm_wizard.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 namespace {
@@ -69,6 +77,21 @@ TEST_F(MenusTest, SettingsEntryBringsTheSettingsWindowUpInFrontOfTheFace) {
     EXPECT_EQ(HoravexMainForm->Owner(), &*frmMain);
 }
 
+TEST_F(MenusTest, WizardEntryBringsTheWizardUpInFrontOfTheFace) {
+    frmMain->mnuWizard.UserClick();
+    EXPECT_TRUE(frmWizard->Visible());
+    EXPECT_FALSE(frmWizard->IsModal());
+    EXPECT_EQ(frmWizard->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, CityEntryIsDisabledAndOpensThePicker) {
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_FALSE(fCountry->IsLoaded());
+    frmMain->mnuChangeCity.SetEnabled(true);
+    frmMain->mnuChangeCity.UserClick();
+    EXPECT_TRUE(fCountry->Visible());
+}
+
 TEST_F(MenusTest, ShowEntryTurnsTheVisibilityOver) {
     frmMain->mnuPopShow.UserClick();
     EXPECT_FALSE(frmMain->Visible());
@@ -119,24 +142,77 @@ TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
     EXPECT_THAT(Messages(), ElementsAre("No internet connection."));
 }
 
+TEST_F(MenusTest, PrayerTimesEntryAndTheFacesCommandOpenTheDayBrowserModally) {
+    frmMain->mnuPrayerTimes.UserClick();
+    platform.face.onFSCommand("IDC_FS_allTimes", "");
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmTimes", "show frmTimes", "modal frmTimes", "show frmTimes",
+                            "modal frmTimes"));
+    EXPECT_EQ(frmTimes->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, AboutEntryShowsTheWindowModalOverTheFace) {
+    frmMain->mnuAbout.UserClick();
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load frmAbout", "show frmAbout", "modal frmAbout"));
+    EXPECT_EQ(frmAbout->Owner(), &*frmMain);
+}
+
+TEST_F(MenusTest, BothHelpEntriesOpenTheIndex) {
+    for (MenuItem* entry : {&frmMain->mnuHelpIndex, &frmMain->mnuPopHelp}) {
+        platform.desktop.calls.clear();
+        entry->UserClick();
+        EXPECT_THAT(platform.desktop.calls, ElementsAre("ShowHelp Welcome to Horavex"));
+    }
+}
+
+TEST_F(MenusTest, HelpOfTheAthanSettingsOpensTheIndexToo) {
+    platform.desktop.calls.clear();
+    frmAthan->AthanSettingHelp.UserClick();
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("ShowHelp Welcome to Horavex"));
+}
+
+TEST_F(MenusTest, UpdateEntryChecks) {
+    platform.network.connection = {true, kLanConnection};
+    frmMain->mnuUpdate.UserClick();
+    EXPECT_THAT(platform.network.requests,
+                ElementsAre("https://horavex.invalid/update/update.txt"));
+}
+
+TEST_F(MenusTest, BothExportEntriesAskForAFile) {
+    frmMain->mnuExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 1U);
+    frmMain->mnuPopExport.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.size(), 2U);
+}
+
 TEST_F(MenusTest, EmailEntryDoesNothing) {
     frmMain->mnuPopEmailUS.UserClick();
     EXPECT_THAT(platform.desktop.calls, IsEmpty());
     EXPECT_THAT(Messages(), IsEmpty());
 }
 
-TEST_F(MenusTest, EntriesWhoseWindowsAreToComeSaySo) {
-    for (MenuItem* entry : {&frmMain->mnuExport, &frmMain->mnuPrayerTimes, &frmMain->mnuWizard,
-                            &frmMain->mnuDateConversion, &frmMain->mnuQibla, &frmMain->mnuDistance,
-                            &frmMain->mnuMoonPhases, &frmMain->mnuAbout, &frmMain->mnuHelpIndex,
-                            &frmMain->mnuUpdate, &frmMain->mnuPopExport, &frmMain->mnuPopHelp}) {
-        platform.dialogs.messages.clear();
+TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {
+    const std::pair<MenuItem*, Form*> tools[] = {{&frmMain->mnuDateConversion, &*frmDateConvert},
+                                                 {&frmMain->mnuQibla, &*fQibla},
+                                                 {&frmMain->mnuDistance, &*frmDistance},
+                                                 {&frmMain->mnuMoonPhases, &*Moon_Phases}};
+    for (const auto& [entry, form] : tools) {
         entry->UserClick();
-        EXPECT_THAT(Messages(), ElementsAre("This window is not there yet.")) << entry->Name();
+        EXPECT_TRUE(form->IsModal()) << form->Name();
+        EXPECT_EQ(form->Owner(), &*frmMain) << form->Name();
+        form->UserClose();
+        EXPECT_FALSE(form->IsLoaded()) << form->Name();
     }
-    platform.dialogs.messages.clear();
-    frmAthan->AthanSettingHelp.UserClick();
-    EXPECT_THAT(Messages(), ElementsAre("This window is not there yet."));
+    EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(MenusTest, QiblaEntryOfTheIconIsDisabledAndDoesAsTheFaces) {
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_FALSE(fQibla->IsLoaded());
+    frmMain->mnuPopQibla.SetEnabled(true);
+    frmMain->mnuPopQibla.UserClick();
+    EXPECT_TRUE(fQibla->IsModal());
 }
 
 using CloseFaceTest = MenusTest;

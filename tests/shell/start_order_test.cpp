@@ -28,6 +28,9 @@ public:
         Note("read ", path);
         return files_.OpenForReading(path);
     }
+    std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) override {
+        return files_.OpenForWriting(path);
+    }
     void WriteWhole(const std::string& path, ByteView bytes) override {
         Note("write ", path);
         files_.WriteWhole(path, bytes);
@@ -107,6 +110,7 @@ public:
     }
     std::string OpenFile(const FileRequest&) override { return {}; }
     void Beep() override { log_.Note("beep"); }
+    std::string SaveFile(const FileRequest&, const std::string&) override { return {}; }
 
 private:
     DesktopLog& log_;
@@ -251,6 +255,12 @@ LoadMovie 0 \\skin\skin.swf
 show frmMain
 frmMain.mnuL_0
 frmMain.mnuExport
+)";
+
+/// The wizard of a first run, between the face and the second line of defence.
+const std::string kWizard = R"(read Dat/A.dat
+load frmWizard
+show frmWizard
 another instance?
 )";
 
@@ -258,7 +268,7 @@ using StartOrderTest = OrderTest;
 
 TEST_F(StartOrderTest, FirstRunGoesThroughEveryStepInTurn) {
     Start();
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
@@ -274,7 +284,7 @@ TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
 TEST_F(StartOrderTest, InstanceThatCameUpMeanwhileEndsTheStartAtItsVeryEnd) {
     guard.firstYes = 2;
     EXPECT_THROW(Start(), ProcessEnded);
-    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace);
+    EXPECT_EQ(Calls(), kReads + kStoredPlace + kHiddenWindow + kFace + kWizard);
 }
 
 TEST_F(StartOrderTest, FirstRunChoosesTheSoundBeforeTheStoredSettingsAreRead) {

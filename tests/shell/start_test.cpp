@@ -6,6 +6,7 @@
 #include "lang/language_pack.h"
 #include "shell/menus.h"
 #include "support/program_test.h"
+#include "windows/frm_wizard.h"
 
 namespace horavex {
 namespace {
@@ -17,11 +18,19 @@ using StartTest = ProgramTest;
 
 TEST_F(StartTest, FirstRunComesUpInItsFixedOrder) {
     Start();
-    EXPECT_THAT(platform.desktop.calls,
-                ElementsAre("load frmMain", "audio mode 2", "load HoravexMainForm",
-                            "WriteStartupEntry ZORIT", "load fMessage", "show fMessage",
-                            "unload fMessage", "TrayAdd Horavex", "Place -89 -67",
-                            "LoadMovie 0 \\\\skin\\skin.swf", "show frmMain"));
+    EXPECT_THAT(
+        platform.desktop.calls,
+        ElementsAre("load frmMain", "audio mode 2", "load HoravexMainForm",
+                    "WriteStartupEntry ZORIT", "load fMessage", "show fMessage", "unload fMessage",
+                    "TrayAdd Horavex", "Place -89 -67", "LoadMovie 0 \\\\skin\\skin.swf",
+                    "show frmMain", "load frmWizard", "show frmWizard"));
+    EXPECT_EQ(frmWizard->Owner(), &*frmMain);
+    EXPECT_FALSE(frmWizard->IsModal());
+}
+
+TEST_F(StartTest, LaterRunsOpenNoWizard) {
+    StartAgain();
+    EXPECT_FALSE(frmWizard->IsLoaded());
 }
 
 TEST_F(StartTest, FirstRunStoresTheIshaAngleAndChoosesTheSound) {
@@ -158,7 +167,7 @@ TEST_F(StartTest, FailedYearOpensTheSettingsWindow) {
     LoadActiveSettings();
     ActiveSettings.FajrAngle = 1.0;  // a dawn of some four minutes
     SaveActiveSettings();
-    Start();
+    StartAgain();
     EXPECT_EQ(CalcFailed, -1);
     EXPECT_EQ(platform.dialogs.messages.size(), 1U);
     EXPECT_TRUE(HoravexMainForm->Visible());

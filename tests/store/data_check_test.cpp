@@ -39,7 +39,7 @@ protected:
 
 TEST_F(DataCheckTest, SoundFilesHaveNoProblem) {
     EXPECT_THAT(Problems(), IsEmpty());
-    EXPECT_THAT(Check().passed, Gt(77 * 6 * 2));
+    EXPECT_THAT(Check().passed, Gt(90 * 6 * 2));
 }
 
 TEST_F(DataCheckTest, MissingFileIsOneProblemThatNamesIt) {
@@ -50,6 +50,23 @@ TEST_F(DataCheckTest, MissingFileIsOneProblemThatNamesIt) {
         data.Remove(file);
         EXPECT_THAT(Problems(), ElementsAre(StartsWith(file + ": ")));
     }
+}
+
+TEST_F(DataCheckTest, MonthOfAnImpossibleLengthIsAProblem) {
+    data.SetByte("Dat/UQ.DAT", 18 + 17, 31);
+    EXPECT_THAT(Problems(),
+                ElementsAre("Dat/UQ.DAT: record 2: a month is not from 28 to 30 days long"));
+    data.SetByte("Dat/UQ.DAT", 18 + 17, 27);
+    EXPECT_THAT(Problems(), testing::SizeIs(1));
+}
+
+TEST_F(DataCheckTest, HijriYearThatDoesNotFollowIsAProblem) {
+    const char* const problem = "Dat/UQ.DAT: record 2: it does not begin where the one before ends";
+    data.SetInt16("Dat/UQ.DAT", 18, 1449);
+    EXPECT_THAT(Problems(), ElementsAre(problem));
+    data.SetInt16("Dat/UQ.DAT", 18, 1448);
+    data.SetInt32("Dat/UQ.DAT", 20, 46189);
+    EXPECT_THAT(Problems(), ElementsAre(problem));
 }
 
 TEST_F(DataCheckTest, EmptyFolderHasAProblemForEachFileButTheSettings) {
@@ -63,7 +80,7 @@ TEST_F(DataCheckTest, EveryFailingCallIsAProblemOfItsFile) {
     platform.failingFiles.FailCall(0);
     Problems();
     const int calls = platform.failingFiles.Calls();
-    EXPECT_EQ(calls, 12 * 2);  // twelve files, opened and read once
+    EXPECT_EQ(calls, 13 * 2);  // thirteen files, opened and read once
     for (int n = 1; n <= calls; ++n) {
         platform.failingFiles.FailCall(n);
         EXPECT_THAT(Problems(), ElementsAre(StartsWith("Dat/"))) << n;
@@ -114,10 +131,10 @@ TEST_F(DataCheckTest, EmptyTextIsNamed) {
 }
 
 TEST_F(DataCheckTest, TextsBeyondSixteenBitsAreNamed) {
-    data.WriteText(77, 5, std::string(32767, 'x'));
+    data.WriteText(90, 5, std::string(32767, 'x'));
     EXPECT_THAT(Problems(),
-                ElementsAre(StartsWith("Dat/TI.DAT: record 461: no text from position "),
-                            StartsWith("Dat/TI.DAT: record 462: no text from position -")));
+                ElementsAre(StartsWith("Dat/TI.DAT: record 539: no text from position "),
+                            StartsWith("Dat/TI.DAT: record 540: no text from position -")));
 }
 
 TEST_F(DataCheckTest, ControlCharactersAreNamed) {
@@ -183,7 +200,7 @@ TEST_F(DataCheckTest, CityOfNoCountryIsAProblem) {
 
 TEST_F(DataCheckTest, MissingTextsAreAProblem) {
     data.ShrinkBy("Dat/TI.DAT", 2);
-    EXPECT_THAT(Problems(), ElementsAre("Dat/TI.DAT: fewer than 77 entries in six languages"));
+    EXPECT_THAT(Problems(), ElementsAre("Dat/TI.DAT: fewer than 90 entries in six languages"));
 }
 
 TEST_F(DataCheckTest, RanksAreOneForEachCity) {

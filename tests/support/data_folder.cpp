@@ -97,6 +97,18 @@ void DataFolder::WriteBand(std::int16_t limit, const AngleLimits& angles) {
     Write("Dat/A.dat", bands);
 }
 
+void DataFolder::WriteHijriYear(std::int16_t year, std::int32_t firstDay) {
+    Bytes years = Read("Dat/UQ.DAT");
+    const std::size_t at = years.size();
+    years.resize(at + 18);
+    PutInt16(years, at, year);
+    PutInt32(years, at + 2, firstDay);
+    for (std::size_t month = 0; month < 12; ++month) {
+        years[at + 6 + month] = month % 2 == 0 ? 30 : 29;
+    }
+    Write("Dat/UQ.DAT", years);
+}
+
 void DataFolder::WriteTexts(std::uint16_t entries) {
     entries_ = entries;
     Bytes index;
@@ -141,7 +153,9 @@ void DataFolder::WriteSample() {
     WriteBand(-1, {20, 18, 5});
     WriteBand(4500, {17, 17, 4});
     WriteBand(5100, {12, 12, 3});
-    WriteTexts(77);
+    WriteHijriYear(1447, 45834);
+    WriteHijriYear(1448, 46188);
+    WriteTexts(90);
     Write("Dat/AI.DAT", RecordOf(SampleSettings()));
     Write("Dat/Settings.DAT", RecordOf(SampleSettings()));
 }
@@ -184,9 +198,9 @@ void DataFolder::SetInt32(const std::string& file, std::size_t offset, std::int3
 }
 
 const std::vector<std::string>& DataFileNames() {
-    static const std::vector<std::string> names = {"Dat/SI.DAt", "Dat/S.DAT",  "Dat/CI.DAT",
-                                                   "Dat/C.DAt",  "Dat/PI.DAT", "Dat/P.DAT",
-                                                   "Dat/A.dat",  "Dat/T.DAT",  "Dat/TI.DAT"};
+    static const std::vector<std::string> names = {
+        "Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt", "Dat/PI.DAT",
+        "Dat/P.DAT",  "Dat/A.dat", "Dat/UQ.DAT", "Dat/T.DAT", "Dat/TI.DAT"};
     return names;
 }
 

@@ -33,6 +33,10 @@ public:
     /// The next band of "Dat/A.dat"; limit in degrees x 100.
     void WriteBand(std::int16_t limit, const AngleLimits& angles);
 
+    /// The next year of "Dat/UQ.DAT", its months 30 and 29 days long in turns, firstDay in days
+    /// since 30 December 1899.
+    void WriteHijriYear(std::int16_t year, std::int32_t firstDay);
+
     /// The text table with this many entries, each saying which it is: "text 12 in 1".
     void WriteTexts(std::uint16_t entries);
 

@@ -54,6 +54,7 @@ struct Compilers : testing::Test {
 using BuildLocations = Compilers;
 using BuildTexts = Compilers;
 using BuildAngles = Compilers;
+using BuildHijri = Compilers;
 using BuildSettings = Compilers;
 
 std::string Cities(const std::string& rows) {
@@ -183,6 +184,45 @@ TEST_F(BuildAngles, AnglesOutOfOrderFail) {
 TEST_F(BuildAngles, EmptySourceFails) {
     ExpectFailure(Compile("build_angles", ""), "source");
     ExpectFailure(Compile("build_angles", "limit,a,b,c\n"), "no band");
+}
+
+constexpr const char* kHijriColumns = "year,first_day,1,2,3,4,5,6,7,8,9,10,11,12\n";
+constexpr const char* kYear1447 = "1447,2025-06-26,30,29,30,30,30,29,30,29,30,29,30,29\n";
+constexpr const char* kYear1448 = "1448,2026-06-16,30,29,30,29,30,29,30,29,30,29,30,28\n";
+
+TEST_F(BuildHijri, YearsAreStoredAsRecordsOf18) {
+    const ProgramRun run =
+        Compile("build_hijri", std::string(kHijriColumns) + kYear1447 + kYear1448);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "2 years\n");
+    const Bytes file = Output("UQ.DAT");
+    ASSERT_EQ(file.size(), 36U);
+    EXPECT_EQ(GetInt16(file, 0), 1447);
+    EXPECT_EQ(GetInt32(file, 2), 45834);
+    EXPECT_THAT(Bytes(file.begin() + 6, file.begin() + 18),
+                testing::ElementsAre(30, 29, 30, 30, 30, 29, 30, 29, 30, 29, 30, 29));
+    EXPECT_EQ(GetInt16(file, 18), 1448);
+    EXPECT_EQ(GetInt32(file, 20), 46189);
+    EXPECT_EQ(file.back(), 28);
+}
+
+TEST_F(BuildHijri, YearThatDoesNotFollowFails) {
+    ExpectFailure(Compile("build_hijri", std::string(kHijriColumns) + kYear1447 + kYear1447),
+                  "year 1447 does not begin");
+    ExpectFailure(Compile("build_hijri", std::string(kHijriColumns) + kYear1447 +
+                                             "1448,2026-06-17,30,29,30,29,30,29,30,29,30,29,30,29"),
+                  "year 1448 does not begin");
+}
+
+TEST_F(BuildHijri, RowsThatAreNoYearsFail) {
+    const auto fails = [this](const std::string& rows, const std::string& reason) {
+        ExpectFailure(Compile("build_hijri", kHijriColumns + rows), reason);
+    };
+    fails("", "no year");
+    fails("1447,2025-06-26,30\n", "twelve months");
+    fails("1447,2025-06-26,31,29,30,30,30,29,30,29,30,29,30,29\n", "28 to 30 days");
+    fails("1447,2025-06-31,30,29,30,30,30,29,30,29,30,29,30,29\n", "no date");
+    fails("1447,26 June,30,29,30,30,30,29,30,29,30,29,30,29\n", "no date");
 }
 
 TEST_F(BuildSettings, RecordsTakeTheDefaultAngleOfTheirBand) {

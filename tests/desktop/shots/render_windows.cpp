@@ -3,16 +3,23 @@
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER
 #include <QApplication>
 
+#include "base/flag.h"
+#include "config/about_window.h"
+#include "config/help_topics.h"
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/ports/help_window.h"
 #include "engine/progress.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
+#include "support/build_folder.h"
 #include "support/program_copy.h"
+#include "support/run_program.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
+#include "windows/frm_about.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_azan.h"
 #include "windows/frm_main.h"
@@ -130,12 +137,51 @@ void RenderAthan(const FormWindows& windows, const std::string& language) {
     frmAzan->Unload();
 }
 
+void ShowAbout(bool arabic) {
+    const std::string pack = ContentOf(BuiltProgramFolder() + "/lang/Arabic.ini");
+    Ports().programFolder.WriteWhole("lang\\Arabic.ini", BytesOf(pack));
+    currentLanguage = "Arabic";
+    languageFilesPresent = arabic ? kTrue : kFalse;
+    BindAboutWindow();
+    frmAbout->Unload();
+    frmAbout->Show();
+}
+
+/// Every page of the help, as the built program folder has it.
+void RenderHelp(const std::string& language) {
+    const std::string help = BuiltProgramFolder() + "/help/" + language + "/";
+    HelpView view{.owner = "",
+                  .place = {0, 0, 1024, 1024},
+                  .title = "Help",
+                  .contents = "",
+                  .back = "Back",
+                  .forward = "Forward",
+                  .pages = {},
+                  .page = 0};
+    for (const std::string& page :
+         HelpTopics(ContentOf(BuiltProgramFolder() + "/Horavex.HLP")).Pages()) {
+        const std::string text = ContentOf(help + page);
+        const std::size_t title = text.find("<title>") + 7;
+        view.pages.push_back({text.substr(title, text.find("</title>") - title), help + page});
+    }
+    HelpWindow window;
+    for (; view.page < view.pages.size(); ++view.page) {
+        window.Show(view);
+        window.resize(820, 620);
+        QApplication::processEvents();
+        window.grab().save(folder + "/help-" + QString::fromStdString(language) +
+                           QString::number(view.page) + ".png");
+    }
+}
+
 void RenderAll(const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     arabic ? TellArabic(face) : TellEnglish(face);
     Save(windows, *frmMain, "face-" + language);
     ShowSettings(arabic);
     Save(windows, *HoravexMainForm, "settings-" + language);
+    ShowAbout(arabic);
+    Save(windows, *frmAbout, "about-" + language);
     ShowMessage(arabic);
     Save(windows, *fMessage, "progress-" + language);
 }
@@ -158,5 +204,7 @@ int main(int argc, char** argv) {
     for (const std::string language : {"English", "French", "German", "Spanish", "Arabic"}) {
         RenderAthan(windows, language);
     }
+    RenderHelp("English");
+    RenderHelp("Arabic");
     return 0;
 }

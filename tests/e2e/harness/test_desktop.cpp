@@ -32,6 +32,7 @@ Environment UsersVariables(const TemporaryFolder& home) {
         fs::create_directory(home / folder);
     }
     fs::permissions(home / "run", fs::perms::owner_all);
+    StoreUsersRegistryValue(home / "machine", "Isha Dep Angle", "18");
     return {{"HOME", home.Path()},
             {"PATH", std::getenv("PATH")},
             {"XDG_CONFIG_HOME", home / "config"},

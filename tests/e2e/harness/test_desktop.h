@@ -19,7 +19,8 @@ struct ScreenPlace {
 };
 
 /// A desktop for one test: a display with a window manager, a session bus, and a user whose home
-/// folder is empty.
+/// folder is empty. The machine has a stored setting for all users, so that a start is no first
+/// run.
 class TestDesktop {
     TemporaryFolder home_;
 

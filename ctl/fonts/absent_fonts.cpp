@@ -1,0 +1,7 @@
+#include "ctl/document_fonts.h"
+
+namespace horavex {
+
+void InstallDocumentFonts() {}
+
+}  // namespace horavex

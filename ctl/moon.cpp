@@ -1,0 +1,183 @@
+#include <algorithm>
+#include <memory>
+
+#include "base/fault.h"
+#include "base/int16.h"
+#include "base/number_text.h"
+#include "ctl/command.h"
+#include "ctl/coordinate.h"
+#include "ctl/date_option.h"
+#include "ctl/number_range.h"
+#include "lang/language_pack.h"
+#include "moon/eclipses.h"
+#include "moon/moon_phases.h"
+#include "moon/moon_rise_set.h"
+#include "moon/moon_row_labels.h"
+#include "store/language_setting.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+/// A year and the zone as the settings window's box holds it.
+struct YearOptions {
+    int year = 0;
+    std::string zone;
+};
+
+struct RiseOptions {
+    std::string date;
+    std::string latitude;
+    std::string longitude;
+    double zone = 0.0;
+    bool daylightSaving = false;
+};
+
+std::vector<std::string> Filled(const MoonRows& rows) {
+    return {rows.begin(), rows.begin() + kMoonRows};
+}
+
+void TakeYear(Session& session, const YearOptions& options) {
+    if (!IsNumeric(options.zone)) {
+        RefuseUsage("--zone: \"" + options.zone + "\" is no number of hours");
+    }
+    currentLanguage = ReadStoredLanguage();
+    HoravexMainForm->txtTimeZone.SetText(options.zone);
+    session.platform.clock.StandAt(DateSerial(options.year, 1, 1));
+}
+
+std::string TableText(const char* title, const MoonRows& rows) {
+    std::string text = std::string(title) + "\n";
+    for (const std::string& row : Filled(rows)) {
+        text += "  " + row + "\n";
+    }
+    return text;
+}
+
+std::string LabelsText(const std::vector<std::string>& labels) {
+    std::string text = "Arabic Month\n";
+    for (const std::string& label : labels) {
+        text += "  " + label + "\n";
+    }
+    return text;
+}
+
+void PrintMoon(Session& session, const YearOptions& options) {
+    TakeYear(session, options);
+    ComputeNewMoonRows();
+    ComputeFirstQuarterRows();
+    ComputeFullMoonRows();
+    ComputeLastQuarterRows();
+    const auto labels = MoonRowLabels(ToInt16(options.year));
+    session.Print({{"newMoon", Filled(NewMoonRows)},
+                   {"firstQuarter", Filled(FirstQuarterRows)},
+                   {"fullMoon", Filled(FullMoonRows)},
+                   {"lastQuarter", Filled(LastQuarterRows)},
+                   {"labels", labels}},
+                  TableText("New Moon", NewMoonRows) +
+                      TableText("First Quarter", FirstQuarterRows) +
+                      TableText("Full Moon", FullMoonRows) +
+                      TableText("Last Quarter", LastQuarterRows) + LabelsText(labels));
+}
+
+/// Lines end as those of a terminal do.
+std::string WithoutReturns(std::string text) {
+    std::erase(text, '\r');
+    return text;
+}
+
+void PrintEclipses(Session& session, const YearOptions& options) {
+    TakeYear(session, options);
+    const std::string solar = ListSolarEclipses();
+    const MoonRows solarRows = SolarEclipseRows;  // the lunar list clears an entry
+    const std::string lunar = ListLunarEclipses();
+    session.Print({{"solar", {{"text", solar}, {"rows", solarRows}}},
+                   {"lunar", {{"text", lunar}, {"rows", LunarEclipseRows}}}},
+                  WithoutReturns("Solar\n" + solar + "Lunar\n" + lunar));
+}
+
+/// The signed degrees and minutes of a coordinate without seconds.
+std::pair<std::int16_t, std::int16_t> SignedParts(const CommandCoordinate& coordinate,
+                                                  const std::string& text) {
+    if (coordinate.seconds != 0.0) {
+        RefuseUsage("\"" + text + "\": a moonrise takes degrees and minutes alone");
+    }
+    const int sign = coordinate.negative ? -1 : 1;
+    return {ToInt16(sign * coordinate.degrees), ToInt16(sign * coordinate.minutes)};
+}
+
+MoonObserver ObserverOf(const RiseOptions& options) {
+    const auto [latDeg, latMin] =
+        SignedParts(ParseCommandCoordinate(options.latitude, kLatitudeLetters, kLargestLatitude),
+                    options.latitude);
+    const auto [lonDeg, lonMin] =
+        SignedParts(ParseCommandCoordinate(options.longitude, kLongitudeLetters, kLargestLongitude),
+                    options.longitude);
+    return {latDeg, latMin, lonDeg, lonMin};
+}
+
+struct RiseSetTexts {
+    std::string rise;
+    std::string set;
+};
+
+/// Both texts of the error where the moon does not rise or set.
+RiseSetTexts TextsOf(Session& session, const CivilDate& date, const MoonObserver& observer,
+                     const RiseOptions& options) {
+    try {
+        MoonRiseSet times = MoonRiseSetTimes(date, observer, options.zone);
+        if (options.daylightSaving) {
+            AddDaylightHour(times);
+        }
+        return {MoonRiseText(times), MoonSetText(times)};
+    } catch (const Fault&) {
+        session.status = kGaveUp;
+        return {MoonErrorText(), MoonErrorText()};
+    }
+}
+
+void PrintMoonrise(Session& session, const RiseOptions& options) {
+    const DateNumbers date = ParseCivilDateOption(options.date);
+    const MoonObserver observer = ObserverOf(options);
+    currentLanguage = ReadStoredLanguage();
+    const RiseSetTexts texts =
+        TextsOf(session, {date.year, date.month, date.day}, observer, options);
+    session.Print({{"rise", texts.rise}, {"set", texts.set}}, texts.rise + "\n" + texts.set + "\n");
+}
+
+void AddYearly(CLI::App& app, Session& session, const char* name, const char* description,
+               void (*print)(Session& session, const YearOptions& options)) {
+    auto* command = AddCommand(app, session, name, description);
+    auto options = std::make_shared<YearOptions>();
+    command->add_option("--year", options->year, "Gregorian year")
+        ->check(CLI::Range(1, 9999))
+        ->required();
+    command
+        ->add_option("--zone", options->zone, "Hours east of Greenwich as the settings show them")
+        ->required();
+    command->callback([&session, options, print] { print(session, *options); });
+}
+
+void AddMoonriseCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "moonrise", "Rise and set of the moon on a day");
+    auto options = std::make_shared<RiseOptions>();
+    AddDateOption(*command, options->date);
+    command->add_option("--latitude", options->latitude, "Such as 30:3N")->required();
+    command->add_option("--longitude", options->longitude, "Such as 31:15E")->required();
+    command->add_option("--zone", options->zone, "Hours east of Greenwich, fractions allowed")
+        ->check(NumberFrom(-12.0, 12.0))
+        ->required();
+    command->add_flag("--dst", options->daylightSaving, "Add the hour of daylight saving");
+    command->callback([&session, options] { PrintMoonrise(session, *options); });
+}
+
+}  // namespace
+
+void AddMoonCommands(CLI::App& app, Session& session) {
+    AddYearly(app, session, "moon", "The moon's phases in a year", PrintMoon);
+    AddYearly(app, session, "eclipses", "Possible eclipses of a year", PrintEclipses);
+    AddMoonriseCommand(app, session);
+}
+
+}  // namespace horavex

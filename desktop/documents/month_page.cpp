@@ -1,0 +1,221 @@
+#include "desktop/documents/month_page.h"
+
+#include <QTextOption>
+
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+// Sizes in points, 1/72 inch.
+constexpr double kTitleSize = 17.0;
+constexpr double kPlaceSize = 12.0;
+constexpr double kTextSize = 9.0;
+constexpr double kLineHeight = 1.45;  // of the size of the text
+constexpr double kTallestRow = 19.0;
+constexpr double kCellPadding = 3.0;
+
+constexpr int kFriday = 5;
+constexpr int kColumns = 2 + static_cast<int>(kPrayerCount);
+
+// Shares of the width: the day, the Hijri date, the six times.
+constexpr double kShares[kColumns] = {1.5, 2.0, 1.0, 1.0, 1.0, 1.0, 1.0, 1.0};
+
+const QColor kInk(0x1a, 0x1f, 0x26);
+const QColor kAccent(0x1e, 0x48, 0x76);
+const QColor kShade(0xe8, 0xef, 0xf6);
+const QColor kRule(0xb9, 0xc3, 0xcf);
+
+QString Text(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QString Degrees(double degrees) {
+    return Text(NumberToText(degrees)) + QChar(0xB0);
+}
+
+class MonthPage {
+public:
+    MonthPage(QPainter& painter, const QRectF& area, double dotsPerInch, const PrintedYear& year,
+              int month)
+        : painter_(painter),
+          area_(area),
+          point_(dotsPerInch / 72.0),
+          year_(year),
+          month_(month),
+          days_(DaysOfMonth(year.table, month)) {}
+
+    void Draw() {
+        DrawHead();
+        DrawColumnHeads();
+        const double room = area_.bottom() - top_ - 3.0 * LineHeight(kTextSize);
+        const double rowHeight =
+            std::min(kTallestRow * point_, room / static_cast<double>(days_.size()));
+        for (const TimetableDay& day : days_) {
+            DrawDay(day, rowHeight);
+        }
+        DrawFootnotes();
+    }
+
+private:
+    const TimetableWords& Words() const { return year_.words; }
+
+    double LineHeight(double size) const { return size * kLineHeight * point_; }
+
+    void UseFont(double size, bool bold) {
+        QFont font;
+        font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
+        font.setPixelSize(qRound(size * point_));
+        font.setBold(bold);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        painter_.setFont(font);
+    }
+
+    /// From the side where the language begins.
+    QRectF Mirrored(const QRectF& box) const {
+        if (!Words().rightToLeft) {
+            return box;
+        }
+        return {area_.left() + area_.right() - box.right(), box.top(), box.width(), box.height()};
+    }
+
+    /// The text runs in its own direction, at the side where the language begins.
+    void Write(const QRectF& box, const QString& text, const QColor& colour = kInk) {
+        QTextOption option(Qt::AlignVCenter | Qt::AlignAbsolute |
+                           (Words().rightToLeft ? Qt::AlignRight : Qt::AlignLeft));
+        option.setWrapMode(QTextOption::NoWrap);
+        option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        painter_.setPen(colour);
+        painter_.drawText(Mirrored(box), text, option);
+    }
+
+    void WriteLine(const QString& text, double size, bool bold, const QColor& colour = kInk) {
+        UseFont(size, bold);
+        const double height = LineHeight(size);
+        Write({area_.left(), top_, area_.width(), height}, text, colour);
+        top_ += height;
+    }
+
+    /// A name and a value, which runs from left to right in every language.
+    static QString Fact(const std::string& name, const QString& value) {
+        static const QChar kLeftToRight(0x2066);
+        static const QChar kEnd(0x2069);
+        return Text(name) + QStringLiteral(": ") + kLeftToRight + value + kEnd;
+    }
+
+    static QString Joined(const QStringList& facts) { return facts.join(QStringLiteral("     ")); }
+
+    void DrawHead() {
+        const Timetable& table = year_.table;
+        WriteLine(Text(Words().title + " - " + Words().MonthTitle(table.year, month_)), kTitleSize,
+                  true, kAccent);
+        WriteLine(Text(table.place), kPlaceSize, true);
+        WriteLine(Joined({Fact(Words().latitude, Degrees(table.latitude)),
+                          Fact(Words().longitude, Degrees(table.longitude)),
+                          Fact(Words().zone, Text("GMT " + SignedFixedText(table.timeZone)))}),
+                  kTextSize, false);
+        WriteLine(Joined({Fact(Words().fajrAngle, Degrees(table.fajrAngle)),
+                          Fact(Words().ishaAngle, Degrees(table.ishaAngle)),
+                          Fact(Words().asrRatio, Text(NumberToText(table.asrRatio) + ":1"))}),
+                  kTextSize, false);
+        WriteLine(Fact(Words().qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))), kTextSize,
+                  false);
+        top_ += LineHeight(kTextSize) / 2.0;
+    }
+
+    QRectF Cell(int column, double height) const {
+        double before = 0.0;
+        double all = 0.0;
+        for (int i = 0; i < kColumns; ++i) {
+            before += i < column ? kShares[i] : 0.0;
+            all += kShares[i];
+        }
+        const double padding = kCellPadding * point_;
+        return {area_.left() + area_.width() * before / all + padding, top_,
+                area_.width() * kShares[column] / all - padding, height};
+    }
+
+    void DrawRule(const QColor& colour, double width) {
+        painter_.setPen(QPen(colour, width * point_));
+        painter_.drawLine(QPointF(area_.left(), top_), QPointF(area_.right(), top_));
+    }
+
+    void DrawColumnHeads() {
+        UseFont(kTextSize, true);
+        const double height = LineHeight(kTextSize) * 1.2;
+        Write(Cell(0, height), Text(Words().day), kAccent);
+        Write(Cell(1, height), Text(Words().hijri), kAccent);
+        for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
+            Write(Cell(2 + prayer, height),
+                  Text(Words().prayers.at(static_cast<std::size_t>(prayer))), kAccent);
+        }
+        top_ += height;
+        DrawRule(kAccent, 1.0);
+    }
+
+    void DrawDay(const TimetableDay& day, double height) {
+        const bool friday = Weekday(day.date) == kFriday;
+        const bool today = day.date == year_.today;
+        const QRectF row(area_.left(), top_, area_.width(), height);
+        if (friday) {
+            painter_.fillRect(row, kShade);
+        }
+        UseFont(kTextSize, friday || today);
+        WriteCells(day, height);
+        top_ += height;
+        DrawRule(kRule, 0.4);
+        if (today) {
+            painter_.setPen(QPen(kAccent, 1.4 * point_));
+            painter_.setBrush(Qt::NoBrush);
+            painter_.drawRect(row);
+        }
+    }
+
+    void WriteCells(const TimetableDay& day, double height) {
+        const int number = CivilFromDate(day.date).day;
+        const QString mark = day.change == DaylightChange::kNone ? QString() : QStringLiteral(" *");
+        Write(Cell(0, height),
+              QString::number(number) + QChar(u' ') + Text(Words().WeekdayOf(day.date)) + mark);
+        Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
+        for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
+            if (const auto& hours = day.hours.at(static_cast<std::size_t>(prayer))) {
+                Write(Cell(2 + prayer, height), Text(Ports().formats.MediumTime(*hours / 24.0)));
+            }
+        }
+    }
+
+    void DrawFootnotes() {
+        top_ += LineHeight(kTextSize) / 4.0;
+        for (const TimetableDay& day : days_) {
+            if (day.change != DaylightChange::kNone) {
+                const bool begins = day.change == DaylightChange::kBegins;
+                WriteLine(QStringLiteral("* ") + QString::number(CivilFromDate(day.date).day) +
+                              QStringLiteral(": ") +
+                              Text(begins ? Words().daylightBegins : Words().daylightEnds),
+                          kTextSize, false);
+            }
+        }
+    }
+
+    QPainter& painter_;
+    QRectF area_;
+    double point_;  // pixels of the device
+    const PrintedYear& year_;
+    int month_;
+    std::vector<TimetableDay> days_;
+    double top_ = area_.top();  // where the next line begins
+};
+
+}  // namespace
+
+void DrawMonthPage(QPainter& painter, const QRectF& area, double dotsPerInch,
+                   const PrintedYear& year, int month) {
+    painter.save();
+    MonthPage(painter, area, dotsPerInch, year, month).Draw();
+    painter.restore();
+}
+
+}  // namespace horavex

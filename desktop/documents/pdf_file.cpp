@@ -1,0 +1,52 @@
+#include "desktop/documents/pdf_file.h"
+
+#include <QBuffer>
+#include <QPageLayout>
+#include <QPdfWriter>
+
+#include "desktop/documents/month_page.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kDotsPerInch = 600;
+constexpr double kMargin = 15.0;  // millimetres
+
+QPageLayout LayoutOf(PaperSize paper) {
+    const QPageSize size(paper == PaperSize::kA4 ? QPageSize::A4 : QPageSize::Letter);
+    return {size, QPageLayout::Portrait, QMarginsF(kMargin, kMargin, kMargin, kMargin),
+            QPageLayout::Millimeter};
+}
+
+void DrawPages(QPdfWriter& writer, const PrintedYear& year) {
+    QPainter painter(&writer);
+    for (int month = 1; month <= 12; ++month) {
+        if (month > 1) {
+            writer.newPage();
+        }
+        DrawMonthPage(painter, QRectF(0.0, 0.0, writer.width(), writer.height()), kDotsPerInch,
+                      year, month);
+    }
+}
+
+}  // namespace
+
+void WritePdf(const std::string& path, const PrintedYear& year) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kDotsPerInch);
+        writer.setPageLayout(LayoutOf(year.paper));
+        writer.setCreator(QStringLiteral("Horavex"));
+        writer.setTitle(QString::fromStdString(
+            year.words.title + " " + std::to_string(year.table.year) + ", " + year.table.place));
+        DrawPages(writer, year);
+    }
+    const QByteArray& bytes = buffer.data();
+    Ports().files.WriteWhole(path, BytesOf(bytes.toStdString()));
+}
+
+}  // namespace horavex

@@ -1,0 +1,102 @@
+#include "desktop/form_window/grid_binder.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QWheelEvent>
+
+namespace horavex {
+
+namespace {
+
+constexpr int kWheelNotch = 120;  // eighths of a degree
+
+QStringList TextsOf(const std::vector<std::string>& texts) {
+    QStringList shown;
+    for (const std::string& text : texts) {
+        shown << QString::fromStdString(text);
+    }
+    return shown;
+}
+
+/// The look of a row: set off in bold, the present one in the colours of a selection.
+void Dress(QTableWidgetItem& item, const Grid::Row& row, const QPalette& palette) {
+    QFont font = item.font();
+    font.setBold(row.setOff || row.current);
+    item.setFont(font);
+    if (row.current) {
+        item.setBackground(palette.highlight());
+        item.setForeground(palette.highlightedText());
+    } else if (row.setOff) {
+        item.setBackground(palette.alternateBase());
+    }
+}
+
+}  // namespace
+
+GridBinder::GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
+    : BinderOf(bound, boundWidget, std::move(refreshLater)) {
+    widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    widget.setSelectionMode(QAbstractItemView::NoSelection);
+    widget.setShowGrid(false);
+    widget.verticalHeader()->hide();
+    widget.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    widget.horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    widget.verticalHeader()->setMinimumSectionSize(0);
+    widget.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    widget.viewport()->installEventFilter(this);
+}
+
+void GridBinder::Show() {
+    ShowHeads();
+    widget.setRowCount(static_cast<int>(control.rows.size()));
+    for (int row = 0; row < widget.rowCount(); ++row) {
+        ShowRow(row);
+    }
+}
+
+void GridBinder::ShowHeads() {
+    widget.setColumnCount(static_cast<int>(control.heads.size()));
+    widget.setHorizontalHeaderLabels(TextsOf(control.heads));
+}
+
+void GridBinder::ShowRow(int row) {
+    const Grid::Row& shown = control.rows.at(static_cast<std::size_t>(row));
+    const QStringList texts = TextsOf(shown.cells);
+    for (int column = 0; column < texts.size(); ++column) {
+        auto* item = new QTableWidgetItem(texts[column]);
+        item->setTextAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+        Dress(*item, shown, widget.palette());
+        widget.setItem(row, column, item);
+    }
+}
+
+bool GridBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel) {
+        Wheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_PageUp || key == Qt::Key_PageDown) {
+            Turn(key == Qt::Key_PageUp ? -1 : 1);
+            return true;
+        }
+    }
+    return BinderOf::eventFilter(watched, event);
+}
+
+// A touchpad sends many small movements: a page for each notch's worth of them.
+void GridBinder::Wheel(int delta) {
+    wheel_ += delta;
+    const int notches = wheel_ / kWheelNotch;
+    wheel_ -= notches * kWheelNotch;
+    if (notches != 0) {
+        Turn(-notches);
+    }
+}
+
+void GridBinder::Turn(int step) {
+    Hand([this, step] { control.UserPage(step); });
+}
+
+}  // namespace horavex

@@ -1,0 +1,153 @@
+#include "desktop/ports/help_window.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStyleOption>
+#include <QTextDocument>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace horavex {
+
+namespace {
+
+constexpr int kWholeScreen = 1024;  // the unit of HelpPlace
+constexpr int kContentsWidth = 220;
+constexpr int kPageWidth = 520;
+constexpr int kPageMargin = 14;
+
+/// A modal window takes the viewer along, for nothing else would let users into it.
+QWindow* OwnerWindow(const QString& form) {
+    if (const QWidget* modal = QApplication::activeModalWidget()) {
+        return modal->windowHandle();
+    }
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == form && window->isVisible()) {
+            return window->windowHandle();
+        }
+    }
+    return nullptr;
+}
+
+void SetUpButton(QToolButton& button) {
+    button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button.setAutoRaise(true);
+    button.setFocusPolicy(Qt::TabFocus);
+    button.setEnabled(false);
+}
+
+/// The arrow goes with the direction of reading.
+void NameButton(QToolButton& button, const std::string& text, QStyle::StandardPixmap arrow) {
+    QStyleOption option;
+    option.initFrom(&button);
+    button.setText(QString::fromStdString(text));
+    button.setIcon(button.style()->standardIcon(arrow, &option, &button));
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow() {
+    back_.setObjectName(QStringLiteral("back"));
+    forward_.setObjectName(QStringLiteral("forward"));
+    contents_.setObjectName(QStringLiteral("contents"));
+    page_.setObjectName(QStringLiteral("page"));
+    SetUpButton(back_);
+    SetUpButton(forward_);
+    back_.setShortcut(QKeySequence::Back);
+    forward_.setShortcut(QKeySequence::Forward);
+    contents_.setWordWrap(true);
+    page_.setOpenExternalLinks(true);
+    page_.document()->setDocumentMargin(kPageMargin);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(&back_);
+    buttons->addWidget(&forward_);
+    buttons->addStretch();
+    auto* parts = new QSplitter;
+    parts->addWidget(&contents_);
+    parts->addWidget(&page_);
+    parts->setStretchFactor(1, 1);
+    parts->setSizes({kContentsWidth, kPageWidth});
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(buttons);
+    all->addWidget(parts, 1);
+
+    connect(&back_, &QToolButton::clicked, &page_, &QTextBrowser::backward);
+    connect(&forward_, &QToolButton::clicked, &page_, &QTextBrowser::forward);
+    connect(&page_, &QTextBrowser::backwardAvailable, &back_, &QWidget::setEnabled);
+    connect(&page_, &QTextBrowser::forwardAvailable, &forward_, &QWidget::setEnabled);
+    connect(&page_, &QTextBrowser::historyChanged, this, [this] { FollowPage(); });
+    connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) { OpenRow(row); });
+}
+
+void HelpWindow::Show(const HelpView& view) {
+    Fill(view);
+    Name(view);
+    OpenRow(static_cast<int>(view.page));
+    if (!isVisible()) {
+        PlaceFirst(view.place);
+    }
+    winId();  // makes the window of the platform, which the owner is set on
+    windowHandle()->setTransientParent(OwnerWindow(QString::fromStdString(view.owner)));
+    show();
+    raise();
+    activateWindow();
+}
+
+void HelpWindow::Name(const HelpView& view) {
+    setWindowTitle(QString::fromStdString(view.title));
+    NameButton(back_, view.back, QStyle::SP_ArrowBack);
+    NameButton(forward_, view.forward, QStyle::SP_ArrowForward);
+    contents_.setAccessibleName(QString::fromStdString(view.contents));
+    page_.setAccessibleName(QString::fromStdString(view.title));
+}
+
+void HelpWindow::Fill(const HelpView& view) {
+    const QSignalBlocker quiet(contents_);
+    contents_.clear();
+    for (const HelpPage& page : view.pages) {
+        auto* item = new QListWidgetItem(QString::fromStdString(page.title), &contents_);
+        item->setData(Qt::UserRole, QUrl::fromLocalFile(QString::fromStdString(page.path)));
+    }
+    setLayoutDirection(contents_.item(0)->text().isRightToLeft() ? Qt::RightToLeft
+                                                                 : Qt::LeftToRight);
+}
+
+void HelpWindow::PlaceFirst(const HelpPlace& place) {
+    const QRect whole = screen()->availableGeometry();
+    const auto part = [](int extent, int share) { return extent * share / kWholeScreen; };
+    resize(QSize(part(whole.width(), place.width), part(whole.height(), place.height))
+               .expandedTo(minimumSizeHint()));
+    move(whole.topLeft() + QPoint(part(whole.width(), place.x), part(whole.height(), place.y)));
+}
+
+void HelpWindow::OpenRow(int row) {
+    if (const QListWidgetItem* item = contents_.item(row)) {
+        page_.setSource(item->data(Qt::UserRole).toUrl());
+    }
+}
+
+/// Marks the page in the contents, by whatever way it was reached.
+void HelpWindow::FollowPage() {
+    const QUrl shown = page_.source().adjusted(QUrl::RemoveFragment);
+    const QSignalBlocker quiet(contents_);
+    for (int row = 0; row < contents_.count(); ++row) {
+        if (contents_.item(row)->data(Qt::UserRole).toUrl() == shown) {
+            contents_.setCurrentRow(row);
+        }
+    }
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        hide();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QListWidget>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <QWidget>
+
+#include "platform/help_view.h"
+
+namespace horavex {
+
+/// The help viewer: the list of pages beside the page that is read, and the way back and forward.
+/// Closing hides it, and it keeps its place until the program ends.
+class HelpWindow : public QWidget {
+public:
+    HelpWindow();
+
+    /// Shows a view and brings the window to the front. It comes up in front of a modal window,
+    /// and users can go on reading while that is open.
+    void Show(const HelpView& view);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Name(const HelpView& view);
+    void Fill(const HelpView& view);
+    void PlaceFirst(const HelpPlace& place);
+    void OpenRow(int row);
+    void FollowPage();
+
+    QToolButton back_;
+    QToolButton forward_;
+    QListWidget contents_;
+    QTextBrowser page_;
+};
+
+}  // namespace horavex

@@ -1,0 +1,64 @@
+#include "linux/http_get.h"
+
+#include <curl/curl.h>
+
+#include <memory>
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kProtocols = "http,https";
+constexpr long kMostRedirections = 5;
+
+struct EasyCleanup {
+    void operator()(CURL* transfer) const { curl_easy_cleanup(transfer); }
+};
+using Transfer = std::unique_ptr<CURL, EasyCleanup>;
+
+Transfer NewTransfer() {
+    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
+    return Transfer(ready == CURLE_OK ? curl_easy_init() : nullptr);
+}
+
+struct Body {
+    Bytes bytes;
+    std::size_t limit;
+};
+
+// Taking less than was offered ends the transfer as incomplete.
+std::size_t TakeBlock(char* block, std::size_t, std::size_t count, void* body) {
+    auto& [bytes, limit] = *static_cast<Body*>(body);
+    if (bytes.size() + count > limit) {
+        return 0;
+    }
+    bytes.insert(bytes.end(), block, block + count);
+    return count;
+}
+
+bool Run(CURL* transfer, const std::string& address, long milliseconds, Body& body) {
+    curl_easy_setopt(transfer, CURLOPT_URL, address.c_str());
+    curl_easy_setopt(transfer, CURLOPT_USERAGENT, "Horavex");
+    curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, kProtocols);
+    curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, kProtocols);
+    curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
+    curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMostRedirections);
+    curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, milliseconds);
+    curl_easy_setopt(transfer, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, TakeBlock);
+    curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
+    return curl_easy_perform(transfer) == CURLE_OK;
+}
+
+}  // namespace
+
+Bytes HttpGet(const std::string& address, const FetchLimits& limits) {
+    const Transfer transfer = NewTransfer();
+    Body body{{}, limits.bytes};
+    if (transfer == nullptr || !Run(transfer.get(), address, limits.milliseconds, body)) {
+        return {};
+    }
+    return body.bytes;
+}
+
+}  // namespace horavex

@@ -1,0 +1,51 @@
+#include "calendar/hijri_converter.h"
+
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kMonths[] = {"Muharram",   "Safar",       "Rabi'Awal", "Rabi'Thani",
+                                   "Jamad Awal", "Jamad Thani", "Rajab",     "Sha'ban",
+                                   "Ramadan",    "Shawwal",     "Zul Qaada", "Zul Hijja"};
+constexpr const char* kNoBreakSpace = "\xC2\xA0";
+
+/// Readers of the line find the month and the year by counting words from both ends.
+std::string AsOneWord(std::string text) {
+    for (std::size_t at = text.find(' '); at != std::string::npos; at = text.find(' ', at)) {
+        text.replace(at, 1, kNoBreakSpace);
+    }
+    return text;
+}
+
+}  // namespace
+
+HijriDate HijriConverter::ToHijri(Date date) const {
+    const auto published = ummAlQura_.HijriOf(date);
+    return published ? *published : HijriFromDate(date);
+}
+
+Date HijriConverter::ToGregorian(const HijriDate& hijri) const {
+    const auto published = ummAlQura_.DateOf(hijri);
+    return published ? *published : DateFromHijri(hijri);
+}
+
+std::string HijriConverter::CalculateHijri(std::int16_t year, int month, int day) const {
+    const Date date = DateSerial(year, month, day);
+    const HijriDate hijri = ToHijri(date);
+    return AsOneWord(Ports().formats.WeekdayName(date)) + " " + std::to_string(hijri.day) + " " +
+           HijriMonthOrDefault(hijri.month) + " " + std::to_string(hijri.year) + " " +
+           AsOneWord(GetLangString("other", "AH", "AH"));
+}
+
+std::string HijriConverter::CalculateGregorian(std::int16_t year, int month, int day) const {
+    return Ports().formats.LongDate(ToGregorian({year, month, day}));
+}
+
+std::string HijriMonthOrDefault(int month) {
+    return GetLangString("other", std::to_string(month), kMonths[month - 1]);
+}
+
+}  // namespace horavex

@@ -1,0 +1,62 @@
+#include "config/city_choice.h"
+
+#include "config/settings_controls.h"
+#include "config/settings_display.h"
+#include "geo/city_picker.h"
+#include "platform/platform.h"
+#include "store/angle_band.h"
+#include "store/location_files.h"
+#include "store/location_record.h"
+#include "store/settings_defaults.h"
+#include "store/settings_record.h"
+#include "windows/f_country.h"
+#include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+void ChangeCity(std::int16_t cityIndex) {
+    SettingsForm& form = *HoravexMainForm;
+    CityText = LookupLocation(cityIndex, Location);
+    Settings.CityIndex = cityIndex;
+    frmMain->lblCity.SetCaption(CityText);
+    form.txtTimeZone.SetText("");
+    ShowNewLocation();
+    SetDepressionLimits(Location.City.Latitude);
+    form.hsDepr.SetValue(AngleBand.middle);
+    SetDefaultDstDays(Ports().clock.Today(), Location.City.Latitude);
+    form.lblCity.SetCaption(CityText);
+    ShowDaylightDays();
+    sub06C6();
+    sub071C();
+}
+
+}  // namespace
+
+void TakePickedCity(std::int16_t cityIndex) {
+    if (cityIndex != Settings.CityIndex) {
+        ChangeCity(cityIndex);
+    }
+    if (HoravexMainForm->Visible()) {
+        HoravexMainForm->txtTimeZone.SetFocus();
+    }
+}
+
+void cmdChangeCity_Click() {
+    if (LoadCityPicker()) {
+        fCountry->Show();
+    } else {
+        HoravexMainForm->SetVisible(true);
+    }
+    ShowNewLocation();
+}
+
+void BindCityChoice() {
+    BindCityPicker();
+    fCountry->onPick = TakePickedCity;
+    HoravexMainForm->cmdChangeCity.onClick = cmdChangeCity_Click;
+}
+
+}  // namespace horavex

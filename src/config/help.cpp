@@ -1,0 +1,107 @@
+#include "config/help.h"
+
+#include <algorithm>
+
+#include "base/fault.h"
+#include "base/program_state.h"
+#include "base/text.h"
+#include "config/help_topics.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+std::string helpOwnerWindow;
+std::string helpFile;
+HelpWindowRecord HelpWindowInfo{};
+
+namespace {
+
+const ProgramStateReset reset([] {
+    helpOwnerWindow.clear();
+    helpFile.clear();
+    HelpWindowInfo = {};
+});
+
+constexpr const char* kFileName = "Horavex.HLP";
+
+HelpTopics ReadTopics() {
+    return HelpTopics(StringOf(Ports().programFolder.ReadWhole(helpFile)));
+}
+
+/// The path of a page in the program folder, of the pack's language or else the English one.
+std::string PathOf(const std::string& page) {
+    const std::string path = "\\help\\" + currentLanguage + "\\" + page;
+    return Ports().programFolder.Exists(path) ? path : "\\help\\English\\" + page;
+}
+
+/// What stands in the title element of a page.
+std::string TitleOf(const std::string& page) {
+    constexpr std::string_view kOpening = "<title>";
+    const std::size_t begin = page.find(kOpening);
+    const std::size_t end = page.find("</title>");
+    if (begin == std::string::npos || end == std::string::npos) {
+        throw FileFault("help", "a page has no title");
+    }
+    return page.substr(begin + kOpening.size(), end - begin - kOpening.size());
+}
+
+HelpPage PageAt(const std::string& path) {
+    const ProgramFolder& folder = Ports().programFolder;
+    return {TitleOf(StringOf(folder.ReadWhole(path))), folder.RealPath(path)};
+}
+
+HelpView NewView() {
+    return {.owner = helpOwnerWindow,
+            .place = HelpWindowInfo.place,
+            .title = GetLangString("desktop", "HelpTitle", "Horavex Help"),
+            .contents = GetLangString("desktop", "HelpContents", "Contents"),
+            .back = GetLangString("desktop", "HelpBack", "Back"),
+            .forward = GetLangString("desktop", "HelpForward", "Forward"),
+            .pages = {},
+            .page = 0};
+}
+
+}  // namespace
+
+void InitHelp(const std::string& windowHandle, std::string folder) {
+    helpOwnerWindow = windowHandle;
+    folder = Trim(folder);
+    helpFile = folder + (folder.ends_with('\\') ? "" : "\\") + kFileName;
+    HelpWindowInfo = {26, {256, 256, 512, 512}, {0, 0}};
+}
+
+void ShowHelpContext(int contextNumber) {
+    const HelpTopics topics = ReadTopics();
+    const std::string wanted = topics.PageOf(contextNumber);
+    HelpView view = NewView();
+    for (const std::string& page : topics.Pages()) {
+        if (page == wanted) {
+            view.page = view.pages.size();
+        }
+        view.pages.push_back(PageAt(PathOf(page)));
+    }
+    if (view.pages.empty()) {
+        throw FileFault(helpFile, "names no page");
+    }
+    Ports().shell.ShowHelp(view);
+}
+
+void CloseHelp() {
+    Ports().shell.CloseHelp();
+}
+
+void ShowHelpOf(const Form& form) {
+    const int own = form.HelpContextId();
+    ShowHelpContext(own != 0 ? own : ReadTopics().NumberOf(form.Name()));
+}
+
+void BindHelp() {
+    InstallHelpKey(ShowHelpOf);
+    HoravexMainForm->Help.onClick = [] { ShowHelpContext(kHelpIndex); };
+    HoravexMainForm->SettingsHelp.onClick = [] { ShowHelpContext(kHelpSettings); };
+    HoravexMainForm->QiblaHelpButton.onClick = [] { ShowHelpContext(kHelpQibla); };
+}
+
+}  // namespace horavex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace horavex {
+
+/// The help file: a profile file with the sections "topics", the page of each context number in
+/// the order of the contents, and "windows", the context number of each window by its name.
+class HelpTopics {
+public:
+    explicit HelpTopics(std::string file) : file_(std::move(file)) {}
+
+    /// The page of a context number; empty for an unknown one.
+    std::string PageOf(int contextNumber) const;
+
+    /// The context number of a window; an unknown window has the index.
+    int NumberOf(const std::string& window) const;
+
+    /// Every context number, in the order of the file.
+    std::vector<int> Numbers() const;
+
+    /// Every page once, in the order of the file.
+    std::vector<std::string> Pages() const;
+
+private:
+    std::string file_;
+};
+
+}  // namespace horavex

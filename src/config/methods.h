@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+namespace horavex {
+
+/// A published convention that defines both twilights by an angle.
+struct Method {
+    std::uint16_t nameEntry;  // of the text table
+    double fajrAngle;         // degrees, in quarters
+    double ishaAngle;         // likewise
+    const char* source;       // who publishes the angles
+};
+
+/// The conventions in the order of the list. Those that define Isha by minutes after sunset, or
+/// Maghrib by an angle of its own, are none of these.
+std::span<const Method> Methods();
+
+/// Whether both angles lie within the band of the present latitude, limits included.
+bool FitsBand(const Method& method);
+
+}  // namespace horavex

@@ -1,0 +1,254 @@
+#include "config/wizard.h"
+
+#include <cmath>
+
+#include "base/flag.h"
+#include "base/int16.h"
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "base/steps.h"
+#include "config/computer_zone.h"
+#include "config/first_run.h"
+#include "config/method_list.h"
+#include "config/settings_controls.h"
+#include "config/settings_display.h"
+#include "config/settings_window.h"
+#include "config/wizard_controls.h"
+#include "config/wizard_preview.h"
+#include "config/zone_box.h"
+#include "engine/center_on_screen.h"
+#include "engine/day_driver.h"
+#include "geo/city_picker.h"
+#include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "store/angle_band.h"
+#include "store/location_record.h"
+#include "store/settings_record.h"
+#include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::int16_t kZonePage = 2;
+constexpr std::int16_t kLastPage = 4;
+constexpr double kLastZone = 11.0;  // hours; the settings window takes 12 as well
+
+constexpr int kWizardBegin = 120;  // the wizard's own proposal for daylight saving: 1 May
+constexpr int kWizardEnd = 273;    // to 1 October, in a common year
+
+/// The pages lie on each other; those behind are hidden, so that the keyboard does not get lost
+/// in them.
+void ShowPage(std::int16_t page) {
+    WizardForm& form = *frmWizard;
+    form.currentPage = page;
+    for (int number = 1; number <= kLastPage; ++number) {
+        form.Frame(number).SetVisible(number == page);
+        form.Frame2(number).SetVisible(number == page);
+    }
+    form.Frame(page).BringToFront();
+    form.Frame2(page).BringToFront();
+}
+
+void CopyPrayerNames() {
+    for (int prayer = 0; prayer < 6; ++prayer) {
+        frmWizard->lblZoritName(prayer).SetCaption(frmMain->lblZoritName(prayer).Caption());
+    }
+}
+
+/// The pack has just written over the limits, which are as those of the settings window.
+void CopyLimits() {
+    WizardForm& form = *frmWizard;
+    const SettingsForm& settings = *HoravexMainForm;
+    form.lblDeprMin.SetCaption(settings.lblDeprMin.Caption());
+    form.lblDeprMax.SetCaption(settings.lblDeprMax.Caption());
+    form.Label7.SetCaption(settings.Label7.Caption());
+    form.Label6.SetCaption(settings.Label6.Caption());
+}
+
+void SetEgyptianPresets() {
+    WizardForm& form = *frmWizard;
+    form.hsDepr2.SetValue(17);
+    form.hsDepr21.SetValue(3);
+    form.hsDepr.SetValue(19);
+    form.hsDepr1.SetValue(2);
+    form.txtTimeZone.SetText("+2.00");
+}
+
+void CopyAnglesAndZone() {
+    WizardForm& form = *frmWizard;
+    const SettingsForm& settings = *HoravexMainForm;
+    form.hsDepr2.SetValue(settings.hsDepr2.Value());
+    form.hsDepr21.SetValue(settings.hsDepr21.Value());
+    form.hsDepr.SetValue(settings.hsDepr.Value());
+    form.hsDepr1.SetValue(settings.hsDepr1.Value());
+    form.txtTimeZone.SetText(settings.txtTimeZone.Text());
+}
+
+void ShowAsrRatio() {
+    const auto& options = frmWizard->optAsrRatio;
+    if (const int ratio = static_cast<int>(RoundHalfEven(Settings.AsrRatio));
+        options.Contains(ratio)) {
+        options(ratio).SetValue(true);
+    }
+}
+
+void CopyDaylight() {
+    frmWizard->chkDayLT.SetValue(HoravexMainForm->chkDayLT.Value());
+    ShowWizardDaylight();
+}
+
+/// Whatever is stored, the wizard proposes its own days, and they count from now on.
+void ProposeDaylightDays() {
+    WizardForm& form = *frmWizard;
+    SetDaylightRange(form.hsBegin);
+    SetDaylightRange(form.hsEnd);
+    form.hsBegin.SetValue(kWizardBegin);
+    form.hsEnd.SetValue(kWizardEnd);
+}
+
+void StartOnFirstPage() {
+    ShowPage(1);
+    frmWizard->cmdPrev.SetEnabled(false);
+}
+
+void frmWizard_Load() {
+    const PreviewHold hold;
+    ForgetPreview();
+    TranslateOnLoad(*frmWizard);
+    CopyLimits();
+    frmWizard->label5.SetVisible(firstRun != kFalse);
+    CopyPrayerNames();
+    StartOnFirstPage();
+    if (NamesEgypt(HoravexMainForm->lblCity.Caption())) {
+        SetEgyptianPresets();
+    } else {
+        CopyAnglesAndZone();
+    }
+    ShowAsrRatio();
+    CopyDaylight();
+    ShowCityOnWizard();
+    frmWizard->lblDepr1.SetCaption(HoravexMainForm->lblDepr1.Caption());
+    ProposeDaylightDays();
+    CenterOnScreen(*frmWizard);
+}
+
+/// The accepted city stays on view until the finish; what was picked meanwhile stands below it.
+void ShowPickedCity() {
+    const bool picked = Settings.CityIndex != ActiveSettings.CityIndex;
+    frmWizard->lblPickedCity.SetCaption(CityText);
+    frmWizard->lblPicked.SetVisible(picked);
+    frmWizard->lblPickedCity.SetVisible(picked);
+}
+
+void Finish() {
+    RunStep(SetSettings);
+    frmWizard->Unload();
+}
+
+void GoOn() {
+    WizardForm& form = *frmWizard;
+    ShowPage(AddInt16(form.currentPage, 1));
+    if (form.currentPage == kLastPage) {
+        form.cmdNext.SetCaption(GetLangString("other", "19", "&Finish"));
+    }
+    RunStep([] {
+        const PreviewHold hold;
+        ShowCityOnWizard();
+        SetTodayPrayerTimes();
+    });
+}
+
+void cmdNext_Click() {
+    WizardForm& form = *frmWizard;
+    form.cmdPrev.SetEnabled(true);
+    if (form.currentPage == kZonePage) {
+        std::int16_t accepted = kFalse;
+        CheckWizardTimeZone(form.txtTimeZone.Text(), accepted);
+        if (accepted == kFalse) {
+            return;
+        }
+    }
+    if (form.currentPage == kLastPage) {
+        Finish();
+    } else {
+        GoOn();
+    }
+}
+
+void cmdPrev_Click() {
+    frmWizard->cmdNext.SetCaption(GetLangString("other", "20", "&Next"));
+    if (frmWizard->currentPage == kZonePage) {
+        StartOnFirstPage();
+    } else {
+        ShowPage(SubtractInt16(frmWizard->currentPage, 1));
+    }
+}
+
+void cmdSetCity_Click() {
+    if (LoadCityPicker()) {
+        fCountry->ShowModal(&*frmWizard);
+    }
+    ShowNewLocation();
+    RunStep(ShowDay);
+    const PreviewHold hold;
+    frmWizard->txtTimeZone.SetText(HoravexMainForm->txtTimeZone.Text());
+    ShowCityOnWizard();
+}
+
+/// The settings window's controls are filled; the wizard shows them as any refresh does.
+void cmdComputerZone_Click() {
+    UseComputerZone();
+    const PreviewHold hold;
+    CopyDaylight();
+    ShowCityOnWizard();
+}
+
+}  // namespace
+
+void ShowWizard() {
+    if (!frmWizard->IsLoaded()) {
+        SetDepressionLimits(Location.City.Latitude);
+    }
+    frmWizard->Show(&*frmMain);
+}
+
+void ShowCityOnWizard() {
+    WizardForm& form = *frmWizard;
+    const SettingsForm& settings = *HoravexMainForm;
+    form.lblCity.SetCaption(ActiveCityText);
+    form.lblCity2.SetCaption(ActiveCityText);
+    ShowPickedCity();
+    form.lblTimeZone.SetCaption(settings.lblTimeZone.Caption());
+    form.txtTimeZone.SetText(settings.txtTimeZone.Text());
+    form.lblLocationLat.SetCaption(settings.lblLocationLat.Caption());
+    form.lblLocationLon.SetCaption(settings.lblLocationLon.Caption());
+    form.hsBegin.SetValue(Settings.DstStart - 1);
+    form.hsEnd.SetValue(Settings.DstEnd - 1);
+    ShowWizardAngles();
+}
+
+void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted) {
+    accepted = IsZone(text, kLastZone) ? kTrue : kFalse;
+    if (accepted != kFalse) {
+        Settings.TimeZone = TextToNumber(text);
+    } else {
+        Ports().dialogs.ShowMessage("Invalid GMT", "", MessageIcon::kExclamation);
+    }
+}
+
+void BindWizard() {
+    BindWizardControls();
+    WizardForm& form = *frmWizard;
+    form.onLoad = frmWizard_Load;
+    form.cmdNext.onClick = cmdNext_Click;
+    form.cmdPrev.onClick = cmdPrev_Click;
+    form.cmdSetCity.onClick = cmdSetCity_Click;
+    form.cmdComputerZone.onClick = cmdComputerZone_Click;
+    form.Command3.onClick = [] { frmWizard->Unload(); };
+}
+
+}  // namespace horavex

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace horavex {
+
+/// Brings the wizard up in front of the face, without blocking.
+void ShowWizard();
+
+/// Shows the accepted city, and the texts of the place, the zone box and the days of daylight
+/// saving as the settings window has them.
+void ShowCityOnWizard();
+
+/// Takes a number from -12 to 11 as the zone of the working settings; anything else is refused
+/// with a message. The settings window goes up to 12. accepted: a flag.
+void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted);
+
+/// Binds the wizard's handlers.
+void BindWizard();
+
+}  // namespace horavex

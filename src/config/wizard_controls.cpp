@@ -1,0 +1,111 @@
+#include "config/wizard_controls.h"
+
+#include <initializer_list>
+
+#include "base/int16.h"
+#include "config/angle_sliders.h"
+#include "config/method_list.h"
+#include "config/settings_display.h"
+#include "config/wizard_preview.h"
+#include "config/zone_box.h"
+#include "store/settings_record.h"
+#include "windows/frm_wizard.h"
+
+namespace horavex {
+
+namespace {
+
+void hsDepr_Change() {
+    Settings.FajrAngle = AngleOnSliders(frmWizard->hsDepr, frmWizard->hsDepr1);
+    ShowWizardAngles();
+    SetTodayPrayerTimes();
+}
+
+void hsDepr2_Change() {
+    IshaAngle = AngleOnSliders(frmWizard->hsDepr2, frmWizard->hsDepr21);
+    ShowWizardAngles();
+    SetTodayPrayerTimes();
+}
+
+void hsBegin_Change() {
+    Settings.DstStart = ToInt16(frmWizard->hsBegin.Value() + 1);
+    frmWizard->lblBegin.SetCaption(DayText(Settings.DstStart));
+}
+
+void hsEnd_Change() {
+    Settings.DstEnd = ToInt16(frmWizard->hsEnd.Value() + 1);
+    frmWizard->lblEnd.SetCaption(DayText(Settings.DstEnd));
+}
+
+void chkDayLT_Click() {
+    Settings.DstEnabled = ToInt16(frmWizard->chkDayLT.Value());
+    ShowWizardDaylight();
+}
+
+void txtTimeZone_GotFocus() {
+    frmWizard->lastTimeZoneText = frmWizard->txtTimeZone.Text();
+}
+
+void txtTimeZone_KeyUp() {
+    GuardZone(frmWizard->txtTimeZone, frmWizard->lastTimeZoneText);
+}
+
+/// A handler of the open wizard.
+Handler WhileOpen(void (*handler)()) {
+    return [handler] {
+        if (frmWizard->IsLoaded()) {
+            handler();
+        }
+    };
+}
+
+void BindRange(MovableRange& range, void (*change)()) {
+    range.onChange = range.onScroll = WhileOpen(change);
+}
+
+void BindAsrRatio() {
+    frmWizard->optAsrRatio.Bind([](OptionButton& option) {
+        option.onClick = [&option] {
+            Settings.AsrRatio = option.Index();
+            SetTodayPrayerTimes();
+        };
+    });
+}
+
+}  // namespace
+
+void BindWizardControls() {
+    WizardForm& form = *frmWizard;
+    BindRange(form.hsDepr, hsDepr_Change);
+    BindRange(form.hsDepr1, hsDepr_Change);
+    BindRange(form.hsDepr2, hsDepr2_Change);
+    BindRange(form.hsDepr21, hsDepr2_Change);
+    BindRange(form.hsBegin, hsBegin_Change);
+    BindRange(form.hsEnd, hsEnd_Change);
+    BindAsrRatio();
+    form.chkDayLT.onClick = WhileOpen(chkDayLT_Click);
+    form.cboMethod.onClick = WhileOpen([] {
+        const PreviewHold hold;
+        cboMethod_Click(*frmWizard);
+    });
+    form.txtTimeZone.onChange = WhileOpen(SetTodayPrayerTimes);
+    form.txtTimeZone.onGotFocus = txtTimeZone_GotFocus;
+    form.txtTimeZone.onKeyUp = txtTimeZone_KeyUp;
+}
+
+void ShowWizardAngles() {
+    frmWizard->lblDepr.SetCaption(AngleText(Settings.FajrAngle));
+    frmWizard->lblDepr1.SetCaption(AngleText(IshaAngle));
+    ShowMethod(*frmWizard);
+}
+
+void ShowWizardDaylight() {
+    WizardForm& form = *frmWizard;
+    for (Control* control :
+         std::initializer_list<Control*>{&form.hsBegin, &form.lblBeginAt, &form.lblBegin,
+                                         &form.hsEnd, &form.lblEndAT, &form.lblEnd}) {
+        control->SetEnabled(Settings.DstEnabled == 1);
+    }
+}
+
+}  // namespace horavex

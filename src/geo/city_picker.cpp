@@ -1,0 +1,350 @@
+#include "geo/city_picker.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/flag.h"
+#include "base/int16.h"
+#include "base/program_state.h"
+#include "base/text.h"
+#include "engine/center_on_screen.h"
+#include "engine/progress.h"
+#include "lang/form_language.h"
+#include "store/cancel_load.h"
+#include "store/city_search.h"
+#include "store/location_files.h"
+#include "store/text_table.h"
+#include "windows/f_message.h"
+#include "windows/frm_wizard.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+SettingsRecord PickSettings;
+LocationRecord PickLocation;
+std::string PickCityText;
+
+namespace {
+
+constexpr std::size_t kHitsShown = 200;  // more would not be read, and cost time at each key
+
+/// Number of the fill that was begun last. A fill yields after each item, and whatever begins
+/// another one meanwhile ends it.
+int lastFill = 0;
+
+/// All cities, as long as the picker is open, and those that lstFound shows.
+std::vector<ListedCity> cities;
+std::vector<std::int16_t> hits;
+
+void ForgetCities() {
+    cities = {};
+    hits = {};
+}
+
+const ProgramStateReset reset([] {
+    PickSettings = {};
+    PickLocation = {};
+    PickCityText.clear();
+    lastFill = 0;
+    ForgetCities();
+});
+
+/// One fill of a list, numbered.
+class ListFill {
+public:
+    ListFill() : number_(++lastFill) {}
+
+    /// False once another fill has begun or the pick is over.
+    bool IsLast() const { return number_ == lastFill; }
+
+    bool GoesOn() const { return IsLast() && CancelLoad == kFalse; }
+
+private:
+    int number_;
+};
+
+/// Ends the fill that runs, if any.
+void EndFill() {
+    ++lastFill;
+}
+
+std::int64_t CountCountries() {
+    OpenCountryFiles();
+    return CountryCount();
+}
+
+/// Files are opened again before each read: what a handler did meanwhile may have closed them.
+void AddCountry(std::int16_t number) {
+    OpenCountryFiles();
+    CountryRecord country;
+    fCountry->lstcountry.AddItem(ReadCountry(number, country));
+}
+
+void AddCity(std::int16_t cityIndex) {
+    OpenLocationFiles();
+    CityRecord city;
+    fCountry->lstcity.AddItem(ReadCity(cityIndex, city));
+}
+
+std::int16_t CountryOf(std::int16_t cityIndex) {
+    OpenCountryFiles();
+    const std::int16_t number = FindCountryOfCity(cityIndex);
+    CloseCountryFiles();
+    return number;
+}
+
+CountryRecord SelectedCountry() {
+    OpenCountryFiles();
+    CountryRecord country;
+    ReadCountry(ToInt16(fCountry->lstcountry.ListIndex() + 1), country);
+    CloseCountryFiles();
+    return country;
+}
+
+void SelectCountryOf(std::int16_t cityIndex) {
+    const int row = CountryOf(cityIndex) - 1;
+    if (row < fCountry->lstcountry.ListCount()) {
+        fCountry->lstcountry.SetListIndex(row);
+    }
+}
+
+void AddCities(const CountryRecord& country, const ListFill& fill) {
+    for (std::int32_t city = 0; city < country.CityCount && fill.GoesOn(); ++city) {
+        AddCity(ToInt16(country.FirstCity + city));
+        ReportProgress((city + 1) * 100.0 / country.CityCount);
+    }
+}
+
+void SelectCityOfSettings(const CountryRecord& country) {
+    const int row = Settings.CityIndex - country.FirstCity;
+    if (row >= 0 && row < fCountry->lstcity.ListCount()) {
+        fCountry->lstcity.SetListIndex(row);
+    }
+}
+
+/// Shuts the list of countries while its cities are filled in. The keyboard, which leaves a list
+/// that is shut, comes back to it.
+class ShutCountries {
+public:
+    explicit ShutCountries(const ListFill& fill)
+        : fill_(fill), hadFocus_(fCountry->lstcountry.HasFocus()) {
+        fCountry->lstcountry.SetEnabled(false);
+    }
+    ~ShutCountries() {
+        if (fill_.IsLast()) {
+            fCountry->lstcountry.SetEnabled(true);
+        }
+    }
+    ShutCountries(const ShutCountries&) = delete;
+    ShutCountries& operator=(const ShutCountries&) = delete;
+
+    bool HadFocus() const { return hadFocus_; }
+
+private:
+    const ListFill& fill_;
+    bool hadFocus_;
+};
+
+void FillCities(const ListFill& fill) {
+    const CountryRecord country = SelectedCountry();
+    AddCities(country, fill);
+    if (fill.GoesOn()) {
+        SelectCityOfSettings(country);
+    }
+    if (fill.IsLast()) {
+        CloseLocationFiles();
+    }
+}
+
+/// A user who goes to the lists has done with the search.
+void EndSearchFrom(const ListBox& list) {
+    if (list.HasFocus()) {
+        fCountry->txtSearch.SetText("");
+    }
+}
+
+void lstcountry_Click() {
+    EndSearchFrom(fCountry->lstcountry);
+    fCountry->lstcity.Clear();
+    const ListFill fill;
+    bool hadFocus = false;
+    {
+        const ShutCountries shut(fill);
+        hadFocus = shut.HadFocus();
+        FillCities(fill);
+    }
+    if (hadFocus && fill.IsLast()) {
+        fCountry->lstcountry.SetFocus();
+    }
+}
+
+// Nothing selected in the list of cities is row -1, and with that the last city of the country
+// before: the picker has always taken it so.
+std::int16_t PickedCity() {
+    return ToInt16(SelectedCountry().FirstCity + fCountry->lstcity.ListIndex());
+}
+
+void TakeForDistance(std::int16_t cityIndex) {
+    PickSettings = Settings;
+    PickSettings.CityIndex = cityIndex;
+    PickCityText = LookupLocation(cityIndex, PickLocation);
+    if (fCountry->onPickForDistance) {
+        fCountry->onPickForDistance();
+    }
+}
+
+void Take(std::int16_t cityIndex) {
+    if (fCountry->openedFromDistance != kFalse) {
+        TakeForDistance(cityIndex);
+    } else if (fCountry->onPick) {
+        fCountry->onPick(cityIndex);
+    }
+}
+
+void ShowHits() {
+    CountryForm& form = *fCountry;
+    form.lstFound.Clear();
+    hits.clear();
+    const auto found = SearchCities(cities, form.txtSearch.Text());
+    for (std::size_t hit = 0; hit < std::min(found.size(), kHitsShown); ++hit) {
+        form.lstFound.AddItem(DisplayText(*found[hit]));
+        hits.push_back(found[hit]->cityIndex);
+    }
+    form.lstFound.SetVisible(!Trim(form.txtSearch.Text()).empty());
+}
+
+/// Country and city of a hit become the selected ones of the lists.
+void lstFound_Click() {
+    const int hit = fCountry->lstFound.ListIndex();
+    if (hit < 0) {
+        return;
+    }
+    const std::int16_t cityIndex = hits.at(static_cast<std::size_t>(hit));
+    SelectCountryOf(cityIndex);
+    if (fCountry->lstFound.ListIndex() != hit) {
+        return;  // another hit was chosen while the cities came in
+    }
+    const int row = cityIndex - SelectedCountry().FirstCity;
+    if (row >= 0 && row < fCountry->lstcity.ListCount()) {
+        fCountry->lstcity.SetListIndex(row);
+    }
+}
+
+/// Hits of which none is chosen: the best one is meant, and shown in the lists first.
+bool ChooseBestHit() {
+    ListBox& found = fCountry->lstFound;
+    if (!found.Visible() || found.ListCount() == 0 || found.ListIndex() >= 0) {
+        return false;
+    }
+    found.SetListIndex(0);
+    return true;
+}
+
+/// While cities come in the selection is not the user's yet: an OK would take a city of another
+/// country.
+bool IsFilling() {
+    return !fCountry->lstcountry.Enabled();
+}
+
+void cmdOK_Click() {
+    if (IsFilling() || ChooseBestHit()) {
+        return;
+    }
+    const std::int16_t cityIndex = PickedCity();
+    EndFill();
+    Take(cityIndex);
+    fCountry->Hide();
+    ForgetCities();
+    SetEgyptianAngles();
+}
+
+void fCountry_Load() {
+    TranslateOnLoad(*fCountry);
+    const std::string title = TextItem(55, Settings.Language);
+    fCountry->SetCaption(title.empty() ? "Chose a City" : title);
+    CenterOnScreen(*fCountry);
+}
+
+void ShowProgressWindow() {
+    fMessage->Load();
+    fMessage->lblMessage1.SetCaption(TextItem(57, Settings.Language));
+    fMessage->lblMessage2.SetCaption(TextItem(1, Settings.Language));
+    fMessage->Show();
+}
+
+}  // namespace
+
+void FillCountries() {
+    const ListFill fill;
+    const std::int64_t count = CountCountries();
+    for (std::int64_t number = 1; number <= count; ++number) {
+        AddCountry(ToInt16(number));
+        ReportProgress(static_cast<double>(number) * 100.0 / static_cast<double>(count));
+        if (!fill.GoesOn()) {
+            break;
+        }
+    }
+    CloseCountryFiles();
+}
+
+bool LoadCityPicker() {
+    fCountry->Unload();  // one of an earlier pick lies hidden
+    fCountry->openedFromDistance = kFalse;
+    fCountry->Load();
+    ShowProgressWindow();
+    FillCountries();
+    fMessage->Unload();
+    if (CancelLoad != kFalse) {
+        fCountry->Unload();
+        return false;
+    }
+    cities = ListCities();
+    SelectCountryOf(Settings.CityIndex);
+    return true;
+}
+
+void PickCityForDistance(Form& owner, Handler take) {
+    if (!LoadCityPicker()) {
+        return;
+    }
+    fCountry->openedFromDistance = kTrue;
+    fCountry->onPickForDistance = std::move(take);
+    fCountry->ShowModal(&owner);
+}
+
+bool NamesEgypt(const std::string& text) {
+    return AsciiLower(text).find("egypt") != std::string::npos;
+}
+
+void SetEgyptianAngles() {
+    if (!NamesEgypt(HoravexMainForm->lblCity.Caption())) {
+        return;
+    }
+    const auto set = [](auto& form) {
+        form.hsDepr.SetValue(19);
+        form.hsDepr1.SetValue(2);
+        form.hsDepr2.SetValue(17);
+        form.hsDepr21.SetValue(3);
+    };
+    set(*frmWizard);
+    set(*HoravexMainForm);
+}
+
+void BindCityPicker() {
+    CountryForm& form = *fCountry;
+    form.onLoad = fCountry_Load;
+    form.onCloseRequest = [](CloseRequest&) { EndFill(); };
+    form.onUnload = ForgetCities;
+    form.txtSearch.onChange = ShowHits;
+    form.lstFound.onClick = lstFound_Click;
+    form.lstFound.onDblClick = cmdOK_Click;
+    form.lstcountry.onClick = lstcountry_Click;
+    form.lstcountry.onDblClick = cmdOK_Click;
+    form.lstcity.onClick = [] { EndSearchFrom(fCountry->lstcity); };
+    form.lstcity.onDblClick = cmdOK_Click;
+    form.cmdOK.onClick = cmdOK_Click;
+    form.cmdCancel.onClick = [] { fCountry->Unload(); };
+}
+
+}  // namespace horavex

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "store/location_record.h"
+#include "store/settings_record.h"
+#include "windows/f_country.h"
+
+namespace horavex {
+
+/// What a pick for the distance window is kept in, so that it leaves Settings and Location alone.
+/// Written by the picker's OK button.
+extern SettingsRecord PickSettings;
+extern LocationRecord PickLocation;
+extern std::string PickCityText;
+
+/// Loads the picker, hidden, and fills its list of countries behind the progress window; then the
+/// country and the city of Settings are selected. False, with the picker unloaded, where the user
+/// closed the progress window: CancelLoad is up then.
+bool LoadCityPicker();
+
+/// Opens the picker in front of the distance window and returns when it is closed. On a pick,
+/// take runs with PickLocation and PickCityText filled.
+void PickCityForDistance(Form& owner, Handler take);
+
+/// Adds the countries to the list; stops behind the item with which CancelLoad came up. Throws
+/// as the readers of the location files do.
+void FillCountries();
+
+/// Where the city text of the settings window names Egypt, both windows take its fixed pair of
+/// angles, whatever the band says: 19.5 degrees for Fajr and 17.75 for Isha.
+void SetEgyptianAngles();
+
+/// True where a text names Egypt anywhere, in any letters.
+bool NamesEgypt(const std::string& text);
+
+/// Binds the picker's handlers; what a pick for the settings does is bound by who owns them.
+void BindCityPicker();
+
+}  // namespace horavex

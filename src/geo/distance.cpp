@@ -1,0 +1,136 @@
+#include "geo/distance.h"
+
+#include <cmath>
+
+#include "base/fault.h"
+#include "base/int16.h"
+#include "base/number_text.h"
+#include "base/program_state.h"
+#include "base/text.h"
+
+namespace horavex {
+
+double DistanceLatA = 0.0;
+double DistanceLatB = 0.0;
+double DistanceLonA = 0.0;
+double DistanceLonB = 0.0;
+
+namespace {
+
+const ProgramStateReset reset([] {
+    DistanceLatA = DistanceLatB = DistanceLonA = DistanceLonB = 0.0;
+});
+
+constexpr double kPi = 3.14159265358979;
+constexpr double kEquatorialRadius = 6378.14;          // kilometres
+constexpr double kFlattening = 0.0033528131778969143;  // 1 / 298.257
+constexpr double kMetresPerMile = 1609.344;            // statute
+constexpr double kNauticalPerStatute = 0.8689927583936801;
+
+double Radians(double degrees) {
+    return degrees * kPi / 180.0;
+}
+
+double Square(double value) {
+    return std::pow(value, 2.0);
+}
+
+double ThroughText(double value) {
+    return TextToNumber(NumberToText(value));
+}
+
+bool Holds(const std::string& part, const char* word) {
+    return part.find(word) != std::string::npos;
+}
+
+}  // namespace
+
+double HalfSumLat() {
+    return Radians((DistanceLatA + DistanceLatB) / 2.0);
+}
+
+double HalfDiffLat() {
+    return Radians((DistanceLatA - DistanceLatB) / 2.0);
+}
+
+double HalfDiffLon() {
+    return Radians((DistanceLonA - DistanceLonB) / 2.0);
+}
+
+double AndoyerS() {
+    return Square(std::sin(HalfDiffLat())) * Square(std::cos(HalfDiffLon())) +
+           Square(std::cos(HalfSumLat())) * Square(std::sin(HalfDiffLon()));
+}
+
+double AndoyerC() {
+    return Square(std::cos(HalfDiffLat())) * Square(std::cos(HalfDiffLon())) +
+           Square(std::sin(HalfSumLat())) * Square(std::sin(HalfDiffLon()));
+}
+
+double AndoyerKilometres(double S, double C, double F, double G) {
+    if (C == 0.0) {
+        throw DivisionByZeroFault("the two points lie opposite each other on the equator");
+    }
+    const double w = std::atan(std::sqrt(S / C));
+    if (w == 0.0) {
+        return 0.0;
+    }
+    const double R = std::sqrt(S * C) / w;
+    const double D = 2.0 * w * kEquatorialRadius;
+    const double H1 = (3.0 * R - 1.0) / 2.0 * C;
+    const double H2 = (3.0 * R + 1.0) / 2.0 * S;
+    return D * (1.0 + kFlattening * H1 * Square(std::sin(F)) * Square(std::cos(G)) -
+                kFlattening * H2 * Square(std::cos(F)) * Square(std::sin(G)));
+}
+
+double DistanceKilometres() {
+    return AndoyerKilometres(AndoyerS(), AndoyerC(), HalfSumLat(), HalfDiffLat());
+}
+
+double InUnit(double kilometres, DistanceUnit unit) {
+    if (unit == DistanceUnit::kKilometres) {
+        return kilometres;
+    }
+    const double miles = kilometres * 1000.0 / kMetresPerMile;
+    return unit == DistanceUnit::kMiles ? miles : miles * kNauticalPerStatute;
+}
+
+std::string UnitName(DistanceUnit unit) {
+    switch (unit) {
+        case DistanceUnit::kKilometres:
+            return "Kilometers";
+        case DistanceUnit::kMiles:
+            return "Miles";
+        case DistanceUnit::kNauticalMiles:
+            break;
+    }
+    return "Nautical Miles";
+}
+
+double ReadCoordinate(const CoordinateTexts& texts) {
+    return TextToNumber(texts.degrees) + ThroughText(TextToNumber(texts.minutes) / 60.0) +
+           ThroughText(TextToNumber(texts.seconds) / 3600.0);
+}
+
+CoordinateFields ParseCoordinates(const std::string& text) {
+    CoordinateFields fields;
+    const auto parts = Split(AsciiLower(text), ' ');
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const std::string before = i == 0 ? std::string() : parts[i - 1];
+        if (Holds(parts[i], "degrees")) {
+            fields.degrees = RoundToInt16(TextToNumber(before));
+        } else if (Holds(parts[i], "minutes")) {
+            fields.minutes = RoundToInt16(TextToNumber(before));
+        } else if (Holds(parts[i], "seconds")) {
+            fields.seconds = RoundToInt16(TextToNumber(before));
+        }
+        for (const char* hemisphere : {"east", "west", "north", "south"}) {
+            if (Holds(parts[i], hemisphere)) {
+                fields.hemisphere = hemisphere;
+            }
+        }
+    }
+    return fields;
+}
+
+}  // namespace horavex

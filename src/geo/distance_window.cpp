@@ -1,0 +1,277 @@
+#include "geo/distance_window.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+#include "base/number_text.h"
+#include "engine/angle.h"
+#include "forms/show_modal.h"
+#include "geo/city_picker.h"
+#include "geo/distance.h"
+#include "geo/mecca.h"
+#include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "store/location_text.h"
+#include "windows/frm_distance.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kFillAll = "Please, Fill in all text boxes with valid values.";
+constexpr const char* kEmptyField = "Form field is empty!";
+
+/// One coordinate in the window. Its sign lies in all three boxes.
+struct CoordinateControls {
+    std::array<TextBox*, 3> boxes;  // degrees, minutes, seconds
+    OptionButton* positive;         // north or east
+    OptionButton* negative;
+    const char* key;  // of the message for an empty box; nullptr where no pack has it
+    const char* english;
+};
+
+/// In the order in which the boxes are checked.
+std::array<CoordinateControls, 4> Coordinates() {
+    DistanceForm& f = *frmDistance;
+    return {{{{&f.txtDegALong, &f.txtMinALong, &f.txtSecALong},
+              &f.CityAEast,
+              &f.CityAWest,
+              "13",
+              "Please fill in City A's Longitude"},
+             {{&f.txtDegALat, &f.txtMinALat, &f.txtSecALat},
+              &f.CityANorth,
+              &f.CityASouth,
+              "15",
+              "Please fill in City A's Latitude"},
+             {{&f.txtDegBLong, &f.txtMinBLong, &f.txtSecBLong},
+              &f.CityBEast,
+              &f.CityBWest,
+              nullptr,
+              "Please fill in City B's Longitude"},
+             {{&f.txtDegBLat, &f.txtMinBLat, &f.txtSecBLat},
+              &f.CityBNorth,
+              &f.CityBSouth,
+              nullptr,
+              "Please fill in City B's Latitude"}}};
+}
+
+enum CoordinateIndex : std::size_t { kLongitudeA, kLatitudeA, kLongitudeB, kLatitudeB };
+
+std::string NumberInBox(double number) {
+    return NumberToText(number, Ports().formats.DecimalMark());
+}
+
+bool AreNumbers(const CoordinateControls& coordinate) {
+    return std::ranges::all_of(coordinate.boxes,
+                               [](const TextBox* box) { return IsNumeric(box->Text()); });
+}
+
+bool HasHemisphere(const CoordinateControls& coordinate) {
+    return coordinate.positive->Value() || coordinate.negative->Value();
+}
+
+/// The option of a hemisphere puts its sign into the boxes, or refuses to be set.
+void TakeHemisphere(const CoordinateControls& coordinate, OptionButton& option) {
+    if (!AreNumbers(coordinate)) {
+        const std::string text = coordinate.key == nullptr
+                                     ? coordinate.english
+                                     : GetLangString("msg", coordinate.key, coordinate.english);
+        Ports().dialogs.ShowMessage(text, GetLangString("msg", "14", kEmptyField),
+                                    MessageIcon::kNone);
+        option.SetValue(false);
+        return;
+    }
+    const double sign = &option == coordinate.positive ? 1.0 : -1.0;
+    for (TextBox* box : coordinate.boxes) {
+        box->SetText(NumberInBox(sign * std::fabs(TextToNumber(box->Text()))));
+    }
+}
+
+void TakeChosenHemisphere(const CoordinateControls& coordinate) {
+    TakeHemisphere(coordinate,
+                   coordinate.positive->Value() ? *coordinate.positive : *coordinate.negative);
+}
+
+void ShowCoordinate(const CoordinateControls& coordinate, const CoordinateTexts& texts) {
+    coordinate.boxes[0]->SetText(texts.degrees);
+    coordinate.boxes[1]->SetText(texts.minutes);
+    coordinate.boxes[2]->SetText(texts.seconds);
+}
+
+void EmptyBoxes() {
+    for (const CoordinateControls& coordinate : Coordinates()) {
+        ShowCoordinate(coordinate, {});
+    }
+}
+
+void RefuseBoxes() {
+    Ports().dialogs.ShowMessage(GetLangString("msg", "24", kFillAll),
+                                GetLangString("msg", "14", kEmptyField), MessageIcon::kExclamation);
+}
+
+void RefuseUnit() {
+    Ports().dialogs.ShowMessage(
+        GetLangString("msg", "16",
+                      "Please choose the correct out type metrics (Kilometers, Miles or Nautical "
+                      "Miles!"),
+        GetLangString("msg", "17", "Form field not checked!"), MessageIcon::kNone);
+}
+
+bool HasEmptyBox(const CoordinateControls& coordinate) {
+    return std::ranges::any_of(coordinate.boxes,
+                               [](const TextBox* box) { return box->Text().empty(); });
+}
+
+std::optional<DistanceUnit> ChosenUnit() {
+    const DistanceForm& form = *frmDistance;
+    if (form.optKilometers.Value()) {
+        return DistanceUnit::kKilometres;
+    }
+    if (form.optMiles.Value()) {
+        return DistanceUnit::kMiles;
+    }
+    return form.optNauticalMiles.Value() ? std::optional(DistanceUnit::kNauticalMiles)
+                                         : std::nullopt;
+}
+
+/// The unit, or nothing after a message. What is looked at first is complained of first.
+std::optional<DistanceUnit> CheckedUnit() {
+    const auto coordinates = Coordinates();
+    if (std::ranges::any_of(coordinates, HasEmptyBox) ||
+        !std::ranges::all_of(coordinates, HasHemisphere)) {
+        RefuseBoxes();
+        return std::nullopt;
+    }
+    const auto unit = ChosenUnit();
+    if (!unit) {
+        RefuseUnit();
+        return std::nullopt;
+    }
+    if (!std::ranges::all_of(coordinates, AreNumbers)) {
+        RefuseBoxes();
+        return std::nullopt;
+    }
+    return unit;
+}
+
+double ReadBoxes(const CoordinateControls& coordinate) {
+    return ReadCoordinate(
+        {coordinate.boxes[0]->Text(), coordinate.boxes[1]->Text(), coordinate.boxes[2]->Text()});
+}
+
+void ReadPoints() {
+    const auto coordinates = Coordinates();
+    DistanceLonA = ReadBoxes(coordinates[kLongitudeA]);
+    DistanceLatA = ReadBoxes(coordinates[kLatitudeA]);
+    DistanceLonB = ReadBoxes(coordinates[kLongitudeB]);
+    DistanceLatB = ReadBoxes(coordinates[kLatitudeB]);
+}
+
+void cmdCalcDistance_Click() {
+    const auto unit = CheckedUnit();
+    if (!unit) {
+        return;
+    }
+    // Whatever was typed since, the signs agree with the options again.
+    std::ranges::for_each(Coordinates(), TakeChosenHemisphere);
+    ReadPoints();
+    frmDistance->txtDistanceRsult.SetText(NumberInBox(InUnit(DistanceKilometres(), *unit)));
+    frmDistance->metricsLabel.SetCaption(UnitName(*unit));
+}
+
+void OptionDistanceToMecca_Click() {
+    const auto coordinates = Coordinates();
+    ShowCoordinate(coordinates[kLongitudeB], kMeccaLongitudeTexts);
+    ShowCoordinate(coordinates[kLatitudeB], kMeccaLatitudeTexts);
+    frmDistance->CityBEast.SetValue(true);
+    frmDistance->CityBNorth.SetValue(true);
+}
+
+void NameNoCity() {
+    DistanceForm& form = *frmDistance;
+    form.lblCityA.SetCaption(GetLangString("frmDistance", "lblCityA", "City A is here"));
+    form.lblCityB.SetCaption(GetLangString("frmDistance", "lblCityB", "City B is here"));
+}
+
+void cmdDistanceClear_Click() {
+    DistanceForm& form = *frmDistance;
+    EmptyBoxes();
+    form.txtDistanceRsult.SetText("");
+    form.OptionDistanceToMecca.SetValue(false);
+    form.OptionTwoCities.SetValue(true);
+    NameNoCity();
+}
+
+void PickCity(DistanceCity city) {
+    PickCityForDistance(*frmDistance, [city] {
+        FillPickedCity(
+            city, PickCityText,
+            FormatLatitude(StoredCoord(PickLocation.City.Latitude), Settings.Language),
+            FormatLongitude(StoredCoord(PickLocation.City.Longitude), Settings.Language));
+    });
+}
+
+void frmDistance_Load() {
+    TranslateOnLoad(*frmDistance);
+    frmDistance->metricsLabel.SetCaption("");  // until there is a distance
+}
+
+void BindHemispheres() {
+    for (const CoordinateControls& coordinate : Coordinates()) {
+        for (OptionButton* option : {coordinate.positive, coordinate.negative}) {
+            option->onClick = [coordinate, option] { TakeHemisphere(coordinate, *option); };
+        }
+    }
+}
+
+void Bind() {
+    DistanceForm& form = *frmDistance;
+    form.onLoad = frmDistance_Load;
+    form.OptionTwoCities.onClick = EmptyBoxes;
+    form.OptionDistanceToMecca.onClick = OptionDistanceToMecca_Click;
+    form.cmdCityA.onClick = [] { PickCity(DistanceCity::kA); };
+    form.cmdCityB.onClick = [] { PickCity(DistanceCity::kB); };
+    form.cmdCalcDistance.onClick = cmdCalcDistance_Click;
+    form.cmdDistanceClear.onClick = cmdDistanceClear_Click;
+    BindHemispheres();
+}
+
+CoordinateTexts TextsOf(const CoordinateFields& fields) {
+    return {std::to_string(fields.degrees), std::to_string(fields.minutes),
+            std::to_string(fields.seconds)};
+}
+
+// The sign goes into the boxes even where the option is set already.
+void FillCoordinate(const CoordinateControls& coordinate, const std::string& text) {
+    const CoordinateFields fields = ParseCoordinates(text);
+    ShowCoordinate(coordinate, TextsOf(fields));
+    if (fields.hemisphere.empty()) {
+        return;
+    }
+    const bool positive = fields.hemisphere == "east" || fields.hemisphere == "north";
+    OptionButton& option = positive ? *coordinate.positive : *coordinate.negative;
+    option.SetValue(true);
+    TakeHemisphere(coordinate, option);
+}
+
+}  // namespace
+
+void ShowDistance() {
+    Bind();
+    ShowModalOrUnload(*frmDistance, &*frmMain);
+}
+
+void FillPickedCity(DistanceCity city, const std::string& name, const std::string& latitude,
+                    const std::string& longitude) {
+    const auto coordinates = Coordinates();
+    const bool isA = city == DistanceCity::kA;
+    (isA ? frmDistance->lblCityA : frmDistance->lblCityB).SetCaption(name);
+    FillCoordinate(coordinates[isA ? kLongitudeA : kLongitudeB], longitude);
+    FillCoordinate(coordinates[isA ? kLatitudeA : kLatitudeB], latitude);
+}
+
+}  // namespace horavex

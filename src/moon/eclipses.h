@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+
+#include "moon/lunation.h"
+#include "moon/moon_date.h"
+
+namespace horavex {
+
+// Possible eclipses of the present year after the eclipse chapter of J. Meeus, Astronomical
+// Algorithms, first edition. The lists name candidates by date and clock alone; how each eclipse
+// looks is worked out too and kept in four texts that no window shows. Three things differ from the
+// book on purpose, as the lists have always been made so: the node's correction of the argument of
+// latitude is taken as degrees but added to radians; A1 is not reduced; and the distance from the
+// node is not brought onto its nearest multiple of half a turn, so that nearly every lunation near
+// a node is listed.
+
+/// Entry i belongs to the twelfth i of the year: "14 December 2001  ,  20hrs 52min". An entry stays
+/// as it was where that twelfth has no candidate; after an eclipse of the Sun was classified its
+/// entry reads "14 December 2001  , 20hrs 52min".
+extern MoonRows SolarEclipseRows;
+extern MoonRows LunarEclipseRows;
+
+/// What the last classified eclipse left; each text keeps its former content where the
+/// classification has nothing to say.
+extern std::string EclipseHemisphereText;
+extern std::string EclipseShadowText;
+extern std::string EclipseKindText;
+extern std::string EclipseTotalityText;
+
+/// Empties the four texts and the first entry of both tables, and clears the moon's date.
+void ClearEclipses();
+
+/// Clears as above, fills the table, and returns the listed rows, each with Crlf behind it. They
+/// throw TypeMismatchFault for a zone that is no number.
+std::string ListSolarEclipses();
+std::string ListLunarEclipses();
+
+// The steps of one lunation.
+
+/// False for a lunation too far from a node for any eclipse. 0.36 itself passes.
+bool NearNode(double sinLatitudeArgument);
+
+/// Whether a candidate gets its row. distance: half a turn less the argument of latitude, degrees.
+bool IsListed(double distance);
+
+/// Least distance from the Earth's axis (Moon: the shadow's) in Earth radii, north positive, and
+/// the radius of the penumbra's cone, as the classification takes them.
+struct EclipseGeometry {
+    double gamma;
+    double u;
+};
+
+/// latitude: the corrected argument of latitude, radians.
+EclipseGeometry GeometryOf(const Lunation& lunation, double latitude);
+
+/// False for a miss, which leaves the four texts alone.
+bool IsEclipse(const EclipseGeometry& geometry);
+
+/// Writes the four texts.
+void ClassifySolarEclipse(const EclipseGeometry& geometry);
+void ClassifyLunarEclipse(const EclipseGeometry& geometry);
+
+}  // namespace horavex

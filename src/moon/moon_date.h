@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace horavex {
+
+// The date and clock of an instant as the moon tables and eclipse lists show them. Both take the
+// time zone from the text of the settings window's box, floored to whole hours (-5.5 counts as -6),
+// and neither looks at daylight saving. Two manners are kept, since the tables have always been
+// printed so: a negative zone moves the date later by its size, like a positive one; and the zone
+// counts twice, once for the date and once more for the clock. Each throws TypeMismatchFault for a
+// box that holds no number.
+
+/// Results of MoonDateFromDay, to be read right after the call.
+extern std::int16_t MoonMonth;  // 1 to 12
+extern std::int16_t MoonYear;
+extern double MoonDay;  // day of the month with its fraction of the day
+
+/// Turns a Julian day into a date of the user's zone. julianDay keeps the shift by the zone and by
+/// half a day, so that it counts from midnight afterwards.
+void MoonDateFromDay(double& julianDay);
+
+/// The clock of MoonDay: "14hrs 5min" behind that many blanks, 0 or 1. Hours beyond 24 lose 24
+/// without a change of the date; 24 itself stays.
+std::string MoonClockText(int leadingBlanks);
+
+/// English name of the weekday of a Julian day, to which it adds 1.5 in place.
+std::string WeekDayText(double& julianDay);
+
+/// "6 January 2000": MoonDay's day, the month's English name, the year.
+std::string MoonDateText();
+
+/// Clears the three results.
+void ClearMoonDate();
+
+/// A table of moon rows: 13 of them, and a last entry that stays empty.
+inline constexpr std::size_t kMoonRows = 13;
+using MoonRows = std::array<std::string, kMoonRows + 1>;
+
+/// The Gregorian year of the present date.
+std::int16_t PresentYear();
+
+}  // namespace horavex

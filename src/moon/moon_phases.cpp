@@ -1,0 +1,134 @@
+#include "moon/moon_phases.h"
+
+#include <cmath>
+
+#include "base/program_state.h"
+#include "moon/lunation.h"
+#include "moon/periodic_sum.h"
+
+namespace horavex {
+
+MoonRows NewMoonRows;
+MoonRows FirstQuarterRows;
+MoonRows FullMoonRows;
+MoonRows LastQuarterRows;
+
+namespace {
+
+const ProgramStateReset reset([] {
+    for (MoonRows* rows : {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+        rows->fill("");
+    }
+});
+
+// Multiples of M', M, F, O and the planetary argument; the power of E; the coefficients.
+
+constexpr PeriodicTerm kNewAndFullMoon[] = {
+    // column 0 new moon, column 1 full moon
+    {1, 0, 0, 0, 0, 0, {-0.4072, -0.40614}},    {0, 1, 0, 0, 0, 1, {0.17241, 0.17302}},
+    {2, 0, 0, 0, 0, 0, {0.01608, 0.01614}},     {0, 0, 2, 0, 0, 0, {0.01039, 0.01043}},
+    {1, -1, 0, 0, 0, 1, {0.00739, 0.00734}},    {1, 1, 0, 0, 0, 1, {-0.00514, -0.00515}},
+    {0, 2, 0, 0, 0, 2, {0.00208, 0.00209}},     {1, 0, -2, 0, 0, 0, {-0.00111, -0.00111}},
+    {1, 0, 2, 0, 0, 0, {-0.00057, -0.00057}},   {2, 1, 0, 0, 0, 1, {0.00056, 0.00056}},
+    {3, 0, 0, 0, 0, 0, {-0.00042, -0.00042}},   {0, 1, 2, 0, 0, 1, {0.00042, 0.00042}},
+    {0, 1, -2, 0, 0, 1, {0.00038, 0.00038}},    {2, -1, 0, 0, 0, 1, {-0.00024, -0.00024}},
+    {0, 0, 0, 1, 0, 0, {-0.00017, -0.00017}},   {1, 2, 0, 0, 0, 0, {-0.00007, -0.00007}},
+    {2, 0, -2, 0, 0, 0, {0.00004, 0.00004}},    {0, 3, 0, 0, 0, 0, {0.00004, 0.00004}},
+    {1, 1, -2, 0, 0, 0, {0.00003, 0.00003}},    {2, 0, 2, 0, 0, 0, {0.00003, 0.00003}},
+    {1, 1, 2, 0, 0, 0, {-0.00003, -0.00003}},   {1, -1, 2, 0, 0, 0, {0.00003, 0.00003}},
+    {1, -1, -2, 0, 0, 0, {-0.00002, -0.00002}}, {3, 1, 0, 0, 0, 0, {-0.00002, -0.00002}},
+    {4, 0, 0, 0, 0, 0, {0.00002, 0.00002}},
+};
+
+constexpr PeriodicTerm kQuarters[] = {
+    // column 0 both quarters
+    {1, 0, 0, 0, 0, 0, {-0.62801}},   {0, 1, 0, 0, 0, 1, {0.17172}},
+    {1, 1, 0, 0, 0, 1, {-0.01183}},   {2, 0, 0, 0, 0, 0, {0.00862}},
+    {0, 0, 2, 0, 0, 0, {0.00804}},    {1, -1, 0, 0, 0, 1, {0.00454}},
+    {0, 2, 0, 0, 0, 2, {0.00204}},    {1, 0, -2, 0, 0, 0, {-0.0018}},
+    {1, 0, 2, 0, 0, 0, {-0.0007}},    {3, 0, 0, 0, 0, 0, {-0.0004}},
+    {2, -1, 0, 0, 0, 1, {-0.00034}},  {0, 1, 2, 0, 0, 1, {0.00032}},
+    {0, 1, -2, 0, 0, 1, {0.00032}},   {1, 2, 0, 0, 0, 2, {-0.00028}},
+    {2, 1, 0, 0, 0, 1, {0.00027}},    {0, 0, 0, 1, 0, 0, {-0.00017}},
+    {1, -1, -2, 0, 0, 0, {-0.00005}}, {2, 0, 2, 0, 0, 0, {0.00004}},
+    {1, 1, 2, 0, 0, 0, {-0.00004}},   {1, -2, 0, 0, 0, 0, {0.00004}},
+    {1, 1, -2, 0, 0, 0, {0.00003}},   {0, 3, 0, 0, 0, 0, {0.00003}},
+    {2, 0, -2, 0, 0, 0, {0.00002}},   {1, -1, 2, 0, 0, 0, {0.00002}},
+    {3, 1, 0, 0, 0, 0, {-0.00002}},
+};
+
+/// Days, for the planetary arguments 1 to 14.
+constexpr double kPlanetaryCoefficients[kPlanetaryArguments] = {
+    0.000325, 0.000165, 0.000164, 0.000126, 0.00011,  0.000062, 0.00006,
+    0.000056, 0.000047, 0.000042, 0.00004,  0.000037, 0.000035, 0.000023};
+
+struct Phase {
+    double offset;  // of the lunation number
+    std::span<const PeriodicTerm> terms;
+    int column;
+    double quarterSign;  // of the quarters' own correction; 0 for none
+    int leadingBlanks;   // of the clock text
+};
+
+constexpr Phase kNewMoon = {0.0, kNewAndFullMoon, 0, 0.0, 0};
+constexpr Phase kFirstQuarter = {0.25, kQuarters, 0, 1.0, 1};
+constexpr Phase kFullMoon = {0.5, kNewAndFullMoon, 1, 0.0, 1};
+constexpr Phase kLastQuarter = {0.75, kQuarters, 0, -1.0, 1};
+
+double PlanetarySum(const Lunation& lunation) {
+    double sum = 0.0;
+    for (int n = 1; n <= kPlanetaryArguments; ++n) {
+        sum +=
+            kPlanetaryCoefficients[n - 1] * std::sin(PlanetaryArgument(n, lunation.k, lunation.T));
+    }
+    return sum;
+}
+
+double QuarterCorrection(const Lunation& at) {
+    const double M = at.sunAnomaly;
+    const double moon = at.moonAnomaly;
+    return 0.00306 - 0.00038 * at.eccentricity * std::cos(M) + 0.00026 * std::cos(moon) -
+           0.00002 * std::cos(moon - M) + 0.00002 * std::cos(moon + M) +
+           0.00002 * std::cos(2.0 * at.latitude);
+}
+
+/// Julian day of a phase.
+double InstantOf(const Phase& phase, const Lunation& at) {
+    const SeriesAngles angles = {at.moonAnomaly, at.sunAnomaly, at.latitude, at.node};
+    const double C = PeriodicSum(phase.terms, phase.column, angles, at.eccentricity);
+    const double A = PlanetarySum(at);
+    const double instant = at.day + C + A;
+    return phase.quarterSign == 0.0 ? instant : instant + phase.quarterSign * QuarterCorrection(at);
+}
+
+void ComputeRows(MoonRows& rows, const Phase& phase) {
+    ClearMoonDate();
+    const std::int16_t year = PresentYear();
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        double instant =
+            InstantOf(phase, LunationOf(year, static_cast<std::int16_t>(i), phase.offset));
+        MoonDateFromDay(instant);
+        WeekDayText(instant);  // named each time; no row shows it
+        rows[i] = MoonDateText() + ", " + MoonClockText(phase.leadingBlanks);
+    }
+}
+
+}  // namespace
+
+void ComputeNewMoonRows() {
+    ComputeRows(NewMoonRows, kNewMoon);
+}
+
+void ComputeFirstQuarterRows() {
+    ComputeRows(FirstQuarterRows, kFirstQuarter);
+}
+
+void ComputeFullMoonRows() {
+    ComputeRows(FullMoonRows, kFullMoon);
+}
+
+void ComputeLastQuarterRows() {
+    ComputeRows(LastQuarterRows, kLastQuarter);
+}
+
+}  // namespace horavex

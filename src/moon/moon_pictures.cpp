@@ -1,0 +1,154 @@
+#include "moon/moon_pictures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "engine/angle.h"
+#include "engine/year_table.h"
+#include "moon/moon_date.h"
+#include "moon/moon_phases.h"
+#include "moon/moon_position.h"
+#include "platform/platform.h"
+#include "store/location_record.h"
+#include "store/settings_record.h"
+#include "windows/moon_phases.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr Colour kDarkSide{58, 64, 82};
+constexpr Colour kLitSide{250, 240, 205};
+constexpr Colour kRim{120, 124, 140};
+constexpr Colour kMoonDown{38, 50, 92};
+constexpr Colour kMoonUp{232, 214, 140};
+constexpr Colour kScale{90, 90, 90};
+
+constexpr int kLimbSteps = 32;  // from pole to pole
+
+bool PlaceIsSouth() {
+    return ActiveLocation.City.Latitude < 0;
+}
+
+/// The lit side between the limb and the terminator, an ellipse through both poles.
+PolygonStep LitSide(Point centre, double radius, double elongation, double side) {
+    PolygonStep lit{{}, kLitSide, {kLitSide}};
+    const auto add = [&](int step, double width) {
+        const double angle = Pi * step / kLimbSteps;  // from the upper pole
+        lit.corners.push_back({centre.x + side * width * radius * std::sin(angle),
+                               centre.y - radius * std::cos(angle)});
+    };
+    for (int step = 0; step <= kLimbSteps; ++step) {
+        add(step, 1.0);
+    }
+    for (int step = kLimbSteps; step >= 0; --step) {
+        add(step, std::cos(DegToRad(elongation)));
+    }
+    return lit;
+}
+
+void DrawDiscs(Picture& picture, const MoonRows& rows, double elongation) {
+    constexpr double kRadius = 110.0;
+    picture.drawing.clear();
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        if (!rows[i].empty()) {
+            const Point centre{picture.ScaleWidth() / 2.0,
+                               kMoonRowHeight * (static_cast<double>(i) + 0.5)};
+            AddMoonDisc(picture.drawing, centre, kRadius, elongation, PlaceIsSouth());
+        }
+    }
+    picture.Refresh();
+}
+
+double HoursOf(const MoonClock& time) {
+    return std::min(time.hour + time.minute / 60.0, 24.0);
+}
+
+/// The strip of the day in a picture: its hours run from left to right.
+class DayStrip {
+public:
+    explicit DayStrip(Picture& picture) : picture_(picture) { picture_.drawing.clear(); }
+
+    void Fill(double fromHour, double toHour, Colour colour) {
+        const double left = XOf(fromHour);
+        const double right = XOf(toHour);
+        picture_.drawing.emplace_back(PolygonStep{
+            {{left, 0.0}, {right, 0.0}, {right, Bottom()}, {left, Bottom()}}, colour, {colour}});
+    }
+
+    void DrawScale() {
+        for (int hour = 0; hour <= 24; ++hour) {
+            const double length = hour % 6 == 0 ? 120.0 : 60.0;
+            picture_.drawing.emplace_back(
+                LineStep{{XOf(hour), Bottom()}, {XOf(hour), Bottom() + length}, {kScale}});
+            if (hour % 6 == 0) {
+                picture_.drawing.emplace_back(
+                    TextStep{{XOf(hour) - 100.0, Bottom() + 130.0}, std::to_string(hour), kScale});
+            }
+        }
+        picture_.Refresh();
+    }
+
+private:
+    static constexpr double kMargin = 200.0;
+    static constexpr double kScaleHeight = 420.0;
+
+    double XOf(double hour) const {
+        return kMargin + (picture_.ScaleWidth() - 2.0 * kMargin) * hour / 24.0;
+    }
+    double Bottom() const { return picture_.ScaleHeight() - kScaleHeight; }
+
+    Picture& picture_;
+};
+
+}  // namespace
+
+void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongation, bool south) {
+    const double phase = Normalize360(elongation);
+    const bool waxing = phase < 180.0;
+    drawing.emplace_back(FilledCircleStep{centre, radius, kDarkSide, {kRim}});
+    if (phase == 0.0) {
+        return;  // not even a line of light
+    }
+    drawing.emplace_back(LitSide(centre, radius, phase, waxing != south ? 1.0 : -1.0));
+}
+
+void DrawPhaseDiscs() {
+    MoonPhasesForm& form = *Moon_Phases;
+    DrawDiscs(form.picNewMoon, NewMoonRows, 0.0);
+    DrawDiscs(form.picFirstQuarter, FirstQuarterRows, 90.0);
+    DrawDiscs(form.picFullMoon, FullMoonRows, 180.0);
+    DrawDiscs(form.picLastQuarter, LastQuarterRows, 270.0);
+}
+
+void DrawTonightsMoon() {
+    const Date today = Ports().clock.Today();
+    const double daylightHour = IsDaylightDay(today) ? 1.0 : 0.0;
+    const MoonPlace moon =
+        MoonPosition(24.0 - Settings.TimeZone - daylightHour, CivilFromDate(today));
+    Picture& picture = Moon_Phases->picTonight;
+    const Point centre{picture.ScaleWidth() / 2.0, picture.ScaleHeight() / 2.0};
+    picture.drawing.clear();
+    AddMoonDisc(picture.drawing, centre, 0.44 * picture.ScaleHeight(),
+                moon.longitude - moon.sunLongitude, PlaceIsSouth());
+    picture.Refresh();
+}
+
+void DrawMoonDay(const std::optional<MoonRiseSet>& times) {
+    DayStrip strip(Moon_Phases->picDay);
+    strip.Fill(0.0, 24.0, kMoonDown);
+    if (times) {
+        const double rise = HoursOf(times->rise);
+        const double set = HoursOf(times->set);
+        if (rise <= set) {
+            strip.Fill(rise, set, kMoonUp);
+        } else {
+            strip.Fill(0.0, set, kMoonUp);
+            strip.Fill(rise, 24.0, kMoonUp);
+        }
+    }
+    strip.DrawScale();
+}
+
+}  // namespace horavex

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include "forms/drawing.h"
+#include "moon/moon_rise_set.h"
+
+namespace horavex {
+
+// Pictures of the moon window beside its texts. They say nothing that decides anything.
+
+/// How far apart the rows of the tables stand, twips; a disc lies beside each.
+inline constexpr double kMoonRowHeight = 300.0;
+
+/// Adds the disc of the moon as it is lit. elongation: degrees from the sun, 0 new, 90 first
+/// quarter, 180 full; any number. In the south it hangs the other way round: the waxing moon is
+/// lit at its left.
+void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongation, bool south);
+
+/// Draws a disc beside each row of the four tables.
+void DrawPhaseDiscs();
+
+/// Draws the moon as it stands lit at the coming midnight of the place. Throws
+/// DivisionByZeroFault where the moon's theory has no answer.
+void DrawTonightsMoon();
+
+/// Draws the day from 0 to 24 hours with the time of the moon above the horizon in light; an empty
+/// strip without times.
+void DrawMoonDay(const std::optional<MoonRiseSet>& times);
+
+}  // namespace horavex

@@ -1,0 +1,150 @@
+#include "moon/moon_window.h"
+
+#include <cstddef>
+#include <iterator>
+#include <string>
+
+#include "base/steps.h"
+#include "engine/angle.h"
+#include "engine/center_on_screen.h"
+#include "forms/show_modal.h"
+#include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "moon/eclipses.h"
+#include "moon/moon_phases.h"
+#include "moon/moon_pictures.h"
+#include "moon/moon_row_labels.h"
+#include "moon/ramadan_window.h"
+#include "moon/rise_set_page.h"
+#include "platform/platform.h"
+#include "windows/frm_main.h"
+#include "windows/moon_phases.h"
+
+namespace horavex {
+
+namespace {
+
+struct TabText {
+    const char* key;  // of the pack's section "other"
+    const char* english;
+};
+
+constexpr TabText kTabs[] = {{"15", "New moon / First Quarter"},
+                             {"16", "Full Moon / Last Quarter"},
+                             {"17", "Moon Rise / Set"},
+                             {"18", "Solar / Lunar Eclipses"}};
+
+void EmptyTexts() {
+    MoonPhasesForm& form = *Moon_Phases;
+    for (TextBox* text : {&form.Text1, &form.Text2, &form.Text3, &form.Text4, &form.Text5,
+                          &form.Text6, &form.Text7}) {
+        text->SetText("");
+    }
+}
+
+void ComputeTables() {
+    ClearMoonDate();
+    ComputeNewMoonRows();
+    ComputeFirstQuarterRows();
+    ComputeFullMoonRows();
+    ComputeLastQuarterRows();
+}
+
+void FillLabels(std::int16_t year) {
+    std::string text;
+    for (const std::string& label : MoonRowLabels(year)) {
+        text += label + Crlf;
+    }
+    Moon_Phases->Text1.SetText(text);
+    Moon_Phases->Text4.SetText(text);
+}
+
+void FillRows(TextBox& box, const MoonRows& rows) {
+    std::string text;
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        text += rows[i] + Crlf;
+    }
+    box.SetText(text);
+}
+
+void FillTables(std::int16_t year) {
+    FillLabels(year);
+    FillRows(Moon_Phases->Text2, NewMoonRows);
+    FillRows(Moon_Phases->Text3, FirstQuarterRows);
+    FillRows(Moon_Phases->Text5, FullMoonRows);
+    FillRows(Moon_Phases->Text6, LastQuarterRows);
+}
+
+void CaptionTabs() {
+    for (std::size_t tab = 0; tab < std::size(kTabs); ++tab) {
+        Moon_Phases->SSTab1.SetTabCaption(
+            static_cast<int>(tab), GetLangString("other", kTabs[tab].key, kTabs[tab].english));
+    }
+}
+
+// What lies on the tabs stands in the form page by page; these controls begin one each.
+void SSTab1_Click() {
+    MoonPhasesForm& form = *Moon_Phases;
+    const Control* const firsts[] = {&form.lblMonth1, &form.lblMonth2, &form.lblDay,
+                                     &form.Cmdeclipse_sun};
+    int page = -1;
+    for (Control* control : form.Controls()) {
+        if (&control->Parent() != &form.SSTab1) {
+            continue;
+        }
+        if (page + 1 < static_cast<int>(std::size(firsts)) && control == firsts[page + 1]) {
+            ++page;
+        }
+        control->SetVisible(page == form.SSTab1.ListIndex());
+    }
+}
+
+void Cmdclear_Click() {
+    Moon_Phases->Text7.SetText("");
+    ClearEclipses();
+}
+
+void Cmdeclipse_sun_Click() {
+    Cmdclear_Click();
+    Moon_Phases->Text7.SetText(ListSolarEclipses());
+}
+
+void Cmdeclipse_moon_Click() {
+    Cmdclear_Click();
+    Moon_Phases->Text7.SetText(ListLunarEclipses());
+}
+
+void Moon_Phases_Load() {
+    TranslateOnLoad(*Moon_Phases);
+    CaptionTabs();
+    SSTab1_Click();
+    LoadRiseSetPage();
+    DrawPhaseDiscs();
+    RunStep(DrawTonightsMoon);  // a picture keeps no window away
+}
+
+void Bind() {
+    MoonPhasesForm& form = *Moon_Phases;
+    form.onLoad = Moon_Phases_Load;
+    form.SSTab1.onClick = SSTab1_Click;
+    form.SkinLabel1.onClick = ShowRamadanHelp;
+    form.Cmdclear.onClick = Cmdclear_Click;
+    form.Cmdeclipse_sun.onClick = Cmdeclipse_sun_Click;
+    form.Cmdeclipse_moon.onClick = Cmdeclipse_moon_Click;
+    form.Command2.onClick = [] { Ports().windows.Print(Moon_Phases->Name()); };
+    form.cmdClose.onClick = [] { Moon_Phases->Unload(); };
+    BindRiseSetPage();
+}
+
+}  // namespace
+
+void ShowMoonPhases() {
+    Bind();
+    EmptyTexts();
+    ComputeTables();
+    FillTables(PresentYear());
+    CenterOnScreen(*Moon_Phases);
+    ShowModalOrUnload(*Moon_Phases, &*frmMain);
+}
+
+}  // namespace horavex

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace horavex {
+
+// The page of the moon window that tells rise and set for a day and a place.
+
+/// Binds the page's controls and forgets the last good texts of its date.
+void BindRiseSetPage();
+
+/// Shows the place and the zone of the settings window, and today. Throws BoundsFault where that
+/// window shows no coordinates, TypeMismatchFault where they have no numbers.
+void LoadRiseSetPage();
+
+}  // namespace horavex

@@ -1,0 +1,179 @@
+#include "timetables/html_timetable.h"
+
+#include <string_view>
+
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kStyle = R"css(
+:root { color-scheme: light dark; --line: #b9c3cf; --soft: #eef3f8; --mark: #1e4876; }
+@media (prefers-color-scheme: dark) { :root { --line: #46566a; --soft: #1d2733; --mark: #8fbbe8; } }
+body { font: 16px/1.4 system-ui, "Noto Sans", "DejaVu Sans", sans-serif; margin: 0 auto;
+  max-width: 60rem; padding: 1rem; }
+h1 { font-size: 1.5rem; margin: 0; }
+.place { font-size: 1.2rem; margin: 0 0 .5rem; }
+section { margin-top: 1.5rem; }
+caption { color: var(--mark); font-size: 1.2rem; font-weight: 600; text-align: start; }
+dl { display: flex; flex-wrap: wrap; gap: .25rem 1.5rem; margin: 0 0 1rem; }
+dl div { display: flex; gap: .4rem; }
+dt::after { content: ":"; }
+dd { margin: 0; font-weight: 600; }
+nav ol { display: flex; flex-wrap: wrap; gap: .25rem .75rem; list-style: none; padding: 0; }
+.wide { overflow-x: auto; }
+table { border-collapse: collapse; width: 100%; font-variant-numeric: tabular-nums; }
+th, td { border-bottom: 1px solid var(--line); padding: .2rem .5rem; text-align: start;
+  white-space: nowrap; }
+thead th { border-bottom: 2px solid var(--mark); }
+tbody th { font-weight: normal; }
+.friday { background: var(--soft); font-weight: 600; }
+[aria-current] { outline: 2px solid var(--mark); outline-offset: -2px; }
+@media print {
+  body { font-size: 9.5pt; max-width: none; padding: 0; }
+  nav { display: none; }
+  section { break-after: page; }
+  section:last-of-type { break-after: auto; }
+  tr { break-inside: avoid; }
+}
+)css";
+
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    for (const char c : text) {
+        switch (c) {
+            case '&':
+                escaped += "&amp;";
+                break;
+            case '<':
+                escaped += "&lt;";
+                break;
+            case '>':
+                escaped += "&gt;";
+                break;
+            case '"':
+                escaped += "&quot;";
+                break;
+            default:
+                escaped += c;
+        }
+    }
+    return escaped;
+}
+
+/// Name, value: the value runs from left to right in every language.
+std::string Fact(const std::string& name, const std::string& value) {
+    return "<div><dt>" + Escaped(name) + "</dt><dd dir=\"ltr\">" + Escaped(value) + "</dd></div>\n";
+}
+
+std::string Degrees(double degrees) {
+    return NumberToText(degrees) + "°";
+}
+
+std::string Facts(const Timetable& table, const TimetableWords& words) {
+    return "<dl>\n" + Fact(words.latitude, Degrees(table.latitude)) +
+           Fact(words.longitude, Degrees(table.longitude)) +
+           Fact(words.zone, "GMT " + SignedFixedText(table.timeZone)) +
+           Fact(words.fajrAngle, Degrees(table.fajrAngle)) +
+           Fact(words.ishaAngle, Degrees(table.ishaAngle)) +
+           Fact(words.asrRatio, NumberToText(table.asrRatio) + ":1") +
+           Fact(words.qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))) + "</dl>\n";
+}
+
+std::string MonthId(int month) {
+    return "month-" + std::to_string(month);
+}
+
+std::string Contents(const Timetable& table, const TimetableWords& words) {
+    std::string items;
+    for (int month = 1; month <= 12; ++month) {
+        items += "<li><a href=\"#" + MonthId(month) + "\">" +
+                 Escaped(words.months.at(static_cast<std::size_t>(month) - 1)) + "</a></li>\n";
+    }
+    return "<nav aria-label=\"" + std::to_string(table.year) + "\"><ol>\n" + items +
+           "</ol></nav>\n";
+}
+
+std::string HeadCell(const std::string& text) {
+    return "<th scope=\"col\">" + Escaped(text) + "</th>";
+}
+
+std::string TableHead(const TimetableWords& words) {
+    std::string cells = HeadCell(words.day) + HeadCell(words.hijri);
+    for (const std::string& prayer : words.prayers) {
+        cells += HeadCell(prayer);
+    }
+    return "<thead><tr>" + cells + "</tr></thead>\n";
+}
+
+std::string TimeCell(const TimetableDay& day, const std::optional<double>& hours) {
+    if (!hours) {
+        return "<td></td>";
+    }
+    const DayMinute at = MinuteOf(day.date, *hours);
+    return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
+           "\" dir=\"auto\">" + Escaped(Ports().formats.MediumTime(*hours / 24.0)) + "</time></td>";
+}
+
+std::string RowAttributes(const TimetableDay& day, Date today) {
+    constexpr int kFriday = 5;
+    return std::string(Weekday(day.date) == kFriday ? " class=\"friday\"" : "") +
+           (day.date == today ? " aria-current=\"date\"" : "");
+}
+
+std::string Row(const TimetableDay& day, const TimetableWords& words, Date today) {
+    const std::string number = std::to_string(CivilFromDate(day.date).day);
+    const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
+    std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
+                        mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
+    for (const auto& hours : day.hours) {
+        cells += TimeCell(day, hours);
+    }
+    return "<tr" + RowAttributes(day, today) + ">" + cells + "</tr>\n";
+}
+
+std::string Footnotes(const std::vector<TimetableDay>& days, const TimetableWords& words) {
+    std::string notes;
+    for (const TimetableDay& day : days) {
+        if (day.change != DaylightChange::kNone) {
+            const bool begins = day.change == DaylightChange::kBegins;
+            notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + ": " +
+                     Escaped(begins ? words.daylightBegins : words.daylightEnds) + "</p>\n";
+        }
+    }
+    return notes;
+}
+
+std::string Month(const Timetable& table, const TimetableWords& words, int month, Date today) {
+    const std::vector<TimetableDay> days = DaysOfMonth(table, month);
+    const std::string title = Escaped(words.MonthTitle(table.year, month));
+    std::string rows;
+    for (const TimetableDay& day : days) {
+        rows += Row(day, words, today);
+    }
+    return "<section id=\"" + MonthId(month) + "\">\n<div class=\"wide\"><table>\n<caption>" +
+           title + "</caption>\n" + TableHead(words) + "<tbody>\n" + rows +
+           "</tbody></table></div>\n" + Footnotes(days, words) + "</section>\n";
+}
+
+}  // namespace
+
+std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, Date today) {
+    const std::string title = Escaped(words.title) + " " + std::to_string(table.year);
+    std::string months;
+    for (int month = 1; month <= 12; ++month) {
+        months += Month(table, words, month, today);
+    }
+    return "<!DOCTYPE html>\n<html lang=\"" + Escaped(words.code) + "\" dir=\"" +
+           (words.rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n" +
+           "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
+           title + ", " + Escaped(table.place) + "</title>\n<style>" + kStyle +
+           "</style>\n</head>\n<body>\n<header>\n<h1>" + title + "</h1>\n<p class=\"place\"><bdi>" +
+           Escaped(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
+           Contents(table, words) + "<main>\n" + months + "</main>\n</body>\n</html>\n";
+}
+
+}  // namespace horavex

@@ -1,0 +1,215 @@
+#include "timetables/month_window.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/fault.h"
+#include "base/program_state.h"
+#include "engine/center_on_screen.h"
+#include "forms/drawing_svg.h"
+#include "lang/form_language.h"
+#include "platform/platform.h"
+#include "timetables/timetable_file.h"
+#include "timetables/year_chart.h"
+#include "windows/frm_month.h"
+#include "windows/frm_times.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kFriday = 5;
+constexpr int kMonthPage = 0;
+constexpr int kYearPage = 1;
+
+/// What the window shows: taken at its load, since the clock may bring another year meanwhile.
+struct Shown {
+    Timetable table;
+    TimetableWords words;
+    int month;  // 1 to 12
+};
+std::optional<Shown> shown;
+
+const ProgramStateReset reset([] { shown.reset(); });
+
+/// The present month; January in a year that today does not lie in.
+int PresentMonth() {
+    const CivilDate today = CivilFromDate(Ports().clock.Today());
+    return today.year == shown->table.year ? today.month : 1;
+}
+
+PrintedYear ToPrint() {
+    return {shown->table, shown->words, Ports().clock.Today()};
+}
+
+std::string TimeText(const std::optional<double>& hours) {
+    return hours ? Ports().formats.MediumTime(*hours / 24.0) : "";
+}
+
+std::string DayText(const TimetableDay& day) {
+    return std::to_string(CivilFromDate(day.date).day) + " " + shown->words.WeekdayOf(day.date);
+}
+
+Grid::Row RowOf(const TimetableDay& day) {
+    const char* mark = day.change == DaylightChange::kNone ? "" : " *";
+    Grid::Row row = {{DayText(day) + mark, shown->words.HijriText(day.hijri)},
+                     Weekday(day.date) == kFriday,
+                     day.date == Ports().clock.Today()};
+    for (const auto& hours : day.hours) {
+        row.cells.push_back(TimeText(hours));
+    }
+    return row;
+}
+
+std::string Footnotes(const std::vector<TimetableDay>& days) {
+    std::string notes;
+    for (const TimetableDay& day : days) {
+        if (day.change != DaylightChange::kNone) {
+            const bool begins = day.change == DaylightChange::kBegins;
+            notes += (notes.empty() ? "* " : "; * ") + DayText(day) + ": " +
+                     (begins ? shown->words.daylightBegins : shown->words.daylightEnds);
+        }
+    }
+    return notes;
+}
+
+void FillGrid(const std::vector<TimetableDay>& days) {
+    Grid& grid = frmMonth->grdMonth;
+    grid.heads = {shown->words.day, shown->words.hijri};
+    grid.heads.insert(grid.heads.end(), shown->words.prayers.begin(), shown->words.prayers.end());
+    grid.rows.clear();
+    std::transform(days.begin(), days.end(), std::back_inserter(grid.rows), RowOf);
+    grid.Refresh();
+}
+
+/// Which controls belong to the page on view.
+void ShowPage() {
+    const bool month = frmMonth->tabPages.ListIndex() == kMonthPage;
+    MonthForm& form = *frmMonth;
+    for (Control* control :
+         std::initializer_list<Control*>{&form.cmdPrev, &form.cmdToday, &form.cmdNext,
+                                         &form.grdMonth, &form.cmdPreview, &form.cmdPrint}) {
+        control->SetVisible(month);
+    }
+    form.lblNote.SetVisible(month && !form.lblNote.Caption().empty());
+    form.picYear.SetVisible(!month);
+    form.lblPointer.SetVisible(!month);
+    const Timetable& table = shown->table;
+    form.lblMonth.SetCaption(
+        (month ? shown->words.MonthTitle(table.year, shown->month) : std::to_string(table.year)) +
+        " - " + table.place);
+}
+
+void ShowMonth(int month) {
+    shown->month = month;
+    const auto days = DaysOfMonth(shown->table, month);
+    FillGrid(days);
+    frmMonth->lblNote.SetCaption(Footnotes(days));
+    frmMonth->cmdPrev.SetEnabled(month > 1);
+    frmMonth->cmdNext.SetEnabled(month < 12);
+    ShowPage();
+}
+
+void Page(int step) {
+    ShowMonth(std::clamp(shown->month + step, 1, 12));
+}
+
+YearChart Chart() {
+    const Picture& picture = frmMonth->picYear;
+    return {shown->table, shown->words, picture.ScaleWidth(), picture.ScaleHeight()};
+}
+
+/// One day in a line: both dates and all times.
+void TellDay(std::size_t row) {
+    const TimetableDay& day = shown->table.days.at(row);
+    const CivilDate date = CivilFromDate(day.date);
+    std::string line = DayText(day) + " " + shown->words.MonthTitle(date.year, date.month) + ", " +
+                       shown->words.HijriText(day.hijri);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        line += "   " + shown->words.prayers.at(prayer) + " " + TimeText(day.hours.at(prayer));
+    }
+    frmMonth->lblPointer.SetCaption(line);
+}
+
+void ShowChart() {
+    const Date today = Ports().clock.Today();
+    frmMonth->picYear.drawing = Chart().Draw(today);
+    frmMonth->picYear.Refresh();
+    const double row = today - shown->table.days.front().date;
+    const double last = static_cast<double>(shown->table.days.size()) - 1.0;
+    TellDay(static_cast<std::size_t>(std::clamp(row, 0.0, last)));
+}
+
+void picYear_MouseMove(Point at) {
+    if (const auto row = Chart().RowAt(at)) {
+        TellDay(*row);
+    }
+}
+
+void SaveTable() {
+    const FileRequest request = {shown->words.title,
+                                 "PDF|*.pdf|HTML|*.html|iCalendar|*.ics|CSV|*.csv|JSON|*.json|"
+                                 "Text|*.txt",
+                                 1};
+    const std::string path = Ports().dialogs.SaveFile(request, ".pdf");
+    if (!path.empty()) {
+        WriteTimetable(TimetableFormatOfPath(path).value_or(TimetableFormat::kPdf), path,
+                       PaperSize::kA4);
+    }
+}
+
+void SaveChart() {
+    const FileRequest request = {shown->words.title, "SVG|*.svg|PNG|*.png", 1};
+    const std::string path = Ports().dialogs.SaveFile(request, ".svg");
+    const Picture& picture = frmMonth->picYear;
+    if (path.ends_with(".png")) {
+        InstalledDocumentTools().writePng(path, picture.drawing, picture.ScaleWidth(),
+                                          picture.ScaleHeight());
+    } else if (!path.empty()) {
+        Ports().files.WriteWhole(path, BytesOf(DrawingSvg(picture.drawing, picture.ScaleWidth(),
+                                                          picture.ScaleHeight())));
+    }
+}
+
+void cmdSave_Click() {
+    frmMonth->tabPages.ListIndex() == kYearPage ? SaveChart() : SaveTable();
+}
+
+void NamePages() {
+    frmMonth->tabPages.SetTabCaption(kMonthPage, shown->words.monthPage);
+    frmMonth->tabPages.SetTabCaption(kYearPage, shown->words.yearPage);
+}
+
+void frmMonth_Load() {
+    TranslateOnLoad(*frmMonth);
+    shown = Shown{TakeTimetable(), TakeTimetableWords(), 1};
+    NamePages();
+    ShowChart();
+    ShowMonth(PresentMonth());
+    CenterOnScreen(*frmMonth);
+}
+
+}  // namespace
+
+void BindMonthWindow() {
+    MonthForm& form = *frmMonth;
+    form.onLoad = frmMonth_Load;
+    form.tabPages.onClick = ShowPage;
+    form.cmdPrev.onClick = [] { Page(-1); };
+    form.cmdNext.onClick = [] { Page(1); };
+    form.cmdToday.onClick = [] { ShowMonth(PresentMonth()); };
+    form.grdMonth.onPage = Page;
+    form.picYear.onMouseMove = picYear_MouseMove;
+    form.cmdSave.onClick = cmdSave_Click;
+    form.cmdPreview.onClick = [] {
+        InstalledDocumentTools().previewMonth(ToPrint(), shown->month);
+    };
+    form.cmdPrint.onClick = [] { InstalledDocumentTools().printMonth(ToPrint(), shown->month); };
+    form.cmdClose.onClick = [] { frmMonth->Unload(); };
+}
+
+void ShowMonthWindow() {
+    frmMonth->ShowModal(&*frmTimes);
+}
+
+}  // namespace horavex

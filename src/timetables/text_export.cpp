@@ -1,0 +1,158 @@
+#include "timetables/text_export.h"
+
+#include "athan/athan_state.h"
+#include "base/flag.h"
+#include "base/number_text.h"
+#include "base/prayer_names.h"
+#include "engine/angle.h"
+#include "engine/current_year.h"
+#include "engine/progress.h"
+#include "engine/year_table.h"
+#include "geo/qibla.h"
+#include "platform/platform.h"
+#include "store/location_record.h"
+#include "store/location_text.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+#include "timetables/center_text.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::size_t kPageWidth = 78;
+constexpr std::size_t kDayWidth = 5;
+constexpr std::size_t kDayCaptionWidth = 6;
+constexpr std::size_t kTimeWidth = 11;
+constexpr const char* kFormFeed = "\f";
+constexpr const char* kNoNote = " ";
+constexpr const char* kBegins = "B";
+constexpr const char* kFinishes = "F";
+
+std::string Text(std::uint16_t entry) {
+    return TextItem(entry, ActiveSettings.Language);
+}
+
+std::string Rule(std::size_t width = kPageWidth) {
+    return std::string(width, '-') + Crlf;
+}
+
+std::string Cell(const std::string& text) {
+    return " " + CenterText(text, kTimeWidth);
+}
+
+std::string PlaceLines() {
+    const double latitude = StoredCoord(ActiveLocation.City.Latitude);
+    const double longitude = StoredCoord(ActiveLocation.City.Longitude);
+    return Text(25) + ": " + ActiveCityText + Crlf +
+           FormatLatitude(latitude, ActiveSettings.Language) + Crlf +
+           FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
+}
+
+std::string ZoneLine() {
+    return Text(49) + ": " + Text(67) + " " +
+           SignedFixedText(ActiveSettings.TimeZone, Ports().formats.DecimalMark()) + Crlf;
+}
+
+std::string QiblaLine() {
+    const std::string method = ActiveSettings.QiblaMethod == 2 ? Text(76) : Text(77);
+    return QiblaText + " (" + method + " " + Text(75) + ") " + Crlf;
+}
+
+std::string ColumnLines() {
+    std::string translated(kDayCaptionWidth, ' ');
+    std::string fixed = CenterText(Text(37), kDayCaptionWidth);
+    for (std::uint16_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        translated += Cell(Text(static_cast<std::uint16_t>(6 + prayer)));
+        fixed += Cell(prayerNames.at(prayer));
+    }
+    return translated + Crlf + fixed + Crlf;
+}
+
+/// The block at the head of every month.
+std::string Header() {
+    return PlaceLines() + ZoneLine() + QiblaLine() + Rule() + ColumnLines() + Rule();
+}
+
+std::string MonthTitle(Date date) {
+    const std::string title = Text(36) + " " + Ports().formats.MonthAndYear(date) + ".";
+    return Rule() + CenterText(title, kPageWidth) + Crlf + Crlf;
+}
+
+/// The mark before a day on which daylight saving changes; it leaves its footnote pending. day:
+/// 1-based day of the year.
+std::string DaylightMark(int day, DaylightNote& flag) {
+    if (ActiveSettings.DstEnabled != 1) {
+        return " ";
+    }
+    if (day == ActiveSettings.DstStart) {
+        flag = kBegins;
+        return "*";
+    }
+    if (day == ActiveSettings.DstEnd) {
+        flag = kFinishes;
+        return "*";
+    }
+    return " ";
+}
+
+/// day: 1-based day of the year.
+std::string DayCells(int day, int dayOfMonth) {
+    std::string cells = CenterText(std::to_string(dayOfMonth), kDayWidth);
+    for (const double hours : TimesOfRow(static_cast<std::size_t>(day) - 1)) {
+        cells += Cell(Ports().formats.MediumTime(hours / 24.0));
+    }
+    return cells + Crlf;
+}
+
+/// Groups of five days; the last one of a month runs into the rule.
+bool EndsGroup(int dayOfMonth) {
+    return dayOfMonth < 30 && dayOfMonth % 5 == 0;
+}
+
+std::string Footnote(const DaylightNote& flag) {
+    return "* " + Text(35) + " : " + Text(flag == kBegins ? 32 : 33) + " " + Text(34) + "." + Crlf;
+}
+
+}  // namespace
+
+void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& file) {
+    ReportProgress(monthIndex * 100.0 / 12.0);
+    Ports().eventLoop.Pump();
+    page += Rule(kPageWidth + 1);
+    if (flag != kNoNote) {
+        page += Footnote(flag);
+        flag = kNoNote;
+    }
+    file.Append(BytesOf(page + Crlf));
+}
+
+void WriteTextPages(OutputFile& file) {
+    const std::string header = Header();
+    const Date first = DateSerial(CurrentYear, 1, 1);
+    std::string page;
+    DaylightNote flag = kNoNote;
+    int monthIndex = 0;
+    for (int n = 1; n <= 365 + LeapFlag; ++n) {
+        const Date date = first + n - 1;
+        const CivilDate civil = CivilFromDate(date);
+        if (civil.day == 1) {
+            if (n > 1) {
+                monthIndex = civil.month - 1;
+                sub0529(flag, monthIndex, page, file);
+                page = kFormFeed;
+            }
+            page += MonthTitle(date) + header;
+        }
+        page += DaylightMark(n, flag) + DayCells(n, civil.day);
+        page += EndsGroup(civil.day) ? Crlf : "";
+        if (alarmDismissed != kFalse) {
+            break;
+        }
+        Ports().eventLoop.Pump();
+    }
+    // The count of months stands where the last turn left it: the bar never fills.
+    sub0529(flag, monthIndex, page, file);
+}
+
+}  // namespace horavex

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "platform/files.h"
+
+namespace horavex {
+
+/// The change of daylight saving that a month's footnote tells: " " for none, "B" for its
+/// beginning and "F" for its end. Of two in one month the later one stands.
+using DaylightNote = std::string;
+
+/// Finishes one month and writes it: the closing rule, which is one hyphen longer than the others,
+/// the footnote, and the end of the line. Tells the progress first; flag is " " afterwards.
+/// monthIndex: months that are done, 0 to 12.
+void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& file);
+
+/// Writes the year of the table as pages for a line printer, one a month, in UTF-8: fixed columns
+/// of characters, lines that end in CR LF, a form feed before each month but the first. Events are
+/// delivered after every day; once alarmDismissed is set the page of that day is the last. Throws
+/// FileFault.
+void WriteTextPages(OutputFile& file);
+
+}  // namespace horavex

@@ -1,0 +1,107 @@
+#include "timetables/times_window.h"
+
+#include "base/fault.h"
+#include "base/steps.h"
+#include "base/text.h"
+#include "engine/current_year.h"
+#include "engine/day_state.h"
+#include "engine/year_table.h"
+#include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "store/location_record.h"
+#include "timetables/month_window.h"
+#include "windows/frm_main.h"
+#include "windows/frm_times.h"
+
+namespace horavex {
+
+namespace {
+
+/// The time of a prayer on a day of the table, as a fraction of a day.
+double FractionOf(int prayer, double day) {
+    if (day < 0.0 || day >= static_cast<double>(kYearRows)) {
+        throw BoundsFault("the day lies outside the year of the table");
+    }
+    return TimesOfRow(static_cast<std::size_t>(day)).at(static_cast<std::size_t>(prayer)) / 24.0;
+}
+
+void ShowTime(int prayer, double day) {
+    const double time = FractionOf(prayer, day);
+    frmTimes->lblTime(prayer).SetCaption(Ports().formats.MediumTime(time));
+    TodayTimes.at(static_cast<std::size_t>(prayer)) = time;
+}
+
+void ShowDay(Date date) {
+    frmTimes->shownDay = date;
+    SetTimes(date);
+}
+
+bool IsShown(int day, int month) {
+    const CivilDate shown = CivilFromDate(frmTimes->shownDay);
+    return shown.day == day && shown.month == month;
+}
+
+void cmdToday_Click() {
+    ShowDay(Ports().clock.Today());
+}
+
+void cmdPrev_Click() {
+    if (!IsShown(1, 1)) {
+        ShowDay(frmTimes->shownDay - 1.0);
+    }
+}
+
+void cmdNext_Click() {
+    if (!IsShown(31, 12)) {
+        ShowDay(frmTimes->shownDay + 1.0);
+    }
+}
+
+void Timer1_Timer() {
+    frmTimes->Timer1.SetEnabled(false);
+    cmdToday_Click();
+}
+
+/// The everyday names stand beside the Arabic ones, and would repeat them in Arabic.
+void ShowEverydayNames(bool shown) {
+    for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
+        frmTimes->lblZoritName(prayer).SetVisible(shown);
+    }
+}
+
+void frmTimes_Load() {
+    TranslateOnLoad(*frmTimes);
+    frmTimes->lblCity.SetCaption(ActiveCityText);
+    cmdToday_Click();
+    ShowEverydayNames(AsciiLower(currentLanguage) != "arabic");
+}
+
+}  // namespace
+
+void SetTimes(Date date) {
+    // On purpose: the tick compares the clock with the day on view until it sees that the day is
+    // another one, and shows today again.
+    TodayDate = date;
+    const double day = date - DateSerial(CurrentYear, 1, 1);
+    for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
+        RunStep([&] { ShowTime(prayer, day); });
+    }
+    frmTimes->lblDate.SetCaption(Ports().formats.LongDate(date));
+    frmTimes->lblCurrTime.SetCaption(Ports().formats.TwelveHourTime(Ports().clock.Now()));
+}
+
+void BindTimesWindow() {
+    frmTimes->onLoad = frmTimes_Load;
+    frmTimes->cmdToday.onClick = cmdToday_Click;
+    frmTimes->cmdPrev.onClick = cmdPrev_Click;
+    frmTimes->cmdNext.onClick = cmdNext_Click;
+    frmTimes->cmdMonth.onClick = ShowMonthWindow;
+    frmTimes->Timer1.onTimer = Timer1_Timer;
+}
+
+void ShowTimesWindow() {
+    frmTimes->ShowModal(&*frmMain);
+}
+
+}  // namespace horavex

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "base/date.h"
+#include "calendar/hijri_calendar.h"
+#include "engine/year_table.h"
+
+namespace horavex {
+
+/// The words of a timetable, in the language of the current pack: its section "timetables", and
+/// the Hijri months of "other". English where the pack has none.
+struct TimetableWords {
+    std::string code;  // of the language, as in HTML: "en"
+    bool rightToLeft;
+    std::string title;  // "Prayer times"
+    std::string day;
+    std::string hijri;
+    std::array<std::string, kPrayerCount> prayers;
+    std::array<std::string, 12> months;       // January first
+    std::array<std::string, 7> weekdays;      // Sunday first
+    std::array<std::string, 12> hijriMonths;  // Muharram first
+    std::string latitude;
+    std::string longitude;
+    std::string zone;
+    std::string fajrAngle;
+    std::string ishaAngle;
+    std::string asrRatio;
+    std::string qibla;           // a bearing clockwise from north follows
+    std::string daylightBegins;  // footnotes to a mark
+    std::string daylightEnds;
+    std::string monthPage;  // pages of the month window
+    std::string yearPage;
+
+    /// "November 2026".
+    std::string MonthTitle(int year, int month) const;
+
+    /// "11 Jamad Thani 1448".
+    std::string HijriText(const HijriDate& date) const;
+
+    const std::string& WeekdayOf(Date date) const;
+};
+
+TimetableWords TakeTimetableWords();
+
+}  // namespace horavex

@@ -1,0 +1,152 @@
+#include "timetables/year_chart.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace horavex {
+
+namespace {
+
+// Margins around the days, twips.
+constexpr double kLeft = 750.0;
+constexpr double kTop = 150.0;
+constexpr double kRight = 150.0;
+constexpr double kBottom = 450.0;
+
+constexpr Colour kPaper{250, 250, 247};
+constexpr Colour kInk{40, 46, 54};
+constexpr Colour kNight{23, 32, 56};
+constexpr Colour kGrid{150, 156, 168};
+constexpr Colour kToday{214, 48, 49};
+
+/// What lies between a time and the next one of the day.
+struct Band {
+    std::size_t from;
+    std::size_t to;
+    Colour fill;
+    Colour ink;  // of the name of the time that it begins with
+};
+
+constexpr Band kBands[] = {{kFajr, kShurooq, {92, 107, 160}, kWhite},
+                           {kShurooq, kZuhr, {253, 230, 138}, kInk},
+                           {kZuhr, kAsr, {252, 211, 77}, kInk},
+                           {kAsr, kMaghrib, {245, 158, 66}, kInk},
+                           {kMaghrib, kIsha, {120, 92, 150}, kWhite}};
+
+constexpr int kHoursPerLine = 3;
+constexpr std::size_t kNameRow = 8;  // where the names of the times begin
+
+}  // namespace
+
+YearChart::YearChart(const Timetable& table, const TimetableWords& words, double width,
+                     double height)
+    : table_(table), words_(words), width_(width), height_(height) {}
+
+double YearChart::X(double row) const {
+    return kLeft + (width_ - kLeft - kRight) * row / static_cast<double>(table_.days.size());
+}
+
+double YearChart::Y(double hours) const {
+    return kTop + (height_ - kTop - kBottom) * std::clamp(hours, 0.0, 24.0) / 24.0;
+}
+
+std::optional<std::size_t> YearChart::RowAt(Point at) const {
+    const double days = static_cast<double>(table_.days.size());
+    const double row = std::floor((at.x - kLeft) * days / (width_ - kLeft - kRight));
+    if (row < 0.0 || row >= days) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(row);
+}
+
+Drawing YearChart::Draw(Date today) const {
+    Drawing drawing;
+    drawing.push_back(PolygonStep{
+        {{0.0, 0.0}, {width_, 0.0}, {width_, height_}, {0.0, height_}}, kPaper, {kPaper}});
+    DrawBands(drawing);
+    DrawHours(drawing);
+    DrawMonths(drawing);
+    DrawNames(drawing);
+    DrawToday(drawing, today);
+    return drawing;
+}
+
+void YearChart::DrawBands(Drawing& drawing) const {
+    const double right = X(static_cast<double>(table_.days.size()));
+    drawing.push_back(PolygonStep{
+        {{kLeft, Y(0.0)}, {right, Y(0.0)}, {right, Y(24.0)}, {kLeft, Y(24.0)}}, kNight, {kNight}});
+    for (const Band& band : kBands) {
+        DrawBand(drawing, band.from, band.to, band.fill);
+    }
+}
+
+/// Days without one of the two times interrupt the band.
+void YearChart::DrawBand(Drawing& drawing, std::size_t from, std::size_t to, Colour fill) const {
+    std::vector<Point> upper;
+    std::vector<Point> lower;
+    const auto finish = [&] {
+        if (!upper.empty()) {
+            upper.insert(upper.end(), lower.rbegin(), lower.rend());
+            drawing.push_back(PolygonStep{std::move(upper), fill, {fill}});
+        }
+        upper.clear();
+        lower.clear();
+    };
+    for (std::size_t row = 0; row < table_.days.size(); ++row) {
+        const auto& hours = table_.days[row].hours;
+        if (!hours[from] || !hours[to]) {
+            finish();
+            continue;
+        }
+        for (const double x : {X(static_cast<double>(row)), X(static_cast<double>(row) + 1.0)}) {
+            upper.push_back({x, Y(*hours[from])});
+            lower.push_back({x, Y(*hours[to])});
+        }
+    }
+    finish();
+}
+
+void YearChart::DrawHours(Drawing& drawing) const {
+    const double right = X(static_cast<double>(table_.days.size()));
+    for (int hour = 0; hour <= 24; hour += kHoursPerLine) {
+        drawing.push_back(LineStep{{kLeft, Y(hour)}, {right, Y(hour)}, {kGrid}});
+        drawing.push_back(TextStep{{150.0, Y(hour) - 120.0}, IsoTime(hour * 60), kInk});
+    }
+}
+
+void YearChart::DrawMonths(Drawing& drawing) const {
+    for (std::size_t row = 0; row < table_.days.size(); ++row) {
+        const CivilDate date = CivilFromDate(table_.days[row].date);
+        if (date.day == 1) {
+            const double x = X(static_cast<double>(row));
+            drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, {kGrid}});
+            drawing.push_back(TextStep{{x + 30.0, Y(24.0) + 90.0},
+                                       words_.months.at(static_cast<std::size_t>(date.month) - 1),
+                                       kInk});
+        }
+    }
+}
+
+/// A name stands below the time that it names.
+void YearChart::DrawNames(Drawing& drawing) const {
+    const auto name = [&](std::size_t prayer, Colour ink) {
+        if (const auto& hours = table_.days.at(kNameRow).hours[prayer]) {
+            drawing.push_back(
+                TextStep{{X(kNameRow), Y(*hours) + 15.0}, words_.prayers.at(prayer), ink});
+        }
+    };
+    for (const Band& band : kBands) {
+        name(band.from, band.ink);
+    }
+    name(kIsha, kWhite);
+}
+
+void YearChart::DrawToday(Drawing& drawing, Date today) const {
+    const double row = today - table_.days.front().date;
+    if (row < 0.0 || row >= static_cast<double>(table_.days.size())) {
+        return;
+    }
+    drawing.push_back(LineStep{{X(row + 0.5), Y(0.0)}, {X(row + 0.5), Y(24.0)}, {kToday, 2}});
+}
+
+}  // namespace horavex

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// The scratch file of the check in the program folder: the web server's file as it came, byte for
+/// byte. Nothing of it lasts from one run to the next. Written by ClearUpdateFile and each check.
+extern std::string updateFilePath;
+
+/// Names the scratch file and deletes it if it is there; what cannot be deleted stays. At the
+/// load of HoravexMainForm.
+void ClearUpdateFile();
+
+/// Asks the web server for the newest version, tells what came of it in a message, and installs
+/// nothing. The last line of the file counts, and any difference from the running version is an
+/// update, an older one included. An empty answer, as a failed fetch gives it, is told as a want
+/// of connection. The thread is blocked for as long as the fetch takes.
+void CheckForUpdate();
+
+/// The same, but only a difference is told, in English whatever the language; a machine that is
+/// not online is told all the same.
+void CheckForUpdateSilently();
+
+/// Stops its timer and checks silently. Nothing starts the timer: there is no check of itself.
+void UpdateCheckTimer_Timer();
+
+/// The menu's way to CheckForUpdate.
+void Update();
+
+/// Binds the controls of the check on HoravexMainForm.
+void BindUpdateCheck();
+
+}  // namespace horavex

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "base/flag.h"
+#include "forms/command_button.h"
+#include "forms/form.h"
+#include "forms/form_instance.h"
+#include "forms/label.h"
+#include "forms/list.h"
+#include "forms/text_box.h"
+
+namespace horavex {
+
+/// The picker of a city: a list of countries beside the cities of the chosen one, and a search
+/// over the cities of all of them.
+class CountryForm : public Form {
+public:
+    CountryForm() : Form("fCountry", {.caption = "Chose a City", .width = 9600, .height = 8400}) {}
+
+    Label lblSearch{*this, "lblSearch", {.caption = "&Search"}};
+    TextBox txtSearch{*this, "txtSearch"};
+    ListBox lstFound{*this, "lstFound", {.visible = false}};
+
+    Label lblCountries{*this, "lblCountries", {.caption = "C&ountries"}};
+    Label lblCities{*this, "lblCities", {.caption = "C&ities"}};
+    ListBox lstcountry{*this, "lstcountry"};
+    ListBox lstcity{*this, "lstcity"};
+
+    CommandButton cmdOK{*this, "cmdOK", {.caption = "O&K"}};
+    CommandButton cmdCancel{*this, "cmdCancel", {.caption = "&Cancel"}};
+
+    /// Flag: the distance window asks, which sets it before the picker is shown.
+    std::int16_t openedFromDistance = kFalse;
+
+    /// What the distance window does with PickLocation and PickCityText.
+    Handler onPickForDistance;
+
+    /// Takes the CityIndex of a city that was picked for the settings.
+    std::function<void(std::int16_t cityIndex)> onPick;
+};
+
+inline const FormInstance<CountryForm> fCountry;
+
+}  // namespace horavex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "base/date.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/form_instance.h"
+#include "forms/label.h"
+#include "forms/timer.h"
+
+namespace horavex {
+
+/// The day browser: the six times of one day of the year's table.
+class TimesForm : public Form {
+public:
+    TimesForm() : Form("frmTimes", {.caption = "Paryer Times", .width = 6600, .height = 5700}) {}
+
+    Label lblCity{*this, "lblCity"};
+    Label lblDate{*this, "lblDate"};
+    Label lblCurrTime{*this, "lblCurrTime"};
+    ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
+    ControlArray<Label> lblZoritNameArabic{*this,
+                                           "lblZoritNameArabic",
+                                           {{0, {.caption = "Fajr"}},
+                                            {1, {.caption = "Shurook"}},
+                                            {2, {.caption = "Zuhr"}},
+                                            {3, {.caption = "Asr"}},
+                                            {4, {.caption = "Maghrib"}},
+                                            {5, {.caption = "Isha"}}}};
+    ControlArray<Label> lblZoritName{*this,
+                                     "lblZoritName",
+                                     {{0, {.caption = "Dawn"}},
+                                      {1, {.caption = "Sunrise"}},
+                                      {2, {.caption = "Noon"}},
+                                      {3, {.caption = "Afternoon"}},
+                                      {4, {.caption = "Sunset"}},
+                                      {5, {.caption = "Night"}}}};
+    CommandButton cmdToday{*this, "cmdToday", {.caption = "Today"}};
+    CommandButton cmdPrev{*this, "cmdPrev", {.caption = "Previous Day"}};
+    CommandButton cmdNext{*this, "cmdNext", {.caption = "Next Day"}};
+    CommandButton cmdMonth{*this, "cmdMonth", {.caption = "Month"}};
+
+    /// Fills the window once, half a second after its load; then it stands still.
+    Timer Timer1{*this, "Timer1", {.intervalMs = 500}};
+
+    /// The date on view.
+    Date shownDay = 0.0;
+};
+
+inline const FormInstance<TimesForm> frmTimes;
+
+}  // namespace horavex

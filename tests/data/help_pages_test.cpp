@@ -1,0 +1,155 @@
+// The help as it is built: every number has a page, every link an end, every window a topic.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <regex>
+#include <set>
+
+#include "base/utf8.h"
+#include "config/help.h"
+#include "config/help_topics.h"
+#include "lang/pack_forms.h"
+#include "support/build_folder.h"
+#include "support/run_program.h"
+
+namespace horavex {
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+
+HelpTopics Topics() {
+    return HelpTopics(ContentOf(BuiltProgramFolder() + "/Horavex.HLP"));
+}
+
+/// What the groups of a pattern match, one after the other.
+std::vector<std::smatch> Matches(const std::string& text, const std::string& pattern) {
+    const std::regex regex(pattern);
+    return {std::sregex_iterator(text.begin(), text.end(), regex), {}};
+}
+
+/// The pages of one language.
+class HelpPagesTest : public testing::TestWithParam<std::string> {
+protected:
+    static std::string Folder() { return BuiltProgramFolder() + "/help/" + GetParam(); }
+    static std::string Text(const std::string& page) { return ContentOf(Folder() + "/" + page); }
+};
+
+TEST(HelpFileTest, KnowsTheNumbersThatButtonsAndWindowsAskFor) {
+    const std::vector<int> numbers = Topics().Numbers();
+    for (const int number : {kHelpIndex, kHelpSettings, kHelpQibla, kHelpDateConversion}) {
+        EXPECT_THAT(numbers, Contains(number));
+    }
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(Topics().PageOf(column * 1000), "settings.html");
+        EXPECT_EQ(Topics().PageOf(column * 1000 + 200), "settings.html");
+    }
+    EXPECT_EQ(numbers.front(), kHelpIndex);
+}
+
+TEST(HelpFileTest, WindowsThatTranslateThemselvesHaveATopicOfTheirOwn) {
+    const std::string file = ContentOf(BuiltProgramFolder() + "/Horavex.HLP");
+    const std::vector<int> numbers = Topics().Numbers();
+    for (const auto& form : PackForms()) {
+        EXPECT_THAT(file, HasSubstr("\n" + form->Name() + "="));
+        EXPECT_THAT(numbers, Contains(Topics().NumberOf(form->Name()))) << form->Name();
+    }
+}
+
+TEST_P(HelpPagesTest, EveryTopicHasItsPage) {
+    for (const int number : Topics().Numbers()) {
+        EXPECT_TRUE(fs::exists(Folder() + "/" + Topics().PageOf(number))) << number;
+    }
+}
+
+TEST_P(HelpPagesTest, EveryPageIsInTheContents) {
+    for (const auto& entry : fs::directory_iterator(Folder())) {
+        EXPECT_THAT(Topics().Pages(), Contains(entry.path().filename().string()));
+    }
+}
+
+TEST_P(HelpPagesTest, EveryLinkLeadsToAPage) {
+    for (const std::string& page : Topics().Pages()) {
+        const std::string text = Text(page);
+        for (const std::smatch& link : Matches(text, "href=\"([^\"]*)\"")) {
+            EXPECT_THAT(Topics().Pages(), Contains(link[1].str())) << page;
+        }
+    }
+}
+
+TEST_P(HelpPagesTest, IndexLinksToEveryOtherPage) {
+    std::set<std::string> linked{"index.html"};
+    const std::string index = Text("index.html");
+    for (const std::smatch& link : Matches(index, "href=\"([^\"]*)\"")) {
+        linked.insert(link[1]);
+    }
+    for (const std::string& page : Topics().Pages()) {
+        EXPECT_THAT(linked, Contains(page));
+    }
+}
+
+TEST_P(HelpPagesTest, PagesAreUtf8SayTheirLanguageAndHaveOneTitle) {
+    const bool isArabic = GetParam() == "Arabic";
+    std::set<std::string> titles;
+    for (const std::string& page : Topics().Pages()) {
+        const std::string text = Text(page);
+        EXPECT_TRUE(IsUtf8(text)) << page;
+        EXPECT_THAT(text, HasSubstr(isArabic ? "<html lang=\"ar\" dir=\"rtl\">"
+                                             : "<html lang=\"en\" dir=\"ltr\">"));
+        EXPECT_THAT(text, HasSubstr("<meta charset=\"utf-8\">"));
+        const auto title = Matches(text, "<title>([^<]+)</title>");
+        const auto heading = Matches(text, "<h1>([^<]+)</h1>");
+        ASSERT_EQ(title.size(), 1U) << page;
+        ASSERT_EQ(heading.size(), 1U) << page;
+        EXPECT_EQ(title[0][1].str(), heading[0][1].str());
+        EXPECT_TRUE(titles.insert(title[0][1]).second) << page;
+    }
+}
+
+TEST_P(HelpPagesTest, EveryElementThatOpensCloses) {
+    for (const std::string& page : Topics().Pages()) {
+        std::vector<std::string> open;
+        const std::string text = Text(page);
+        for (const std::smatch& tag : Matches(text, "<(/?)([a-z0-9]+)[^>]*>")) {
+            if (tag[1].length() == 0) {
+                if (tag[2] != "meta") {
+                    open.push_back(tag[2]);
+                }
+                continue;
+            }
+            ASSERT_FALSE(open.empty()) << page;
+            EXPECT_EQ(open.back(), tag[2].str()) << page;
+            open.pop_back();
+        }
+        EXPECT_TRUE(open.empty()) << page;
+    }
+}
+
+TEST_P(HelpPagesTest, NothingComesFromTheNetwork) {
+    for (const std::string& page : Topics().Pages()) {
+        EXPECT_THAT(Text(page), Not(HasSubstr("://"))) << page;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::Values("Arabic", "English"),
+                         [](const auto& language) { return language.param; });
+
+TEST(HelpLanguagesTest, HaveTheSameShape) {
+    for (const std::string& page : Topics().Pages()) {
+        std::vector<std::size_t> counts;
+        for (const char* language : {"Arabic", "English"}) {
+            const std::string text =
+                ContentOf(BuiltProgramFolder() + "/help/" + language + "/" + page);
+            counts.push_back(Matches(text, "<(h2|li|tr)>").size());
+        }
+        EXPECT_EQ(counts[0], counts[1]) << page;
+    }
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,93 @@
+// Pages and pictures as the toolkit draws them.
+
+#include <QApplication>
+#include <QImage>
+
+#include "desktop/documents/month_page.h"
+#include "desktop/documents/pdf_file.h"
+#include "desktop/printing/document_desk.h"
+#include "timetables/sample_timetable.h"
+
+namespace horavex {
+namespace {
+
+using testing::StartsWith;
+
+class DocumentsTest : public TimetableTest {
+protected:
+    /// May 2026 at 96 dots an inch on paper of 600 by 800 of them.
+    QImage Page(Date today) {
+        const Timetable table = TakeTimetable();
+        QImage page(600, 800, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        DrawMonthPage(painter, QRectF(0, 0, 600, 800), 96.0, {table, words, today}, 5);
+        return page;
+    }
+
+    static int Count(const QImage& page, const QColor& colour, int left, int right) {
+        int count = 0;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = left; x < right; ++x) {
+                count += page.pixelColor(x, y) == colour ? 1 : 0;
+            }
+        }
+        return count;
+    }
+
+    /// Pixels that are not paper.
+    static int Ink(const QImage& page, int left, int right) {
+        return (right - left) * page.height() - Count(page, Qt::white, left, right);
+    }
+
+    TimetableWords words = TakeTimetableWords();
+};
+
+const QColor kFridayShade(0xe8, 0xef, 0xf6);
+
+TEST_F(DocumentsTest, FridaysAreShadedOverTheWholeWidth) {
+    const QImage page = Page(0.0);
+    EXPECT_GT(Count(page, kFridayShade, 0, 10), 5 * 10 * 10) << "five Fridays";
+    EXPECT_GT(Count(page, kFridayShade, 590, 600), 5 * 10 * 10);
+}
+
+TEST_F(DocumentsTest, TodayIsFramed) {
+    EXPECT_NE(Page(0.0), Page(DateSerial(2026, 5, 12)));
+    EXPECT_EQ(Page(0.0), Page(DateSerial(2026, 6, 12)));
+}
+
+TEST_F(DocumentsTest, ChangeOfDaylightSavingIsMarkedAndTold) {
+    const QImage before = Page(0.0);
+    Daylight(122, 273);
+    EXPECT_GT(Ink(Page(0.0), 0, 600), Ink(before, 0, 600));
+}
+
+TEST_F(DocumentsTest, LanguageFromRightToLeftBeginsAtTheRight) {
+    const QImage ltr = Page(0.0);
+    words.rightToLeft = true;
+    const QImage rtl = Page(0.0);
+    EXPECT_GT(Ink(ltr.copy(0, 0, 600, 80), 0, 100), 0);
+    EXPECT_EQ(Ink(rtl.copy(0, 0, 600, 80), 0, 100), 0);
+    EXPECT_GT(Ink(rtl.copy(0, 0, 600, 80), 500, 600), 0);
+}
+
+TEST_F(DocumentsTest, PdfIsWrittenWholeThroughTheFiles) {
+    const Timetable table = TakeTimetable();
+    WritePdf("/home/year.pdf", {table, words, 0.0});
+    EXPECT_THAT(StringOf(platform.files.Contents("/home/year.pdf")), StartsWith("%PDF-"));
+}
+
+TEST_F(DocumentsTest, PngHasTwicePixelsOfTheScreen) {
+    InstallDesktopDocuments();
+    const Drawing drawing = {
+        PolygonStep{{{0.0, 0.0}, {150.0, 0.0}, {150.0, 150.0}, {0.0, 150.0}}, {255, 0, 0}}};
+    InstalledDocumentTools().writePng("/home/year.png", drawing, 300.0, 150.0);
+    const Bytes& bytes = platform.files.Contents("/home/year.png");
+    const QImage image = QImage::fromData(bytes.data(), static_cast<int>(bytes.size()));
+    EXPECT_EQ(image.size(), QSize(40, 20));
+    EXPECT_EQ(image.pixelColor(10, 10), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(30, 10), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,104 @@
+#include <QTableWidget>
+#include <QWheelEvent>
+
+#include "desktop/form_window_fixture.h"
+#include "forms/grid.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+
+struct GridForm : Form {
+    GridForm() : Form("GridForm", {.width = 6000, .height = 4500}) {}
+    Grid grid{*this, "grid"};
+};
+
+class GridBinderTest : public testing::Test {
+protected:
+    GridBinderTest() {
+        form.grid.onPage = [this](int step) { steps.push_back(step); };
+        form.grid.heads = {"Day", "Fajr"};
+        form.grid.rows = {{{"1", "05:00"}, false, false},
+                          {{"2", "05:01"}, true, false},
+                          {{"3", "05:02"}, false, true}};
+        form.Show();
+        QApplication::processEvents();
+    }
+    ~GridBinderTest() override {
+        form.Unload();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QTableWidget& Table() { return *windows.Find(&form)->findChild<QTableWidget*>("grid"); }
+
+    void Wheel(int delta) {
+        QWidget& target = *Table().viewport();
+        const QPointF at(5.0, 5.0);
+        QWheelEvent event(at, target.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&target, &event);
+    }
+
+    void Press(int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&Table(), &event);
+    }
+
+    static void Fill(QWidget& window) {
+        auto* table = new QTableWidget(&window);
+        table->setObjectName("grid");
+    }
+
+    TestPlatform platform;
+    GridForm form;
+    std::vector<int> steps;
+    FormWindows windows{Layouts{{"GridForm", Fill}}};
+};
+
+TEST_F(GridBinderTest, ShowsHeadsAndTexts) {
+    ASSERT_EQ(Table().rowCount(), 3);
+    ASSERT_EQ(Table().columnCount(), 2);
+    EXPECT_EQ(Table().horizontalHeaderItem(1)->text(), "Fajr");
+    EXPECT_EQ(Table().item(2, 1)->text(), "05:02");
+}
+
+TEST_F(GridBinderTest, RowsThatStandOutAreBoldAndThePresentOneIsColoured) {
+    EXPECT_FALSE(Table().item(0, 0)->font().bold());
+    EXPECT_TRUE(Table().item(1, 0)->font().bold());
+    EXPECT_TRUE(Table().item(2, 0)->font().bold());
+    EXPECT_EQ(Table().item(2, 0)->background(), Table().palette().highlight());
+    EXPECT_NE(Table().item(1, 0)->background(), Table().palette().highlight());
+}
+
+TEST_F(GridBinderTest, FollowsItsControl) {
+    form.grid.rows = {{{"9", "06:00"}, false, false}};
+    form.grid.Refresh();
+    QApplication::processEvents();
+    ASSERT_EQ(Table().rowCount(), 1);
+    EXPECT_EQ(Table().item(0, 0)->text(), "9");
+    EXPECT_FALSE(Table().item(0, 0)->font().bold());
+}
+
+TEST_F(GridBinderTest, NotchOfTheWheelTurnsAPage) {
+    Wheel(-120);
+    Wheel(240);
+    EXPECT_THAT(steps, ElementsAre(1, -2));
+}
+
+TEST_F(GridBinderTest, SmallMovementsOfATouchpadAddUp) {
+    for (int i = 0; i < 5; ++i) {
+        Wheel(-50);
+    }
+    EXPECT_THAT(steps, ElementsAre(1, 1));
+}
+
+TEST_F(GridBinderTest, PageKeysTurnThePage) {
+    Press(Qt::Key_PageDown);
+    Press(Qt::Key_PageUp);
+    Press(Qt::Key_Down);
+    EXPECT_THAT(steps, ElementsAre(1, -1));
+}
+
+}  // namespace
+}  // namespace horavex

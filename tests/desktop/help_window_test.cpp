@@ -1,0 +1,241 @@
+#include "desktop/ports/help_window.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTimer>
+#include <QWindow>
+#include <fstream>
+
+#include "base/fault.h"
+#include "desktop/form_window_fixture.h"
+#include "desktop/ports/qt_shell.h"
+#include "linux/posix_files.h"
+#include "support/temporary_folder.h"
+
+namespace horavex {
+namespace {
+
+class HelpWindowTest : public testing::Test {
+protected:
+    HelpWindowTest() {
+        Write("one.html", "One", "<p><a href=\"two.html\">on</a></p>");
+        Write("two.html", "Two", "<p><a href=\"one.html\">back</a></p>");
+    }
+
+    void Write(const std::string& name, const std::string& title, const std::string& body,
+               const std::string& direction = "ltr") {
+        std::ofstream(folder / name)
+            << "<html dir=\"" << direction << "\"><head><meta charset=\"utf-8\"><title>" << title
+            << "</title></head><body><h1>" << title << "</h1>" << body << "</body></html>";
+    }
+
+    HelpView View(std::size_t page) const {
+        return {.owner = "KindsForm",
+                .place = {256, 256, 512, 512},
+                .title = "Help",
+                .contents = "Contents",
+                .back = "Back",
+                .forward = "Forward",
+                .pages = {{"One", folder / "one.html"}, {"Two", folder / "two.html"}},
+                .page = page};
+    }
+
+    void Show(std::size_t page) {
+        window.Show(View(page));
+        QApplication::processEvents();
+    }
+
+    template <class Widget>
+    Widget& Find(const char* name) {
+        return *window.findChild<Widget*>(QString::fromUtf8(name));
+    }
+
+    std::string ShownText() {
+        return Find<QTextBrowser>("page").toPlainText().section('\n', 0, 0).toStdString();
+    }
+    int Row() { return Find<QListWidget>("contents").currentRow(); }
+
+    TemporaryFolder folder;
+    HelpWindow window;
+};
+
+TEST_F(HelpWindowTest, OpensAtThePageAndMarksIt) {
+    Show(1);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.windowTitle(), "Help");
+    EXPECT_EQ(ShownText(), "Two");
+    EXPECT_EQ(Row(), 1);
+    EXPECT_EQ(Find<QListWidget>("contents").item(0)->text(), "One");
+}
+
+TEST_F(HelpWindowTest, TurnsToAnotherPageWhileItIsOpen) {
+    Show(0);
+    Show(1);
+    EXPECT_EQ(ShownText(), "Two");
+    EXPECT_EQ(Row(), 1);
+}
+
+TEST_F(HelpWindowTest, ContentsOpenPages) {
+    Show(0);
+    Find<QListWidget>("contents").setCurrentRow(1);
+    EXPECT_EQ(ShownText(), "Two");
+}
+
+TEST_F(HelpWindowTest, LinksLeadOnAndTheContentsFollow) {
+    Show(0);
+    auto& page = Find<QTextBrowser>("page");
+    page.setFocus();
+    for (const int key : {Qt::Key_Tab, Qt::Key_Return}) {  // to the link, and on
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&page, &press);
+    }
+    EXPECT_EQ(ShownText(), "Two");
+    EXPECT_EQ(Row(), 1);
+}
+
+TEST_F(HelpWindowTest, BackAndForwardWalkThroughWhatWasRead) {
+    Show(0);
+    auto& back = Find<QToolButton>("back");
+    auto& forward = Find<QToolButton>("forward");
+    EXPECT_FALSE(back.isEnabled());
+    EXPECT_FALSE(forward.isEnabled());
+    Find<QListWidget>("contents").setCurrentRow(1);
+    EXPECT_TRUE(back.isEnabled());
+    back.click();
+    EXPECT_EQ(ShownText(), "One");
+    EXPECT_EQ(Row(), 0);
+    EXPECT_TRUE(forward.isEnabled());
+    forward.click();
+    EXPECT_EQ(ShownText(), "Two");
+}
+
+TEST_F(HelpWindowTest, ControlsAreNamedForThoseWhoHearThem) {
+    Show(0);
+    EXPECT_EQ(Find<QToolButton>("back").text(), "Back");
+    EXPECT_EQ(Find<QToolButton>("forward").text(), "Forward");
+    EXPECT_EQ(Find<QListWidget>("contents").accessibleName(), "Contents");
+    EXPECT_EQ(Find<QTextBrowser>("page").accessibleName(), "Help");
+}
+
+TEST_F(HelpWindowTest, ArabicRunsFromTheRightEvenBehindALatinWord) {
+    Write("one.html", "مساعدة", "<p>Horavex برنامج</p>", "rtl");
+    HelpView view = View(0);
+    view.pages[0].title = "مساعدة";
+    window.Show(view);
+    EXPECT_EQ(window.layoutDirection(), Qt::RightToLeft);
+    const QTextDocument& document = *Find<QTextBrowser>("page").document();
+    EXPECT_EQ(document.lastBlock().text().toStdString(), "Horavex برنامج");
+    EXPECT_EQ(document.lastBlock().textDirection(), Qt::RightToLeft);
+    Show(1);
+    EXPECT_EQ(window.layoutDirection(), Qt::LeftToRight);
+}
+
+TEST_F(HelpWindowTest, ComesUpInItsPartOfTheScreen) {
+    HelpView view = View(0);
+    view.place = {128, 256, 768, 512};
+    window.Show(view);
+    const QRect screen = window.screen()->availableGeometry();
+    EXPECT_EQ(window.pos(), screen.topLeft() + QPoint(screen.width() / 8, screen.height() / 4));
+    EXPECT_EQ(window.size().expandedTo(window.minimumSizeHint()), window.size());
+    EXPECT_GE(window.width(), screen.width() * 3 / 4 - 1);
+    EXPECT_GE(window.height(), screen.height() / 2 - 1);
+}
+
+TEST_F(HelpWindowTest, StaysWhereTheUserPutItWhileItIsOpen) {
+    Show(0);
+    window.resize(700, 555);
+    Show(1);
+    EXPECT_EQ(window.size(), QSize(700, 555));
+}
+
+TEST_F(HelpWindowTest, EscapeHidesIt) {
+    Show(0);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&Find<QTextBrowser>("page"), &press);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(HelpWindowTest, ShellOpensAndClosesIt) {
+    const TestPlatform platform;
+    PosixFiles files;
+    QtShell shell(files);
+    shell.CloseHelp();
+    shell.ShowHelp(View(0));
+    const auto windows = QApplication::topLevelWidgets();
+    const auto help = std::find_if(windows.begin(), windows.end(), [this](QWidget* candidate) {
+        return candidate != &window && candidate->windowTitle() == "Help";
+    });
+    ASSERT_NE(help, windows.end());
+    EXPECT_TRUE((*help)->isVisible());
+    shell.CloseHelp();
+    EXPECT_FALSE((*help)->isVisible());
+}
+
+class HelpOfAFormTest : public FormWindowTest {
+protected:
+    ~HelpOfAFormTest() override { InstallHelpKey(nullptr); }
+
+    TemporaryFolder folder;
+    std::vector<std::string> asked;
+};
+
+TEST_F(HelpOfAFormTest, HelpKeyAsksForTheForm) {
+    InstallHelpKey([this](Form& pressed) { asked.push_back(pressed.Name()); });
+    Show();
+    Key(Window(), Qt::Key_F1);
+    Key(Window(), Qt::Key_F2);
+    EXPECT_EQ(asked, std::vector<std::string>{"KindsForm"});
+}
+
+TEST_F(HelpOfAFormTest, HelpKeyOfAnyControlReachesTheForm) {
+    InstallHelpKey([this](Form& pressed) { asked.push_back(pressed.Name()); });
+    Show();
+    int tried = 0;
+    for (auto* widget : Window().findChildren<QWidget*>()) {
+        if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible() &&
+            !widget->objectName().startsWith("qt_") && !widget->objectName().isEmpty()) {
+            asked.clear();
+            Key(*widget, Qt::Key_F1);
+            EXPECT_EQ(asked.size(), 1U) << widget->objectName().toStdString();
+            ++tried;
+        }
+    }
+    EXPECT_GT(tried, 5);
+}
+
+TEST_F(HelpOfAFormTest, FaultOfTheHelpIsToldAndKeptOutOfTheToolkit) {
+    InstallHelpKey([](Form&) { throw FileFault("help", "is not there"); });
+    Show();
+    Key(Window(), Qt::Key_F1);
+    EXPECT_EQ(platform.dialogs.messages.size(), 1U);
+}
+
+// The viewer belongs to the window that is modal, or no click would reach it.
+TEST_F(HelpOfAFormTest, ViewerOverAModalWindowTakesInputAndOutlivesIt) {
+    std::ofstream(folder / "one.html") << "<h1>One</h1>";
+    HelpWindow viewer;
+    QTimer::singleShot(0, [&] {
+        viewer.Show({.owner = "",
+                     .place = {256, 256, 512, 512},
+                     .title = "Help",
+                     .contents = "",
+                     .back = "",
+                     .forward = "",
+                     .pages = {{"One", folder / "one.html"}},
+                     .page = 0});
+        EXPECT_EQ(QApplication::activeModalWidget(), &Window());
+        EXPECT_EQ(viewer.windowHandle()->transientParent(), Window().windowHandle());
+        form.Unload();
+    });
+    form.ShowModal();
+    Settle();
+    EXPECT_TRUE(viewer.isVisible());
+    EXPECT_EQ(viewer.windowHandle()->transientParent(), nullptr);
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,83 @@
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include "desktop/form_window/form_windows.h"
+#include "forms/form.h"
+#include "forms/text_box.h"
+#include "support/test_platform.h"
+
+namespace horavex {
+namespace {
+
+class LinesForm : public Form {
+public:
+    LinesForm() : Form("LinesForm", {.width = 3000, .height = 6000}) {}
+
+    TextBox text{*this, "text"};
+};
+
+/// A text box of several lines in its window; the layout gives it lines of 20 pixels.
+class LinesBinderTest : public testing::Test {
+protected:
+    LinesBinderTest() {
+        form.Show();
+        Settle();
+    }
+    ~LinesBinderTest() override {
+        form.Unload();
+        Settle();
+    }
+
+    static void Fill(QWidget& window) {
+        new QVBoxLayout(&window);
+        auto* edit = new QTextEdit(&window);
+        edit->setObjectName("text");
+        edit->setReadOnly(true);
+        edit->setProperty("lineHeight", 20);
+        window.layout()->addWidget(edit);
+    }
+
+    static void Settle() {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QTextEdit& Edit() { return *windows.Find(&form)->findChild<QTextEdit*>("text"); }
+
+    TestPlatform platform;
+    LinesForm form;
+    FormWindows windows{Layouts{{"LinesForm", Fill}}};
+};
+
+TEST_F(LinesBinderTest, ShowsTheLinesAndTheirChange) {
+    form.text.SetText("one\r\ntwo\r\n");
+    Settle();
+    EXPECT_EQ(Edit().toPlainText(), "one\ntwo\n");
+    form.text.SetText("three");
+    Settle();
+    EXPECT_EQ(Edit().toPlainText(), "three");
+}
+
+TEST_F(LinesBinderTest, LinesHaveTheHeightThatTheLayoutGivesThem) {
+    form.text.SetText("one\r\ntwo\r\nthree\r\n");
+    Settle();
+    for (QTextBlock line = Edit().document()->begin(); line.isValid(); line = line.next()) {
+        const QRectF place = Edit().document()->documentLayout()->blockBoundingRect(line);
+        EXPECT_EQ(place.top(), 20.0 * line.blockNumber()) << line.text().toStdString();
+    }
+}
+
+TEST_F(LinesBinderTest, SameTextLeavesTheSelectionAlone) {
+    form.text.SetText("one\r\ntwo\r\n");
+    Settle();
+    Edit().selectAll();
+    form.text.Refresh();
+    Settle();
+    EXPECT_TRUE(Edit().textCursor().hasSelection());
+}
+
+}  // namespace
+}  // namespace horavex

@@ -1,0 +1,128 @@
+// Renders the settings window, the wizard's pages and the city picker of the whole program into
+// PNG files, to be looked at by the people who draw them:
+//
+//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_settings FOLDER
+//
+// The folder HORAVEX_TEST_BINARY_DIR is where the program was built.
+#include <QApplication>
+
+#include "config/settings_controls.h"
+#include "config/settings_display.h"
+#include "config/settings_window.h"
+#include "config/wizard.h"
+#include "desktop/face/qt_face.h"
+#include "desktop/form_window/form_windows.h"
+#include "geo/city_picker.h"
+#include "lang/language_pack.h"
+#include "shell/start.h"
+#include "store/settings_files.h"
+#include "store/settings_record.h"
+#include "support/program_copy.h"
+#include "support/test_platform.h"
+#include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
+#include "windows/horavex_main_form.h"
+#include "windows/new_coordinates.h"
+
+namespace {
+
+using namespace horavex;
+
+struct Language {
+    const char* pack;
+    std::int16_t column;
+};
+
+/// The program in one language, from its start.
+class Rendering {
+public:
+    Rendering(QString folder, const Language& language)
+        : folder_(std::move(folder)), name_(language.pack) {
+        CopyBuiltProgramFolder(platform_.files);
+        LoadActiveSettings();
+        ActiveSettings.Language = language.column;
+        SaveActiveSettings();
+        Settings = ActiveSettings;
+        SaveWorkingSettings();
+        BindWindows();
+        platform_.registry.CreateKey("Software\\Horavex\\Settings");
+        platform_.registry.SetValue("Software\\Horavex\\Settings", "Language", language.pack);
+        frmMain->Load();
+        frmMain->SetVisible(false);
+    }
+
+    void All() {
+        RenderSettings();
+        RenderPicker();
+        RenderWizard();
+        NewCoordinates->Show();
+        Save(*NewCoordinates, "coordinates");
+    }
+
+private:
+    void Save(const Form& form, const QString& what) {
+        QApplication::processEvents();
+        FormWindow* window = windows_.Find(&form);
+        window->Flush();
+        QApplication::processEvents();
+        const auto scale = QString::number(window->devicePixelRatioF());
+        const QSize size = window->size();
+        const QSize least = window->minimumSizeHint();
+        qInfo("%s %s: %d x %d, at least %d x %d", qPrintable(name_), qPrintable(what), size.width(),
+              size.height(), least.width(), least.height());
+        window->grab().save(folder_ + "/" + what + "-" + name_.toLower() + "-" + scale + "x.png");
+    }
+
+    void RenderSettings() {
+        ShowSettingsWindow();
+        HoravexMainForm->chkDayLT.SetValue(1);
+        ShowNewLocation();
+        Save(*HoravexMainForm, "settings");
+    }
+
+    void RenderPicker() {
+        LoadCityPicker();
+        fCountry->Show();
+        Save(*fCountry, "picker");
+        fCountry->txtSearch.UserType("san");
+        Save(*fCountry, "search");
+        fCountry->Unload();
+    }
+
+    void RenderWizard() {
+        ShowWizard();
+        frmWizard->label5.SetVisible(true);
+        frmWizard->lblPicked.SetVisible(true);
+        frmWizard->lblPickedCity.SetCaption("Alexandria, Alexandria - Egypt");
+        frmWizard->lblPickedCity.SetVisible(true);
+        for (int page = 1; page <= 4; ++page) {
+            Save(*frmWizard, "wizard" + QString::number(page));
+            if (page < 4) {
+                frmWizard->cmdNext.UserClick();
+            }
+        }
+    }
+
+    static Layouts AllLayouts(QtFace& face) {
+        Layouts layouts = DrawnLayouts();
+        layouts["frmMain"] = [&face](QWidget& window) { face.Fill(window); };
+        return layouts;
+    }
+
+    QString folder_;
+    QString name_;
+    TestPlatform platform_;
+    QtFace face_;
+    FormWindows windows_{AllLayouts(face_)};
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    for (const Language& language :
+         {Language{"English", 1}, Language{"German", 3}, Language{"Arabic", 4}}) {
+        Rendering(QString::fromLocal8Bit(argv[1]), language).All();
+    }
+    return 0;
+}

@@ -1,0 +1,224 @@
+// A first run from an empty home folder, by the keyboard alone: to a face with the right times,
+// which a restart shows again.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+
+#include "e2e/harness/program_fixture.h"
+#include "e2e/harness/wait_until.h"
+#include "store/settings_record.h"
+#include "support/build_folder.h"
+
+namespace horavex {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr const char* kWizardTitle = "Horavex Prayer Times Configuration Wizard";
+constexpr const char* kPickerTitle = "Choose a City";
+constexpr const char* kSettingsTitle = "Horavex Settings";
+
+class FirstRunTest : public ProgramFixture {
+protected:
+    FirstRunTest() { desktop.variables["XDG_CONFIG_DIRS"] = desktop / "nothing"; }
+
+    /// The computer's zone, written out so that it needs no zone files.
+    void LiveIn(const std::string& zone) { desktop.variables["TZ"] = zone; }
+
+    std::string StoredFile(const std::string& name) const {
+        return desktop / ("data/horavex/Dat/" + name);
+    }
+
+    SettingsRecord Stored(const std::string& file) const {
+        const std::string content = ContentOf(StoredFile(file));
+        SettingsBytes bytes{};
+        EXPECT_EQ(content.size(), bytes.size()) << file;
+        std::copy_n(content.begin(), std::min(content.size(), bytes.size()), bytes.begin());
+        return DecodeSettings(bytes);
+    }
+
+    /// Keys at the pace of a hand: a button that is pressed by its letter stays down for a moment
+    /// and takes no other press meanwhile.
+    void Press(const std::string& window, const std::vector<std::string>& keys) const {
+        std::vector<std::string> words = {"xdotool", "windowactivate", "--sync", window,
+                                          "key",     "--delay",        "400"};
+        words.insert(words.end(), keys.begin(), keys.end());
+        desktop.Use(words);
+    }
+
+    void WaitUntilGone(const ChildProcess& program, const std::string& window) const {
+        WaitUntil("the end of a window", [&] { return !desktop.IsOnView(program, window); });
+    }
+
+    /// Types a name into the picker, which stands open: the first Enter shows the best hit in the
+    /// lists, the second accepts it.
+    void PickCity(const ChildProcess& program, const std::string& name) const {
+        const std::string picker = desktop.WaitForWindow(program, kPickerTitle);
+        desktop.Use({"xdotool", "windowactivate", "--sync", picker, "type", name});
+        desktop.SaveScreen("first-run-picker-" + name);
+        Press(picker, {"Return", "Return"});
+        WaitUntilGone(program, picker);
+    }
+
+    /// Waits until a commit is through; the working record is the last that it writes.
+    void WaitForCommit() const {
+        WaitUntil("a commit", [&] { return fs::exists(StoredFile("Settings.DAT")); });
+    }
+
+    void FinishWizard(const ChildProcess& program, const std::string& city) const {
+        const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
+        Press(wizard, {"alt+s"});
+        PickCity(program, city);
+        Press(wizard, {"alt+n", "alt+z", "alt+n", "alt+n"});
+        desktop.SaveScreen("first-run-wizard-" + city);
+        Press(wizard, {"alt+f"});
+        WaitForCommit();
+        WaitUntilGone(program, wizard);
+    }
+
+    /// The six times on the face, as a picture's sum.
+    std::string TimesOnFace(const std::string& face) const {
+        const std::string picture = desktop / "times.png";
+        desktop.Use({"import", "-window", face, "-crop", "228x150+22+218", "+repage", picture});
+        return desktop.Use({"identify", "-format", "%#", picture});
+    }
+
+    /// "times" of the command line's answer.
+    std::string TimesToday(std::vector<std::string> options) const {
+        options.insert(options.begin(), {"today", "--json", "--at", "2026-11-21T12:34:56"});
+        const std::string printed = RunProgram("horavexctl", options, desktop.variables).out;
+        const std::size_t at = printed.find("\"times\"");
+        EXPECT_NE(at, std::string::npos) << printed;
+        return printed.substr(at, printed.find('}', at) - at);
+    }
+
+    /// Starts once more: no wizard, the same face, the same record.
+    void ExpectSameAfterRestart(ChildProcess& program, const std::string& times) {
+        const SettingsRecord accepted = Stored("AI.DAT");
+        program.Signal(SIGTERM);
+        program.Wait();
+        const ChildProcess again = StartProgram();
+        const std::string face = desktop.WaitForWindow(again, kFaceTitle);
+        LetSecondsPass(2);
+        EXPECT_EQ(TimesOnFace(face), times);
+        EXPECT_EQ(desktop.WindowsOf(again).size(), 1U);
+        EXPECT_EQ(Stored("AI.DAT"), accepted);
+    }
+
+    /// The wizard's way through, to a face with the times of these options.
+    void GoThrough(const std::string& zone, const std::string& city,
+                   const std::vector<std::string>& options) {
+        LiveIn(zone);
+        ChildProcess program = StartProgram();
+        const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+        FinishWizard(program, city);
+        desktop.Use({"xdotool", "windowactivate", "--sync", face});
+        LetSecondsPass(2);
+        const std::string times = TimesOnFace(face);
+        desktop.SaveScreen("first-run-face-" + city);
+        EXPECT_EQ(TimesToday({}), TimesToday(options));
+        EXPECT_EQ(Stored("AI.DAT"), Stored("Settings.DAT"));
+        ExpectSameAfterRestart(program, times);
+    }
+};
+
+TEST_F(FirstRunTest, WizardOpensAndTheAngleIsStored) {
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kWizardTitle);
+    EXPECT_THAT(StoredValues(), HasSubstr("Isha Dep Angle=18"));
+    EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
+}
+
+TEST_F(FirstRunTest, EscapeCancelsTheWizardAndNothingIsStored) {
+    const ChildProcess program = StartProgram();
+    const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
+    Press(wizard, {"Escape"});
+    WaitUntilGone(program, wizard);
+    EXPECT_FALSE(fs::exists(StoredFile("AI.DAT")));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(FirstRunTest, CityInEgyptWithTheComputersZone) {
+    GoThrough("EET-2EEST,M4.5.5/0,M10.5.4/24", "cairo",
+              {"--city", "Cairo, Cairo", "--zone", "2", "--fajr", "19.5", "--isha", "17.75",
+               "--asr", "1"});
+    EXPECT_EQ(Stored("AI.DAT").DstEnabled, 1);
+    EXPECT_EQ(Stored("AI.DAT").DstStart, 114);  // Friday, 24 April
+    EXPECT_EQ(Stored("AI.DAT").DstEnd, 302);    // Thursday, 29 October
+    EXPECT_THAT(StoredValues(), HasSubstr("Isha Dep Angle=17.75"));
+}
+
+TEST_F(FirstRunTest, CityInIndonesiaWithTheComputersZone) {
+    GoThrough("WIB-7", "jakarta",
+              {"--city", "Jakarta, Jakarta", "--zone", "7", "--fajr", "18", "--isha", "18", "--asr",
+               "1"});
+    EXPECT_EQ(Stored("AI.DAT").TimeZone, 7.0);
+    EXPECT_EQ(Stored("AI.DAT").DstEnabled, 0);
+}
+
+TEST_F(FirstRunTest, CityAt52DegreesWithTheZoneTypedInTheSettingsWindow) {
+    LiveIn("CET-1CEST,M3.5.0,M10.5.0/3");
+    ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    Press(desktop.WaitForWindow(program, kWizardTitle), {"Escape"});
+    const std::size_t windows = desktop.WindowsOf(program).size();
+    desktop.Click(face, 166, 120);
+    WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() != windows; });
+    desktop.PressKey("Down");
+    desktop.PressKey("Return");
+    const std::string settings = desktop.WaitForWindow(program, kSettingsTitle);
+    Press(settings, {"alt+c"});
+    PickCity(program, "berlin");
+    // The zone box is empty and has the keyboard.
+    Press(settings, {"1"});
+    desktop.SaveScreen("first-run-settings-berlin");
+    Press(settings, {"Return"});
+    WaitForCommit();
+    LetSecondsPass(2);
+    EXPECT_EQ(Stored("AI.DAT").TimeZone, 1.0);
+    EXPECT_EQ(Stored("AI.DAT").FajrAngle, 10.0);
+    EXPECT_EQ(TimesToday({}), TimesToday({"--city", "Berlin, Berlin", "--zone", "1", "--fajr", "10",
+                                          "--isha", "10", "--asr", "1"}));
+    ExpectSameAfterRestart(program, TimesOnFace(face));
+}
+
+TEST_F(FirstRunTest, KillDuringACommitLeavesEachFileOldOrNew) {
+    constexpr int kKills = 4;
+    for (int kill = 0; kill < kKills; ++kill) {
+        fs::remove_all(desktop / "data/horavex");
+        fs::remove_all(desktop / "config/horavex");
+        ChildProcess program = StartProgram();
+        const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
+        Press(wizard, {"alt+n", "alt+n", "alt+n", "alt+f"});
+
+        // The first file of the commit, finished or not, gives the signal; later kills come later.
+        const std::string folder = desktop / "data/horavex/Dat";
+        const auto end = std::chrono::steady_clock::now() + kPatience;
+        while (!fs::exists(folder) || fs::is_empty(folder)) {
+            ASSERT_LT(std::chrono::steady_clock::now(), end);
+        }
+        const auto moment =
+            std::chrono::steady_clock::now() + kill * std::chrono::microseconds(100);
+        while (std::chrono::steady_clock::now() < moment) {
+        }
+        program.Signal(SIGKILL);
+        program.Wait();
+        for (const char* file : {"AI.DAT", "Settings.DAT"}) {
+            if (fs::exists(StoredFile(file))) {
+                EXPECT_EQ(Stored(file).DstStart, 121) << "the wizard's own days: the new record";
+                EXPECT_EQ(Stored(file).DstEnd, 274);
+                EXPECT_EQ(Stored(file).TimeZone, 3.0);
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace horavex

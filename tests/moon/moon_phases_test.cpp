@@ -1,0 +1,137 @@
+#include "moon/moon_phases.h"
+
+#include "base/text.h"
+#include "moon/lunation.h"
+#include "support/test_platform.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+namespace {
+
+using testing::Each;
+using testing::MatchesRegex;
+
+struct MoonPhasesTest : testing::Test {
+    MoonPhasesTest() { HoravexMainForm->txtTimeZone.SetText("+0.00"); }
+
+    void ComputeAll(int year) {
+        platform.clock.Set(DateSerial(year, 7, 1));
+        ComputeNewMoonRows();
+        ComputeFirstQuarterRows();
+        ComputeFullMoonRows();
+        ComputeLastQuarterRows();
+    }
+
+    TestPlatform platform;
+};
+
+std::vector<std::string> Filled(const MoonRows& rows) {
+    return {rows.begin(), rows.begin() + kMoonRows};
+}
+
+TEST_F(MoonPhasesTest, NewMoonsOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(Filled(NewMoonRows),
+                testing::ElementsAre("25 December 2000, 17hrs 22min", "24 January 2001, 13hrs 7min",
+                                     "23 February 2001, 8hrs 22min", "25 March 2001, 1hrs 22min",
+                                     "23 April 2001, 15hrs 26min", "23 May 2001, 2hrs 47min",
+                                     "21 June 2001, 11hrs 58min", "20 July 2001, 19hrs 45min",
+                                     "19 August 2001, 2hrs 56min", "17 September 2001, 10hrs 28min",
+                                     "16 October 2001, 19hrs 24min", "15 November 2001, 6hrs 41min",
+                                     "14 December 2001, 20hrs 48min"));
+}
+
+TEST_F(MoonPhasesTest, FirstQuartersOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(FirstQuarterRows),
+        testing::ElementsAre("2 January 2001,  22hrs 32min", "1 February 2001,  14hrs 3min",
+                             "3 March 2001,  2hrs 4min", "1 April 2001,  10hrs 50min",
+                             "30 April 2001,  17hrs 8min", "29 May 2001,  22hrs 10min",
+                             "28 June 2001,  3hrs 20min", "27 July 2001,  10hrs 9min",
+                             "25 August 2001,  19hrs 55min", "24 September 2001,  9hrs 31min",
+                             "24 October 2001,  2hrs 59min", "22 November 2001,  23hrs 21min",
+                             "22 December 2001,  20hrs 57min"));
+}
+
+TEST_F(MoonPhasesTest, FullMoonsOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(FullMoonRows),
+        testing::ElementsAre("9 January 2001,  20hrs 25min", "8 February 2001,  7hrs 12min",
+                             "9 March 2001,  17hrs 24min", "8 April 2001,  3hrs 22min",
+                             "7 May 2001,  13hrs 53min", "6 June 2001,  1hrs 40min",
+                             "5 July 2001,  15hrs 4min", "4 August 2001,  5hrs 56min",
+                             "2 September 2001,  21hrs 44min", "2 October 2001,  13hrs 49min",
+                             "1 November 2001,  5hrs 42min", "30 November 2001,  20hrs 50min",
+                             "30 December 2001,  10hrs 41min"));
+}
+
+TEST_F(MoonPhasesTest, LastQuartersOf2001) {
+    ComputeAll(2001);
+    EXPECT_THAT(
+        Filled(LastQuarterRows),
+        testing::ElementsAre("16 January 2001,  12hrs 35min", "15 February 2001,  3hrs 24min",
+                             "16 March 2001,  20hrs 46min", "15 April 2001,  15hrs 32min",
+                             "15 May 2001,  10hrs 11min", "14 June 2001,  3hrs 29min",
+                             "13 July 2001,  18hrs 46min", "12 August 2001,  7hrs 54min",
+                             "10 September 2001,  19hrs 0min", "10 October 2001,  4hrs 20min",
+                             "8 November 2001,  12hrs 22min", "7 December 2001,  19hrs 52min",
+                             "6 January 2002,  3hrs 55min"));
+}
+
+TEST_F(MoonPhasesTest, EveryYearOfTwoCenturiesHas13RowsOfEachPhase) {
+    const std::string row = "[0-9]+ [A-Z][a-z]+ [0-9]+,";
+    const std::string clock = "[0-9]+hrs [0-9]+min";
+    for (int year = 1900; year <= 2100; ++year) {
+        ComputeAll(year);
+        ASSERT_THAT(Filled(NewMoonRows), Each(MatchesRegex(row + " " + clock))) << year;
+        for (const MoonRows* rows : {&FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+            ASSERT_THAT(Filled(*rows), Each(MatchesRegex(row + "  " + clock))) << year;
+        }
+        for (const MoonRows* rows :
+             {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+            ASSERT_EQ((*rows)[kMoonRows], "") << year;
+        }
+    }
+}
+
+TEST_F(MoonPhasesTest, RowsCarryNoLeadingZeros) {
+    for (int year = 1900; year <= 2100; ++year) {
+        ComputeAll(year);
+        for (const MoonRows* rows :
+             {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+            for (const std::string& row : Filled(*rows)) {
+                for (const std::string& word : Split(row, ' ')) {
+                    ASSERT_FALSE(word.size() > 1 && word[0] == '0' && IsDigit(word[1])) << row;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(MoonPhasesTest, ZoneCountsTwiceInARow) {
+    HoravexMainForm->txtTimeZone.SetText("+2.00");
+    ComputeAll(2001);
+    EXPECT_EQ(NewMoonRows[1], "24 January 2001, 17hrs 7min");
+}
+
+TEST_F(MoonPhasesTest, EachComputationFillsItsOwnTableAlone) {
+    platform.clock.Set(DateSerial(2001, 7, 1));
+    ComputeFullMoonRows();
+    EXPECT_NE(FullMoonRows[0], "");
+    EXPECT_EQ(NewMoonRows[0], "");
+    EXPECT_EQ(FirstQuarterRows[0], "");
+    EXPECT_EQ(LastQuarterRows[0], "");
+}
+
+TEST_F(MoonPhasesTest, ComputingAgainGivesTheSame) {
+    ComputeAll(2026);
+    const MoonRows before = LastQuarterRows;
+    ReduceAngle(77.0);
+    ComputeAll(2026);
+    EXPECT_EQ(LastQuarterRows, before);
+}
+
+}  // namespace
+}  // namespace horavex

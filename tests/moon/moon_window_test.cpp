@@ -1,0 +1,231 @@
+#include "moon/moon_window.h"
+
+#include "base/fault.h"
+#include "base/text.h"
+#include "calendar/moon_labels.h"
+#include "engine/angle.h"
+#include "lang/language_pack.h"
+#include "moon/eclipses.h"
+#include "moon/moon_phases.h"
+#include "support/program_test.h"
+#include "windows/frm_ramadan.h"
+#include "windows/moon_phases.h"
+
+namespace horavex {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class MoonWindowTest : public ProgramTest {
+protected:
+    MoonWindowTest() {
+        StartAgain();
+        ShowMoonPhases();
+    }
+
+    void OpenIn(int year) {
+        form.Unload();
+        SetClock(year, 7, 1, 12, 0, 0);
+        ShowMoonPhases();
+    }
+
+    /// The lines of a box, each of which ends with Crlf.
+    static std::vector<std::string> LinesOf(const TextBox& box) {
+        std::vector<std::string> lines = Split(box.Text(), '\n');
+        EXPECT_EQ(lines.back(), "");
+        lines.pop_back();
+        for (std::string& line : lines) {
+            EXPECT_TRUE(line.ends_with('\r'));
+            line.pop_back();
+        }
+        return lines;
+    }
+
+    static std::vector<std::string> Filled(const MoonRows& rows) {
+        return {rows.begin(), rows.begin() + kMoonRows};
+    }
+
+    /// Names of the controls on view that lie on the tabs themselves.
+    std::vector<std::string> PageOnView() {
+        std::vector<std::string> names;
+        for (const Control* control : form.Controls()) {
+            if (&control->Parent() == &form.SSTab1 && control->Visible()) {
+                names.push_back(control->Name());
+            }
+        }
+        return names;
+    }
+
+    MoonPhasesForm& form = *Moon_Phases;
+};
+
+TEST_F(MoonWindowTest, OpensModalInTheMiddleOfTheScreen) {
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("load Moon_Phases", "show Moon_Phases", "modal Moon_Phases"));
+    EXPECT_EQ(form.Owner(), &*frmMain);
+    EXPECT_EQ(form.Left(), (19200.0 - form.Width()) / 2.0);
+    EXPECT_EQ(form.Top(), (10800.0 - form.Height()) / 2.0);
+}
+
+TEST_F(MoonWindowTest, TablesAreFilledForTheYearOfTheClock) {
+    EXPECT_EQ(LinesOf(form.Text2), Filled(NewMoonRows));
+    EXPECT_EQ(LinesOf(form.Text3), Filled(FirstQuarterRows));
+    EXPECT_EQ(LinesOf(form.Text5), Filled(FullMoonRows));
+    EXPECT_EQ(LinesOf(form.Text6), Filled(LastQuarterRows));
+    EXPECT_THAT(LinesOf(form.Text2)[6], testing::HasSubstr(" 2026, "));
+    EXPECT_EQ(form.Text7.Text(), "");
+}
+
+TEST_F(MoonWindowTest, BothTablesHaveTheSameLabels) {
+    EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
+    EXPECT_EQ(LinesOf(form.Text1)[0], HijriLabelForMoonRow(NewMoonRows[0]));
+    EXPECT_EQ(form.Text4.Text(), form.Text1.Text());
+}
+
+TEST_F(MoonWindowTest, LabelsOf2011AreASliceOfTheTable) {
+    OpenIn(2011);
+    EXPECT_EQ(LinesOf(form.Text1).front(), MoonMonthLabels[4]);
+    EXPECT_EQ(LinesOf(form.Text4).back(), MoonMonthLabels[16]);
+}
+
+TEST_F(MoonWindowTest, LastRowOf2007HasNoLabel) {
+    OpenIn(2007);
+    EXPECT_EQ(LinesOf(form.Text1).size(), 12U);
+    EXPECT_EQ(LinesOf(form.Text2).size(), 13U);
+}
+
+TEST_F(MoonWindowTest, YearBefore2000HasTheSharedSlice) {
+    OpenIn(1995);
+    EXPECT_EQ(LinesOf(form.Text1).front(), "Muharram 1416");
+    EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
+}
+
+TEST_F(MoonWindowTest, WithoutTheConverterAllLabelsSayError) {
+    platform.files.Delete("/program/Dat/UQ.DAT");
+    OpenIn(2021);
+    EXPECT_THAT(LinesOf(form.Text1), Each("Error"));
+    EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
+}
+
+TEST_F(MoonWindowTest, OpeningAgainFillsTheTablesAnewAndOnce) {
+    OpenIn(2026);
+    EXPECT_EQ(LinesOf(form.Text2), Filled(NewMoonRows));
+    EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
+}
+
+TEST_F(MoonWindowTest, ZoneThatIsNoNumberOpensNoWindow) {
+    form.Unload();
+    HoravexMainForm->txtTimeZone.SetText("");
+    EXPECT_THROW(ShowMoonPhases(), TypeMismatchFault);
+    EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(MoonWindowTest, TabsAreCaptionedByThePack) {
+    EXPECT_THAT(form.SSTab1.Items(),
+                ElementsAre("New moon / First Quarter", "Full Moon / Last Quarter",
+                            "Moon Rise / Set", "Solar / Lunar Eclipses"));
+    form.Unload();
+    currentLanguage = "German";
+    ShowMoonPhases();
+    EXPECT_EQ(form.SSTab1.ListItem(2), GetLangString("other", "17", ""));
+    EXPECT_NE(form.SSTab1.ListItem(2), "Moon Rise / Set");
+    EXPECT_EQ(form.Caption(), "Mondphasen");
+}
+
+TEST_F(MoonWindowTest, EachTabHasItsPage) {
+    EXPECT_THAT(PageOnView(), ElementsAre("lblMonth1", "Text1", "lblNewMoon", "picNewMoon", "Text2",
+                                          "lblFirstQuarter", "picFirstQuarter", "Text3"));
+    form.SSTab1.UserSelect(1);
+    EXPECT_THAT(PageOnView(), ElementsAre("lblMonth2", "Text4", "lblFullMoon", "picFullMoon",
+                                          "Text5", "lblLastQuarter", "picLastQuarter", "Text6"));
+    form.SSTab1.UserSelect(2);
+    EXPECT_THAT(PageOnView(), ElementsAre("lblDay", "cboDay", "lblMonth", "cboMonth", "lblYear",
+                                          "cboYear", "optCurrentLocation", "optCustomLocation",
+                                          "Frame4", "chkDayLightSaving", "cmdCalculate",
+                                          "lblMoonRise", "lblMoonSet", "picDay"));
+    form.SSTab1.UserSelect(3);
+    EXPECT_THAT(PageOnView(),
+                ElementsAre("Cmdeclipse_sun", "Cmdeclipse_moon", "Cmdclear", "Text7"));
+}
+
+TEST_F(MoonWindowTest, EclipseButtonsListTheYearOfTheClockWhateverTheDateSays) {
+    form.SSTab1.UserSelect(2);
+    form.cboYear.UserSelect(0);
+    form.SSTab1.UserSelect(3);
+    form.Cmdeclipse_sun.UserClick();
+    const std::string solar = form.Text7.Text();
+    EXPECT_THAT(solar, testing::HasSubstr(" 2026  ,  "));
+    EXPECT_EQ(solar, ListSolarEclipses());
+    form.Cmdeclipse_moon.UserClick();
+    EXPECT_EQ(form.Text7.Text(), ListLunarEclipses());
+    EXPECT_NE(form.Text7.Text(), solar);
+}
+
+TEST_F(MoonWindowTest, SecondPressListsTheSameOnce) {
+    form.SSTab1.UserSelect(3);
+    form.Cmdeclipse_moon.UserClick();
+    const std::string once = form.Text7.Text();
+    form.Cmdeclipse_moon.UserClick();
+    EXPECT_EQ(form.Text7.Text(), once);
+}
+
+TEST_F(MoonWindowTest, ClearEmptiesTheListAndTheFourTexts) {
+    form.SSTab1.UserSelect(3);
+    form.Cmdeclipse_sun.UserClick();
+    EXPECT_NE(EclipseKindText, "");
+    form.Cmdclear.UserClick();
+    EXPECT_EQ(form.Text7.Text(), "");
+    for (const std::string& text : {EclipseHemisphereText, EclipseShadowText, EclipseKindText,
+                                    EclipseTotalityText, SolarEclipseRows[0]}) {
+        EXPECT_EQ(text, "");
+    }
+}
+
+TEST_F(MoonWindowTest, PrintsTheWindow) {
+    platform.desktop.calls.clear();
+    form.Command2.UserClick();
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("Print Moon_Phases"));
+}
+
+TEST_F(MoonWindowTest, CloseUnloads) {
+    form.cmdClose.UserClick();
+    EXPECT_FALSE(form.IsLoaded());
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+}
+
+TEST_F(MoonWindowTest, HelpOpensOverTheWindowWithTheTextOfThePack) {
+    form.SkinLabel1.UserClick();
+    EXPECT_TRUE(frmRamadan->IsModal());
+    EXPECT_EQ(frmRamadan->Owner(), &form);
+    EXPECT_EQ(frmRamadan->Caption(), "Help");
+    EXPECT_EQ(frmRamadan->SkinLabel1.Caption(),
+              "How to find the starting of any luner Month ( Example : Ramadan , Zul-heggah )");
+    EXPECT_EQ(frmRamadan->cmdClose.Caption(), "&Close");
+    EXPECT_THAT(frmRamadan->Text1.Text(), testing::StartsWith("A lunar month begins"));
+    EXPECT_THAT(frmRamadan->Text1.Text(), testing::EndsWith("decide on the day."));
+    frmRamadan->cmdClose.UserClick();
+    EXPECT_FALSE(frmRamadan->IsLoaded());
+    EXPECT_TRUE(form.IsLoaded());
+}
+
+TEST_F(MoonWindowTest, HelpWithoutAPackStaysEmpty) {
+    currentLanguage = "Klingon";
+    form.SkinLabel1.UserClick();
+    EXPECT_EQ(frmRamadan->Text1.Text(), "");
+}
+
+TEST_F(MoonWindowTest, HelpIsThereInEveryLanguage) {
+    for (const char* language : {"Arabic", "French", "German", "Spanish"}) {
+        currentLanguage = language;
+        form.SkinLabel1.UserClick();
+        EXPECT_THAT(frmRamadan->Text1.Text(), Not(testing::IsEmpty())) << language;
+        EXPECT_NE(frmRamadan->Caption(), "Help") << language;
+        frmRamadan->Unload();
+    }
+}
+
+}  // namespace
+}  // namespace horavex

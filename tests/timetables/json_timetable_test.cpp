@@ -1,0 +1,45 @@
+#include "timetables/json_timetable.h"
+
+#include "base/text.h"
+#include "engine/solar_event.h"
+#include "timetables/sample_timetable.h"
+
+namespace horavex {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+// The text is read back by a parser of JSON in the tests of horavexctl.
+using JsonTimetableTest = TimetableTest;
+
+TEST_F(JsonTimetableTest, BeginsWithPlaceAndMethodAndHasALineADay) {
+    const std::string text = JsonTimetable(TakeTimetable());
+    EXPECT_THAT(
+        text,
+        StartsWith(
+            "{\"year\":2026,\n\"place\":\"Cairo - Egypt\",\n\"latitude\":30.05,\n"
+            "\"longitude\":31.25,\n\"timeZone\":2,\n\"fajrAngle\":19.5,\n\"ishaAngle\":17.5,\n"
+            "\"asrRatio\":1,\n\"qibla\":136.14,\n\"days\":[\n"
+            "{\"date\":\"2026-01-01\",\"hijri\":{\"year\":1447,\"month\":7,\"day\":12},"
+            "\"daylight\":false,\"times\":{\"Fajr\":\"05:00\",\"Shurooq\":\"06:30\","
+            "\"Zuhr\":\"12:00\",\"Asr\":\"15:15\",\"Maghrib\":\"18:00\",\"Isha\":\"19:30\"},"
+            "\"hours\":[5,6.5,12,15.25,18,19.5]},\n"));
+    EXPECT_THAT(text, EndsWith("\"hours\":[5,6.5,12,15.25,18,19.5]}\n]}\n"));
+}
+
+TEST_F(JsonTimetableTest, TimeThatDoesNotExistIsNull) {
+    Times[kIsha][0] = NoEvent;
+    const std::string text = JsonTimetable(TakeTimetable());
+    EXPECT_THAT(text, HasSubstr("\"Isha\":null},\"hours\":[5,6.5,12,15.25,18,null]"));
+}
+
+TEST_F(JsonTimetableTest, TextsAreEscaped) {
+    ActiveCityText = "a \"b\" \\ c\n\x01 é";
+    EXPECT_THAT(JsonTimetable(TakeTimetable()),
+                HasSubstr("\"place\":\"a \\\"b\\\" \\\\ c\\u000a\\u0001 é\","));
+}
+
+}  // namespace
+}  // namespace horavex

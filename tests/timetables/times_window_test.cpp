@@ -1,0 +1,221 @@
+#include "timetables/times_window.h"
+
+#include "engine/current_year.h"
+#include "engine/day_state.h"
+#include "shell/tick.h"
+#include "support/program_test.h"
+#include "windows/frm_times.h"
+
+namespace horavex {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+/// The running program with its day browser open on the afternoon of 21 November 2026.
+class TimesWindowTest : public ProgramTest {
+protected:
+    TimesWindowTest() {
+        StartAgain();
+        SetClock(2026, 11, 21, 15, 4, 5);
+        ShowTimesWindow();
+    }
+
+    static std::vector<std::string> ShownTimes() {
+        std::vector<std::string> times;
+        for (int prayer = 0; prayer < 6; ++prayer) {
+            times.push_back(frmTimes->lblTime(prayer).Caption());
+        }
+        return times;
+    }
+
+    std::vector<std::string> TimesOn(std::size_t row) const {
+        std::vector<std::string> times;
+        for (const double hours : TimesOfRow(row)) {
+            times.push_back(platform.formats.MediumTime(hours / 24.0));
+        }
+        return times;
+    }
+
+    void ShowThe(int month, int day) {
+        SetClock(2026, month, day, 12, 0, 0);
+        frmTimes->cmdToday.UserClick();
+    }
+
+    /// A click of the menu entry of a language.
+    static void Speak(const std::string& language) {
+        for (int i = 0; frmMain->mnuL.Contains(i); ++i) {
+            if (frmMain->mnuL(i).Caption() == language) {
+                frmMain->mnuL(i).UserClick();
+            }
+        }
+    }
+
+    static constexpr std::size_t kTodaysRow = 324;
+};
+
+TEST_F(TimesWindowTest, OpensOnToday) {
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 11, 21));
+    EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow));
+    EXPECT_EQ(frmTimes->lblDate.Caption(), "Saturday, November 21, 2026");
+    EXPECT_EQ(frmTimes->lblCity.Caption(), ActiveCityText);
+}
+
+TEST_F(TimesWindowTest, CaptionIsTheDefinitionsUntilAPackReplacesIt) {
+    EXPECT_EQ(TimesForm().Caption(), "Paryer Times");
+    EXPECT_EQ(frmTimes->Caption(), "Prayer Times");
+}
+
+TEST_F(TimesWindowTest, ClockOfTheWindowIsTheTimeOfTheLastFill) {
+    EXPECT_EQ(frmTimes->lblCurrTime.Caption(), "03:04 PM");
+    platform.clock.Advance(600.0);
+    RunTick(DefaultTickActions());
+    EXPECT_EQ(frmTimes->lblCurrTime.Caption(), "03:04 PM");
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(frmTimes->lblCurrTime.Caption(), "03:14 PM");
+}
+
+TEST_F(TimesWindowTest, ButtonsGoOneDayOnAndBackAndHome) {
+    frmTimes->cmdNext.UserClick();
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow + 2));
+    EXPECT_EQ(frmTimes->lblDate.Caption(), "Monday, November 23, 2026");
+    frmTimes->cmdPrev.UserClick();
+    EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow + 1));
+    frmTimes->cmdToday.UserClick();
+    EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow));
+}
+
+TEST_F(TimesWindowTest, LastDayOfTheYearHasNoNext) {
+    ShowThe(12, 31);
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 12, 31));
+    EXPECT_EQ(ShownTimes(), TimesOn(364));
+    frmTimes->cmdPrev.UserClick();
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 12, 30));
+}
+
+TEST_F(TimesWindowTest, FirstDayOfTheYearHasNoPrevious) {
+    ShowThe(1, 1);
+    frmTimes->cmdPrev.UserClick();
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 1, 1));
+    EXPECT_EQ(ShownTimes(), TimesOn(0));
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 1, 2));
+}
+
+TEST_F(TimesWindowTest, EndsOfTheYearHoldInAnyYear) {
+    for (const int year : {2025, 2027, 2028}) {
+        SetClock(year, 12, 31, 12, 0, 0);
+        frmTimes->cmdToday.UserClick();
+        frmTimes->cmdNext.UserClick();
+        EXPECT_EQ(frmTimes->shownDay, DateSerial(year, 12, 31));
+        SetClock(year, 1, 1, 12, 0, 0);
+        frmTimes->cmdToday.UserClick();
+        frmTimes->cmdPrev.UserClick();
+        EXPECT_EQ(frmTimes->shownDay, DateSerial(year, 1, 1));
+    }
+}
+
+TEST_F(TimesWindowTest, LeapYearReachesItsLastRow) {
+    SetClock(2028, 12, 31, 12, 0, 0);
+    RunTick(DefaultTickActions());
+    frmTimes->cmdToday.UserClick();
+    EXPECT_EQ(CurrentYear, 2028);
+    EXPECT_EQ(ShownTimes(), TimesOn(365));
+}
+
+TEST_F(TimesWindowTest, WritesTheDayOfTheWholeProgram) {
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(TodayDate, DateSerial(2026, 11, 22));
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        EXPECT_EQ(TodayTimes[prayer], Times[prayer][kTodaysRow + 1] / 24.0);
+    }
+}
+
+TEST_F(TimesWindowTest, NextTickRepairsTheDayAndLeavesTheWindow) {
+    frmTimes->cmdNext.UserClick();
+    RunTick(DefaultTickActions());
+    EXPECT_EQ(TodayDate, DateSerial(2026, 11, 21));
+    EXPECT_EQ(TodayTimes[kFajr], Times[kFajr][kTodaysRow] / 24.0);
+    EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow + 1));
+}
+
+TEST_F(TimesWindowTest, PrayerThatArrivesBeforeTheRepairIsOneOfTheDayOnView) {
+    for (int i = 0; i < 10; ++i) {
+        frmTimes->cmdNext.UserClick();
+    }
+    const Date asr = platform.clock.Today() + Times[kAsr][kTodaysRow + 10] / 24.0;
+    platform.clock.Set(asr + 2.0 / kSecondsPerDay);
+    std::vector<std::int16_t> alerts;
+    RunTick({[] {}, [] {}, [&](std::int16_t index) { alerts.push_back(index); }});
+    EXPECT_THAT(alerts, ElementsAre(3));
+    alerts.clear();
+    auto actions = DefaultTickActions();
+    actions.alert = [&](std::int16_t index) { alerts.push_back(index); };
+    RunTick(actions);
+    EXPECT_THAT(alerts, IsEmpty()) << "today's Asr is minutes away";
+}
+
+TEST_F(TimesWindowTest, DateOutsideTheTableIsShownWithTheTimesAsTheyStood) {
+    const auto before = ShownTimes();
+    const auto today = TodayTimes;
+    for (const Date date : {DateSerial(2025, 12, 31), DateSerial(2027, 1, 2)}) {
+        EXPECT_NO_THROW(SetTimes(date));
+        EXPECT_EQ(ShownTimes(), before);
+        EXPECT_EQ(TodayTimes, today);
+        EXPECT_EQ(TodayDate, date);
+        EXPECT_EQ(frmTimes->lblDate.Caption(), platform.formats.LongDate(date));
+    }
+}
+
+TEST_F(TimesWindowTest, WindowLeftOpenOverNewYearsEveLosesItsYear) {
+    SetClock(2026, 12, 31, 12, 0, 0);
+    RunTick(DefaultTickActions());
+    SetClock(2026, 12, 31, 23, 59, 59);
+    frmTimes->cmdToday.UserClick();
+    platform.clock.Advance(1.0);
+    RunTick(DefaultTickActions());
+    EXPECT_EQ(CurrentYear, 2027);
+    const auto before = ShownTimes();
+    frmTimes->cmdPrev.UserClick();
+    EXPECT_EQ(frmTimes->lblDate.Caption(), "Wednesday, December 30, 2026");
+    EXPECT_EQ(ShownTimes(), before);
+}
+
+TEST_F(TimesWindowTest, TimerFillsTheWindowOnceAndStops) {
+    EXPECT_EQ(frmTimes->Timer1.Interval(), 500);
+    EXPECT_TRUE(frmTimes->Timer1.Running());
+    frmTimes->cmdNext.UserClick();
+    frmTimes->Timer1.Tick();
+    EXPECT_EQ(frmTimes->shownDay, DateSerial(2026, 11, 21));
+    EXPECT_FALSE(frmTimes->Timer1.Running());
+}
+
+TEST_F(TimesWindowTest, ArabicHidesTheEverydayNamesAndOthersShowThem) {
+    for (const auto& [language, shown] :
+         std::map<std::string, bool>{{"Arabic", false}, {"French", true}, {"English", true}}) {
+        frmTimes->Unload();
+        Speak(language);
+        ShowTimesWindow();
+        for (int prayer = 0; prayer < 6; ++prayer) {
+            EXPECT_EQ(frmTimes->lblZoritName(prayer).Visible(), shown) << language;
+        }
+    }
+}
+
+TEST_F(TimesWindowTest, NamesComeFromTheDefinitionWithoutAPackAndElseFromThePack) {
+    std::vector<std::string> defined;
+    TimesForm form;
+    for (int prayer = 0; prayer < 6; ++prayer) {
+        defined.push_back(form.lblZoritNameArabic(prayer).Caption());
+    }
+    EXPECT_THAT(defined, ElementsAre("Fajr", "Shurook", "Zuhr", "Asr", "Maghrib", "Isha"));
+    EXPECT_EQ(frmTimes->lblZoritNameArabic(1).Caption(), "Shurooq");
+    EXPECT_THAT(ShownTimes(), Each(Not("")));
+}
+
+}  // namespace
+}  // namespace horavex

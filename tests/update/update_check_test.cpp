@@ -1,0 +1,257 @@
+#include "update/update_check.h"
+
+#include "base/fault.h"
+#include "lang/language_pack.h"
+#include "support/test_platform.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kFile = "/program/Dat/update.txt";
+constexpr const char* kNothingNew = "No software update available at this time.";
+constexpr const char* kNoAnswer = "Please check your internet connection and try again.";
+constexpr const char* kUpdate =
+    "Update Available.\r\n"
+    "Please download the latest version of Horavex Prayer Time Software from "
+    "https://horavex.invalid/";
+
+/// What the label and the bar show, one line a change.
+class ProgressLog : public FormObserver {
+public:
+    ProgressLog() { HoravexMainForm->SetObserver(this); }
+    ~ProgressLog() override { HoravexMainForm->SetObserver(nullptr); }
+
+    void ControlChanged(Control& control) override {
+        if (&control == &HoravexMainForm->lblInternetConnect) {
+            lines.push_back(control.Visible() ? control.Caption() : "no label");
+        } else if (&control == &HoravexMainForm->ProgressBar1) {
+            lines.push_back(control.Visible()
+                                ? std::to_string(HoravexMainForm->ProgressBar1.Value())
+                                : "no bar");
+        }
+    }
+    void FormChanged() override {}
+
+    std::vector<std::string> lines;
+};
+
+class UpdateCheckTest : public testing::Test {
+protected:
+    UpdateCheckTest() { platform.network.connection = {true, kLanConnection}; }
+
+    void Publish(const std::string& body) {
+        platform.network.answer = [body] { return body; };
+    }
+
+    std::vector<std::string> MessagesOf(void (*check)()) {
+        platform.dialogs.messages.clear();
+        check();
+        std::vector<std::string> texts;
+        for (const auto& message : platform.dialogs.messages) {
+            EXPECT_EQ(message.title, "");
+            texts.push_back(message.text);
+        }
+        return texts;
+    }
+
+    void ExpectAnswer(const std::string& body, const std::string& message) {
+        Publish(body);
+        EXPECT_THAT(MessagesOf(CheckForUpdate), ElementsAre(message)) << body;
+    }
+
+    TestPlatform platform;
+};
+
+TEST_F(UpdateCheckTest, EqualVersionIsNothingNew) {
+    ExpectAnswer("4.1.1", kNothingNew);
+}
+
+TEST_F(UpdateCheckTest, AnyDifferenceIsAnUpdateOlderNumbersIncluded) {
+    ExpectAnswer("4.1.2", kUpdate);
+    ExpectAnswer("5.0.0", kUpdate);
+    ExpectAnswer("3.9.9", kUpdate);
+    ExpectAnswer("4.1.0.1", kUpdate);
+}
+
+TEST_F(UpdateCheckTest, ComparisonIsExact) {
+    ExpectAnswer("4.1.1 ", kUpdate);
+    ExpectAnswer(" 4.1.1", kUpdate);
+    ExpectAnswer("4.1.1\t\r\n", kUpdate);
+}
+
+TEST_F(UpdateCheckTest, EndOfTheLineIsNoPartOfIt) {
+    ExpectAnswer("4.1.1\n", kNothingNew);
+    ExpectAnswer("4.1.1\r\n", kNothingNew);
+}
+
+TEST_F(UpdateCheckTest, LastLineAloneCounts) {
+    ExpectAnswer("4.1.2\r\nwhat is new\r\n4.1.1\r\n", kNothingNew);
+    ExpectAnswer("4.1.1\n4.1.1\n4.1.2", kUpdate);
+}
+
+TEST_F(UpdateCheckTest, EmptyLastLineIsAnEmptyAnswer) {
+    ExpectAnswer("4.1.1\n\n", kNoAnswer);
+    ExpectAnswer("4.1.1\r\n\r\n", kNoAnswer);
+}
+
+TEST_F(UpdateCheckTest, EmptyBodyAsksForTheConnection) {
+    ExpectAnswer("", kNoAnswer);
+}
+
+TEST_F(UpdateCheckTest, ErrorPageIsTakenForAnUpdate) {
+    ExpectAnswer("<html>\n<body>Not Found</body>\n</html>\n", kUpdate);
+}
+
+TEST_F(UpdateCheckTest, BodyOfAnyBytesIsKeptAsItCame) {
+    const std::string body("4.1\0\xff\r\n", 7);
+    ExpectAnswer(body, kUpdate);
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), body);
+}
+
+TEST_F(UpdateCheckTest, FileIsAskedForFromTheServerThatIsSet) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Web Server",
+                               "https://prayer.example");
+    Publish("5");
+    EXPECT_THAT(
+        MessagesOf(CheckForUpdate),
+        ElementsAre("Update Available.\r\nPlease download the latest version of Horavex Prayer "
+                    "Time Software from https://prayer.example/"));
+    EXPECT_THAT(platform.network.requests, ElementsAre("https://prayer.example/update/update.txt"));
+}
+
+TEST_F(UpdateCheckTest, MessagesSpeakTheLanguageOfThePack) {
+    currentLanguage = "Test";
+    platform.files.WriteWhole("/program/lang/Test.ini",
+                              BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
+    ExpectAnswer("5", "new\r\nfrom there");
+    ExpectAnswer("", "none");
+    ExpectAnswer("4.1.1", "same");
+}
+
+TEST_F(UpdateCheckTest, ProgressIsToldProbeByProbeAndGoes) {
+    Publish("4.1.1");
+    ProgressLog log;
+    CheckForUpdate();
+    EXPECT_THAT(
+        log.lines,
+        ElementsAre(
+            "Checking internet connection ", "0", "1", "Checking for Lan Connection...", "2",
+            "Checking for Modem Connection...", "3", "Checking for Connection Via Proxy...", "4",
+            "Checking for Any Internet Connection...", "5", "Checking if RAS is installed...", "6",
+            "Checking connection type", "7", "Connect via a LAN..", "10", "no label", "no bar"));
+}
+
+TEST_F(UpdateCheckTest, NextCheckBeginsTheBarAnew) {
+    CheckForUpdate();
+    ProgressLog log;
+    CheckForUpdate();
+    EXPECT_THAT(log.lines, testing::Contains("1"));
+    EXPECT_EQ(HoravexMainForm->ProgressBar1.Value(), 10);
+}
+
+TEST_F(UpdateCheckTest, LabelAndBarStandWhileTheFetchBlocks) {
+    platform.network.answer = [] {
+        EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
+        EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
+        return "4.1.1";
+    };
+    CheckForUpdate();
+    EXPECT_EQ(platform.network.requests.size(), 1U);
+}
+
+TEST_F(UpdateCheckTest, OfflineIsTheSummaryAndNoFetch) {
+    platform.network.connection = {false, kConnectionOffline};
+    EXPECT_THAT(MessagesOf(CheckForUpdate), ElementsAre("No internet connection."));
+    EXPECT_THAT(platform.network.requests, IsEmpty());
+    EXPECT_FALSE(platform.files.Exists(kFile));
+    EXPECT_FALSE(HoravexMainForm->lblInternetConnect.Visible());
+    EXPECT_FALSE(HoravexMainForm->ProgressBar1.Visible());
+}
+
+TEST_F(UpdateCheckTest, FormerFileIsDeletedBeforeTheFetch) {
+    platform.files.WriteWhole(kFile, BytesOf("old"));
+    platform.network.answer = [this] {
+        EXPECT_FALSE(platform.files.Exists(kFile));
+        return "4.1.1";
+    };
+    CheckForUpdate();
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), "4.1.1");
+}
+
+TEST_F(UpdateCheckTest, FileThatCannotBeWrittenIsAFault) {
+    Publish("4.1.1");
+    platform.files.WriteWhole("/program/Dat/update.txt/in the way", BytesOf(""));
+    EXPECT_THROW(CheckForUpdate(), FileFault);
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+}
+
+TEST_F(UpdateCheckTest, SilentCheckTellsADifferenceInEnglishAlone) {
+    currentLanguage = "Test";
+    platform.files.WriteWhole("/program/lang/Test.ini",
+                              BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
+    Publish("5");
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), ElementsAre(kUpdate));
+    Publish("4.1.1");
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
+    Publish("");
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
+}
+
+TEST_F(UpdateCheckTest, SilentCheckTellsThatTheMachineIsOffline) {
+    platform.network.connection = {false, kConnectionOffline};
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), ElementsAre("No internet connection."));
+}
+
+TEST_F(UpdateCheckTest, SilentCheckKeepsTheFormerFileUntilItIsWrittenOver) {
+    platform.files.WriteWhole(kFile, BytesOf("old"));
+    platform.network.answer = [this] {
+        EXPECT_TRUE(platform.files.Exists(kFile));
+        return "4.1.1";
+    };
+    CheckForUpdateSilently();
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), "4.1.1");
+}
+
+TEST_F(UpdateCheckTest, TimerOfHalfAMinuteStandsStillAndChecksOnceWhereItIsStarted) {
+    BindUpdateCheck();
+    EXPECT_FALSE(HoravexMainForm->UpdateCheckTimer.Enabled());
+    EXPECT_EQ(HoravexMainForm->UpdateCheckTimer.Interval(), 30'000);
+    HoravexMainForm->Load();
+    HoravexMainForm->UpdateCheckTimer.SetEnabled(true);
+    Publish("5");
+    EXPECT_THAT(MessagesOf([] { HoravexMainForm->UpdateCheckTimer.Tick(); }), ElementsAre(kUpdate));
+    EXPECT_FALSE(HoravexMainForm->UpdateCheckTimer.Enabled());
+}
+
+TEST_F(UpdateCheckTest, LabelChecksAndTheButtonOpensTheSite) {
+    BindUpdateCheck();
+    HoravexMainForm->Show();
+    Publish("4.1.1");
+    EXPECT_THAT(MessagesOf([] { HoravexMainForm->VisitWebSiteLabel.UserClick(); }),
+                ElementsAre(kNothingNew));
+    EXPECT_THAT(MessagesOf([] { HoravexMainForm->AboutUpdateButton.UserClick(); }), IsEmpty());
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenAddress https://horavex.invalid/"));
+    EXPECT_EQ(platform.network.requests.size(), 1U);
+}
+
+TEST_F(UpdateCheckTest, ScratchFileOfTheLastRunGoesAtTheStart) {
+    platform.files.WriteWhole(kFile, BytesOf("5"));
+    ClearUpdateFile();
+    EXPECT_EQ(updateFilePath, "Dat\\update.txt");
+    EXPECT_FALSE(platform.files.Exists(kFile));
+}
+
+TEST_F(UpdateCheckTest, ScratchFileThatCannotBeDeletedStaysWithoutAWord) {
+    platform.files.WriteWhole("/program/Dat/update.txt/in the way", BytesOf(""));
+    ClearUpdateFile();
+    EXPECT_TRUE(platform.files.Exists(kFile));
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+}
+
+}  // namespace
+}  // namespace horavex
