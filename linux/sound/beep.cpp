@@ -9,22 +9,24 @@ namespace horavex {
 
 namespace {
 
-constexpr int kRate = 44100;         // samples a second
-constexpr int kSamples = kRate / 4;  // a quarter of a second
-constexpr double kPitch = 880.0;     // hertz
-constexpr double kLoudness = 0.4;    // of full scale
+constexpr int kRate = 44100;  // samples a second
+constexpr double kSeconds = 0.25;
+constexpr auto kSamples = static_cast<std::size_t>(kSeconds * kRate);
+constexpr double kPitch = 880.0;   // hertz
+constexpr double kLoudness = 0.4;  // of full scale
 
 // The tone swells and fades, so that it does not click.
-double ToneAt(int sample) {
+double ToneAt(double part) {
     constexpr double kTurn = 2.0 * std::numbers::pi;
-    const double swell = 0.5 - 0.5 * std::cos(kTurn * sample / kSamples);
-    return kLoudness * swell * std::sin(kTurn * kPitch * sample / kRate);
+    const double swell = 0.5 - 0.5 * std::cos(kTurn * part);
+    return kLoudness * swell * std::sin(kTurn * kPitch * part * kSeconds);
 }
 
 Bytes Tone() {
     Bytes tone(kSamples * kSampleBytes);
-    for (int i = 0; i < kSamples; ++i) {
-        const auto sample = static_cast<std::int16_t>(32767.0 * ToneAt(i));
+    for (std::size_t i = 0; i < kSamples; ++i) {
+        const double part = static_cast<double>(i) / static_cast<double>(kSamples);
+        const auto sample = static_cast<std::int16_t>(32767.0 * ToneAt(part));
         std::memcpy(tone.data() + i * kSampleBytes, &sample, sizeof sample);
     }
     return tone;

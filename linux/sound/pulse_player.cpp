@@ -48,11 +48,12 @@ void PulsePlayer::Start() {
         return;
     }
     start_ = std::make_shared<const bool>();
-    stream_ = std::make_unique<PulseStream>(
-        spec, PulseStream::Events{.empty = Posted(&PulsePlayer::CallForBlocks),
-                                  .taken = Posted(&PulsePlayer::BlockTaken),
-                                  .ended = Posted(&PulsePlayer::Ended),
-                                  .unreachable = Posted(&PulsePlayer::Unreachable)});
+    PulseStream::Events events;
+    events.empty = Posted(&PulsePlayer::CallForBlocks);
+    events.taken = Posted(&PulsePlayer::BlockTaken);
+    events.ended = Posted(&PulsePlayer::Ended);
+    events.unreachable = Posted(&PulsePlayer::Unreachable);
+    stream_ = std::make_unique<PulseStream>(spec, std::move(events));
     for (Bytes& block : blocks) {
         stream_->Queue(std::move(block));
     }

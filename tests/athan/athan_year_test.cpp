@@ -93,7 +93,7 @@ struct AthanYear : ProgramTest {
     void RunAthan(Date day, std::size_t prayer) {
         platform.desktop.calls.clear();
         if (frmAzan->IsLoaded()) {
-            platform.desktop.calls.push_back("load frmAzan");
+            platform.desktop.calls.emplace_back("load frmAzan");
         }
         ChangeTheWorld();
         platform.clock.Set(day + std::ceil(TodayTimes[prayer] * kSecondsPerDay) / kSecondsPerDay);

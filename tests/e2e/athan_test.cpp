@@ -338,6 +338,16 @@ TEST_F(AthanSettingsProgramTest, AthanThatComesUpOverItCanBeStopped) {
     recording.WaitForSilence(start);
 }
 
+TEST_F(AthanSettingsProgramTest, AthanThatIsUpCanBeStoppedOnceItIsOpened) {
+    const ChildProcess program = Start();
+    GoTo(3);
+    const std::string window = WaitForAthan(program);
+    SetClock(SecondOf(3) + 60);
+    OpenSettings(program);
+    PressStop(window);
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+}
+
 long ProportionalKilobytes(const ChildProcess& program) {
     std::ifstream in("/proc/" + std::to_string(program.Id()) + "/smaps_rollup");
     for (std::string line; std::getline(in, line);) {
