@@ -130,6 +130,15 @@ TEST_F(HttpGetTest, RedirectionOutOfTheWebIsEmpty) {
     }
 }
 
+// The server itself stands where the redirection leads; it answers one after the other, so that
+// the last request would come behind the one in question.
+TEST_F(HttpGetTest, RedirectionOutOfTheWebIsNotEvenTried) {
+    server.Redirect("/", "ftp" + server.Address().substr(4) + "/secret");
+    EXPECT_EQ(Get("/", {kShort, 1000}), "");
+    Get("/last");
+    EXPECT_THAT(server.Requests(), ElementsAre("/", "/last"));
+}
+
 TEST_F(HttpGetTest, AddressOutOfTheWebIsEmpty) {
     const TemporaryFolder folder;
     std::ofstream(folder / "secret") << "secret";
