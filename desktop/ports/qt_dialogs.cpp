@@ -26,12 +26,6 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". Else empty.
-QString SuffixOf(const QString& filter) {
-    static const QRegularExpression oneSuffix(QStringLiteral(R"(\(\*\.(\w+)\)$)"));
-    return oneSuffix.match(filter).captured(1);
-}
-
 /// "label|pattern;pattern|" over and over, as the toolkit has it: "label (pattern pattern)".
 QStringList FiltersOf(const QString& filter) {
     const QStringList parts = filter.split(u'|');
@@ -41,6 +35,19 @@ QStringList FiltersOf(const QString& filter) {
         filters << parts[i] + " (" + patterns.replace(u';', u' ') + ")";
     }
     return filters;
+}
+
+/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". The dialogue names
+/// the type without its pattern. Else empty.
+QString SuffixOf(const QString& type, const QStringList& filters) {
+    static const QRegularExpression oneSuffix(QStringLiteral(R"( \(\*\.(\w+)\)$)"));
+    for (const QString& filter : filters) {
+        const auto match = oneSuffix.match(filter);
+        if (match.hasMatch() && filter.startsWith(type + QStringLiteral(" ("))) {
+            return match.captured(1);
+        }
+    }
+    return {};
 }
 
 }  // namespace
@@ -63,9 +70,9 @@ std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& s
     QFileDialog dialog(QApplication::activeWindow(), QString::fromStdString(request.title));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(suffix));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& chosen) {
-        if (!SuffixOf(chosen).isEmpty()) {
-            dialog.setDefaultSuffix(SuffixOf(chosen));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, [&](const QString& type) {
+        if (const QString own = SuffixOf(type, filters); !own.isEmpty()) {
+            dialog.setDefaultSuffix(own);
         }
     });
     dialog.setOption(QFileDialog::HideNameFilterDetails);

@@ -1,6 +1,7 @@
 #include "desktop/form_window/layouts.h"
 
 #include <QApplication>
+#include <QTabBar>
 
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
@@ -27,11 +28,14 @@ QStringList ControlNames(const Form& form) {
     return names;
 }
 
-// Widgets inside widgets of the toolkit have its own names or none.
+// Widgets inside widgets of the toolkit have its own names or none, and so have those that only
+// hold a place in a layout.
 QStringList WidgetNames(const QWidget& window) {
     QStringList names;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_")) {
+        const bool isInTabs = qobject_cast<QTabBar*>(widget->parentWidget()) != nullptr;
+        if (!widget->objectName().isEmpty() && !widget->objectName().startsWith("qt_") &&
+            !isInTabs) {
             names << widget->objectName();
         }
     }
