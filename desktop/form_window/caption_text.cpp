@@ -38,12 +38,15 @@ Qt::LayoutDirection DirectionOfCaptions(const Form& form) {
     return votes > 0 ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
-QString ShownCaption(const Control& control, const QWidget& widget) {
-    const QString caption = WithoutBrokenKey(QString::fromStdString(control.Caption()));
-    if (!caption.isRightToLeft() && widget.layoutDirection() == Qt::LeftToRight) {
-        return caption;
+QString ShownText(const QString& text, const QWidget& widget) {
+    if (!text.isRightToLeft() && widget.layoutDirection() == Qt::LeftToRight) {
+        return text;
     }
-    return kIsolate + caption + kEndIsolate;
+    return kIsolate + text + kEndIsolate;
+}
+
+QString ShownCaption(const Control& control, const QWidget& widget) {
+    return ShownText(WithoutBrokenKey(QString::fromStdString(control.Caption())), widget);
 }
 
 QString WithoutBrokenKey(const QString& caption) {

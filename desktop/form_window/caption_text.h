@@ -11,8 +11,11 @@ namespace horavex {
 /// without a letter count for neither side, and a tie is left to right.
 Qt::LayoutDirection DirectionOfCaptions(const Form& form);
 
-/// A control's caption for its widget. One that runs from right to left, or against the window,
-/// gets marks around it that keep its own order: "06:30 AM" in an Arabic window.
+/// A text for a widget. One that runs from right to left, or against the window, gets marks around
+/// it that keep its own order: "06:30 AM" in an Arabic window.
+QString ShownText(const QString& text, const QWidget& widget);
+
+/// A control's caption for its widget, in the same way.
 QString ShownCaption(const Control& control, const QWidget& widget);
 
 /// A caption with the sign of its key, except in a script that runs from right to left: the line

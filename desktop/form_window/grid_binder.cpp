@@ -2,7 +2,11 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QWheelEvent>
+#include <algorithm>
+
+#include "desktop/form_window/caption_text.h"
 
 namespace horavex {
 
@@ -39,10 +43,10 @@ GridBinder::GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refres
     widget.setSelectionMode(QAbstractItemView::NoSelection);
     widget.setShowGrid(false);
     widget.verticalHeader()->hide();
-    widget.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    widget.horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-    widget.verticalHeader()->setMinimumSectionSize(0);
-    widget.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    widget.setWordWrap(false);
+    // All rows fit into the window as long as their texts do.
+    widget.verticalHeader()->setMinimumSectionSize(widget.fontMetrics().height() + 2);
+    widget.verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     widget.viewport()->installEventFilter(this);
 }
 
@@ -52,18 +56,49 @@ void GridBinder::Show() {
     for (int row = 0; row < widget.rowCount(); ++row) {
         ShowRow(row);
     }
+    ShareWidth();
+}
+
+/// Equal columns, but for those whose texts need more.
+void GridBinder::ShareWidth() {
+    QHeaderView& header = *widget.horizontalHeader();
+    const int share = widget.viewport()->width() / std::max(widget.columnCount(), 1);
+    for (int column = 0; column < widget.columnCount(); ++column) {
+        const int width = std::max(WidthOf(column), header.sectionSizeHint(column));
+        header.setSectionResizeMode(column,
+                                    width > share ? QHeaderView::Fixed : QHeaderView::Stretch);
+        if (width > share) {
+            header.resizeSection(column, width);
+        }
+    }
+}
+
+/// What the widest text of a column needs, in bold as it may be set off another time.
+int GridBinder::WidthOf(int column) const {
+    QFont bold = widget.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int width = 0;
+    for (int row = 0; row < widget.rowCount(); ++row) {
+        const QTableWidgetItem* item = widget.item(row, column);
+        width = std::max(width, item == nullptr ? 0 : metrics.horizontalAdvance(item->text()));
+    }
+    return width + 3 * metrics.averageCharWidth();
 }
 
 void GridBinder::ShowHeads() {
     widget.setColumnCount(static_cast<int>(control.heads.size()));
     widget.setHorizontalHeaderLabels(TextsOf(control.heads));
+    // The head of a column does not turn round with its window by itself.
+    const Qt::Alignment side = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft);
+    widget.horizontalHeader()->setDefaultAlignment(side | Qt::AlignVCenter);
 }
 
 void GridBinder::ShowRow(int row) {
     const Grid::Row& shown = control.rows.at(static_cast<std::size_t>(row));
     const QStringList texts = TextsOf(shown.cells);
     for (int column = 0; column < texts.size(); ++column) {
-        auto* item = new QTableWidgetItem(texts[column]);
+        auto* item = new QTableWidgetItem(ShownText(texts[column], widget));
         item->setTextAlignment(Qt::AlignLeading | Qt::AlignVCenter);
         Dress(*item, shown, widget.palette());
         widget.setItem(row, column, item);
@@ -71,6 +106,9 @@ void GridBinder::ShowRow(int row) {
 }
 
 bool GridBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        ShareWidth();
+    }
     if (event->type() == QEvent::Wheel) {
         Wheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
         return true;

@@ -19,6 +19,8 @@ protected:
 private:
     void ShowHeads();
     void ShowRow(int row);
+    void ShareWidth();
+    int WidthOf(int column) const;
     void Wheel(int delta);
     void Turn(int step);
 

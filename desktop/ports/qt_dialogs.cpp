@@ -26,12 +26,6 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". Else empty.
-QString SuffixOf(const QString& filter) {
-    static const QRegularExpression oneSuffix(QStringLiteral(R"(\(\*\.(\w+)\)$)"));
-    return oneSuffix.match(filter).captured(1);
-}
-
 /// "label|pattern;pattern|" over and over, as the toolkit has it: "label (pattern pattern)".
 QStringList FiltersOf(const QString& filter) {
     const QStringList parts = filter.split(u'|');
@@ -56,6 +50,19 @@ std::string Ask(QFileDialog& dialog, const FileRequest& request) {
     return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
 
+/// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". The dialogue names
+/// the type without its pattern. Else empty.
+QString SuffixOf(const QString& type, const QStringList& filters) {
+    static const QRegularExpression oneSuffix(QStringLiteral(R"( \(\*\.(\w+)\)$)"));
+    for (const QString& filter : filters) {
+        const auto match = oneSuffix.match(filter);
+        if (match.hasMatch() && filter.startsWith(type + QStringLiteral(" ("))) {
+            return match.captured(1);
+        }
+    }
+    return {};
+}
+
 }  // namespace
 
 void QtDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
@@ -77,9 +84,9 @@ std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& s
     QFileDialog dialog(QApplication::activeWindow());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(suffix));
-    QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& chosen) {
-        if (!SuffixOf(chosen).isEmpty()) {
-            dialog.setDefaultSuffix(SuffixOf(chosen));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& type) {
+        if (const QString own = SuffixOf(type, dialog.nameFilters()); !own.isEmpty()) {
+            dialog.setDefaultSuffix(own);
         }
     });
     return Ask(dialog, request);

@@ -119,6 +119,12 @@ YearChart Chart() {
     return {shown->table, shown->words, picture.ScaleWidth(), picture.ScaleHeight()};
 }
 
+/// A time inside a line of words, which keeps its own order where these run from right to left.
+std::string TimeInLine(const std::optional<double>& hours) {
+    const std::string text = TimeText(hours);
+    return shown->words.rightToLeft ? "\u2068" + text + "\u2069" : text;
+}
+
 /// One day in a line: both dates and all times.
 void TellDay(std::size_t row) {
     const TimetableDay& day = shown->table.days.at(row);
@@ -126,7 +132,7 @@ void TellDay(std::size_t row) {
     std::string line = DayText(day) + " " + shown->words.MonthTitle(date.year, date.month) + ", " +
                        shown->words.HijriText(day.hijri);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        line += "   " + shown->words.prayers.at(prayer) + " " + TimeText(day.hours.at(prayer));
+        line += "   " + shown->words.prayers.at(prayer) + " " + TimeInLine(day.hours.at(prayer));
     }
     frmMonth->lblPointer.SetCaption(line);
 }

@@ -17,7 +17,7 @@ public:
 
     TabStrip tabPages{*this, "tabPages", {.items = {"Month", "Year"}, .listIndex = 0}};
 
-    Label lblMonth{*this, "lblMonth"};
+    Label lblMonth{*this, "lblMonth", {.caption = "Month"}};
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "Previous Month"}};
     CommandButton cmdToday{*this, "cmdToday", {.caption = "Today"}};
     CommandButton cmdNext{*this, "cmdNext", {.caption = "Next Month"}};

@@ -2,6 +2,10 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QTimer>
 
 #include "desktop/documents/month_page.h"
 #include "desktop/documents/pdf_file.h"
@@ -75,6 +79,34 @@ TEST_F(DocumentsTest, PdfIsWrittenWholeThroughTheFiles) {
     const Timetable table = TakeTimetable();
     WritePdf("/home/year.pdf", {table, words, 0.0});
     EXPECT_THAT(StringOf(platform.files.Contents("/home/year.pdf")), StartsWith("%PDF-"));
+}
+
+TEST_F(DocumentsTest, PreviewShowsTheOnePageOfTheMonth) {
+    InstallDesktopDocuments();
+    const Timetable table = TakeTimetable();
+    int pages = 0;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        pages = dialog->findChild<QPrintPreviewWidget*>()->pageCount();
+        dialog->reject();
+    });
+    InstalledDocumentTools().previewMonth({table, words, 0.0}, 5);
+    EXPECT_EQ(pages, 1);
+}
+
+TEST_F(DocumentsTest, PrintingAsksForThePrinterAndLetsTheUserCancel) {
+    InstallDesktopDocuments();
+    const Timetable table = TakeTimetable();
+    bool asked = false;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        asked = true;
+        dialog->reject();
+    });
+    InstalledDocumentTools().printMonth({table, words, 0.0}, 5);
+    EXPECT_TRUE(asked);
 }
 
 TEST_F(DocumentsTest, PngHasTwicePixelsOfTheScreen) {

@@ -1,3 +1,4 @@
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QWheelEvent>
 
@@ -69,6 +70,26 @@ TEST_F(GridBinderTest, RowsThatStandOutAreBoldAndThePresentOneIsColoured) {
     EXPECT_TRUE(Table().item(2, 0)->font().bold());
     EXPECT_EQ(Table().item(2, 0)->background(), Table().palette().highlight());
     EXPECT_NE(Table().item(1, 0)->background(), Table().palette().highlight());
+}
+
+TEST_F(GridBinderTest, ColumnsShareTheWidthButForOneThatNeedsMore) {
+    Table().resize(600, 200);
+    EXPECT_EQ(Table().columnWidth(0), Table().columnWidth(1));
+    form.grid.rows[0].cells[1] = std::string(60, 'm');
+    form.grid.Refresh();
+    QApplication::processEvents();
+    EXPECT_GT(Table().columnWidth(1), 300);
+    EXPECT_LT(Table().columnWidth(0), 300);
+}
+
+TEST_F(GridBinderTest, AllRowsFitIntoTheTableAsLongAsTheirTextsDo) {
+    Table().resize(600, 400);
+    QApplication::processEvents();
+    EXPECT_FALSE(Table().verticalScrollBar()->isVisible());
+    form.grid.rows.resize(31, {{"x", "y"}, false, false});
+    form.grid.Refresh();
+    QApplication::processEvents();
+    EXPECT_GE(Table().rowHeight(0), Table().fontMetrics().height());
 }
 
 TEST_F(GridBinderTest, FollowsItsControl) {

@@ -1,7 +1,8 @@
 // Renders the face and the windows into PNG files, to be looked at by the people who draw them:
 //
-//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER
+//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER [dark]
 #include <QApplication>
+#include <QPalette>
 
 #include "base/flag.h"
 #include "config/about_window.h"
@@ -188,8 +189,20 @@ void RenderAll(const FormWindows& windows, bool arabic) {
 
 }  // namespace
 
+/// Light texts on dark ground, as a desktop at night has them.
+QPalette Dark() {
+    QPalette palette(QColor(45, 48, 53));
+    palette.setColor(QPalette::Base, QColor(30, 32, 36));
+    palette.setColor(QPalette::AlternateBase, QColor(52, 56, 62));
+    palette.setColor(QPalette::Highlight, QColor(42, 118, 188));
+    return palette;
+}
+
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    if (argc > 2) {
+        QApplication::setPalette(Dark());
+    }
     TestPlatform platform;
     CopyBuiltProgramFolder(platform.files);
     folder = QString::fromLocal8Bit(argv[1]);
