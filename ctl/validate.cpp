@@ -2,6 +2,7 @@
 #include <memory>
 #include <optional>
 
+#include "config/help_check.h"
 #include "ctl/command.h"
 #include "lang/pack_check.h"
 #include "store/data_check.h"
@@ -23,6 +24,7 @@ CheckReport Check() {
     CheckReport report;
     CheckDataFiles(report);
     CheckLanguagePacks(report);
+    CheckHelp(report);
     return report;
 }
 

@@ -1,7 +1,5 @@
 #include "config/help.h"
 
-#include <algorithm>
-
 #include "base/fault.h"
 #include "base/program_state.h"
 #include "base/text.h"
@@ -24,8 +22,6 @@ const ProgramStateReset reset([] {
     HelpWindowInfo = {};
 });
 
-constexpr const char* kFileName = "Horavex.HLP";
-
 HelpTopics ReadTopics() {
     return HelpTopics(StringOf(Ports().programFolder.ReadWhole(helpFile)));
 }
@@ -36,20 +32,13 @@ std::string PathOf(const std::string& page) {
     return Ports().programFolder.Exists(path) ? path : "\\help\\English\\" + page;
 }
 
-/// What stands in the title element of a page.
-std::string TitleOf(const std::string& page) {
-    constexpr std::string_view kOpening = "<title>";
-    const std::size_t begin = page.find(kOpening);
-    const std::size_t end = page.find("</title>");
-    if (begin == std::string::npos || end == std::string::npos) {
-        throw FileFault("help", "a page has no title");
-    }
-    return page.substr(begin + kOpening.size(), end - begin - kOpening.size());
-}
-
 HelpPage PageAt(const std::string& path) {
     const ProgramFolder& folder = Ports().programFolder;
-    return {TitleOf(StringOf(folder.ReadWhole(path))), folder.RealPath(path)};
+    const std::string title = TitleOfPage(StringOf(folder.ReadWhole(path)));
+    if (title.empty()) {
+        throw FileFault(path, "the page has no title");
+    }
+    return {title, folder.RealPath(path)};
 }
 
 HelpView NewView() {
@@ -68,7 +57,7 @@ HelpView NewView() {
 void InitHelp(const std::string& windowHandle, std::string folder) {
     helpOwnerWindow = windowHandle;
     folder = Trim(folder);
-    helpFile = folder + (folder.ends_with('\\') ? "" : "\\") + kFileName;
+    helpFile = folder + (folder.ends_with('\\') ? "" : "\\") + kHelpFileName;
     HelpWindowInfo = {26, {256, 256, 512, 512}, {0, 0}};
 }
 

@@ -1,6 +1,7 @@
 #include "config/help_topics.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "config/help.h"
 #include "lang/profile_file.h"
@@ -13,6 +14,16 @@ constexpr const char* kTopics = "topics";
 constexpr const char* kWindows = "windows";
 
 }  // namespace
+
+std::string TitleOfPage(const std::string& page) {
+    constexpr std::string_view kOpening = "<title>";
+    const std::size_t begin = page.find(kOpening);
+    const std::size_t end = page.find("</title>");
+    if (begin == std::string::npos || end == std::string::npos) {
+        return {};
+    }
+    return page.substr(begin + kOpening.size(), end - begin - kOpening.size());
+}
 
 std::string HelpTopics::PageOf(int contextNumber) const {
     return std::string(

@@ -5,6 +5,12 @@
 
 namespace horavex {
 
+/// Name of the help file, in the program's folder.
+inline constexpr const char* kHelpFileName = "Horavex.HLP";
+
+/// What stands in the title element of a page; empty without one.
+std::string TitleOfPage(const std::string& page);
+
 /// The help file: a profile file with the sections "topics", the page of each context number in
 /// the order of the contents, and "windows", the context number of each window by its name.
 class HelpTopics {

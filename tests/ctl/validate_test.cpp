@@ -56,6 +56,12 @@ TEST(CtlValidate, NameOfAPackThatIsNoUtf8IsToldAllTheSame) {
     EXPECT_THAT(ProblemsOf(folder), Contains(StartsWith("lang/\xEF\xBF\xBD.ini: ")));
 }
 
+TEST(CtlValidate, HelpIsLookedThrough) {
+    const DamagedFolder folder;
+    folder.Remove("help/English/qibla.html");
+    EXPECT_THAT(ProblemsOf(folder), Contains("help/English/qibla.html: is missing"));
+}
+
 class FilesOfAFolder : public testing::TestWithParam<const char*> {
 protected:
     /// A problem in a packed text is told at the index that points to it.
