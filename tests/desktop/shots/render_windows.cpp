@@ -2,17 +2,21 @@
 //
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_windows FOLDER [dark]
 #include <QApplication>
+#include <QDialog>
 #include <QPalette>
+#include <QTimer>
 
 #include "base/flag.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/printing/document_desk.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/progress.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
+#include "linux/posix_files.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
@@ -46,6 +50,15 @@ void Save(const FormWindows& windows, const Form& form, const QString& name) {
     QWidget* window = windows.Find(&form);
     const auto scale = QString::number(window->devicePixelRatioF());
     window->grab().save(folder + "/" + name + "-" + scale + "x.png");
+}
+
+/// The print preview that is open, which closes then.
+void SavePreview(const QString& name) {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    dialog->resize(900, 900);
+    QApplication::processEvents();
+    dialog->grab().save(folder + "/" + name + ".png");
+    dialog->reject();
 }
 
 void ShowSettings(bool arabic) {
@@ -145,6 +158,17 @@ void TakeCairo(TestPlatform& platform, bool arabic) {
     RecalculateYear();
 }
 
+/// The chart on view as the month window saves it.
+void SaveChart(TestPlatform& platform, const QString& name) {
+    PosixFiles disk;
+    for (const std::string suffix : {".svg", ".png"}) {
+        platform.dialogs.savedFile = "/chart" + suffix;
+        frmMonth->cmdSave.UserClick();
+        disk.WriteWhole((folder + "/" + name).toStdString() + suffix,
+                        platform.files.Contents("/chart" + suffix));
+    }
+}
+
 void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     TakeCairo(platform, arabic);
@@ -156,8 +180,11 @@ void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool a
     Save(windows, *frmMonth, "month-" + language);
     frmMonth->grdMonth.UserPage(-1);
     Save(windows, *frmMonth, "month-change-" + language);
+    QTimer::singleShot(0, [&language] { SavePreview("preview-" + language); });
+    frmMonth->cmdPreview.UserClick();
     frmMonth->tabPages.UserSelect(1);
     Save(windows, *frmMonth, "year-" + language);
+    SaveChart(platform, "year-" + language);
     frmMonth->Unload();
     frmTimes->Unload();
 }
@@ -201,6 +228,7 @@ int main(int argc, char** argv) {
     InstallDayHost(&host);
     BindTimesWindow();
     BindMonthWindow();
+    InstallDesktopDocuments();
     RenderTimetables(platform, windows, false);
     RenderTimetables(platform, windows, true);
     return 0;
