@@ -1,6 +1,10 @@
 #include "desktop/documents/month_page.h"
 
-#include <QTextOption>
+#include <QGlyphRun>
+#include <QPaintEngine>
+#include <QPainterPath>
+#include <QRawFont>
+#include <QTextLayout>
 
 #include "base/number_text.h"
 #include "base/rounding.h"
@@ -35,6 +39,19 @@ QString Text(const std::string& text) {
 
 QString Degrees(double degrees) {
     return Text(NumberToText(degrees)) + QChar(0xB0);
+}
+
+/// A line of text as outlines. A painter that records for a preview would lay each piece of it out
+/// anew, and so lose the order of a line in two directions.
+void DrawOutlines(QPainter& painter, const QTextLayout& layout, const QPointF& at) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        const QList<quint32> glyphs = run.glyphIndexes();
+        for (qsizetype i = 0; i < glyphs.size(); ++i) {
+            const QPainterPath outline = run.rawFont().pathForGlyph(glyphs[i]);
+            painter.fillPath(outline.translated(at + run.positions()[i]), painter.pen().color());
+        }
+    }
 }
 
 class MonthPage {
@@ -84,12 +101,26 @@ private:
 
     /// The text runs in its own direction, at the side where the language begins.
     void Write(const QRectF& box, const QString& text, const QColor& colour = kInk) {
-        QTextOption option(Qt::AlignVCenter | Qt::AlignAbsolute |
-                           (Words().rightToLeft ? Qt::AlignRight : Qt::AlignLeft));
+        QTextOption option(Words().rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
         option.setWrapMode(QTextOption::NoWrap);
         option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        QTextLayout layout(text, painter_.font(), painter_.device());
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(box.width());
+        layout.endLayout();
+        const QRectF place = Mirrored(box);
+        Draw(layout, {place.left(), place.center().y() - line.height() / 2.0}, colour);
+    }
+
+    void Draw(const QTextLayout& layout, const QPointF& at, const QColor& colour) {
         painter_.setPen(colour);
-        painter_.drawText(Mirrored(box), text, option);
+        if (painter_.paintEngine()->type() == QPaintEngine::Picture) {
+            DrawOutlines(painter_, layout, at);
+        } else {
+            layout.draw(&painter_, at);
+        }
     }
 
     void WriteLine(const QString& text, double size, bool bold, const QColor& colour = kInk) {

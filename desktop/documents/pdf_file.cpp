@@ -5,6 +5,7 @@
 #include <QPdfWriter>
 
 #include "desktop/documents/month_page.h"
+#include "desktop/documents/usual_paper.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -14,9 +15,20 @@ namespace {
 constexpr int kDotsPerInch = 600;
 constexpr double kMargin = 15.0;  // millimetres
 
+QPageSize SizeOf(PaperSize paper) {
+    switch (paper) {
+        case PaperSize::kA4:
+            return QPageSize(QPageSize::A4);
+        case PaperSize::kLetter:
+            return QPageSize(QPageSize::Letter);
+        case PaperSize::kUsual:
+            break;
+    }
+    return UsualPaper();
+}
+
 QPageLayout LayoutOf(PaperSize paper) {
-    const QPageSize size(paper == PaperSize::kA4 ? QPageSize::A4 : QPageSize::Letter);
-    return {size, QPageLayout::Portrait, QMarginsF(kMargin, kMargin, kMargin, kMargin),
+    return {SizeOf(paper), QPageLayout::Portrait, QMarginsF(kMargin, kMargin, kMargin, kMargin),
             QPageLayout::Millimeter};
 }
 

@@ -9,6 +9,7 @@
 
 #include "desktop/documents/month_page.h"
 #include "desktop/documents/pdf_file.h"
+#include "desktop/documents/usual_paper.h"
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/twips.h"
 #include "platform/platform.h"
@@ -36,6 +37,7 @@ void WritePng(const std::string& path, const Drawing& drawing, double width, dou
 }
 
 void SetUpPage(QPrinter& printer) {
+    printer.setPageSize(UsualPaper());
     printer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
 }
 

@@ -1,7 +1,6 @@
 #include "shell/menus.h"
 
 #include "athan/athan_alert.h"
-#include "base/flag.h"
 #include "calendar/date_conversion_window.h"
 #include "config/about_window.h"
 #include "config/city_choice.h"
@@ -19,7 +18,6 @@
 #include "store/language_setting.h"
 #include "timetables/export_command.h"
 #include "timetables/times_window.h"
-#include "update/connection_probes.h"
 #include "update/open_address.h"
 #include "update/update_check.h"
 #include "update/web_server.h"

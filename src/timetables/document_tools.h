@@ -9,7 +9,11 @@
 
 namespace horavex {
 
-enum class PaperSize { kA4, kLetter };
+enum class PaperSize {
+    kA4,
+    kLetter,
+    kUsual,  // what the user's country prints on
+};
 
 /// A year to be set in type: a month a page, today marked.
 struct PrintedYear {

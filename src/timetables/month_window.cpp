@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "base/program_state.h"
+#include "base/text.h"
 #include "engine/center_on_screen.h"
 #include "forms/drawing_svg.h"
 #include "lang/form_language.h"
@@ -160,7 +161,7 @@ void SaveTable() {
     const std::string path = Ports().dialogs.SaveFile(request, ".pdf");
     if (!path.empty()) {
         WriteTimetable(TimetableFormatOfPath(path).value_or(TimetableFormat::kPdf), path,
-                       PaperSize::kA4);
+                       PaperSize::kUsual);
     }
 }
 
@@ -168,7 +169,7 @@ void SaveChart() {
     const FileRequest request = {shown->words.title, "SVG|*.svg|PNG|*.png", 1};
     const std::string path = Ports().dialogs.SaveFile(request, ".svg");
     const Picture& picture = frmMonth->picYear;
-    if (path.ends_with(".png")) {
+    if (AsciiLower(path).ends_with(".png")) {
         InstalledDocumentTools().writePng(path, picture.drawing, picture.ScaleWidth(),
                                           picture.ScaleHeight());
     } else if (!path.empty()) {

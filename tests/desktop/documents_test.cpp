@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPicture>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -9,6 +10,7 @@
 
 #include "desktop/documents/month_page.h"
 #include "desktop/documents/pdf_file.h"
+#include "desktop/documents/usual_paper.h"
 #include "desktop/printing/document_desk.h"
 #include "timetables/sample_timetable.h"
 
@@ -75,10 +77,35 @@ TEST_F(DocumentsTest, LanguageFromRightToLeftBeginsAtTheRight) {
     EXPECT_GT(Ink(rtl.copy(0, 0, 600, 80), 500, 600), 0);
 }
 
+TEST(UsualPaper, IsA4WhereTheLocaleHasNoOther) {
+    EXPECT_EQ(UsualPaper().id(), QPageSize::A4);
+}
+
+TEST(UsualPaper, HeightOfTheSheetTellsLetter) {
+    EXPECT_EQ(PaperOfHeight(279).id(), QPageSize::Letter);
+    EXPECT_EQ(PaperOfHeight(297).id(), QPageSize::A4);
+}
+
 TEST_F(DocumentsTest, PdfIsWrittenWholeThroughTheFiles) {
     const Timetable table = TakeTimetable();
     WritePdf("/home/year.pdf", {table, words, 0.0});
     EXPECT_THAT(StringOf(platform.files.Contents("/home/year.pdf")), StartsWith("%PDF-"));
+}
+
+TEST_F(DocumentsTest, RecordedPageHoldsOutlinesAndNoTextThatWouldBeLaidOutAnew) {
+    const Timetable table = TakeTimetable();
+    QPicture record;
+    {
+        QPainter painter(&record);
+        DrawMonthPage(painter, QRectF(0, 0, 600, 800), 96.0, {table, words, 0.0}, 5);
+    }
+    const QByteArray recorded(record.data(), static_cast<qsizetype>(record.size()));
+    QByteArray place;  // as the toolkit records texts
+    for (const char c : std::string("Cairo")) {
+        place += QByteArray(1, '\0') + QByteArray(1, c);
+    }
+    EXPECT_FALSE(recorded.contains(place));
+    EXPECT_GT(recorded.size(), 10000);
 }
 
 TEST_F(DocumentsTest, PreviewShowsTheOnePageOfTheMonth) {

@@ -158,6 +158,19 @@ TEST_F(MonthWindowTest, SaveAsWritesTheFormatOfTheSuffix) {
                 StartsWith("BEGIN:VCALENDAR\r\n"));
 }
 
+TEST_F(MonthWindowTest, PdfIsForTheUsersOwnPaperAndTheAnswerToANameWithoutAKnownSuffix) {
+    std::vector<std::string> files;
+    InstallDocumentTools({.writePdf = [&](const std::string& path, const PrintedYear& year) {
+        files.push_back(path);
+        EXPECT_EQ(year.paper, PaperSize::kUsual);
+    }});
+    for (const char* file : {"/home/year.pdf", "/home/year.of.2026"}) {
+        platform.dialogs.savedFile = file;
+        frmMonth->cmdSave.UserClick();
+    }
+    EXPECT_THAT(files, ElementsAre("/home/year.pdf", "/home/year.of.2026"));
+}
+
 TEST_F(MonthWindowTest, CancelledSaveWritesNothing) {
     const auto before = platform.files.List("/home");
     frmMonth->cmdSave.UserClick();
@@ -180,9 +193,9 @@ TEST_F(MonthWindowTest, ChartIsSavedAsSvgOrPng) {
     platform.dialogs.savedFile = "/home/year.svg";
     frmMonth->cmdSave.UserClick();
     EXPECT_THAT(StringOf(platform.files.Contents("/home/year.svg")), StartsWith("<svg "));
-    platform.dialogs.savedFile = "/home/year.png";
+    platform.dialogs.savedFile = "/home/year.PNG";
     frmMonth->cmdSave.UserClick();
-    EXPECT_EQ(png, "/home/year.png");
+    EXPECT_EQ(png, "/home/year.PNG");
 }
 
 TEST_F(MonthWindowTest, PreviewAndPrintTakeTheMonthOnView) {

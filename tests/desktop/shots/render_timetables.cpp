@@ -1,14 +1,19 @@
 // Renders the windows of timetables into PNG files, to be looked at by the people who draw them:
 //
-//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_timetables FOLDER
+//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_timetables FOLDER [dark]
 #include <QApplication>
+#include <QDialog>
+#include <QPalette>
+#include <QTimer>
 
 #include "base/flag.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/printing/document_desk.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
+#include "linux/posix_files.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
@@ -40,6 +45,15 @@ void Save(const FormWindows& windows, const Form& form, const QString& name) {
     window->grab().save(folder + "/" + name + "-" + scale + "x.png");
 }
 
+/// The print preview that is open, which closes then.
+void SavePreview(const QString& name) {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    dialog->resize(900, 900);
+    QApplication::processEvents();
+    dialog->grab().save(folder + "/" + name + ".png");
+    dialog->reject();
+}
+
 /// The year of Cairo with a summer of daylight saving, as the windows of timetables show it.
 void TakeCairo(TestPlatform& platform, bool arabic) {
     CopyBuiltProgramFolder(platform.files);
@@ -61,6 +75,17 @@ void TakeCairo(TestPlatform& platform, bool arabic) {
     RecalculateYear();
 }
 
+/// The chart on view as the month window saves it.
+void SaveChart(TestPlatform& platform, const QString& name) {
+    PosixFiles disk;
+    for (const std::string suffix : {".svg", ".png"}) {
+        platform.dialogs.savedFile = "/chart" + suffix;
+        frmMonth->cmdSave.UserClick();
+        disk.WriteWhole((folder + "/" + name).toStdString() + suffix,
+                        platform.files.Contents("/chart" + suffix));
+    }
+}
+
 void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     TakeCairo(platform, arabic);
@@ -72,16 +97,31 @@ void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool a
     Save(windows, *frmMonth, "month-" + language);
     frmMonth->grdMonth.UserPage(-1);
     Save(windows, *frmMonth, "month-change-" + language);
+    QTimer::singleShot(0, [&language] { SavePreview("preview-" + language); });
+    frmMonth->cmdPreview.UserClick();
     frmMonth->tabPages.UserSelect(1);
     Save(windows, *frmMonth, "year-" + language);
+    SaveChart(platform, "year-" + language);
     frmMonth->Unload();
     frmTimes->Unload();
+}
+
+/// Light texts on dark ground, as a desktop at night has them.
+QPalette Dark() {
+    QPalette palette(QColor(45, 48, 53));
+    palette.setColor(QPalette::Base, QColor(30, 32, 36));
+    palette.setColor(QPalette::AlternateBase, QColor(52, 56, 62));
+    palette.setColor(QPalette::Highlight, QColor(42, 118, 188));
+    return palette;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    if (argc > 2) {
+        QApplication::setPalette(Dark());
+    }
     TestPlatform platform;
     folder = QString::fromLocal8Bit(argv[1]);
     const FormWindows windows(DrawnLayouts());
@@ -89,6 +129,7 @@ int main(int argc, char** argv) {
     InstallDayHost(&host);
     BindTimesWindow();
     BindMonthWindow();
+    InstallDesktopDocuments();
     RenderTimetables(platform, windows, false);
     RenderTimetables(platform, windows, true);
     return 0;
