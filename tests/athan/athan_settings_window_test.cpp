@@ -68,9 +68,9 @@ TEST_F(AthanSettingsTest, MenuOpensItModalInFrontOfTheFace) {
 TEST_F(AthanSettingsTest, SpeaksTheCurrentLanguage) {
     currentLanguage = "German";
     frmAthan->Load();
-    EXPECT_EQ(frmAthan->Caption(), "Athan-Einstellungen");
-    EXPECT_EQ(frmAthan->AthanSettingSet.ToolTipText(), "Athan-Einstellung speichern");
-    EXPECT_EQ(frmAthan->Picture_(5).ToolTipText(), "Athan unterbrechen");
+    EXPECT_EQ(frmAthan->Caption(), "Adhan-Einstellungen");
+    EXPECT_EQ(frmAthan->AthanSettingSet.ToolTipText(), "Adhan-Einstellung speichern");
+    EXPECT_EQ(frmAthan->Picture_(5).ToolTipText(), "Adhan unterbrechen");
 }
 
 TEST_F(AthanSettingsTest, FreshRegistrySelectsTheFirstReciterOfBoth) {
