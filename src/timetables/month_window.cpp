@@ -196,6 +196,13 @@ void NamePages() {
     frmMonth->tabPages.SetTabCaption(kYearPage, shown->words.yearPage);
 }
 
+/// The page keys work at once.
+void frmMonth_Activate() {
+    if (frmMonth->FocusHolder() == nullptr) {
+        frmMonth->grdMonth.SetFocus();
+    }
+}
+
 void frmMonth_Load() {
     TranslateOnLoad(*frmMonth);
     shown = Shown{TakeTimetable(), TakeTimetableWords(), 1};
@@ -210,6 +217,7 @@ void frmMonth_Load() {
 void BindMonthWindow() {
     MonthForm& form = *frmMonth;
     form.onLoad = frmMonth_Load;
+    form.onActivate = frmMonth_Activate;
     form.tabPages.onClick = ShowPage;
     form.cmdPrev.onClick = [] { Page(-1); };
     form.cmdNext.onClick = [] { Page(1); };

@@ -55,6 +55,7 @@ TEST_F(MonthWindowTest, OpensModallyOnThePresentMonthFromTheDayBrowser) {
     EXPECT_EQ(frmMonth->Owner(), &*frmTimes);
     EXPECT_THAT(frmMonth->lblMonth.Caption(), StartsWith("November 2026 - "));
     EXPECT_THAT(frmMonth->lblMonth.Caption(), EndsWith(ActiveCityText));
+    EXPECT_TRUE(frmMonth->grdMonth.HasFocus()) << "the page keys work at once";
 }
 
 TEST_F(MonthWindowTest, TableHasBothDatesAndTheSixTimesOfEachDay) {
