@@ -6,6 +6,7 @@
 #include "base/fault.h"
 #include "base/program_state.h"
 #include "base/text.h"
+#include "base/utf8.h"
 #include "engine/center_on_screen.h"
 #include "forms/drawing_svg.h"
 #include "lang/form_language.h"
@@ -122,8 +123,16 @@ YearChart Chart() {
 
 /// A time inside a line of words, which keeps its own order where these run from right to left.
 std::string TimeInLine(const std::optional<double>& hours) {
-    const std::string text = TimeText(hours);
-    return shown->words.rightToLeft ? "\u2068" + text + "\u2069" : text;
+    constexpr char32_t kIsolate = 0x2068;  // begins a text with a direction of its own
+    constexpr char32_t kEndIsolate = 0x2069;
+    if (!shown->words.rightToLeft) {
+        return TimeText(hours);
+    }
+    std::string text;
+    AppendUtf8(text, kIsolate);
+    text += TimeText(hours);
+    AppendUtf8(text, kEndIsolate);
+    return text;
 }
 
 /// One day in a line: both dates and all times.
@@ -143,7 +152,7 @@ void ShowChart() {
     frmMonth->picYear.drawing = Chart().Draw(today);
     frmMonth->picYear.Refresh();
     const double row = today - shown->table.days.front().date;
-    const double last = static_cast<double>(shown->table.days.size()) - 1.0;
+    const auto last = static_cast<double>(shown->table.days.size() - 1);
     TellDay(static_cast<std::size_t>(std::clamp(row, 0.0, last)));
 }
 
@@ -187,6 +196,13 @@ void NamePages() {
     frmMonth->tabPages.SetTabCaption(kYearPage, shown->words.yearPage);
 }
 
+/// The page keys work at once.
+void frmMonth_Activate() {
+    if (frmMonth->FocusHolder() == nullptr) {
+        frmMonth->grdMonth.SetFocus();
+    }
+}
+
 void frmMonth_Load() {
     TranslateOnLoad(*frmMonth);
     shown = Shown{TakeTimetable(), TakeTimetableWords(), 1};
@@ -201,6 +217,7 @@ void frmMonth_Load() {
 void BindMonthWindow() {
     MonthForm& form = *frmMonth;
     form.onLoad = frmMonth_Load;
+    form.onActivate = frmMonth_Activate;
     form.tabPages.onClick = ShowPage;
     form.cmdPrev.onClick = [] { Page(-1); };
     form.cmdNext.onClick = [] { Page(1); };

@@ -51,7 +51,7 @@ double YearChart::Y(double hours) const {
 }
 
 std::optional<std::size_t> YearChart::RowAt(Point at) const {
-    const double days = static_cast<double>(table_.days.size());
+    const auto days = static_cast<double>(table_.days.size());
     const double row = std::floor((at.x - kLeft) * days / (width_ - kLeft - kRight));
     if (row < 0.0 || row >= days) {
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
+#include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "timetables/document_tools.h"
 #include "timetables/times_window.h"
@@ -54,6 +55,7 @@ TEST_F(MonthWindowTest, OpensModallyOnThePresentMonthFromTheDayBrowser) {
     EXPECT_EQ(frmMonth->Owner(), &*frmTimes);
     EXPECT_THAT(frmMonth->lblMonth.Caption(), StartsWith("November 2026 - "));
     EXPECT_THAT(frmMonth->lblMonth.Caption(), EndsWith(ActiveCityText));
+    EXPECT_TRUE(frmMonth->grdMonth.HasFocus()) << "the page keys work at once";
 }
 
 TEST_F(MonthWindowTest, TableHasBothDatesAndTheSixTimesOfEachDay) {
@@ -145,6 +147,15 @@ TEST_F(MonthWindowTest, ChartTellsTodayAndThenTheDayUnderThePointer) {
                 HasSubstr("   Isha " + platform.formats.MediumTime(Times[kIsha][364] / 24.0)));
     frmMonth->picYear.UserMouseMove({0.0, 0.0});
     EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("31 Thursday December 2026, "));
+}
+
+TEST_F(MonthWindowTest, TimesKeepTheirOrderInALineThatRunsFromRightToLeft) {
+    frmMonth->Unload();
+    currentLanguage = "Arabic";
+    ShowMonthWindow();
+    EXPECT_EQ(frmMonth->tabPages.Items().at(0), "الشهر");
+    const std::string fajr = platform.formats.MediumTime(Times[kFajr][324] / 24.0);
+    EXPECT_THAT(frmMonth->lblPointer.Caption(), HasSubstr("الفجر \u2068" + fajr + "\u2069   "));
 }
 
 TEST_F(MonthWindowTest, SaveAsWritesTheFormatOfTheSuffix) {
