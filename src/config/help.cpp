@@ -6,6 +6,7 @@
 #include "config/help_topics.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "windows/frm_date_convert.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -91,6 +92,7 @@ void BindHelp() {
     HoravexMainForm->Help.onClick = [] { ShowHelpContext(kHelpIndex); };
     HoravexMainForm->SettingsHelp.onClick = [] { ShowHelpContext(kHelpSettings); };
     HoravexMainForm->QiblaHelpButton.onClick = [] { ShowHelpContext(kHelpQibla); };
+    frmDateConvert->HijriDateConversionHelp.onClick = [] { ShowHelpContext(kHelpDateConversion); };
 }
 
 }  // namespace horavex

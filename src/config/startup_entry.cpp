@@ -24,6 +24,18 @@ std::int16_t ReadWish(const std::string& defaultValue) {
     return RoundToInt16(TextToNumber(text));
 }
 
+/// Deletes an entry of the session; a failure is told and passed over.
+void DeleteFileQuietly(const char* entry) {
+    Shell& shell = Ports().shell;
+    try {
+        shell.DeleteStartupEntry(entry);
+    } catch (const FileFault&) {
+        // The misspelt word is the message's own.
+        Ports().dialogs.ShowMessage("Error deleteing file: " + shell.StartupEntryPath(entry) + Crlf,
+                                    "", MessageIcon::kNone);
+    }
+}
+
 }  // namespace
 
 void AddStartupShortcut() {
@@ -31,17 +43,8 @@ void AddStartupShortcut() {
 }
 
 void RemoveStartupShortcut() {
-    Shell& shell = Ports().shell;
-    if (!shell.HasStartupEntry(kEntryName)) {
-        return;
-    }
-    try {
-        shell.DeleteStartupEntry(kEntryName);
-    } catch (const FileFault&) {
-        // The misspelt word is the message's own.
-        Ports().dialogs.ShowMessage(
-            "Error deleteing file: " + shell.StartupEntryPath(kEntryName) + Crlf, "",
-            MessageIcon::kNone);
+    if (Ports().shell.HasStartupEntry(kEntryName)) {
+        DeleteFileQuietly(kEntryName);
     }
 }
 

@@ -36,6 +36,7 @@ public:
     CommandButton TodaysDate{
         *this, "TodaysDate", {.caption = "Today's Date", .toolTipText = "Convert todays date"}};
     Label lblResult{*this, "lblResult"};
+    CommandButton HijriDateConversionHelp{*this, "HijriDateConversionHelp", {.caption = "&Help"}};
     CommandButton cmdClose{*this, "cmdClose", {.caption = "&Close"}};
 };
 

@@ -4,6 +4,7 @@
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "windows/frm_about.h"
+#include "windows/frm_date_convert.h"
 
 namespace horavex {
 namespace {
@@ -140,6 +141,9 @@ TEST_F(HelpTest, ButtonsOfTheSettingsWindowOpenTheirTopics) {
     EXPECT_THAT(Path(), EndsWith("/settings.html"));
     HoravexMainForm->QiblaHelpButton.UserClick();
     EXPECT_THAT(Path(), EndsWith("/qibla.html"));
+    frmDateConvert->Load();
+    frmDateConvert->HijriDateConversionHelp.UserClick();
+    EXPECT_THAT(Path(), EndsWith("/dates.html"));
 }
 
 TEST_F(HelpTest, HelpKeyOpensTheContextNumberOfTheForm) {
