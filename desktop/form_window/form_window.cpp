@@ -267,13 +267,17 @@ void FormWindow::BringUp(const QWidget* owner) {
     }
 }
 
+// A form that unloads in the loop may take its window with it.
 void FormWindow::RunUntilHidden() {
+    const QPointer<FormWindow> self(this);
     QEventLoop loop;
     QEventLoop* const outer = std::exchange(modalLoop_, &loop);
     if (form_.Visible()) {
         loop.exec();
     }
-    modalLoop_ = outer;
+    if (self) {
+        modalLoop_ = outer;
+    }
 }
 
 bool FormWindow::event(QEvent* event) {

@@ -1,5 +1,3 @@
-#include <cstdlib>
-
 #include "base/text.h"
 #include "ctl/ctl_json.h"
 #include "support/build_folder.h"
@@ -83,8 +81,7 @@ TEST_F(CtlExport, CsvHoldsTheMinutesOfTheYearsTable) {
 }
 
 TEST_F(CtlExport, IndependentParserReadsTheMomentsOutOfTheCalendar) {
-    const std::string script =
-        std::string(std::getenv("HORAVEX_TEST_SOURCE_DIR")) + "/tests/ctl/read_calendar.py";
+    const std::string script = SourcePath("tests/ctl/read_calendar.py");
     const auto events = Split(Tool({"/usr/bin/python3", script, Export("ics")}), '\n');
     const Json year = Year();
     ASSERT_THAT(events, SizeIs(365 * 6 + 1));

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <fstream>
 #include <set>
 #include <tuple>
@@ -32,8 +31,7 @@ std::string SortKey(const std::string& name) {
 }
 
 std::vector<std::string> SourceCountries() {
-    const char* source = std::getenv("HORAVEX_TEST_SOURCE_DIR");
-    std::ifstream file(std::string(source) + "/data/gazetteer/countries.tsv");
+    std::ifstream file(SourcePath("data/gazetteer/countries.tsv"));
     std::vector<std::string> names;
     std::string line;
     std::getline(file, line);

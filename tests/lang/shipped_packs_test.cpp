@@ -1,9 +1,7 @@
 // The packs that are shipped, as they lie in the source folder.
 
-#include <cstdlib>
 #include <map>
 #include <set>
-#include <stdexcept>
 
 #include "base/text.h"
 #include "base/utf8.h"
@@ -16,6 +14,7 @@
 #include "lang/pack_forms.h"
 #include "lang/pack_keys.h"
 #include "linux/posix_files.h"
+#include "support/build_folder.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -28,20 +27,12 @@ using testing::Not;
 
 constexpr const char* kLanguages[] = {"Arabic", "English", "French", "German", "Spanish"};
 
-std::string SourceFolder() {
-    const char* folder = std::getenv("HORAVEX_TEST_SOURCE_DIR");
-    if (folder == nullptr) {
-        throw std::runtime_error("HORAVEX_TEST_SOURCE_DIR is not set");
-    }
-    return folder;
-}
-
 /// The folder data/lang of the source as the packs of the program folder.
 class ShippedPacks : public LangTest {
 protected:
     ShippedPacks() {
         PosixFiles disk;
-        const std::string folder = SourceFolder() + "/data/lang";
+        const std::string folder = SourcePath("data/lang");
         for (const std::string& name : disk.List(folder)) {
             data.Write("lang/" + name, ReadWhole(disk, folder + "/" + name));
         }

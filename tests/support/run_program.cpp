@@ -22,7 +22,10 @@ std::vector<char*> PointersOf(std::vector<std::string>& texts) {
 
 std::vector<std::string> AssignmentsOf(const Environment& environment) {
     const std::string status = "exitcode=" + std::to_string(kSanitizerStatus);
-    std::vector<std::string> assignments = {"ASAN_OPTIONS=" + status, "UBSAN_OPTIONS=" + status};
+    const std::string leaks =
+        "suppressions=" + SourcePath("tests/leaks.supp") + ":print_suppressions=0";
+    std::vector<std::string> assignments = {"ASAN_OPTIONS=" + status, "UBSAN_OPTIONS=" + status,
+                                            "LSAN_OPTIONS=" + leaks};
     for (const auto& [name, value] : environment) {
         assignments.push_back(name + "=" + value);
     }

@@ -71,7 +71,9 @@ SinkRecording::SinkRecording(const SoundServer& server)
 Samples SinkRecording::Taken() const {
     const std::string bytes = service_.Printed();
     Samples samples(bytes.size() / 2);
-    std::memcpy(samples.data(), bytes.data(), samples.size() * 2);
+    if (!samples.empty()) {
+        std::memcpy(samples.data(), bytes.data(), samples.size() * 2);
+    }
     return samples;
 }
 
