@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPointer>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <string>
+
+#include "desktop/fault_box.h"
+#include "platform/face.h"
+
+namespace horavex {
+
+/// A face that a view paints. The view has no margin that would lie outside its window, so that it
+/// fills it wherever it is placed, and its motion is that of its variables. A view takes variables
+/// by SetVariable and sends commands by onCommand.
+template <class View>
+class PaintedFace : public Face {
+public:
+    void LoadMovie(int, const std::string&) override { loaded_ = true; }
+    void SetVariable(const std::string& name, const std::string& value) override {
+        if (loaded_ && view_ != nullptr) {
+            view_->SetVariable(name, QString::fromStdString(value));
+        }
+    }
+    void Play() override {}
+    void Place(double, double) override {}
+
+protected:
+    /// Puts the view alone into a window, which takes its size.
+    void FillWithView(QWidget& window) {
+        view_ = new View;
+        view_->onCommand = [this](const std::string& command) {
+            if (onFSCommand) {
+                RunGuarded([&] { onFSCommand(command, {}); });
+            }
+        };
+        auto* layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSizeConstraint(QLayout::SetFixedSize);
+        layout->addWidget(view_);
+    }
+
+private:
+    bool loaded_ = false;
+    QPointer<View> view_;  // belongs to the window
+};
+
+}  // namespace horavex
