@@ -70,12 +70,8 @@ void CopyLimits() {
 }
 
 void SetEgyptianPresets() {
-    WizardForm& form = *frmWizard;
-    form.hsDepr2.SetValue(17);
-    form.hsDepr21.SetValue(3);
-    form.hsDepr.SetValue(19);
-    form.hsDepr1.SetValue(2);
-    form.txtTimeZone.SetText("+2.00");
+    SetEgyptianPair(*frmWizard);
+    frmWizard->txtTimeZone.SetText("+2.00");
 }
 
 void CopyAnglesAndZone() {

@@ -321,14 +321,8 @@ void SetEgyptianAngles() {
     if (!NamesEgypt(HoravexMainForm->lblCity.Caption())) {
         return;
     }
-    const auto set = [](auto& form) {
-        form.hsDepr.SetValue(19);
-        form.hsDepr1.SetValue(2);
-        form.hsDepr2.SetValue(17);
-        form.hsDepr21.SetValue(3);
-    };
-    set(*frmWizard);
-    set(*HoravexMainForm);
+    SetEgyptianPair(*frmWizard);
+    SetEgyptianPair(*HoravexMainForm);
 }
 
 void BindCityPicker() {

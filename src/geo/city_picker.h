@@ -28,8 +28,18 @@ void PickCityForDistance(Form& owner, Handler take);
 /// as the readers of the location files do.
 void FillCountries();
 
-/// Where the city text of the settings window names Egypt, both windows take its fixed pair of
-/// angles, whatever the band says: 19.5 degrees for Fajr and 17.75 for Isha.
+/// Puts the fixed pair of Egypt on the sliders of a window: 17.75 degrees for Isha and 19.5 for
+/// Fajr.
+template <class AngleForm>
+void SetEgyptianPair(AngleForm& form) {
+    form.hsDepr2.SetValue(17);
+    form.hsDepr21.SetValue(3);
+    form.hsDepr.SetValue(19);
+    form.hsDepr1.SetValue(2);
+}
+
+/// Where the city text of the settings window names Egypt, both windows take its pair, whatever
+/// the band says.
 void SetEgyptianAngles();
 
 /// True where a text names Egypt anywhere, in any letters.
