@@ -7,6 +7,7 @@
 #include "forms/menu_item.h"
 #include "forms/picture.h"
 #include "forms/timer.h"
+#include "windows/prayer_labels.h"
 
 namespace horavex {
 
@@ -18,22 +19,10 @@ public:
     FrmMain() : Form("frmMain", {.caption = "Horavex", .width = 6300, .height = 6300}) {}
 
     /// What the face tells: today's times, the date and the time of day.
-    ControlArray<Label> lblZoritName{*this,
-                                     "lblZoritName",
-                                     {{0, {.caption = "Dawn"}},
-                                      {1, {.caption = "Sunrise"}},
-                                      {2, {.caption = "Noon"}},
-                                      {3, {.caption = "Afternoon"}},
-                                      {4, {.caption = "Sunset"}},
-                                      {5, {.caption = "Night"}}}};
-    ControlArray<Label> lblZoritNameArabic{*this,
-                                           "lblZoritNameArabic",
-                                           {{0, {.caption = "Fajr"}},
-                                            {1, {.caption = "Shurooq"}},
-                                            {2, {.caption = "Zuhr"}},
-                                            {3, {.caption = "Asr"}},
-                                            {4, {.caption = "Maghrib"}},
-                                            {5, {.caption = "Isha"}}}};
+    ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};
+    ControlArray<Label> lblZoritNameArabic{
+        *this, "lblZoritNameArabic",
+        PrayerLabels({"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"})};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};

@@ -7,6 +7,7 @@
 #include "forms/form_instance.h"
 #include "forms/label.h"
 #include "forms/timer.h"
+#include "windows/prayer_labels.h"
 
 namespace horavex {
 
@@ -19,22 +20,10 @@ public:
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
-    ControlArray<Label> lblZoritNameArabic{*this,
-                                           "lblZoritNameArabic",
-                                           {{0, {.caption = "Fajr"}},
-                                            {1, {.caption = "Shurook"}},
-                                            {2, {.caption = "Zuhr"}},
-                                            {3, {.caption = "Asr"}},
-                                            {4, {.caption = "Maghrib"}},
-                                            {5, {.caption = "Isha"}}}};
-    ControlArray<Label> lblZoritName{*this,
-                                     "lblZoritName",
-                                     {{0, {.caption = "Dawn"}},
-                                      {1, {.caption = "Sunrise"}},
-                                      {2, {.caption = "Noon"}},
-                                      {3, {.caption = "Afternoon"}},
-                                      {4, {.caption = "Sunset"}},
-                                      {5, {.caption = "Night"}}}};
+    ControlArray<Label> lblZoritNameArabic{
+        *this, "lblZoritNameArabic",
+        PrayerLabels({"Fajr", "Shurook", "Zuhr", "Asr", "Maghrib", "Isha"})};
+    ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};
     CommandButton cmdToday{*this, "cmdToday", {.caption = "Today"}};
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "Previous Day"}};
     CommandButton cmdNext{*this, "cmdNext", {.caption = "Next Day"}};

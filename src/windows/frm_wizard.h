@@ -13,6 +13,7 @@
 #include "forms/option_button.h"
 #include "forms/range.h"
 #include "forms/text_box.h"
+#include "windows/prayer_labels.h"
 
 namespace horavex {
 
@@ -108,22 +109,10 @@ public:
         {{1, {.caption = "Standard(Shafii, Hanbli, and Maliki)"}}, {2, {.caption = "Hanafi"}}}};
 
     /// The preview: today's times with the settings as they stand.
-    ControlArray<Label> lblZoritName{Frame2(4),
-                                     "lblZoritName",
-                                     {{0, {.caption = "Dawn"}},
-                                      {1, {.caption = "Sunrise"}},
-                                      {2, {.caption = "Noon"}},
-                                      {3, {.caption = "Afternoon"}},
-                                      {4, {.caption = "Sunset"}},
-                                      {5, {.caption = "Night"}}}};
-    ControlArray<Label> lblZoritNameArabic{Frame2(4),
-                                           "lblZoritNameArabic",
-                                           {{0, {.caption = "Fajr"}},
-                                            {1, {.caption = "Shurooq"}},
-                                            {2, {.caption = "Zuhr"}},
-                                            {3, {.caption = "Asr"}},
-                                            {4, {.caption = "Maghrib"}},
-                                            {5, {.caption = "Isha"}}}};
+    ControlArray<Label> lblZoritName{Frame2(4), "lblZoritName", EverydayPrayerLabels()};
+    ControlArray<Label> lblZoritNameArabic{
+        Frame2(4), "lblZoritNameArabic",
+        PrayerLabels({"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"})};
     ControlArray<Label> lblTime{Frame2(4), "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
 
     CommandButton Command3{*this, "Command3", {.caption = "&Cancel"}};
