@@ -228,7 +228,7 @@ struct AlarmTest : ProgramTest {
 };
 
 TEST_F(AlarmTest, StandsForThreeHundredAndTenSeconds) {
-    EXPECT_NEAR(SoundAlarm(), 2 + 20 * 3 + 20 * 12.504, 0.5);
+    EXPECT_NEAR(SoundAlarm(), 2 + 20 * 3 + 20 * 12.51, 1e-6) << "rests take 10 ms";
     EXPECT_EQ(platform.dialogs.beeps, 20);
     EXPECT_FALSE(fMessage->IsLoaded());
 }

@@ -108,6 +108,18 @@ TEST_F(LunationTest, ElementsOfFebruary1977) {
     EXPECT_NEAR(degrees(NodeLongitude(k, T)), 207.3176, 5e-4);
 }
 
+// A thousand years away every power of T counts. The sums are made by hand from the coefficients.
+TEST_F(LunationTest, ElementsHaveTheirTermsOfHigherPower) {
+    constexpr double T = 10.0;
+    const auto degrees = [](double radians) { return radians * 180.0 / kPi; };
+    EXPECT_NEAR(MeanPhaseDay(0.0, T), 2451550.1108773, 2e-9);
+    EXPECT_NEAR(EccentricityFactor(T), 0.9741, 1e-12);
+    EXPECT_NEAR(degrees(SunMeanAnomaly(0.0, T)), 2.55111, 1e-9);
+    EXPECT_NEAR(degrees(MoonMeanAnomaly(0.0, T)), 202.65049, 1e-9);
+    EXPECT_NEAR(degrees(MoonLatitudeArgument(0.0, T)), 160.54523, 1e-9);
+    EXPECT_NEAR(degrees(NodeLongitude(0.0, T)), 124.98366, 1e-9);
+}
+
 TEST_F(LunationTest, EveryPlanetaryArgumentHasTheSquaredTerm) {
     for (int n = 1; n <= kPlanetaryArguments; ++n) {
         const double drift = PlanetaryArgument(n, 0.0, 1.0) - PlanetaryArgument(n, 0.0, 0.0);
