@@ -1,8 +1,10 @@
 #include "geo/qibla_window.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <string_view>
 
-#include "base/fault.h"
 #include "base/text.h"
 #include "engine/angle.h"
 #include "engine/solar_event.h"
@@ -23,17 +25,30 @@ namespace horavex {
 
 namespace {
 
-// Goes by the places of the words of "Qibla: 136 degrees, 8 minutes East of North" and by the
-// English names of the directions: a sentence in another language always takes "east" and "south".
+struct DirectionNames {
+    std::string_view english;  // in small letters
+    const char* arabic;
+};
+
+constexpr DirectionNames kSides[] = {{"east", "الشرق"}, {"west", "الغرب"}};
+constexpr DirectionNames kPoles[] = {{"north", "الشمال"}, {"south", "الجنوب"}};
+
+/// Nothing for a word that is none of the two.
+const char* ArabicName(const DirectionNames (&names)[2], const std::string& word) {
+    const auto* found = std::ranges::find(names, AsciiLower(word), &DirectionNames::english);
+    return found == std::end(names) ? nullptr : found->arabic;
+}
+
+// Goes by the places of the words of "Qibla: 136 degrees, 8 minutes East of North". A sentence
+// without English directions there, from another column of the text table, stays as it is.
 std::string InArabic(const std::string& sentence) {
     const auto words = Split(sentence, ' ');
-    if (words.size() < 8) {
-        throw BoundsFault("\"" + sentence + "\" is no bearing");
+    const char* side = words.size() > 7 ? ArabicName(kSides, words[5]) : nullptr;
+    const char* pole = words.size() > 7 ? ArabicName(kPoles, words[7]) : nullptr;
+    if (side == nullptr || pole == nullptr) {
+        return sentence;
     }
-    const bool west = AsciiLower(words[5]) == "west";
-    const bool north = AsciiLower(words[7]) == "north";
-    return "القبلة: " + words[1] + " درجة و " + words[3] + " دقيقة الى " +
-           (west ? "الغرب" : "الشرق") + " من " + (north ? "الشمال" : "الجنوب");
+    return "القبلة: " + words[1] + " درجة و " + words[3] + " دقيقة الى " + side + " من " + pole;
 }
 
 std::string ShownSentence() {

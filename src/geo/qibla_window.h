@@ -3,8 +3,7 @@
 namespace horavex {
 
 /// Opens the qibla window in front of the face and returns when it is closed. Throws FileFault
-/// without the table of texts, and BoundsFault for an Arabic window whose sentence has fewer words
-/// than the rewrite looks at.
+/// without the table of texts.
 void ShowQibla();
 
 }  // namespace horavex

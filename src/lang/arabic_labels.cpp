@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "base/fault.h"
 #include "base/text.h"
 #include "windows/horavex_main_form.h"
 
@@ -11,27 +10,30 @@ namespace horavex {
 
 namespace {
 
-/// The words around a coordinate.
-struct CoordinateWords {
-    const char* caption;
-    const char* hemisphere;  // the English one that takes same, in small letters
-    const char* same;
-    const char* opposite;
+struct Hemisphere {
+    const char* english;
+    const char* arabic;
 };
 
-constexpr CoordinateWords kLatitude = {"د.عرض: ", "north", " شمال", " جنوب"};
-constexpr CoordinateWords kLongitude = {"خ.طول: ", "east", " شرق", " غرب"};
+/// What stands before a coordinate, and its two hemispheres: English in small letters.
+struct CoordinateWords {
+    const char* caption;
+    Hemisphere hemispheres[2];
+};
 
-// Words 1, 3 and 5 of "Latitude: 30 degrees, 3 minutes North". Only the English hemisphere is
-// known, so that a caption made in another language of the text table always takes the opposite.
+constexpr CoordinateWords kLatitude = {"د.عرض: ", {{"north", " شمال"}, {"south", " جنوب"}}};
+constexpr CoordinateWords kLongitude = {"خ.طول: ", {{"east", " شرق"}, {"west", " غرب"}}};
+
+// Words 1, 3 and 5 of "Latitude: 30 degrees, 3 minutes North". A coordinate whose hemisphere does
+// not stand there in English, because the text table speaks another language, stays as it is.
 std::string InArabic(const std::string& caption, const CoordinateWords& words) {
     const std::vector<std::string> parts = Split(caption, ' ');
-    if (parts.size() < 6) {
-        throw BoundsFault("\"" + caption + "\" is no coordinate");
+    for (const Hemisphere& hemisphere : words.hemispheres) {
+        if (parts.size() > 5 && AsciiLower(parts[5]) == hemisphere.english) {
+            return words.caption + parts[1] + " درجة " + parts[3] + " دقيقة " + hemisphere.arabic;
+        }
     }
-    const bool same = AsciiLower(parts[5]) == words.hemisphere;
-    return words.caption + parts[1] + " درجة " + parts[3] + " دقيقة " +
-           (same ? words.same : words.opposite);
+    return caption;
 }
 
 void RewriteCoordinate(Label& label, const CoordinateWords& words) {

@@ -1,0 +1,110 @@
+// Which way a place and Mecca lie, as it is told in every pack and every language of the texts.
+
+#include "base/text.h"
+#include "config/settings_display.h"
+#include "engine/angle.h"
+#include "engine/solar_event.h"
+#include "geo/qibla.h"
+#include "geo/qibla_window.h"
+#include "lang/language_pack.h"
+#include "store/location_text.h"
+#include "store/text_table.h"
+#include "support/program_test.h"
+#include "windows/f_qibla.h"
+
+namespace horavex {
+namespace {
+
+using testing::AnyOf;
+
+/// Hundredths of a degree, one place a quadrant: Cairo, Jakarta, New York, Buenos Aires.
+constexpr std::int16_t kPlaces[][2] = {{3005, 3125}, {-620, 10685}, {4071, -7401}, {-3461, -5845}};
+
+constexpr const char* kPacks[] = {"English", "French", "German", "Arabic", "Spanish", ""};
+
+struct ShownDirectionsTest : ProgramTest {
+    ShownDirectionsTest() { StartAgain(); }
+
+    /// Shows a place as a change of city and a calculation do.
+    static void Show(std::int16_t latitude, std::int16_t longitude, std::int16_t language) {
+        Settings.Language = ActiveSettings.Language = language;
+        Location.City.Latitude = latitude;
+        Location.City.Longitude = longitude;
+        LatitudeRad = DegToRad(StoredCoord(latitude));
+        LongitudeWestRad = -DegToRad(StoredCoord(longitude));
+        ComputeQibla();
+        ShowNewLocation();
+    }
+
+    static std::string InArabic(const char* caption, double degrees, const char* hemisphere) {
+        const DegreesMinutes split = SplitDegrees(degrees);
+        return caption + std::to_string(std::abs(split.whole)) + " درجة " +
+               std::to_string(split.minutes) + " دقيقة  " + hemisphere;
+    }
+
+    static std::string LatitudeInArabic(double degrees) {
+        return InArabic("د.عرض: ", degrees, degrees < 0.0 ? "جنوب" : "شمال");
+    }
+
+    static std::string LongitudeInArabic(double degrees) {
+        return InArabic("خ.طول: ", degrees, degrees < 0.0 ? "غرب" : "شرق");
+    }
+
+    static std::string QiblaInArabic() {
+        const DegreesMinutes split = SplitDegrees(QiblaDegrees);
+        return "القبلة: " + std::to_string(std::abs(split.whole)) + " درجة و " +
+               std::to_string(split.minutes) + " دقيقة الى " +
+               (QiblaDegrees < 0.0 ? "الغرب" : "الشرق") + " من الشمال";
+    }
+
+    static std::string ShownQibla() {
+        fQibla->Unload();
+        ShowQibla();
+        return fQibla->lblQibla.Caption();
+    }
+
+    void ExpectRight(double latitude, double longitude, std::int16_t language) {
+        const auto allowed = [](const std::string& own, const std::string& arabic) {
+            return AsciiLower(currentLanguage) == "arabic" ? AnyOf(own, arabic) : AnyOf(own, own);
+        };
+        EXPECT_THAT(form.lblLocationLat.Caption(),
+                    allowed(FormatLatitude(latitude, language), LatitudeInArabic(latitude)));
+        EXPECT_THAT(form.lblLocationLon.Caption(),
+                    allowed(FormatLongitude(longitude, language), LongitudeInArabic(longitude)));
+        EXPECT_THAT(ShownQibla(), allowed(QiblaText, QiblaInArabic()));
+    }
+
+    SettingsForm& form = *HoravexMainForm;
+};
+
+TEST_F(ShownDirectionsTest, AreRightInEveryPackAndLanguageOfTheTexts) {
+    for (const char* pack : kPacks) {
+        currentLanguage = pack;
+        for (std::int16_t language = 0; language <= kTextLanguages; ++language) {
+            for (const auto& [latitude, longitude] : kPlaces) {
+                SCOPED_TRACE(std::string(pack) + " with the texts " + std::to_string(language));
+                Show(latitude, longitude, language);
+                ExpectRight(StoredCoord(latitude), StoredCoord(longitude), language);
+            }
+        }
+    }
+}
+
+TEST_F(ShownDirectionsTest, ArabicPackRewritesTheEnglishTexts) {
+    currentLanguage = "Arabic";
+    Show(-620, 10685, 1);
+    EXPECT_EQ(form.lblLocationLat.Caption(), "د.عرض: 6 درجة 12 دقيقة  جنوب");
+    EXPECT_EQ(form.lblLocationLon.Caption(), "خ.طول: 106 درجة 51 دقيقة  شرق");
+    EXPECT_EQ(ShownQibla(), "القبلة: 64 درجة و 51 دقيقة الى الغرب من الشمال");
+}
+
+TEST_F(ShownDirectionsTest, ArabicPackKeepsTheArabicTexts) {
+    currentLanguage = "Arabic";
+    Show(3005, 3125, 4);
+    EXPECT_EQ(form.lblLocationLat.Caption(), "العرض: 30 درجة, 3 دقيقة شمال");
+    EXPECT_EQ(form.lblLocationLon.Caption(), "الطول: 31 درجة, 15 دقيقة شرق");
+    EXPECT_EQ(ShownQibla(), "القبلة: 136 درجة, 13 دقيقة شرق من شمال");
+}
+
+}  // namespace
+}  // namespace horavex
