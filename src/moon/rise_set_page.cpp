@@ -1,5 +1,6 @@
 #include "moon/rise_set_page.h"
 
+#include <cmath>
 #include <cstdlib>
 #include <initializer_list>
 #include <optional>
@@ -10,10 +11,12 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "calendar/date_guard.h"
+#include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "moon/moon_pictures.h"
 #include "moon/moon_rise_set.h"
 #include "platform/platform.h"
+#include "store/location_record.h"
 #include "store/settings_record.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
@@ -47,25 +50,17 @@ SignedMinutes WithSign(bool negative, std::int16_t degrees, std::int16_t minutes
                     : SignedMinutes{degrees, minutes};
 }
 
-// In Arabic the label shows the words of that language, and the others lie behind it.
-const std::string& CoordinateText(const Label& label) {
-    const bool rewritten = AsciiLower(currentLanguage) == "arabic" && !label.Tag().empty();
-    return rewritten ? label.Tag() : label.Caption();
+/// A stored coordinate in the whole degrees and minutes that the settings window tells.
+SignedMinutes WholeMinutes(std::int16_t stored) {
+    const DegreesMinutes split = SplitDegrees(std::fabs(StoredCoord(stored)));
+    return WithSign(stored < 0, split.whole, split.minutes);
 }
 
-/// "Longitude: 31 degrees, 15 minutes East": goes by the places of the words.
-SignedMinutes ReadShownCoordinate(const Label& label, const std::string& negativeWord) {
-    const auto words = Split(CoordinateText(label), ' ');
-    if (words.size() < 6) {
-        throw BoundsFault(label.Name() + " shows no coordinate");
-    }
-    return WithSign(AsciiLower(words[5]) == negativeWord, WholeNumberIn(words[1]),
-                    WholeNumberIn(words[3]));
-}
-
+/// The place of the settings window. Its labels tell the same in words, which change with the
+/// language.
 MoonObserver ShownObserver() {
-    const auto longitude = ReadShownCoordinate(HoravexMainForm->lblLocationLon, "west");
-    const auto latitude = ReadShownCoordinate(HoravexMainForm->lblLocationLat, "south");
+    const SignedMinutes longitude = WholeMinutes(Location.City.Longitude);
+    const SignedMinutes latitude = WholeMinutes(Location.City.Latitude);
     return {latitude.degrees, latitude.minutes, longitude.degrees, longitude.minutes};
 }
 

@@ -7,8 +7,7 @@ namespace horavex {
 /// Binds the page's controls and forgets the last good texts of its date.
 void BindRiseSetPage();
 
-/// Shows the place and the zone of the settings window, and today. Throws BoundsFault where that
-/// window shows no coordinates, TypeMismatchFault where they have no numbers.
+/// Shows the place and the zone of the settings window, and today.
 void LoadRiseSetPage();
 
 }  // namespace horavex

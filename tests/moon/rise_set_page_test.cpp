@@ -1,9 +1,10 @@
 #include "moon/rise_set_page.h"
 
-#include "lang/arabic_labels.h"
+#include "config/settings_display.h"
 #include "lang/language_pack.h"
 #include "moon/moon_rise_set.h"
 #include "moon/moon_window.h"
+#include "store/text_table.h"
 #include "support/program_test.h"
 #include "windows/moon_phases.h"
 
@@ -17,15 +18,15 @@ class RiseSetPageTest : public ProgramTest {
 protected:
     RiseSetPageTest() {
         StartAgain();
-        Show("Latitude: 30 degrees, 3 minutes North", "Longitude: 31 degrees, 15 minutes East",
-             "+2.00");
+        Show(3005, 3125, "+2.00");
         Open();
     }
 
-    static void Show(const std::string& latitude, const std::string& longitude,
-                     const std::string& zone) {
-        HoravexMainForm->lblLocationLat.SetCaption(latitude);
-        HoravexMainForm->lblLocationLon.SetCaption(longitude);
+    /// latitude and longitude: hundredths of a degree, north and east positive.
+    static void Show(int latitude, int longitude, const std::string& zone) {
+        Location.City.Latitude = static_cast<std::int16_t>(latitude);
+        Location.City.Longitude = static_cast<std::int16_t>(longitude);
+        ShowNewLocation();
         HoravexMainForm->txtTimeZone.SetText(zone);
     }
 
@@ -110,8 +111,7 @@ TEST_F(RiseSetPageTest, PlaceInTheNorthEastLeavesTheOptionsThatTheUserSet) {
 }
 
 TEST_F(RiseSetPageTest, PlaceInTheSouthWestSetsItsOptions) {
-    Show("Latitude: 34 degrees, 36 minutes South", "Longitude: 58 degrees, 27 minutes West",
-         "-3.00");
+    Show(-3460, -5845, "-3.00");
     Open();
     EXPECT_TRUE(form.optWest.Value());
     EXPECT_TRUE(form.optSouth.Value());
@@ -123,23 +123,45 @@ TEST_F(RiseSetPageTest, PlaceInTheSouthWestSetsItsOptions) {
 }
 
 TEST_F(RiseSetPageTest, WesternPlaceOfLessThanADegreeIsWestern) {
-    Show("Latitude: 51 degrees, 30 minutes North", "Longitude: 0 degrees, 7 minutes West", "+0.00");
+    Show(5150, -12, "+0.00");
     Open();
     EXPECT_TRUE(form.optWest.Value());
     EXPECT_EQ(form.txtLongM.Text(), "7");
 }
 
-TEST_F(RiseSetPageTest, ArabicReadsTheWordsBehindTheRewrittenLabels) {
-    Show("Latitude: 34 degrees, 36 minutes South", "Longitude: 58 degrees, 27 minutes West",
-         "-3.00");
-    Translate();
+TEST_F(RiseSetPageTest, PlaceIsTheSameInEveryPackAndLanguageOfTheTexts) {
+    for (const char* pack : {"English", "French", "German", "Arabic", "Spanish"}) {
+        for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
+            SCOPED_TRACE(std::string(pack) + " with the texts " + std::to_string(language));
+            currentLanguage = pack;
+            Settings.Language = language;
+            Show(-3460, -5845, "-3.00");
+            Open();
+            EXPECT_TRUE(form.optWest.Value());
+            EXPECT_TRUE(form.optSouth.Value());
+            EXPECT_EQ(form.txtLongH.Text(), "58");
+            form.cmdCalculate.UserClick();
+            ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {-34, -36, -58, -27}, -3.0));
+            Show(3005, 3125, "+2.00");
+            Open();
+            EXPECT_TRUE(form.optEast.Value());
+            EXPECT_TRUE(form.optNorth.Value());
+            form.cmdCalculate.UserClick();
+            ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {30, 3, 31, 15}, 2.0));
+        }
+    }
+}
+
+TEST_F(RiseSetPageTest, PlaceIsMeccaAgainWhenAnotherPickIsThrownAway) {
     currentLanguage = "Arabic";
+    Show(-3460, -5845, "-3.00");
+    HoravexMainForm->UserClose();
     Open();
-    EXPECT_TRUE(form.optWest.Value());
-    EXPECT_TRUE(form.optSouth.Value());
-    EXPECT_EQ(form.txtLongH.Text(), "58");
-    form.cmdCalculate.UserClick();
-    ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {-34, -36, -58, -27}, -3.0));
+    EXPECT_EQ(form.txtLatH.Text(), "21");
+    EXPECT_TRUE(form.optNorth.Value());
+    EXPECT_EQ(form.txtLongH.Text(), "39");
+    EXPECT_TRUE(form.optEast.Value());
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
 }
 
 TEST_F(RiseSetPageTest, DateIsTodayAndTheListsReachFarther) {
@@ -262,6 +284,28 @@ TEST_F(RiseSetPageTest, RangesAreRefusedInTheirOrder) {
     ExpectRefused("Time Zone range is -12 to 12");
 }
 
+TEST_F(RiseSetPageTest, LastZonesOfEitherSidePass) {
+    for (const char* zone : {"-12", "12"}) {
+        TypePlace("31", "15", "30", "3", zone);
+        form.cmdCalculate.UserClick();
+        EXPECT_THAT(platform.dialogs.messages, IsEmpty()) << zone;
+        ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {30, 3, 31, 15}, std::stod(zone)));
+    }
+}
+
+TEST_F(RiseSetPageTest, BlankBoxesAndRangesHaveTitlesOfTheirOwn) {
+    platform.files.WriteWhole("/program/lang/Own.ini", BytesOf("[msg]\n2=two\n4=four\n"));
+    currentLanguage = "Own";
+    TypePlace("31", "15", "91", "3", "2");
+    form.cmdCalculate.UserClick();
+    form.txtLatH.UserType("");
+    form.cmdCalculate.UserClick();
+    ASSERT_EQ(platform.dialogs.messages.size(), 2U);
+    EXPECT_EQ(platform.dialogs.messages[0].title, "four");
+    EXPECT_EQ(platform.dialogs.messages[1].title, "two");
+    EXPECT_EQ(form.lblMoonRise.Caption(), "four");
+}
+
 TEST_F(RiseSetPageTest, LongitudeBeyond180EastPasses) {
     TypePlace("200", "0", "30", "3", "2");
     form.optEast.UserClick();
@@ -270,11 +314,16 @@ TEST_F(RiseSetPageTest, LongitudeBeyond180EastPasses) {
     ExpectTimes(MoonRiseSetTimes({2026, 11, 21}, {30, 3, 200, 0}, 2.0));
 }
 
-TEST_F(RiseSetPageTest, PolePassesAndEndsAsAnError) {
+TEST_F(RiseSetPageTest, EitherPolePassesAndEndsAsAnError) {
     TypePlace("31", "15", "90", "0", "2");
-    form.cmdCalculate.UserClick();
-    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
-    ExpectError();
+    for (OptionButton* pole : {&form.optNorth, &form.optSouth}) {
+        pole->SetValue(true);
+        form.lblMoonRise.SetCaption("");
+        form.lblMoonSet.SetCaption("");
+        form.cmdCalculate.UserClick();
+        EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+        ExpectError();
+    }
 }
 
 TEST_F(RiseSetPageTest, TextThatIsNoNumberIsAnErrorWithoutAMessage) {
