@@ -10,14 +10,15 @@ namespace horavex {
 namespace {
 
 struct QiblaTest : testing::Test {
-    /// Texts in English for the entries of the sentence, in every column.
+    /// Texts in English for the entries of the sentence; those of the second column have a mark.
     QiblaTest() {
         Bytes texts;
         Bytes index;
         for (int record = 0; record < 77 * 6; ++record) {
             index.resize(index.size() + 2);
             PutInt16(index, index.size() - 2, static_cast<std::int16_t>(texts.size() + 1));
-            const Bytes stored = DecodeText(BytesOf(WordOf(record / 6 + 1)));
+            const Bytes stored =
+                DecodeText(BytesOf(WordOf(record / 6 + 1) + (record % 6 == 1 ? "2" : "")));
             texts.insert(texts.end(), stored.begin(), stored.end());
         }
         platform.files.WriteWhole("/program/Dat/T.DAT", texts);
@@ -77,9 +78,27 @@ TEST_F(QiblaTest, FromTheEastItIsNegativeAndTellsWest) {
 TEST_F(QiblaTest, BothMethodsGiveTheSame) {
     From(30.05, 31.25);
     const double first = QiblaRad;
+    From(-6.2, 106.85);
     Settings.QiblaMethod = 2;
     From(30.05, 31.25);
     EXPECT_EQ(QiblaRad, first);
+    EXPECT_EQ(QiblaDegrees, RadToDeg(first));
+}
+
+TEST_F(QiblaTest, SentenceIsInTheLanguageOfTheAcceptedSettings) {
+    Settings.Language = 1;
+    ActiveSettings.Language = 2;
+    From(30.05, 31.25);
+    EXPECT_EQ(QiblaText, "Qibla2: 136 degrees2, 13 minutes2 East2 of2 North2");
+}
+
+TEST_F(QiblaTest, BearingOfExactlyNorthIsEast) {
+    Settings.QiblaMethod = 0;
+    for (const double north : {0.0, -0.0}) {
+        QiblaDegrees = north;
+        ComputeQibla();
+        EXPECT_EQ(QiblaText, "Qibla: 0 degrees, 0 minutes East of North");
+    }
 }
 
 TEST_F(QiblaTest, UnknownMethodKeepsTheOldBearing) {
