@@ -128,6 +128,7 @@ void TranslateSettingsWindow(std::int16_t language) {
     form.lblCityBanner.SetCaption(TextItem(25, language) + ": " + ActiveCityText);
     form.SetCaption("Horavex " + TextItem(19, language));
     ListMethods(*HoravexMainForm, language);
+    ShowNewLocation();
 }
 
 void LoadQiblaLabels() {

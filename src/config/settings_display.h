@@ -36,7 +36,7 @@ void ShowLocationInWindow();
 /// The same after a change of city: in Arabic they are rewritten.
 void ShowNewLocation();
 
-/// The window's labels in a language column of the text table.
+/// The window's labels in a language column of the text table, and the place anew.
 void TranslateSettingsWindow(std::int16_t language);
 
 /// The labels of the qibla's part of the window: the sentence of the last calculation.

@@ -16,6 +16,7 @@
 #include "engine/angle.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
+#include "geo/qibla.h"
 #include "platform/platform.h"
 #include "store/cancel_load.h"
 #include "store/isha_setting.h"
@@ -75,12 +76,19 @@ void EnableQibla() {
     HoravexMainForm->cmdQibla.SetEnabled(Settings.CityIndex != kMeccaCityIndex);
 }
 
+/// The calculation still spoke the language of the former settings.
+void TellQibla() {
+    ComputeQibla();
+    frmMain->lblQibla.SetCaption(QiblaText);
+}
+
 void Accept() {
     RunStep(AcceptPlace);
     RunStep(AcceptLanguage);
     RunStep(EnableQibla);
     RunStep(AcceptAthanType);
     ActiveSettings = Settings;
+    RunStep(TellQibla);
     RunStep(SaveActiveSettings);
 }
 

@@ -11,7 +11,6 @@
 #include "base/prayer_names.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
-#include "base/text.h"
 #include "config/about_window.h"
 #include "config/help.h"
 #include "config/settings_controls.h"
@@ -26,7 +25,6 @@
 #include "engine/undefined_angle.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
-#include "lang/arabic_labels.h"
 #include "lang/form_language.h"
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
@@ -103,13 +101,6 @@ void CalculateOrAsk() {
     HoravexMainForm->SetHelpContextId(ActiveSettings.Language * 1000);
 }
 
-void TranslateMainForm() {
-    TranslateSettingsWindow(ActiveSettings.Language);
-    if (AsciiLower(currentLanguage) == "arabic") {
-        Translate();
-    }
-}
-
 void HoravexMainForm_Load() {
     programFolder = "\\";
     InitHelp(HoravexMainForm->Name(), programFolder);
@@ -120,7 +111,7 @@ void HoravexMainForm_Load() {
     ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
     EnableDependentSettings();
     CalculateOrAsk();
-    TranslateMainForm();
+    TranslateSettingsWindow(ActiveSettings.Language);
     if (CalcFailed != 0) {
         ShowSettingsWindow();
     }

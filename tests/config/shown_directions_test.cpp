@@ -106,5 +106,44 @@ TEST_F(ShownDirectionsTest, ArabicPackKeepsTheArabicTexts) {
     EXPECT_EQ(ShownQibla(), "القبلة: 136 درجة, 13 دقيقة شرق من شمال");
 }
 
+/// The settings window after another language of the texts was chosen in Buenos Aires.
+struct ChosenLanguageTest : ShownDirectionsTest {
+    ChosenLanguageTest() {
+        Show(-3460, -5845, 1);
+        form.txtTimeZone.SetText("-3.00");
+        form.lstLanguage.UserSelect(1);
+    }
+
+    void ExpectPlaceInFrench() {
+        EXPECT_EQ(form.lblLocationLat.Caption(), "Latitude: 34 degrés, 36 minutes Sud");
+        EXPECT_EQ(form.lblLocationLon.Caption(), "Longitude: 58 degrés, 27 minutes Ouest");
+        EXPECT_EQ(form.lblTimeZone.Caption(), "Fuseau horaire ( -4, -3, ...)");
+    }
+};
+
+TEST_F(ChosenLanguageTest, PlaceFollowsTheChoiceAtOnce) {
+    ExpectPlaceInFrench();
+    form.UserClose();
+    EXPECT_THAT(form.lblLocationLat.Caption(), testing::EndsWith("North")) << "back to Mecca";
+}
+
+TEST_F(ChosenLanguageTest, PlaceAndQiblaFollowTheSetAtOnce) {
+    form.SettingsSet.UserClick();
+    ExpectPlaceInFrench();
+    EXPECT_EQ(QiblaText, "Qibla: 76 degrés, 18 minutes Est du Nord");
+    EXPECT_EQ(form.lblQibla.Caption(), QiblaText);
+    EXPECT_EQ(frmMain->lblQibla.Caption(), QiblaText);
+    EXPECT_EQ(ShownQibla(), QiblaText);
+}
+
+TEST_F(ChosenLanguageTest, ArabicPackKeepsItsWordsForThePlaceWhereTheTextsAreEnglish) {
+    currentLanguage = "Arabic";
+    form.lstLanguage.UserSelect(0);
+    EXPECT_EQ(form.lblLocationLat.Caption(), LatitudeInArabic(-34.6));
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(form.lblLocationLat.Caption(), LatitudeInArabic(-34.6));
+    EXPECT_EQ(form.lblLocationLon.Caption(), LongitudeInArabic(-58.45));
+}
+
 }  // namespace
 }  // namespace horavex
