@@ -1,8 +1,8 @@
 #include "engine/day_driver.h"
 
 #include <cmath>
+#include <optional>
 
-#include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/angle.h"
@@ -51,10 +51,11 @@ void RefreshAfterGap() {
     }
 }
 
-std::size_t RowOfToday() {
+/// None once the year has turned since the table was made.
+std::optional<std::size_t> RowOfToday() {
     const double row = TodayDate - DateSerial(CurrentYear, 1, 1);
     if (row < 0.0 || row >= static_cast<double>(kYearRows)) {
-        throw BoundsFault("today lies outside the year of the table");
+        return std::nullopt;
     }
     return static_cast<std::size_t>(row);
 }
@@ -122,10 +123,13 @@ void RefreshAll() {
 void ShowDay() {
     RefreshAfterGap();
     TodayDate = Ports().clock.Today();
-    const std::size_t row = RowOfToday();
-    ShowTimes(TimesOfRow(row));
+    const auto row = RowOfToday();
+    if (!row) {
+        return;  // the next tick calculates the new year
+    }
+    ShowTimes(TimesOfRow(*row));
     ShowDates();
-    ShowNextPrayer(row);
+    ShowNextPrayer(*row);
     host->SetFlashVariables();
 }
 

@@ -38,7 +38,7 @@ void RefreshAll();
 
 /// Puts today's row of the table into the labels of frmMain and hands them to the face. Does not
 /// look at CalcFailed. A day more than one away from LastRefreshDate runs the set action first.
-/// Throws BoundsFault for a day outside the table.
+/// Shows nothing of a day outside the table, which a wait that crosses the year's end comes to.
 void ShowDay();
 
 }  // namespace horavex

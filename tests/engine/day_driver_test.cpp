@@ -208,12 +208,15 @@ TEST_F(ShowDayTest, GapOfTwoDaysEitherWayRunsTheSetAction) {
     EXPECT_EQ(host.setActions, 2);
 }
 
-TEST_F(ShowDayTest, DayOutsideTheTableIsAFault) {
+TEST_F(ShowDayTest, DayOutsideTheTableShowsNothing) {
     RefreshAll();
-    CurrentYear = 2020;
-    EXPECT_THROW(ShowDay(), BoundsFault);
-    CurrentYear = 2027;
-    EXPECT_THROW(ShowDay(), BoundsFault);
+    frmMain->lblDate.SetCaption("untouched");
+    for (const std::int16_t year : {std::int16_t{2020}, std::int16_t{2027}}) {
+        CurrentYear = year;
+        ShowDay();
+        EXPECT_EQ(frmMain->lblDate.Caption(), "untouched");
+        EXPECT_EQ(TodayDate, DateSerial(2026, 11, 21));
+    }
 }
 
 TEST_F(ShowDayTest, TimeThatDoesNotExistShowsTheTimeOfAFarDate) {
