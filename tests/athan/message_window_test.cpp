@@ -2,6 +2,8 @@
 
 #include "athan/athan_state.h"
 #include "athan/player.h"
+#include "lang/language_pack.h"
+#include "store/text_table.h"
 #include "support/program_test.h"
 
 namespace horavex {
@@ -16,6 +18,24 @@ struct MessageWindowTest : ProgramTest {
         fMessage->Show();
     }
 };
+
+TEST_F(MessageWindowTest, LoadTranslatesButKeepsItsOwnTitle) {
+    currentLanguage = "German";
+    fMessage->Unload();
+    fMessage->Load();
+    EXPECT_EQ(fMessage->lblMessage2.Caption(), "Bitte warten...");
+    EXPECT_EQ(fMessage->Caption(), "Horavex Prayer Time Software ");
+}
+
+TEST_F(MessageWindowTest, LoadTakesTheCancelButtonsCaptionFromTheAcceptedLanguage) {
+    currentLanguage = "German";
+    ActiveSettings.Language = 1;
+    Settings.Language = 2;
+    ASSERT_NE(TextItem(27, 1), TextItem(27, 2));
+    fMessage->Unload();
+    fMessage->Load();
+    EXPECT_EQ(fMessage->CmdCancel.Caption(), TextItem(27, 1));
+}
 
 TEST_F(MessageWindowTest, ButtonPlaysTheSoundOfTheOtherPrayers) {
     fMessage->Athan_Sound.UserClick();

@@ -390,6 +390,15 @@ TEST_F(SettingsWindowTest, CloseBoxThrowsEditsAway) {
     EXPECT_EQ(form.hsDepr2.Value(), 18);
 }
 
+TEST_F(SettingsWindowTest, CloseFromCodeHidesItAndThrowsEditsAway) {
+    ShowSettingsWindow();
+    form.hsDepr2.UserSlide(11);
+    form.Unload();
+    EXPECT_FALSE(form.Visible());
+    EXPECT_TRUE(form.IsLoaded());
+    EXPECT_EQ(IshaAngle, 18.0);
+}
+
 TEST_F(SettingsWindowTest, MinimisedWindowHides) {
     ShowSettingsWindow();
     form.SetWindowState(WindowState::kMinimized);
