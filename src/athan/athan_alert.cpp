@@ -44,20 +44,31 @@ void ShowAlarmMessage() {
     fMessage->Show();
 }
 
+/// A message that is gone, however it went, is an alarm that has been dismissed.
+bool AlarmStands() {
+    return alarmDismissed == kFalse && fMessage->Visible();
+}
+
 void BeepUntilDismissed() {
-    for (int i = 0; i < kRepeats && alarmDismissed == kFalse; ++i) {
+    for (int i = 0; i < kRepeats && AlarmStands(); ++i) {
         Ports().dialogs.Beep();
         WaitSeconds(kAfterBeep / kSecondsPerDay);
     }
 }
 
 void HoldUntilDismissed() {
-    for (int i = 0; i < kRepeats && alarmDismissed == kFalse; ++i) {
+    for (int i = 0; i < kRepeats && AlarmStands(); ++i) {
         WaitSeconds(kHold / kSecondsPerDay);
     }
 }
 
+struct ActiveAlarm {
+    ActiveAlarm() { alarmActive = kTrue; }
+    ~ActiveAlarm() { alarmActive = kFalse; }
+};
+
 void SoundAlarm(double start) {
+    const ActiveAlarm active;
     ShowAlarmMessage();
     WaitUntil(start, kBeforeSound);
     BeepUntilDismissed();

@@ -6,6 +6,7 @@
 namespace horavex {
 
 std::int16_t athanActive = 0;
+std::int16_t alarmActive = 0;
 std::int16_t alarmDismissed = 0;
 std::array<std::string, 2> customAthanFiles;
 
@@ -13,6 +14,7 @@ namespace {
 
 const ProgramStateReset reset([] {
     athanActive = 0;
+    alarmActive = 0;
     alarmDismissed = 0;
     customAthanFiles = {};
 });

@@ -10,6 +10,9 @@ namespace horavex {
 /// seconds of a prayer.
 extern std::int16_t athanActive;
 
+/// -1 while an alarm stands: from its arrival until its waits are over.
+extern std::int16_t alarmActive;
+
 /// -1 once the user has closed the alarm's message; shared with the export's cancel.
 extern std::int16_t alarmDismissed;
 

@@ -32,6 +32,15 @@ void CmdCancel_Click() {
     StopSound();
 }
 
+/// Whatever takes the alarm's message away dismisses the alarm. A year that is calculated takes it
+/// and silences an athan, too.
+void fMessage_Unload() {
+    if (alarmActive != kFalse) {
+        alarmDismissed = kTrue;
+    }
+    StopSound();
+}
+
 /// A user who closes the window cancels the list that is being filled.
 void fMessage_QueryUnload(const CloseRequest& request) {
     if (request.reason == CloseReason::kUser) {
@@ -43,7 +52,7 @@ void fMessage_QueryUnload(const CloseRequest& request) {
 
 void BindMessageWindow() {
     fMessage->onLoad = fMessage_Load;
-    fMessage->onUnload = StopSound;  // a year that is calculated silences an athan, too
+    fMessage->onUnload = fMessage_Unload;
     fMessage->onCloseRequest = fMessage_QueryUnload;
     fMessage->Athan_Sound.onClick = Athan_Sound_Click;
     fMessage->cmdAlarmClose.onClick = cmdAlarmClose_Click;

@@ -6,7 +6,6 @@
 #include "base/program_state.h"
 #include "forms/control_array.h"
 #include "forms/focusable.h"
-#include "forms/modal_loop.h"
 
 namespace horavex {
 
@@ -133,7 +132,6 @@ void Form::Show(Form* owner) {
 void Form::ShowModal(Form* owner) {
     Present(owner, true);
     if (host != nullptr && Visible()) {
-        const ModalLoop loop;
         host->RunModal(*this);
     }
 }

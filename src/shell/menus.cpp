@@ -7,7 +7,6 @@
 #include "config/help.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
-#include "forms/modal_loop.h"
 #include "geo/distance_window.h"
 #include "geo/qibla_window.h"
 #include "lang/language_menu.h"
@@ -44,12 +43,10 @@ void mnuHelpIndex_Click() {
 }  // namespace
 
 void PopUp(const MenuItem& menu, int x, int y) {
-    const ModalLoop loop;
     Ports().windows.PopUpMenu(frmMain->Name(), menu.Name(), x, y);
 }
 
 void PopUpAtPointer(const MenuItem& menu) {
-    const ModalLoop loop;
     Ports().windows.PopUpMenuAtPointer(frmMain->Name(), menu.Name());
 }
 

@@ -1,7 +1,6 @@
 #include "shell/tick.h"
 
 #include <optional>
-#include <vector>
 
 #include "athan/athan_alert.h"
 #include "athan/athan_state.h"
@@ -10,7 +9,6 @@
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
-#include "forms/modal_loop.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/settings_record.h"
@@ -22,14 +20,6 @@ namespace {
 constexpr double kMatchWindow = 10.0;  // seconds in which a moment counts as arrived
 constexpr double kAlarmStepsPerDay = 288.0;
 constexpr std::int16_t kAlarm = 7;
-
-/// Depth of modal loops at which each unfinished tick runs, the innermost last.
-std::vector<int> runningTicks;
-
-struct RunningTick {
-    RunningTick() { runningTicks.push_back(ModalLoop::Depth()); }
-    ~RunningTick() { runningTicks.pop_back(); }
-};
 
 /// Compares the clock in whole seconds with a fraction of a day. The difference is taken to the
 /// microsecond, so that the tenth second after a moment is never inside its window.
@@ -69,9 +59,10 @@ void TestPrayers(const TickActions& actions) {
     ++NextPrayer;
 }
 
-/// The alarm is compared every day, whatever the state of its check box.
+/// The alarm is compared every day, whatever the state of its check box. One that is up is not
+/// raised again by the ticks inside its own wait.
 void TestAlarm(const TickActions& actions) {
-    if (HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
+    if (alarmActive == kFalse && HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
         actions.alert(kAlarm);
     }
 }
@@ -90,10 +81,6 @@ void RunTick(const TickActions& actions) {
 }
 
 void tmrUpdate_Timer() {
-    if (!runningTicks.empty() && runningTicks.back() == ModalLoop::Depth()) {
-        return;
-    }
-    const RunningTick running;
     RunTick(DefaultTickActions());
     // No notification area tells when the user points at the icon: its tip is kept fresh.
     RefreshTrayTip();

@@ -20,9 +20,9 @@ TickActions DefaultTickActions();
 /// it again.
 void RunTick(const TickActions& actions);
 
-/// The timer's handler. A wait inside a tick's own call starts no other tick, so that an alarm
-/// does not nest in itself; under a modal window or a menu that was opened meanwhile the ticks go
-/// on.
+/// The timer's handler. Ticks come inside every wait, those of another tick's own alert included,
+/// and under every modal window, menu and dialogue; athanActive and alarmActive keep an alert from
+/// nesting in itself.
 void tmrUpdate_Timer();
 
 }  // namespace horavex

@@ -203,14 +203,21 @@ TEST_F(AthanTickTest, AthanThatIsUpKeepsTheNextPrayerBackAndQueuesNothing) {
     EXPECT_FALSE(frmAzan->IsLoaded());
 }
 
-TEST_F(AthanTickTest, WaitForTheSoundHoldsTheNextTickUp) {
+TEST_F(AthanTickTest, TickInTheWaitForTheSoundDoesNotRaiseItAgain) {
+    platform.loop.After(1.0, [] { tmrUpdate_Timer(); });
+    tmrUpdate_Timer();
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
+}
+
+TEST_F(AthanTickTest, StopInTheWaitForTheSoundBringsItBackOnTheNextTick) {
     platform.loop.After(1.0, [&] {
         PressStop();
         tmrUpdate_Timer();
-        EXPECT_EQ(athanActive, 0) << "no tick inside a tick";
+        EXPECT_EQ(athanActive, -1);
     });
     tmrUpdate_Timer();
-    EXPECT_EQ(Opened().size(), 1U);
+    EXPECT_TRUE(frmAzan->Visible());
+    EXPECT_EQ(athanActive, -1);
 }
 
 struct AlarmTest : ProgramTest {
@@ -246,11 +253,68 @@ TEST_F(AlarmTest, TellsItsTimeAndOffersClose) {
     SoundAlarm();
 }
 
+TEST_F(AlarmTest, TellsTheAcceptedTimeInTheAcceptedLanguage) {
+    Settings.AlarmTime = 144;
+    Settings.Language = 2;
+    platform.loop.After(1.0, [] {
+        EXPECT_EQ(fMessage->lblMessage2.Caption(), "06:30 AM : It is time for your alarm.");
+    });
+    SoundAlarm();
+}
+
+TEST_F(AlarmTest, TakesAWindowThatIsInUseOver) {
+    fMessage->Load();
+    fMessage->SetCaption("another");
+    fMessage->CmdCancel.SetCaption("another");
+    fMessage->CmdCancel.SetVisible(true);
+    platform.loop.After(1.0, [] {
+        EXPECT_EQ(fMessage->Caption(), "Horavex Prayer Time Software ");
+        EXPECT_EQ(fMessage->CmdCancel.Caption(), "Cancel");
+        EXPECT_FALSE(fMessage->CmdCancel.Visible());
+    });
+    SoundAlarm();
+}
+
 TEST_F(AlarmTest, ClosingEndsItAtTheNextPass) {
     platform.loop.After(9.0, [] { fMessage->cmdAlarmClose.UserClick(); });
     EXPECT_NEAR(SoundAlarm(), 11.0, 0.5);
     EXPECT_EQ(platform.dialogs.beeps, 3);
     EXPECT_EQ(alarmDismissed, -1);
+}
+
+TEST_F(AlarmTest, ClosingItsWindowDismissesItAsItsButtonDoes) {
+    platform.loop.After(9.0, [] { fMessage->UserClose(); });
+    EXPECT_NEAR(SoundAlarm(), 11.0, 0.5);
+    EXPECT_EQ(platform.dialogs.beeps, 3);
+    EXPECT_EQ(alarmDismissed, -1);
+}
+
+TEST_F(AlarmTest, CalculatedYearDismissesIt) {
+    platform.loop.After(3.0, RefreshAll);
+    EXPECT_NEAR(SoundAlarm(), 6.0, 0.5);
+    EXPECT_EQ(platform.dialogs.beeps, 1);
+    EXPECT_EQ(alarmDismissed, -1);
+}
+
+TEST_F(AlarmTest, WindowThatIsLoadedAgainBeforeItsWaitIsOverDoesNotBringItBack) {
+    platform.loop.After(3.0, [this] {
+        fMessage->cmdAlarmClose.UserClick();
+        frmMain->mnuExport.UserClick();  // its dialogue is cancelled and leaves the window loaded
+        EXPECT_EQ(alarmDismissed, 0);
+    });
+    EXPECT_NEAR(SoundAlarm(), 5.0, 0.5);
+    EXPECT_EQ(platform.dialogs.beeps, 1);
+}
+
+TEST_F(AlarmTest, WindowOfProgressThatGoesDismissesNothing) {
+    RefreshAll();
+    EXPECT_EQ(alarmDismissed, 0);
+}
+
+TEST_F(AlarmTest, IsActiveWhileItStandsAndNoLonger) {
+    platform.loop.After(5.0, [] { EXPECT_EQ(alarmActive, -1); });
+    SoundAlarm();
+    EXPECT_EQ(alarmActive, 0);
 }
 
 TEST_F(AlarmTest, NextAlarmForgetsTheDismissal) {

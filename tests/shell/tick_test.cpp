@@ -1,11 +1,13 @@
 #include "shell/tick.h"
 
+#include <algorithm>
+
 #include "athan/athan_state.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
-#include "forms/modal_loop.h"
 #include "support/program_test.h"
+#include "windows/frm_azan.h"
 
 namespace horavex {
 namespace {
@@ -176,6 +178,19 @@ struct RunningClockTest : ProgramTest {
         ActiveSettings.AlarmTime = 78;
         SetClock(2026, 11, 21, 6, 30, 0);
     }
+
+    /// An alarm less than five minutes ahead of Asr.
+    void AlarmBeforeAsr() {
+        ActiveSettings.AlarmTime = static_cast<std::int16_t>(TodayTimes[3] * 288.0);
+        platform.clock.Set(platform.clock.Today() + ActiveSettings.AlarmTime / 288.0);
+    }
+
+    /// The ticks that come while the next tick waits.
+    void TickEverySecond(int seconds) {
+        for (int second = 1; second <= seconds; ++second) {
+            platform.loop.After(second, [] { frmMain->tmrUpdate.Tick(); });
+        }
+    }
 };
 
 TEST_F(RunningClockTest, TickSendsTheFace) {
@@ -212,28 +227,61 @@ TEST_F(RunningClockTest, TickInsideACalculationShowsTheDayAndCalculatesNothing) 
 
 TEST_F(RunningClockTest, AlarmDoesNotNestInItself) {
     AlarmInMoment();
-    int ticksInside = 0;
-    platform.loop.After(5.0, [&] {
-        frmMain->tmrUpdate.Tick();
-        ++ticksInside;
-    });
+    TickEverySecond(20);
     frmMain->tmrUpdate.Tick();
-    EXPECT_EQ(ticksInside, 1);
-    EXPECT_EQ(platform.dialogs.beeps, 20) << "a nested alarm would have beeped on its own";
+    const auto& calls = platform.desktop.calls;
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "show fMessage"), 1);
+    EXPECT_EQ(platform.dialogs.beeps, 20);
 }
 
-TEST_F(RunningClockTest, TicksGoOnUnderAModalWindow) {
+TEST_F(RunningClockTest, FaceGoesOnWhileAnAlarmStands) {
     AlarmInMoment();
-    std::size_t before = 0;
-    std::size_t after = 0;
-    platform.loop.After(30.0, [&] {
-        const ModalLoop modal;
-        before = platform.face.variables.size();
-        frmMain->tmrUpdate.Tick();
-        after = platform.face.variables.size();
+    TickEverySecond(300);
+    platform.loop.After(299.5, [] {
+        EXPECT_TRUE(fMessage->Visible());
+        EXPECT_EQ(frmMain->lblCurrTime.Caption(), "6:34:59 AM");
     });
     frmMain->tmrUpdate.Tick();
-    EXPECT_EQ(after, before + 11);
+    EXPECT_EQ(platform.face.variables.size(), 301U * 11U);
+}
+
+TEST_F(RunningClockTest, AthanThatFallsDueDuringAnAlarmComes) {
+    AlarmBeforeAsr();
+    const double asr = TodayTimes[3];
+    TickEverySecond(300);
+    platform.loop.After(305.0, [] { EXPECT_TRUE(fMessage->Visible()) << "the alarm goes on"; });
+    frmMain->tmrUpdate.Tick();
+    ASSERT_EQ(TodayTimes[3], asr);
+    EXPECT_TRUE(frmAzan->Visible());
+    EXPECT_EQ(frmAzan->prayerIndex, 3);
+    EXPECT_EQ(athanActive, -1);
+}
+
+TEST_F(RunningClockTest, BoxThatIsOpenInATicksOwnWaitDoesNotStopTheClock) {
+    AlarmInMoment();
+    platform.loop.After(30.0, [this] {
+        for (int second = 1; second <= 5; ++second) {  // the loop of the box
+            platform.clock.Advance(1.0);
+            frmMain->tmrUpdate.Tick();
+        }
+        EXPECT_EQ(frmMain->lblCurrTime.Caption(), "6:30:35 AM");
+    });
+    frmMain->tmrUpdate.Tick();
+}
+
+TEST_F(RunningClockTest, WaitAcrossTheEndOfALeapYearReportsNothingAndTheNextTickRecalculates) {
+    SetClock(2028, 12, 31, 23, 55, 0);
+    LastRefreshDate = platform.clock.Today();
+    ActiveSettings.AlarmTime = 287;
+    RefreshAll();
+    SetClock(2028, 12, 31, 23, 55, 0);
+    EXPECT_NO_THROW(frmMain->tmrUpdate.Tick());
+    ASSERT_EQ(platform.clock.Today(), DateSerial(2029, 1, 1)) << "the alarm has stood so long";
+    EXPECT_EQ(CurrentYear, 2028);
+    frmMain->tmrUpdate.Tick();
+    EXPECT_EQ(CurrentYear, 2029);
+    EXPECT_EQ(TodayTimes[0] * 24.0, TimesOfRow(0)[0]);
+    EXPECT_TRUE(platform.dialogs.messages.empty());
 }
 
 TEST_F(RunningClockTest, NewYearRecalculatesBehindTheProgressWindow) {
