@@ -79,7 +79,8 @@ ClockTime ClockTimeOf(Date date) {
 
 int SecondOfDay(Date date) {
     const double seconds = RoundHalfEven((date - std::floor(date)) * kSecondsPerDay);
-    return seconds >= kSecondsPerDay ? 0 : static_cast<int>(seconds);
+    // Written so that the time of no date at all is midnight, too.
+    return seconds < kSecondsPerDay ? static_cast<int>(seconds) : 0;
 }
 
 }  // namespace horavex

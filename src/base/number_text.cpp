@@ -14,6 +14,7 @@ namespace horavex {
 namespace {
 
 constexpr int kSignificantDigits = 15;
+constexpr double kFixedLimit = 1e6;  // from here on a number has no fixed form
 
 /// A decimal number taken apart: digits without trailing zeros, times 10^exponent with the
 /// mark behind the first digit.
@@ -114,11 +115,17 @@ std::string NumberToText(double value, char decimalMark) {
     if (value == 0.0) {
         return "0";
     }
+    if (!std::isfinite(value)) {
+        return std::isnan(value) ? "NaN" : value < 0.0 ? "-Infinity" : "Infinity";
+    }
     const Decimal number = TakeApart(value);
     return (number.negative ? "-" : "") + Magnitude(number, decimalMark);
 }
 
 std::string SignedFixedText(double value, char decimalMark) {
+    if (!(std::fabs(value) < kFixedLimit)) {
+        return NumberToText(value, decimalMark);
+    }
     const auto hundredths = static_cast<long>(RoundHalfEven(value * 100.0));
     const long size = std::labs(hundredths);
     const std::string places = std::to_string(size % 100);
@@ -128,6 +135,14 @@ std::string SignedFixedText(double value, char decimalMark) {
 
 bool IsNumeric(std::string_view text) {
     return Canonical(text).has_value();
+}
+
+std::optional<double> NumberIn(std::string_view text) {
+    try {
+        return TextToNumber(text);
+    } catch (const Fault&) {
+        return std::nullopt;
+    }
 }
 
 double TextToNumber(std::string_view text) {

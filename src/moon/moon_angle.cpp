@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kPlaces = 6;
 constexpr int kMostTenths = 101;
+constexpr double kMostTurns = 1e6;
 
 /// Hours of sidereal time at Greenwich at midnight, unrounded.
 double SiderealHoursAtMidnight(const CivilDate& date) {
@@ -97,6 +98,10 @@ std::int16_t TextIntegerPart(double value) {
 }
 
 double WrapRange(double value, double low, double high) {
+    // A damaged zone can be so far off that turns taken away one by one never end.
+    if (!(std::fabs(value) < kMostTurns * high)) {
+        return FloatMod(value, high);
+    }
     while (value > high) {
         value -= high;
     }

@@ -1,9 +1,11 @@
 #include "timetables/ics_timetable.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
+#include "base/nearest_int.h"
 #include "base/rounding.h"
 #include "base/text.h"
 #include "base/utf8.h"
@@ -59,7 +61,7 @@ std::string CompactMoment(Date day, int seconds) {
 
 /// "+0545", with seconds where the hours have some.
 std::string OffsetText(double hours) {
-    const auto seconds = static_cast<int>(RoundHalfEven(hours * 3600.0));
+    const int seconds = NearestInt(std::clamp(hours, -24.0, 24.0) * 3600.0);
     const int size = std::abs(seconds);
     char text[16];
     std::snprintf(text, sizeof text, size % 60 == 0 ? "%c%02d%02d" : "%c%02d%02d%02d",

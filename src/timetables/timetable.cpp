@@ -27,7 +27,8 @@ TimetableDay TakeDay(std::size_t row) {
         date, HijriFromDate(date), IsDaylightDay(date, ActiveSettings), DaylightChange::kNone, {}};
     const PrayerRow hours = TimesOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        if (hours[prayer] != NoEvent) {
+        // What is no time of any day, a damaged zone's, has no text either.
+        if (std::fabs(hours[prayer]) < NoEvent) {
             day.hours[prayer] = hours[prayer];
         }
     }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <chrono>
+#include <cmath>
 
 namespace horavex {
 namespace {
@@ -193,6 +194,12 @@ TEST(SecondOfDay, TiesGoToTheEvenSecond) {
     EXPECT_EQ(SecondOfDay(1.0 / 256.0), 338);
     EXPECT_EQ(SecondOfDay(3.0 / 256.0), 1012);
     EXPECT_EQ(SecondOfDay(40000.0 + 3.0 / 256.0), 1012);
+}
+
+TEST(SecondOfDay, TimeOfNoDateIsMidnight) {
+    EXPECT_EQ(SecondOfDay(NAN), 0);
+    EXPECT_EQ(SecondOfDay(INFINITY), 0);
+    EXPECT_EQ(SecondOfDay(1e300), 0);
 }
 
 TEST(SecondOfDay, EverySecondComesBackOnAnyDay) {

@@ -230,5 +230,28 @@ TEST(TextToNumber, ReadsBackEveryHundredthOfADegreeExactly) {
     }
 }
 
+TEST(NumberToText, WhatIsNotFiniteIsAWord) {
+    EXPECT_EQ(NumberToText(NAN), "NaN");
+    EXPECT_EQ(NumberToText(INFINITY), "Infinity");
+    EXPECT_EQ(NumberToText(-INFINITY), "-Infinity");
+    EXPECT_FALSE(IsNumeric("NaN"));
+    EXPECT_FALSE(IsNumeric("-Infinity"));
+}
+
+TEST(SignedFixedText, LeavesWhatIsTooGreatForItToTheGeneralForm) {
+    EXPECT_EQ(SignedFixedText(999999.0), "+999999.00");
+    EXPECT_EQ(SignedFixedText(1e6), "1000000");
+    EXPECT_EQ(SignedFixedText(-9.3e16), "-9.3E+16");
+    EXPECT_EQ(SignedFixedText(1e300), "1E+300");
+    EXPECT_EQ(SignedFixedText(NAN), "NaN");
+}
+
+TEST(NumberIn, IsNothingForWhatIsNoNumberOrNoFloatHolds) {
+    EXPECT_EQ(NumberIn(" 2,5 "), 2.5);
+    EXPECT_EQ(NumberIn("two"), std::nullopt);
+    EXPECT_EQ(NumberIn("1e400"), std::nullopt);
+    EXPECT_EQ(NumberIn("1e-400"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace horavex

@@ -57,6 +57,12 @@ TEST(MoonAngle, RangeWrapsFromBothSides) {
     EXPECT_EQ(WrapHours(24.5), 0.5);
 }
 
+TEST(MoonAngle, RangeWrapsWhatIsFarOutsideAtOnce) {
+    EXPECT_EQ(WrapHours(24e15), 0.0);
+    EXPECT_GE(WrapHours(-1e300), 0.0);
+    EXPECT_FALSE(WrapHours(INFINITY) == WrapHours(INFINITY)) << "no hour at all";
+}
+
 // From the book: 17.25 February 1985 is 2446113.75.
 TEST(MoonAngle, JulianDays) {
     EXPECT_EQ(CivilToJulian(1985, 2, 17.25), 2446113.75);
