@@ -289,7 +289,8 @@ void FillCountries() {
 }
 
 bool LoadCityPicker() {
-    fCountry->Unload();  // one of an earlier pick lies hidden
+    CancelLoad = kFalse;  // the user may have closed any progress window before
+    fCountry->Unload();   // one of an earlier pick lies hidden
     fCountry->openedFromDistance = kFalse;
     fCountry->Load();
     ShowProgressWindow();

@@ -107,6 +107,13 @@ TEST_F(CityPickerTest, ClosedProgressWindowStopsTheCountriesAndUnloadsThePicker)
     EXPECT_FALSE(picker.IsLoaded());
 }
 
+TEST_F(CityPickerTest, ProgressWindowClosedEarlierStopsNoFill) {
+    CancelLoad = kTrue;
+    EXPECT_TRUE(LoadCityPicker());
+    EXPECT_GT(picker.lstcountry.ListCount(), 200);
+    EXPECT_EQ(picker.lstcity.Text(), "Mecca, Mecca");
+}
+
 TEST_F(CityPickerTest, CancelledFillLeavesAPartialList) {
     fCountry->Load();
     platform.loop.AtPump(platform.loop.Pumps() + 7, [] { CancelLoad = kTrue; });
@@ -416,10 +423,16 @@ TEST_F(DistancePickTest, NextPickForTheSettingsIsTheirsAgain) {
 }
 
 TEST_F(DistancePickTest, CancelledProgressOpensNothing) {
-    CancelLoad = kTrue;
+    platform.loop.AtPump(platform.loop.Pumps() + 2, [] { fMessage->UserClose(); });
     PickCityForDistance(*frmMain, [this] { taken = "taken"; });
     EXPECT_FALSE(picker.IsLoaded());
     EXPECT_EQ(taken, "");
+}
+
+TEST_F(DistancePickTest, ProgressWindowClosedEarlierKeepsNoPickerAway) {
+    CancelLoad = kTrue;
+    Pick("Jakarta");
+    EXPECT_EQ(taken, "Jakarta, Jakarta - Indonesia");
 }
 
 }  // namespace
