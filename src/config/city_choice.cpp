@@ -1,5 +1,6 @@
 #include "config/city_choice.h"
 
+#include "config/angle_sliders.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "geo/city_picker.h"
@@ -26,6 +27,9 @@ void ChangeCity(std::int16_t cityIndex) {
     ShowNewLocation();
     SetDepressionLimits(Location.City.Latitude);
     form.hsDepr.SetValue(AngleBand.middle);
+    // A slider that stands there already writes nothing, and the wizard has sliders of its own.
+    Settings.FajrAngle = AngleOnSliders(form.hsDepr, form.hsDepr1);
+    sub06FB();
     SetDefaultDstDays(Ports().clock.Today(), Location.City.Latitude);
     form.lblCity.SetCaption(CityText);
     ShowDaylightDays();

@@ -5,7 +5,9 @@
 
 #include "base/int16.h"
 #include "base/number_text.h"
+#include "config/settings_display.h"
 #include "platform/platform.h"
+#include "store/settings_record.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -55,6 +57,19 @@ void FindDays(const std::vector<ClockOffset>& offsets, ComputerZone& zone) {
     }
 }
 
+/// A control that stands already where it is put writes nothing; what is shown counts all the same.
+void WriteShownDaylight() {
+    const SettingsForm& form = *HoravexMainForm;
+    Settings.DstEnabled = ToInt16(form.chkDayLT.Value());
+    if (Settings.DstEnabled == 1) {
+        Settings.DstStart = ToInt16(form.hsBegin.Value() + 1);
+        Settings.DstEnd = ToInt16(form.hsEnd.Value() + 1);
+    }
+    sub0602();
+    sub06C6();
+    sub071C();
+}
+
 }  // namespace
 
 ComputerZone FindComputerZone(Date today) {
@@ -77,6 +92,7 @@ void UseComputerZone() {
         form.hsBegin.SetValue(zone.dstStart - 1);
         form.hsEnd.SetValue(zone.dstEnd - 1);
     }
+    WriteShownDaylight();
 }
 
 }  // namespace horavex

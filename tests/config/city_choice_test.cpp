@@ -63,6 +63,15 @@ TEST_F(CityChoiceTest, AnotherCityTakesTheBandAndItsDefaultForFajr) {
     EXPECT_EQ(frmWizard->lblDeprMax.Caption(), form.lblDeprMax.Caption());
 }
 
+TEST_F(CityChoiceTest, DefaultFajrCountsThoughTheSliderStandsThereAlready) {
+    ASSERT_EQ(form.hsDepr.Value(), 18);
+    Settings.FajrAngle = 15.0;  // on the wizard's slider
+    TakePickedCity(IndexOf("Jakarta"));
+    ASSERT_EQ(AngleBand.middle, 18);
+    EXPECT_EQ(Settings.FajrAngle, 18.0);
+    EXPECT_EQ(form.lblDepr.Caption(), "degrees 18");
+}
+
 TEST_F(CityChoiceTest, AnotherCityTakesTheDefaultDaysOfItsHemisphere) {
     TakePickedCity(IndexOf("Cairo"));
     EXPECT_EQ(Settings.DstStart, 94);

@@ -102,6 +102,20 @@ TEST_F(ComputerZoneTest, ButtonTakesTheTickAwayWhereThereIsNoDaylightSaving) {
     EXPECT_EQ(Settings.DstStart, begin);
 }
 
+TEST_F(ComputerZoneTest, ButtonWritesWhatItShowsThoughTheControlsStandThereAlready) {
+    LiveInEurope();
+    form.cmdComputerZone.UserClick();
+    Settings.DstEnabled = 0;
+    Settings.DstStart = 121;  // as a wizard leaves them
+    Settings.DstEnd = 274;
+    form.cmdComputerZone.UserClick();
+    EXPECT_EQ(Settings.DstEnabled, 1);
+    EXPECT_EQ(Settings.DstStart, 88);
+    EXPECT_EQ(Settings.DstEnd, 297);
+    EXPECT_EQ(form.lblBegin.Caption(), "Sunday, March 29, 2026");
+    EXPECT_TRUE(form.hsEnd.Enabled());
+}
+
 TEST_F(ComputerZoneTest, SetButtonTakesWhatTheButtonFilledIn) {
     LiveInEurope();
     form.cmdComputerZone.UserClick();
