@@ -8,11 +8,11 @@
 
 namespace horavex {
 
-AngleLimits AngleBand;
+AngleLimits AngleBand = kNoBand;
 
 namespace {
 
-const ProgramStateReset reset([] { AngleBand = {}; });
+const ProgramStateReset reset([] { AngleBand = kNoBand; });
 
 AngleLimits DecodeLimits(ByteView record) {
     const Bytes codes = DecodeText(record.subspan(2, 3));

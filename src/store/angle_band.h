@@ -13,6 +13,9 @@ struct AngleLimits {
     bool operator==(const AngleLimits&) const = default;
 };
 
+/// Until a band is read: the range of the controls' definition, and the angle of a first run.
+inline constexpr AngleLimits kNoBand = {90, 18, 0};
+
 /// The band of the present latitude. Written by LoadAngleBand.
 extern AngleLimits AngleBand;
 

@@ -1,6 +1,7 @@
 #include "store/angle_band.h"
 
 #include "base/fault.h"
+#include "base/program_state.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {
@@ -42,6 +43,11 @@ TEST_F(AngleBandTest, BelowTheFirstLimitTheFormerBandStays) {
     EXPECT_EQ(BandOf(0), kFormer);
     EXPECT_EQ(BandOf(100), kFormer);
     EXPECT_EQ(BandOf(101), kLow);
+}
+
+TEST_F(AngleBandTest, FreshProcessHasTheRangeOfTheControlsDefinition) {
+    ResetProgramState();
+    EXPECT_EQ(AngleBand, (AngleLimits{90, 18, 0}));
 }
 
 TEST_F(AngleBandTest, BeyondTheLastLimitTheLastBandHolds) {
