@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/rounding.h"
+#include "base/nearest_int.h"
 
 namespace horavex {
 
@@ -17,9 +17,11 @@ double AngleOnSliders(const ScrollBar& whole, const Slider& quarters) {
 }
 
 void MoveSliders(double angle, ScrollBar& whole, Slider& quarters) {
-    const double floor = std::floor(angle);
-    whole.SetValue(static_cast<int>(floor));
-    quarters.SetValue(static_cast<int>(RoundHalfEven(std::fabs(angle - floor) / kQuarter)));
+    // The degree above the range is its end and four quarters.
+    const bool topmost = angle == whole.Max() + 1.0;
+    const double floor = topmost ? whole.Max() : std::floor(angle);
+    whole.SetValue(NearestInt(floor));
+    quarters.SetValue(NearestInt(std::fabs(angle - floor) / kQuarter));
 }
 
 }  // namespace horavex

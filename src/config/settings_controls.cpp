@@ -3,7 +3,7 @@
 #include "base/fault.h"
 #include "base/flag.h"
 #include "base/int16.h"
-#include "base/rounding.h"
+#include "base/nearest_int.h"
 #include "base/text.h"
 #include "config/angle_sliders.h"
 #include "config/computer_zone.h"
@@ -15,11 +15,13 @@
 #include "platform/platform.h"
 #include "store/angle_band.h"
 #include "store/cancel_load.h"
+#include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
 #include "store/settings_defaults.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "store/text_table.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 
@@ -69,7 +71,7 @@ void ShowLanguage() {
 
 void ShowSettings(double fajrAngle, double ishaAngle) {
     SettingsForm& form = *HoravexMainForm;
-    Select(form.optAsrRatio, static_cast<int>(RoundHalfEven(Settings.AsrRatio)));
+    Select(form.optAsrRatio, NearestInt(Settings.AsrRatio));
     Select(form.optAthanType, Settings.AthanType);
     Select(form.optQiblaMethod, Settings.QiblaMethod);
     ShowAngles(fajrAngle, ishaAngle);
@@ -141,6 +143,25 @@ void cmdDefault_Click() {
     sub0651();
 }
 
+/// Another city in a record comes with its place: an index beside the place of another city would
+/// be accepted as it stands. One that no file knows gives way to the accepted one.
+void LookUpWorkingPlace() {
+    if (!FindLocation(Settings.CityIndex, Location, CityText)) {
+        Settings.CityIndex = ActiveSettings.CityIndex;
+    }
+}
+
+/// The stored record as far as it can be used: no text comes in a language that there is not.
+void TakeStoredSettings() {
+    LoadWorkingSettings();
+    if (!IsTextLanguage(Settings.Language)) {
+        Settings.Language = ActiveSettings.Language;
+    }
+    if (Settings.CityIndex != ActiveSettings.CityIndex) {
+        LookUpWorkingPlace();
+    }
+}
+
 /// Ranges of the angle controls of a window, and the labels of their limits.
 template <class Window>
 void LimitAngles(Window& form) {
@@ -181,9 +202,11 @@ void Settings_Form_Load() {
     ShowTimeZone();
     ShowLocationInWindow();
     LoadQiblaLabels();
+    const double ishaAngle = IshaAngle;
     SetDepressionLimits(Location.City.Latitude);
     // The ranges may have clipped the sliders, whose change wrote their values.
     Settings.FajrAngle = ActiveSettings.FajrAngle;
+    IshaAngle = ishaAngle;
     LoadSettingsIntoControls();
 }
 
@@ -202,12 +225,22 @@ void SetDepressionLimits(std::int16_t latitude) {
 void LoadSettingsIntoControls() {
     const double fajrAngle = Settings.FajrAngle;
     const double ishaAngle = IshaAngle;
-    LoadWorkingSettings();
+    TakeStoredSettings();
     ShowSettings(fajrAngle, ishaAngle);
 }
 
 void sub0651() {
     ShowSettings(Settings.FajrAngle, IshaAngle);
+}
+
+void ShowWorkingValues() {
+    const double fajrAngle = Settings.FajrAngle;
+    const double ishaAngle = IshaAngle;
+    const bool accepted = Settings.CityIndex == ActiveSettings.CityIndex;
+    HoravexMainForm->lblCity.SetCaption(accepted ? ActiveCityText : CityText);
+    ShowNewLocation();
+    SetDepressionLimits(Location.City.Latitude);
+    ShowSettings(fajrAngle, ishaAngle);
 }
 
 void BindSettingsControls() {

@@ -13,11 +13,15 @@ void Settings_Form_Load();
 /// Without a band file the former band stays.
 void SetDepressionLimits(std::int16_t latitude);
 
-/// Reads the stored working settings back and shows them, but keeps both angles.
+/// Reads the stored working settings back, with the place that they name, and shows them, but
+/// keeps both angles.
 void LoadSettingsIntoControls();
 
 /// Shows the present working settings in every control.
 void sub0651();
+
+/// The same with the working place: its city, its coordinates and the limits of its latitude.
+void ShowWorkingValues();
 
 /// Binds the handlers of the settings window's controls.
 void BindSettingsControls();

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "base/nearest_int.h"
 #include "base/number_text.h"
-#include "base/rounding.h"
 #include "base/text.h"
 #include "config/method_list.h"
 #include "engine/current_year.h"
@@ -80,7 +80,7 @@ void sub05CD() {
 void SetDaylightRange(ScrollBar& bar) {
     const int last = 364 + LeapFlag;
     bar.SetMax(last);
-    bar.SetLargeStep(static_cast<int>(RoundHalfEven(last / 12.0)));
+    bar.SetLargeStep(NearestInt(last / 12.0));
 }
 
 void ShowDaylightDays() {

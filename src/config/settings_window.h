@@ -1,17 +1,14 @@
 #pragma once
 
+#include "config/commit.h"  // what the set button does
+
 namespace horavex {
 
-/// Brings the settings window up.
+/// The menu's entry: brings the settings window up with the working values in every control.
+void OpenSettings();
+
+/// Brings the settings window up as its controls stand.
 void ShowSettingsWindow();
-
-/// The set button: calculates with the working settings and, if that succeeds, accepts and
-/// stores them. The working settings and the Isha angle are stored in either case. A time zone
-/// that is no number from -12 to 12 is refused with a message and nothing is stored.
-void SettingsSet_Click();
-
-/// The set button pressed by the program itself.
-void SetSettings();
 
 /// Enables what depends on the stored city and on the athan type.
 void EnableDependentSettings();

@@ -1,18 +1,16 @@
 #include "config/wizard.h"
 
-#include <cmath>
-
 #include "base/flag.h"
 #include "base/int16.h"
-#include "base/number_text.h"
-#include "base/rounding.h"
+#include "base/nearest_int.h"
 #include "base/steps.h"
+#include "config/angle_sliders.h"
+#include "config/commit.h"
 #include "config/computer_zone.h"
 #include "config/first_run.h"
 #include "config/method_list.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
-#include "config/settings_window.h"
 #include "config/wizard_controls.h"
 #include "config/wizard_preview.h"
 #include "config/zone_box.h"
@@ -86,8 +84,7 @@ void CopyAnglesAndZone() {
 
 void ShowAsrRatio() {
     const auto& options = frmWizard->optAsrRatio;
-    if (const int ratio = static_cast<int>(RoundHalfEven(Settings.AsrRatio));
-        options.Contains(ratio)) {
+    if (const int ratio = NearestInt(Settings.AsrRatio); options.Contains(ratio)) {
         options(ratio).SetValue(true);
     }
 }
@@ -192,6 +189,7 @@ void cmdSetCity_Click() {
     RunStep(ShowDay);
     const PreviewHold hold;
     frmWizard->txtTimeZone.SetText(HoravexMainForm->txtTimeZone.Text());
+    MoveSliders(Settings.FajrAngle, frmWizard->hsDepr, frmWizard->hsDepr1);
     ShowCityOnWizard();
 }
 
@@ -206,6 +204,9 @@ void cmdComputerZone_Click() {
 }  // namespace
 
 void ShowWizard() {
+    if (CommitIsRunning()) {
+        return;  // its load writes working values
+    }
     if (!frmWizard->IsLoaded()) {
         SetDepressionLimits(Location.City.Latitude);
     }
@@ -228,9 +229,10 @@ void ShowCityOnWizard() {
 }
 
 void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted) {
-    accepted = IsZone(text, kLastZone) ? kTrue : kFalse;
-    if (accepted != kFalse) {
-        Settings.TimeZone = TextToNumber(text);
+    const auto zone = ZoneIn(text, kLastZone);
+    accepted = zone ? kTrue : kFalse;
+    if (zone) {
+        Settings.TimeZone = *zone;
     } else {
         Ports().dialogs.ShowMessage("Invalid GMT", "", MessageIcon::kExclamation);
     }

@@ -15,15 +15,15 @@ constexpr double kFirstZone = -12.0;   // hours
 }  // namespace
 
 void GuardZone(TextBox& box, const std::string& former) {
-    const bool fits =
-        IsNumeric(box.Text()) && RoundHalfEven(std::fabs(TextToNumber(box.Text()))) < kRefusedZone;
-    if (!fits) {
+    const auto number = NumberIn(box.Text());
+    if (!number || RoundHalfEven(std::fabs(*number)) >= kRefusedZone) {
         box.SetText(former);
     }
 }
 
-bool IsZone(const std::string& text, double last) {
-    return IsNumeric(text) && TextToNumber(text) >= kFirstZone && TextToNumber(text) <= last;
+std::optional<double> ZoneIn(const std::string& text, double last) {
+    const auto number = NumberIn(text);
+    return number && *number >= kFirstZone && *number <= last ? number : std::nullopt;
 }
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "forms/text_box.h"
@@ -11,7 +12,7 @@ namespace horavex {
 /// the sign afterwards.
 void GuardZone(TextBox& box, const std::string& former);
 
-/// True for a number from -12 to the given hour, both included.
-bool IsZone(const std::string& text, double last);
+/// The zone that a text holds: a number from -12 to the given hour, both included.
+std::optional<double> ZoneIn(const std::string& text, double last);
 
 }  // namespace horavex

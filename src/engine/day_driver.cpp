@@ -5,9 +5,12 @@
 
 #include "base/int16.h"
 #include "base/program_state.h"
+#include "base/steps.h"
+#include "engine/accepted_year.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"
+#include "engine/limit_message.h"
 #include "engine/next_prayer.h"
 #include "engine/solar_event.h"
 #include "engine/sun.h"
@@ -40,6 +43,44 @@ void ShowProgressWindow() {
     fMessage->lblMessage1.SetCaption(Text(5) + " " + std::to_string(CurrentYear));
     fMessage->lblMessage2.SetCaption(Text(1));
     fMessage->Show();
+}
+
+/// The progress window goes whatever happens behind it.
+class ProgressWindow {
+public:
+    ProgressWindow() = default;
+    ~ProgressWindow() {
+        RunStep([] { fMessage->Unload(); });
+    }
+    ProgressWindow(const ProgressWindow&) = delete;
+    ProgressWindow& operator=(const ProgressWindow&) = delete;
+};
+
+/// The times cannot be calculated with these settings, whatever the fault; where even that cannot
+/// be said, the fault's own line says what is wrong.
+void TellFault(const Fault& fault) {
+    try {
+        ShowLimitMessage('C');
+    } catch (const Fault&) {
+        Ports().dialogs.ShowMessage(fault.what(), "", MessageIcon::kNone);
+    }
+}
+
+/// A fault on the way is a calculation that gave up, and is told like one.
+void CalculateBehindProgress() {
+    try {
+        ShowProgressWindow();
+        RecalculateYear();
+    } catch (const Fault& fault) {
+        CalcFailed = -1;
+        TellFault(fault);
+    }
+}
+
+void ShowAcceptedYear() {
+    if (BringYearBack()) {
+        ShowDay();
+    }
 }
 
 /// A gap of exactly one day is the turn of the date and refreshes nothing.
@@ -110,13 +151,19 @@ void RefreshAll() {
     CalcFailed = 0;
     const double start = Ports().clock.SteadySeconds();
     CurrentYear = ToInt16(CivilFromDate(Ports().clock.Now()).year);
-    ShowProgressWindow();
-    RecalculateYear();
-    ShowDay();
-    WaitSeconds(kShortestProgress - (Ports().clock.SteadySeconds() - start) / kSecondsPerDay);
-    fMessage->Unload();
+    {
+        const ProgressWindow window;
+        CalculateBehindProgress();
+        if (CalcFailed == 0) {
+            KeepYear();
+        }
+        ShowDay();
+        WaitSeconds(kShortestProgress - (Ports().clock.SteadySeconds() - start) / kSecondsPerDay);
+    }
     if (CalcFailed == 0) {
         HoravexMainForm->SetEnabled(true);
+    } else {
+        ShowAcceptedYear();
     }
 }
 

@@ -21,7 +21,7 @@ using PrayerRow = std::array<double, kPrayerCount>;
 
 /// Times[prayer][row]: hours of the local clock for each day of CurrentYear, row 0 being the
 /// first of January; NoEvent where the sun does not reach the zenith distance. Not rounded; not
-/// wrapped after the daylight hour. Written by ComputeYearTimes only.
+/// wrapped after the daylight hour. Written by ComputeYearTimes and BringYearBack.
 extern std::array<std::array<double, kYearRows>, kPrayerCount> Times;
 
 /// The row as the table holds it. row: 0 to 365.

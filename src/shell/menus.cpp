@@ -75,7 +75,7 @@ void BindMenus() {
     frmMain->mnuExport.onClick = mnuExport_Click;
     frmMain->mnuExit.onClick = mnuExit_Click;
     frmMain->mnuPrayerTimes.onClick = ShowTimesWindow;
-    frmMain->mnumSettings.onClick = ShowSettingsWindow;
+    frmMain->mnumSettings.onClick = OpenSettings;
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
     HoravexMainForm->cmdAthan.onClick = [] { frmAthan->ShowModal(&*HoravexMainForm); };
     HoravexMainForm->cmdQibla.onClick = ShowQibla;

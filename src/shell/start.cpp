@@ -32,11 +32,11 @@
 #include "shell/close_face.h"
 #include "shell/face_bridge.h"
 #include "shell/menus.h"
+#include "shell/stored_state.h"
 #include "shell/tick.h"
 #include "shell/tray_icon.h"
 #include "store/isha_setting.h"
 #include "store/language_setting.h"
-#include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
@@ -64,7 +64,7 @@ class ShellDayHost : public DayHost {
 public:
     void ReportProgress(double percent) override { horavex::ReportProgress(percent); }
     void ComputeQibla() override { horavex::ComputeQibla(); }
-    void RunSetAction() override { SetSettings(); }
+    void RunSetAction() override { SetAcceptedAgain(); }
     void SetFlashVariables() override { horavex::SetFlashVariables(); }
 };
 
@@ -104,13 +104,17 @@ void CalculateOrAsk() {
 void HoravexMainForm_Load() {
     programFolder = "\\";
     InitHelp(HoravexMainForm->Name(), programFolder);
-    LoadActiveSettings();
+    const bool speaks = LoadStoredSettings();
     RefuseSecondInstance();
     fMessage->Load();
     ShowPrayerNames();
-    ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
+    const bool lies = LookUpStoredPlace();
     EnableDependentSettings();
-    CalculateOrAsk();
+    if (speaks && lies) {
+        CalculateOrAsk();
+    } else {
+        AskForSettings();
+    }
     TranslateSettingsWindow(ActiveSettings.Language);
     if (CalcFailed != 0) {
         ShowSettingsWindow();

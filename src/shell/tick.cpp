@@ -6,6 +6,7 @@
 #include "athan/athan_state.h"
 #include "base/flag.h"
 #include "base/rounding.h"
+#include "config/commit.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
@@ -70,7 +71,7 @@ void TestAlarm(const TickActions& actions) {
 }  // namespace
 
 TickActions DefaultTickActions() {
-    return {RefreshAll, ShowDay, sub04F9};
+    return {RefreshAcceptedYear, ShowDay, sub04F9};
 }
 
 void RunTick(const TickActions& actions) {

@@ -2,24 +2,24 @@
 
 #include <string>
 
-#include "base/fault.h"
 #include "base/number_text.h"
+#include "base/program_state.h"
 #include "store/register.h"
 #include "store/settings_record.h"
 
 namespace horavex {
 
+double ActiveIshaAngle = 0.0;
+
 namespace {
+
+const ProgramStateReset reset([] { ActiveIshaAngle = 0.0; });
 
 /// A text that is no number, or none that a 64-bit float holds, counts as the value of a first run.
 double ReadAngle(const std::string& defaultValue) {
     std::string text;
     CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kIshaValueName, defaultValue, text);
-    try {
-        return TextToNumber(text);
-    } catch (const Fault&) {
-        return -1.0;
-    }
+    return NumberIn(text).value_or(-1.0);
 }
 
 void WriteAngle(const std::string& text) {
@@ -35,6 +35,7 @@ bool LoadIshaAngle() {
         WriteAngle(kFirstIshaAngle);
     }
     IshaAngle = ReadAngle(kFirstIshaAngle);
+    ActiveIshaAngle = IshaAngle;
     return firstRun;
 }
 

@@ -6,8 +6,13 @@ namespace horavex {
 inline constexpr const char* kIshaValueName = "Isha Dep Angle";
 inline constexpr const char* kFirstIshaAngle = "18";
 
+/// The Isha angle of the accepted settings, degrees; IshaAngle is the working one. Written by the
+/// start and by each change that is accepted.
+extern double ActiveIshaAngle;
+
 /// Reads IshaAngle from the registry at start. A missing value, or one below 0, is a first run:
-/// "18" is written, and the value is read again. Returns whether this is a first run.
+/// "18" is written, and the value is read again. ActiveIshaAngle takes it, too. Returns whether
+/// this is a first run.
 bool LoadIshaAngle();
 
 /// Reads IshaAngle again as the settings window's close box does; -1 where none is stored.

@@ -148,4 +148,19 @@ std::string LookupLocation(std::int16_t cityIndex, LocationRecord& location) {
     return displayName + " - " + location.Country;
 }
 
+bool FindLocation(std::int16_t cityIndex, LocationRecord& location, std::string& text) {
+    try {
+        LocationRecord found;
+        const std::string foundText = LookupLocation(cityIndex, found);
+        if (found.City.Name.empty()) {
+            return false;
+        }
+        location = found;
+        text = foundText;
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
 }  // namespace horavex

@@ -52,4 +52,8 @@ std::int16_t FindCountryOfCity(std::int16_t cityIndex);
 /// it was.
 std::string LookupLocation(std::int16_t cityIndex, LocationRecord& location);
 
+/// The same for an index out of a record that may be damaged: false, with nothing changed, for one
+/// that no city has.
+bool FindLocation(std::int16_t cityIndex, LocationRecord& location, std::string& text);
+
 }  // namespace horavex

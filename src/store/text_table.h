@@ -10,6 +10,11 @@ namespace horavex {
 inline constexpr std::int16_t kTextLanguages = 6;
 inline constexpr std::int16_t kArabicColumn = 4;
 
+/// True for 1 to 6, and for the 0 that is taken as 1.
+constexpr bool IsTextLanguage(std::int16_t language) {
+    return language >= 0 && language <= kTextLanguages;
+}
+
 /// The code page in which a column of the table is stored: Arabic in its own, others in Latin.
 CodePage TextColumnCodePage(std::int16_t language);
 

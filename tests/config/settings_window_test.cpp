@@ -7,6 +7,7 @@
 #include "geo/qibla.h"
 #include "store/angle_band.h"
 #include "store/cancel_load.h"
+#include "store/city_search.h"
 #include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "support/program_test.h"
@@ -128,6 +129,35 @@ TEST_F(SettingsWindowTest, QuartersSplitAndAdd) {
     EXPECT_EQ(form.hsDepr.Value(), 18);
 }
 
+TEST_F(SettingsWindowTest, AngleBetweenQuartersIsShownAtTheNearestOne) {
+    ActiveSettings.FajrAngle = 18.7;
+    Settings_Form_Load();
+    EXPECT_EQ(form.hsDepr1.Value(), 3);
+    EXPECT_EQ(Settings.FajrAngle, 18.7);
+    ActiveSettings.FajrAngle = 18.625;  // two and a half quarters
+    Settings_Form_Load();
+    EXPECT_EQ(form.hsDepr1.Value(), 2);
+}
+
+TEST_F(SettingsWindowTest, DegreeAboveTheBandIsItsEndAndFourQuarters) {
+    ActiveSettings.FajrAngle = 21.0;
+    IshaAngle = 21.0;
+    Settings_Form_Load();
+    EXPECT_EQ(form.hsDepr.Value(), 20);
+    EXPECT_EQ(form.hsDepr1.Value(), 4);
+    EXPECT_EQ(form.hsDepr2.Value(), 20);
+    EXPECT_EQ(form.hsDepr21.Value(), 4);
+    EXPECT_EQ(IshaAngle, 21.0);
+}
+
+TEST_F(SettingsWindowTest, RatioBetweenTheOptionsIsShownAtTheNearestOne) {
+    for (const auto& [ratio, option] : {std::pair(1.6, 2), std::pair(1.4, 1), std::pair(2.5, 2)}) {
+        Settings.AsrRatio = ratio;
+        sub0651();
+        EXPECT_TRUE(form.optAsrRatio(option).Value()) << ratio;
+    }
+}
+
 TEST_F(SettingsWindowTest, ClippedSliderLeavesTheSavedAngle) {
     ActiveSettings.FajrAngle = 25.5;
     Settings_Form_Load();
@@ -183,6 +213,16 @@ TEST_F(SettingsWindowTest, ZoneBoxThrowsOutWhatIsNoZone) {
     EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
 }
 
+TEST_F(SettingsWindowTest, ZoneBeyondAllNumbersIsToldLikeAnyOther) {
+    TypeZone("1e400");
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+    form.txtTimeZone.SetText("1e400");
+    form.SettingsSet.UserClick();
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_THAT(platform.dialogs.messages[0].text,
+                testing::StartsWith("Please check the Time Zone"));
+}
+
 TEST_F(SettingsWindowTest, ZoneTextEnablesTheSetButton) {
     form.SettingsSet.SetEnabled(false);
     form.txtTimeZone.SetText("  ");
@@ -202,6 +242,31 @@ TEST_F(SettingsWindowTest, DefaultsLeaveIshaAndLanguage) {
     EXPECT_EQ(Settings.DstEnd, 297);
     EXPECT_EQ(form.txtTimeZone.Text(), "3");
     EXPECT_EQ(form.hsBegin.Value(), 93);
+}
+
+TEST_F(SettingsWindowTest, DefaultsAreShownInEveryControl) {
+    form.hsDepr.UserSlide(10);
+    form.hsDepr1.UserSlide(2);
+    form.optAsrRatio(2).UserClick();
+    form.optAthanType(1).UserClick();
+    form.optQiblaMethod(2).UserClick();
+    form.chkAlarm.UserClick();
+    form.hsAlarm.UserSlide(5);
+    form.hsBegin.SetValue(5);
+    form.hsEnd.SetValue(6);
+    form.cmdDefault.UserClick();
+    EXPECT_EQ(form.hsDepr.Value(), 18);
+    EXPECT_EQ(form.hsDepr1.Value(), 0);
+    EXPECT_EQ(form.lblDepr.Caption(), "degrees 18");
+    EXPECT_TRUE(form.optAsrRatio(1).Value());
+    EXPECT_TRUE(form.optAthanType(3).Value());
+    EXPECT_TRUE(form.optQiblaMethod(1).Value());
+    EXPECT_EQ(form.chkAlarm.Value(), 1);
+    EXPECT_EQ(form.lblAlarm.Caption(), "06:30 AM");
+    EXPECT_EQ(form.chkDayLT.Value(), 1);
+    EXPECT_EQ(form.hsBegin.Value(), 93);
+    EXPECT_EQ(form.hsEnd.Value(), 296);
+    EXPECT_EQ(form.lblEnd.Caption(), "Saturday, October 24, 2026");
 }
 
 TEST_F(SettingsWindowTest, SetAcceptsAndStoresEverything) {
@@ -397,6 +462,75 @@ TEST_F(SettingsWindowTest, CloseFromCodeHidesItAndThrowsEditsAway) {
     EXPECT_FALSE(form.Visible());
     EXPECT_TRUE(form.IsLoaded());
     EXPECT_EQ(IshaAngle, 18.0);
+}
+
+TEST_F(SettingsWindowTest, CloseBoxTakesTheStoredIshaAngleAsItStands) {
+    for (const char* stored : {"-1", "abc"}) {
+        platform.registry.SetValue("Software\\Horavex\\Settings", "Isha Dep Angle", stored);
+        IshaAngle = 18.0;
+        form.UserClose();
+        EXPECT_EQ(IshaAngle, -1.0) << stored;
+        EXPECT_EQ(form.lblDepr1.Caption(), "degrees -1");
+        EXPECT_EQ(Stored("Isha Dep Angle"), stored) << "only a start writes a first angle";
+    }
+}
+
+TEST_F(SettingsWindowTest, CloseBoxFindsNoAngleWhereNoneIsStored) {
+    platform.registry.DeleteValue("Software\\Horavex\\Settings", "Isha Dep Angle");
+    form.UserClose();
+    EXPECT_EQ(IshaAngle, -1.0);
+}
+
+TEST_F(SettingsWindowTest, ComesUpWithTheWorkingRecordInEveryControl) {
+    Settings.FajrAngle = 15.0;  // as a wizard has set them
+    IshaAngle = 15.0;
+    Settings.AsrRatio = 2.0;
+    Settings.DstStart = 121;
+    frmMain->mnumSettings.UserClick();
+    EXPECT_EQ(form.hsDepr.Value(), 15);
+    EXPECT_EQ(form.hsDepr2.Value(), 15);
+    EXPECT_EQ(form.lblDepr1.Caption(), "degrees 15");
+    EXPECT_EQ(form.cboMethod.Text(), "Islamic Society of North America");
+    EXPECT_TRUE(form.optAsrRatio(2).Value());
+    EXPECT_EQ(form.hsBegin.Value(), 120);
+}
+
+TEST_F(SettingsWindowTest, ComesUpWithTheWorkingPlaceAndKeepsBothAngles) {
+    const auto cities = ListCities();
+    Settings.CityIndex = SearchCities(cities, "Tromsø").at(0)->cityIndex;
+    CityText = LookupLocation(Settings.CityIndex, Location);
+    frmMain->mnumSettings.UserClick();
+    EXPECT_EQ(form.lblCity.Caption(), CityText);
+    EXPECT_THAT(form.lblLocationLat.Caption(), testing::HasSubstr("69 degrees"));
+    EXPECT_LT(form.hsDepr.Max(), 18);
+    EXPECT_EQ(Settings.FajrAngle, 18.0);
+    EXPECT_EQ(IshaAngle, 18.0);
+}
+
+TEST_F(SettingsWindowTest, EntryOfTheMenuLeavesAnOpenWindowAsItIs) {
+    ShowSettingsWindow();
+    form.hsDepr1.UserSlide(4);
+    frmMain->mnumSettings.UserClick();
+    EXPECT_EQ(form.hsDepr1.Value(), 4);
+}
+
+// A stored record of another city.
+
+TEST_F(SettingsWindowTest, StoredCityComesWithItsPlace) {
+    const auto cities = ListCities();
+    SettingsRecord refused = ActiveSettings;
+    refused.CityIndex = SearchCities(cities, "Tromsø").at(0)->cityIndex;
+    Settings = refused;
+    SaveWorkingSettings();
+    form.UserClose();
+    EXPECT_EQ(Settings.CityIndex, refused.CityIndex);
+    EXPECT_EQ(Location.City.Name, "Tromsø");
+    EXPECT_THAT(CityText, testing::HasSubstr("Norway"));
+    EXPECT_EQ(form.lblCity.Caption(), "Mecca, Mecca - Saudi Arabia") << "nothing is accepted";
+    form.txtTimeZone.SetText("1");
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(CalcFailed, -1) << "its own coordinates count";
+    EXPECT_EQ(ActiveSettings.CityIndex, kMeccaCityIndex);
 }
 
 TEST_F(SettingsWindowTest, MinimisedWindowHides) {

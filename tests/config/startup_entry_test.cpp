@@ -1,5 +1,6 @@
 #include "config/startup_entry.h"
 
+#include "base/fault.h"
 #include "support/program_test.h"
 
 namespace horavex {
@@ -68,6 +69,31 @@ TEST_F(StartupEntryTest, FailedDeleteIsToldWithThePathAndALineBreak) {
     EXPECT_EQ(platform.dialogs.messages[0].text, "Error deleteing file: /startup/ZORIT\r\n");
     EXPECT_TRUE(HasEntry());
     EXPECT_EQ(Stored("ADD TO STARTUP"), "0");
+}
+
+/// A session that takes no entry.
+class RefusingShell : public RecordingShell {
+public:
+    using RecordingShell::RecordingShell;
+    void WriteStartupEntry(const std::string& baseName) override {
+        throw FileFault(StartupEntryPath(baseName), "not allowed");
+    }
+};
+
+TEST_F(StartupEntryTest, FailedWriteStopsTheClickAndStoresNothing) {
+    Store("0");
+    Start();
+    RefusingShell refusing(platform.desktop);
+    const Platform ports{
+        platform.clock,   platform.loop,      platform.failingFiles, platform.folder,
+        platform.formats, platform.dialogs,   platform.registry,     platform.instanceGuard,
+        platform.face,    platform.windows,   platform.tray,         refusing,
+        platform.network, platform.athanFace, platform.audioFile,    platform.audioPlayer};
+    InstallPlatform(&ports);
+    EXPECT_THROW(HoravexMainForm->chkAddToStartup.UserClick(), FileFault);
+    EXPECT_EQ(Stored("ADD TO STARTUP"), "0");
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    EXPECT_THROW(KeepStartupEntry(), FileFault) << "nor does a start trap it";
 }
 
 }  // namespace

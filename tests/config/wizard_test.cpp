@@ -1,5 +1,6 @@
 #include "config/wizard.h"
 
+#include "base/fault.h"
 #include "base/flag.h"
 #include "config/settings_controls.h"
 #include "config/settings_window.h"
@@ -219,7 +220,7 @@ INSTANTIATE_TEST_SUITE_P(Zones, WizardZone,
                          testing::Values(std::pair("-12", true), std::pair("11", true),
                                          std::pair("12", false), std::pair("11.5", false),
                                          std::pair("-12.25", false), std::pair("abc", false),
-                                         std::pair("", false)));
+                                         std::pair("1e400", false), std::pair("", false)));
 
 TEST_F(WizardTest, ZoneTypedOnPageTwoReachesThePreviewButNotTheCommit) {
     ShowWizard();
@@ -433,6 +434,41 @@ TEST_F(WizardTest, FinishWithABadZoneUnloadsAllTheSame) {
     ASSERT_EQ(platform.dialogs.messages.size(), 1U);
     EXPECT_THAT(platform.dialogs.messages[0].text, StartsWith("Please check the Time Zone"));
     EXPECT_EQ(ActiveSettings, accepted);
+}
+
+TEST_F(WizardTest, FinishUnloadsThoughTheSetFaults) {
+    ShowWizard();
+    GoTo(4);
+    settings.Show();
+    settings.txtTimeZone.SetText("");
+    settings.txtTimeZone.onGotFocus = [] { throw BoundsFault("a handler of another room"); };
+    EXPECT_NO_THROW(form.cmdNext.UserClick());
+    EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(WizardTest, CityButtonRebuildsTheTextsOfThePlace) {
+    ShowWizard();
+    settings.lblLocationLat.SetCaption("");
+    platform.loop.AtPump(platform.loop.Pumps() + 2, [] { fMessage->UserClose(); });
+    form.cmdSetCity.UserClick();
+    EXPECT_THAT(settings.lblLocationLat.Caption(), StartsWith("Latitude: 21 degrees"));
+    EXPECT_THAT(form.lblLocationLat.Caption(), StartsWith("Latitude: 21 degrees"));
+}
+
+TEST_F(WizardTest, CityButtonShowsTheDayOnTheFace) {
+    ShowWizard();
+    frmMain->lblCurrTime.SetCaption("");
+    PickCity("Jakarta");
+    EXPECT_EQ(frmMain->lblCurrTime.Caption(), "12:00:03 PM");
+}
+
+TEST_F(WizardTest, PickTakesTheDefaultFajrFromTheWizardsSliderToo) {
+    ShowWizard();
+    form.hsDepr.UserSlide(15);
+    PickCity("Jakarta");
+    EXPECT_EQ(Settings.FajrAngle, 18.0);
+    EXPECT_EQ(form.hsDepr.Value(), 18);
+    EXPECT_EQ(form.lblDepr.Caption(), "degrees 18");
 }
 
 TEST_F(WizardTest, OpenedTwiceItStaysOnItsPage) {

@@ -290,6 +290,7 @@ TEST_F(StartOrderTest, InstanceThatCameUpMeanwhileEndsTheStartAtItsVeryEnd) {
 TEST_F(StartOrderTest, FirstRunChoosesTheSoundBeforeTheStoredSettingsAreRead) {
     ActiveSettings.AthanType = 1;
     SaveActiveSettings();
+    Settings.AthanType = 1;
     guard.firstYes = 1;
     EXPECT_THROW(Start(), ProcessEnded);
     EXPECT_EQ(Settings.AthanType, 3);

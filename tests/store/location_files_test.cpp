@@ -292,5 +292,23 @@ TEST(MeccaCityIndex, IsTheFixedNumberOfThePlaceWithoutAQibla) {
     EXPECT_EQ(kFirstCityIndex, -32000);
 }
 
+TEST_F(LocationFilesTest, FoundPlaceIsTheOneThatIsLookedUp) {
+    LocationRecord place;
+    std::string text;
+    EXPECT_TRUE(FindLocation(-31998, place, text));
+    EXPECT_EQ(place.City.Name, "Cairo");
+    EXPECT_EQ(text, "Cairo - Egypt");
+}
+
+TEST_F(LocationFilesTest, IndexThatNoCityHasIsNotFoundAndChangesNothing) {
+    LocationRecord place;
+    place.Country = "former";
+    std::string text = "former";
+    EXPECT_FALSE(FindLocation(-32768, place, text)) << "before the first";
+    EXPECT_FALSE(FindLocation(-31995, place, text)) << "behind the last";
+    EXPECT_EQ(place.Country, "former");
+    EXPECT_EQ(text, "former");
+}
+
 }  // namespace
 }  // namespace horavex

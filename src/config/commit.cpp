@@ -1,0 +1,205 @@
+#include "config/commit.h"
+
+#include <string>
+
+#include "base/number_text.h"
+#include "base/program_state.h"
+#include "base/steps.h"
+#include "config/settings_display.h"
+#include "config/zone_box.h"
+#include "engine/day_driver.h"
+#include "engine/year_table.h"
+#include "geo/qibla.h"
+#include "platform/platform.h"
+#include "store/isha_setting.h"
+#include "store/location_files.h"
+#include "store/location_record.h"
+#include "store/location_text.h"
+#include "store/settings_files.h"
+#include "store/settings_record.h"
+#include "store/text_table.h"
+#include "windows/f_country.h"
+#include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
+#include "windows/horavex_main_form.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr std::int16_t kSoundAthan = 3;
+constexpr double kLastZone = 12.0;  // hours; the wizard stops an hour earlier
+
+int running = 0;
+
+const ProgramStateReset reset([] { running = 0; });
+
+/// Keeps the user out of all that edits working values: what is accepted is what was calculated.
+class ShutWindows {
+public:
+    ShutWindows() {
+        ++running;
+        SetEnabled(false);
+    }
+    ~ShutWindows() {
+        --running;
+        SetEnabled(running == 0);
+    }
+    ShutWindows(const ShutWindows&) = delete;
+    ShutWindows& operator=(const ShutWindows&) = delete;
+
+private:
+    static void SetEnabled(bool enabled) {
+        HoravexMainForm->SetEnabled(enabled);
+        frmWizard->SetEnabled(enabled);
+        fCountry->SetEnabled(enabled);
+    }
+};
+
+/// The working values are the accepted ones as long as it lives; the edits come back behind it.
+class AcceptedValues {
+public:
+    AcceptedValues() {
+        CopyActiveToWorking();
+        CityText = ActiveCityText;
+        IshaAngle = ActiveIshaAngle;
+    }
+    ~AcceptedValues() {
+        Settings = settings_;
+        Location = location_;
+        CityText = cityText_;
+        IshaAngle = ishaAngle_;
+    }
+    AcceptedValues(const AcceptedValues&) = delete;
+    AcceptedValues& operator=(const AcceptedValues&) = delete;
+
+private:
+    SettingsRecord settings_ = Settings;
+    LocationRecord location_ = Location;
+    std::string cityText_ = CityText;
+    double ishaAngle_ = IshaAngle;
+};
+
+std::string Text(std::uint16_t entry) {
+    return TextItem(entry, Settings.Language);
+}
+
+void RefuseZone() {
+    RunStep([] {
+        Ports().dialogs.ShowMessage(
+            Text(63) + " " + Text(49) + ". " + Text(69) + " " + std::to_string(ZoneNearest), "",
+            MessageIcon::kNone);
+    });
+    HoravexMainForm->txtTimeZone.SetFocus();
+}
+
+void AcceptPlace() {
+    if (Settings.CityIndex == ActiveSettings.CityIndex) {
+        return;
+    }
+    ActiveCityText = CityText;
+    ActiveLocation = Location;
+    HoravexMainForm->lblCityBanner.SetCaption(Text(25) + ": " + ActiveCityText);
+}
+
+void AcceptLanguage() {
+    if (Settings.Language != ActiveSettings.Language) {
+        TranslateSettingsWindow(Settings.Language);
+        HoravexMainForm->SetHelpContextId(Settings.Language * 1000);
+    }
+}
+
+void AcceptAthanType() {
+    if (Settings.AthanType != ActiveSettings.AthanType) {
+        HoravexMainForm->cmdAthan.SetEnabled(Settings.AthanType == kSoundAthan);
+    }
+}
+
+void EnableQibla() {
+    HoravexMainForm->cmdQibla.SetEnabled(Settings.CityIndex != kMeccaCityIndex);
+}
+
+/// The calculation still spoke the language of the former settings.
+void TellQibla() {
+    ComputeQibla();
+    frmMain->lblQibla.SetCaption(QiblaText);
+}
+
+void Accept() {
+    RunStep(AcceptPlace);
+    RunStep(AcceptLanguage);
+    RunStep(EnableQibla);
+    RunStep(AcceptAthanType);
+    ActiveSettings = Settings;
+    ActiveIshaAngle = IshaAngle;
+    RunStep(TellQibla);
+    RunStep(SaveActiveSettings);
+}
+
+/// The face goes by the accepted state, and so does its city.
+void Refuse() {
+    RunStep([] { HoravexMainForm->SetVisible(true); });
+    frmMain->lblCity.SetCaption(ActiveCityText);
+}
+
+void Store() {
+    RunStep(SaveWorkingSettings);
+    RunStep(SaveIshaAngle);
+    RunStep(LoadQiblaLabels);
+    RunStep(ShowTimeZone);
+    frmWizard->lblCity.SetCaption(HoravexMainForm->lblCity.Caption());
+}
+
+void Commit() {
+    RunStep(RefreshAll);
+    if (CalcFailed != 0) {
+        Refuse();
+    } else {
+        Accept();
+    }
+    Store();
+}
+
+}  // namespace
+
+void SettingsSet_Click() {
+    const auto zone = ZoneIn(HoravexMainForm->txtTimeZone.Text(), kLastZone);
+    if (!zone) {
+        RefuseZone();
+        return;
+    }
+    const ShutWindows shut;
+    Settings.TimeZone = *zone;
+    Commit();
+    HoravexMainForm->Hide();
+}
+
+void SetSettings() {
+    SettingsSet_Click();
+}
+
+void SetAcceptedAgain() {
+    if (CommitIsRunning()) {
+        return;
+    }
+    const ShutWindows shut;
+    const AcceptedValues accepted;
+    SettingsForm& form = *HoravexMainForm;
+    const bool wasOpen = form.Visible();
+    const std::string zone = form.txtTimeZone.Text();
+    Commit();
+    form.txtTimeZone.SetText(zone);
+    form.SetVisible(wasOpen);
+}
+
+void RefreshAcceptedYear() {
+    const ShutWindows shut;
+    const AcceptedValues accepted;
+    RefreshAll();
+}
+
+bool CommitIsRunning() {
+    return running > 0;
+}
+
+}  // namespace horavex

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace horavex {
+
+// A commit calculates the year with the working values and, if that succeeds, accepts and stores
+// them; the working settings and the Isha angle are stored in either case. The windows that edit
+// working values are shut to the user from its beginning to its end.
+
+/// The set button: a commit of what the window shows, which hides it. A time zone that is no number
+/// from -12 to 12 is refused with a message and nothing is stored.
+void SettingsSet_Click();
+
+/// The set button pressed by the wizard.
+void SetSettings();
+
+/// The set action that the clock runs by itself: a commit of the accepted values. Edits of an open
+/// window, or those that a cancelled wizard left, are neither accepted nor lost, and an open window
+/// stays open. Does nothing while another commit runs.
+void SetAcceptedAgain();
+
+/// The turn of the year: the accepted values are calculated for the present one.
+void RefreshAcceptedYear();
+
+/// True while the windows are shut for a commit.
+bool CommitIsRunning();
+
+}  // namespace horavex

@@ -1,0 +1,41 @@
+#include "engine/accepted_year.h"
+
+#include <optional>
+
+#include "base/program_state.h"
+#include "engine/current_year.h"
+#include "engine/solar_event.h"
+#include "engine/year_table.h"
+
+namespace horavex {
+
+namespace {
+
+struct KeptYear {
+    std::int16_t year;
+    double latitudeRad;
+    double longitudeWestRad;
+    decltype(Times) times;
+};
+
+std::optional<KeptYear> kept;
+
+const ProgramStateReset reset([] { kept.reset(); });
+
+}  // namespace
+
+void KeepYear() {
+    kept = {CurrentYear, LatitudeRad, LongitudeWestRad, Times};
+}
+
+bool BringYearBack() {
+    if (!kept || kept->year != CurrentYear) {
+        return false;
+    }
+    LatitudeRad = kept->latitudeRad;
+    LongitudeWestRad = kept->longitudeWestRad;
+    Times = kept->times;
+    return true;
+}
+
+}  // namespace horavex
