@@ -16,7 +16,7 @@
 namespace horavex {
 namespace {
 
-constexpr std::uint16_t kEntries = 90;
+constexpr std::uint16_t kEntries = 91;
 constexpr std::int16_t kColumns = 6;
 constexpr std::uint16_t kSingleWords[] = {12, 13, 14, 15, 16, 17, 18, 59, 60, 68};
 
