@@ -1,10 +1,12 @@
 #include "config/startup_entry.h"
 
 #include <string>
+#include <utility>
 
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/number_text.h"
+#include "base/program_state.h"
 #include "engine/angle.h"
 #include "platform/platform.h"
 #include "store/register.h"
@@ -22,6 +24,24 @@ std::int16_t ReadWish(const std::string& defaultValue) {
     std::string text;
     CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kValueName, defaultValue, text);
     return RoundToInt16(TextToNumber(text));
+}
+
+bool wasTold = false;
+
+const ProgramStateReset reset([] { wasTold = false; });
+
+/// A step of the start, which goes on whatever becomes of the entry. The user is told of the first
+/// step that fails.
+template <class Step>
+void RunStartStep(Step step) {
+    try {
+        step();
+    } catch (const Fault& fault) {
+        if (!std::exchange(wasTold, true)) {
+            Ports().dialogs.ShowMessage(std::string(kValueName) + ": " + fault.what(), "",
+                                        MessageIcon::kNone);
+        }
+    }
 }
 
 /// Deletes an entry of the session; a failure is told and passed over.
@@ -61,15 +81,17 @@ void chkAddToStartup_Click() {
 }
 
 void LoadStartupWish() {
-    HoravexMainForm->chkAddToStartup.SetValue(ReadWish("1"));
-    if (ReadWish("0") == 1) {
-        AddStartupShortcut();
-    }
+    RunStartStep([] { HoravexMainForm->chkAddToStartup.SetValue(ReadWish("1")); });
+    RunStartStep([] {
+        if (ReadWish("0") == 1) {
+            AddStartupShortcut();
+        }
+    });
 }
 
 void KeepStartupEntry() {
     if (HoravexMainForm->chkAddToStartup.Value() == 1) {
-        AddStartupShortcut();
+        RunStartStep(AddStartupShortcut);
     }
 }
 

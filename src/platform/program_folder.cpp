@@ -25,10 +25,28 @@ std::vector<std::string> ComponentsOf(std::string path) {
     return components;
 }
 
+// What cannot be looked into (a folder without rights, a link to itself) counts as missing, so that
+// the installed folder stands in for it.
+std::vector<std::string> NamesIn(Files& files, const std::string& folder) {
+    try {
+        return files.List(folder);
+    } catch (const FileFault&) {
+        return {};
+    }
+}
+
+bool IsThere(Files& files, const std::string& path) {
+    try {
+        return files.Exists(path);
+    } catch (const FileFault&) {
+        return false;
+    }
+}
+
 // Names of a folder that equal the wanted one but for letter case, the exact one in front.
 std::vector<std::string> Spellings(Files& files, const std::string& folder,
                                    const std::string& name) {
-    std::vector<std::string> found = files.List(folder);
+    std::vector<std::string> found = NamesIn(files, folder);
     std::erase_if(found, [&](const std::string& n) { return !EqualsIgnoringCase(n, name); });
     std::stable_partition(found.begin(), found.end(),
                           [&](const std::string& n) { return n == name; });
@@ -38,7 +56,7 @@ std::vector<std::string> Spellings(Files& files, const std::string& folder,
 // Where folders differ in letter case alone, each is searched.
 std::optional<std::string> Find(Files& files, const std::string& folder, Components path) {
     if (path.empty()) {
-        return files.Exists(folder) ? std::optional(folder) : std::nullopt;
+        return IsThere(files, folder) ? std::optional(folder) : std::nullopt;
     }
     for (const std::string& name : Spellings(files, folder, path.front())) {
         if (auto found = Find(files, folder + "/" + name, path.subspan(1))) {
@@ -86,11 +104,11 @@ std::vector<std::string> ProgramFolder::List(const std::string& path) const {
     const auto components = ComponentsOf(path);
     std::vector<std::string> names;
     if (const auto folder = Find(files_, userFolder_, components)) {
-        names = files_.List(*folder);
+        names = NamesIn(files_, *folder);
     }
     if (const auto folder = Find(files_, installedFolder_, components)) {
         const std::vector<std::string> users = names;
-        std::ranges::copy_if(files_.List(*folder), std::back_inserter(names), [&](auto& name) {
+        std::ranges::copy_if(NamesIn(files_, *folder), std::back_inserter(names), [&](auto& name) {
             return std::ranges::none_of(users,
                                         [&](auto& user) { return EqualsIgnoringCase(user, name); });
         });

@@ -11,7 +11,8 @@ namespace horavex {
 /// The folder of the program's data, as two real folders laid over each other: the user's in
 /// front of the installed one. Paths are relative to it, with either separator and doubled ones
 /// allowed, and letter case ignored on every component: "Dat\AI.DAT", "\lang\Arabic.ini". A path
-/// never leads out of the folder: ".." is a FileFault.
+/// never leads out of the folder: ".." is a FileFault. A real folder that cannot be looked into
+/// counts as empty.
 class ProgramFolder {
 public:
     /// Two equal folders make the one folder that is read and written (portable use).

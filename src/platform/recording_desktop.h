@@ -120,6 +120,9 @@ public:
     void CloseHelp() override { help.reset(); }
     void WriteStartupEntry(const std::string& baseName) override {
         log_.Note("WriteStartupEntry " + baseName);
+        if (refusesStartupEntries) {
+            throw FileFault(StartupEntryPath(baseName), "not allowed");
+        }
         startupEntries.insert(baseName);
     }
     bool HasStartupEntry(const std::string& baseName) override {
@@ -137,7 +140,8 @@ public:
     }
 
     std::set<std::string> startupEntries;
-    bool keepsStartupEntries = false;  // refuses to delete
+    bool keepsStartupEntries = false;    // refuses to delete
+    bool refusesStartupEntries = false;  // refuses to write
     bool startsPrograms = true;
     bool hasSystemInformation = true;
     std::optional<HelpView> help;  // what the viewer shows

@@ -39,6 +39,41 @@ TEST_F(StartupEntryTest, StoredOneWritesTheEntryTwiceOver) {
               2);
 }
 
+TEST_F(StartupEntryTest, EntryThatCannotBeWrittenIsToldOnceAndTheStartGoesOn) {
+    Store("1");
+    platform.shell.refusesStartupEntries = true;
+    Start();
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "ADD TO STARTUP: /startup/ZORIT: not allowed");
+    EXPECT_FALSE(HasEntry());
+    EXPECT_EQ(HoravexMainForm->chkAddToStartup.Value(), 1);
+    EXPECT_TRUE(frmMain->Visible());
+}
+
+TEST_F(StartupEntryTest, WishThatIsNoNumberIsToldOnceAndCountsAsNone) {
+    Store("yes");
+    Start();
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "ADD TO STARTUP: \"yes\" is not a number");
+    EXPECT_TRUE(HasEntry());
+    EXPECT_EQ(HoravexMainForm->chkAddToStartup.Value(), 1);
+    EXPECT_TRUE(frmMain->Visible());
+}
+
+TEST_F(StartupEntryTest, WishBeyondAllNumbersDoesNotEndTheStart) {
+    Store("1e9");
+    Start();
+    EXPECT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_TRUE(frmMain->Visible());
+}
+
+TEST_F(StartupEntryTest, EntryThatCannotBeWrittenOnAClickIsAFault) {
+    Start();
+    HoravexMainForm->chkAddToStartup.UserClick();
+    platform.shell.refusesStartupEntries = true;
+    EXPECT_THROW(HoravexMainForm->chkAddToStartup.UserClick(), FileFault);
+}
+
 TEST_F(StartupEntryTest, ClickDoesAndStoresIt) {
     Start();
     HoravexMainForm->chkAddToStartup.UserClick();

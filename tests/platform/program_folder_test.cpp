@@ -200,6 +200,52 @@ TEST_F(ProgramFolderTest, OneFolderForBothIsReadAndWritten) {
     EXPECT_FALSE(portable.Exists("Dat\\AI.DAT"));
 }
 
+/// Files of which nothing below one folder can be looked into.
+class ShutFiles : public FailingFiles {
+public:
+    ShutFiles(Files& files, std::string shut) : FailingFiles(files), shut_(std::move(shut)) {}
+
+    bool Exists(const std::string& path) override {
+        Test(path);
+        return FailingFiles::Exists(path);
+    }
+
+    std::vector<std::string> List(const std::string& folder) override {
+        Test(folder);
+        return FailingFiles::List(folder);
+    }
+
+private:
+    void Test(const std::string& path) const {
+        if (path.starts_with(shut_)) {
+            throw FileFault(path, "Permission denied");
+        }
+    }
+
+    std::string shut_;
+};
+
+TEST_F(ProgramFolderTest, UserFolderThatCannotBeLookedIntoCountsAsEmpty) {
+    ShutFiles shut(files, "/user");
+    const ProgramFolder unreadable(shut, "/user", "/installed");
+    Put("/user/lang/German.ini", "own");
+    Put("/installed/lang/German.ini", "shipped");
+    EXPECT_TRUE(unreadable.Exists("lang\\German.ini"));
+    EXPECT_FALSE(unreadable.Exists("lang\\Spanish.ini"));
+    EXPECT_EQ(StringOf(unreadable.ReadWhole("lang\\German.ini")), "shipped");
+    EXPECT_THAT(unreadable.List("lang"), ElementsAre("German.ini"));
+    EXPECT_EQ(unreadable.RealPath("lang\\German.ini"), "/installed/lang/German.ini");
+}
+
+TEST_F(ProgramFolderTest, FileThatCannotBeLookedAtGivesWayToTheInstalledOne) {
+    ShutFiles shut(files, "/user/Athan/athan.mp3");
+    const ProgramFolder unreadable(shut, "/user", "/installed");
+    Put("/user/Athan/athan.mp3", "own");
+    EXPECT_FALSE(unreadable.Exists("Athan\\athan.mp3"));
+    Put("/installed/Athan/athan.mp3", "shipped");
+    EXPECT_EQ(StringOf(unreadable.ReadWhole("Athan\\athan.mp3")), "shipped");
+}
+
 TEST_F(ProgramFolderTest, FaultOfTheFilesPassesThrough) {
     FailingFiles failing(files);
     const ProgramFolder broken(failing, "/user", "/installed");
