@@ -6,6 +6,7 @@
 #include "ctl/place.h"
 #include "engine/current_year.h"
 #include "lang/language_pack.h"
+#include "store/isha_setting.h"
 #include "store/language_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
@@ -27,6 +28,7 @@ struct ExportOptions {
 /// What is written is told of the accepted settings.
 void Accept() {
     ActiveSettings = Settings;
+    ActiveIshaAngle = IshaAngle;
     ActiveLocation = Location;
     ActiveCityText = CityText;
 }

@@ -193,6 +193,9 @@ void SetAcceptedAgain() {
 }
 
 void RefreshAcceptedYear() {
+    if (CommitIsRunning()) {
+        return;
+    }
     const ShutWindows shut;
     const AcceptedValues accepted;
     RefreshAll();

@@ -18,7 +18,8 @@ void SetSettings();
 /// stays open. Does nothing while another commit runs.
 void SetAcceptedAgain();
 
-/// The turn of the year: the accepted values are calculated for the present one.
+/// The turn of the year: the accepted values are calculated for the present one. A commit that runs
+/// comes first; the next tick finds the year still to be turned.
 void RefreshAcceptedYear();
 
 /// True while the windows are shut for a commit.

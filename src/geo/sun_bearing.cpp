@@ -20,9 +20,9 @@ struct Moment {
 
 Moment MomentOf(Date now) {
     const Date midnight = std::floor(now);
-    const double daylightHour = IsDaylightDay(now) ? 1.0 : 0.0;
+    const double daylightHour = IsDaylightDay(now, ActiveSettings) ? 1.0 : 0.0;
     return {midnight - DateSerial(CivilFromDate(now).year, 1, 1) + 1.0,
-            (now - midnight) * 24.0 - Settings.TimeZone - daylightHour};
+            (now - midnight) * 24.0 - ActiveSettings.TimeZone - daylightHour};
 }
 
 }  // namespace

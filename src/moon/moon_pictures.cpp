@@ -124,9 +124,9 @@ void DrawPhaseDiscs() {
 
 void DrawTonightsMoon() {
     const Date today = Ports().clock.Today();
-    const double daylightHour = IsDaylightDay(today) ? 1.0 : 0.0;
+    const double daylightHour = IsDaylightDay(today, ActiveSettings) ? 1.0 : 0.0;
     const MoonPlace moon =
-        MoonPosition(24.0 - Settings.TimeZone - daylightHour, CivilFromDate(today));
+        MoonPosition(24.0 - ActiveSettings.TimeZone - daylightHour, CivilFromDate(today));
     Picture& picture = Moon_Phases->picTonight;
     const Point centre{picture.ScaleWidth() / 2.0, picture.ScaleHeight() / 2.0};
     picture.drawing.clear();

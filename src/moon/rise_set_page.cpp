@@ -16,7 +16,7 @@
 #include "moon/moon_pictures.h"
 #include "moon/moon_rise_set.h"
 #include "platform/platform.h"
-#include "store/location_record.h"
+#include "store/location_text.h"
 #include "store/settings_record.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
@@ -59,8 +59,8 @@ SignedMinutes WholeMinutes(std::int16_t stored) {
 /// The place of the settings window. Its labels tell the same in words, which change with the
 /// language.
 MoonObserver ShownObserver() {
-    const SignedMinutes longitude = WholeMinutes(Location.City.Longitude);
-    const SignedMinutes latitude = WholeMinutes(Location.City.Latitude);
+    const SignedMinutes longitude = WholeMinutes(ShownCity.Longitude);
+    const SignedMinutes latitude = WholeMinutes(ShownCity.Latitude);
     return {latitude.degrees, latitude.minutes, longitude.degrees, longitude.minutes};
 }
 

@@ -14,6 +14,7 @@ namespace horavex {
 std::int16_t ZoneWest = 0;
 std::int16_t ZoneNearest = 0;
 std::int16_t ZoneEast = 0;
+CityRecord ShownCity;
 std::string LatitudeText;
 std::string LongitudeText;
 std::string ZoneHintText;
@@ -23,6 +24,7 @@ namespace {
 
 const ProgramStateReset reset([] {
     ZoneWest = ZoneNearest = ZoneEast = 0;
+    ShownCity = {};
     LatitudeText.clear();
     LongitudeText.clear();
     ZoneHintText.clear();
@@ -64,6 +66,7 @@ std::string FormatLongitude(double degrees, std::int16_t language) {
 void ShowLocation(const LocationRecord& location) {
     const double latitude = StoredCoord(location.City.Latitude);
     const double longitude = StoredCoord(location.City.Longitude);
+    ShownCity = location.City;
     ZoneFromLongitude(longitude);
     LatitudeText = FormatLatitude(latitude, Settings.Language);
     LongitudeText = FormatLongitude(longitude, Settings.Language);

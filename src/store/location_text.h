@@ -12,7 +12,8 @@ extern std::int16_t ZoneWest;
 extern std::int16_t ZoneNearest;
 extern std::int16_t ZoneEast;
 
-/// Texts of the place that was last shown. Written by ShowLocation.
+/// The place that was last shown, and its texts. Written by ShowLocation.
+extern CityRecord ShownCity;
 extern std::string LatitudeText;
 extern std::string LongitudeText;
 extern std::string ZoneHintText;

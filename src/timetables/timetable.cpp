@@ -11,6 +11,7 @@
 #include "engine/current_year.h"
 #include "engine/solar_event.h"
 #include "geo/qibla.h"
+#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 
@@ -62,7 +63,7 @@ Timetable TakeTimetable() {
                        StoredCoord(ActiveLocation.City.Longitude),
                        ActiveSettings.TimeZone,
                        ActiveSettings.FajrAngle,
-                       IshaAngle,
+                       ActiveIshaAngle,
                        ActiveSettings.AsrRatio,
                        QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        {}};

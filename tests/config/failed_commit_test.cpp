@@ -1,14 +1,12 @@
 // What is left on view by a set that was refused, and what the user can do while one runs.
 
-#include "athan/athan_state.h"
-#include "base/fault.h"
-#include "config/settings_controls.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
+#include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"
 #include "engine/solar_event.h"
-#include "geo/qibla.h"
+#include "shell/tick.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "support/program_test.h"
@@ -279,6 +277,37 @@ TEST_F(SetByClockTest, RefusedIshaAngleIsNotTaken) {
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
     EXPECT_EQ(Times, acceptedTimes);
     EXPECT_EQ(Stored("Isha Dep Angle"), "18");
+}
+
+TEST_F(SetByClockTest, WaitsForTheEndOfASetThatRuns) {
+    PickTromso();
+    platform.loop.After(1.0, [this] { PassTwoDays(); });
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_EQ(ActiveSettings, accepted);
+    EXPECT_EQ(Times, acceptedTimes);
+}
+
+TEST_F(SetByClockTest, NewYearIsThatOfTheAcceptedValuesToo) {
+    form.hsDepr.UserSlide(15);
+    const SettingsRecord edited = Settings;
+    SetClock(2027, 1, 1, 0, 0, 1);
+    tmrUpdate_Timer();
+    EXPECT_EQ(CurrentYear, 2027);
+    EXPECT_NEAR(Times[kFajr][0], acceptedTimes[kFajr][0], 0.01);
+    EXPECT_EQ(Settings, edited);
+}
+
+TEST_F(SetByClockTest, NewYearDuringASetIsTheAcceptedOneAtTheNextTick) {
+    PickTromso();
+    platform.clock.Set(DateSerial(2026, 12, 31) + TimeSerial(23, 59, 59));
+    platform.loop.After(2.0, [] { tmrUpdate_Timer(); });
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(ActiveSettings, accepted);
+    tmrUpdate_Timer();
+    EXPECT_EQ(CurrentYear, 2027);
+    EXPECT_EQ(CalcFailed, 0);
+    EXPECT_NEAR(Times[kFajr][0], acceptedTimes[kFajr][0], 0.01);
 }
 
 TEST_F(SetByClockTest, StoresTheAcceptedValuesAgain) {

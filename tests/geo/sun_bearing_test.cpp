@@ -15,7 +15,7 @@ struct SunBearingTest : testing::Test {
         ComputeYearConstants(2026);
         LatitudeRad = DegToRad(30.05);
         LongitudeWestRad = -DegToRad(31.25);
-        Settings.TimeZone = 2.0;
+        Settings.TimeZone = ActiveSettings.TimeZone = 2.0;
     }
 
     static double DegreesAt(int month, int day, double hour) {
@@ -51,10 +51,19 @@ TEST_F(SunBearingTest, SunIsNowhereAtNight) {
 
 TEST_F(SunBearingTest, DaylightHourIsTakenOffTheClock) {
     const double plain = DegreesAt(6, 21, 9.0);
+    ActiveSettings.DstEnabled = 1;
+    ActiveSettings.DstStart = 100;
+    ActiveSettings.DstEnd = 280;
+    EXPECT_NEAR(DegreesAt(6, 21, 10.0), plain, 1e-9);
+}
+
+TEST_F(SunBearingTest, EditsThatAreNotAcceptedMoveNoSun) {
+    const double plain = DegreesAt(6, 21, 9.0);
+    Settings.TimeZone = 7.0;
     Settings.DstEnabled = 1;
     Settings.DstStart = 100;
     Settings.DstEnd = 280;
-    EXPECT_NEAR(DegreesAt(6, 21, 10.0), plain, 1e-9);
+    EXPECT_EQ(DegreesAt(6, 21, 9.0), plain);
 }
 
 TEST_F(SunBearingTest, NoonSunOfTheSouthStandsInTheNorth) {

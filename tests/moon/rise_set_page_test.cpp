@@ -174,6 +174,14 @@ TEST_F(RiseSetPageTest, DateIsTodayAndTheListsReachFarther) {
     EXPECT_EQ(form.cboYear.ListItem(form.cboYear.ListCount() - 1), "2050");
 }
 
+TEST_F(RiseSetPageTest, CurrentLocationIsTheOneThatTheSettingsWindowTells) {
+    const std::string longitude = form.txtLongH.Text();
+    Location.City.Longitude = 12000;  // looked up, and not on view
+    form.optCustomLocation.UserClick();
+    form.optCurrentLocation.UserClick();
+    EXPECT_EQ(form.txtLongH.Text(), longitude);
+}
+
 TEST_F(RiseSetPageTest, CurrentLocationGoesBackToToday) {
     form.cboDay.UserSelect(4);
     form.chkDayLightSaving.UserClick();

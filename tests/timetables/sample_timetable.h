@@ -5,6 +5,7 @@
 #include "engine/current_year.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
+#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "support/data_folder.h"
@@ -27,7 +28,7 @@ struct TimetableTest : testing::Test {
         ActiveSettings.TimeZone = 2.0;
         ActiveSettings.FajrAngle = 19.5;
         ActiveSettings.AsrRatio = 1.0;
-        IshaAngle = 17.5;
+        IshaAngle = ActiveIshaAngle = 17.5;
         QiblaDegrees = 136.14;
         QiblaText = "Qibla: 136 degrees, 8 minutes East of North";
         TakeYear(2026);

@@ -14,6 +14,7 @@
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "linux/posix_files.h"
+#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
@@ -70,7 +71,7 @@ void TakeCairo(TestPlatform& platform, bool arabic) {
     Settings.DstStart = 115;
     Settings.DstEnd = 302;
     ActiveSettings = Settings;
-    IshaAngle = 17.5;
+    IshaAngle = ActiveIshaAngle = 17.5;
     CurrentYear = 2026;
     RecalculateYear();
 }
