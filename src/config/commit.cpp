@@ -56,6 +56,23 @@ private:
     }
 };
 
+/// The working values at a moment.
+class WorkingValues {
+public:
+    void PutBack() const {
+        Settings = settings_;
+        Location = location_;
+        CityText = cityText_;
+        IshaAngle = ishaAngle_;
+    }
+
+private:
+    SettingsRecord settings_ = Settings;
+    LocationRecord location_ = Location;
+    std::string cityText_ = CityText;
+    double ishaAngle_ = IshaAngle;
+};
+
 /// The working values are the accepted ones as long as it lives; the edits come back behind it.
 class AcceptedValues {
 public:
@@ -64,20 +81,12 @@ public:
         CityText = ActiveCityText;
         IshaAngle = ActiveIshaAngle;
     }
-    ~AcceptedValues() {
-        Settings = settings_;
-        Location = location_;
-        CityText = cityText_;
-        IshaAngle = ishaAngle_;
-    }
+    ~AcceptedValues() { edits_.PutBack(); }
     AcceptedValues(const AcceptedValues&) = delete;
     AcceptedValues& operator=(const AcceptedValues&) = delete;
 
 private:
-    SettingsRecord settings_ = Settings;
-    LocationRecord location_ = Location;
-    std::string cityText_ = CityText;
-    double ishaAngle_ = IshaAngle;
+    const WorkingValues edits_;
 };
 
 std::string Text(std::uint16_t entry) {
@@ -150,8 +159,12 @@ void Store() {
     frmWizard->lblCity.SetCaption(HoravexMainForm->lblCity.Caption());
 }
 
+/// An athan that comes meanwhile opens the settings window to the user again; what is written then
+/// was not calculated.
 void Commit() {
+    const WorkingValues tried;
     RunStep(RefreshAll);
+    tried.PutBack();
     if (CalcFailed != 0) {
         Refuse();
     } else {

@@ -160,6 +160,18 @@ TEST_F(FailedCommitTest, WindowIsShutFromThePressToTheEndOfASet) {
     EXPECT_EQ(ActiveSettings.FajrAngle, accepted.FajrAngle);
 }
 
+TEST_F(FailedCommitTest, WhatIsWrittenMeanwhileIsNotAcceptedUncalculated) {
+    platform.loop.After(1.0, [&] {
+        form.SetEnabled(true);  // as an athan does behind its sound
+        form.hsDepr.UserSlide(15);
+        form.hsDepr2.UserSlide(14);
+    });
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(ActiveSettings, accepted);
+    EXPECT_EQ(Settings, accepted);
+    EXPECT_EQ(Stored("Isha Dep Angle"), "18");
+}
+
 TEST_F(FailedCommitTest, WindowIsOpenAgainAfterARefusedSet) {
     bool enabled = true;
     PickTromso();
