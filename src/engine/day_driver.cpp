@@ -137,6 +137,8 @@ void TakePlace(const CityRecord& city) {
 }
 
 void RecalculateYear() {
+    // The first three need nothing of each other, and no event comes in before the first report of
+    // the table: their own order shows nowhere, that they all stand before the table does.
     TakePlace(Location.City);
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);

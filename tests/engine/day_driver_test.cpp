@@ -6,6 +6,7 @@
 #include "engine/progress.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
+#include "engine/sun.h"
 #include "engine/wait.h"
 #include "support/data_folder.h"
 #include "windows/f_message.h"
@@ -34,6 +35,60 @@ TEST_F(RecalculateYearTest, LeavesTheQiblaAfterAFailure) {
     London(18.0, 17.0);
     Calculate(2001);
     EXPECT_EQ(host.qiblas, 0);
+}
+
+/// What stands ready when the first day of a run is reported.
+struct FirstReportHost : RecordingHost {
+    void ReportProgress(double percent) override {
+        RecordingHost::ReportProgress(percent);
+        if (percents.size() == 1) {
+            latitude = LatitudeRad;
+            longitudeWest = LongitudeWestRad;
+            leapFlag = LeapFlag;
+            siderealEpoch = SiderealEpoch;
+        }
+    }
+
+    double latitude = 0.0;
+    double longitudeWest = 0.0;
+    std::int16_t leapFlag = -1;
+    double siderealEpoch = 0.0;
+};
+
+TEST_F(RecalculateYearTest, PlaceLeapFlagAndConstantsStandBeforeTheFirstDay) {
+    Cairo();
+    Calculate(2024);
+    const double leapYearEpoch = SiderealEpoch;
+    const auto leapYear = Times;
+    London(12.0, 12.0);
+    Calculate(2001);
+    FirstReportHost first;
+    InstallDayHost(&first);
+    Cairo();
+    Calculate(2024);
+    EXPECT_DOUBLE_EQ(first.latitude, DegToRad(30.05));
+    EXPECT_DOUBLE_EQ(first.longitudeWest, -DegToRad(31.25));
+    EXPECT_EQ(first.leapFlag, 1);
+    EXPECT_EQ(first.siderealEpoch, leapYearEpoch);
+    EXPECT_EQ(Times, leapYear) << "nothing of the run before is used";
+}
+
+TEST_F(RecalculateYearTest, QiblaComesBehindTheWholeTable) {
+    struct : RecordingHost {
+        void ComputeQibla() override {
+            RecordingHost::ComputeQibla();
+            daysBefore = percents.size();
+            shiftedZuhr = Times[kZuhr][100];
+        }
+        std::size_t daysBefore = 0;
+        double shiftedZuhr = 0.0;
+    } last;
+    InstallDayHost(&last);
+    Cairo();
+    Daylight(91, 300);
+    Calculate(2001);
+    EXPECT_EQ(last.daysBefore, 365U);
+    EXPECT_GT(last.shiftedZuhr, 12.5) << "the daylight hour is in";
 }
 
 TEST_F(RecalculateYearTest, ReportsEveryDayOfALeapYear) {

@@ -19,6 +19,15 @@ TEST(EquationOfTime, IsAlwaysThatOfNoon) {
     EXPECT_NE(EquationOfTime(day), EquationOfTime(day + 1.0));
 }
 
+// The epoch of the series is noon of the first of January 2000, where the mean elements stand
+// alone; midnight before it and behind it would give a quarter of a minute more and less. Numbers
+// by hand from the series.
+TEST(EquationOfTime, HasTheWorkedNumbersOfNoon) {
+    EXPECT_NEAR(EquationOfTime(DateSerial(2000, 1, 1)), -3.2981495896, 1e-9);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 12, 25)), -0.1390239748, 1e-9);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2026, 11, 22)), 13.8903896489, 1e-9);
+}
+
 TEST(EquationOfTime, RunsSmoothlyOverTheYearsEnd) {
     const double before = EquationOfTime(DateSerial(2023, 12, 31));
     const double after = EquationOfTime(DateSerial(2024, 1, 1));

@@ -48,6 +48,31 @@ TEST_F(SolarEventTest, TransitWrapsByOneTurnAtMost) {
     EXPECT_EQ(onTheDial, 3);
 }
 
+// With all constants 0 the sun stands at right ascension 0 on the equator, and its transit is the
+// zone itself.
+TEST_F(SolarEventTest, TransitAtExactlyNothingOrTwentyFourStays) {
+    double gap = 0.0;
+    for (const double zone : {0.0, 24.0}) {
+        Settings.TimeZone = zone;
+        EXPECT_EQ(SolarTransit(1, gap), zone);
+    }
+    Settings.TimeZone = 24.5;
+    EXPECT_EQ(SolarTransit(1, gap), 0.5);
+    Settings.TimeZone = -0.5;
+    EXPECT_EQ(SolarTransit(1, gap), 23.5);
+}
+
+TEST_F(SolarEventTest, EventAtExactlyNothingOrTwentyFourStays) {
+    const double zenith = DegToRad(60.0);
+    const double evening = EventTime(1, zenith, 12.0);
+    ASSERT_NEAR(evening, 4.0, 1e-9);
+    for (const double hour : {0.0, 24.0}) {
+        Settings.TimeZone = hour - evening;
+        ASSERT_EQ(evening + Settings.TimeZone, hour);
+        EXPECT_EQ(EventTime(1, zenith, 12.0), hour);
+    }
+}
+
 TEST_F(SolarEventTest, GuessBelowTwelveAsksForTheMorning) {
     Stand(30.05, 31.25, 2.0);
     const double zenith = DegToRad(kHorizon);

@@ -26,6 +26,17 @@ struct YearTableTest : EngineTest {
         return shifts;
     }
 
+    /// A run for Cairo, near whose end another hand writes a time into row 10 of the table.
+    void RunWithForeignTime(Prayer prayer, double hours) {
+        Cairo();
+        Calculate(2001);
+        ComputeYearTimes(0, 365, [=](double percent) {
+            if (percent > 99.0) {
+                Times[prayer][10] = hours;
+            }
+        });
+    }
+
     /// The rows that a daylight setting shifts, as 0-based row numbers.
     std::vector<std::size_t> ShiftedRows(std::int16_t start, std::int16_t end) {
         Calculate(2001);
@@ -182,17 +193,50 @@ TEST_F(YearTableTest, LimitAfterTheDaylightHourStopsTheRun) {
 // midnight in the check of the day; with daylight saving off the wide ones never fire alone, so
 // they show on a table that another hand has changed under the run.
 TEST_F(YearTableTest, LimitAfterTheShiftRunsWithDaylightSavingOff) {
-    Cairo();
-    CurrentYear = 2001;
-    RecalculateYear();
-    ComputeYearTimes(0, 365, [](double percent) {
-        if (percent > 99.0) {
-            Times[kIsha][10] = 23.995;
-        }
-    });
+    RunWithForeignTime(kIsha, 23.995);
     ASSERT_TRUE(LastYearFailure);
     EXPECT_EQ(LastYearFailure->message, 'C');
     EXPECT_EQ(LastYearFailure->row, 10);
+}
+
+TEST_F(YearTableTest, FajrBeforeATenthOfAnHourStopsTheRunAfterTheShift) {
+    RunWithForeignTime(kFajr, 0.0999);
+    ASSERT_TRUE(LastYearFailure);
+    EXPECT_EQ(LastYearFailure->message, 'C');
+    EXPECT_EQ(LastYearFailure->row, 10);
+}
+
+TEST_F(YearTableTest, LimitsAfterTheShiftAreThemselvesAllowed) {
+    RunWithForeignTime(kFajr, 0.1);
+    EXPECT_FALSE(LastYearFailure);
+    RunWithForeignTime(kIsha, 23.99);
+    EXPECT_FALSE(LastYearFailure);
+}
+
+/// Looks at the flag while the box is up, which is when the clock can look at it too.
+struct FlagDialogs : RecordingDialogs {
+    void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override {
+        RecordingDialogs::ShowMessage(text, title, icon);
+        flagWhileShown = CalcFailed;
+    }
+
+    std::int16_t flagWhileShown = -7;
+};
+
+TEST_F(YearTableTest, MessageComesBeforeTheFlag) {
+    FlagDialogs dialogs;
+    const Platform& ports = Ports();
+    const Platform watched{ports.clock,   ports.eventLoop, ports.files,     ports.programFolder,
+                           ports.formats, dialogs,         ports.registry,  ports.instanceGuard,
+                           ports.face,    ports.windows,   ports.tray,      ports.shell,
+                           ports.network, ports.athanFace, ports.audioFile, ports.audioPlayer};
+    InstallPlatform(&watched);
+    London(18.0, 17.0);
+    Calculate(2001);
+    InstallPlatform(&ports);
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.flagWhileShown, 0);
+    EXPECT_EQ(CalcFailed, -1);
 }
 
 TEST_F(YearTableTest, DaylightHourCoversStartToEnd) {
