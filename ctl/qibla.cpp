@@ -4,7 +4,7 @@
 
 #include "ctl/place.h"
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "store/settings_record.h"
 
 namespace horavex {

@@ -7,9 +7,7 @@
 #include <iostream>
 
 #include "base/int16.h"
-#include "engine/current_year.h"
-#include "engine/day_driver.h"
-#include "engine/year_table.h"
+#include "engine/year_calculation.h"
 #include "lib/data_writer.h"
 #include "lib/tool_platform.h"
 #include "store/angle_band.h"
@@ -28,21 +26,11 @@ constexpr std::array kLongitudes = {-750, 0, 749};  // hundredths: the width of 
 constexpr std::array kWithinBand = {1, 50, 100};    // hundredths above the band's limit
 constexpr std::array<std::int16_t, 6> kYears = {2024, 2025, 2026, 2027, 2038, 2048};
 
-class QuietHost : public DayHost {
-public:
-    void ReportProgress(double) override {}
-    void ComputeQibla() override {}
-    void RunSetAction() override {}
-    void SetFlashVariables() override {}
-};
-
 bool LastsYear(std::int16_t year, bool daylightSaving) {
     Settings.DstEnabled = daylightSaving ? 1 : 0;
     SetDefaultDstDays(DateSerial(year, 1, 1), Location.City.Latitude);
-    CurrentYear = year;
-    CalcFailed = 0;
-    RecalculateYear();
-    return CalcFailed == 0;
+    const YearPlace place = PlaceOf(Location.City, Settings.TimeZone);
+    return !CalculateYear({year, place, MethodOf(Settings, IshaAngle)}).failure;
 }
 
 bool LastsEveryYear() {
@@ -83,8 +71,6 @@ AngleLimits LimitsOf(int limit) {
 
 void Compute(char**) {
     const ToolPlatform platform;
-    QuietHost host;
-    InstallDayHost(&host);
     std::cout << "limit,largest,default,smallest\n";
     AngleLimits former;
     for (int latitude = 0; latitude < kLastLatitude; ++latitude) {

@@ -6,10 +6,6 @@
 #include <utility>
 
 #include "base/program_state.h"
-#include "engine/current_year.h"
-#include "engine/day_driver.h"
-#include "engine/solar_event.h"
-#include "engine/sun.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -51,28 +47,11 @@ PreviewInput PresentInput() {
             Ports().clock.Today()};
 }
 
-/// The engine at the working place, as long as it lives.
-class AtWorkingPlace {
-public:
-    AtWorkingPlace() : latitude_(LatitudeRad), longitude_(LongitudeWestRad) {
-        TakePlace(Location.City);
-    }
-    ~AtWorkingPlace() {
-        LatitudeRad = latitude_;
-        LongitudeWestRad = longitude_;
-    }
-    AtWorkingPlace(const AtWorkingPlace&) = delete;
-    AtWorkingPlace& operator=(const AtWorkingPlace&) = delete;
-
-private:
-    double latitude_;
-    double longitude_;
-};
-
+/// At the working place, which the table may not have been worked out for.
 PrayerRow TimesOfToday() {
-    const AtWorkingPlace place;
-    ComputeYearConstants(CurrentYear);
-    return ComputeTodayTimes(Ports().clock.Today());
+    YearInputs inputs = PresentInputs();
+    inputs.place = PlaceOf(Location.City, Settings.TimeZone);
+    return ComputeTodayTimes(inputs, Ports().clock.Today());
 }
 
 }  // namespace

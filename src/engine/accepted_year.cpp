@@ -4,7 +4,7 @@
 
 #include "base/program_state.h"
 #include "engine/current_year.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "engine/year_table.h"
 
 namespace horavex {
@@ -15,7 +15,7 @@ struct KeptYear {
     std::int16_t year;
     double latitudeRad;
     double longitudeWestRad;
-    decltype(Times) times;
+    YearTimes times;
 };
 
 std::optional<KeptYear> kept;

@@ -16,9 +16,13 @@ const ProgramStateReset reset([] {
 
 }  // namespace
 
+std::int16_t LeapFlagOf(std::int16_t year) {
+    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    return leap ? 1 : 0;
+}
+
 void LeapYearFlag() {
-    const bool leap = CurrentYear % 4 == 0 && (CurrentYear % 100 != 0 || CurrentYear % 400 == 0);
-    LeapFlag = leap ? 1 : 0;
+    LeapFlag = LeapFlagOf(CurrentYear);
 }
 
 }  // namespace horavex

@@ -11,7 +11,10 @@ extern std::int16_t CurrentYear;
 /// 1 in a leap year, else 0: the plain number that is added to 365. Written by LeapYearFlag.
 extern std::int16_t LeapFlag;
 
-/// Works out LeapFlag for CurrentYear by the Gregorian rule.
+/// 1 for a leap year by the Gregorian rule, else 0.
+std::int16_t LeapFlagOf(std::int16_t year);
+
+/// Works out LeapFlag for CurrentYear.
 void LeapYearFlag();
 
 }  // namespace horavex

@@ -7,12 +7,11 @@
 #include "base/program_state.h"
 #include "base/steps.h"
 #include "engine/accepted_year.h"
-#include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"
 #include "engine/limit_message.h"
 #include "engine/next_prayer.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "engine/sun.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
@@ -129,11 +128,6 @@ void ShowNextPrayer(std::size_t row) {
 
 void InstallDayHost(DayHost* newHost) {
     host = newHost;
-}
-
-void TakePlace(const CityRecord& city) {
-    LatitudeRad = DegToRad(StoredCoord(city.Latitude));
-    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(city.Longitude));
 }
 
 void RecalculateYear() {

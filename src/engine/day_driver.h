@@ -1,7 +1,5 @@
 #pragma once
 
-#include "store/location_record.h"
-
 namespace horavex {
 
 /// What the driver of the day needs of the rooms above the engine.
@@ -24,9 +22,6 @@ public:
 
 /// Installs the host; nullptr takes it away. The host outlives its installation.
 void InstallDayHost(DayHost* host);
-
-/// Gives the engine the place of a city.
-void TakePlace(const CityRecord& city);
 
 /// Works the whole year's table out for CurrentYear and the working location, and with it the
 /// qibla unless the calculation gave up (CalcFailed). Needs an installed host.

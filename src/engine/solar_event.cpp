@@ -2,22 +2,11 @@
 
 #include <cmath>
 
-#include "base/program_state.h"
 #include "engine/angle.h"
-#include "engine/sun.h"
-#include "store/settings_record.h"
 
 namespace horavex {
 
-double LatitudeRad = 0.0;
-double LongitudeWestRad = 0.0;
-
 namespace {
-
-const ProgramStateReset reset([] {
-    LatitudeRad = 0.0;
-    LongitudeWestRad = 0.0;
-});
 
 // Onto the clock's face, by one turn at most; exactly 24 stays.
 double WrapOnce(double hours) {
@@ -32,24 +21,27 @@ double WrapOnce(double hours) {
 
 }  // namespace
 
-double SolarTransit(std::int16_t day, double& latDecGap) {
-    const double lonH = LongitudeWestRad * kHoursPerRadian;
+double SolarTransit(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+                    double& latDecGap) {
+    const double lonH = place.longitudeWestRad * kHoursPerRadian;
     const double t = day + (lonH + 12.0) / 24.0;
-    const SunPosition sun = SunAt(t);
+    const SunPosition sun = SunAt(constants, t);
     const double declination = ArcSin(sun.sinDeclination);
-    const double R =
-        (sun.rightAscension - SiderealRate * t - SiderealEpoch) + lonH + Settings.TimeZone;
-    latDecGap = std::fabs(LatitudeRad - declination);
+    const double R = (sun.rightAscension - constants.SiderealRate * t - constants.SiderealEpoch) +
+                     lonH + place.timeZone;
+    latDecGap = std::fabs(place.latitudeRad - declination);
     return WrapOnce(R);
 }
 
-double EventTime(std::int16_t day, double zenith, double guess) {
-    const double lonH = LongitudeWestRad * kHoursPerRadian;
+double EventTime(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+                 double zenith, double guess) {
+    const double lonH = place.longitudeWestRad * kHoursPerRadian;
     const double t = day + (lonH + guess) / 24.0;
-    const SunPosition sun = SunAt(t);
+    const SunPosition sun = SunAt(constants, t);
     const double s = sun.sinDeclination;
     const double c = std::sqrt(1.0 - s * s);
-    const double x = (std::cos(zenith) - std::sin(LatitudeRad) * s) / (std::cos(LatitudeRad) * c);
+    const double x =
+        (std::cos(zenith) - std::sin(place.latitudeRad) * s) / (std::cos(place.latitudeRad) * c);
     if (std::fabs(x) > 1.0) {
         return NoEvent;
     }
@@ -59,8 +51,9 @@ double EventTime(std::int16_t day, double zenith, double guess) {
     if (guess < 12.0) {
         H = 24.0 - H;
     }
-    return WrapOnce(lonH + (sun.rightAscension + H - SiderealRate * t - SiderealEpoch) +
-                    Settings.TimeZone);
+    return WrapOnce(
+        lonH + (sun.rightAscension + H - constants.SiderealRate * t - constants.SiderealEpoch) +
+        place.timeZone);
 }
 
 }  // namespace horavex

@@ -8,23 +8,11 @@
 
 namespace horavex {
 
-double CosObliquity = 0.0;
-double SinObliquity = 0.0;
-double SunPerigeeLongitude = 0.0;
-double SunAnomalyRate = 0.0;
-double SunAnomalyEpoch = 0.0;
-double SunCenterCoef1 = 0.0;
-double SunCenterCoef2 = 0.0;
-double SiderealRate = 0.0;
-double SiderealEpoch = 0.0;
+YearConstants CurrentYearConstants;
 
 namespace {
 
-const ProgramStateReset reset([] {
-    CosObliquity = SinObliquity = SunPerigeeLongitude = 0.0;
-    SunAnomalyRate = SunAnomalyEpoch = SunCenterCoef1 = SunCenterCoef2 = 0.0;
-    SiderealRate = SiderealEpoch = 0.0;
-});
+const ProgramStateReset reset([] { CurrentYearConstants = {}; });
 
 // Day number of the start of the year, counted from 1900. The quarter days are rounded and not
 // dropped, so that the number is one day late in every year divisible by 4 (.75 rounds up) and
@@ -34,59 +22,67 @@ double DayNumber(std::int16_t year) {
     return RoundHalfEven(365.0 * (year - 1900) + (year - 1901) / 4.0);
 }
 
-void ComputeObliquity(double T) {
+void ComputeObliquity(double T, YearConstants& constants) {
     const double obliquity = DegToRad(DmsToDegrees(23, 27, 8.26) - DmsToDegrees(0, 0, 46.845) * T);
-    CosObliquity = std::cos(obliquity);
-    SinObliquity = std::sin(obliquity);
+    constants.CosObliquity = std::cos(obliquity);
+    constants.SinObliquity = std::sin(obliquity);
 }
 
-void ComputePerigee(double T) {
+void ComputePerigee(double T, YearConstants& constants) {
     const double degrees = DmsToDegrees(281, 13, 15.0) + DmsToDegrees(1, 43, 9.03) * T +
                            DmsToDegrees(0, 0, 1.63) * T * T;
-    SunPerigeeLongitude = DegToRad(FloatMod(degrees, 360.0));
+    constants.SunPerigeeLongitude = DegToRad(FloatMod(degrees, 360.0));
 }
 
-void ComputeAnomaly(double T) {
+void ComputeAnomaly(double T, YearConstants& constants) {
     const double perCentury = DmsToDegrees(35999, 2, 59.1);
-    SunAnomalyRate = DegToRad(perCentury / 36525.0);
+    constants.SunAnomalyRate = DegToRad(perCentury / 36525.0);
     const double degrees = DmsToDegrees(358, 28, 33.0) - DmsToDegrees(0, 0, 0.54) * T * T +
                            FloatMod(perCentury * T, 360.0);
-    SunAnomalyEpoch = DegToRad(FloatMod(degrees, 360.0));
+    constants.SunAnomalyEpoch = DegToRad(FloatMod(degrees, 360.0));
 }
 
-void ComputeSiderealTime(double T) {
+void ComputeSiderealTime(double T, YearConstants& constants) {
     const double perCentury = HmsToHours(2400, 3, 4.542);
-    SiderealRate = perCentury / 36525.0;
-    SiderealEpoch = FloatMod(HmsToHours(6, 38, 45.836) + FloatMod(perCentury * T, 24.0), 24.0);
+    constants.SiderealRate = perCentury / 36525.0;
+    constants.SiderealEpoch =
+        FloatMod(HmsToHours(6, 38, 45.836) + FloatMod(perCentury * T, 24.0), 24.0);
 }
 
-void ComputeCenter(double T) {
+void ComputeCenter(double T, YearConstants& constants) {
     const double e = 0.01675104 - 4.18e-5 * T - 1.26e-7 * T * T;  // eccentricity of the orbit
-    SunCenterCoef1 = (2.0 - e * e / 4.0) * e;
-    SunCenterCoef2 = 5.0 * e * e / 4.0;
+    constants.SunCenterCoef1 = (2.0 - e * e / 4.0) * e;
+    constants.SunCenterCoef2 = 5.0 * e * e / 4.0;
 }
 
 }  // namespace
 
-void ComputeYearConstants(std::int16_t year) {
+YearConstants YearConstantsOf(std::int16_t year) {
     const double T = (DayNumber(year) - 0.5) / 36525.0;  // Julian centuries
-    ComputeObliquity(T);
-    ComputePerigee(T);
-    ComputeAnomaly(T);
-    ComputeSiderealTime(T);
-    ComputeCenter(T);
+    YearConstants constants;
+    ComputeObliquity(T, constants);
+    ComputePerigee(T, constants);
+    ComputeAnomaly(T, constants);
+    ComputeSiderealTime(T, constants);
+    ComputeCenter(T, constants);
+    return constants;
 }
 
-SunPosition SunAt(double t) {
-    const double M = SunAnomalyRate * t + SunAnomalyEpoch;
-    const double L = SunCenterCoef1 * std::sin(M) + (SunPerigeeLongitude + M) +
-                     SunCenterCoef2 * std::sin(2.0 * M);
+void ComputeYearConstants(std::int16_t year) {
+    CurrentYearConstants = YearConstantsOf(year);
+}
+
+SunPosition SunAt(const YearConstants& constants, double t) {
+    const double M = constants.SunAnomalyRate * t + constants.SunAnomalyEpoch;
+    const double L = constants.SunCenterCoef1 * std::sin(M) + (constants.SunPerigeeLongitude + M) +
+                     constants.SunCenterCoef2 * std::sin(2.0 * M);
     const double sinL = std::sin(L);
-    double rightAscension = Atan2Checked(CosObliquity * sinL, std::cos(L)) * kHoursPerRadian;
+    double rightAscension =
+        Atan2Checked(constants.CosObliquity * sinL, std::cos(L)) * kHoursPerRadian;
     if (rightAscension < 0.0) {
         rightAscension += 24.0;
     }
-    return {rightAscension, SinObliquity * sinL};
+    return {rightAscension, constants.SinObliquity * sinL};
 }
 
 }  // namespace horavex

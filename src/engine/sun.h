@@ -10,18 +10,26 @@ namespace horavex {
 // century, a little more in years whose day number comes out one late (see ComputeYearConstants).
 // Nutation, aberration and planetary terms are left out.
 
-// Year constants, valid for one calendar year. ComputeYearConstants alone writes them.
-extern double CosObliquity;         // cosine of the obliquity of the ecliptic
-extern double SinObliquity;         // sine of the same
-extern double SunPerigeeLongitude;  // radians, longitude of perigee at the start of the year
-extern double SunAnomalyRate;       // radians per day, motion in mean anomaly
-extern double SunAnomalyEpoch;      // radians, mean anomaly at the start of the year
-extern double SunCenterCoef1;       // radians, coefficient of sin M in the equation of the centre
-extern double SunCenterCoef2;       // radians, coefficient of sin 2M
-extern double SiderealRate;         // hours per day, gain of sidereal time
-extern double SiderealEpoch;        // hours, sidereal time at the start of the year
+/// What the series needs of one calendar year.
+struct YearConstants {
+    double CosObliquity = 0.0;         // cosine of the obliquity of the ecliptic
+    double SinObliquity = 0.0;         // sine of the same
+    double SunPerigeeLongitude = 0.0;  // radians, longitude of perigee at the start of the year
+    double SunAnomalyRate = 0.0;       // radians per day, motion in mean anomaly
+    double SunAnomalyEpoch = 0.0;      // radians, mean anomaly at the start of the year
+    double SunCenterCoef1 = 0.0;  // radians, coefficient of sin M in the equation of the centre
+    double SunCenterCoef2 = 0.0;  // radians, coefficient of sin 2M
+    double SiderealRate = 0.0;    // hours per day, gain of sidereal time
+    double SiderealEpoch = 0.0;   // hours, sidereal time at the start of the year
 
-/// Fills the year constants for a Gregorian year.
+    bool operator==(const YearConstants&) const = default;
+};
+
+/// The constants of a Gregorian year.
+YearConstants YearConstantsOf(std::int16_t year);
+
+/// Those of the program's table. ComputeYearConstants alone writes them.
+extern YearConstants CurrentYearConstants;
 void ComputeYearConstants(std::int16_t year);
 
 struct SunPosition {
@@ -31,6 +39,6 @@ struct SunPosition {
 
 /// The sun at a moment of the year of the constants. t counts days: 1 is the start of the first
 /// of January at Universal Time 0, the fraction is Universal Time.
-SunPosition SunAt(double t);
+SunPosition SunAt(const YearConstants& constants, double t);
 
 }  // namespace horavex

@@ -5,7 +5,7 @@
 
 #include "base/program_state.h"
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
 

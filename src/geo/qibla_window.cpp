@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "forms/show_modal.h"
 #include "geo/qibla.h"
 #include "geo/qibla_compass.h"

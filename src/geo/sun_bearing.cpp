@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "engine/sun.h"
 #include "engine/year_table.h"
 #include "store/settings_record.h"
@@ -30,9 +30,11 @@ Moment MomentOf(Date now) {
 std::optional<double> SunBearing(Date now) {
     const Moment moment = MomentOf(now);
     const double t = moment.day + moment.hours / 24.0;
-    const SunPosition sun = SunAt(t);
+    const YearConstants& constants = CurrentYearConstants;
+    const SunPosition sun = SunAt(constants, t);
     const double lonH = LongitudeWestRad * kHoursPerRadian;
-    const double H = (moment.hours - lonH - sun.rightAscension + SiderealRate * t + SiderealEpoch) /
+    const double H = (moment.hours - lonH - sun.rightAscension + constants.SiderealRate * t +
+                      constants.SiderealEpoch) /
                      kHoursPerRadian;
     const double s = sun.sinDeclination;
     const double c = std::sqrt(1.0 - s * s);

@@ -7,7 +7,7 @@
 #include "config/wizard_preview.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "lang/language_pack.h"
 #include "store/angle_band.h"
 #include "store/city_search.h"

@@ -8,7 +8,7 @@
 #include "data/built_data.h"
 #include "engine/angle.h"
 #include "engine/limit_message.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "geo/qibla.h"
 #include "store/location_text.h"
 #include "store/settings_record.h"

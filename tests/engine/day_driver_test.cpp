@@ -6,7 +6,6 @@
 #include "engine/progress.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
-#include "engine/sun.h"
 #include "engine/wait.h"
 #include "support/data_folder.h"
 #include "windows/f_message.h"
@@ -45,20 +44,19 @@ struct FirstReportHost : RecordingHost {
             latitude = LatitudeRad;
             longitudeWest = LongitudeWestRad;
             leapFlag = LeapFlag;
-            siderealEpoch = SiderealEpoch;
+            constants = CurrentYearConstants;
         }
     }
 
     double latitude = 0.0;
     double longitudeWest = 0.0;
     std::int16_t leapFlag = -1;
-    double siderealEpoch = 0.0;
+    YearConstants constants;
 };
 
 TEST_F(RecalculateYearTest, PlaceLeapFlagAndConstantsStandBeforeTheFirstDay) {
     Cairo();
     Calculate(2024);
-    const double leapYearEpoch = SiderealEpoch;
     const auto leapYear = Times;
     London(12.0, 12.0);
     Calculate(2001);
@@ -69,7 +67,7 @@ TEST_F(RecalculateYearTest, PlaceLeapFlagAndConstantsStandBeforeTheFirstDay) {
     EXPECT_DOUBLE_EQ(first.latitude, DegToRad(30.05));
     EXPECT_DOUBLE_EQ(first.longitudeWest, -DegToRad(31.25));
     EXPECT_EQ(first.leapFlag, 1);
-    EXPECT_EQ(first.siderealEpoch, leapYearEpoch);
+    EXPECT_EQ(first.constants, YearConstantsOf(2024));
     EXPECT_EQ(Times, leapYear) << "nothing of the run before is used";
 }
 

@@ -1,7 +1,7 @@
 #include "geo/qibla.h"
 
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "store/data_text.h"
 #include "store/settings_record.h"
 #include "support/test_platform.h"

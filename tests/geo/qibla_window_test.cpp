@@ -1,7 +1,7 @@
 #include "geo/qibla_window.h"
 
 #include "engine/angle.h"
-#include "engine/solar_event.h"
+#include "engine/place.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "store/text_table.h"

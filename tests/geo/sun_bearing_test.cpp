@@ -29,7 +29,7 @@ struct SunBearingTest : testing::Test {
 
 TEST_F(SunBearingTest, SunOfTransitStandsInTheSouth) {
     double gap = 0.0;
-    const double transit = SolarTransit(80, gap);
+    const double transit = SolarTransit(CurrentYearConstants, PresentPlace(), 80, gap);
     EXPECT_NEAR(std::fabs(DegreesAt(3, 21, transit)), 180.0, 0.2);
     EXPECT_GT(DegreesAt(3, 21, transit - 0.1), 170.0) << "in the east before";
     EXPECT_LT(DegreesAt(3, 21, transit + 0.1), -170.0) << "in the west after";

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "store/location_record.h"
+
+namespace horavex {
+
+/// Place of the program's calculation, radians. Written by TakePlace.
+extern double LatitudeRad;       // north positive, -Pi/2 to Pi/2
+extern double LongitudeWestRad;  // west positive, -Pi to Pi
+
+/// Where a year is worked out, and by which clock.
+struct YearPlace {
+    double latitudeRad = 0.0;       // as LatitudeRad
+    double longitudeWestRad = 0.0;  // as LongitudeWestRad
+    double timeZone = 0.0;          // hours east of Greenwich
+};
+
+/// The place of a city. timeZone: hours east of Greenwich.
+YearPlace PlaceOf(const CityRecord& city, double timeZone);
+
+/// The program's place under the zone of the working settings.
+YearPlace PresentPlace();
+
+/// Makes a city the program's place.
+void TakePlace(const CityRecord& city);
+
+}  // namespace horavex
