@@ -36,6 +36,7 @@ int DaysInHijriMonth(int year, int month) {
 
 HijriDate HijriFromDate(Date date) {
     const std::int64_t days = static_cast<std::int64_t>(std::floor(date)) - kEpoch;
+    // The inverse of DaysBeforeYear, as the book has it.
     const std::int64_t year = FloorDivide(30 * days + 10646, kDaysPerCycle);
     const auto dayOfYear = static_cast<int>(days - DaysBeforeYear(year));
     int month = 12;

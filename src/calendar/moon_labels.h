@@ -8,7 +8,8 @@
 namespace horavex {
 
 /// Labels of Hijri months with their years, "Safar  1447", for the rows of the moon tables. The
-/// names keep trailing blanks where they always had them. Entry 39 stays empty; the year of
+/// names of some months end in a blank of their own, so that two stand before the year
+/// (MoonLabelsTest.TableHoldsFourBlocks). Entry 39 stays empty; the year of
 /// entries 27 to 38 is 0, and they are never shown. Written by BuildMoonMonthLabels.
 inline constexpr std::size_t kMoonMonthLabels = 40;
 extern std::array<std::string, kMoonMonthLabels> MoonMonthLabels;

@@ -180,7 +180,7 @@ void lstcountry_Click() {
 }
 
 // Nothing selected in the list of cities is row -1, and with that the last city of the country
-// before: the picker has always taken it so.
+// before. Kept: CityPickerTest.EmptySelectionIsTheCityBeforeTheCountrysFirst.
 std::int16_t PickedCity() {
     return ToInt16(SelectedCountry().FirstCity + fCountry->lstcity.ListIndex());
 }

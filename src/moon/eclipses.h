@@ -10,10 +10,11 @@ namespace horavex {
 // Possible eclipses of the present year after the eclipse chapter of J. Meeus, Astronomical
 // Algorithms, first edition. The lists name candidates by date and clock alone; how each eclipse
 // looks is worked out too and kept in four texts that no window shows. Three things differ from the
-// book on purpose, as the lists have always been made so: the node's correction of the argument of
-// latitude is taken as degrees but added to radians; A1 is not reduced; and the distance from the
-// node is not brought onto its nearest multiple of half a turn, so that nearly every lunation near
-// a node is listed.
+// book on purpose: the node's correction of the argument of latitude is taken as degrees but added
+// to radians; A1 is not reduced; and the distance from the node is not brought onto its nearest
+// multiple of half a turn, so that nearly every lunation near a node is listed. With the book's
+// forms other rows would stand in the lists: docs/accuracy.md counts those without an eclipse, and
+// EclipsesTest.SolarListOf2001, LunarListOf2001 and CandidateThatMissesStaysListed hold them.
 
 /// Entry i belongs to the twelfth i of the year: "14 December 2001  ,  20hrs 52min". An entry stays
 /// as it was where that twelfth has no candidate; after an eclipse of the Sun was classified its

@@ -8,10 +8,11 @@ namespace horavex {
 
 // The date and clock of an instant as the moon tables and eclipse lists show them. Both take the
 // time zone from the text of the settings window's box, floored to whole hours (-5.5 counts as -6),
-// and neither looks at daylight saving. Two manners are kept, since the tables have always been
-// printed so: a negative zone moves the date later by its size, like a positive one; and the zone
-// counts twice, once for the date and once more for the clock. Each throws TypeMismatchFault for a
-// box that holds no number.
+// and neither looks at daylight saving. Two manners are kept: a negative zone moves the date later
+// by its size, like a positive one; and the zone counts twice, once for the date and once more for
+// the clock, so that a row of zone 3 tells three hours more than the clock there
+// (MoonDateTest.ZoneEastCountsTwice and ZoneWestMovesTheDateLaterToo). Each throws
+// TypeMismatchFault for a box that holds no number.
 
 /// Results of MoonDateFromDay, to be read right after the call.
 extern std::int16_t MoonMonth;  // 1 to 12

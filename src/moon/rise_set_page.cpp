@@ -156,7 +156,8 @@ bool AreMinutes(std::int16_t minutes) {
 }
 
 // The upper bound of the longitude looks at the latitude, so that a longitude beyond 180 east
-// passes: the window has always taken such places, which the calculation turns onto the globe.
+// passes, and the calculation turns it onto the globe: 190 east is 170 west. Kept:
+// RiseSetPageTest.LongitudeBeyond180EastPasses.
 bool IsAcceptable(const Place& place) {
     const MoonObserver& at = place.observer;
     if (at.latDeg < -90 || at.latDeg > 90) {

@@ -1,6 +1,9 @@
 #include "calendar/umm_al_qura.h"
 
+#include <map>
+
 #include "base/fault.h"
+#include "calendar/hijri_calendar.h"
 #include "support/data_folder.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
@@ -35,6 +38,28 @@ TEST_F(UmmAlQuraTest, TableRunsFrom1356To1500) {
     EXPECT_EQ(calendar.DateOf({1356, 1, 1}), DateSerial(1937, 3, 14));
     EXPECT_EQ(calendar.DateOf({1500, 12, 30}), DateSerial(2077, 11, 16));
     EXPECT_EQ(calendar.DateOf({1501, 1, 1}), std::nullopt);
+}
+
+/// Months of the table by how many days later the arithmetic calendar begins them.
+std::map<int, int> DelaysOfTheArithmeticMonths() {
+    const UmmAlQura calendar;
+    std::map<int, int> months;
+    for (int year = 1356; year <= 1500; ++year) {
+        for (int month = 1; month <= 12; ++month) {
+            const HijriDate first = {year, month, 1};
+            ++months[static_cast<int>(DateFromHijri(first) - calendar.DateOf(first).value())];
+        }
+    }
+    return months;
+}
+
+TEST_F(UmmAlQuraTest, ArithmeticMonthsBeginADayEarlierToTwoDaysLater) {
+    const auto months = DelaysOfTheArithmeticMonths();
+    EXPECT_EQ(months.size(), 4U);
+    EXPECT_NEAR(months.at(-1) / 17.4, 1.0, 0.5) << "in 100";
+    EXPECT_NEAR(months.at(0) / 17.4, 35.0, 0.5);
+    EXPECT_NEAR(months.at(1) / 17.4, 59.0, 0.5);
+    EXPECT_NEAR(months.at(2) / 17.4, 5.0, 0.5);
 }
 
 TEST_F(UmmAlQuraTest, BothEndsMeetTheArithmeticCalendar) {

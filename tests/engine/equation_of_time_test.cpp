@@ -3,14 +3,15 @@
 namespace horavex {
 namespace {
 
-// Minutes, from the equation of time at noon of the given days in the Astronomical Almanac,
-// rounded to a tenth; the series is good to a few seconds.
-TEST(EquationOfTime, AgreesWithTheAlmanacToATenthOfAMinute) {
-    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 2, 11)), -14.2, 0.1);
-    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 4, 15)), 0.0, 0.15);
-    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 5, 14)), 3.7, 0.1);
-    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 7, 26)), -6.5, 0.1);
-    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 11, 3)), 16.4, 0.1);
+// Minutes at noon of Universal Time, by PyEphem 4.1.4; the series is good to three seconds.
+TEST(EquationOfTime, AgreesWithTheAlmanacToThreeSeconds) {
+    constexpr double kTolerance = 3.0 / 60.0;
+    EXPECT_NEAR(EquationOfTime(DateSerial(1951, 2, 11)), -14.332, kTolerance);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 2, 11)), -14.228, kTolerance);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2001, 5, 14)), 3.710, kTolerance);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2026, 7, 26)), -6.565, kTolerance);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2026, 11, 3)), 16.447, kTolerance);
+    EXPECT_NEAR(EquationOfTime(DateSerial(2049, 12, 25)), -0.202, kTolerance);
 }
 
 TEST(EquationOfTime, IsAlwaysThatOfNoon) {

@@ -1,6 +1,8 @@
 #include "engine/sun.h"
 
+#include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "base/program_state.h"
 #include "engine/angle.h"
@@ -50,6 +52,64 @@ TEST(SunAt, SeasonsTurnWhenTheyShould) {
     EXPECT_NEAR(SunAt(constants, 79.5).sinDeclination, 0.0, 0.01);  // March equinox
     EXPECT_NEAR(SunAt(constants, 172.0).sinDeclination, constants.SinObliquity, 1e-4);
     EXPECT_NEAR(SunAt(constants, 355.5).sinDeclination, -constants.SinObliquity, 1e-4);
+}
+
+/// Apparent place of the sun at noon of Universal Time, by PyEphem 4.1.4.
+struct AlmanacPlace {
+    std::int16_t year;
+    int day;                // 1 for the first of January
+    double rightAscension;  // hours
+    double declination;     // degrees
+    double transit;         // hours of Universal Time, on the meridian of Greenwich
+};
+
+/// The largest differences from the almanac.
+struct Deviation {
+    double rightAscension = 0.0;  // seconds of time
+    double declination = 0.0;     // minutes of arc
+    double transit = 0.0;         // seconds of time
+};
+
+Deviation LargestDeviation(std::span<const AlmanacPlace> places) {
+    Deviation largest;
+    for (const AlmanacPlace& place : places) {
+        const YearConstants constants = YearConstantsOf(place.year);
+        const double t = place.day + 0.5;
+        const SunPosition sun = SunAt(constants, t);
+        const double transit = FloatMod(
+            sun.rightAscension - constants.SiderealRate * t - constants.SiderealEpoch, 24.0);
+        const auto keep = [](double& value, double difference) {
+            value = std::max(value, std::fabs(difference));
+        };
+        keep(largest.rightAscension, (sun.rightAscension - place.rightAscension) * 3600.0);
+        keep(largest.declination, (RadToDeg(ArcSin(sun.sinDeclination)) - place.declination) * 60);
+        keep(largest.transit, (transit - place.transit) * 3600.0);
+    }
+    return largest;
+}
+
+TEST(SunAt, AgreesWithTheAlmanacToSecondsAndPartsOfAMinuteOfArc) {
+    constexpr AlmanacPlace kPlaces[] = {
+        {2001, 5, 19.10114, -22.5700, 12.09140},   {2001, 80, 0.05694, 0.3701, 12.11897},
+        {2001, 172, 6.01263, 23.4384, 12.02937},   {2001, 242, 10.59279, 8.8740, 12.00983},
+        {2001, 307, 14.58027, -15.1682, 11.72622}, {2026, 42, 21.67406, -13.9272, 12.23626},
+        {2026, 134, 3.42186, 18.6996, 11.93877},   {2026, 266, 12.02971, -0.1932, 11.87287},
+        {2026, 356, 18.04675, -23.4359, 11.97601}, {2049, 105, 1.60466, 10.0241, 11.99876},
+    };
+    const Deviation largest = LargestDeviation(kPlaces);
+    EXPECT_LT(largest.rightAscension, 6.0);
+    EXPECT_LT(largest.declination, 0.4);
+    EXPECT_LT(largest.transit, 5.0);
+}
+
+TEST(SunAt, RunsADayAheadInAYearWhoseDayNumberIsLate) {
+    constexpr AlmanacPlace kPlaces[] = {{2024, 80, 0.02252, 0.1465, 12.12182},
+                                        {2024, 183, 6.73524, 23.0512, 12.06640},
+                                        {2024, 357, 18.08220, -23.4336, 11.97981}};
+    const Deviation largest = LargestDeviation(kPlaces);
+    EXPECT_NEAR(largest.rightAscension, 267.0, 3.0);
+    EXPECT_NEAR(largest.declination, 23.7, 0.4);
+    EXPECT_NEAR(largest.transit, 30.0, 2.0);
 }
 
 TEST(SunAt, RightAscensionGoesRoundTheDial) {

@@ -63,6 +63,20 @@ TEST_F(QiblaTest, FromCairo) {
     EXPECT_EQ(QiblaText, "Qibla: 136 degrees, 13 minutes East of North");
 }
 
+// Bearings of the geodesic of WGS84 to the Kaaba, by GeographicLib 2.0.
+TEST_F(QiblaTest, IsTheWayOverTheGlobeToAQuarterOfADegree) {
+    struct {
+        double latitude, longitude, bearing;  // degrees
+    } constexpr kPlaces[] = {{30.05, 31.25, 136.05}, {51.5, -0.12, 118.87},
+                             {40.7, -74.0, 58.40},   {-6.2, 106.8, -64.97},
+                             {-33.92, 18.42, 23.47}, {-33.87, 151.21, -82.68},
+                             {64.13, -21.9, 106.06}};
+    for (const auto& place : kPlaces) {
+        From(place.latitude, place.longitude);
+        EXPECT_NEAR(QiblaDegrees, place.bearing, 0.26) << place.latitude;
+    }
+}
+
 TEST_F(QiblaTest, FromTheMiddleOfNorthAmerica) {
     From(40.0, -100.0);
     EXPECT_NEAR(QiblaDegrees, 39.2, 0.05);
