@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/int16.h"
 #include "engine/angle.h"
 #include "engine/place.h"
 #include "engine/sun.h"
@@ -30,7 +31,7 @@ Moment MomentOf(Date now) {
 std::optional<double> SunBearing(Date now) {
     const Moment moment = MomentOf(now);
     const double t = moment.day + moment.hours / 24.0;
-    const YearConstants& constants = CurrentYearConstants;
+    const YearConstants constants = YearConstantsOf(ToInt16(CivilFromDate(now).year));
     const SunPosition sun = SunAt(constants, t);
     const double lonH = LongitudeWestRad * kHoursPerRadian;
     const double H = (moment.hours - lonH - sun.rightAscension + constants.SiderealRate * t +
