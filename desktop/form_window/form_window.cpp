@@ -2,19 +2,20 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QWindow>
-#include <algorithm>
 #include <utility>
 
 #include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
+#include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/twips.h"
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
@@ -117,7 +118,17 @@ void FormWindow::Retire() {
     if (modalLoop_ != nullptr) {
         modalLoop_->quit();
     }
-    deleteLater();
+    DeleteBehindDialogs();
+}
+
+// A dialogue over the window is its child, and must not be taken along while it is open.
+void FormWindow::DeleteBehindDialogs() {
+    const auto open = findChildren<QDialog*>(Qt::FindDirectChildrenOnly);
+    if (open.isEmpty()) {
+        deleteLater();
+    } else {
+        connect(open.front(), &QObject::destroyed, this, &QObject::deleteLater);
+    }
 }
 
 void FormWindow::ControlChanged(Control& control) {
@@ -185,16 +196,20 @@ void FormWindow::FollowForm() {
 void FormWindow::FollowPlace() {
     if (const QPoint place = PlaceOf(form_); place != place_) {
         place_ = place;
+        itsScreen_ = FaceScreen().geometry();
         move(place);
     }
     if (const QSize size = SizeOf(form_); size != size_) {
         size_ = size;
         resize(size);
     }
+    if (placedByProgram_) {
+        KeepToItsScreen();
+    }
 }
 
 void FormWindow::FollowVisibility() {
-    if (!form_.Visible() || (placedByProgram_ && !LiesOnAScreen())) {
+    if (!form_.Visible() || (placedByProgram_ && !LiesOnItsScreen())) {
         hide();
         return;
     }
@@ -206,21 +221,27 @@ void FormWindow::FollowVisibility() {
     }
 }
 
-bool FormWindow::LiesOnAScreen() const {
+bool FormWindow::LiesOnItsScreen() const {
+    return itsScreen_.intersects(QRect(place_, size_));
+}
+
+// The toolkit takes an empty mask for none; such a window is hidden.
+void FormWindow::KeepToItsScreen() {
     const QRect area(place_, size_);
-    const auto screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&area](const QScreen* screen) {
-        return screen->geometry().intersects(area);
-    });
+    if (itsScreen_.contains(area)) {
+        clearMask();
+    } else {
+        setMask(itsScreen_.intersected(area).translated(-place_));
+    }
 }
 
 void FormWindow::Present() {
     setWindowModality(form_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
     winId();  // makes the window of the platform, which the owner is set on
-    const QWidget* over = OwnerOrModalWindow();
-    windowHandle()->setTransientParent(over == nullptr ? nullptr : over->windowHandle());
-    if (form_.IsModal()) {
-        LetPlacedWindowsBeUsed();
+    if (placedByProgram_) {
+        StayUsable();
+    } else {
+        windowHandle()->setTransientParent(WindowBehind());
     }
     if (owner_ != nullptr && owner_->isVisible() && place_.isNull()) {
         resize(size().expandedTo(minimumSizeHint()));
@@ -230,16 +251,19 @@ void FormWindow::Present() {
 }
 
 // A window that comes up by itself over a modal one would be shut off without it.
-const QWidget* FormWindow::OwnerOrModalWindow() const {
-    return owner_ != nullptr ? owner_.data() : QApplication::activeModalWidget();
+QWindow* FormWindow::WindowBehind() const {
+    return owner_ != nullptr ? owner_->windowHandle() : QGuiApplication::modalWindow();
 }
 
-// An athan can be stopped whatever window is open: what belongs to a modal window is not shut off.
-void FormWindow::LetPlacedWindowsBeUsed() const {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->property(kPlacedByProgram).toBool() && window->windowHandle() != nullptr) {
-            window->windowHandle()->setTransientParent(windowHandle());
-        }
+// An athan can be stopped whatever is open: what belongs to the topmost modal window is not shut
+// off. Once that one goes, another may be the topmost.
+void FormWindow::StayUsable() {
+    disconnect(modalWindow_);
+    QWindow* const modal = QGuiApplication::modalWindow();
+    windowHandle()->setTransientParent(modal);
+    if (modal != nullptr) {
+        modalWindow_ = connect(modal, &QWindow::visibleChanged, this, &FormWindow::StayUsable,
+                               Qt::QueuedConnection);
     }
 }
 
@@ -281,6 +305,9 @@ void FormWindow::RunUntilHidden() {
 }
 
 bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked && placedByProgram_) {
+        StayUsable();
+    }
     if (event->type() == QEvent::WindowActivate && !retired_) {
         RunGuarded([this] { form_.UserActivate(); });
     }

@@ -20,8 +20,9 @@ namespace horavex {
 /// the event loop, however often it changes in one.
 ///
 /// A layout may name its window "placedByProgram": the place is then the form's alone, the window
-/// takes no keyboard as it comes up, and while it lies outside all screens it is hidden, since not
-/// every desktop lets a window be put there. No modal window shuts it off.
+/// takes no keyboard as it comes up, and it is seen on the screen alone by which it was placed,
+/// that of the program's face: what lies beyond its edges is masked, on the monitors around it,
+/// too. No modal window shuts it off, whoever opened it.
 ///
 /// Enter presses the button that has the focus, or else the layout's default button; Escape the
 /// one that the layout marks with the property "cancels", or closes a window that is marked so.
@@ -60,15 +61,17 @@ private:
     void RefreshLater(Control& control);
     void FlushLater();
 
+    void DeleteBehindDialogs();
     void FollowForm();
     void FollowPlace();
     void FollowVisibility();
-    bool LiesOnAScreen() const;
+    bool LiesOnItsScreen() const;
+    void KeepToItsScreen();
     void FollowFocus();
     void FollowDrawing();
     void Present();
-    const QWidget* OwnerOrModalWindow() const;
-    void LetPlacedWindowsBeUsed() const;
+    QWindow* WindowBehind() const;
+    void StayUsable();
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
@@ -81,8 +84,10 @@ private:
     QPoint place_;  // pixels, as last known on both sides
     QSize size_;    // pixels, likewise
     const bool placedByProgram_;
+    QRect itsScreen_;  // of a window that is placed by the program, pixels
     QPointer<const QWidget> owner_;
-    QEventLoop* modalLoop_ = nullptr;  // of the innermost RunUntilHidden
+    QMetaObject::Connection modalWindow_;  // to the one that does not shut this one off
+    QEventLoop* modalLoop_ = nullptr;      // of the innermost RunUntilHidden
 };
 
 }  // namespace horavex

@@ -1,7 +1,6 @@
 #include "desktop/ports/qt_windows.h"
 
 #include <QCursor>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -9,9 +8,9 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/form_window/twips.h"
-#include "windows/frm_main.h"
 
 namespace horavex {
 
@@ -27,11 +26,6 @@ const MenuItem* FindMenu(const Form& form, const std::string& name) {
 }
 
 }  // namespace
-
-const QScreen& QtWindows::FaceScreen() const {
-    const FormWindow* face = windows_.Find(&*frmMain);
-    return face == nullptr ? *QGuiApplication::primaryScreen() : *face->screen();
-}
 
 ScreenSize QtWindows::Screen() {
     const QSize size = FaceScreen().size();

@@ -3,7 +3,6 @@
 #include "desktop/form_window/form_windows.h"
 #include "platform/windows.h"
 
-class QScreen;
 class QPrinter;
 
 namespace horavex {
@@ -27,7 +26,6 @@ public:
     void Print(const std::string& form) override;
 
 private:
-    const QScreen& FaceScreen() const;
     void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);
 
     const FormWindows& windows_;

@@ -1,7 +1,9 @@
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 
 #include "desktop/form_window_fixture.h"
+#include "desktop/ports/qt_dialogs.h"
 
 namespace horavex {
 namespace {
@@ -226,6 +228,25 @@ TEST_F(FormWindowKeysTest, EscapeClosesAWindowThatIsMarkedSo) {
     Window().setProperty("cancels", true);
     Key(Find<QLineEdit>("text"), Qt::Key_Escape);
     EXPECT_FALSE(form.IsLoaded());
+}
+
+TEST_F(FormWindowTest, BoxOverAFormOutlivesTheForm) {
+    Show();
+    Window().activateWindow();
+    const QPointer<FormWindow> window(&Window());
+    QTimer::singleShot(0, [&] {
+        const QPointer<QWidget> box(QApplication::activeModalWidget());
+        ASSERT_EQ(box->parentWidget(), window.data());
+        form.Unload();
+        Settle();
+        ASSERT_TRUE(box);
+        EXPECT_TRUE(box->isVisible());
+        EXPECT_FALSE(window->isVisible());
+        box->close();
+    });
+    QtDialogs([] {}).ShowMessage("text", "", MessageIcon::kNone);
+    Settle();
+    EXPECT_FALSE(window);
 }
 
 }  // namespace

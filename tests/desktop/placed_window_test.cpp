@@ -1,10 +1,13 @@
 // A window that its program alone places, and one that comes up by itself over a modal one.
 
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
 #include "desktop/form_window_fixture.h"
+#include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_windows.h"
 
 namespace horavex {
@@ -37,7 +40,8 @@ struct PlacedWindowTest : testing::Test {
     QtWindows port{windows};
 };
 
-TEST_F(PlacedWindowTest, IsHiddenWhileItLiesOutsideAllScreens) {
+TEST_F(PlacedWindowTest, IsHiddenBelowAndAboveItsScreenWithMonitorsThereToo) {
+    ASSERT_EQ(QGuiApplication::screens().size(), 3);
     const ScreenCorner corner = port.WorkArea();
     form.Load();
     MoveTo(corner.right - 3000, corner.bottom);
@@ -49,6 +53,16 @@ TEST_F(PlacedWindowTest, IsHiddenWhileItLiesOutsideAllScreens) {
     MoveTo(corner.right - 3000, -corner.bottom);
     EXPECT_FALSE(Window().isVisible());
     EXPECT_TRUE(form.Visible());
+}
+
+TEST_F(PlacedWindowTest, PartBeyondItsScreenIsMasked) {
+    const ScreenCorner corner = port.WorkArea();
+    form.Load();
+    form.Show();
+    MoveTo(corner.right - 3000, corner.bottom - 600);
+    EXPECT_EQ(Window().mask(), QRegion(0, 0, 200, 40));
+    MoveTo(corner.right - 3000, corner.bottom - 1500);
+    EXPECT_TRUE(Window().mask().isEmpty());
 }
 
 TEST_F(PlacedWindowTest, PlaceIsTheFormsAlone) {
@@ -92,6 +106,61 @@ TEST_F(PlacedWindowTest, ModalWindowThatIsOpenedLaterDoesNotShutItOff) {
     modal.ShowModal();
     QApplication::processEvents();
     EXPECT_TRUE(Window().isVisible());
+}
+
+/// Whether a modal window shuts a window off at this moment.
+class Blocked : public QObject {
+public:
+    explicit Blocked(QWindow& window) { window.installEventFilter(this); }
+    explicit operator bool() const { return isBlocked_; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked) {
+            isBlocked_ = event->type() == QEvent::WindowBlocked;
+        }
+        return false;
+    }
+
+private:
+    bool isBlocked_ = false;
+};
+
+TEST_F(PlacedWindowTest, MessageBoxAndFileDialogueDoNotShutItOff) {
+    form.Load();
+    MoveTo(1500, 1500);
+    form.Show();
+    const Blocked blocked(*Window().windowHandle());
+    const auto look = [&] {
+        QWidget* const open = QApplication::activeModalWidget();
+        ASSERT_NE(open, nullptr);
+        EXPECT_FALSE(blocked);
+        EXPECT_EQ(Window().windowHandle()->transientParent(), open->windowHandle());
+        open->close();
+    };
+    QTimer::singleShot(0, look);
+    QtDialogs([] {}).ShowMessage("text", "", MessageIcon::kNone);
+    QTimer::singleShot(0, look);
+    QtDialogs([] {}).OpenFile({"Open", "All|*|", 1});
+    QTimer::singleShot(0, look);
+    QPrinter printer;
+    QPrintDialog(&printer).exec();
+}
+
+TEST_F(PlacedWindowTest, EndOfABoxLeavesItUsableOverTheModalWindowBehind) {
+    form.Load();
+    MoveTo(1500, 1500);
+    form.Show();
+    const Blocked blocked(*Window().windowHandle());
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+        QtDialogs([] {}).ShowMessage("text", "", MessageIcon::kNone);
+        QApplication::processEvents();
+        EXPECT_FALSE(blocked);
+        EXPECT_EQ(Window().windowHandle()->transientParent(), windows.Find(&modal)->windowHandle());
+        modal.Unload();
+    });
+    modal.ShowModal();
 }
 
 TEST_F(PlacedWindowTest, WindowThatComesUpOverAModalOneCanBeUsed) {

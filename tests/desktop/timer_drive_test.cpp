@@ -1,6 +1,7 @@
 #include "desktop/form_window/timer_drive.h"
 
 #include "desktop/form_window_fixture.h"
+#include "desktop/ports/qt_dialogs.h"
 
 namespace horavex {
 namespace {
@@ -61,6 +62,22 @@ TEST_F(TimerDriveTest, TimerGoesOnUnderALoopThatItsHandlerRuns) {
     form.timer.SetEnabled(true);
     WaitForTicks(1);
     EXPECT_GE(ticks, 3);
+}
+
+TEST_F(TimerDriveTest, TimerGoesOnUnderABoxThatItsHandlerOpensAndOneThatOpensOverIt) {
+    form.timer.onTimer = [this] {
+        ++ticks;
+        if (ticks <= 2) {
+            QtDialogs([] {}).ShowMessage("text", "", MessageIcon::kNone);
+        } else if (QWidget* box = QApplication::activeModalWidget(); box != nullptr) {
+            box->close();
+        }
+    };
+    form.Load();
+    form.timer.SetEnabled(true);
+    WaitForTicks(1);
+    EXPECT_GE(ticks, 4) << "two boxes, each closed by a later tick";
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(TimerDriveTest, UnloadedFormTicksNoMore) {

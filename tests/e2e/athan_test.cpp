@@ -126,6 +126,19 @@ protected:
         return false;
     }
 
+    /// Waits until the program shows a window that is none of those, and returns it.
+    std::string WaitForAnother(const ChildProcess& program,
+                               const std::vector<std::string>& known) const {
+        return *WaitUntil("another window", [&]() -> std::optional<std::string> {
+            for (const std::string& window : desktop.WindowsOf(program)) {
+                if (std::find(known.begin(), known.end(), window) == known.end()) {
+                    return window;
+                }
+            }
+            return std::nullopt;
+        });
+    }
+
     /// The face shows another second: the program runs on.
     void ExpectTicks() const {
         const std::string before = desktop.Fingerprint();
@@ -346,6 +359,25 @@ TEST_F(AthanSettingsProgramTest, AthanThatIsUpCanBeStoppedOnceItIsOpened) {
     OpenSettings(program);
     PressStop(window);
     WaitUntil("no window", [&] { return !IsOnView(program); });
+}
+
+TEST_F(AthanProgramTest, AthanCanBeStoppedWhileAFileDialogueIsOpenAndTheClockRunsOn) {
+    const ChildProcess program = Start();
+    GoTo(3);
+    const std::string window = WaitForAthan(program);
+    SetClock(SecondOf(3) + 60);
+    Click(face, 78, 120);
+    WaitForAnother(program, {face, window});
+    for (const char* key : {"Down", "Down"}) {  // the export
+        desktop.PressKey(key);
+    }
+    const auto menu = desktop.WindowsOf(program);
+    desktop.PressKey("Return");
+    const std::string dialogue = WaitForAnother(program, menu);
+    ExpectTicks();
+    PressStop(window);
+    EXPECT_TRUE(WaitUntil("no window", [&] { return !IsOnView(program); }));
+    EXPECT_TRUE(desktop.IsOnView(program, dialogue));
 }
 
 long ProportionalKilobytes(const ChildProcess& program) {
