@@ -1,10 +1,12 @@
 #include <cstdlib>
 
+#include "athan/sound_tools.h"
 #include "desktop/application.h"
 #include "desktop/desktop_platform.h"
 #include "desktop/end_signals.h"
 #include "desktop/fault_box.h"
 #include "desktop/printing/document_desk.h"
+#include "linux/sound/sound_import.h"
 #include "shell/start.h"
 #include "windows/frm_main.h"
 
@@ -30,6 +32,7 @@ int main(int argc, char** argv) {
     const horavex::EndSignals signals;
     application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
     horavex::InstallDesktopDocuments();
+    horavex::InstallSoundTools({horavex::KindOfSoundFile, horavex::FlacOf});
     horavex::BindWindows();
     return Start() ? horavex::Application::exec() : EXIT_FAILURE;
 }

@@ -5,6 +5,7 @@
 
 #include "athan/athan_state.h"
 #include "athan/sound.h"
+#include "athan/sound_tools.h"
 #include "base/steps.h"
 #include "engine/center_on_screen.h"
 #include "lang/form_language.h"
@@ -158,12 +159,29 @@ void SaveReciter(const Group& group, const Reciter& reciter, const std::string& 
 
 void SaveCustom(const Group& group) {
     RunStep([&] {
-        Ports().programFolder.WriteWhole(group.played, ReadWhole(Ports().files, CustomFile(group)));
+        Ports().programFolder.WriteWhole(group.played, PlayableByAnyName(CustomFile(group)));
     });
     SaveValue(group.typeValue, group.CustomType());
 }
 
-/// False, with a message, where the custom file is to be taken and there is none.
+void Tell(const std::string& text) {
+    Ports().dialogs.ShowMessage(text, "", MessageIcon::kExclamation);
+}
+
+/// Samples without a header can neither be tried nor saved; the user is told what to do.
+bool RefusesBareSamples(const Group& group) {
+    if (KindOfSound(CustomFile(group)) != SoundKind::kBareSamples) {
+        return false;
+    }
+    Tell(GetLangString(
+        "desktop", "BareSamples",
+        "This file holds bare samples whose rate and format nothing tells. Convert it "
+        "to WAV, FLAC, Ogg or MP3 with a sound editor, and choose that file."));
+    return true;
+}
+
+/// False, with a message, where the custom file is to be taken and there is none or none that
+/// plays.
 bool Save(const Group& group) {
     for (std::size_t i = 0; i < group.reciters.size(); ++i) {
         if (group.reciters[i].option->Value()) {
@@ -174,8 +192,10 @@ bool Save(const Group& group) {
         return true;
     }
     if (group.customPath->Caption().empty()) {
-        Ports().dialogs.ShowMessage(GetLangString("msg", "23", "No custom file selected"), "",
-                                    MessageIcon::kExclamation);
+        Tell(GetLangString("msg", "23", "No custom file selected"));
+        return false;
+    }
+    if (RefusesBareSamples(group)) {
         return false;
     }
     SaveCustom(group);
@@ -197,7 +217,9 @@ void Listen(const Group& group) {
             return;
         }
     }
-    PlayFile(CustomFile(group));
+    if (!RefusesBareSamples(group)) {
+        PlayFile(CustomFile(group));
+    }
 }
 
 void Picture_Click(int index) {

@@ -51,7 +51,8 @@ const std::vector<PackSection>& PackVocabularies() {
         {"msg", MessageKeys()},
         {"other", OtherKeys()},
         {"Azan", {"0", "2", "3", "4", "5"}},
-        {"desktop", {"NoTray", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
+        {"desktop",
+         {"NoTray", "BareSamples", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
         {"timetables", TimetableKeys()}};
     return sections;
 }

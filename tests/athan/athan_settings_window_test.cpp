@@ -3,6 +3,7 @@
 #include "athan/athan_files.h"
 #include "athan/athan_state.h"
 #include "athan/player.h"
+#include "athan/sound_tools.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "windows/frm_athan.h"
@@ -238,6 +239,62 @@ TEST_F(AthanSettingsTest, CustomFilesAreCopiedFromWhereverTheyLie) {
     EXPECT_EQ(Sound("athan.mp3"), "my day");
     EXPECT_EQ(Stored("Fajr Athan Type"), "3");
     EXPECT_EQ(Stored("Other Athan Type"), "4");
+}
+
+TEST_F(AthanSettingsTest, CustomFileKnownByItsEndingAloneIsSavedReencoded) {
+    InstallSoundTools({[](const std::string& path) {
+                           return path.ends_with(".vox") ? SoundKind::kByEnding
+                                                         : SoundKind::kByContent;
+                       },
+                       [](const std::string& path) { return BytesOf("flac of " + path); }});
+    platform.files.WriteWhole("/home/dawn.vox", BytesOf("bare"));
+    platform.files.WriteWhole("/home/day.ogg", BytesOf("my day"));
+    frmAthan->Load();
+    frmAthan->optCustomFajr.UserClick();
+    frmAthan->optCustomAll.UserClick();
+    Choose(0, "/home/dawn.vox");
+    Choose(1, "/home/day.ogg");
+    frmAthan->AthanSettingSet.UserClick();
+    EXPECT_EQ(Sound("fagr_athan.mp3"), "flac of /home/dawn.vox");
+    EXPECT_EQ(Sound("athan.mp3"), "my day");
+}
+
+struct BareSamplesTest : AthanSettingsTest {
+    BareSamplesTest() {
+        InstallSoundTools({[](const std::string&) { return SoundKind::kBareSamples; }, {}});
+        platform.files.WriteWhole("/home/dawn.raw", BytesOf("bare"));
+        frmAthan->Load();
+        frmAthan->optCustomFajr.UserClick();
+        Choose(0, "/home/dawn.raw");
+    }
+
+    void ExpectTold() {
+        ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+        EXPECT_THAT(platform.dialogs.messages[0].text, testing::HasSubstr("WAV, FLAC, Ogg or MP3"));
+        EXPECT_EQ(platform.dialogs.messages[0].icon, MessageIcon::kExclamation);
+    }
+};
+
+TEST_F(BareSamplesTest, AreRefusedAtListen) {
+    frmAthan->Picture_(4).UserClick();
+    ExpectTold();
+    EXPECT_THAT(Opened(), IsEmpty());
+}
+
+TEST_F(BareSamplesTest, AreRefusedAtSavingAndTheWindowStays) {
+    frmAthan->AthanSettingSet.UserClick();
+    ExpectTold();
+    EXPECT_TRUE(frmAthan->IsLoaded());
+    EXPECT_EQ(Sound("fagr_athan.mp3"), "fagr_athan1");
+    EXPECT_EQ(Stored("Fajr Athan Type"), "");
+}
+
+TEST_F(BareSamplesTest, DoNotConcernAReciter) {
+    frmAthan->DessamFajr.UserClick();
+    frmAthan->Picture_(4).UserClick();
+    frmAthan->AthanSettingSet.UserClick();
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+    EXPECT_FALSE(frmAthan->IsLoaded());
 }
 
 TEST_F(AthanSettingsTest, CustomFajrWithoutAFileIsRefusedAndNothingIsSaved) {
