@@ -18,8 +18,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int64_t kUsedTextEntries = 90;  // highest entry that the program asks for
-
 /// An index of fixed-length records over a file of packed texts.
 struct TextFiles {
     const char* index;
@@ -200,9 +198,9 @@ private:
 
     void CheckTextCount() {
         if (const auto index = LoadRecords(kTexts.index, kTexts.recordLength)) {
-            report_.Expect(index->Count() >= kUsedTextEntries * kTextLanguages,
+            report_.Expect(index->Count() >= kTextEntries * kTextLanguages,
                            std::string(kTexts.index) + ": fewer than " +
-                               std::to_string(kUsedTextEntries) + " entries in six languages");
+                               std::to_string(kTextEntries) + " entries in six languages");
         }
     }
 

@@ -7,6 +7,7 @@
 
 namespace horavex {
 
+inline constexpr std::uint16_t kTextEntries = 96;  // the last one that the program asks for
 inline constexpr std::int16_t kTextLanguages = 6;
 inline constexpr std::int16_t kArabicColumn = 4;
 

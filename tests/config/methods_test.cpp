@@ -109,7 +109,7 @@ TEST_F(MethodsTest, NamesSpeakTheLanguageOfTheTable) {
     form.lstLanguage.UserSelect(2);
     EXPECT_EQ(list.ListItem(kCustom), "Eigene Winkel");
     EXPECT_EQ(list.ListIndex(), kKarachi);
-    EXPECT_EQ(form.lblMethod.Caption(), "Methode");
+    EXPECT_EQ(form.lblMethod.Caption(), "&Methode");
     EXPECT_EQ(form.cmdComputerZone.Caption(), "&Zone dieses Computers verwenden");
 }
 

@@ -27,7 +27,7 @@ TEST(CtlText, LastTextOfTheTableEndsWithTheFile) {
 }
 
 TEST(CtlText, EntryBehindTheTableIsEmpty) {
-    EXPECT_EQ(TextOf("text --entry 91 --language 1"), "");
+    EXPECT_EQ(TextOf("text --entry 97 --language 1"), "");
 }
 
 TEST(CtlText, EntryWhoseRecordNumberLeavesSixteenBitsIsAFault) {

@@ -16,7 +16,6 @@
 namespace horavex {
 namespace {
 
-constexpr std::uint16_t kEntries = 91;
 constexpr std::int16_t kColumns = 6;
 constexpr std::uint16_t kSingleWords[] = {12, 13, 14, 15, 16, 17, 18, 59, 60, 68};
 
@@ -29,7 +28,7 @@ std::string Place(std::int16_t column, std::uint16_t entry) {
 template <typename Check>
 void ForEachText(Check check) {
     for (std::int16_t column = 1; column <= kColumns; ++column) {
-        for (std::uint16_t entry = 1; entry <= kEntries; ++entry) {
+        for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
             SCOPED_TRACE(Place(column, entry));
             check(TextItem(entry, column), column, entry);
         }
@@ -41,8 +40,8 @@ bool IsArabicLetter(char32_t c) {
 }
 
 TEST_F(TextTable, HasNothingBehindItsLastEntry) {
-    EXPECT_EQ(folder.ReadWhole("Dat\\TI.DAT").size(), std::size_t{kEntries} * kColumns * 2);
-    EXPECT_EQ(TextItem(kEntries + 1, 1), "");
+    EXPECT_EQ(folder.ReadWhole("Dat\\TI.DAT").size(), std::size_t{kTextEntries} * kColumns * 2);
+    EXPECT_EQ(TextItem(kTextEntries + 1, 1), "");
 }
 
 TEST_F(TextTable, EveryEntryHasATextInEveryColumn) {
@@ -56,7 +55,7 @@ TEST_F(TextTable, EveryEntryHasATextInEveryColumn) {
 }
 
 TEST_F(TextTable, ArabicColumnIsInArabicLetters) {
-    for (std::uint16_t entry = 1; entry <= kEntries; ++entry) {
+    for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
         const auto codePoints = DecodeUtf8(TextItem(entry, kArabicColumn)).value();
         const bool arabic = std::any_of(codePoints.begin(), codePoints.end(), IsArabicLetter);
         // The name of the zone of Greenwich is written with its Latin letters everywhere.
@@ -73,7 +72,7 @@ TEST_F(TextTable, OtherColumnsHoldNoArabicLetter) {
 }
 
 TEST_F(TextTable, SixthColumnIsEnglish) {
-    for (std::uint16_t entry = 1; entry <= kEntries; ++entry) {
+    for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
         EXPECT_EQ(TextItem(entry, 6), TextItem(entry, 1)) << entry;
     }
 }

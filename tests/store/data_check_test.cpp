@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "store/text_table.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {
@@ -39,7 +40,7 @@ protected:
 
 TEST_F(DataCheckTest, SoundFilesHaveNoProblem) {
     EXPECT_THAT(Problems(), IsEmpty());
-    EXPECT_THAT(Check().passed, Gt(90 * 6 * 2));
+    EXPECT_THAT(Check().passed, Gt(kTextEntries * 6 * 2));
 }
 
 TEST_F(DataCheckTest, MissingFileIsOneProblemThatNamesIt) {
@@ -131,10 +132,10 @@ TEST_F(DataCheckTest, EmptyTextIsNamed) {
 }
 
 TEST_F(DataCheckTest, TextsBeyondSixteenBitsAreNamed) {
-    data.WriteText(90, 5, std::string(32767, 'x'));
+    data.WriteText(kTextEntries, 5, std::string(32767, 'x'));
     EXPECT_THAT(Problems(),
-                ElementsAre(StartsWith("Dat/TI.DAT: record 539: no text from position "),
-                            StartsWith("Dat/TI.DAT: record 540: no text from position -")));
+                ElementsAre(StartsWith("Dat/TI.DAT: record 575: no text from position "),
+                            StartsWith("Dat/TI.DAT: record 576: no text from position -")));
 }
 
 TEST_F(DataCheckTest, ControlCharactersAreNamed) {
@@ -200,7 +201,7 @@ TEST_F(DataCheckTest, CityOfNoCountryIsAProblem) {
 
 TEST_F(DataCheckTest, MissingTextsAreAProblem) {
     data.ShrinkBy("Dat/TI.DAT", 2);
-    EXPECT_THAT(Problems(), ElementsAre("Dat/TI.DAT: fewer than 90 entries in six languages"));
+    EXPECT_THAT(Problems(), ElementsAre("Dat/TI.DAT: fewer than 96 entries in six languages"));
 }
 
 TEST_F(DataCheckTest, RanksAreOneForEachCity) {

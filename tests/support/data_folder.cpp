@@ -155,7 +155,7 @@ void DataFolder::WriteSample() {
     WriteBand(5100, {12, 12, 3});
     WriteHijriYear(1447, 45834);
     WriteHijriYear(1448, 46188);
-    WriteTexts(90);
+    WriteTexts(kTextEntries);
     Write("Dat/AI.DAT", RecordOf(SampleSettings()));
     Write("Dat/Settings.DAT", RecordOf(SampleSettings()));
 }
