@@ -3,6 +3,7 @@
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/ports/pack_locale.h"
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/ports/qt_formats.h"
@@ -41,7 +42,7 @@ private:
     QtDialogs dialogs_;
     RegistryFile registry_;
     InstanceLock instanceLock_;
-    QtFace face_;
+    QtFace face_{PackLocale};
     FormWindows formWindows_;
     QtWindows windows_;
     QtTray tray_;

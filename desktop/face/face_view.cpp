@@ -57,7 +57,7 @@ const std::map<std::string, FaceView::Reaction>& FaceView::Reactions() {
         {kRemainingTime, &FaceView::ShowRemaining},
         {kAllPrayers, &FaceView::ShowTimes},
         {"_root.icompassAngle", &FaceView::ShowBearing},
-        {"_root.myDay", &FaceView::ShowDay},
+        {"_root.myDay", &FaceView::ShowDate},
         {"_root.myMonth", &FaceView::ShowDate},
         {"_root.myYear", &FaceView::ShowDate},
         {"_root.myNumber", &FaceView::ShowDate},
@@ -71,7 +71,8 @@ const std::map<std::string, FaceView::Reaction>& FaceView::Reactions() {
     return reactions;
 }
 
-FaceView::FaceView(std::function<QTime()> now) : now_(std::move(now)) {
+FaceView::FaceView(std::function<QTime()> now, Language language)
+    : now_(std::move(now)), language_(std::move(language)) {
     setFixedSize(kFace.size());
     setContextMenuPolicy(Qt::PreventContextMenu);
     MakeButtons();
@@ -144,16 +145,27 @@ QString FaceView::Value(const char* variable) const {
     return found == values_.end() ? QString() : found->second;
 }
 
-void FaceView::ShowDay() {
-    const QString day = Value("_root.myDay");
-    if (day != day_->text()) {
-        day_->setText(day);
-    }
+QDate FaceView::ToldDate() const {
+    return QLocale::c().toDate(
+        Value("_root.myNumber") + u' ' + Value("_root.myMonth") + u' ' + Value("_root.myYear"),
+        QStringLiteral("d MMMM yyyy"));
 }
 
 void FaceView::ShowDate() {
-    date_->ShowText(Value("_root.myNumber") + u' ' + Value("_root.myMonth") + u' ' +
-                    Value("_root.myYear"));
+    const QDate date = ToldDate();
+    if (names_ && date.isValid()) {
+        ShowDateNamed(names_->dayName(date.dayOfWeek()), names_->monthName(date.month()));
+    } else {
+        ShowDateNamed(Value("_root.myDay"), Value("_root.myMonth"));
+    }
+}
+
+void FaceView::ShowDateNamed(const QString& day, const QString& month) {
+    if (day != day_->text()) {
+        day_->setText(day);
+    }
+    const QString date = Value("_root.myNumber") + u' ' + month + u' ' + Value("_root.myYear");
+    date_->ShowText(date.trimmed());
 }
 
 void FaceView::ShowHijriDate() {
@@ -195,7 +207,10 @@ void FaceView::ShowMenu() {
     }
 }
 
+// With the captions another language may have come.
 void FaceView::ShowCaptions() {
+    names_ = language_ ? language_() : std::nullopt;
+    ShowDate();
     qibla_->setText(Value("qibla"));
     allTimes_->setText(Value("prayer_time"));
 }

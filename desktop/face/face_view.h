@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QDate>
+#include <QLocale>
 #include <QTime>
 #include <QWidget>
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace horavex {
@@ -16,10 +19,15 @@ class TextLine;
 class TimesView;
 
 /// The face. It knows its variables and commands by their names and nothing of what they mean
-/// elsewhere. The hands of its clock move with the countdown.
+/// elsewhere. The hands of its clock move with the countdown. The names of the day and the month
+/// are told in the desktop's language and in English; the face shows them in that of its captions.
 class FaceView : public QWidget {
 public:
-    explicit FaceView(std::function<QTime()> now = QTime::currentTime);
+    /// The language of the captions; nothing where the toolkit does not have it, and names are
+    /// then shown as they are told.
+    using Language = std::function<std::optional<QLocale>()>;
+
+    explicit FaceView(std::function<QTime()> now = QTime::currentTime, Language language = {});
 
     /// Takes a value over; a variable that the face does not have is ignored.
     void SetVariable(const std::string& name, const QString& value);
@@ -53,8 +61,9 @@ private:
     QString Value(const char* variable) const;
     void Tell(const char* command);
 
-    void ShowDay();
+    QDate ToldDate() const;
     void ShowDate();
+    void ShowDateNamed(const QString& day, const QString& month);
     void ShowHijriDate();
     void ShowNext();
     void ShowRemaining();
@@ -64,6 +73,8 @@ private:
     void ShowCaptions();
 
     std::function<QTime()> now_;
+    Language language_;
+    std::optional<QLocale> names_;           // of days and months
     std::map<std::string, QString> values_;  // by variable
 
     ClockDial* clock_;

@@ -27,8 +27,8 @@ public:
 
 protected:
     /// Puts the view alone into a window, which takes its size.
-    void FillWithView(QWidget& window) {
-        view_ = new View;
+    void FillWithView(QWidget& window, View* view = new View) {
+        view_ = view;
         view_->onCommand = [this](const std::string& command) {
             if (onFSCommand) {
                 RunGuarded([&] { onFSCommand(command, {}); });

@@ -186,6 +186,62 @@ TEST_F(FaceTest, MenusStandSideBySideAndFitWhateverTheirTexts) {
     EXPECT_LE(Button("IDC_FS_help").geometry().right(), 400);
 }
 
+/// The face on an English desktop, in whose pack's language the toolkit names days and months.
+class FaceInAPackTest : public testing::Test {
+protected:
+    FaceInAPackTest() {
+        face.Fill(window);
+        face.LoadMovie(0, "");
+        view = window.findChild<FaceView*>();
+    }
+
+    QString Day() { return view->findChild<QAbstractButton*>("IDC_FS_Day")->text(); }
+    QString FirstLine() { return view->findChildren<TextLine*>().first()->text(); }
+
+    std::optional<QLocale> language = QLocale(QStringLiteral("ar"));
+    TestPlatform platform;
+    QtFace face{[this] { return language; }};
+    QWidget window;
+    FaceView* view;
+};
+
+TEST_F(FaceInAPackTest, DayAndMonthAreNamedInTheLanguageOfThePack) {
+    TellArabic(face);
+    EXPECT_EQ(Day(), "السبت");
+    EXPECT_EQ(FirstLine(), "21 نوفمبر 2026");
+}
+
+TEST_F(FaceInAPackTest, NamesFollowThePackThatComesWithNewCaptions) {
+    TellArabic(face);
+    language = QLocale(QStringLiteral("de"));
+    face.SetVariable("prayer_time", "Gebetszeiten");
+    EXPECT_EQ(Day(), "Samstag");
+    EXPECT_EQ(FirstLine(), "21 November 2026");
+}
+
+TEST_F(FaceInAPackTest, NamesFollowTheDate) {
+    TellArabic(face);
+    face.SetVariable("_root.myDay", "Tuesday");
+    face.SetVariable("_root.myMonth", "December");
+    face.SetVariable("_root.myNumber", "1");
+    EXPECT_EQ(Day(), "الثلاثاء");
+    EXPECT_EQ(FirstLine(), "1 ديسمبر 2026");
+}
+
+TEST_F(FaceInAPackTest, NamesThatTheToolkitDoesNotHaveAreShownAsTold) {
+    language.reset();
+    TellArabic(face);
+    EXPECT_EQ(Day(), "Saturday");
+    EXPECT_EQ(FirstLine(), "21 November 2026");
+}
+
+TEST_F(FaceInAPackTest, WhatIsNoDateIsShownAsTold) {
+    face.SetVariable("_root.myDay", "Saturday");
+    face.SetVariable("_root.myMonth", "Novembre");
+    EXPECT_EQ(Day(), "Saturday");
+    EXPECT_EQ(FirstLine(), "Novembre");
+}
+
 /// The widgets that were painted.
 class Painted : public QObject {
 public:
