@@ -136,6 +136,40 @@ TEST_P(HelpPagesTest, NothingComesFromTheNetwork) {
     }
 }
 
+/// What users would not expect of the program, in each language's own words.
+struct Surprise {
+    const char* page;
+    const char* english;
+    const char* arabic;
+};
+
+constexpr Surprise kSurprises[] = {
+    {"settings.html", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound",
+     "<b>صامت</b> و<b>رنين</b>: تظهر النافذة بلا صوت"},
+    {"settings.html", "It comes every day, whether the box is ticked or not",
+     "ويأتي كل يوم سواء أكان المربع معلَّمًا أم لا"},
+    {"settings.html", "the Isha angle and the language stay", "وتبقى زاوية العشاء واللغة كما هما"},
+    {"athan.html", "Without a sound it stays until you press <b>Stop</b>",
+     "وإن لم يكن لها صوت بقيت حتى تضغط زر الإيقاف"},
+    {"athan.html", "when a message or a progress window closes",
+     "حين تُغلق نافذة رسالة أو نافذة تقدم"},
+    {"athan.html", "The third reciter of the other prayers can be listened to and no more",
+     "أما المؤذن الثالث للصلوات الأخرى فيُستمع إليه فقط"},
+    {"athan.html", "The dialogue opens on one of the rare types", "يُفتح مربع الحوار على نوع نادر"},
+    {"athan.html", "At the prayer it is the copy that plays", "النسخة هي التي تُسمع عند الصلاة"},
+    {"dates.html", "The face and the timetables count all their months in that way",
+     "وتُعد أشهر الوجه والجداول كلها بهذا الحساب"},
+    {"index.html", "the button below the compass opens the qibla",
+     "والزر الذي تحت البوصلة يفتح القبلة"},
+};
+
+TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
+    for (const Surprise& surprise : kSurprises) {
+        const std::string text = std::regex_replace(Text(surprise.page), std::regex("\\s+"), " ");
+        EXPECT_THAT(text, HasSubstr(GetParam() == "Arabic" ? surprise.arabic : surprise.english));
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::Values("Arabic", "English"),
                          [](const auto& language) { return language.param; });
 
