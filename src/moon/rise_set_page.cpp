@@ -50,7 +50,8 @@ SignedMinutes WithSign(bool negative, std::int16_t degrees, std::int16_t minutes
                     : SignedMinutes{degrees, minutes};
 }
 
-/// A stored coordinate in the whole degrees and minutes that the settings window tells.
+/// A stored coordinate in the whole degrees and minutes that the settings window tells. Zero has no
+/// sign to carry.
 SignedMinutes WholeMinutes(std::int16_t stored) {
     const DegreesMinutes split = SplitDegrees(std::fabs(StoredCoord(stored)));
     return WithSign(stored < 0, split.whole, split.minutes);
