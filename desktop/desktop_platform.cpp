@@ -5,6 +5,7 @@
 
 #include "desktop/fault_box.h"
 #include "linux/folders.h"
+#include "linux/left_overs.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -19,6 +20,11 @@ ProgramFolder FindProgramFolder(Files& files) {
 RegistryFile FindRegistry(Files& files) {
     const RegistryFiles paths = FindRegistryFiles();
     return {files, paths.user, paths.machine};
+}
+
+// The folders that the program writes into.
+std::vector<std::string> OwnFolders() {
+    return {FindProgramFolders().user, ConfigHome() + "/horavex", ConfigHome() + "/autostart"};
 }
 
 // The player's thread must not outlive the platform; what it has posted by then is dropped there.
@@ -42,6 +48,7 @@ DesktopPlatform::DesktopPlatform()
       shell_(files_),
       audioPlayer_(PostToProgramThread) {
     InstallPlatform(&platform_);
+    ClearLeftOvers(OwnFolders());
 }
 
 DesktopPlatform::~DesktopPlatform() {

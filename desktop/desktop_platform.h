@@ -7,6 +7,7 @@
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/ports/qt_formats.h"
+#include "desktop/ports/qt_network.h"
 #include "desktop/ports/qt_shell.h"
 #include "desktop/ports/qt_tray.h"
 #include "desktop/ports/qt_windows.h"
@@ -17,7 +18,6 @@
 #include "linux/sound/pulse_player.h"
 #include "linux/sound/sound_file.h"
 #include "linux/system_clock.h"
-#include "linux/system_network.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -47,7 +47,7 @@ private:
     QtWindows windows_;
     QtTray tray_;
     QtShell shell_;
-    SystemNetwork network_;
+    QtNetwork network_;
     AzanFace athanFace_;
     SoundFile audioFile_;
     PulsePlayer audioPlayer_;

@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include "base/memory_fault.h"
+
 namespace horavex {
 
 /// Tells the user of a fault that ended a command, in one plain message box; the program then
@@ -14,7 +16,7 @@ void ShowFault(const std::exception& fault);
 template <class Action>
 void RunGuarded(Action action) {
     try {
-        action();
+        WithMemoryFaults(action);
     } catch (const std::exception& fault) {
         ShowFault(fault);
     }

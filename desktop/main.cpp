@@ -16,7 +16,7 @@ namespace {
 // left after one has no window to be reached by: the program says so and ends.
 bool Start() {
     try {
-        horavex::frmMain->Load();
+        horavex::WithMemoryFaults([] { horavex::frmMain->Load(); });
         return true;
     } catch (const std::exception& fault) {
         horavex::ShowFault(fault);

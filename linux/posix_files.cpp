@@ -7,10 +7,12 @@
 #include <filesystem>
 #include <utility>
 
+#include "base/memory_fault.h"
 #include "linux/descriptor.h"
+#include "linux/file_status.h"
 #include "linux/replace_file.h"
+#include "linux/replacement.h"
 #include "linux/system_call.h"
-#include "linux/write_all.h"
 
 namespace horavex {
 
@@ -39,7 +41,8 @@ public:
         }
         // The count may come out of a damaged file: room is made for what is there at most.
         const std::int64_t rest = std::max<std::int64_t>(Size() - offset, 0);
-        Bytes bytes(std::min(count, static_cast<std::size_t>(rest)));
+        const std::size_t size = std::min(count, static_cast<std::size_t>(rest));
+        Bytes bytes = WithMemoryFaults([&] { return Bytes(size); });
         bytes.resize(Fill(bytes, offset));
         return bytes;
     }
@@ -69,27 +72,27 @@ private:
 
 class PosixOutputFile : public OutputFile {
 public:
-    PosixOutputFile(std::string path, Descriptor file)
-        : path_(std::move(path)), file_(std::move(file)) {}
+    explicit PosixOutputFile(const std::string& path) : file_(path) {}
 
-    void Append(ByteView bytes) override { WriteAll(file_, bytes, path_); }
+    void Append(ByteView bytes) override { file_.Append(bytes); }
+    void Commit() override { file_.Commit(); }
 
 private:
-    std::string path_;
-    Descriptor file_;
+    Replacement file_;
 };
 
-Descriptor OpenRegular(const std::string& path, int flags) {
-    constexpr mode_t kNewFileMode = 0666;  // the process's mask takes its part away
+// The open of a device may do something already, so that it is refused before; the second look is
+// at what has been opened.
+Descriptor OpenRegular(const std::string& path) {
+    if (const auto status = StatusBehind(path)) {
+        RefuseSpecial(*status, path);
+    }
     // Without O_NONBLOCK the open of a pipe would wait for its other end.
-    constexpr int kFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    Descriptor file(::open(SystemPath(path), flags | kFlags, kNewFileMode));
+    Descriptor file(::open(SystemPath(path), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file.IsOpen()) {
         ThrowFileFault(path);
     }
-    if (!S_ISREG(StatusOf(file, path).st_mode)) {
-        throw FileFault(path, "is no regular file");
-    }
+    RefuseSpecial(StatusOf(file, path), path);
     return file;
 }
 
@@ -100,11 +103,11 @@ bool MeansMissing(const std::error_code& error) {
 }  // namespace
 
 std::unique_ptr<OpenFile> PosixFiles::OpenForReading(const std::string& path) {
-    return std::make_unique<OpenPosixFile>(path, OpenRegular(path, O_RDONLY));
+    return std::make_unique<OpenPosixFile>(path, OpenRegular(path));
 }
 
 std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(const std::string& path) {
-    return std::make_unique<PosixOutputFile>(path, OpenRegular(path, O_WRONLY | O_CREAT | O_TRUNC));
+    return std::make_unique<PosixOutputFile>(path);
 }
 
 void PosixFiles::WriteWhole(const std::string& path, ByteView bytes) {

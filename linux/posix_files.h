@@ -10,7 +10,8 @@ namespace horavex {
 
 /// Files of the system. Only regular files open: a folder, a pipe or a device is a FileFault at
 /// once and never a wait. A write goes through a symbolic link to the file behind it, keeps the
-/// permissions of the file that it replaces, and is on the disk when it returns.
+/// permissions of the file that it replaces, and is on the disk when it returns. Nothing but a
+/// regular file is replaced; a link that leads nowhere is a FileFault.
 class PosixFiles : public Files {
 public:
     std::unique_ptr<OpenFile> OpenForReading(const std::string& path) override;

@@ -58,7 +58,7 @@ void WritePdf(const std::string& path, const PrintedYear& year) {
         DrawPages(writer, year);
     }
     const QByteArray& bytes = buffer.data();
-    Ports().files.WriteWhole(path, BytesOf(bytes.toStdString()));
+    WriteChosenFile(Ports().files, path, BytesOf(bytes.toStdString()));
 }
 
 }  // namespace horavex

@@ -33,7 +33,7 @@ void WritePng(const std::string& path, const Drawing& drawing, double width, dou
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     image.save(&buffer, "PNG");
-    Ports().files.WriteWhole(path, BytesOf(buffer.data().toStdString()));
+    WriteChosenFile(Ports().files, path, BytesOf(buffer.data().toStdString()));
 }
 
 void SetUpPage(QPrinter& printer) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/fault.h"
+#include "base/memory_fault.h"
 
 namespace horavex {
 
@@ -8,7 +8,7 @@ namespace horavex {
 template <class Step>
 void RunStep(Step step) {
     try {
-        step();
+        WithMemoryFaults(step);
     } catch (const Fault&) {
         // Passed over in silence.
     }

@@ -42,6 +42,11 @@ public:
         file_->Append(bytes);
     }
 
+    void Commit() override {
+        CountCall(call_, path_);
+        file_->Commit();
+    }
+
 private:
     std::string path_;
     std::unique_ptr<OutputFile> file_;

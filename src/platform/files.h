@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,15 +23,24 @@ public:
     virtual Bytes ReadAt(std::int64_t offset, std::size_t count) = 0;
 };
 
-/// A file open for writing from its beginning on. What was written stays, whatever happens later.
-/// Closes with its end of life.
+/// The new content of a file. Until Commit the former file is there, and without a Commit nothing
+/// of the new one stays.
 class OutputFile {
 public:
     virtual ~OutputFile() = default;
 
-    /// Throws FileFault when the system fails the write; a part of the bytes may be out by then.
+    /// Throws FileFault when the system fails the write.
     virtual void Append(ByteView bytes) = 0;
+
+    /// Puts what was appended in the place of the former file. Once, and last. Throws FileFault;
+    /// the former file is there then.
+    virtual void Commit() = 0;
 };
+
+/// The largest file of a kind, in bytes; a larger one is none of that kind and is not read.
+inline constexpr std::int32_t kLargestTable = 64 << 20;
+inline constexpr std::int32_t kLargestText = 1 << 20;  // packs, registry, help pages
+inline constexpr std::int32_t kLargestSound = std::numeric_limits<std::int32_t>::max();
 
 /// Files and folders by real path. Every failure is a FileFault that names the path.
 class Files {
@@ -40,8 +50,8 @@ public:
     /// Throws FileFault for a missing file; never creates one.
     virtual std::unique_ptr<OpenFile> OpenForReading(const std::string& path) = 0;
 
-    /// Makes the file, or empties the one that is there at once. Throws FileFault for a missing
-    /// folder.
+    /// For a path of the user's choice. Throws FileFault for a missing folder, which may be a slip
+    /// of the user's, and for what is there and is no file.
     virtual std::unique_ptr<OutputFile> OpenForWriting(const std::string& path) = 0;
 
     /// Replaces or makes the whole file, and its folder where that is missing. The bytes go to a
@@ -59,7 +69,14 @@ public:
     virtual std::vector<std::string> List(const std::string& folder) = 0;
 };
 
-/// The whole content of a file. Throws FileFault as OpenForReading and ReadAt do.
-Bytes ReadWhole(Files& files, const std::string& path);
+/// Throws FileFault for an open file that is larger than its kind can be.
+void RefuseLarger(OpenFile& file, const std::string& path, std::int64_t largest);
+
+/// The whole content of a file. Throws FileFault as OpenForReading and ReadAt do, and for a file
+/// larger than that.
+Bytes ReadWhole(Files& files, const std::string& path, std::int64_t largest = kLargestTable);
+
+/// Replaces or makes a whole file of the user's choice, as OpenForWriting does.
+void WriteChosenFile(Files& files, const std::string& path, ByteView bytes);
 
 }  // namespace horavex

@@ -33,14 +33,19 @@ private:
 
 class MemoryOutputFile : public OutputFile {
 public:
-    explicit MemoryOutputFile(std::shared_ptr<Bytes> bytes) : bytes_(std::move(bytes)) {}
+    MemoryOutputFile(MemoryFiles& files, std::string path)
+        : files_(files), path_(std::move(path)) {}
 
     void Append(ByteView bytes) override {
-        bytes_->insert(bytes_->end(), bytes.begin(), bytes.end());
+        bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
     }
 
+    void Commit() override { files_.WriteWhole(path_, bytes_); }
+
 private:
-    std::shared_ptr<Bytes> bytes_;
+    MemoryFiles& files_;
+    std::string path_;
+    Bytes bytes_;
 };
 
 }  // namespace
@@ -51,13 +56,12 @@ std::unique_ptr<OpenFile> MemoryFiles::OpenForReading(const std::string& path) {
 }
 
 std::unique_ptr<OutputFile> MemoryFiles::OpenForWriting(const std::string& path) {
-    WriteWhole(path, {});
-    return std::make_unique<MemoryOutputFile>(files_.at(path));
+    RefuseNoFile(path);
+    return std::make_unique<MemoryOutputFile>(*this, path);
 }
 
 void MemoryFiles::WriteWhole(const std::string& path, ByteView bytes) {
-    RefuseFolder(path);
-    RefuseFileAsFolder(path);
+    RefuseNoFile(path);
     files_[path] = std::make_shared<Bytes>(bytes.begin(), bytes.end());
 }
 
@@ -103,6 +107,11 @@ void MemoryFiles::RefuseFolder(const std::string& path) const {
     if (IsFolder(path)) {
         throw FileFault(path, "is a folder");
     }
+}
+
+void MemoryFiles::RefuseNoFile(const std::string& path) const {
+    RefuseFolder(path);
+    RefuseFileAsFolder(path);
 }
 
 void MemoryFiles::RefuseFileAsFolder(const std::string& path) const {

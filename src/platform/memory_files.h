@@ -29,6 +29,7 @@ private:
     bool IsFolder(const std::string& path) const;
     void RefuseFolder(const std::string& path) const;
     void RefuseFileAsFolder(const std::string& path) const;
+    void RefuseNoFile(const std::string& path) const;
 
     std::map<std::string, std::shared_ptr<Bytes>> files_;
 };

@@ -31,9 +31,9 @@ public:
     virtual ConnectionState Connection() = 0;
 
     /// The body of what lies at an address of the web, an error page's as well as any other.
-    /// Blocks the thread, 15 seconds at most in all. Empty for a transfer that is refused or not
+    /// Blocks the thread, 8 seconds at most in all. Empty for a transfer that is refused or not
     /// complete, one of more than 64 KiB, and an address or a redirection that is neither http
-    /// nor https. Never fails.
+    /// nor https, or that leads from https to http. Never fails.
     virtual Bytes Get(const std::string& address) = 0;
 };
 

@@ -88,11 +88,14 @@ ProgramFolder::ProgramFolder(Files& files, std::string userFolder, std::string i
       installedFolder_(std::move(installedFolder)) {}
 
 std::unique_ptr<OpenFile> ProgramFolder::OpenForReading(const std::string& path) const {
-    return files_.OpenForReading(RealPath(path));
+    const std::string real = RealPath(path);
+    auto file = files_.OpenForReading(real);
+    RefuseLarger(*file, real, kLargestTable);
+    return file;
 }
 
-Bytes ProgramFolder::ReadWhole(const std::string& path) const {
-    return horavex::ReadWhole(files_, RealPath(path));
+Bytes ProgramFolder::ReadWhole(const std::string& path, std::int64_t largest) const {
+    return horavex::ReadWhole(files_, RealPath(path), largest);
 }
 
 bool ProgramFolder::Exists(const std::string& path) const {

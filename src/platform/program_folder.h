@@ -18,11 +18,12 @@ public:
     /// Two equal folders make the one folder that is read and written (portable use).
     ProgramFolder(Files& files, std::string userFolder, std::string installedFolder);
 
-    /// Opens the user's file, or else the installed one. Throws FileFault where neither is.
+    /// Opens the user's file, or else the installed one. Throws FileFault where neither is, and for
+    /// one larger than kLargestTable.
     std::unique_ptr<OpenFile> OpenForReading(const std::string& path) const;
 
-    /// The whole content, found as OpenForReading finds it.
-    Bytes ReadWhole(const std::string& path) const;
+    /// The whole content, found as OpenForReading finds it. Throws FileFault for a larger file.
+    Bytes ReadWhole(const std::string& path, std::int64_t largest = kLargestTable) const;
 
     bool Exists(const std::string& path) const;
 

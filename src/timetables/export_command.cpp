@@ -26,9 +26,29 @@ std::string Text(std::uint16_t entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
-void ShowProgressWindow(const std::string& path) {
-    fMessage->lblMessage2.SetCaption(path);
-    fMessage->CmdCancel.SetVisible(true);
+/// The path of the file, or none. The window stays loaded, out of sight, for a user who cancels;
+/// the next message in it is not to speak of an export.
+std::string AskForFile() {
+    fMessage->Load();
+    const std::string former = fMessage->lblMessage1.Caption();
+    fMessage->lblMessage1.SetCaption(Text(26) + " " + Text(1));
+    const std::string path = Ports().dialogs.SaveFile(kRequest, ".txt");
+    if (path.empty()) {
+        fMessage->lblMessage1.SetCaption(former);
+    }
+    return path;
+}
+
+/// The cancel of the progress window shares its flag with the alarm.
+bool IsCancelled() {
+    return alarmDismissed != kFalse;
+}
+
+/// A cancelled export leaves no file of that name, not even the former one.
+void DeleteFile(const std::string& path) {
+    if (Ports().files.Exists(path)) {
+        Ports().files.Delete(path);
+    }
 }
 
 void WaitUntilRead(double start) {
@@ -36,26 +56,34 @@ void WaitUntilRead(double start) {
     WaitSeconds((kShortestExport - elapsed) / kSecondsPerDay);
 }
 
+void Export(const std::string& path) {
+    const auto file = Ports().files.OpenForWriting(path);
+    fMessage->Show();
+    const double start = Ports().clock.SteadySeconds();
+    WriteTextPages(*file, IsCancelled);
+    fMessage->CmdCancel.SetVisible(false);
+    if (IsCancelled()) {
+        DeleteFile(path);
+    } else {
+        file->Commit();
+        WaitUntilRead(start);
+    }
+}
+
 }  // namespace
 
 void mnuExport_Click() {
-    fMessage->Load();
-    fMessage->lblMessage1.SetCaption(Text(26) + " " + Text(1));
-    const std::string path = Ports().dialogs.SaveFile(kRequest, ".txt");
+    const std::string path = AskForFile();
     if (path.empty()) {
-        return;  // the window stays loaded, out of sight
+        return;
     }
-    ShowProgressWindow(path);
-    auto file = Ports().files.OpenForWriting(path);
-    fMessage->Show();
-    const double start = Ports().clock.SteadySeconds();
-    WriteTextPages(*file);
-    file.reset();
-    fMessage->CmdCancel.SetVisible(false);
-    if (alarmDismissed != kFalse) {
-        Ports().files.Delete(path);
-    } else {
-        WaitUntilRead(start);
+    fMessage->lblMessage2.SetCaption(path);
+    fMessage->CmdCancel.SetVisible(true);
+    try {
+        Export(path);
+    } catch (...) {
+        fMessage->Unload();  // a progress window that nothing fills any more helps nobody
+        throw;
     }
     fMessage->Unload();
 }

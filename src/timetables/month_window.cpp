@@ -182,8 +182,9 @@ void SaveChart() {
         InstalledDocumentTools().writePng(path, picture.drawing, picture.ScaleWidth(),
                                           picture.ScaleHeight());
     } else if (!path.empty()) {
-        Ports().files.WriteWhole(path, BytesOf(DrawingSvg(picture.drawing, picture.ScaleWidth(),
-                                                          picture.ScaleHeight())));
+        WriteChosenFile(
+            Ports().files, path,
+            BytesOf(DrawingSvg(picture.drawing, picture.ScaleWidth(), picture.ScaleHeight())));
     }
 }
 

@@ -1,7 +1,5 @@
 #include "timetables/text_export.h"
 
-#include "athan/athan_state.h"
-#include "base/flag.h"
 #include "base/number_text.h"
 #include "base/prayer_names.h"
 #include "engine/angle.h"
@@ -79,17 +77,25 @@ std::string MonthTitle(Date date) {
     return Rule() + CenterText(title, kPageWidth) + Crlf + Crlf;
 }
 
+/// What the pages are of. A new year or a change of settings may come in between two days.
+struct ExportedYear {
+    Date first = DateSerial(CurrentYear, 1, 1);
+    int days = 365 + LeapFlag;
+    decltype(Times) times = Times;
+    SettingsRecord settings = ActiveSettings;
+};
+
 /// The mark before a day on which daylight saving changes; it leaves its footnote pending. day:
 /// 1-based day of the year.
-std::string DaylightMark(int day, DaylightNote& flag) {
-    if (ActiveSettings.DstEnabled != 1) {
+std::string DaylightMark(const SettingsRecord& settings, int day, DaylightNote& flag) {
+    if (settings.DstEnabled != 1) {
         return " ";
     }
-    if (day == ActiveSettings.DstStart) {
+    if (day == settings.DstStart) {
         flag = kBegins;
         return "*";
     }
-    if (day == ActiveSettings.DstEnd) {
+    if (day == settings.DstEnd) {
         flag = kFinishes;
         return "*";
     }
@@ -97,10 +103,11 @@ std::string DaylightMark(int day, DaylightNote& flag) {
 }
 
 /// day: 1-based day of the year.
-std::string DayCells(int day, int dayOfMonth) {
+std::string DayCells(const ExportedYear& year, int day, int dayOfMonth) {
     std::string cells = CenterText(std::to_string(dayOfMonth), kDayWidth);
-    for (const double hours : TimesOfRow(static_cast<std::size_t>(day) - 1)) {
-        cells += Cell(Ports().formats.MediumTime(hours / 24.0));
+    for (const auto& hours : year.times) {
+        cells +=
+            Cell(Ports().formats.MediumTime(hours.at(static_cast<std::size_t>(day) - 1) / 24.0));
     }
     return cells + Crlf;
 }
@@ -127,14 +134,14 @@ void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& 
     file.Append(BytesOf(page + Crlf));
 }
 
-void WriteTextPages(OutputFile& file) {
+void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) {
+    const ExportedYear year;
     const std::string header = Header();
-    const Date first = DateSerial(CurrentYear, 1, 1);
     std::string page;
     DaylightNote flag = kNoNote;
     int monthIndex = 0;
-    for (int n = 1; n <= 365 + LeapFlag; ++n) {
-        const Date date = first + n - 1;
+    for (int n = 1; n <= year.days; ++n) {
+        const Date date = year.first + n - 1;
         const CivilDate civil = CivilFromDate(date);
         if (civil.day == 1) {
             if (n > 1) {
@@ -144,9 +151,9 @@ void WriteTextPages(OutputFile& file) {
             }
             page += MonthTitle(date) + header;
         }
-        page += DaylightMark(n, flag) + DayCells(n, civil.day);
+        page += DaylightMark(year.settings, n, flag) + DayCells(year, n, civil.day);
         page += EndsGroup(civil.day) ? Crlf : "";
-        if (alarmDismissed != kFalse) {
+        if (isCancelled()) {
             break;
         }
         Ports().eventLoop.Pump();

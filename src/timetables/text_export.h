@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/files.h"
@@ -16,9 +17,9 @@ using DaylightNote = std::string;
 void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& file);
 
 /// Writes the year of the table as pages for a line printer, one a month, in UTF-8: fixed columns
-/// of characters, lines that end in CR LF, a form feed before each month but the first. Events are
-/// delivered after every day; once alarmDismissed is set the page of that day is the last. Throws
-/// FileFault.
-void WriteTextPages(OutputFile& file);
+/// of characters, lines that end in CR LF, a form feed before each month but the first. The year is
+/// that of the call, whatever becomes of the table meanwhile: events are delivered after every day.
+/// Once isCancelled the page of that day is the last. Throws FileFault.
+void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled);
 
 }  // namespace horavex

@@ -32,6 +32,13 @@ void WritePdf(const std::string& path, const PrintedYear& year) {
     tools.writePdf(path, year);
 }
 
+/// Nothing offers to cancel it: the flag of the alarm and of the export is another's.
+void WriteText(const std::string& path) {
+    const auto file = Ports().files.OpenForWriting(path);
+    WriteTextPages(*file, [] { return false; });
+    file->Commit();
+}
+
 /// The formats that are one text.
 std::string WholeText(TimetableFormat format, const PrintedYear& year) {
     switch (format) {
@@ -63,7 +70,7 @@ std::optional<TimetableFormat> TimetableFormatOfPath(std::string_view path) {
 
 void WriteTimetable(TimetableFormat format, const std::string& path, PaperSize paper) {
     if (format == TimetableFormat::kText) {
-        WriteTextPages(*Ports().files.OpenForWriting(path));
+        WriteText(path);
         return;
     }
     const Timetable table = TakeTimetable();
@@ -72,7 +79,7 @@ void WriteTimetable(TimetableFormat format, const std::string& path, PaperSize p
     if (format == TimetableFormat::kPdf) {
         WritePdf(path, year);
     } else {
-        Ports().files.WriteWhole(path, BytesOf(WholeText(format, year)));
+        WriteChosenFile(Ports().files, path, BytesOf(WholeText(format, year)));
     }
 }
 

@@ -1,4 +1,6 @@
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 
 #include "e2e/harness/program_fixture.h"
@@ -8,6 +10,15 @@ namespace horavex {
 namespace {
 
 using SessionStartTest = ProgramFixture;
+
+TEST_F(SessionStartTest, TemporaryNamesOfACrashAreClearedAtTheStart) {
+    const std::string left = desktop / "config/horavex/.horavex-2147483646-0";  // no such process
+    std::filesystem::create_directories(desktop / "config/horavex");
+    std::ofstream(left) << "half of a regist";
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    EXPECT_FALSE(std::filesystem::exists(left));
+}
 
 // As a session does it: the entry that a first run has left is launched with nothing else known.
 TEST_F(SessionStartTest, EntryOfTheFirstRunIsValidAndStartsTheProgram) {

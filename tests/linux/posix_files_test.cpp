@@ -1,6 +1,7 @@
 #include "linux/posix_files.h"
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 #include <filesystem>
 #include <limits>
@@ -34,26 +35,62 @@ TEST_F(PosixFilesTest, ReadsAtPositions) {
     EXPECT_THAT(file->ReadAt(0, 0), IsEmpty());
 }
 
-TEST_F(PosixFilesTest, OutputReplacesTheFileAtOnceAndGrowsWithEachAppend) {
+TEST_F(PosixFilesTest, OutputReplacesTheFileWithItsCommitAlone) {
     Put("a", "0123456789");
-    const auto file = files.OpenForWriting(folder / "a");
-    EXPECT_THAT(ReadWhole(files, folder / "a"), IsEmpty());
-    file->Append(BytesOf("ab"));
-    file->Append({});
-    file->Append(BytesOf("cd"));
-    EXPECT_EQ(StringOf(ReadWhole(files, folder / "a")), "abcd");
+    {
+        const auto file = files.OpenForWriting(folder / "a");
+        file->Append(BytesOf("ab"));
+        file->Append({});
+        file->Append(BytesOf("cd"));
+        EXPECT_EQ(StringOf(ReadWhole(files, folder / "a")), "0123456789");
+        file->Commit();
+        EXPECT_EQ(StringOf(ReadWhole(files, folder / "a")), "abcd");
+    }
+    EXPECT_THAT(files.List(folder.Path()), ElementsAre("a"));
+}
+
+TEST_F(PosixFilesTest, OutputWithoutACommitLeavesNothing) {
+    Put("a", "old");
+    files.OpenForWriting(folder / "a")->Append(BytesOf("new"));
+    files.OpenForWriting(folder / "b")->Append(BytesOf("new"));
+    EXPECT_THAT(files.List(folder.Path()), ElementsAre("a"));
+    EXPECT_EQ(StringOf(ReadWhole(files, folder / "a")), "old");
 }
 
 TEST_F(PosixFilesTest, OutputMakesTheFileButNoFolder) {
-    files.OpenForWriting(folder / "new")->Append(BytesOf("x"));
+    WriteChosenFile(files, folder / "new", BytesOf("x"));
     EXPECT_EQ(StringOf(ReadWhole(files, folder / "new")), "x");
     EXPECT_THROW(files.OpenForWriting(folder / "missing/new"), FileFault);
+    EXPECT_FALSE(files.Exists(folder / "missing"));
 }
 
 TEST_F(PosixFilesTest, OutputIntoAFolderOrAPipeIsAFaultAtOnce) {
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     EXPECT_THROW(files.OpenForWriting(folder / "pipe"), FileFault);
     EXPECT_THROW(files.OpenForWriting(folder / "."), FileFault);
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+TEST_F(PosixFilesTest, FileLargerThanItsKindIsAFaultBeforeAByteIsRead) {
+    Put("a", "0123456789");
+    EXPECT_EQ(ReadWhole(files, folder / "a", 10).size(), 10U);
+    EXPECT_THROW(ReadWhole(files, folder / "a", 9), FileFault);
+    fs::resize_file(folder / "a", kLargestTable + 1);  // a file of holes
+    EXPECT_THROW(ReadWhole(files, folder / "a"), FileFault);
+}
+
+TEST_F(PosixFilesTest, LinkToADeviceIsAFaultThatLeavesTheDevice) {
+    if (::mknod((folder / "device").c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0) {
+        GTEST_SKIP() << "only root may make a device";
+    }
+    fs::create_symlink("device", folder / "link");
+    for (const char* name : {"device", "link"}) {
+        EXPECT_THROW(files.OpenForWriting(folder / name), FileFault);
+        EXPECT_THROW(files.WriteWhole(folder / name, BytesOf("x")), FileFault);
+        EXPECT_THROW(files.OpenForReading(folder / name), FileFault);
+    }
+    EXPECT_TRUE(fs::is_character_file(folder / "device"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
 }
 
 TEST_F(PosixFilesTest, ReadEndsWithTheFile) {

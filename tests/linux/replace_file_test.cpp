@@ -122,6 +122,8 @@ TEST_F(ReplaceFileTest, MakesAndReplacesWholeFiles) {
 TEST_F(ReplaceFileTest, MakesMissingFolders) {
     ReplaceFile(folder / "p/q/a", BytesOf("deep"));
     EXPECT_EQ(Read("p/q/a"), "deep");
+    EXPECT_EQ(ModeOf("p"), 0700U) << "for the user alone";
+    EXPECT_EQ(ModeOf("p/q"), 0700U);
 }
 
 TEST_F(ReplaceFileTest, ManyMegabytesArriveWhole) {
@@ -170,11 +172,19 @@ TEST_F(ReplaceFileTest, LinkStaysALinkAndTheFileBehindItIsReplaced) {
     EXPECT_THAT(files.List(folder / "real"), ElementsAre("a"));
 }
 
-TEST_F(ReplaceFileTest, LinkToNothingBecomesAFile) {
+TEST_F(ReplaceFileTest, LinkThatLeadsNowhereIsAFaultAndStays) {
     fs::create_symlink("nothing", folder / "link");
-    ReplaceFile(folder / "link", BytesOf("new"));
-    EXPECT_FALSE(fs::is_symlink(folder / "link"));
-    EXPECT_EQ(Read("link"), "new");
+    fs::create_symlink("circle", folder / "circle");
+    EXPECT_THROW(ReplaceFile(folder / "link", BytesOf("new")), FileFault);
+    EXPECT_THROW(ReplaceFile(folder / "circle", BytesOf("new")), FileFault);
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_THAT(files.List(folder.Path()), ElementsAre("circle", "link"));
+}
+
+TEST_F(ReplaceFileTest, PipeIsAFaultAndStays) {
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_THROW(ReplaceFile(folder / "pipe", BytesOf("new")), FileFault);
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
 }
 
 TEST_F(ReplaceFileTest, TemporaryNameOfACrashIsNoHindrance) {

@@ -42,19 +42,20 @@ TEST_F(FailingFilesTest, EachOfTheFourOperationsCanFail) {
     EXPECT_NO_THROW(RunAll());
 }
 
-TEST_F(FailingFilesTest, OutputFailsAtItsOpenAndAtEachAppend) {
-    for (int n = 1; n <= 3; ++n) {
+TEST_F(FailingFilesTest, OutputFailsAtItsOpenAtEachAppendAndAtItsCommit) {
+    for (int n = 1; n <= 4; ++n) {
         failing.FailCall(n);
         EXPECT_THROW(
             {
                 const auto file = failing.OpenForWriting("/p/out");
                 file->Append(BytesOf("ab"));
                 file->Append(BytesOf("cd"));
+                file->Commit();
             },
             FileFault)
             << n;
+        EXPECT_FALSE(files.Exists("/p/out"));
     }
-    EXPECT_EQ(StringOf(files.Contents("/p/out")), "ab");
 }
 
 TEST_F(FailingFilesTest, CallsBehindTheFailedOnePassAgain) {

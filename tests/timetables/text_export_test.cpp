@@ -50,7 +50,9 @@ constexpr const char* kLastDaysOfJanuary =
 class TextPagesTest : public TimetableTest {
 protected:
     std::string Written() {
-        WriteTextPages(*platform.files.OpenForWriting("/year.txt"));
+        const auto file = platform.files.OpenForWriting("/year.txt");
+        WriteTextPages(*file, [] { return false; });
+        file->Commit();
         return StringOf(platform.files.Contents("/year.txt"));
     }
 
@@ -216,6 +218,34 @@ TEST_F(TextPagesTest, SecondQiblaMethodAndAWesternZoneAreTold) {
                                          "East of North (second method) \r\n"));
 }
 
+TEST_F(TextPagesTest, ZoneHasTheDecimalMarkOfTheUser) {
+    class CommaFormats : public FixedFormats {
+        char DecimalMark() const override { return ','; }
+    } formats;
+    const Platform& former = Ports();
+    const Platform ports{former.clock,   former.eventLoop, former.files,     former.programFolder,
+                         formats,        former.dialogs,   former.registry,  former.instanceGuard,
+                         former.face,    former.windows,   former.tray,      former.shell,
+                         former.network, former.athanFace, former.audioFile, former.audioPlayer};
+    InstallPlatform(&ports);
+    ActiveSettings.TimeZone = 5.75;
+    const std::string january = Pages().at(0);
+    InstallPlatform(&former);
+    EXPECT_THAT(january, HasSubstr("Time Zone: GMT +5,75\r\n"));
+}
+
+TEST_F(TextPagesTest, PlaceIsToldInTheWordsOfTheAcceptedLanguage) {
+    ActiveSettings.Language = 2;
+    Settings.Language = 1;
+    for (const auto& [entry, text] : std::initializer_list<std::pair<std::uint16_t, const char*>>{
+             {12, "Nord"}, {13, "Est"}, {16, "degr"}, {17, "min"}, {59, "Lat"}, {60, "Lon"}}) {
+        data.WriteText(entry, 2, text);
+    }
+    const std::string january = Pages().at(0);
+    EXPECT_THAT(january, HasSubstr("\r\nLat: 30 degr, 3 min Nord\r\n"));
+    EXPECT_THAT(january, HasSubstr("\r\nLon: 31 degr, 15 min Est\r\n"));
+}
+
 TEST_F(TextPagesTest, TimeThatDoesNotExistComesOutAsItsFormatGivesIt) {
     Times[kIsha][0] = NoEvent;
     EXPECT_THAT(Rows(Pages().at(0)).at(0), EndsWith("    06:00 PM    04:00 PM  \r"));
@@ -240,7 +270,7 @@ TEST_F(TextPagesTest, FaultOfTheFileComesThrough) {
     platform.failingFiles.FailCall(0);
     const auto file = platform.failingFiles.OpenForWriting("/year.txt");
     platform.failingFiles.FailCall(3 + 30);  // behind the texts of the head
-    EXPECT_THROW(WriteTextPages(*file), FileFault);
+    EXPECT_THROW(WriteTextPages(*file, [] { return false; }), FileFault);
 }
 
 using MonthEndTest = TimetableTest;
@@ -251,6 +281,7 @@ TEST_F(MonthEndTest, TellsTheProgressAndForgetsTheFootnote) {
     DaylightNote flag = "F";
     std::string page = "page";
     sub0529(flag, 3, page, *file);
+    file->Commit();
     EXPECT_EQ(flag, " ");
     EXPECT_EQ(StringOf(platform.files.Contents("/month.txt")),
               "page" + std::string(79, '-') + "\r\n* Note : End of daylight saving.\r\n\r\n");

@@ -1,5 +1,6 @@
 #include "timetables/timetable_file.h"
 
+#include "athan/athan_state.h"
 #include "base/fault.h"
 #include "timetables/sample_timetable.h"
 
@@ -33,6 +34,23 @@ TEST_F(TimetableFileTest, EachFormatIsItsOwn) {
     EXPECT_THAT(Written(TimetableFormat::kJson), StartsWith("{\"year\":2026,"));
     EXPECT_THAT(Written(TimetableFormat::kIcs), EndsWith("END:VCALENDAR\r\n"));
     EXPECT_THAT(Written(TimetableFormat::kHtml), StartsWith("<!DOCTYPE html>"));
+}
+
+TEST_F(TimetableFileTest, TextIsWholeAfterAnAlarmOrAnExportThatTheUserEnded) {
+    alarmDismissed = -1;
+    EXPECT_THAT(Written(TimetableFormat::kText), HasSubstr("Prayer times of December 2026."));
+}
+
+TEST_F(TimetableFileTest, AlarmThatTheUserClosesMeanwhileCutsNoText) {
+    platform.loop.AtPump(100, [] { alarmDismissed = -1; });
+    EXPECT_THAT(Written(TimetableFormat::kText), HasSubstr("Prayer times of December 2026."));
+}
+
+TEST_F(TimetableFileTest, WriteThatFailsKeepsTheFormerFile) {
+    platform.files.WriteWhole("/home/year", BytesOf("last year's"));
+    platform.loop.AtPump(100, [this] { platform.failingFiles.FailCall(1); });
+    EXPECT_THROW(WriteTimetable(TimetableFormat::kText, "/home/year", PaperSize::kA4), FileFault);
+    EXPECT_EQ(StringOf(platform.files.Contents("/home/year")), "last year's");
 }
 
 TEST_F(TimetableFileTest, PdfGoesToTheFrontEndWithPaperAndToday) {

@@ -1,0 +1,38 @@
+#include "linux/file_status.h"
+
+#include <fcntl.h>
+
+#include "linux/descriptor.h"
+#include "linux/system_call.h"
+
+namespace horavex {
+
+namespace {
+
+bool IsLink(const std::string& path) {
+    struct stat status = {};
+    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+}  // namespace
+
+std::optional<struct stat> StatusBehind(const std::string& path) {
+    const Descriptor file(::open(SystemPath(path), O_PATH | O_CLOEXEC));
+    const int error = errno;
+    if (!file.IsOpen() && error == ENOENT && !IsLink(path)) {
+        return std::nullopt;
+    }
+    struct stat status = {};
+    if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0) {
+        ThrowFileFault(path, file.IsOpen() ? errno : error);
+    }
+    return status;
+}
+
+void RefuseSpecial(const struct stat& status, const std::string& path) {
+    if (!S_ISREG(status.st_mode)) {
+        throw FileFault(path, "is no regular file");
+    }
+}
+
+}  // namespace horavex

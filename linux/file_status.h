@@ -1,0 +1,18 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <optional>
+#include <string>
+
+namespace horavex {
+
+/// What is behind a path, symbolic links followed by the system itself, so that its own protection
+/// of links in shared folders counts. Nothing for a name that is free. Throws FileFault for a link
+/// that leads nowhere. Nothing is opened: a pipe is not waited for and a device does nothing.
+std::optional<struct stat> StatusBehind(const std::string& path);
+
+/// Throws FileFault for a folder, a pipe, a device or a socket.
+void RefuseSpecial(const struct stat& status, const std::string& path);
+
+}  // namespace horavex
