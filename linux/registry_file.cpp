@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/fault.h"
+#include "base/memory_fault.h"
 #include "base/utf8.h"
 
 namespace horavex {
@@ -86,8 +86,11 @@ std::int32_t RegistryFile::DeleteKey(const std::string& key) {
 
 std::optional<RegistryText> RegistryFile::Load(const std::string& path) const {
     try {
-        return RegistryText(files_.Exists(path) ? StringOf(ReadWhole(files_, path)) : "");
-    } catch (const FileFault&) {
+        return WithMemoryFaults([&] {
+            return RegistryText(
+                files_.Exists(path) ? StringOf(ReadWhole(files_, path, kLargestText)) : "");
+        });
+    } catch (const Fault&) {
         return std::nullopt;
     }
 }
@@ -106,9 +109,14 @@ std::int32_t RegistryFile::Change(const Edit& edit) {
     return code == kRegistrySuccess && user->Text() != before ? Save(*user) : code;
 }
 
+// What would be too large to be read back is not written.
 std::int32_t RegistryFile::Save(const RegistryText& user) {
+    const std::string text = user.Text();
+    if (std::ssize(text) > kLargestText) {
+        return kRegistryWriteFault;
+    }
     try {
-        files_.WriteWhole(userPath_, BytesOf(user.Text()));
+        files_.WriteWhole(userPath_, BytesOf(text));
         return kRegistrySuccess;
     } catch (const FileFault&) {
         return kRegistryWriteFault;

@@ -24,11 +24,12 @@ std::size_t FindEquals(std::string_view line) {
 }
 
 // The key of a section line; nothing where the line is damaged.
-std::optional<std::string> SectionOf(std::string_view line) {
+std::shared_ptr<const std::string> SectionOf(std::string_view line) {
     if (!line.ends_with(']') || !IsUtf8(line)) {
-        return std::nullopt;
+        return nullptr;
     }
-    return UnescapeRegistryText(line.substr(1, line.size() - 2));
+    return std::make_shared<const std::string>(
+        UnescapeRegistryText(line.substr(1, line.size() - 2)));
 }
 
 std::string NameOf(std::string_view written) {
@@ -48,12 +49,12 @@ std::string_view Content(std::string_view line) {
 
 }  // namespace
 
-bool RegistryText::Line::IsIn(std::string_view section) const {
-    return key && EqualsIgnoringCase(*key, section);
+bool RegistryText::Line::IsIn(std::string_view key) const {
+    return section && EqualsIgnoringCase(*section, key);
 }
 
-bool RegistryText::Line::IsValue(std::string_view section, std::string_view valueName) const {
-    return value && IsIn(section) && EqualsIgnoringCase(name, valueName);
+bool RegistryText::Line::IsValue(std::string_view key, std::string_view valueName) const {
+    return value && EqualsIgnoringCase(name, valueName) && IsIn(key);
 }
 
 RegistryText::RegistryText(std::string_view text) {
@@ -101,7 +102,8 @@ void RegistryText::AddKey(std::string_view key) {
 
 void RegistryText::Set(std::string_view key, std::string_view valueName, std::string_view value) {
     AddKey(key);
-    const Line written = Parse(ValueLine(valueName, value), std::string(key));
+    const Line written =
+        Parse(ValueLine(valueName, value), std::make_shared<const std::string>(key));
     const auto old = std::find_if(lines_.begin(), lines_.end(),
                                   [&](const Line& line) { return line.IsValue(key, valueName); });
     if (old != lines_.end()) {
@@ -123,17 +125,16 @@ bool RegistryText::EraseKey(std::string_view key) {
     return std::erase_if(lines_, [&](const Line& line) { return line.IsIn(key); }) > 0;
 }
 
-RegistryText::Line RegistryText::Parse(std::string_view text,
-                                       const std::optional<std::string>& section) {
-    Line line{std::string(text), section, {}, {}};
+RegistryText::Line RegistryText::Parse(std::string_view text, Section section) {
+    Line line{std::string(text), std::move(section), {}, {}};
     const std::string_view content = Content(text);
     if (content.starts_with('[')) {
-        line.key = SectionOf(content);
+        line.section = SectionOf(content);
         return line;
     }
     const bool isComment = content.starts_with('#') || content.starts_with(';');
     const std::size_t equals = FindEquals(content);
-    if (section && !isComment && equals != std::string_view::npos && IsUtf8(content)) {
+    if (line.section && !isComment && equals != std::string_view::npos && IsUtf8(content)) {
         line.name = NameOf(Trim(content.substr(0, equals)));
         line.value = UnescapeRegistryText(Trim(content.substr(equals + 1)));
     }
@@ -141,7 +142,7 @@ RegistryText::Line RegistryText::Parse(std::string_view text,
 }
 
 void RegistryText::Append(std::string_view text) {
-    lines_.push_back(Parse(text, lines_.empty() ? std::nullopt : lines_.back().key));
+    lines_.push_back(Parse(text, lines_.empty() ? nullptr : lines_.back().section));
 }
 
 }  // namespace horavex

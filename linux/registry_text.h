@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,17 +42,20 @@ public:
     bool EraseKey(std::string_view key);
 
 private:
+    /// The key of a section, kept once for all its lines; nothing outside a section.
+    using Section = std::shared_ptr<const std::string>;
+
     struct Line {
         std::string text;                  // as it stands in the file
-        std::optional<std::string> key;    // of the section that the line is in
+        Section section;                   // that the line is in
         std::string name;                  // of a value
         std::optional<std::string> value;  // nothing for every other line
 
-        bool IsIn(std::string_view section) const;
-        bool IsValue(std::string_view section, std::string_view valueName) const;
+        bool IsIn(std::string_view key) const;
+        bool IsValue(std::string_view key, std::string_view valueName) const;
     };
 
-    static Line Parse(std::string_view text, const std::optional<std::string>& section);
+    static Line Parse(std::string_view text, Section section);
     void Append(std::string_view text);
 
     std::vector<Line> lines_;

@@ -4,7 +4,7 @@
 #include <QPixmap>
 
 #include "desktop/form_window/twips.h"
-#include "platform/platform.h"
+#include "desktop/picture_file.h"
 
 namespace horavex {
 
@@ -62,7 +62,7 @@ public:
     }
 
     void operator()(const PictureStep& picture) const {
-        const QPixmap pixmap(QString::fromStdString(Ports().programFolder.RealPath(picture.name)));
+        const QPixmap pixmap = PictureAt(picture.name);
         painter_.drawPixmap(QRectF(picture.at.x, picture.at.y, picture.width, picture.height),
                             pixmap, pixmap.rect());
     }

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "desktop/form_window/caption_text.h"
-#include "platform/platform.h"
+#include "desktop/picture_file.h"
 
 namespace horavex {
 
@@ -16,7 +16,7 @@ QIcon IconOf(const MenuItem& item) {
     if (item.Picture().empty() || item.Checked()) {
         return {};
     }
-    return QIcon(QString::fromStdString(Ports().programFolder.RealPath(item.Picture())));
+    return PictureAt(item.Picture());
 }
 
 QString CaptionOf(const MenuItem& item) {

@@ -1,6 +1,7 @@
 #include "desktop/ports/help_window.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
@@ -10,6 +11,9 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include "base/fault.h"
+#include "linux/posix_files.h"
 
 namespace horavex {
 
@@ -48,7 +52,33 @@ void NameButton(QToolButton& button, const std::string& text, QStyle::StandardPi
     button.setIcon(button.style()->standardIcon(arrow, &option, &button));
 }
 
+QImage NoPicture() {
+    QImage dot(1, 1, QImage::Format_ARGB32);
+    dot.fill(Qt::transparent);
+    return dot;
+}
+
 }  // namespace
+
+// The toolkit would open whatever the name leads to, and wait for the writer of a pipe for good. It
+// tries so itself where there is no answer.
+QVariant PageView::loadResource(int type, const QUrl& name) {
+    const QString file = source().resolved(name).toLocalFile();
+    const bool isPage = type == QTextDocument::HtmlResource;
+    QByteArray content("");
+    try {
+        PosixFiles files;
+        content = QByteArray::fromStdString(StringOf(ReadWhole(
+            files, QFile::encodeName(file).toStdString(), isPage ? kLargestText : kLargestTable)));
+    } catch (const FileFault&) {
+        // As good as empty.
+    }
+    if (type != QTextDocument::ImageResource) {
+        return content;
+    }
+    const QImage picture = QImage::fromData(content);
+    return picture.isNull() ? NoPicture() : picture;
+}
 
 HelpWindow::HelpWindow() {
     back_.setObjectName(QStringLiteral("back"));

@@ -9,6 +9,12 @@
 
 namespace horavex {
 
+/// A page with its pictures. Files alone are shown, and none larger than its kind can be.
+class PageView : public QTextBrowser {
+public:
+    QVariant loadResource(int type, const QUrl& name) override;
+};
+
 /// The help viewer: the list of pages beside the page that is read, and the way back and forward.
 /// Closing hides it, and it keeps its place until the program ends.
 class HelpWindow : public QWidget {
@@ -32,7 +38,7 @@ private:
     QToolButton back_;
     QToolButton forward_;
     QListWidget contents_;
-    QTextBrowser page_;
+    PageView page_;
 };
 
 }  // namespace horavex

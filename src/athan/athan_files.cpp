@@ -20,7 +20,8 @@ constexpr AthanFile kFajr = {"Athan\\fagr_athan.mp3", "Athan\\fagr_athan1.mp3"};
 void MakeIfMissing(const AthanFile& file) {
     const ProgramFolder& folder = Ports().programFolder;
     if (folder.Exists(file.builtIn) && !folder.Exists(file.played)) {
-        RunStep([&] { folder.WriteWhole(file.played, folder.ReadWhole(file.builtIn)); });
+        RunStep(
+            [&] { folder.WriteWhole(file.played, folder.ReadWhole(file.builtIn, kLargestSound)); });
     }
 }
 

@@ -152,7 +152,7 @@ void Browse(const Group& group) {
 void SaveReciter(const Group& group, const Reciter& reciter, const std::string& type) {
     RunStep([&] {
         const ProgramFolder& folder = Ports().programFolder;
-        folder.WriteWhole(group.played, folder.ReadWhole(reciter.copied));
+        folder.WriteWhole(group.played, folder.ReadWhole(reciter.copied, kLargestSound));
     });
     SaveValue(group.typeValue, type);
 }

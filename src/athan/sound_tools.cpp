@@ -25,7 +25,7 @@ SoundKind KindOfSound(const std::string& path) {
 
 Bytes PlayableByAnyName(const std::string& path) {
     const bool reencoded = KindOfSound(path) == SoundKind::kByEnding && installed.reencode;
-    return reencoded ? installed.reencode(path) : ReadWhole(Ports().files, path);
+    return reencoded ? installed.reencode(path) : ReadWhole(Ports().files, path, kLargestSound);
 }
 
 }  // namespace horavex

@@ -24,7 +24,7 @@ const ProgramStateReset reset([] {
 });
 
 HelpTopics ReadTopics() {
-    return HelpTopics(StringOf(Ports().programFolder.ReadWhole(helpFile)));
+    return HelpTopics(StringOf(Ports().programFolder.ReadWhole(helpFile, kLargestText)));
 }
 
 /// The path of a page in the program folder, of the pack's language or else the English one.
@@ -35,7 +35,7 @@ std::string PathOf(const std::string& page) {
 
 HelpPage PageAt(const std::string& path) {
     const ProgramFolder& folder = Ports().programFolder;
-    const std::string title = TitleOfPage(StringOf(folder.ReadWhole(path)));
+    const std::string title = TitleOfPage(StringOf(folder.ReadWhole(path, kLargestText)));
     if (title.empty()) {
         throw FileFault(path, "the page has no title");
     }

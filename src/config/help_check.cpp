@@ -9,7 +9,7 @@ namespace horavex {
 namespace {
 
 std::string ReadText(const std::string& path) {
-    return StringOf(Ports().programFolder.ReadWhole(path));
+    return StringOf(Ports().programFolder.ReadWhole(path, kLargestText));
 }
 
 void CheckPage(CheckReport& report, const std::string& path) {

@@ -35,7 +35,7 @@ CodePage EightBitPage(const std::string& packPath) {
 /// A missing or unreadable pack is as good as an empty one.
 std::string ReadPack(const std::string& packPath) {
     try {
-        return StringOf(Ports().programFolder.ReadWhole(packPath));
+        return StringOf(Ports().programFolder.ReadWhole(packPath, kLargestText));
     } catch (const FileFault&) {
         return {};
     }

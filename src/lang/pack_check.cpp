@@ -61,7 +61,7 @@ void CheckName(CheckReport& report, const std::string& name) {
 
 void CheckPack(CheckReport& report, const Sections& sections, const std::string& file) {
     try {
-        const std::string pack = StringOf(Ports().programFolder.ReadWhole(file));
+        const std::string pack = StringOf(Ports().programFolder.ReadWhole(file, kLargestText));
         CheckWanted(report, sections, file, pack);
         CheckUnknown(report, sections, file, pack);
     } catch (const FileFault& fault) {

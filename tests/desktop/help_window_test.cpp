@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -95,6 +96,35 @@ TEST_F(HelpWindowTest, LinksLeadOnAndTheContentsFollow) {
     }
     EXPECT_EQ(ShownText(), "Two");
     EXPECT_EQ(Row(), 1);
+}
+
+TEST_F(HelpWindowTest, PictureOfAPageIsShown) {
+    QImage(24, 24, QImage::Format_RGB32).save(QString::fromStdString(folder / "p.png"));
+    Write("one.html", "One", "<p><img src=\"p.png\"></p>");
+    Show(0);
+    const QUrl url = QUrl::fromLocalFile(QString::fromStdString(folder / "p.png"));
+    const QVariant picture =
+        Find<QTextBrowser>("page").document()->resource(QTextDocument::ImageResource, url);
+    EXPECT_FALSE(picture.isNull());
+}
+
+// A pipe as a picture or as a page would be waited for until somebody writes into it.
+TEST_F(HelpWindowTest, PipeInPlaceOfAPictureOrAPageIsPassedOver) {
+    ASSERT_EQ(::mkfifo((folder / "pipe.png").c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo((folder / "pipe.html").c_str(), 0600), 0);
+    Write("one.html", "One",
+          "<p>text <img src=\"pipe.png\"> <img src=\"" + folder.Path() +
+              "/pipe.png\"> <a href=\"pipe.html\">on</a></p>");
+    Show(0);
+    EXPECT_EQ(ShownText(), "One");
+    Find<QTextBrowser>("page").setSource(
+        QUrl::fromLocalFile(QString::fromStdString(folder / "pipe.html")));
+}
+
+TEST_F(HelpWindowTest, PageLargerThanAnyPageIsPassedOver) {
+    Write("two.html", "Two", std::string(kLargestText, ' '));
+    Show(1);
+    EXPECT_EQ(ShownText(), "");
 }
 
 TEST_F(HelpWindowTest, BackAndForwardWalkThroughWhatWasRead) {

@@ -1,6 +1,7 @@
 #include "desktop/form_window/menu.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
@@ -64,6 +65,10 @@ TEST_F(MenuTest, EntriesWithEntriesAreSubmenusAndADashIsALine) {
 }
 
 TEST_F(MenuTest, PictureOfTheProgramFolderIsTheIconWhileUnchecked) {
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    QImage(16, 16, QImage::Format_RGB32).save(&picture, "BMP");
+    platform.files.WriteWhole("/program/lang/French.bmp", BytesOf(picture.data().toStdString()));
     frmMain->mnuAbout.SetPicture("lang\\French.bmp");
     frmMain->mnuUpdate.SetPicture("lang\\French.bmp");
     frmMain->mnuUpdate.SetChecked(true);

@@ -188,14 +188,21 @@ TEST_F(LanguagePackTest, RandomBytesGiveTextOrTheDefault) {
 }
 
 TEST_F(LanguagePackTest, HugePackIsReadToItsEnd) {
-    data.Write("lang/English.ini",
-               Repeat("[filler]\r\nkey=value\r\n", 100000) + "[msg]\r\n1=found");
+    data.Write("lang/English.ini", Repeat("[filler]\r\nkey=value\r\n", 45000) + "[msg]\r\n1=found");
     EXPECT_EQ(Message(), "found");
 }
 
 TEST_F(LanguagePackTest, HugeLineIsCut) {
-    WritePack(Repeat("0123456789", 200000));
+    WritePack(Repeat("0123456789", 100000));
     EXPECT_EQ(Message().size(), 1023U);
+}
+
+TEST_F(LanguagePackTest, FileLargerThanAnyPackIsAsGoodAsNone) {
+    const std::string pack = "[msg]\r\n1=found\r\n";
+    data.Write("lang/English.ini", pack + std::string(kLargestText - pack.size(), ';'));
+    EXPECT_EQ(Message(), "found");
+    data.Write("lang/English.ini", pack + std::string(kLargestText - pack.size() + 1, ';'));
+    EXPECT_NE(Message(), "found");
 }
 
 TEST_F(LanguagePackTest, FreshProcessHasNoLanguage) {

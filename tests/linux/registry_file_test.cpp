@@ -234,5 +234,13 @@ TEST(RegistryFileOnDisk, FolderThatCannotBeMadeIsAWriteFault) {
     EXPECT_EQ(registry.OpenKey(kKey, kRegistryRead), kRegistryNotFound);
 }
 
+TEST_F(RegistryFileTest, FileOfMoreThanAMegabyteIsNoneAndNoneIsWritten) {
+    files.WriteWhole(kUser, Bytes(kLargestText, '#'));
+    EXPECT_EQ(registry.CreateKey(kKey), kRegistryWriteFault);
+    files.Contents(kUser).push_back('#');
+    EXPECT_EQ(registry.OpenKey(kKey, kRegistryRead), kRegistryAccessDenied);
+    EXPECT_EQ(files.Contents(kUser).size(), std::size_t{kLargestText} + 1);
+}
+
 }  // namespace
 }  // namespace horavex

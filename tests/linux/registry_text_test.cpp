@@ -1,5 +1,7 @@
 #include "linux/registry_text.h"
 
+#include <malloc.h>
+
 namespace horavex {
 namespace {
 
@@ -140,6 +142,23 @@ TEST(RegistryText, ErasedKeyIsGoneWithAllItsLines) {
     EXPECT_TRUE(registry.EraseKey("a"));
     EXPECT_EQ(registry.Text(), "# top\n[b]\nx=4\n");
     EXPECT_FALSE(registry.EraseKey("a"));
+}
+
+// Bytes that the process has asked for and not given back.
+std::size_t BytesInUse() {
+    const auto info = ::mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+TEST(RegistryText, LongSectionNameIsKeptOnceForAllItsLines) {
+    std::string text = "[" + std::string(100'000, 'k') + "]\n";
+    for (int n = 0; n < 500; ++n) {
+        text += "v" + std::to_string(n) + "=1\n";
+    }
+    const std::size_t before = BytesInUse();
+    const RegistryText registry(text);
+    EXPECT_LT(BytesInUse() - before, 2'000'000U);
+    EXPECT_EQ(registry.Value(std::string(100'000, 'k'), "v499"), "1");
 }
 
 }  // namespace
