@@ -3,23 +3,16 @@
 #include <utility>
 
 #include "linux/sound/pulse_stream.h"
+#include "linux/sound/sample_spec.h"
 
 namespace horavex {
 
 namespace {
 
-constexpr int kMostChannels = PA_CHANNELS_MAX;
-
 void Fire(const std::function<void()>& event) {
     if (event) {
         event();
     }
-}
-
-pa_sample_spec SpecOf(int sampleRate, SampleFormat format) {
-    return {.format = PA_SAMPLE_S16NE,
-            .rate = static_cast<std::uint32_t>(sampleRate),
-            .channels = static_cast<std::uint8_t>(format.channels)};
 }
 
 }  // namespace
@@ -43,8 +36,7 @@ void PulsePlayer::Start() {
     std::vector<Bytes> blocks = std::exchange(waiting_, {});
     Disconnect();
     position_ = 0;
-    const pa_sample_spec spec = SpecOf(sampleRate_, format_);
-    if (format_.channels > kMostChannels || !::pa_sample_spec_valid(&spec)) {
+    if (!IsPlayable(sampleRate_, format_)) {
         return;
     }
     start_ = std::make_shared<const bool>();
@@ -53,7 +45,7 @@ void PulsePlayer::Start() {
     events.taken = Posted(&PulsePlayer::BlockTaken);
     events.ended = Posted(&PulsePlayer::Ended);
     events.unreachable = Posted(&PulsePlayer::Unreachable);
-    stream_ = std::make_unique<PulseStream>(spec, std::move(events));
+    stream_ = std::make_unique<PulseStream>(SpecOf(sampleRate_, format_), std::move(events));
     for (Bytes& block : blocks) {
         stream_->Queue(std::move(block));
     }

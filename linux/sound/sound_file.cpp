@@ -5,17 +5,33 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "base/fault.h"
+#include "linux/file_status.h"
+#include "linux/sound/sample_spec.h"
+#include "platform/files.h"
+
 namespace horavex {
 
 namespace {
 
 constexpr float kFullScale = 32768.0F;
 constexpr sf_count_t kSkippedAtOnce = 4096;  // moments
+constexpr int kNoSound = 1;
 
 // Files of floats may go beyond full scale.
 std::int16_t ToSample(float value) {
     const float scaled = std::clamp(value * kFullScale, -kFullScale, kFullScale - 1.0F);
     return static_cast<std::int16_t>(std::lrintf(scaled));
+}
+
+// The library would wait for the writer of a pipe for good.
+bool IsSoundFile(const std::string& path) {
+    try {
+        const auto status = StatusBehind(path);
+        return status && S_ISREG(status->st_mode) && status->st_size <= kLargestSound;
+    } catch (const FileFault&) {
+        return false;
+    }
 }
 
 Bytes BytesOfSamples(const std::vector<float>& samples, std::size_t count) {
@@ -37,9 +53,19 @@ void SoundFile::SetMode(int mode) {
 
 int SoundFile::Open(const std::string& path) {
     Close();
+    if (!IsSoundFile(path)) {
+        return kNoSound;
+    }
     path_ = path;
     file_.reset(::sf_open(path.c_str(), SFM_READ, &info_));
-    return file_ == nullptr ? std::max(::sf_error(nullptr), 1) : 0;
+    if (file_ == nullptr) {
+        return std::max(::sf_error(nullptr), kNoSound);
+    }
+    if (!IsPlayable(info_.samplerate, Format())) {
+        Close();
+        return kNoSound;
+    }
+    return 0;
 }
 
 void SoundFile::Close() {

@@ -10,7 +10,8 @@
 namespace horavex {
 
 /// Reads what libsndfile reads. The content tells what a file is; only a file without any header
-/// (VOX, raw, GSM) is known by its ending.
+/// (VOX, raw, GSM) is known by its ending. What is no regular file, larger than a sound can be or
+/// of a rate or a count of channels that no server plays is refused.
 class SoundFile : public AudioFile {
 public:
     void SetMode(int mode) override;

@@ -2,11 +2,14 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <limits>
 
+#include "platform/files.h"
 #include "sound/sound_files.h"
 #include "support/temporary_folder.h"
 
@@ -127,6 +130,37 @@ TEST_F(SoundFileTest, WhatIsNoSoundDoesNotOpen) {
         EXPECT_THAT(file.Read(100), IsEmpty());
         EXPECT_EQ(file.Seek(10), 0);
     }
+}
+
+TEST_F(SoundFileTest, PipeFolderAndDeviceDoNotOpenAndAreNoWait) {
+    ASSERT_EQ(::mkfifo(Path("pipe.wav").c_str(), 0600), 0);
+    std::filesystem::create_symlink("pipe.wav", Path("link.wav"));
+    EXPECT_NE(file.Open(Path("pipe.wav")), 0);
+    EXPECT_NE(file.Open(Path("link.wav")), 0);
+    EXPECT_NE(file.Open(folder.Path()), 0);
+    EXPECT_NE(file.Open("/dev/null"), 0);
+}
+
+TEST_F(SoundFileTest, FileLargerThanAnySoundDoesNotOpen) {
+    WriteSound(Path("a.wav"), SF_FORMAT_WAV | SF_FORMAT_PCM_16, std::vector<float>(10));
+    std::filesystem::resize_file(Path("a.wav"), std::uintmax_t{kLargestSound} + 1);  // of holes
+    EXPECT_NE(file.Open(Path("a.wav")), 0);
+    std::filesystem::resize_file(Path("a.wav"), kLargestSound);
+    EXPECT_EQ(file.Open(Path("a.wav")), 0);
+}
+
+TEST_F(SoundFileTest, SoundThatNoServerPlaysDoesNotOpen) {
+    constexpr int kFormat = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
+    WriteSound(Path("fast.wav"), kFormat, std::vector<float>(10), 400'000);
+    WriteSound(Path("wide.wav"), kFormat, std::vector<float>(330), 8000, 33);
+    WriteSound(Path("huge.wav"), kFormat, std::vector<float>(2048), 2'000'000'000, 1024);
+    for (const char* name : {"fast.wav", "wide.wav", "huge.wav"}) {
+        EXPECT_NE(file.Open(Path(name)), 0) << name;
+        EXPECT_FALSE(file.HasAudio()) << name;
+        EXPECT_EQ(file.SampleRate(), 0) << name;
+    }
+    WriteSound(Path("most.wav"), kFormat, std::vector<float>(320), 384'000, 32);
+    EXPECT_EQ(file.Open(Path("most.wav")), 0);
 }
 
 TEST_F(SoundFileTest, FileWithoutASampleHasNoAudio) {
