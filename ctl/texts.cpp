@@ -5,6 +5,7 @@
 #include "lang/language_pack.h"
 #include "store/language_setting.h"
 #include "store/text_table.h"
+#include "update/web_server.h"
 
 namespace horavex {
 
@@ -28,7 +29,8 @@ void PrintText(const Session& session, const std::string& text) {
 
 void PrintLangString(const Session& session, const LangOptions& options) {
     currentLanguage = options.language ? *options.language : ReadStoredLanguage();
-    PrintText(session, GetLangString(options.section, options.key, options.defaultText));
+    PrintText(session,
+              WithWebAddress(GetLangString(options.section, options.key, options.defaultText)));
 }
 
 void AddLangCommand(CLI::App& app, Session& session) {

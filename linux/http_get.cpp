@@ -3,12 +3,17 @@
 #include <curl/curl.h>
 
 #include <memory>
+#include <string_view>
+
+#include "base/text.h"
 
 namespace horavex {
 
 namespace {
 
 constexpr const char* kProtocols = "http,https";
+constexpr std::string_view kProtected = "https://";
+
 constexpr long kMostRedirections = 5;
 
 struct EasyCleanup {
@@ -40,7 +45,7 @@ bool Run(CURL* transfer, const std::string& address, long milliseconds, Body& bo
     curl_easy_setopt(transfer, CURLOPT_URL, address.c_str());
     curl_easy_setopt(transfer, CURLOPT_USERAGENT, "Horavex");
     curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, kProtocols);
-    curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, kProtocols);
+    curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, RedirectionsOf(address));
     curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
     curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMostRedirections);
     curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, milliseconds);
@@ -50,6 +55,11 @@ bool Run(CURL* transfer, const std::string& address, long milliseconds, Body& bo
 }
 
 }  // namespace
+
+const char* RedirectionsOf(const std::string& address) {
+    const std::string_view scheme = std::string_view(address).substr(0, kProtected.size());
+    return EqualsIgnoringCase(scheme, kProtected) ? "https" : kProtocols;
+}
 
 Bytes HttpGet(const std::string& address, const FetchLimits& limits) {
     const Transfer transfer = NewTransfer();

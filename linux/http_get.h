@@ -9,9 +9,15 @@ namespace horavex {
 
 /// Where a fetch gives up.
 struct FetchLimits {
-    long milliseconds = 15'000;     // in all: name, connection, redirections and body
+    /// In all: name, connection, redirections and body. A prayer's ten seconds outlast it, so that
+    /// none passes by under a fetch.
+    long milliseconds = 8'000;
     std::size_t bytes = 64 * 1024;  // of the body
 };
+
+/// The protocols that an address may be redirected to, with commas between: what began protected
+/// stays so.
+const char* RedirectionsOf(const std::string& address);
 
 /// Network::Get with limits of the caller's.
 Bytes HttpGet(const std::string& address, const FetchLimits& limits);

@@ -3,6 +3,7 @@
 #include <net/if_arp.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -31,6 +32,12 @@ struct Routes {
     }
 };
 
+// A route may also be there to say that nothing is to go that way: "unreachable" and its like.
+bool Leads(const std::string& flags) {
+    constexpr unsigned long kReject = 0x0200;
+    return (std::strtoul(flags.c_str(), nullptr, 16) & kReject) == 0;
+}
+
 // A line of the kernel's table: interface, destination, gateway, flags, three counts and the mask,
 // the addresses in hexadecimal digits.
 void ReadRoutes(const std::string& path, Routes& routes) {
@@ -41,22 +48,23 @@ void ReadRoutes(const std::string& path, Routes& routes) {
         std::istringstream words(line);
         std::string interface, destination, gateway, flags, count, mask;
         words >> interface >> destination >> gateway >> flags >> count >> count >> count >> mask;
-        routes.Add(interface, destination == "00000000" && mask == "00000000");
+        if (Leads(flags)) {
+            routes.Add(interface, destination == "00000000" && mask == "00000000");
+        }
     }
 }
 
-// Of the newer protocol: destination and its length come first, the interface last. Each interface
-// has routes of its own to its neighbours, which connect nothing.
+// Of the newer protocol: destination and its length come first, the flags and the interface last.
+// Each interface has routes of its own to its neighbours, which connect nothing.
 void ReadRoutes6(const std::string& path, Routes& routes) {
     const std::string anywhere(32, '0');
     std::ifstream in(path);
     for (std::string line; std::getline(in, line);) {
         std::istringstream words(line);
-        std::string destination, length, interface;
-        words >> destination >> length;
-        while (words >> interface) {
-        }
-        if (destination == anywhere && length == "00") {
+        std::string destination, length, source, gateway, count, flags, interface;
+        words >> destination >> length >> source >> source >> gateway >> count >> count >> count >>
+            flags >> interface;
+        if (destination == anywhere && length == "00" && Leads(flags)) {
             routes.Add(interface, true);
         }
     }

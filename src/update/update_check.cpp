@@ -23,6 +23,8 @@ namespace {
 const ProgramStateReset reset([] { updateFilePath.clear(); });
 
 constexpr const char* kRemotePath = "/update/update.txt";
+constexpr const char* kDownload =
+    "Please download the latest version of Horavex Prayer Time Software from {address}";
 constexpr int kBarFull = 10;
 
 void NameUpdateFile() {
@@ -91,11 +93,6 @@ std::string PublishedVersion() {
     return last;
 }
 
-std::string DownloadSentence() {
-    return "Please download the latest version of Horavex Prayer Time Software from " +
-           WebServer() + "/";
-}
-
 void TellAnswer(const std::string& published) {
     if (published.empty()) {
         Tell(GetLangString("msg", "21", "Please check your internet connection and try again."));
@@ -103,13 +100,13 @@ void TellAnswer(const std::string& published) {
         Tell(GetLangString("msg", "22", "No software update available at this time."));
     } else {
         Tell(GetLangString("msg", "19", "Update Available.") + Crlf +
-             GetLangString("msg", "20", DownloadSentence()));
+             WithWebAddress(GetLangString("msg", "20", kDownload)));
     }
 }
 
 void TellDifference(const std::string& published) {
     if (!published.empty() && published != RunningVersionText()) {
-        Tell("Update Available." + Crlf + DownloadSentence());
+        Tell("Update Available." + Crlf + WithWebAddress(kDownload));
     }
 }
 

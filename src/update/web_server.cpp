@@ -1,15 +1,23 @@
 #include "update/web_server.h"
 
+#include "base/text.h"
 #include "store/register.h"
 
 namespace horavex {
 
 namespace {
 
+constexpr std::string_view kMark = "{address}";
+
+bool IsWebAddress(const std::string& address) {
+    const std::string small = AsciiLower(address);
+    return small.starts_with("http://") || small.starts_with("https://");
+}
+
 std::string Configured(const char* name, const std::string& otherwise) {
     std::string address;
     CRegister().REGGetSetting(kLocalMachine, kSettingsKey, name, otherwise, address);
-    return address;
+    return IsWebAddress(address) ? address : otherwise;
 }
 
 }  // namespace
@@ -20,6 +28,13 @@ std::string WebServer() {
 
 std::string HomePage() {
     return Configured("Home Page", WebServer() + "/");
+}
+
+std::string WithWebAddress(std::string text) {
+    if (const std::size_t at = text.find(kMark); at != std::string::npos) {
+        text.replace(at, kMark.size(), WebServer() + "/");
+    }
+    return text;
 }
 
 }  // namespace horavex

@@ -4,11 +4,17 @@
 
 namespace horavex {
 
+// Both addresses are settings, and a setting that is no address of the web (http or https) counts
+// as absent: nothing else is ever fetched or opened in their place.
+
 /// The root page of the vendor's web server, without a slash at its end. Whoever packages the
 /// program sets it as the machine-wide setting "Web Server".
 std::string WebServer();
 
 /// The vendor's home page: the setting "Home Page", or else the root page of the web server.
 std::string HomePage();
+
+/// A text of a pack with the root page of the web server in the place of its mark "{address}".
+std::string WithWebAddress(std::string text);
 
 }  // namespace horavex

@@ -96,6 +96,14 @@ TEST_F(ShippedPacks, AreUtf8WithoutAByteOrderMarkOrCarriageReturns) {
     }
 }
 
+TEST_F(ShippedPacks, LeaveTheAddressOfTheServerToTheSettings) {
+    for (const char* language : kLanguages) {
+        EXPECT_THAT(Text(language, "msg", "18"), HasSubstr("{address} ")) << language;
+        EXPECT_THAT(Text(language, "msg", "20"), HasSubstr("{address}")) << language;
+        EXPECT_THAT(Source(language), Not(HasSubstr("://"))) << language;
+    }
+}
+
 TEST_F(ShippedPacks, HaveEachKeyOnce) {
     for (const char* language : kLanguages) {
         std::set<std::string> seen;
@@ -226,7 +234,7 @@ TEST_F(ShippedPacks, SpeakTheirOwnLanguage) {
 TEST_F(ShippedPacks, NumberNothingThatIsLeftFree) {
     for (const char* language : kLanguages) {
         EXPECT_EQ(Text(language, "msg", "8"), "") << language;
-        EXPECT_TRUE(Text(language, "msg", "18").ends_with("/ ")) << language;
+        EXPECT_TRUE(Text(language, "msg", "18").ends_with(" ")) << language;
     }
 }
 

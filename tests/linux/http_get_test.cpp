@@ -27,8 +27,8 @@ protected:
     LoopbackServer server;
 };
 
-TEST(FetchLimitsTest, AreFifteenSecondsAnd64KiB) {
-    EXPECT_EQ(FetchLimits().milliseconds, 15'000);
+TEST(FetchLimitsTest, AreLessThanAPrayersTenSecondsAnd64KiB) {
+    EXPECT_EQ(FetchLimits().milliseconds, 8'000);
     EXPECT_EQ(FetchLimits().bytes, 65'536U);
 }
 
@@ -111,6 +111,15 @@ TEST_F(HttpGetTest, RedirectionWithinTheWebIsFollowed) {
     server.Serve("/new", "4.1.1");
     EXPECT_EQ(Get("/old"), "4.1.1");
     EXPECT_THAT(server.Requests(), ElementsAre("/old", "/new"));
+}
+
+// A server that speaks without protection cannot redirect what has to be protected; the rule is
+// looked at alone.
+TEST(RedirectionsTest, LeadFromHttpsToHttpsAlone) {
+    EXPECT_STREQ(RedirectionsOf("https://prayer.example/update.txt"), "https");
+    EXPECT_STREQ(RedirectionsOf("HTTPS://prayer.example"), "https");
+    EXPECT_STREQ(RedirectionsOf("http://prayer.example"), "http,https");
+    EXPECT_STREQ(RedirectionsOf("prayer.example/https://"), "http,https");
 }
 
 TEST_F(HttpGetTest, CircleOfRedirectionsIsEmpty) {

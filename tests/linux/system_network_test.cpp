@@ -93,6 +93,22 @@ TEST_F(SystemNetworkTest, NewerProtocolAloneConnectsToo) {
     EXPECT_EQ(network.Connection().flags, kLanConnection | kConnectionConfigured);
 }
 
+TEST_F(SystemNetworkTest, UnreachableDefaultRouteConnectsNothing) {
+    SetRoutes("*\t00000000\t00000000\t0200\t0\t0\t0\t00000000\t0\t0\t0\n");
+    Write("proc/net/ipv6_route", std::string(kNoAddress) + " 00 " + kNoAddress + " 00 " +
+                                     kNoAddress +
+                                     " ffffffff 00000001 00000000 00200200     eth0\n");
+    EXPECT_FALSE(network.Connection().isConnected);
+    EXPECT_EQ(network.Connection().flags, kConnectionOffline);
+}
+
+TEST_F(SystemNetworkTest, UnreachableRouteHidesNoWayOut) {
+    SetRoutes("*\t00000000\t00000000\t0200\t0\t0\t999\t00000000\t0\t0\t0\n" +
+              std::string(kDefaultOverEthernet));
+    EXPECT_TRUE(network.Connection().isConnected);
+    EXPECT_EQ(network.Connection().flags, kLanConnection | kConnectionConfigured);
+}
+
 TEST_F(SystemNetworkTest, LoopbackConnectsNothing) {
     Write("proc/net/ipv6_route", std::string(kNoAddress) + " 00 " + kNoAddress + " 00 " +
                                      kNoAddress +

@@ -1,6 +1,7 @@
 #include "update/open_address.h"
 
 #include "support/test_platform.h"
+#include "update/web_server.h"
 
 namespace horavex {
 namespace {
@@ -37,6 +38,28 @@ TEST_F(OpenAddressTest, HomePageIsTheServersRootOrASettingOfItsOwn) {
     AboutUpdateButton_Click();
     EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenAddress https://prayer.example/",
                                                     "OpenAddress https://home.example/horavex"));
+}
+
+TEST_F(OpenAddressTest, SettingThatIsNoAddressOfTheWebCountsAsAbsent) {
+    platform.network.connection = {true, kLanConnection};
+    for (const char* address : {"file:///home/me/run.desktop", "mailto:me@example.org", "/bin/sh",
+                                "ftp://home.example/", "https:home.example", ""}) {
+        Configure("Home Page", address);
+        AboutUpdateButton_Click();
+        EXPECT_EQ(platform.desktop.calls.back(), "OpenAddress https://horavex.invalid/") << address;
+    }
+    Configure("Web Server", "file:///srv");
+    AboutUpdateButton_Click();
+    EXPECT_EQ(platform.desktop.calls.back(), "OpenAddress https://horavex.invalid/");
+    Configure("Home Page", "HTTP://home.example");
+    AboutUpdateButton_Click();
+    EXPECT_EQ(platform.desktop.calls.back(), "OpenAddress HTTP://home.example");
+}
+
+TEST_F(OpenAddressTest, MessagesOfPacksTellTheAddressThatIsSet) {
+    Configure("Web Server", "https://prayer.example");
+    EXPECT_EQ(WithWebAddress("Get it from {address}."), "Get it from https://prayer.example/.");
+    EXPECT_EQ(WithWebAddress("Get it."), "Get it.");
 }
 
 TEST_F(OpenAddressTest, ButtonTellsTheSummaryOffline) {

@@ -124,6 +124,52 @@ TEST_F(UpdateCheckTest, FileIsAskedForFromTheServerThatIsSet) {
     EXPECT_THAT(platform.network.requests, ElementsAre("https://prayer.example/update/update.txt"));
 }
 
+TEST_F(UpdateCheckTest, MessageOfThePackTellsTheServerThatIsSet) {
+    platform.registry.CreateKey("Software\\Horavex\\Settings");
+    platform.registry.SetValue("Software\\Horavex\\Settings", "Web Server",
+                               "https://prayer.example");
+    currentLanguage = "Test";
+    platform.files.WriteWhole("/program/lang/Test.ini",
+                              BytesOf("[msg]\n19=new\n20=at {address} now\n"));
+    ExpectAnswer("5", "new\r\nat https://prayer.example/ now");
+}
+
+TEST_F(UpdateCheckTest, AnswerIsToldBeforeLabelAndBarGo) {
+    class : public RecordingDialogs {
+        void ShowMessage(const std::string& text, const std::string& title,
+                         MessageIcon icon) override {
+            EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible()) << text;
+            EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible()) << text;
+            RecordingDialogs::ShowMessage(text, title, icon);
+        }
+    } dialogs;
+    const Platform& own = Ports();
+    const Platform ports{own.clock,   own.eventLoop, own.files,     own.programFolder,
+                         own.formats, dialogs,       own.registry,  own.instanceGuard,
+                         own.face,    own.windows,   own.tray,      own.shell,
+                         own.network, own.athanFace, own.audioFile, own.audioPlayer};
+    InstallPlatform(&ports);
+    Publish("5");
+    CheckForUpdate();
+    CheckForUpdateSilently();
+    platform.network.connection = {false, kConnectionOffline};
+    CheckForUpdate();
+    InstallPlatform(&own);
+    EXPECT_EQ(dialogs.messages.size(), 3U);
+}
+
+TEST_F(UpdateCheckTest, SilentCheckShowsItsProgressToo) {
+    platform.network.answer = [] {
+        EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
+        EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
+        return "4.1.1";
+    };
+    CheckForUpdateSilently();
+    EXPECT_EQ(platform.network.requests.size(), 1U);
+    EXPECT_FALSE(HoravexMainForm->lblInternetConnect.Visible());
+    EXPECT_FALSE(HoravexMainForm->ProgressBar1.Visible());
+}
+
 TEST_F(UpdateCheckTest, MessagesSpeakTheLanguageOfThePack) {
     currentLanguage = "Test";
     platform.files.WriteWhole("/program/lang/Test.ini",
