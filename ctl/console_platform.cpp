@@ -5,6 +5,7 @@
 #include <iostream>
 #include <thread>
 
+#include "ctl/plain_text.h"
 #include "engine/undefined_angle.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
@@ -49,9 +50,7 @@ void ConsoleEventLoop::EndProcess() {
 }
 
 void ConsoleDialogs::ShowMessage(const std::string& text, const std::string&, MessageIcon) {
-    std::string lines = text;
-    std::erase(lines, '\r');
-    std::cerr << lines << '\n';
+    std::cerr << WithoutControls(text) << '\n';
 }
 
 void ConsoleHost::ComputeQibla() {

@@ -2,9 +2,9 @@
 
 #include <functional>
 
+#include "ctl/console_files.h"
 #include "engine/day_driver.h"
 #include "linux/instance_lock.h"
-#include "linux/posix_files.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
 #include "platform/absent_desktop.h"
@@ -70,7 +70,7 @@ public:
     ConsolePlatform& operator=(const ConsolePlatform&) = delete;
 
     ConsoleClock clock;
-    PosixFiles files;
+    ConsoleFiles files;
 
 private:
     ProgramFolder folder_;

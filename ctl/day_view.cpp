@@ -4,6 +4,7 @@
 #include <iomanip>
 #include <sstream>
 
+#include "ctl/plain_text.h"
 #include "engine/current_year.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
@@ -46,14 +47,15 @@ int SecondsLeft(const DayView& view) {
 
 std::string DayText(const DayView& view, bool highlight) {
     const RegionalFormats& formats = Ports().formats;
-    std::string text = CityText + "\n" + formats.LongDate(view.now) + "   " +
-                       formats.LongTime(view.now) + "\n" + view.hijri.day + " " +
-                       view.hijri.monthName + " " + view.hijri.year + "\n\n";
+    std::string text = WithoutControls(CityText + "\n" + formats.LongDate(view.now) + "   " +
+                                       formats.LongTime(view.now) + "\n" + view.hijri.day + " " +
+                                       view.hijri.monthName + " " + view.hijri.year + "\n\n");
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         text += PrayerLine(view, prayer, highlight);
     }
-    return text + "\nNext: " + view.next.sentence +
-           "\nRemaining: " + RemainingText(view.next.secondsFromNow) + "\n" + QiblaText + "\n";
+    return text + WithoutControls("\nNext: " + view.next.sentence +
+                                  "\nRemaining: " + RemainingText(view.next.secondsFromNow) + "\n" +
+                                  QiblaText + "\n");
 }
 
 }  // namespace horavex

@@ -38,11 +38,16 @@ void Write(Session& session, const ExportOptions& options) {
     WriteTimetable(*TimetableFormatOf(options.format), options.output,
                    options.paper == "letter" ? PaperSize::kLetter : PaperSize::kA4);
     const int days = 365 + LeapFlag;
-    session.Print({{"file", options.output}, {"days", days}},
-                  options.output + ": " + std::to_string(days) + " days\n");
+    if (options.output != kStandardOutput) {
+        session.Print({{"file", options.output}, {"days", days}},
+                      options.output + ": " + std::to_string(days) + " days\n");
+    }
 }
 
 void RunExport(Session& session, const ExportOptions& options) {
+    if (session.json && options.output == kStandardOutput) {
+        RefuseUsage("--json and the timetable cannot both go to the standard output");
+    }
     currentLanguage = options.language.value_or(ReadStoredLanguage());
     ApplyPlace(options.place);
     Accept();
@@ -68,7 +73,10 @@ void AddExportCommand(CLI::App& app, Session& session) {
     command->add_option("--format", options->format, "text, csv, json, ics, html or pdf")
         ->check(CLI::IsMember({"text", "csv", "json", "ics", "html", "pdf"}))
         ->required();
-    command->add_option("--output", options->output, "The file to write")->required();
+    command
+        ->add_option("--output", options->output,
+                     "The file or pipe to write; - for standard output")
+        ->required();
     command->add_option("--paper", options->paper, "a4 or letter, of a pdf")
         ->check(CLI::IsMember({"a4", "letter"}));
     command->add_option("--language", options->language, "A language pack, as French");

@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <iostream>
 
-#include "base/fault.h"
+#include "base/memory_fault.h"
 #include "ctl/command.h"
+#include "ctl/plain_text.h"
 
 namespace horavex {
 
@@ -20,7 +21,8 @@ std::string Dump(const Json& object) {
 }  // namespace
 
 void Session::Print(const Json& object, const std::string& text) const {
-    std::cout << (json ? Dump(object) + "\n" : text) << std::flush;
+    std::cout << (json ? WithEscapedControls(Dump(object)) + "\n" : WithoutControls(text))
+              << std::flush;
 }
 
 CLI::App* AddCommand(CLI::App& app, Session& session, const char* name, const char* description) {
@@ -39,11 +41,10 @@ namespace {
 
 using namespace horavex;
 
-/// A reason may repeat words of the user, which hold any character.
+/// A reason may repeat words of the user, which hold any character; it is one line all the same.
 int Fail(std::string reason, int status) {
-    std::replace_if(
-        reason.begin(), reason.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');
-    std::cerr << "horavexctl: " << reason << '\n';
+    std::replace(reason.begin(), reason.end(), '\n', ' ');
+    std::cerr << "horavexctl: " << WithoutControls(reason) << '\n';
     return status;
 }
 
@@ -66,9 +67,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddValidateCommand(app, session);
 }
 
-}  // namespace
-
-int main(int argumentCount, char** arguments) {
+int Run(int argumentCount, char** arguments) {
     CLI::App app("Prayer times, qibla and calendars at the command line", "horavexctl");
     app.set_version_flag("--version", HORAVEX_VERSION);
     // None at all is refused below, so that an unknown one is named.
@@ -77,7 +76,7 @@ int main(int argumentCount, char** arguments) {
         ConsolePlatform platform;
         Session session{platform};
         AddCommands(app, session);
-        app.parse(argumentCount, arguments);
+        WithMemoryFaults([&] { app.parse(argumentCount, arguments); });
         if (app.get_subcommands().empty()) {
             RefuseUsage("a subcommand is required; --help lists them");
         }
@@ -87,4 +86,15 @@ int main(int argumentCount, char** arguments) {
     } catch (const std::exception& fault) {
         return Fail(fault.what(), kGaveUp);
     }
+}
+
+}  // namespace
+
+// Output that went nowhere, onto a full disk for one, is a failure whatever was worked out.
+int main(int argumentCount, char** arguments) {
+    const int status = Run(argumentCount, arguments);
+    if (!std::cout.flush()) {
+        return Fail("the standard output cannot be written", kGaveUp);
+    }
+    return status;
 }

@@ -59,7 +59,7 @@ std::string InPlace(const std::string& frame) {
 void WatchInTerminal(const std::function<std::string()>& frame) {
     StopOnSignals();
     const SecondScreen screen;
-    while (stopped == 0) {
+    while (stopped == 0 && std::cout) {
         std::cout << InPlace(frame()) << std::flush;
         RestToWholeSecond();
     }

@@ -1,3 +1,8 @@
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+#include <filesystem>
+
 #include "base/text.h"
 #include "ctl/ctl_json.h"
 #include "support/build_folder.h"
@@ -6,6 +11,7 @@
 namespace horavex {
 namespace {
 
+namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
@@ -32,6 +38,11 @@ protected:
 
     std::string Exported(const std::string& format, const std::string& more = "") const {
         return ContentOf(Export(format, more));
+    }
+
+    ProgramRun To(const std::string& format, const std::string& output) const {
+        return ctl.Run("export " + std::string(kCairo) + " --format " + format,
+                       {"--output", output});
     }
 
     Json Year() const { return JsonOf(ctl, "year " + std::string(kCairo))["times"]; }
@@ -163,11 +174,65 @@ TEST_F(CtlExport, CalculationThatGivesUpWritesNoFile) {
     EXPECT_EQ(ContentOf(file), "");
 }
 
-TEST_F(CtlExport, FileThatCannotBeWrittenIsAFailureInOneLine) {
-    const ProgramRun run = ctl.Run("export " + std::string(kCairo) + " --format text",
-                                   {"--output", ctl / "missing/year.txt"});
-    EXPECT_EQ(run.status, 1);
-    EXPECT_THAT(run.err, HasSubstr("missing/year.txt"));
+TEST_F(CtlExport, MissingFolderIsRefusedAndNotMade) {
+    for (const char* format : {"text", "csv", "html"}) {
+        const ProgramRun run = To(format, ctl / "missing/year.txt");
+        EXPECT_EQ(run.status, 1) << format;
+        EXPECT_EQ(run.err,
+                  "horavexctl: " + (ctl / "missing/year.txt") + ": No such file or directory\n");
+        EXPECT_FALSE(fs::exists(ctl / "missing"));
+    }
+}
+
+TEST_F(CtlExport, DashIsTheStandardOutputAndNothingElseGoesThere) {
+    for (const char* format : {"text", "csv", "html"}) {
+        const ProgramRun run = To(format, "-");
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.out, Exported(format)) << format;
+        EXPECT_EQ(run.err, "");
+    }
+    const ProgramRun json =
+        ctl.Run("export " + std::string(kCairo) + " --format csv --json", {"--output", "-"});
+    EXPECT_EQ(json.status, 2);
+    EXPECT_EQ(json.out, "");
+}
+
+TEST_F(CtlExport, PipeThatIsReadGetsTheTimetable) {
+    // A link like /dev/stdout, which a program that goes wrong might replace.
+    fs::create_symlink("/proc/self/fd/1", ctl / "link");
+    const std::string command = BuildPath("bin/horavexctl") + " export " + kCairo +
+                                " --format csv --output " + (ctl / "link") + " | cat";
+    const ProgramRun run = RunCommand({"/bin/sh", "-c", command}, ctl.variables);
+    EXPECT_EQ(run.out, Exported("csv") + (ctl / "link") + ": 365 days\n");
+    EXPECT_TRUE(fs::is_symlink(ctl / "link"));
+}
+
+TEST_F(CtlExport, WhatIsNoFileIsRefusedAndStays) {
+    ASSERT_EQ(::mkfifo((ctl / "pipe").c_str(), 0600), 0);
+    fs::create_symlink("nothing", ctl / "link");
+    fs::create_directory(ctl / "folder");
+    for (const char* name : {"pipe", "link", "folder"}) {
+        for (const char* format : {"text", "csv"}) {
+            const ProgramRun run = To(format, ctl / name);
+            EXPECT_EQ(run.status, 1) << name;
+            EXPECT_THAT(run.err, StartsWith("horavexctl: " + (ctl / name) + ": "));
+        }
+    }
+    EXPECT_TRUE(fs::is_fifo(ctl / "pipe"));
+    EXPECT_TRUE(fs::is_symlink(ctl / "link"));
+    EXPECT_TRUE(fs::is_empty(ctl / "folder"));
+}
+
+TEST_F(CtlExport, DeviceIsRefusedAndStays) {
+    if (::mknod((ctl / "device").c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0) {
+        GTEST_SKIP() << "only root may make a device";
+    }
+    for (const char* format : {"text", "csv"}) {
+        const ProgramRun run = To(format, ctl / "device");
+        EXPECT_EQ(run.status, 1);
+        EXPECT_THAT(run.err, HasSubstr("is no regular file"));
+    }
+    EXPECT_TRUE(fs::is_character_file(ctl / "device"));
 }
 
 }  // namespace

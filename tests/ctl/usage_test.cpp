@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "ctl/ctl_json.h"
+#include "support/build_folder.h"
 
 namespace horavex {
 namespace {
@@ -236,6 +237,26 @@ TEST(CtlUsage, CallsWithoutDataNeedNoFolder) {
     EXPECT_EQ(ctl.Run("zones --longitude 30").status, 0);
     EXPECT_EQ(ctl.Run("eclipses --year 2026 --zone 2").status, 0);
     EXPECT_EQ(ctl.Run("distance --from 1:0:0N,1:0:0E --to mecca --unit km").status, 0);
+}
+
+TEST(CtlOutput, OutputThatCannotBeWrittenIsAFailure) {
+    const Ctl ctl;
+    for (const char* line : {"zones --longitude 30", "zones --longitude 30 --json", "--help"}) {
+        const std::string command = BuildPath("bin/horavexctl") + " " + line + " > /dev/full";
+        const ProgramRun run = RunCommand({"/bin/sh", "-c", command}, ctl.variables);
+        EXPECT_EQ(run.status, 1) << line;
+        EXPECT_EQ(run.err, "horavexctl: the standard output cannot be written\n");
+    }
+}
+
+TEST(CtlOutput, ControlCharactersOfTextsReachNoTerminal) {
+    const std::string text = "a\x1b[2Jb\r\x07\x7f\xC2\x9B\tc\n\xC2\xA0\xD9\x81";
+    const std::vector<std::string> words = {"--section", "x", "--key", "y", "--default", text};
+    EXPECT_EQ(Ctl().Run("lang", words).out, "a[2Jb\tc\n\xC2\xA0\xD9\x81\n");
+    const std::string json = Ctl().Run("lang --json", words).out;
+    EXPECT_EQ(std::count_if(json.begin(), json.end(), [](char c) { return c >= 0 && c < ' '; }), 1);
+    EXPECT_THAT(json, testing::HasSubstr("\\u007f\\u009b"));
+    EXPECT_EQ(Json::parse(json)["text"], text);
 }
 
 }  // namespace
