@@ -225,7 +225,8 @@ TEST_F(CtlExport, WhatIsNoFileIsRefusedAndStays) {
 
 TEST_F(CtlExport, DeviceIsRefusedAndStays) {
     if (::mknod((ctl / "device").c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0) {
-        GTEST_SKIP() << "only root may make a device";
+        // Only root makes devices; anybody else can do no harm to one of the system.
+        fs::create_symlink("/dev/null", ctl / "device");
     }
     for (const char* format : {"text", "csv"}) {
         const ProgramRun run = To(format, ctl / "device");

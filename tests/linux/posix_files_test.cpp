@@ -81,7 +81,8 @@ TEST_F(PosixFilesTest, FileLargerThanItsKindIsAFaultBeforeAByteIsRead) {
 
 TEST_F(PosixFilesTest, LinkToADeviceIsAFaultThatLeavesTheDevice) {
     if (::mknod((folder / "device").c_str(), S_IFCHR | 0600, makedev(1, 3)) != 0) {
-        GTEST_SKIP() << "only root may make a device";
+        // Only root makes devices; anybody else can do no harm to one of the system.
+        fs::create_symlink("/dev/null", folder / "device");
     }
     fs::create_symlink("device", folder / "link");
     for (const char* name : {"device", "link"}) {
