@@ -77,6 +77,8 @@ ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLate
             [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
     widget.setEditable(control.Typed());
     if (control.Typed()) {
+        widget.setInsertPolicy(QComboBox::NoInsert);  // the list is the form's
+        widget.setCompleter(nullptr);
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
             Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
         });
@@ -86,10 +88,23 @@ ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLate
 void ComboBoxBinder::Show() {
     ShowItems();
     ShowRefusals();
+    if (control.Typed()) {
+        ShowTyped(*widget.lineEdit());
+    } else {
+        widget.setCurrentIndex(control.ListIndex());
+    }
+}
+
+// The toolkit writes the item of an index anew, with the cursor at its end.
+void ComboBoxBinder::ShowTyped(QLineEdit& line) {
+    const int cursor = line.cursorPosition();
     widget.setCurrentIndex(control.ListIndex());
     const QString text = QString::fromStdString(control.Text());
-    if (control.Typed() && widget.currentText() != text) {
-        widget.setEditText(text);
+    if (line.text() != text) {
+        line.setText(text);
+    }
+    if (line.cursorPosition() != cursor) {
+        line.setCursorPosition(cursor);
     }
 }
 

@@ -46,6 +46,7 @@ private:
     int clearings_ = -1;  // of the control, when its items were last shown
 };
 
+/// What is typed goes to the form alone: it adds nothing to the list.
 class ComboBoxBinder : public BinderOf<ComboBox, QComboBox> {
 public:
     ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
@@ -56,6 +57,7 @@ protected:
 private:
     void ShowItems();
     void ShowRefusals();
+    void ShowTyped(QLineEdit& line);
 };
 
 /// The tabs alone; what lies on a page is shown and hidden by the form.

@@ -171,6 +171,35 @@ TEST_F(BinderTest, ComboBoxGoesBothWays) {
     EXPECT_EQ(calls, (std::vector<std::string>{"click", "click", "change"}));
 }
 
+TEST_F(BinderTest, EnterOnATypedTextOutsideTheListAddsNoItem) {
+    auto& combo = Find<QComboBox>("combo");
+    combo.setFocus();
+    combo.lineEdit()->selectAll();
+    Key(*combo.lineEdit(), Qt::Key_Z, "z");
+    Settle();
+    Key(*combo.lineEdit(), Qt::Key_Return, "\r");
+    EXPECT_EQ(combo.count(), 2);
+    EXPECT_EQ(combo.currentText(), "z");
+    EXPECT_EQ(form.combo.Text(), "z");
+    EXPECT_THAT(platform.dialogs.messages, testing::IsEmpty());
+}
+
+TEST_F(BinderTest, CursorOfAComboBoxStaysWhereTheUserTypes) {
+    form.combo.AddItem("1x");
+    form.combo.SetText("x");
+    Settle();
+    auto& line = *Find<QComboBox>("combo").lineEdit();
+    line.setFocus();
+    line.home(false);
+    for (const char* key : {"1", "2"}) {  // an item of the list first, and then none
+        Key(line, *key, key);
+        Settle();
+    }
+    EXPECT_EQ(line.text(), "12x");
+    EXPECT_EQ(form.combo.Text(), "12x");
+    EXPECT_EQ(line.cursorPosition(), 2);
+}
+
 TEST_F(BinderTest, ListTakesUpWhatWasAddedAndDropsWhatWentAway) {
     Show();
     const auto& list = Find<QListWidget>("list");
