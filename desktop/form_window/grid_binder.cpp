@@ -2,9 +2,11 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QStyle>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/form_window/caption_text.h"
 
@@ -13,6 +15,7 @@ namespace horavex {
 namespace {
 
 constexpr int kWheelNotch = 120;  // eighths of a degree
+constexpr int kRowHeight = 20;    // pixels, unless the texts need more
 
 QStringList TextsOf(const std::vector<std::string>& texts) {
     QStringList shown;
@@ -44,9 +47,10 @@ GridBinder::GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refres
     widget.setShowGrid(false);
     widget.verticalHeader()->hide();
     widget.setWordWrap(false);
-    // All rows fit into the window as long as their texts do.
-    widget.verticalHeader()->setMinimumSectionSize(widget.fontMetrics().height() + 2);
-    widget.verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    const int height = std::max(kRowHeight, widget.fontMetrics().height() + 2);
+    widget.verticalHeader()->setMinimumSectionSize(height);
+    widget.verticalHeader()->setDefaultSectionSize(height);
+    widget.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     widget.viewport()->installEventFilter(this);
 }
 
@@ -57,6 +61,19 @@ void GridBinder::Show() {
         ShowRow(row);
     }
     ShareWidth();
+    if (std::exchange(shown_, control.rows) != control.rows) {
+        GoToCurrentRow();
+    }
+}
+
+/// The first row where none is the present one.
+void GridBinder::GoToCurrentRow() {
+    const auto& rows = control.rows;
+    const auto current =
+        std::find_if(rows.begin(), rows.end(), [](const Grid::Row& row) { return row.current; });
+    const auto row = current == rows.end() ? 0 : static_cast<int>(current - rows.begin());
+    widget.setCurrentCell(row, 0);
+    widget.scrollTo(widget.currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
 /// Equal columns, but for those whose texts need more.
@@ -109,7 +126,7 @@ bool GridBinder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         ShareWidth();
     }
-    if (event->type() == QEvent::Wheel) {
+    if (event->type() == QEvent::Wheel && !Scrolls()) {
         Wheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
         return true;
     }
@@ -121,6 +138,10 @@ bool GridBinder::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return BinderOf::eventFilter(watched, event);
+}
+
+bool GridBinder::Scrolls() const {
+    return widget.verticalScrollBar()->maximum() > 0;
 }
 
 // A touchpad sends many small movements: a page for each notch's worth of them.

@@ -7,7 +7,8 @@
 
 namespace horavex {
 
-/// A table of texts. The wheel and the page keys turn its page instead of scrolling.
+/// A table of texts, at its present row when it comes or turns to another page. The page keys turn
+/// its page, and so does the wheel as long as all rows are on view.
 class GridBinder : public BinderOf<Grid, QTableWidget> {
 public:
     GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
@@ -19,11 +20,14 @@ protected:
 private:
     void ShowHeads();
     void ShowRow(int row);
+    void GoToCurrentRow();
     void ShareWidth();
     int WidthOf(int column) const;
+    bool Scrolls() const;
     void Wheel(int delta);
     void Turn(int step);
 
+    std::vector<Grid::Row> shown_;
     int wheel_ = 0;  // eighths of a degree that no page has been turned for
 };
 

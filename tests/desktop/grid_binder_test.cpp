@@ -33,6 +33,15 @@ protected:
 
     QTableWidget& Table() { return *windows.Find(&form)->findChild<QTableWidget*>("grid"); }
 
+    /// A month with today on its 28th day, in a table that is too low for it.
+    void ShowMonth() {
+        Table().resize(400, 200);
+        form.grid.rows.assign(31, {{"x", "y"}, false, false});
+        form.grid.rows[27].current = true;
+        form.grid.Refresh();
+        QApplication::processEvents();
+    }
+
     void Wheel(int delta) {
         QWidget& target = *Table().viewport();
         const QPointF at(5.0, 5.0);
@@ -49,6 +58,7 @@ protected:
     static void Fill(QWidget& window) {
         auto* table = new QTableWidget(&window);
         table->setObjectName("grid");
+        table->resize(400, 300);
     }
 
     TestPlatform platform;
@@ -82,14 +92,48 @@ TEST_F(GridBinderTest, ColumnsShareTheWidthButForOneThatNeedsMore) {
     EXPECT_LT(Table().columnWidth(0), 300);
 }
 
-TEST_F(GridBinderTest, AllRowsFitIntoTheTableAsLongAsTheirTextsDo) {
-    Table().resize(600, 400);
-    QApplication::processEvents();
-    EXPECT_FALSE(Table().verticalScrollBar()->isVisible());
-    form.grid.rows.resize(31, {{"x", "y"}, false, false});
+TEST_F(GridBinderTest, GoesToThePresentRowOfAPage) {
+    EXPECT_EQ(Table().currentRow(), 2);
+    ShowMonth();
+    EXPECT_EQ(Table().currentRow(), 27);
+    const QRect row = Table().visualItemRect(Table().item(27, 0));
+    EXPECT_TRUE(Table().viewport()->rect().contains(row.center()));
+}
+
+TEST_F(GridBinderTest, StaysAtTheRowThatTheUserWentTo) {
+    Press(Qt::Key_Up);
     form.grid.Refresh();
     QApplication::processEvents();
-    EXPECT_GE(Table().rowHeight(0), Table().fontMetrics().height());
+    EXPECT_EQ(Table().currentRow(), 1);
+}
+
+TEST_F(GridBinderTest, RowsOfAMonthKeepTheirHeightAndScroll) {
+    ShowMonth();
+    EXPECT_EQ(Table().rowHeight(0), 20);
+    EXPECT_GT(Table().verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(GridBinderTest, RowsAreHigherWhereTheTextsAre) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(30);
+    QApplication::setFont(large);
+    GridForm other;
+    other.grid.rows = {{{"1"}, false, false}};
+    other.Show();
+    QApplication::processEvents();
+    const auto& table = *windows.Find(&other)->findChild<QTableWidget*>("grid");
+    EXPECT_GT(table.rowHeight(0), table.fontMetrics().height());
+    other.Unload();
+    QApplication::setFont(usual);
+}
+
+TEST_F(GridBinderTest, WheelScrollsATableThatHasRowsOutOfView) {
+    ShowMonth();
+    const int before = Table().verticalScrollBar()->value();
+    Wheel(120);
+    EXPECT_LT(Table().verticalScrollBar()->value(), before);
+    EXPECT_THAT(steps, testing::IsEmpty());
 }
 
 TEST_F(GridBinderTest, FollowsItsControl) {
