@@ -16,6 +16,7 @@
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
+#include "desktop/form_window/fit_screen.h"
 #include "desktop/form_window/twips.h"
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
@@ -192,7 +193,6 @@ void FormWindow::FollowForm() {
     FollowDrawing();
 }
 
-// A form that names no place comes up over its owner, or where the window manager puts it.
 void FormWindow::FollowPlace() {
     if (const QPoint place = PlaceOf(form_); place != place_) {
         place_ = place;
@@ -242,12 +242,24 @@ void FormWindow::Present() {
         StayUsable();
     } else {
         windowHandle()->setTransientParent(WindowBehind());
-    }
-    if (owner_ != nullptr && owner_->isVisible() && place_.isNull()) {
-        resize(size().expandedTo(minimumSizeHint()));
-        move(owner_->frameGeometry().center() - rect().center());
+        FitScreen();
     }
     show();
+}
+
+// Without a place of its own the window comes up over its owner, or else where the window manager
+// puts it.
+void FormWindow::FitScreen() {
+    const QSize whole = size().expandedTo(WholeSize(*this));
+    const bool overOwner = owner_ != nullptr && owner_->isVisible() && place_.isNull();
+    const QRect wanted(
+        overOwner ? owner_->frameGeometry().center() - QRect({}, whole).center() : place_, whole);
+    const QScreen& screen = overOwner ? *owner_->screen() : *this->screen();
+    const QRect fitting = PutInto(screen.availableGeometry(), wanted, FrameAround(*this));
+    resize(fitting.size());
+    if (overOwner || !place_.isNull()) {
+        move(fitting.topLeft());
+    }
 }
 
 // A window that comes up by itself over a modal one would be shut off without it.
@@ -322,14 +334,13 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         button = ButtonForEnter(*this);
-    } else if (event->key() == Qt::Key_Escape && property(kCancels).toBool()) {
-        close();
-        return;
     } else if (event->key() == Qt::Key_Escape) {
         button = CancelButton(*this);
     }
     if (button != nullptr) {
         button->click();
+    } else if (event->key() == Qt::Key_Escape) {
+        close();
     } else {
         QWidget::keyPressEvent(event);
     }

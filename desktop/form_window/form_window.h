@@ -24,8 +24,10 @@ namespace horavex {
 /// that of the program's face: what lies beyond its edges is masked, on the monitors around it,
 /// too. No modal window shuts it off, whoever opened it.
 ///
+/// A window comes up no larger than the work area with its frame; what a layout scrolls makes room.
+///
 /// Enter presses the button that has the focus, or else the layout's default button; Escape the
-/// one that the layout marks with the property "cancels", or closes a window that is marked so.
+/// one that the layout marks with the property "cancels", or else it closes the window.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -70,6 +72,7 @@ private:
     void FollowFocus();
     void FollowDrawing();
     void Present();
+    void FitScreen();
     QWindow* WindowBehind() const;
     void StayUsable();
 

@@ -37,6 +37,17 @@ void FillAthan(QWidget& window) {
     sign(QStyle::SP_MediaStop, drawn.Picture__3, drawn.Picture__6);
 }
 
+// The pages lie over each other, and each keeps its place while another one is on view, so that
+// the window keeps its size.
+void FillMoonPhases(QWidget& window) {
+    Fill<Ui::Moon_Phases>(window);
+    for (QWidget* widget : window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        QSizePolicy policy = widget->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(policy);
+    }
+}
+
 }  // namespace
 
 Layouts DrawnLayouts() {
@@ -54,7 +65,7 @@ Layouts DrawnLayouts() {
         {"frmTimes", Fill<Ui::frmTimes>},
         {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},
-        {"Moon_Phases", Fill<Ui::Moon_Phases>},
+        {"Moon_Phases", FillMoonPhases},
     };
 }
 

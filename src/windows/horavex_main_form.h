@@ -22,7 +22,8 @@ namespace horavex {
 class SettingsForm : public Form {
 public:
     SettingsForm()
-        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 9600, .height = 8700}) {}
+        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 12900, .height = 9000}) {
+    }
 
     horavex::Frame fraCity{*this, "fraCity", {.caption = "Location"}};
     Label lblCityBanner{fraCity, "lblCityBanner", {.caption = "City"}};
