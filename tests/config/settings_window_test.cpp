@@ -209,6 +209,12 @@ TEST_F(SettingsWindowTest, ZoneBoxThrowsOutWhatIsNoZone) {
     EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
     TypeZone("12.5");  // rounds to the even 12
     EXPECT_EQ(form.txtTimeZone.Text(), "12.5");
+    TypeZone("-12.5");
+    EXPECT_EQ(form.txtTimeZone.Text(), "-12.5");
+    for (const char* zone : {"12.6", "-12.6"}) {  // round to 13
+        TypeZone(zone);
+        EXPECT_EQ(form.txtTimeZone.Text(), "+3.00") << zone;
+    }
     TypeZone("99999999");
     EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
 }

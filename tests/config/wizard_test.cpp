@@ -243,8 +243,12 @@ TEST_F(WizardTest, ZoneBoxThrowsOutWhatIsNoZone) {
     EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
     form.txtTimeZone.UserType("13");
     EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
+    form.txtTimeZone.UserType("12.6");  // rounds to 13
+    EXPECT_EQ(form.txtTimeZone.Text(), "+3.00");
     form.txtTimeZone.UserType("-5.5");
     EXPECT_EQ(form.txtTimeZone.Text(), "-5.5");
+    form.txtTimeZone.UserType("12.5");  // rounds to the even 12
+    EXPECT_EQ(form.txtTimeZone.Text(), "12.5");
 }
 
 TEST_F(WizardTest, ComputerZoneFillsTheSettingsBoxAndIsCommitted) {

@@ -127,6 +127,20 @@ TEST_F(StartTest, WindowsOfTheStartStandInTheMiddleOfTheScreen) {
     EXPECT_EQ(frmMain->Top(), (platform.windows.screen.height - frmMain->Height()) / 2.0);
 }
 
+TEST_F(StartTest, FaceThatWasMovedComesUpAtItsOwnPlaceAtTheNextStart) {
+    StartAgain();
+    const double left = frmMain->Left();
+    const double top = frmMain->Top();
+    frmMain->SetLeft(15.0);
+    frmMain->SetTop(30.0);
+    EXPECT_THROW(frmMain->mnuExit.UserClick(), ProcessEnded);
+    frmMain->Unload(CloseReason::kSessionEnd);
+    HoravexMainForm->Unload(CloseReason::kSessionEnd);
+    Start();
+    EXPECT_EQ(frmMain->Left(), left);
+    EXPECT_EQ(frmMain->Top(), top);
+}
+
 TEST_F(StartTest, WithoutAStoredLanguageItIsEnglish) {
     Start();
     EXPECT_EQ(currentLanguage, "English");
