@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <algorithm>
 
 namespace horavex {
 
@@ -18,15 +19,17 @@ QPainterPath Disc(double x, double y, double radius) {
     return path;
 }
 
-/// Draws itself at any size. The golden rim sets it off from a dark panel, the dark sky from a
-/// light one.
+/// Draws itself at any size, round in the middle of what is not square. The golden rim sets it off
+/// from a dark panel, the dark sky from a light one.
 class EmblemEngine : public QIconEngine {
 public:
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(rect.topLeft());
-        painter->scale(rect.width(), rect.height());  // a square of side 1
+        const int side = std::min(rect.width(), rect.height());
+        painter->translate(QRectF(rect).center());
+        painter->scale(side, side);  // a square of side 1
+        painter->translate(-0.5, -0.5);
         painter->fillPath(Disc(0.5, 0.5, 0.5), kGold);
         painter->fillPath(Disc(0.5, 0.5, 0.45), kSky);
         painter->fillPath(Disc(0.46, 0.5, 0.33) - Disc(0.57, 0.45, 0.27), kGold);
