@@ -6,6 +6,7 @@
 #include "desktop/fault_box.h"
 #include "linux/folders.h"
 #include "linux/left_overs.h"
+#include "shell/close_face.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -44,7 +45,7 @@ DesktopPlatform::DesktopPlatform()
       instanceLock_(InstanceLockPath()),
       formWindows_(AllLayouts()),
       windows_(formWindows_),
-      tray_(frmMain->mnuPopup),
+      tray_(frmMain->mnuPopup, BringHiddenFaceIntoWindowList),
       shell_(files_),
       audioPlayer_(PostToProgramThread) {
     InstallPlatform(&platform_);

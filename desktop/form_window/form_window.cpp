@@ -298,7 +298,7 @@ void FormWindow::BringUp(const QWidget* owner) {
     owner_ = owner;
     Flush();
     raise();
-    if (!placedByProgram_) {
+    if (!placedByProgram_ && form_.State() != WindowState::kMinimized) {
         activateWindow();
     }
 }

@@ -13,7 +13,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kLookEveryMs = 2000;
+constexpr int kLookEveryMs = 2000;  // a panel starts anew within one look
 
 bool HasStatusNotifier() {
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -29,11 +29,11 @@ std::unique_ptr<Reply, decltype(&std::free)> Owned(Reply* reply) {
 // The host of icons owns this selection of the display.
 bool HasXEmbedHost() {
     const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+    xcb_connection_t* display = x11 == nullptr ? nullptr : x11->connection();
+    if (display == nullptr) {  // the platform without a screen knows of displays and has none
         return false;
     }
     constexpr std::string_view kSelection = "_NET_SYSTEM_TRAY_S0";
-    xcb_connection_t* display = x11->connection();
     const auto atom = Owned(xcb_intern_atom_reply(
         display, xcb_intern_atom(display, 0, kSelection.size(), kSelection.data()), nullptr));
     if (!atom) {
@@ -58,17 +58,18 @@ AreaKind NotificationArea::Present() const {
     return HasXEmbedHost() ? AreaKind::kXEmbed : AreaKind::kNone;
 }
 
-void NotificationArea::Await(std::function<void(AreaKind)> onAppear) {
-    onAppear_ = std::move(onAppear);
+void NotificationArea::Watch(std::function<void(AreaKind)> onChange) {
+    onChange_ = std::move(onChange);
     looking_.start();
     Look();
 }
 
 void NotificationArea::Look() {
     const AreaKind kind = Present();
-    if (kind != AreaKind::kNone) {
-        looking_.stop();
-        std::exchange(onAppear_, {})(kind);
+    looksWithout_ = kind == AreaKind::kNone ? looksWithout_ + 1 : 0;
+    if (kind != told_ && looksWithout_ != 1) {
+        told_ = kind;
+        onChange_(kind);
     }
 }
 

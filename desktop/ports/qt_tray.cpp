@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWindow>
+#include <utility>
 
 #include "desktop/fault_box.h"
 #include "desktop/form_window/menu.h"
@@ -9,19 +11,40 @@
 
 namespace horavex {
 
-QtTray::QtTray(const MenuItem& menu) : source_(menu) {
+namespace {
+
+/// The toolkit's own window of the icon, in an area on the display.
+bool IsIconWindow(const QObject& object) {
+    return object.isWindowType() &&
+           object.objectName() == QLatin1String("QSystemTrayIconSysWindow");
+}
+
+}  // namespace
+
+QtTray::QtTray(const MenuItem& menu, std::function<void()> onAreaGone)
+    : source_(menu), onAreaGone_(std::move(onAreaGone)) {
     connect(&menu_, &QMenu::aboutToShow, this, &QtTray::FillOfferedMenu);
     connect(&menu_, &QMenu::triggered, this,
             [](const QAction* entry) { RunGuarded([entry] { ItemOf(entry)->UserClick(); }); });
+    qApp->installEventFilter(this);
 }
 
 void QtTray::Add(const std::string& tip) {
     SetTip(tip);
-    area_.Await([this](AreaKind kind) { Appear(kind); });
+    area_.Watch([this](AreaKind kind) { Follow(kind); });
 }
 
 void QtTray::Remove() {
     icon_.reset();
+}
+
+// An area that starts anew takes the icon back by itself.
+void QtTray::Follow(AreaKind kind) {
+    if (kind == AreaKind::kNone) {
+        RunGuarded(onAreaGone_);
+    } else if (kind != kind_) {
+        Appear(kind);
+    }
 }
 
 void QtTray::SetTip(const std::string& tip) {
@@ -67,7 +90,7 @@ void QtTray::Activated(QSystemTrayIcon::ActivationReason reason) {
         case QSystemTrayIcon::Context:
             Tell(TrayMessage::kRightDown);
             if (kind_ == AreaKind::kXEmbed) {
-                qApp->installEventFilter(this);  // the button comes up over the icon's own window
+                awaitsRightUp_ = true;  // the button comes up over the icon's own window
             } else {
                 Tell(TrayMessage::kRightUp);
             }
@@ -93,10 +116,15 @@ void QtTray::Clicked() {
     }
 }
 
-bool QtTray::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease &&
+// The icon can be used whatever modal window is open: what belongs to one is not shut off.
+bool QtTray::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked && IsIconWindow(*watched)) {
+        auto* window = static_cast<QWindow*>(watched);
+        window->setTransientParent(QGuiApplication::modalWindow());
+    }
+    if (awaitsRightUp_ && event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
-        qApp->removeEventFilter(this);
+        awaitsRightUp_ = false;
         Tell(TrayMessage::kRightUp);
     }
     return false;

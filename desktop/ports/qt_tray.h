@@ -16,8 +16,9 @@ namespace horavex {
 /// one.
 class QtTray : public QObject, public Tray {
 public:
-    /// The menu that an area draws itself; its entries are clicked there.
-    explicit QtTray(const MenuItem& menu);
+    /// The menu that an area draws itself; its entries are clicked there. onAreaGone comes when the
+    /// last area is gone.
+    QtTray(const MenuItem& menu, std::function<void()> onAreaGone);
 
     void Add(const std::string& tip) override;
     void Remove() override;
@@ -28,6 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Follow(AreaKind kind);
     void Appear(AreaKind kind);
     void OfferMenu();
     void FillOfferedMenu();
@@ -36,10 +38,12 @@ private:
     void Tell(TrayMessage message);
 
     const MenuItem& source_;
+    const std::function<void()> onAreaGone_;
     NotificationArea area_;
     AreaKind kind_ = AreaKind::kNone;
     QString tip_;
     QElapsedTimer sinceClick_;
+    bool awaitsRightUp_ = false;
     QMenu menu_;
     // Made when there is an area to show it: the toolkit settles on a kind of area for good.
     std::unique_ptr<QSystemTrayIcon> icon_;

@@ -36,4 +36,11 @@ void CloseFace() {
     frmMain->SetWindowState(WindowState::kMinimized);
 }
 
+void BringHiddenFaceIntoWindowList() {
+    if (!frmMain->Visible()) {
+        frmMain->SetWindowState(WindowState::kMinimized);
+        frmMain->Show();
+    }
+}
+
 }  // namespace horavex

@@ -7,4 +7,8 @@ namespace horavex {
 /// hidden window could not be brought back there.
 void CloseFace();
 
+/// The last notification area is gone: a face that was hidden behind its icon comes back,
+/// minimised.
+void BringHiddenFaceIntoWindowList();
+
 }  // namespace horavex

@@ -62,6 +62,24 @@ TEST_F(FaceProgramTest, FaceIsDraggedByItsGround) {
     EXPECT_GT(desktop.PlaceOf(face).y, before.y);
 }
 
+TEST_F(FaceProgramTest, FaceThatWasMovedComesUpAtItsOwnPlaceAtTheNextStart) {
+    ScreenPlace own;
+    {
+        ChildProcess program = StartProgram();
+        const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+        own = desktop.PlaceOf(face);
+        desktop.Use({"xdotool", "windowmove", "--sync", face, "11", "17"});
+        EXPECT_NE(desktop.PlaceOf(face).x, own.x);
+        LetSecondsPass(1);
+        kill(program.Id(), SIGTERM);
+        EXPECT_EQ(program.Wait(), 0);
+    }
+    const ChildProcess program = StartProgram();
+    const ScreenPlace place = desktop.PlaceOf(desktop.WaitForWindow(program, kFaceTitle));
+    EXPECT_EQ(place.x, own.x);
+    EXPECT_EQ(place.y, own.y);
+}
+
 TEST_F(FaceProgramTest, MenuOpensBelowItsButtonAndItsExitEndsTheProgram) {
     ChildProcess program = StartProgram();
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);

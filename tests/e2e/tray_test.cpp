@@ -35,6 +35,14 @@ protected:
         WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); });
     }
 
+    /// A modal window.
+    void OpenPrayerTimes(const ChildProcess& program, const std::string& face) {
+        desktop.Use(
+            {"xdotool", "mousemove", "--window", face, "100", "300"});  // where it sees it come
+        desktop.Click(face, 136, 386);
+        desktop.WaitForWindow(program, "Prayer Times");
+    }
+
     std::size_t CountOfWindows(const ChildProcess& program) {
         return desktop.WindowsOf(program).size();
     }
@@ -121,6 +129,60 @@ TEST_F(TrayTest, PanelThatStartsAnewGetsTheIconAgain) {
     WaitUntil("no icon", [&] { return !desktop.IsOnView(program, icon); });
     host = std::make_unique<TrayHost>(desktop.variables);
     EXPECT_NE(WaitForIcon(program), "");
+}
+
+TEST_F(TrayTest, IconWorksWhileAModalWindowIsOpen) {
+    const TrayHost host(desktop.variables);
+    ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    LetSecondsPass(1);
+    OpenPrayerTimes(program, face);
+    const std::size_t windows = CountOfWindows(program);
+    desktop.Click(icon, 8, 8, 3);
+    WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; });
+    desktop.SaveScreen("tray-menu-modal");
+    desktop.PressKey("Up");
+    desktop.PressKey("Return");
+    EXPECT_EQ(program.Wait(), 0);
+}
+
+TEST_F(TrayTest, PointingAtTheIconBringsTheTipWhileAModalWindowIsOpen) {
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    const std::string icon = WaitForIcon(program);
+    LetSecondsPass(1);
+    OpenPrayerTimes(program, face);
+    const std::size_t windows = CountOfWindows(program);
+    desktop.Use({"xdotool", "mousemove", "--window", icon, "7", "8"});
+    desktop.Use({"xdotool", "mousemove_relative", "1", "1"});
+    EXPECT_TRUE(WaitUntil("a tip", [&] { return CountOfWindows(program) == windows + 1; }));
+}
+
+TEST_F(TrayTest, IconFitsAPanelOnAScreenOfDoubleDensity) {
+    programVariables["QT_SCALE_FACTOR"] = "2";
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    EXPECT_LE(desktop.PlaceOf(WaitForIcon(program)).height, 26);
+    LetSecondsPass(1);
+    desktop.SaveScreen("tray-double");
+}
+
+TEST_F(TrayTest, HiddenFaceComesBackMinimisedWhenThePanelGoes) {
+    auto host = std::make_unique<TrayHost>(desktop.variables);
+    const ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    WaitForIcon(program);
+    LetSecondsPass(1);
+    CloseFace(program, face);
+    host.reset();
+    EXPECT_TRUE(WaitUntil("a minimised face", [&] {
+        return desktop.Use({"xprop", "-id", face, "WM_STATE"}).find("Iconic") != std::string::npos;
+    }));
+    desktop.Use({"xdotool", "windowactivate", "--sync", face});
+    EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.IsOnView(program, face); }));
 }
 
 TEST_F(TrayTest, WithoutAPanelClosingMinimisesAndSaysSoOnce) {

@@ -248,6 +248,18 @@ TEST_F(CloseFaceTest, MinimisesWithoutANotificationAreaAndSaysSoOnce) {
     EXPECT_EQ(Messages().size(), 1U);
 }
 
+TEST_F(CloseFaceTest, FaceHiddenBehindTheIconComesBackMinimisedWhenTheAreaGoes) {
+    CloseFace();
+    BringHiddenFaceIntoWindowList();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+}
+
+TEST_F(CloseFaceTest, FaceOnViewStaysAsItIsWhenTheAreaGoes) {
+    BringHiddenFaceIntoWindowList();
+    EXPECT_EQ(frmMain->State(), WindowState::kNormal);
+}
+
 TEST_F(CloseFaceTest, SpeaksTheLanguageOfThePack) {
     platform.tray.hasHost = false;
     frmMain->mnuL(0).UserClick();  // Arabic, the first by name
