@@ -5,13 +5,14 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "base/fault.h"
 #include "linux/posix_files.h"
 #include "support/temporary_folder.h"
 
 namespace horavex {
 namespace {
 
-TEST(ProgramFolderOnDisk, LinkToItselfCountsAsMissingAndIsReplaced) {
+TEST(ProgramFolderOnDisk, LinkToItselfCountsAsMissingAndIsNeverReplaced) {
     const TemporaryFolder user;
     const TemporaryFolder installed;
     PosixFiles files;
@@ -20,8 +21,8 @@ TEST(ProgramFolderOnDisk, LinkToItselfCountsAsMissingAndIsReplaced) {
     EXPECT_FALSE(folder.Exists("sound"));
     files.WriteWhole(installed / "sound", BytesOf("installed"));
     EXPECT_EQ(StringOf(folder.ReadWhole("sound")), "installed");
-    folder.WriteWhole("sound", BytesOf("own"));
-    EXPECT_EQ(StringOf(folder.ReadWhole("sound")), "own");
+    EXPECT_THROW(folder.WriteWhole("sound", BytesOf("own")), FileFault);
+    EXPECT_EQ(StringOf(folder.ReadWhole("sound")), "installed");
 }
 
 }  // namespace
