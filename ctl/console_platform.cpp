@@ -57,6 +57,10 @@ void ConsoleHost::ComputeQibla() {
     horavex::ComputeQibla();
 }
 
+double ConsoleHost::QiblaBearing() {
+    return QiblaDegrees;
+}
+
 ConsolePlatform::ConsolePlatform()
     : folder_(FindProgramFolder(files)),
       registry_(FindRegistry(files)),

@@ -56,6 +56,7 @@ class ConsoleHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override;
+    double QiblaBearing() override;
     void RunSetAction() override {}
     void SetFlashVariables() override {}
 };

@@ -5,16 +5,17 @@
 #include <optional>
 
 #include "base/text.h"
-#include "calendar/current_calendar.h"
+#include "calendar/hijri_today.h"
 #include "ctl/calculation.h"
-#include "ctl/day_view.h"
+#include "ctl/day_text.h"
 #include "ctl/place.h"
 #include "ctl/watch.h"
 #include "engine/current_year.h"
+#include "engine/day_driver.h"
+#include "engine/next_prayer.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "store/language_setting.h"
-#include "store/location_record.h"
 #include "timetables/timetable.h"
 
 namespace horavex {
@@ -48,34 +49,41 @@ Date ParseMoment(const std::string& text) {
     RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
 }
 
-Json TimesJson(const PrayerRow& hours) {
+Json HoursJson(const DayMoments& moments) {
+    Json hours = Json::array();
+    for (const Moment& moment : moments) {
+        hours.push_back(moment.hours);
+    }
+    return hours;
+}
+
+Json TimesJson(const DayMoments& moments) {
     Json times = Json::object();
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        times[kPrayerKeys[prayer]] = Ports().formats.MediumTime(hours[prayer] / 24.0);
+        times[kPrayerKeys[prayer]] = Ports().formats.MediumTime(moments[prayer].hours / 24.0);
     }
     return times;
 }
 
-Json HijriJson(const HijriTexts& hijri, Date date) {
-    const CalendarScope scope(kHijriCalendar);
-    return {{"day", DayOf(date)},
-            {"month", MonthOf(date)},
-            {"monthName", hijri.monthName},
-            {"year", YearOf(date)}};
+Json HijriJson(const HijriDate& hijri) {
+    return {{"day", hijri.day},
+            {"month", hijri.month},
+            {"monthName", HijriMonthName(hijri.month)},
+            {"year", hijri.year}};
 }
 
-Json DayJson(const DayView& view) {
-    return {{"city", CityText},
-            {"date", IsoDate(CivilFromDate(view.now))},
-            {"hijri", HijriJson(view.hijri, view.now)},
-            {"hours", view.hours},
-            {"times", TimesJson(view.hours)},
+Json DayJson(const DayView& day) {
+    return {{"city", day.place},
+            {"date", IsoDate(CivilFromDate(day.date))},
+            {"hijri", HijriJson(day.hijri)},
+            {"hours", HoursJson(day.moments)},
+            {"times", TimesJson(day.moments)},
             {"next",
-             {{"index", view.next.prayer},
-              {"sentence", view.next.sentence},
-              {"remainingSeconds", SecondsLeft(view)},
-              {"remaining", RemainingText(view.next.secondsFromNow)}}},
-            {"qibla", {{"degrees", QiblaDegrees}, {"text", QiblaText}}},
+             {{"index", day.next.prayer},
+              {"sentence", NextPrayerSentence(day.next)},
+              {"remainingSeconds", static_cast<int>(day.next.remainingSeconds)},
+              {"remaining", RemainingText(day.next.remainingSeconds)}}},
+            {"qibla", {{"degrees", day.qiblaDegrees}, {"text", QiblaText}}},
             {"failure", FailureJson()}};
 }
 
@@ -83,12 +91,18 @@ int PresentYear() {
     return CivilFromDate(Ports().clock.Today()).year;
 }
 
-/// One frame of the live view; a new year is calculated when it has come.
-std::string Frame(Session& session) {
-    if (PresentYear() != CurrentYear) {
-        Calculate(session, PresentYear());
+/// The day of now; a new year is calculated when it has come.
+DayView DayOfNow(Session& session) {
+    const Date now = Ports().clock.Now();
+    if (CivilFromDate(now).year != CurrentYear) {
+        Calculate(session, CivilFromDate(now).year);
     }
-    return DayText(TakeDayView(), true) + "\nCtrl+C ends\n";
+    return TakeDayView(now).value();
+}
+
+/// One frame of the live view.
+std::string Frame(Session& session) {
+    return DayText(DayOfNow(session), true) + "\nCtrl+C ends\n";
 }
 
 void Watch(Session& session) {
@@ -118,8 +132,8 @@ void RunToday(Session& session, const TodayOptions& options) {
     if (options.watch) {
         Watch(session);
     } else {
-        const DayView view = TakeDayView();
-        session.Print(DayJson(view), session.status == kDone ? DayText(view, false) : "");
+        const DayView day = DayOfNow(session);
+        session.Print(DayJson(day), session.status == kDone ? DayText(day, false) : "");
     }
 }
 

@@ -40,7 +40,6 @@ constexpr double kCardCorner = 8.0;  // radius, pixels
 
 constexpr const char* kNextPrayer = "_root.sNextPrayer";
 constexpr const char* kRemainingTime = "_root.sNextRemaining";
-constexpr const char* kAllPrayers = "_root.allPrayerTime.allPrayerTimeText.sAllPrayers";
 
 const TextLine::Look kDateLook{15, kCream, Qt::AlignCenter};
 const TextLine::Look kNextLook{16, kCream, Qt::AlignLeading | Qt::AlignVCenter};
@@ -55,7 +54,6 @@ const std::map<std::string, FaceView::Reaction>& FaceView::Reactions() {
         {"_root.iArabicYear", &FaceView::ShowHijriDate},
         {kNextPrayer, &FaceView::ShowNext},
         {kRemainingTime, &FaceView::ShowRemaining},
-        {kAllPrayers, &FaceView::ShowTimes},
         {"_root.icompassAngle", &FaceView::ShowBearing},
         {"_root.myDay", &FaceView::ShowDate},
         {"_root.myMonth", &FaceView::ShowDate},
@@ -175,7 +173,6 @@ void FaceView::ShowHijriDate() {
 
 void FaceView::ShowNext() {
     next_->ShowText(Value(kNextPrayer));
-    times_->ShowNext(Value(kNextPrayer));
 }
 
 void FaceView::ShowRemaining() {
@@ -183,8 +180,8 @@ void FaceView::ShowRemaining() {
     clock_->ShowTime(now_());
 }
 
-void FaceView::ShowTimes() {
-    times_->ShowTimes(Value(kAllPrayers));
+void FaceView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next) {
+    times_->ShowTimes(rows, next);
 }
 
 void FaceView::ShowBearing() {

@@ -9,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace horavex {
 
@@ -17,6 +18,7 @@ class ClockDial;
 class Compass;
 class TextLine;
 class TimesView;
+struct PrayerEntry;
 
 /// The face. It knows its variables and commands by their names and nothing of what they mean
 /// elsewhere. The hands of its clock move with the countdown. The names of the day and the month
@@ -31,6 +33,9 @@ public:
 
     /// Takes a value over; a variable that the face does not have is ignored.
     void SetVariable(const std::string& name, const QString& value);
+
+    /// The six times of the day, and which of them comes next.
+    void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
     /// What the user asks for.
     std::function<void(const std::string& command)> onCommand;
@@ -67,7 +72,6 @@ private:
     void ShowHijriDate();
     void ShowNext();
     void ShowRemaining();
-    void ShowTimes();
     void ShowBearing();
     void ShowMenu();
     void ShowCaptions();

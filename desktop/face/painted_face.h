@@ -18,14 +18,17 @@ class PaintedFace : public Face {
 public:
     void LoadMovie(int, const std::string&) override { loaded_ = true; }
     void SetVariable(const std::string& name, const std::string& value) override {
-        if (loaded_ && view_ != nullptr) {
-            view_->SetVariable(name, QString::fromStdString(value));
+        if (View* view = LoadedView()) {
+            view->SetVariable(name, QString::fromStdString(value));
         }
     }
     void Play() override {}
     void Place(double, double) override {}
 
 protected:
+    /// The view once the movie is loaded; nullptr before, and when its window has gone.
+    View* LoadedView() const { return loaded_ ? view_.data() : nullptr; }
+
     /// Puts the view alone into a window, which takes its size.
     void FillWithView(QWidget& window, View* view = new View) {
         view_ = view;

@@ -1,6 +1,32 @@
 #include "desktop/face/qt_face.h"
 
+#include "desktop/face/times_view.h"
+#include "engine/day_view.h"
+#include "platform/platform.h"
+#include "windows/frm_main.h"
+
 namespace horavex {
+
+namespace {
+
+/// The moments in words: the names that the pack has given, the user's form of a time.
+std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
+    std::vector<PrayerEntry> rows;
+    for (std::size_t prayer = 0; prayer < moments.size(); ++prayer) {
+        const std::string name = frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption();
+        const std::string time = Ports().formats.MediumTime(moments[prayer].hours / 24.0);
+        rows.push_back({QString::fromStdString(name), QString::fromStdString(time)});
+    }
+    return rows;
+}
+
+}  // namespace
+
+void QtFace::ShowDay(const DayView& day) {
+    if (FaceView* view = LoadedView()) {
+        view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
+    }
+}
 
 void QtFace::Fill(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |

@@ -12,6 +12,8 @@ class QtFace : public PaintedFace<FaceView> {
 public:
     explicit QtFace(FaceView::Language language = {}) : language_(std::move(language)) {}
 
+    void ShowDay(const DayView& day) override;
+
     /// The layout of its window: frameless, the face alone.
     void Fill(QWidget& window);
 

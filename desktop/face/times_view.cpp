@@ -14,26 +14,24 @@ constexpr int kTypeSize = 15;      // pixels
 constexpr double kPadding = 10.0;  // beside a row's texts, pixels
 constexpr double kNamePart = 0.5;  // of a row's width
 
-}  // namespace
-
-void TimesView::ShowTimes(const QString& text) {
-    if (text == text_) {
-        return;
+QString SpokenRows(const std::vector<PrayerEntry>& rows) {
+    QStringList spoken;
+    for (const PrayerEntry& row : rows) {
+        spoken << row.name + u' ' + row.time;
     }
-    text_ = text;
-    rows_ = ReadPrayerLine(text, TailsOfTimes()).value_or(std::vector<PrayerEntry>{{text, {}}});
-    next_ = RowNamedIn(sentence_, rows_);
-    setAccessibleName(text.trimmed());
-    update();
+    return spoken.join(QStringLiteral(", "));
 }
 
-void TimesView::ShowNext(const QString& sentence) {
-    sentence_ = sentence;
-    const auto next = RowNamedIn(sentence, rows_);
-    if (next != next_) {
-        next_ = next;
-        update();
+}  // namespace
+
+void TimesView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next) {
+    if (rows == rows_ && next == next_) {
+        return;
     }
+    rows_ = rows;
+    next_ = next;
+    setAccessibleName(SpokenRows(rows));
+    update();
 }
 
 QRectF TimesView::AreaOf(std::size_t row) const {
@@ -60,7 +58,7 @@ void TimesView::PaintRow(QPainter& painter, std::size_t row) const {
     }
     QRectF name = area.adjusted(kPadding, 0.0, -kPadding, 0.0);
     QRectF time = name;
-    const double cut = entry.time.isEmpty() ? name.width() : name.width() * kNamePart;
+    const double cut = name.width() * kNamePart;
     const bool nameIsRight = DirectionOf(entry.name) == Qt::RightToLeft;
     nameIsRight ? name.setLeft(name.right() - cut) : name.setRight(name.left() + cut);
     nameIsRight ? time.setRight(name.left()) : time.setLeft(name.right());

@@ -1,11 +1,18 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
+#include <optional>
 #include <vector>
 
-#include "desktop/face/prayer_line.h"
-
 namespace horavex {
+
+struct PrayerEntry {
+    QString name;
+    QString time;
+
+    bool operator==(const PrayerEntry&) const = default;
+};
 
 /// The six times, one a row, the row of the next prayer marked. Names stand at the side where
 /// their script begins.
@@ -13,11 +20,8 @@ class TimesView : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// text: as ReadPrayerLine reads it; another one is shown as it stands.
-    void ShowTimes(const QString& text);
-
-    /// The sentence that names the next prayer.
-    void ShowNext(const QString& sentence);
+    /// next: the row to mark.
+    void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -26,10 +30,8 @@ private:
     void PaintRow(QPainter& painter, std::size_t row) const;
     QRectF AreaOf(std::size_t row) const;
 
-    QString text_;
-    QString sentence_;
     std::vector<PrayerEntry> rows_;
-    std::optional<std::size_t> next_;
+    std::optional<std::size_t> next_;  // none before the first day
 };
 
 }  // namespace horavex

@@ -15,6 +15,7 @@ struct KeptYear {
     std::int16_t year;
     double latitudeRad;
     double longitudeWestRad;
+    std::string cityText;
     YearTimes times;
 };
 
@@ -25,7 +26,7 @@ const ProgramStateReset reset([] { kept.reset(); });
 }  // namespace
 
 void KeepYear() {
-    kept = {CurrentYear, LatitudeRad, LongitudeWestRad, Times};
+    kept = {CurrentYear, LatitudeRad, LongitudeWestRad, YearCityText, Times};
 }
 
 bool BringYearBack() {
@@ -34,6 +35,7 @@ bool BringYearBack() {
     }
     LatitudeRad = kept->latitudeRad;
     LongitudeWestRad = kept->longitudeWestRad;
+    YearCityText = kept->cityText;
     Times = kept->times;
     return true;
 }

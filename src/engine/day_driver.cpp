@@ -9,6 +9,7 @@
 #include "engine/accepted_year.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"
+#include "engine/day_view.h"
 #include "engine/limit_message.h"
 #include "engine/next_prayer.h"
 #include "engine/place.h"
@@ -91,37 +92,40 @@ void RefreshAfterGap() {
     }
 }
 
-/// None once the year has turned since the table was made.
-std::optional<std::size_t> RowOfToday() {
-    const double row = TodayDate - DateSerial(CurrentYear, 1, 1);
+/// None where the year has turned since the table was made.
+std::optional<std::size_t> RowOf(Date day) {
+    const double row = day - DateSerial(CurrentYear, 1, 1);
     if (row < 0.0 || row >= static_cast<double>(kYearRows)) {
         return std::nullopt;
     }
     return static_cast<std::size_t>(row);
 }
 
-void ShowTimes(const PrayerRow& row) {
+void ShowTimes(const DayMoments& moments) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        TodayTimes[prayer] = row[prayer] / 24.0;
+        TodayTimes[prayer] = moments[prayer].hours / 24.0;
         frmMain->lblTime(static_cast<int>(prayer))
             .SetCaption(Ports().formats.MediumTime(TodayTimes[prayer]));
     }
 }
 
-void ShowDates() {
-    frmMain->lblDate.SetCaption(Ports().formats.LongDate(TodayDate));
-    frmMain->lblCurrTime.SetCaption(Ports().formats.LongTime(Ports().clock.Now()));
+void ShowDates(const DayView& day) {
+    frmMain->lblDate.SetCaption(Ports().formats.LongDate(day.date));
+    frmMain->lblCurrTime.SetCaption(Ports().formats.LongTime(day.now));
 }
 
-void ShowNextPrayer(std::size_t row) {
-    const Date now = Ports().clock.Now();
-    const std::int16_t found = FindNextPrayer(TimesOfRow(row), now);
+void ShowNextPrayer(const NextMoment& next) {
     if (NextPrayer == -1) {
-        NextPrayer = found;
+        NextPrayer = next.isTomorrows ? kNoPrayerLeft : next.prayer;
     }
-    const NextPrayerDescription next = DescribeNextPrayer(found, row, now);
-    frmMain->lblNextAthan.SetCaption(next.sentence);
-    frmMain->lblRemaining.SetCaption(RemainingText(next.secondsFromNow));
+    frmMain->lblNextAthan.SetCaption(NextPrayerSentence(next));
+    frmMain->lblRemaining.SetCaption(RemainingText(next.remainingSeconds));
+}
+
+/// The row of the next day's Fajr; row 365 has no next one and serves itself. In a common year
+/// it holds what a leap year before has left there.
+std::size_t RowAfter(std::size_t row) {
+    return row < kYearRows - 1 ? row + 1 : row;
 }
 
 }  // namespace
@@ -133,7 +137,7 @@ void InstallDayHost(DayHost* newHost) {
 void RecalculateYear() {
     // The first three need nothing of each other, and no event comes in before the first report of
     // the table: their own order shows nowhere, that they all stand before the table does.
-    TakePlace(Location.City);
+    TakePlace(Location.City, CityText);
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);
     ComputeYearTimes(0, AddInt16(365, LeapFlag),
@@ -163,16 +167,27 @@ void RefreshAll() {
     }
 }
 
+std::optional<DayView> TakeDayView(Date now) {
+    const auto row = RowOf(std::floor(now));
+    if (!row) {
+        return std::nullopt;
+    }
+    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row))[kFajr],
+                        host->QiblaBearing()},
+                       now);
+}
+
 void ShowDay() {
     RefreshAfterGap();
+    const std::optional<DayView> day = TakeDayView(Ports().clock.Now());
     TodayDate = Ports().clock.Today();
-    const auto row = RowOfToday();
-    if (!row) {
+    if (!day) {
         return;  // the next tick calculates the new year
     }
-    ShowTimes(TimesOfRow(*row));
-    ShowDates();
-    ShowNextPrayer(*row);
+    ShownDay = *day;
+    ShowTimes(ShownDay.moments);
+    ShowDates(ShownDay);
+    ShowNextPrayer(ShownDay.next);
     host->SetFlashVariables();
 }
 

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <optional>
+
+#include "base/date.h"
+#include "engine/day_view.h"
+
 namespace horavex {
 
 /// What the driver of the day needs of the rooms above the engine.
@@ -12,6 +17,9 @@ public:
 
     /// Works out the qibla of the place that the engine has just taken over.
     virtual void ComputeQibla() = 0;
+
+    /// Direction of Mecca as last worked out, degrees from north, positive to the east.
+    virtual double QiblaBearing() = 0;
 
     /// The action of the settings window's set button.
     virtual void RunSetAction() = 0;
@@ -31,7 +39,11 @@ void RecalculateYear();
 /// least, and shows the day, also after a calculation that gave up. Needs an installed host.
 void RefreshAll();
 
-/// Puts today's row of the table into the labels of frmMain and hands them to the face. Does not
+/// The day of a moment by the calculated year; none for a day outside the table. Needs an
+/// installed host.
+std::optional<DayView> TakeDayView(Date now);
+
+/// Takes today as a value, puts it into the labels of frmMain and hands it to the face. Does not
 /// look at CalcFailed. A day more than one away from LastRefreshDate runs the set action first.
 /// Shows nothing of a day outside the table, which a wait that crosses the year's end comes to.
 void ShowDay();

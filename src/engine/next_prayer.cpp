@@ -7,12 +7,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int16_t kNoneLeft = 6;
-
-double FractionOf(double hours) {
-    return hours / 24.0;
-}
-
 /// Key of the section "other" that names a prayer. Shurooq never comes next, yet would be told
 /// as Zuhr.
 const char* NameKey(std::int16_t prayer) {
@@ -20,42 +14,18 @@ const char* NameKey(std::int16_t prayer) {
     return kKeys[prayer];
 }
 
-std::string NameOf(std::int16_t prayer) {
-    return ReadPackString("other", NameKey(prayer), "", kPackNameBuffer);
-}
-
 // Today's Fajr is told by a fixed English text; only tomorrow's has a name in the pack.
-std::string SentenceStart(std::int16_t found) {
-    if (found == kFajr) {
+std::string SentenceStart(const NextMoment& next) {
+    if (next.prayer == kFajr && !next.isTomorrows) {
         return "Fajr at ";
     }
-    return NameOf(found == kNoneLeft ? std::int16_t{kFajr} : found) + " ";
-}
-
-double SecondsTo(Date time, bool countsFromTomorrow, Date now) {
-    const double ahead = SecondOfDay(time) - SecondOfDay(now);
-    return countsFromTomorrow ? ahead + kSecondsPerDay : ahead;
+    return ReadPackString("other", NameKey(next.prayer), "", kPackNameBuffer) + " ";
 }
 
 }  // namespace
 
-std::int16_t FindNextPrayer(const PrayerRow& today, Date now) {
-    for (std::int16_t prayer = 0; prayer < kNoneLeft; ++prayer) {
-        const Date time = FractionOf(today[static_cast<std::size_t>(prayer)]);
-        if (prayer != kShurooq && SecondOfDay(time) > SecondOfDay(now)) {
-            return prayer;
-        }
-    }
-    return kNoneLeft;
-}
-
-NextPrayerDescription DescribeNextPrayer(std::int16_t found, std::size_t row, Date now) {
-    const std::int16_t prayer = found == kNoneLeft ? std::int16_t{kFajr} : found;
-    const bool tomorrow = found == kNoneLeft && row < kYearRows - 1;
-    const std::size_t column = prayer == kShurooq ? std::size_t{kZuhr} : std::size_t(prayer);
-    const Date time = FractionOf(Times[column][tomorrow ? row + 1 : row]);
-    return {prayer, time, SentenceStart(found) + Ports().formats.LongTime(time),
-            SecondsTo(time, prayer == kFajr, now)};
+std::string NextPrayerSentence(const NextMoment& next) {
+    return SentenceStart(next) + Ports().formats.LongTime(next.moment.hours / 24.0);
 }
 
 std::string RemainingText(double seconds) {

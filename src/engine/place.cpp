@@ -8,12 +8,14 @@ namespace horavex {
 
 double LatitudeRad = 0.0;
 double LongitudeWestRad = 0.0;
+std::string YearCityText;
 
 namespace {
 
 const ProgramStateReset reset([] {
     LatitudeRad = 0.0;
     LongitudeWestRad = 0.0;
+    YearCityText.clear();
 });
 
 }  // namespace
@@ -27,7 +29,8 @@ YearPlace PresentPlace() {
     return {LatitudeRad, LongitudeWestRad, Settings.TimeZone};
 }
 
-void TakePlace(const CityRecord& city) {
+void TakePlace(const CityRecord& city, const std::string& text) {
+    YearCityText = text;
     LatitudeRad = DegToRad(StoredCoord(city.Latitude));
     LongitudeWestRad = -1.0 * DegToRad(StoredCoord(city.Longitude));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "store/location_record.h"
 
 namespace horavex {
@@ -7,6 +9,9 @@ namespace horavex {
 /// Place of the program's calculation, radians. Written by TakePlace.
 extern double LatitudeRad;       // north positive, -Pi/2 to Pi/2
 extern double LongitudeWestRad;  // west positive, -Pi to Pi
+
+/// Display text of that place. Written by TakePlace.
+extern std::string YearCityText;
 
 /// Where a year is worked out, and by which clock.
 struct YearPlace {
@@ -21,7 +26,7 @@ YearPlace PlaceOf(const CityRecord& city, double timeZone);
 /// The program's place under the zone of the working settings.
 YearPlace PresentPlace();
 
-/// Makes a city the program's place.
-void TakePlace(const CityRecord& city);
+/// Makes a city the program's place. text: its display text.
+void TakePlace(const CityRecord& city, const std::string& text);
 
 }  // namespace horavex

@@ -5,6 +5,8 @@
 
 namespace horavex {
 
+struct DayView;
+
 /// A painted face behind a boundary of texts: the system sets variables and gets commands.
 class Face {
 public:
@@ -15,6 +17,10 @@ public:
 
     /// Hands a value over; a face without a variable of that name ignores it.
     virtual void SetVariable(const std::string& name, const std::string& value) = 0;
+
+    /// Hands the day over as a value, behind the variables of the same tick. A face that paints
+    /// by its variables alone ignores it.
+    virtual void ShowDay(const DayView& /*day*/) {}
 
     /// Starts the face's own motion.
     virtual void Play() = 0;

@@ -33,6 +33,7 @@ public:
     void SetVariable(const std::string& name, const std::string& value) override {
         variables.emplace_back(name, value);
     }
+    void ShowDay(const DayView& day) override { onShowDay(day); }
     void Play() override { log_.Note(name_ + "Play"); }
     void Place(double left, double top) override {
         log_.Note(name_ + "Place " + std::to_string(static_cast<int>(left)) + " " +
@@ -50,6 +51,7 @@ public:
     }
 
     std::vector<std::pair<std::string, std::string>> variables;  // in the order of setting
+    std::function<void(const DayView&)> onShowDay = [](const DayView&) {};
 
 private:
     DesktopLog& log_;

@@ -4,6 +4,7 @@
 #include "calendar/current_calendar.h"
 #include "calendar/hijri_today.h"
 #include "calendar/month_name.h"
+#include "engine/day_state.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
@@ -82,6 +83,7 @@ void SetFlashVariables() {
     }
     const CalendarScope gregorian(kGregorianCalendar);
     SetGregorianDate();
+    Ports().face.ShowDay(ShownDay);
 }
 
 void OnFaceCommand(const std::string& command) {

@@ -64,6 +64,7 @@ class ShellDayHost : public DayHost {
 public:
     void ReportProgress(double percent) override { horavex::ReportProgress(percent); }
     void ComputeQibla() override { horavex::ComputeQibla(); }
+    double QiblaBearing() override { return QiblaDegrees; }
     void RunSetAction() override { SetAcceptedAgain(); }
     void SetFlashVariables() override { horavex::SetFlashVariables(); }
 };

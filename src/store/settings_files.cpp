@@ -61,6 +61,7 @@ void SaveWorkingSettings() {
 void CopyActiveToWorking() {
     Settings = ActiveSettings;
     Location = ActiveLocation;
+    CityText = ActiveCityText;
 }
 
 void ReloadWorkingSettings() {

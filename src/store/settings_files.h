@@ -16,7 +16,8 @@ void LoadWorkingSettings();
 /// Writes Settings to "Dat/Settings.DAT". Throws FileFault.
 void SaveWorkingSettings();
 
-/// Settings becomes a copy of ActiveSettings, and Location of ActiveLocation.
+/// Settings becomes a copy of ActiveSettings, and Location of ActiveLocation, with the text of the
+/// place beside it.
 void CopyActiveToWorking();
 
 /// Settings as the settings window shows them: all fields from "Dat/Settings.DAT", also those

@@ -9,6 +9,7 @@
 #include "base/rounding.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/moments.h"
 #include "engine/solar_event.h"
 #include "geo/qibla.h"
 #include "store/isha_setting.h"
@@ -26,11 +27,11 @@ TimetableDay TakeDay(std::size_t row) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
     TimetableDay day = {
         date, HijriFromDate(date), IsDaylightDay(date, ActiveSettings), DaylightChange::kNone, {}};
-    const PrayerRow hours = TimesOfRow(row);
+    const DayMoments moments = MomentsOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         // What is no time of any day, a damaged zone's, has no text either.
-        if (std::fabs(hours[prayer]) < NoEvent) {
-            day.hours[prayer] = hours[prayer];
+        if (std::fabs(moments[prayer].hours) < NoEvent) {
+            day.hours[prayer] = moments[prayer].hours;
         }
     }
     return day;

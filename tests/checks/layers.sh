@@ -21,9 +21,9 @@ unordered_map unordered_set utility valarray variant vector version "
 standard=${standard//$'\n'/ }
 
 # What each layer may include besides itself, as patterns of paths. A layer may also include what
-# the layers that it uses may include. The primitives are two files of the engine that know the
-# base alone; everybody above the forms may use them.
-primitives="engine/angle.h engine/sun.h"
+# the layers that it uses may include. The primitives are a few files that know the base
+# alone: angles, the sun, the arithmetic Hijri calendar. Everybody above the forms may use them.
+primitives="engine/angle.h engine/sun.h calendar/hijri_calendar.h"
 declare -A uses
 uses[base]=""
 uses[platform]="base/*"
@@ -53,7 +53,7 @@ complain() {
 
 layer_of() {
     case $1 in
-        engine/angle.* | engine/sun.*) layer=primitives ;;
+        engine/angle.* | engine/sun.* | calendar/hijri_calendar.*) layer=primitives ;;
         *) layer=${1%%/*} ;;
     esac
 }

@@ -23,6 +23,7 @@ class QuietHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override {}
+    double QiblaBearing() override { return 0.0; }
     void RunSetAction() override {}
     void SetFlashVariables() override {}
 };

@@ -1,8 +1,24 @@
 #pragma once
 
+#include <array>
+
+#include "engine/day_view.h"
 #include "platform/face.h"
+#include "windows/frm_main.h"
 
 namespace horavex {
+
+/// The day of a Saturday in Cairo, with the names that a pack gives.
+inline void TellTimes(Face& face, const std::array<const char*, kPrayerCount>& names) {
+    constexpr std::array<double, kPrayerCount> kMinutes = {296, 384, 701, 876, 1017, 1100};
+    DayView day;
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        frmMain->lblZoritNameArabic(static_cast<int>(prayer)).SetCaption(names[prayer]);
+        day.moments[prayer].hours = kMinutes[prayer] / 60.0;
+    }
+    day.next.prayer = kAsr;
+    face.ShowDay(day);
+}
 
 /// Hands a face what a tick at noon in Cairo and the English pack hand it.
 inline void TellEnglish(Face& face) {
@@ -11,9 +27,7 @@ inline void TellEnglish(Face& face) {
     face.SetVariable("_root.iArabicYear", "1448");
     face.SetVariable("_root.sNextPrayer", "Next Athan: Asr at 2:36:00 PM");
     face.SetVariable("_root.sNextRemaining", "Remaining: 2:36:0");
-    face.SetVariable("_root.allPrayerTime.allPrayerTimeText.sAllPrayers",
-                     " Fajr:04:56 AM Shurooq:06:24 AM Zuhr:11:41 AM Asr:02:36 PM"
-                     " Maghrib:04:57 PM Isha:06:20 PM");
+    TellTimes(face, {"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"});
     face.SetVariable("_root.icompassAngle", "136.142857");
     face.SetVariable("_root.myDay", "Saturday");
     face.SetVariable("_root.myMonth", "November");
@@ -27,9 +41,7 @@ inline void TellArabic(Face& face) {
     face.SetVariable("_root.ArabicMonth", "جمادى الآخرة");
     face.SetVariable("_root.sNextPrayer", "الأذان القادم: العصر الساعة 2:36:00 PM");
     face.SetVariable("_root.sNextRemaining", "المتبقي: 2:36:0");
-    face.SetVariable("_root.allPrayerTime.allPrayerTimeText.sAllPrayers",
-                     " الفجر:04:56 AM الشروق:06:24 AM الظهر:11:41 AM العصر:02:36 PM"
-                     " المغرب:04:57 PM العشاء:06:20 PM");
+    TellTimes(face, {"الفجر", "الشروق", "الظهر", "العصر", "المغرب", "العشاء"});
     face.SetVariable("_root.azan", "الأذان");
     face.SetVariable("_root.settings", "الإعدادات");
     face.SetVariable("_root.tools", "الأدوات");

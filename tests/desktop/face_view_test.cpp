@@ -8,6 +8,7 @@
 #include "desktop/face/compass.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face/text_line.h"
+#include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
 #include "support/test_platform.h"
 
@@ -82,7 +83,26 @@ TEST_F(FaceTest, EachVariableShows) {
                                     "Next Athan: Asr at 2:36:00 PM", "Remaining: 2:36:0"}));
     EXPECT_EQ(Button("IDC_FS_Day").text(), "Saturday");
     EXPECT_EQ(window.findChild<QWidget*>("compass")->accessibleName(), "136°");
-    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith("Fajr:04:56 AM"));
+    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith(
+        "Fajr 04:56 AM, Shurooq "));
+}
+
+TEST_F(FaceTest, RowOfTheNextPrayerIsMarkedWhateverTheSentenceSays) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    auto& times = *window.findChild<TimesView*>("times");
+    const QImage asr = times.grab().toImage();
+    face.SetVariable("_root.sNextPrayer", "Next Athan: Isha at 6:20:00 PM");
+    EXPECT_EQ(times.grab().toImage(), asr);
+    times.ShowTimes({{"Fajr", "04:56 AM"}, {"Shurooq", "06:24 AM"}}, 0);
+    const QImage first = times.grab().toImage();
+    times.ShowTimes({{"Fajr", "04:56 AM"}, {"Shurooq", "06:24 AM"}}, 1);
+    EXPECT_NE(times.grab().toImage(), first);
+}
+
+TEST_F(FaceTest, DayBeforeTheLoadIsDropped) {
+    TellEnglish(face);
+    EXPECT_EQ(window.findChild<QWidget*>("times")->accessibleName(), "");
 }
 
 TEST_F(FaceTest, CaptionsAreEnglishUntilThePackNamesThem) {

@@ -279,6 +279,70 @@ TEST_F(ShowDayTest, TimeThatDoesNotExistShowsTheTimeOfAFarDate) {
     EXPECT_EQ(frmMain->lblTime(kAsr).Caption(), "04:00 PM");  // 10,000,000 hours
 }
 
+TEST_F(ShowDayTest, KeepsTheDayThatItShows) {
+    CityText = "Cairo - Egypt";
+    host.bearing = 136.25;
+    RefreshAll();
+    ShowDay();
+    EXPECT_EQ(ShownDay.now, platform.clock.Now());
+    EXPECT_EQ(ShownDay.place, "Cairo - Egypt");
+    EXPECT_EQ(ShownDay.qiblaDegrees, 136.25);
+    EXPECT_EQ(ShownDay.moments[kZuhr].hours, Times[kZuhr][324]);
+}
+
+TEST_F(ShowDayTest, PlaceIsThatOfTheYearWhateverIsPickedSince) {
+    CityText = "Cairo - Egypt";
+    RefreshAll();
+    CityText = "Oslo - Norway";
+    ShowDay();
+    EXPECT_EQ(ShownDay.place, "Cairo - Egypt");
+}
+
+TEST_F(ShowDayTest, PlaceIsTheAcceptedOneAfterAFailure) {
+    CityText = "Cairo - Egypt";
+    RefreshAll();
+    CityText = "London - United Kingdom";
+    London(18.0, 17.0);
+    RefreshAll();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_EQ(ShownDay.place, "Cairo - Egypt");
+}
+
+struct TakeDayViewTest : EngineTest {
+    TakeDayViewTest() { CurrentYear = 2026; }
+
+    /// The evening of the day of a row, after Isha, with a Fajr of its own and one of the next.
+    NextMoment NextAfterIsha(std::size_t row, double nextFajr) {
+        for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+            Times[prayer][row] = 5.0 + static_cast<double>(prayer);
+        }
+        if (row < kYearRows - 1) {
+            Times[kFajr][row + 1] = nextFajr;
+        }
+        const Date day = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
+        return TakeDayView(day + TimeSerial(20, 0, 0)).value().next;
+    }
+};
+
+TEST_F(TakeDayViewTest, AfterIshaTheRowMovesToTomorrow) {
+    EXPECT_EQ(NextAfterIsha(100, 4.5).moment.hours, 4.5);
+}
+
+TEST_F(TakeDayViewTest, DayOutsideTheTableIsNone) {
+    EXPECT_FALSE(TakeDayView(DateSerial(2025, 12, 31)));
+    EXPECT_TRUE(TakeDayView(DateSerial(2026, 1, 1)));
+    EXPECT_FALSE(TakeDayView(DateSerial(2027, 1, 2)));
+}
+
+TEST_F(TakeDayViewTest, LastEveningOfACommonYearReadsTheUnwrittenRow) {
+    EXPECT_EQ(NextAfterIsha(364, 0.0).moment.hours, 0.0);
+}
+
+TEST_F(TakeDayViewTest, LastEveningOfALeapYearShowsItsOwnFajr) {
+    CurrentYear = 2028;
+    EXPECT_EQ(NextAfterIsha(365, 0.0).moment.hours, 5.0);
+}
+
 TEST(WaitSeconds, SpanOfNothingReturnsAtOnce) {
     TestPlatform platform;
     WaitSeconds(0.0);

@@ -16,10 +16,12 @@ class RecordingHost : public DayHost {
 public:
     void ReportProgress(double percent) override { percents.push_back(percent); }
     void ComputeQibla() override { ++qiblas; }
+    double QiblaBearing() override { return bearing; }
     void RunSetAction() override { ++setActions; }
     void SetFlashVariables() override { ++faces; }
 
     std::vector<double> percents;
+    double bearing = 0.0;  // degrees
     int qiblas = 0;
     int setActions = 0;
     int faces = 0;

@@ -2,8 +2,10 @@
 
 #include "calendar/current_calendar.h"
 #include "engine/day_driver.h"
+#include "engine/day_state.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
+#include "store/location_record.h"
 #include "support/program_test.h"
 
 namespace horavex {
@@ -33,6 +35,19 @@ TEST_F(FaceBridgeTest, ElevenVariablesGoOutInOrder) {
                     Pair("_root.icompassAngle", "-137.25"), Pair("_root.myDay", "Saturday"),
                     Pair("_root.myMonth", "November"), Pair("_root.myYear", "2026"),
                     Pair("_root.myNumber", "21")));
+}
+
+TEST_F(FaceBridgeTest, DayFollowsTheVariablesAsAValue) {
+    std::vector<std::size_t> variablesBefore;
+    platform.face.variables.clear();
+    platform.face.onShowDay = [&](const DayView& day) {
+        variablesBefore.push_back(platform.face.variables.size());
+        EXPECT_EQ(day.place, ActiveCityText);
+        EXPECT_EQ(day.next.prayer, 2);
+        EXPECT_EQ(day.qiblaDegrees, QiblaDegrees);
+    };
+    ShowDay();
+    EXPECT_THAT(variablesBefore, ElementsAre(11U));
 }
 
 TEST_F(FaceBridgeTest, CalendarIsAsItWasAfterwards) {

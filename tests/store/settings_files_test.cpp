@@ -172,7 +172,7 @@ TEST_F(SettingsFilesTest, WorkingStateBecomesACopyOfTheAcceptedOne) {
     ActiveLocation.Country = "Egypt";
     ActiveLocation.City = {"Cairo", "", 3006, 3125, 0};
     ActiveCityText = "Cairo - Egypt";
-    CityText = "untouched";
+    CityText = "left over";
     Location.City.Province = "left over";
     IshaAngle = 17.5;
     CopyActiveToWorking();
@@ -181,7 +181,7 @@ TEST_F(SettingsFilesTest, WorkingStateBecomesACopyOfTheAcceptedOne) {
     EXPECT_EQ(Location.City.Name, "Cairo");
     EXPECT_EQ(Location.City.Province, "");
     EXPECT_EQ(Location.City.Latitude, 3006);
-    EXPECT_EQ(CityText, "untouched");
+    EXPECT_EQ(CityText, "Cairo - Egypt");
     EXPECT_EQ(IshaAngle, 17.5);
 }
 

@@ -33,6 +33,7 @@ class SilentHost : public DayHost {
 public:
     void ReportProgress(double) override {}
     void ComputeQibla() override { horavex::ComputeQibla(); }
+    double QiblaBearing() override { return QiblaDegrees; }
     void RunSetAction() override {}
     void SetFlashVariables() override {}
 };

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/date.h"
+#include "calendar/hijri_calendar.h"
+#include "engine/moments.h"
+
+namespace horavex {
+
+/// In place of a prayer's index: none is left today.
+inline constexpr std::int16_t kNoPrayerLeft = 6;
+
+/// The prayer that comes next.
+struct NextMoment {
+    std::int16_t prayer = 0;        // kFajr or kZuhr to kIsha
+    bool isTomorrows = false;       // today's prayers are over
+    Moment moment;                  // of its own day
+    double remainingSeconds = 0.0;  // whole seconds until then, [0, 86400)
+};
+
+/// A day as it stands at one moment. Captions, the face's variables, the icon's tip, the command
+/// line and the documents are words for it; none of them reads another's words.
+struct DayView {
+    Date now = 0.0;             // of the local clock
+    Date date = 0.0;            // midnight that begins the day
+    HijriDate hijri{};          // by the arithmetic calendar
+    std::string place;          // display text of the place that the year is for
+    DayMoments moments;         // of the day
+    NextMoment next;            // from now on
+    double qiblaDegrees = 0.0;  // from north, positive to the east
+};
+
+/// What a day is made of besides the moment.
+struct DaySource {
+    std::string place;
+    DayMoments today;
+    Moment tomorrowsFajr;
+    double qiblaDegrees = 0.0;
+};
+
+/// The index of the first of the moments that lies ahead of the clock by more than 0 whole
+/// seconds, Shurooq left out since nobody waits for it; kNoPrayerLeft when there is none.
+std::int16_t FindNextPrayer(const DayMoments& today, Date now);
+
+DayView MakeDayView(const DaySource& source, Date now);
+
+}  // namespace horavex

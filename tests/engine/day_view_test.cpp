@@ -1,0 +1,85 @@
+#include "engine/day_view.h"
+
+#include <gtest/gtest.h>
+
+namespace horavex {
+namespace {
+
+constexpr std::array<double, kPrayerCount> kHours = {5.0, 6.5, 12.0, 15.25, 18.0, 19.5};
+
+DayMoments Moments() {
+    DayMoments moments;
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        moments[prayer].hours = kHours[prayer];
+    }
+    return moments;
+}
+
+Date At(int hour, int minute, int second) {
+    return DateSerial(2026, 11, 21) + TimeSerial(hour, minute, second);
+}
+
+DayView ViewAt(int hour, int minute, int second) {
+    return MakeDayView({"Cairo", Moments(), {5.01}, 136.25}, At(hour, minute, second));
+}
+
+TEST(FindNextPrayer, WaitsForNoShurooq) {
+    EXPECT_EQ(FindNextPrayer(Moments(), At(5, 30, 0)), 2);
+}
+
+TEST(FindNextPrayer, EqualSecondIsNotAhead) {
+    EXPECT_EQ(FindNextPrayer(Moments(), At(11, 59, 59)), 2);
+    EXPECT_EQ(FindNextPrayer(Moments(), At(12, 0, 0)), 3);
+}
+
+TEST(FindNextPrayer, ComparesWholeSeconds) {
+    DayMoments moments = Moments();
+    moments[kZuhr].hours = 12.0 + 0.4 / 3600;  // rounds to 12:00:00
+    EXPECT_EQ(FindNextPrayer(moments, At(12, 0, 0)), 3);
+    moments[kZuhr].hours = 12.0 + 0.6 / 3600;  // rounds to 12:00:01
+    EXPECT_EQ(FindNextPrayer(moments, At(12, 0, 0)), 2);
+}
+
+TEST(FindNextPrayer, BeforeDawnItIsFajr) {
+    EXPECT_EQ(FindNextPrayer(Moments(), At(0, 0, 0)), 0);
+}
+
+TEST(FindNextPrayer, AfterIshaNoneIsLeft) {
+    EXPECT_EQ(FindNextPrayer(Moments(), At(19, 30, 0)), kNoPrayerLeft);
+}
+
+TEST(MakeDayView, CarriesItsSourceAndTheDatesOfTheMoment) {
+    const DayView day = ViewAt(13, 0, 0);
+    EXPECT_EQ(day.now, At(13, 0, 0));
+    EXPECT_EQ(day.date, DateSerial(2026, 11, 21));
+    EXPECT_EQ(day.hijri, (HijriDate{1448, 6, 10}));
+    EXPECT_EQ(day.place, "Cairo");
+    EXPECT_EQ(day.moments, Moments());
+    EXPECT_EQ(day.qiblaDegrees, 136.25);
+}
+
+TEST(MakeDayView, NextMomentIsTodaysWithTheSecondsUntilThen) {
+    const NextMoment next = ViewAt(13, 0, 0).next;
+    EXPECT_EQ(next.prayer, 3);
+    EXPECT_FALSE(next.isTomorrows);
+    EXPECT_EQ(next.moment.hours, 15.25);
+    EXPECT_EQ(next.remainingSeconds, 2 * 3600 + 15 * 60);
+}
+
+TEST(MakeDayView, BeforeDawnTheSecondsEndAtTodaysFajr) {
+    const NextMoment next = ViewAt(4, 0, 0).next;
+    EXPECT_EQ(next.prayer, 0);
+    EXPECT_FALSE(next.isTomorrows);
+    EXPECT_EQ(next.remainingSeconds, 3600);
+}
+
+TEST(MakeDayView, AfterIshaTheNextMomentIsTomorrowsFajr) {
+    const NextMoment next = ViewAt(19, 31, 0).next;
+    EXPECT_EQ(next.prayer, 0);
+    EXPECT_TRUE(next.isTomorrows);
+    EXPECT_EQ(next.moment.hours, 5.01);
+    EXPECT_EQ(next.remainingSeconds, 86400 - 19 * 3600 - 31 * 60 + 5 * 3600 + 36);
+}
+
+}  // namespace
+}  // namespace horavex
