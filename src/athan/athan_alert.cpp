@@ -4,6 +4,7 @@
 #include "athan/azan_window.h"
 #include "athan/sound.h"
 #include "base/flag.h"
+#include "base/program_state.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
@@ -25,7 +26,12 @@ constexpr double kAlarmStepsPerDay = 288.0;
 constexpr double kBeforeSound = 2.0;  // seconds
 constexpr double kAfterBeep = 3.0;    // seconds
 constexpr double kHold = 12.504;      // seconds; 20 beeps and 20 holds make about 310
+constexpr double kTick = 1.0;         // seconds; one may come in the last rest of a wait
 constexpr int kRepeats = 20;
+
+double soundDue = 0.0;  // steady seconds; 0 for no athan that waits
+
+const ProgramStateReset reset([] { soundDue = 0.0; });
 
 void WaitUntil(double start, double seconds) {
     WaitSeconds((seconds - (Ports().clock.SteadySeconds() - start)) / kSecondsPerDay);
@@ -67,12 +73,15 @@ struct ActiveAlarm {
     ~ActiveAlarm() { alarmActive = kFalse; }
 };
 
+/// An alarm that nobody dismisses is over before its message goes: nothing is cancelled by it.
 void SoundAlarm(double start) {
-    const ActiveAlarm active;
-    ShowAlarmMessage();
-    WaitUntil(start, kBeforeSound);
-    BeepUntilDismissed();
-    HoldUntilDismissed();
+    {
+        const ActiveAlarm active;
+        ShowAlarmMessage();
+        WaitUntil(start, kBeforeSound);
+        BeepUntilDismissed();
+        HoldUntilDismissed();
+    }
     fMessage->Unload();
 }
 
@@ -99,11 +108,17 @@ void PlayAthan(std::int16_t index) {
 
 void SoundAthan(std::int16_t index, double start) {
     BringAthanWindowUp(index);
+    soundDue = start + kBeforeSound + kTick;
     WaitUntil(start, kBeforeSound);
+    soundDue = 0.0;
     PlayAthan(index);
 }
 
 }  // namespace
+
+bool AthanAwaitsItsSound() {
+    return Ports().clock.SteadySeconds() < soundDue;
+}
 
 void sub04F9(std::int16_t index) {
     if (index == static_cast<std::int16_t>(kShurooq)) {

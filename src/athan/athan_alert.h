@@ -10,4 +10,8 @@ namespace horavex {
 /// window meanwhile. The alarm stands until the user closes it, 310 seconds at most.
 void sub04F9(std::int16_t index);
 
+/// True in the two seconds between an athan's window and its sound. An alarm would hold the sound
+/// back until it is over; its own ten seconds outlast them.
+bool AthanAwaitsItsSound();
+
 }  // namespace horavex

@@ -61,9 +61,10 @@ void TestPrayers(const TickActions& actions) {
 }
 
 /// The alarm is compared every day, whatever the state of its check box. One that is up is not
-/// raised again by the ticks inside its own wait.
+/// raised again by the ticks inside its own wait, and none comes between an athan and its sound.
 void TestAlarm(const TickActions& actions) {
-    if (alarmActive == kFalse && HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
+    if (alarmActive == kFalse && !AthanAwaitsItsSound() &&
+        HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
         actions.alert(kAlarm);
     }
 }

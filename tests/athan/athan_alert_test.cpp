@@ -220,6 +220,23 @@ TEST_F(AthanTickTest, StopInTheWaitForTheSoundBringsItBackOnTheNextTick) {
     EXPECT_EQ(athanActive, -1);
 }
 
+TEST_F(AthanTickTest, AlarmThatFallsDueBeforeTheSoundComesBehindIt) {
+    ActiveSettings.AlarmTime = 78;
+    platform.clock.Set(platform.clock.Today() + TimeSerial(6, 29, 59));
+    platform.loop.After(1.5, [] { tmrUpdate_Timer(); });
+    const double before = platform.clock.SteadySeconds();
+    sub04F9(-1);
+    EXPECT_NEAR(platform.clock.SteadySeconds() - before, 2.0, 0.02);
+    EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
+    bool alarmIsUp = false;
+    platform.loop.After(2.0, [&] {
+        alarmIsUp = fMessage->Visible();
+        fMessage->cmdAlarmClose.UserClick();
+    });
+    TickAfter(1.0);
+    EXPECT_TRUE(alarmIsUp);
+}
+
 struct AlarmTest : ProgramTest {
     AlarmTest() {
         StartAgain();
@@ -238,6 +255,11 @@ TEST_F(AlarmTest, StandsForThreeHundredAndTenSeconds) {
     EXPECT_NEAR(SoundAlarm(), 2 + 20 * 3 + 20 * 12.51, 1e-6) << "rests take 10 ms";
     EXPECT_EQ(platform.dialogs.beeps, 20);
     EXPECT_FALSE(fMessage->IsLoaded());
+}
+
+TEST_F(AlarmTest, OneThatNobodyClosesDismissesNothing) {
+    SoundAlarm();
+    EXPECT_EQ(alarmDismissed, 0);
 }
 
 TEST_F(AlarmTest, TellsItsTimeAndOffersClose) {
