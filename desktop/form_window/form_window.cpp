@@ -272,6 +272,9 @@ QWindow* FormWindow::WindowBehind() const {
 void FormWindow::StayUsable() {
     disconnect(modalWindow_);
     QWindow* const modal = QGuiApplication::modalWindow();
+    if (modal != nullptr && modal->transientParent() == windowHandle()) {
+        modal->setTransientParent(nullptr);  // two windows never belong to each other
+    }
     windowHandle()->setTransientParent(modal);
     if (modal != nullptr) {
         modalWindow_ = connect(modal, &QWindow::visibleChanged, this, &FormWindow::StayUsable,

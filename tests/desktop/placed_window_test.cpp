@@ -55,6 +55,22 @@ TEST_F(PlacedWindowTest, IsHiddenBelowAndAboveItsScreenWithMonitorsThereToo) {
     EXPECT_TRUE(form.Visible());
 }
 
+TEST_F(PlacedWindowTest, BoxThatOpensFromItDoesNotBelongToWhatBelongsToIt) {
+    form.Load();
+    MoveTo(0.0, 0.0);
+    form.Show();
+    QApplication::setActiveWindow(&Window());
+    const QWindow* parentOfTheBox = Window().windowHandle();
+    QTimer::singleShot(0, [&] {
+        parentOfTheBox = QGuiApplication::modalWindow()->transientParent();
+        QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+        QtDialogs([] {}).ShowMessage("a box over the box", "", MessageIcon::kNone);
+        QApplication::activeModalWidget()->close();
+    });
+    QtDialogs([] {}).ShowMessage("a box", "", MessageIcon::kNone);
+    EXPECT_NE(parentOfTheBox, Window().windowHandle());
+}
+
 TEST_F(PlacedWindowTest, PartBeyondItsScreenIsMasked) {
     const ScreenCorner corner = port.WorkArea();
     form.Load();
