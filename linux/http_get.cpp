@@ -49,6 +49,8 @@ bool Run(CURL* transfer, const std::string& address, long milliseconds, Body& bo
     curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
     curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMostRedirections);
     curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, milliseconds);
+    // A name server that keeps silent is not waited for beyond that.
+    curl_easy_setopt(transfer, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, TakeBlock);
     curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
     return curl_easy_perform(transfer) == CURLE_OK;

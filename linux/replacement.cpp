@@ -77,6 +77,7 @@ Replacement::Replacement(const std::string& path) : path_(path), old_(StatusOfRe
         RefuseAnother(folder_, name_, *old_, path);
     }
     OpenTemporary();
+    KeepPermissions();
 }
 
 Replacement::~Replacement() {
@@ -111,7 +112,6 @@ void Replacement::KeepPermissions() const {
 }
 
 void Replacement::Commit() {
-    KeepPermissions();
     Flush(file_, path_);
     if (::renameat(folder_.Number(), temporaryName_.c_str(), folder_.Number(), name_.c_str()) !=
         0) {

@@ -13,6 +13,7 @@
 
 #include "base/fault.h"
 #include "linux/posix_files.h"
+#include "linux/replacement.h"
 #include "support/temporary_folder.h"
 
 namespace horavex {
@@ -161,6 +162,16 @@ TEST_F(ReplaceFileTest, PermissionsOfTheOldFileStay) {
     ASSERT_EQ(::chmod((folder / "a").c_str(), 0604), 0);
     ReplaceFile(folder / "a", BytesOf("new"));
     EXPECT_EQ(ModeOf("a"), 0604U);
+}
+
+TEST_F(ReplaceFileTest, NewContentIsNeverOpenToMoreThanTheOldFileWas) {
+    ReplaceFile(folder / "a", {});
+    ASSERT_EQ(::chmod((folder / "a").c_str(), 0600), 0);
+    const Replacement replacement(folder / "a");
+    replacement.Append(BytesOf("new"));
+    for (const auto& entry : fs::directory_iterator(folder / ".")) {
+        EXPECT_EQ(ModeOf(entry.path().filename()), 0600U);
+    }
 }
 
 TEST_F(ReplaceFileTest, LinkStaysALinkAndTheFileBehindItIsReplaced) {
