@@ -108,6 +108,7 @@ void AcceptPlace() {
     }
     ActiveCityText = CityText;
     ActiveLocation = Location;
+    frmMain->lblCity.SetCaption(ActiveCityText);
     HoravexMainForm->lblCityBanner.SetCaption(Text(25) + ": " + ActiveCityText);
 }
 
@@ -128,12 +129,6 @@ void EnableQibla() {
     HoravexMainForm->cmdQibla.SetEnabled(Settings.CityIndex != kMeccaCityIndex);
 }
 
-/// The calculation still spoke the language of the former settings.
-void TellQibla() {
-    ComputeQibla();
-    frmMain->lblQibla.SetCaption(QiblaText);
-}
-
 void Accept() {
     RunStep(AcceptPlace);
     RunStep(AcceptLanguage);
@@ -141,7 +136,7 @@ void Accept() {
     RunStep(AcceptAthanType);
     ActiveSettings = Settings;
     ActiveIshaAngle = IshaAngle;
-    RunStep(TellQibla);
+    RunStep(Qibla);  // the calculation still spoke the language of the former settings
     RunStep(SaveActiveSettings);
 }
 
@@ -175,7 +170,11 @@ void Commit() {
 
 }  // namespace
 
+// An athan opens the window to the user while a commit waits, and its button stays without effect.
 void SettingsSet_Click() {
+    if (CommitIsRunning()) {
+        return;
+    }
     const auto zone = ZoneIn(HoravexMainForm->txtTimeZone.Text(), kLastZone);
     if (!zone) {
         RefuseZone();

@@ -4,7 +4,8 @@ namespace horavex {
 
 // A commit calculates the year with the working values and, if that succeeds, accepts and stores
 // them; the working settings and the Isha angle are stored in either case. The windows that edit
-// working values are shut to the user from its beginning to its end.
+// working values are shut to the user from its beginning to its end; where an athan opens one of
+// them all the same, its set button has no effect until then.
 
 /// The set button: a commit of what the window shows, which hides it. A time zone that is no number
 /// from -12 to 12 is refused with a message and nothing is stored.

@@ -144,9 +144,12 @@ void cmdDefault_Click() {
 }
 
 /// Another city in a record comes with its place: an index beside the place of another city would
-/// be accepted as it stands. One that no file knows gives way to the accepted one.
+/// be accepted as it stands. Its zone comes with it. One that no file knows gives way to the
+/// accepted one.
 void LookUpWorkingPlace() {
-    if (!FindLocation(Settings.CityIndex, Location, CityText)) {
+    if (FindLocation(Settings.CityIndex, Location, CityText)) {
+        ShowTimeZone();
+    } else {
         Settings.CityIndex = ActiveSettings.CityIndex;
     }
 }

@@ -51,7 +51,11 @@ void HoravexMainForm_Resize() {
 
 }  // namespace
 
+// While a commit runs the working values are not those that the window is about to edit.
 void OpenSettings() {
+    if (CommitIsRunning()) {
+        return;
+    }
     if (!HoravexMainForm->Visible()) {
         ShowWorkingValues();
     }

@@ -69,8 +69,10 @@ void TellFault(const Fault& fault) {
 /// A fault on the way is a calculation that gave up, and is told like one.
 void CalculateBehindProgress() {
     try {
-        ShowProgressWindow();
-        RecalculateYear();
+        WithMemoryFaults([] {
+            ShowProgressWindow();
+            RecalculateYear();
+        });
     } catch (const Fault& fault) {
         CalcFailed = -1;
         TellFault(fault);
@@ -94,11 +96,10 @@ void RefreshAfterGap() {
 
 /// None where the year has turned since the table was made.
 std::optional<std::size_t> RowOf(Date day) {
-    const double row = day - DateSerial(CurrentYear, 1, 1);
-    if (row < 0.0 || row >= static_cast<double>(kYearRows)) {
+    if (CivilFromDate(day).year != CurrentYear) {
         return std::nullopt;
     }
-    return static_cast<std::size_t>(row);
+    return static_cast<std::size_t>(day - DateSerial(CurrentYear, 1, 1));
 }
 
 void ShowTimes(const DayMoments& moments) {

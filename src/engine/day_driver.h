@@ -21,7 +21,7 @@ public:
     /// Direction of Mecca as last worked out, degrees from north, positive to the east.
     virtual double QiblaBearing() = 0;
 
-    /// The action of the settings window's set button.
+    /// The set action that the clock runs by itself: a set of the accepted values.
     virtual void RunSetAction() = 0;
 
     /// Hands the day's values to the face.
@@ -36,7 +36,8 @@ void InstallDayHost(DayHost* host);
 void RecalculateYear();
 
 /// Recalculates the present year behind the progress window, which stays up for three seconds at
-/// least, and shows the day, also after a calculation that gave up. Needs an installed host.
+/// least, and shows the day, also after a calculation that gave up; behind it the accepted year is
+/// back. Needs an installed host.
 void RefreshAll();
 
 /// The day of a moment by the calculated year; none for a day outside the table. Needs an

@@ -30,9 +30,10 @@ YearPlace PresentPlace() {
 }
 
 void TakePlace(const CityRecord& city, const std::string& text) {
+    const YearPlace place = PlaceOf(city, 0.0);
     YearCityText = text;
-    LatitudeRad = DegToRad(StoredCoord(city.Latitude));
-    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(city.Longitude));
+    LatitudeRad = place.latitudeRad;
+    LongitudeWestRad = place.longitudeWestRad;
 }
 
 }  // namespace horavex

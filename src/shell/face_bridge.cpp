@@ -95,9 +95,4 @@ void OnFaceCommand(const std::string& command) {
     }
 }
 
-void Qibla() {
-    ComputeQibla();
-    frmMain->lblQibla.SetCaption(QiblaText);
-}
-
 }  // namespace horavex

@@ -15,7 +15,4 @@ void SetFlashVariables();
 /// Does what a command of the face asks for; its case counts, and an unknown one is ignored.
 void OnFaceCommand(const std::string& command);
 
-/// frmMain's own computation of the qibla, shown in its label.
-void Qibla();
-
 }  // namespace horavex

@@ -134,6 +134,9 @@ void SettingsForm_Load() {
     alarmDismissed = kFalse;
     Settings_Form_Load();
     LoadQiblaLabels();
+    if (HoravexMainForm->Visible()) {
+        ShowWorkingValues();  // the stored record may hold another city than the window shows
+    }
     CheckAthanFiles();
     TrayAdd();
 }

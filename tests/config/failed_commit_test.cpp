@@ -1,5 +1,8 @@
 // What is left on view by a set that was refused, and what the user can do while one runs.
 
+#include "athan/athan_state.h"
+#include "base/flag.h"
+#include "config/commit.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
 #include "engine/current_year.h"
@@ -291,7 +294,7 @@ TEST_F(SetByClockTest, RefusedIshaAngleIsNotTaken) {
     EXPECT_EQ(Stored("Isha Dep Angle"), "18");
 }
 
-TEST_F(SetByClockTest, WaitsForTheEndOfASetThatRuns) {
+TEST_F(SetByClockTest, IsPassedOverWhileASetRuns) {
     PickTromso();
     platform.loop.After(1.0, [this] { PassTwoDays(); });
     form.SettingsSet.UserClick();
@@ -320,6 +323,61 @@ TEST_F(SetByClockTest, NewYearDuringASetIsTheAcceptedOneAtTheNextTick) {
     EXPECT_EQ(CurrentYear, 2027);
     EXPECT_EQ(CalcFailed, 0);
     EXPECT_NEAR(Times[kFajr][0], acceptedTimes[kFajr][0], 0.01);
+}
+
+TEST_F(SetByClockTest, TicksOfTheNewYearDuringASetShowNothingAndCallNobody) {
+    platform.clock.Set(DateSerial(2026, 12, 31) + TimeSerial(23, 59, 59));
+    LastRefreshDate = platform.clock.Today();
+    ShowDay();
+    const auto lastDay = TodayTimes;
+    for (const double seconds : {2.0, 2.9}) {
+        platform.loop.After(seconds, [&] {
+            tmrUpdate_Timer();
+            EXPECT_EQ(TodayTimes, lastDay);
+            EXPECT_EQ(athanActive, kFalse);
+        });
+    }
+    form.SettingsSet.UserClick();
+}
+
+TEST_F(FailedCommitTest, SetButtonOfAWindowThatAnAthanHasOpenedHasNoEffect) {
+    PickTromso();
+    platform.loop.After(2.5, [this] {
+        form.SetEnabled(true);
+        Settings = accepted;
+        Location = ActiveLocation;
+        form.txtTimeZone.SetText("+3.00");
+        form.SettingsSet.UserClick();
+    });
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(CalcFailed, -1);
+    EXPECT_EQ(ActiveSettings, accepted);
+    EXPECT_EQ(Times, acceptedTimes);
+}
+
+TEST_F(FailedCommitTest, SettingsDoNotComeUpFromTheMenuMeanwhile) {
+    form.Hide();
+    bool open = true;
+    platform.loop.After(1.0, [&] {
+        OpenSettings();
+        open = form.Visible();
+    });
+    SetAcceptedAgain();
+    EXPECT_FALSE(open);
+}
+
+TEST_F(FailedCommitTest, CityOfTheFaceFollowsASetThatSucceedsAfterAll) {
+    Settings.CityIndex = IndexOf("Cairo");
+    CityText = LookupLocation(Settings.CityIndex, Location);
+    form.txtTimeZone.SetText("2");
+    BreakDaylightDays();
+    form.SettingsSet.UserClick();
+    ASSERT_EQ(frmMain->lblCity.Caption(), "Mecca, Mecca - Saudi Arabia");
+    Settings.DstEnabled = 0;
+    form.SettingsSet.UserClick();
+    ASSERT_EQ(CalcFailed, 0);
+    EXPECT_EQ(frmMain->lblCity.Caption(), ActiveCityText);
+    EXPECT_THAT(ActiveCityText, testing::HasSubstr("Cairo"));
 }
 
 TEST_F(SetByClockTest, StoresTheAcceptedValuesAgain) {

@@ -539,6 +539,16 @@ TEST_F(SettingsWindowTest, StoredCityComesWithItsPlace) {
     EXPECT_EQ(ActiveSettings.CityIndex, kMeccaCityIndex);
 }
 
+TEST_F(SettingsWindowTest, StoredCityComesWithItsZone) {
+    SettingsRecord refused = ActiveSettings;
+    refused.CityIndex = SearchCities(ListCities(), "Tromsø").at(0)->cityIndex;
+    refused.TimeZone = 1.0;
+    Settings = refused;
+    SaveWorkingSettings();
+    form.UserClose();
+    EXPECT_EQ(form.txtTimeZone.Text(), "+1.00");
+}
+
 TEST_F(SettingsWindowTest, MinimisedWindowHides) {
     ShowSettingsWindow();
     form.SetWindowState(WindowState::kMinimized);

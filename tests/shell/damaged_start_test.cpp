@@ -11,6 +11,7 @@
 #include "engine/day_driver.h"
 #include "shell/tick.h"
 #include "store/angle_band.h"
+#include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/location_text.h"
 #include "support/data_folder.h"
@@ -83,6 +84,24 @@ TEST_P(WildCity, IsToldOnceAndTheSettingsWindowMendsIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BeforeTheFirst, WildCity, testing::Values(-32768, -32001));
+
+TEST_F(DamagedStart, CityOfTheStoredRecordIsTheOneOnView) {
+    const SettingsRecord sound = record;
+    platform.files.WriteWhole(
+        kWorking, RecordOf([&] {
+            SettingsRecord london = sound;
+            london.CityIndex = SearchCities(ListCities(), "London, England").at(0)->cityIndex;
+            london.TimeZone = 0.0;
+            return london;
+        }()));
+    record.CityIndex = -32768;
+    platform.files.WriteWhole(kActive, RecordOf(record));
+    Start();
+    ASSERT_TRUE(form().Visible());
+    EXPECT_EQ(Location.City.Name, "London");
+    EXPECT_THAT(form().lblCity.Caption(), testing::StartsWith("London"));
+    EXPECT_EQ(form().txtTimeZone.Text(), "+0.00");
+}
 
 TEST_F(DamagedStart, CityBehindTheLastIsToldToo) {
     DataFolder(platform.files).ShrinkBy("Dat/CI.DAT", 100);
