@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -36,10 +37,29 @@ protected:
     }
 
     /// A modal window.
+    /// Does it over and over with time to work in between, until the test is true: a face that has
+    /// just come up may still be moved, or not be active yet, while the user's doing is on its way.
+    static bool DoUntil(const std::string& what, const std::function<void()>& act,
+                        const std::function<bool()>& test) {
+        constexpr int kLooks = 100;
+        return WaitUntil(what, [&, looks = 0]() mutable {
+            if (looks++ % kLooks == 0) {
+                act();
+            }
+            return test();
+        });
+    }
+
     void OpenPrayerTimes(const ChildProcess& program, const std::string& face) {
-        desktop.Use(
-            {"xdotool", "mousemove", "--window", face, "100", "300"});  // where it sees it come
-        desktop.Click(face, 136, 386);
+        const std::size_t before = CountOfWindows(program);
+        DoUntil(
+            "the window Prayer Times",
+            [&] {
+                // The pointer is seen to come.
+                desktop.Use({"xdotool", "mousemove", "--window", face, "100", "300"});
+                desktop.Click(face, 136, 386);
+            },
+            [&] { return CountOfWindows(program) > before; });
         desktop.WaitForWindow(program, "Prayer Times");
     }
 
@@ -66,8 +86,12 @@ TEST_F(TrayTest, CloseRequestOfTheManagerHidesTheFace) {
     const ChildProcess program = StartProgram();
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     WaitForIcon(program);
-    desktop.Use({"xdotool", "windowactivate", "--sync", face, "key", "alt+F4"});
-    EXPECT_TRUE(WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); }));
+    EXPECT_TRUE(DoUntil(
+        "a hidden face",
+        [&] {
+            desktop.Use({"xdotool", "windowactivate", face, "sleep", "0.2", "key", "alt+F4"});
+        },
+        [&] { return !desktop.IsOnView(program, face); }));
     EXPECT_TRUE(program.IsRunning());
 }
 
