@@ -119,6 +119,7 @@ TEST_F(GridBinderTest, RowsAreHigherWhereTheTextsAre) {
     large.setPointSize(30);
     QApplication::setFont(large);
     GridForm other;
+    other.grid.heads = {"Day"};
     other.grid.rows = {{{"1"}, false, false}};
     other.Show();
     QApplication::processEvents();
