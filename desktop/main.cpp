@@ -7,7 +7,7 @@
 #include "desktop/fault_box.h"
 #include "desktop/printing/document_desk.h"
 #include "linux/sound/sound_import.h"
-#include "shell/start.h"
+#include "shell/wiring.h"
 #include "windows/frm_main.h"
 
 namespace {

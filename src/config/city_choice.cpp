@@ -58,7 +58,6 @@ void cmdChangeCity_Click() {
 }
 
 void BindCityChoice() {
-    BindCityPicker();
     fCountry->onPick = TakePickedCity;
     HoravexMainForm->cmdChangeCity.onClick = cmdChangeCity_Click;
 }

@@ -12,7 +12,7 @@ void TakePickedCity(std::int16_t cityIndex);
 /// The button that changes the city: opens the picker beside the settings window.
 void cmdChangeCity_Click();
 
-/// Binds the button and the picker.
+/// Binds the button, and what a pick for the settings does.
 void BindCityChoice();
 
 }  // namespace horavex

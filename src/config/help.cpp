@@ -6,7 +6,9 @@
 #include "config/help_topics.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
+#include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -53,6 +55,10 @@ HelpView NewView() {
             .page = 0};
 }
 
+void mnuHelpIndex_Click() {
+    ShowHelpContext(kHelpIndex);
+}
+
 }  // namespace
 
 void InitHelp(const std::string& windowHandle, std::string folder) {
@@ -89,7 +95,10 @@ void ShowHelpOf(const Form& form) {
 
 void BindHelp() {
     InstallHelpKey(ShowHelpOf);
-    HoravexMainForm->Help.onClick = [] { ShowHelpContext(kHelpIndex); };
+    frmMain->mnuHelpIndex.onClick = mnuHelpIndex_Click;
+    frmMain->mnuPopHelp.onClick = mnuHelpIndex_Click;
+    frmAthan->AthanSettingHelp.onClick = mnuHelpIndex_Click;
+    HoravexMainForm->Help.onClick = mnuHelpIndex_Click;
     HoravexMainForm->SettingsHelp.onClick = [] { ShowHelpContext(kHelpSettings); };
     HoravexMainForm->QiblaHelpButton.onClick = [] { ShowHelpContext(kHelpQibla); };
     frmDateConvert->HijriDateConversionHelp.onClick = [] { ShowHelpContext(kHelpDateConversion); };

@@ -47,7 +47,7 @@ void CloseHelp();
 /// it.
 void ShowHelpOf(const Form& form);
 
-/// Binds the help key and the help buttons of HoravexMainForm.
+/// Binds the help key, the help entries of the menus and the help buttons of the windows.
 void BindHelp();
 
 }  // namespace horavex

@@ -8,7 +8,6 @@
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"
-#include "config/wizard.h"
 #include "store/cancel_load.h"
 #include "store/isha_setting.h"
 #include "store/location_files.h"
@@ -77,7 +76,6 @@ void BindSettingsWindow() {
     BindSettingsControls();
     BindCityChoice();
     BindNewCoordinates();
-    BindWizard();
     HoravexMainForm->SettingsSet.onClick = SettingsSet_Click;
     HoravexMainForm->chkAddToStartup.onClick = chkAddToStartup_Click;
     HoravexMainForm->onCloseRequest = HoravexMainForm_QueryUnload;

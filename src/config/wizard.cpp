@@ -3,11 +3,11 @@
 #include "base/flag.h"
 #include "base/int16.h"
 #include "base/nearest_int.h"
+#include "base/program_state.h"
 #include "base/steps.h"
 #include "config/angle_sliders.h"
 #include "config/commit.h"
 #include "config/computer_zone.h"
-#include "config/first_run.h"
 #include "config/method_list.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
@@ -29,7 +29,11 @@
 
 namespace horavex {
 
+std::int16_t firstRun = kFalse;
+
 namespace {
+
+const ProgramStateReset reset([] { firstRun = kFalse; });
 
 constexpr std::int16_t kZonePage = 2;
 constexpr std::int16_t kLastPage = 4;

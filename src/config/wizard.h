@@ -5,6 +5,10 @@
 
 namespace horavex {
 
+/// -1 at a start that found no Isha angle stored. Written by the start; read at its end and by
+/// the wizard.
+extern std::int16_t firstRun;
+
 /// Brings the wizard up in front of the face, without blocking.
 void ShowWizard();
 

@@ -103,4 +103,9 @@ void mnuL_Click(int index) {
     TranslateOnLoad(*frmMain);
 }
 
+void BindLanguageMenu() {
+    frmMain->mnuL.Bind(
+        [](MenuItem& item) { item.onClick = [&item] { mnuL_Click(item.Index()); }; });
+}
+
 }  // namespace horavex

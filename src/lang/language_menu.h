@@ -20,4 +20,7 @@ void BuildLanguageMenu(const std::string& language);
 /// for an index without an item.
 void mnuL_Click(int index);
 
+/// Binds the items of mnuL, those that are still to come included.
+void BindLanguageMenu();
+
 }  // namespace horavex

@@ -16,10 +16,7 @@ void mnuExit_Click();
 /// Turns the face's visibility over; the check mark follows this command only.
 void mnuPopShow_Click();
 
-/// Opens the vendor's root page, or tells how the machine is connected where it is not online.
-void mnuPopVisitWebSite_Click();
-
-/// Binds the menu entries.
+/// Binds the entries that are the shell's own.
 void BindMenus();
 
 }  // namespace horavex

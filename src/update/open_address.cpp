@@ -19,6 +19,10 @@ void OpenPage(const std::string& address) {
     OpenIt(address);
 }
 
+void mnuPopVisitWebSite_Click() {
+    OpenPage(WebServer() + "/");
+}
+
 void AboutUpdateButton_Click() {
     OpenPage(HomePage());
 }

@@ -16,7 +16,7 @@
 #include "desktop/form_window/form_windows.h"
 #include "geo/city_picker.h"
 #include "moon/ramadan_window.h"
-#include "shell/start.h"
+#include "shell/wiring.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"

@@ -2,9 +2,9 @@
 
 #include "athan/athan_state.h"
 #include "base/program_state.h"
+#include "config/wizard.h"
 #include "engine/day_state.h"
 #include "lang/language_pack.h"
-#include "shell/menus.h"
 #include "support/program_test.h"
 #include "windows/frm_wizard.h"
 

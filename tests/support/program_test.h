@@ -4,7 +4,7 @@
 
 #include "engine/year_table.h"
 #include "forms/form_host.h"
-#include "shell/start.h"
+#include "shell/wiring.h"
 #include "store/location_record.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"

@@ -13,7 +13,7 @@
 #include "lang/language_pack.h"
 #include "moon/moon_window.h"
 #include "moon/ramadan_window.h"
-#include "shell/start.h"
+#include "shell/wiring.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"

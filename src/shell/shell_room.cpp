@@ -1,0 +1,23 @@
+#include "shell/shell_room.h"
+
+#include "platform/platform.h"
+#include "shell/face_bridge.h"
+#include "shell/menus.h"
+#include "shell/start.h"
+#include "shell/tick.h"
+#include "shell/tray_icon.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+void BindShellRoom() {
+    BindStart();
+    BindMenus();
+    frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
+    Ports().tray.onMessage = traypic_MouseMove;
+    Ports().face.onFSCommand = [](const std::string& command, const std::string&) {
+        OnFaceCommand(command);
+    };
+}
+
+}  // namespace horavex

@@ -1,0 +1,15 @@
+#include "update/update_room.h"
+
+#include "update/open_address.h"
+#include "update/update_check.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+void BindUpdateRoom() {
+    BindUpdateCheck();
+    frmMain->mnuUpdate.onClick = Update;
+    frmMain->mnuPopVisitWebSite.onClick = mnuPopVisitWebSite_Click;
+}
+
+}  // namespace horavex
