@@ -14,7 +14,6 @@
 #include "moon/moon_rise_set.h"
 #include "moon/moon_row_labels.h"
 #include "store/language_setting.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
@@ -38,13 +37,11 @@ std::vector<std::string> Filled(const MoonRows& rows) {
     return {rows.begin(), rows.begin() + kMoonRows};
 }
 
-void TakeYear(Session& session, const YearOptions& options) {
+double ZoneOf(const YearOptions& options) {
     if (!IsNumeric(options.zone)) {
         RefuseUsage("--zone: \"" + options.zone + "\" is no number of hours");
     }
-    currentLanguage = ReadStoredLanguage();
-    HoravexMainForm->txtTimeZone.SetText(options.zone);
-    session.platform.clock.StandAt(DateSerial(options.year, 1, 1));
+    return WholeZone(options.zone);
 }
 
 std::string TableText(const char* title, const MoonRows& rows) {
@@ -64,21 +61,22 @@ std::string LabelsText(const std::vector<std::string>& labels) {
 }
 
 void PrintMoon(Session& session, const YearOptions& options) {
-    TakeYear(session, options);
-    ComputeNewMoonRows();
-    ComputeFirstQuarterRows();
-    ComputeFullMoonRows();
-    ComputeLastQuarterRows();
-    const auto labels = MoonRowLabels(ToInt16(options.year));
-    session.Print({{"newMoon", Filled(NewMoonRows)},
-                   {"firstQuarter", Filled(FirstQuarterRows)},
-                   {"fullMoon", Filled(FullMoonRows)},
-                   {"lastQuarter", Filled(LastQuarterRows)},
+    const double zone = ZoneOf(options);
+    const std::int16_t year = ToInt16(options.year);
+    const MoonRows newMoons = ComputeNewMoonRows(year, zone);
+    const MoonRows firstQuarters = ComputeFirstQuarterRows(year, zone);
+    const MoonRows fullMoons = ComputeFullMoonRows(year, zone);
+    const MoonRows lastQuarters = ComputeLastQuarterRows(year, zone);
+    currentLanguage = ReadStoredLanguage();
+    const auto labels = MoonRowLabels(year, newMoons);
+    session.Print({{"newMoon", Filled(newMoons)},
+                   {"firstQuarter", Filled(firstQuarters)},
+                   {"fullMoon", Filled(fullMoons)},
+                   {"lastQuarter", Filled(lastQuarters)},
                    {"labels", labels}},
-                  TableText("New Moon", NewMoonRows) +
-                      TableText("First Quarter", FirstQuarterRows) +
-                      TableText("Full Moon", FullMoonRows) +
-                      TableText("Last Quarter", LastQuarterRows) + LabelsText(labels));
+                  TableText("New Moon", newMoons) + TableText("First Quarter", firstQuarters) +
+                      TableText("Full Moon", fullMoons) + TableText("Last Quarter", lastQuarters) +
+                      LabelsText(labels));
 }
 
 /// Lines end as those of a terminal do.
@@ -88,12 +86,14 @@ std::string WithoutReturns(std::string text) {
 }
 
 void PrintEclipses(Session& session, const YearOptions& options) {
-    TakeYear(session, options);
-    const std::string solar = ListSolarEclipses();
-    const MoonRows solarRows = SolarEclipseRows;  // the lunar list clears an entry
-    const std::string lunar = ListLunarEclipses();
+    const double zone = ZoneOf(options);
+    const std::int16_t year = ToInt16(options.year);
+    Eclipses eclipses;
+    const std::string solar = ListSolarEclipses(eclipses, year, zone);
+    const MoonRows solarRows = eclipses.SolarEclipseRows;  // the lunar list clears an entry
+    const std::string lunar = ListLunarEclipses(eclipses, year, zone);
     session.Print({{"solar", {{"text", solar}, {"rows", solarRows}}},
-                   {"lunar", {{"text", lunar}, {"rows", LunarEclipseRows}}}},
+                   {"lunar", {{"text", lunar}, {"rows", eclipses.LunarEclipseRows}}}},
                   WithoutReturns("Solar\n" + solar + "Lunar\n" + lunar));
 }
 

@@ -6,7 +6,6 @@
 #include "base/date.h"
 #include "base/fault.h"
 #include "base/int16.h"
-#include "base/program_state.h"
 #include "base/text.h"
 #include "calendar/date_entry.h"
 #include "calendar/date_text.h"
@@ -14,11 +13,7 @@
 
 namespace horavex {
 
-std::array<std::string, kMoonMonthLabels> MoonMonthLabels;
-
 namespace {
-
-const ProgramStateReset reset([] { MoonMonthLabels.fill(""); });
 
 constexpr double kDaysToVisibility = 2.0;
 
@@ -43,9 +38,9 @@ std::string Label(const char* name, std::int16_t year) {
     return std::string(name) + " " + std::to_string(year);
 }
 
-void FillYear(std::size_t first, std::int16_t year) {
+void FillYear(MoonMonthLabels& labels, std::size_t first, std::int16_t year) {
     for (std::size_t month = 0; month < std::size(kNames); ++month) {
-        MoonMonthLabels[first + month] = Label(kNames[month], year);
+        labels[first + month] = Label(kNames[month], year);
     }
 }
 
@@ -84,14 +79,15 @@ std::string LabelOfRow(const std::string& row) {
 
 }  // namespace
 
-void BuildMoonMonthLabels(std::int16_t year) {
-    MoonMonthLabels.fill("");
+MoonMonthLabels BuildMoonMonthLabels(std::int16_t year) {
+    MoonMonthLabels labels;
     for (std::size_t i = 0; i < std::size(kLeadingNames); ++i) {
-        MoonMonthLabels[i] = Label(kLeadingNames[i], SubtractInt16(year, 580));
+        labels[i] = Label(kLeadingNames[i], SubtractInt16(year, 580));
     }
-    FillYear(3, SubtractInt16(year, 579));
-    FillYear(15, SubtractInt16(year, 578));
-    FillYear(27, 0);
+    FillYear(labels, 3, SubtractInt16(year, 579));
+    FillYear(labels, 15, SubtractInt16(year, 578));
+    FillYear(labels, 27, 0);
+    return labels;
 }
 
 std::optional<LabelSlice> MoonLabelRows(std::int16_t year) {

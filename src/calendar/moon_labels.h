@@ -10,13 +10,12 @@ namespace horavex {
 /// Labels of Hijri months with their years, "Safar  1447", for the rows of the moon tables. The
 /// names of some months end in a blank of their own, so that two stand before the year
 /// (MoonLabelsTest.TableHoldsFourBlocks). Entry 39 stays empty; the year of
-/// entries 27 to 38 is 0, and they are never shown. Written by BuildMoonMonthLabels.
-inline constexpr std::size_t kMoonMonthLabels = 40;
-extern std::array<std::string, kMoonMonthLabels> MoonMonthLabels;
+/// entries 27 to 38 is 0, and they are never shown.
+using MoonMonthLabels = std::array<std::string, 40>;
 
-/// Fills the table for a Gregorian year by fixed offsets. Throws OverflowFault for a year whose
-/// Hijri year leaves a 16-bit field.
-void BuildMoonMonthLabels(std::int16_t year);
+/// The table for a Gregorian year, by fixed offsets. Throws OverflowFault for a year whose Hijri
+/// year leaves a 16-bit field.
+MoonMonthLabels BuildMoonMonthLabels(std::int16_t year);
 
 /// The entries that label the rows of a Gregorian year, both ends included.
 struct LabelSlice {

@@ -2,18 +2,10 @@
 
 #include <cmath>
 
-#include "base/program_state.h"
 #include "engine/angle.h"
 #include "moon/periodic_sum.h"
 
 namespace horavex {
-
-MoonRows SolarEclipseRows;
-MoonRows LunarEclipseRows;
-std::string EclipseHemisphereText;
-std::string EclipseShadowText;
-std::string EclipseKindText;
-std::string EclipseTotalityText;
 
 namespace {
 
@@ -21,17 +13,6 @@ namespace {
 constexpr double kPi = 3.14159265358979;
 
 constexpr const char* kCentral = "The Eclipse is Central";
-
-/// Texts of the last row that was written. A solar eclipse that is classified without a row of its
-/// own takes them over into its entry.
-std::string dateText;
-std::string timeText;
-
-const ProgramStateReset reset([] {
-    SolarEclipseRows.fill("");
-    LunarEclipseRows.fill("");
-    ClearEclipses();
-});
 
 // Multiples of M', M, the corrected F, O and A1; the power of E; column 0 the Sun, 1 the Moon.
 constexpr PeriodicTerm kTerms[] = {
@@ -48,10 +29,13 @@ constexpr PeriodicTerm kTerms[] = {
 struct Body {
     double offset;  // of the lunation number
     int column;
-    MoonRows& rows;
-    void (*classify)(const EclipseGeometry&);
+    MoonRows Eclipses::*rows;
+    void (*classify)(const EclipseGeometry& geometry, Eclipses& eclipses);
     bool rewritesItsEntry;
 };
+
+constexpr Body kSun = {0.0, 0, &Eclipses::SolarEclipseRows, ClassifySolarEclipse, true};
+constexpr Body kMoon = {0.5, 1, &Eclipses::LunarEclipseRows, ClassifyLunarEclipse, false};
 
 double UnreducedA1(const Lunation& at) {
     return (299.77 + 0.107408 * at.k - 0.009173 * at.T * at.T) * kPi / 180.0;
@@ -63,22 +47,22 @@ double InstantOf(const Body& body, const Lunation& at, double latitude) {
     return PeriodicSum(kTerms, body.column, angles, at.eccentricity) + at.day;
 }
 
-void TakeTexts(double instant) {
-    MoonDateFromDay(instant);
-    dateText = MoonDateText();
-    timeText = MoonClockText(0);
+void TakeTexts(double instant, double zone, Eclipses& eclipses) {
+    const MoonDate date = MoonDateFromDay(instant, zone);
+    eclipses.dateText = MoonDateText(date);
+    eclipses.timeText = MoonClockText(date, zone, 0);
 }
 
-void SetShadowAndHemisphere(const EclipseGeometry& geometry) {
+void SetShadowAndHemisphere(const EclipseGeometry& geometry, Eclipses& eclipses) {
     const double size = std::fabs(geometry.gamma);
     if ((1.0128 - geometry.u - size) / 0.545 > 0.0) {
-        EclipseShadowText = "The Eclipse was an umbral one";
+        eclipses.EclipseShadowText = "The Eclipse was an umbral one";
     } else if ((geometry.u + 1.5573 - size) / 0.545 > 0.0) {
-        EclipseShadowText = "The Eclipse was a penumbral one";
+        eclipses.EclipseShadowText = "The Eclipse was a penumbral one";
     }
-    EclipseHemisphereText = geometry.gamma > 0.0
-                                ? "The Eclipse is visible in the Northern Hemisphere"
-                                : "The Eclipse is visible in the Southern Hemisphere";
+    eclipses.EclipseHemisphereText = geometry.gamma > 0.0
+                                         ? "The Eclipse is visible in the Northern Hemisphere"
+                                         : "The Eclipse is visible in the Southern Hemisphere";
 }
 
 /// A truth value as a number takes part in a comparison.
@@ -86,56 +70,74 @@ double Truth(bool value) {
     return value ? -1.0 : 0.0;
 }
 
-/// Returns the row of the list, with Crlf behind it, or nothing.
-std::string ListTwelfth(const Body& body, std::int16_t year, std::size_t i) {
-    const Lunation at = LunationOf(year, static_cast<std::int16_t>(i), body.offset);
-    if (!NearNode(std::sin(at.latitude))) {
-        return {};
+/// One list in the making.
+struct Listing {
+    const Body& body;
+    Eclipses& eclipses;
+    std::int16_t year;
+    double zone;
+
+    std::string& Row(std::size_t i) const { return (eclipses.*body.rows)[i]; }
+
+    /// Writes the row of a candidate and returns it with Crlf behind it.
+    std::string ListRow(std::size_t i, double instant) const {
+        TakeTexts(instant, zone, eclipses);
+        Row(i) = eclipses.dateText + "  ,  " + eclipses.timeText;
+        return Row(i) + Crlf;
     }
-    const double latitude = at.latitude - 0.02665 * std::sin(at.node);
-    std::string listed;
-    if (IsListed(180.0 - at.latitude * 180.0 / kPi)) {
-        TakeTexts(InstantOf(body, at, latitude));
-        body.rows[i] = dateText + "  ,  " + timeText;
-        listed = body.rows[i] + Crlf;
-    }
-    const EclipseGeometry geometry = GeometryOf(at, latitude);
-    if (IsEclipse(geometry)) {
-        body.classify(geometry);
+
+    void Classify(std::size_t i, const EclipseGeometry& geometry) const {
+        body.classify(geometry, eclipses);
         if (body.rewritesItsEntry) {
-            body.rows[i] = dateText + "  , " + timeText;
+            Row(i) = eclipses.dateText + "  , " + eclipses.timeText;
         }
     }
-    return listed;
-}
 
-std::string List(const Body& body) {
-    ClearEclipses();
-    const std::int16_t year = PresentYear();
+    /// Returns the row of the list, or nothing.
+    std::string ListTwelfth(std::size_t i) const {
+        const Lunation at = LunationOf(year, static_cast<std::int16_t>(i), body.offset);
+        if (!NearNode(std::sin(at.latitude))) {
+            return {};
+        }
+        const double latitude = at.latitude - 0.02665 * std::sin(at.node);
+        std::string listed;
+        if (IsListed(180.0 - at.latitude * 180.0 / kPi)) {
+            listed = ListRow(i, InstantOf(body, at, latitude));
+        }
+        const EclipseGeometry geometry = GeometryOf(at, latitude);
+        if (IsEclipse(geometry)) {
+            Classify(i, geometry);
+        }
+        return listed;
+    }
+};
+
+std::string List(const Listing& listing) {
+    ClearEclipses(listing.eclipses);
     std::string text;
     for (std::size_t i = 0; i < kMoonRows; ++i) {
-        text += ListTwelfth(body, year, i);
+        text += listing.ListTwelfth(i);
     }
     return text;
 }
 
 }  // namespace
 
-void ClearEclipses() {
+void ClearEclipses(Eclipses& eclipses) {
     for (std::string* text :
-         {&EclipseHemisphereText, &EclipseShadowText, &EclipseKindText, &EclipseTotalityText,
-          &SolarEclipseRows[0], &LunarEclipseRows[0], &dateText, &timeText}) {
+         {&eclipses.EclipseHemisphereText, &eclipses.EclipseShadowText, &eclipses.EclipseKindText,
+          &eclipses.EclipseTotalityText, &eclipses.SolarEclipseRows[0],
+          &eclipses.LunarEclipseRows[0], &eclipses.dateText, &eclipses.timeText}) {
         text->clear();
     }
-    ClearMoonDate();
 }
 
-std::string ListSolarEclipses() {
-    return List({0.0, 0, SolarEclipseRows, ClassifySolarEclipse, true});
+std::string ListSolarEclipses(Eclipses& eclipses, std::int16_t year, double zone) {
+    return List({kSun, eclipses, year, zone});
 }
 
-std::string ListLunarEclipses() {
-    return List({0.5, 1, LunarEclipseRows, ClassifyLunarEclipse, false});
+std::string ListLunarEclipses(Eclipses& eclipses, std::int16_t year, double zone) {
+    return List({kMoon, eclipses, year, zone});
 }
 
 bool NearNode(double sinLatitudeArgument) {
@@ -170,22 +172,22 @@ bool IsEclipse(const EclipseGeometry& geometry) {
 // The range test is a chain of two comparisons: the truth value of the first goes into the second.
 // It holds for every gamma, so that each eclipse of the Sun counts as central and none as total,
 // annular or partial.
-void ClassifySolarEclipse(const EclipseGeometry& geometry) {
+void ClassifySolarEclipse(const EclipseGeometry& geometry, Eclipses& eclipses) {
     if (Truth(std::fabs(geometry.gamma) > -0.9972) < 0.9972) {
-        EclipseKindText = kCentral;
+        eclipses.EclipseKindText = kCentral;
     }
-    SetShadowAndHemisphere(geometry);
+    SetShadowAndHemisphere(geometry, eclipses);
 }
 
-void ClassifyLunarEclipse(const EclipseGeometry& geometry) {
+void ClassifyLunarEclipse(const EclipseGeometry& geometry, Eclipses& eclipses) {
     if (std::fabs(geometry.gamma) < 1.005) {
-        EclipseKindText = kCentral;
+        eclipses.EclipseKindText = kCentral;
     } else if (geometry.u < 0.0) {
-        EclipseTotalityText = "The Eclipse is TOTAL";
+        eclipses.EclipseTotalityText = "The Eclipse is TOTAL";
     } else {
-        EclipseKindText = "The Eclipse is Partial";
+        eclipses.EclipseKindText = "The Eclipse is Partial";
     }
-    SetShadowAndHemisphere(geometry);
+    SetShadowAndHemisphere(geometry, eclipses);
 }
 
 }  // namespace horavex

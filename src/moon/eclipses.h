@@ -7,7 +7,7 @@
 
 namespace horavex {
 
-// Possible eclipses of the present year after the eclipse chapter of J. Meeus, Astronomical
+// Possible eclipses of a Gregorian year after the eclipse chapter of J. Meeus, Astronomical
 // Algorithms, first edition. The lists name candidates by date and clock alone; how each eclipse
 // looks is worked out too and kept in four texts that no window shows. Three things differ from the
 // book on purpose: the node's correction of the argument of latitude is taken as degrees but added
@@ -16,26 +16,34 @@ namespace horavex {
 // forms other rows would stand in the lists: docs/accuracy.md counts those without an eclipse, and
 // EclipsesTest.SolarListOf2001, LunarListOf2001 and CandidateThatMissesStaysListed hold them.
 
-/// Entry i belongs to the twelfth i of the year: "14 December 2001  ,  20hrs 52min". An entry stays
-/// as it was where that twelfth has no candidate; after an eclipse of the Sun was classified its
-/// entry reads "14 December 2001  , 20hrs 52min".
-extern MoonRows SolarEclipseRows;
-extern MoonRows LunarEclipseRows;
+/// What the lists leave behind, and the next one finds.
+struct Eclipses {
+    /// Entry i belongs to the twelfth i of the year: "14 December 2001  ,  20hrs 52min". An entry
+    /// stays as it was where that twelfth has no candidate; after an eclipse of the Sun was
+    /// classified its entry reads "14 December 2001  , 20hrs 52min".
+    MoonRows SolarEclipseRows;
+    MoonRows LunarEclipseRows;
 
-/// What the last classified eclipse left; each text keeps its former content where the
-/// classification has nothing to say.
-extern std::string EclipseHemisphereText;
-extern std::string EclipseShadowText;
-extern std::string EclipseKindText;
-extern std::string EclipseTotalityText;
+    /// What the last classified eclipse left; each text keeps its former content where the
+    /// classification has nothing to say.
+    std::string EclipseHemisphereText;
+    std::string EclipseShadowText;
+    std::string EclipseKindText;
+    std::string EclipseTotalityText;
 
-/// Empties the four texts and the first entry of both tables, and clears the moon's date.
-void ClearEclipses();
+    /// Texts of the last row that was written. A solar eclipse that is classified without a row of
+    /// its own takes them over into its entry.
+    std::string dateText;
+    std::string timeText;
+};
 
-/// Clears as above, fills the table, and returns the listed rows, each with Crlf behind it. They
-/// throw TypeMismatchFault for a zone that is no number.
-std::string ListSolarEclipses();
-std::string ListLunarEclipses();
+/// Empties the texts and the first entry of both tables.
+void ClearEclipses(Eclipses& eclipses);
+
+/// Clears as above, fills the table of a Gregorian year, and returns the listed rows, each with
+/// Crlf behind it. zone: whole hours, as WholeZone tells them.
+std::string ListSolarEclipses(Eclipses& eclipses, std::int16_t year, double zone);
+std::string ListLunarEclipses(Eclipses& eclipses, std::int16_t year, double zone);
 
 // The steps of one lunation.
 
@@ -59,7 +67,7 @@ EclipseGeometry GeometryOf(const Lunation& lunation, double latitude);
 bool IsEclipse(const EclipseGeometry& geometry);
 
 /// Writes the four texts.
-void ClassifySolarEclipse(const EclipseGeometry& geometry);
-void ClassifyLunarEclipse(const EclipseGeometry& geometry);
+void ClassifySolarEclipse(const EclipseGeometry& geometry, Eclipses& eclipses);
+void ClassifyLunarEclipse(const EclipseGeometry& geometry, Eclipses& eclipses);
 
 }  // namespace horavex

@@ -2,30 +2,16 @@
 
 #include <cmath>
 
-#include "base/date.h"
 #include "base/int16.h"
 #include "base/number_text.h"
-#include "base/program_state.h"
 #include "base/rounding.h"
 #include "calendar/month_name.h"
-#include "platform/platform.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
-std::int16_t MoonMonth = 0;
-std::int16_t MoonYear = 0;
-double MoonDay = 0.0;
-
 namespace {
 
-const ProgramStateReset reset(ClearMoonDate);
-
 constexpr double kFirstGregorianDay = 2299161.0;  // 15 October 1582
-
-double WholeZone() {
-    return std::floor(TextToNumber(HoravexMainForm->txtTimeZone.Text()));
-}
 
 /// The day count with the days that the Gregorian reform left out put in again.
 double WithReformUndone(double day) {
@@ -42,8 +28,12 @@ std::string WholeText(double number) {
 
 }  // namespace
 
-void MoonDateFromDay(double& julianDay) {
-    julianDay += std::fabs(WholeZone()) / 24.0;
+double WholeZone(const std::string& text) {
+    return std::floor(TextToNumber(text));
+}
+
+MoonDate MoonDateFromDay(double& julianDay, double zone) {
+    julianDay += std::fabs(zone) / 24.0;
     julianDay = std::fabs(julianDay) + 0.5;
     const double whole = std::floor(julianDay);
     const double F = julianDay - whole;
@@ -51,14 +41,14 @@ void MoonDateFromDay(double& julianDay) {
     const double C = std::floor((B - 122.1) / 365.25);
     const double D = std::floor(365.25 * C);
     const double E = std::floor((B - D) / 30.6001);
-    MoonDay = B - D - std::floor(30.6001 * E) + F;
-    MoonMonth = RoundToInt16(E < 14.0 ? E - 1.0 : E - 13.0);
-    MoonYear = RoundToInt16(MoonMonth > 2 ? C - 4716.0 : C - 4715.0);
+    const std::int16_t month = RoundToInt16(E < 14.0 ? E - 1.0 : E - 13.0);
+    const std::int16_t year = RoundToInt16(month > 2 ? C - 4716.0 : C - 4715.0);
+    return {month, year, B - D - std::floor(30.6001 * E) + F};
 }
 
-std::string MoonClockText(int leadingBlanks) {
-    double h = (MoonDay - std::floor(MoonDay)) * 24.0;
-    h = std::fabs(WholeZone() + h);
+std::string MoonClockText(const MoonDate& date, double zone, int leadingBlanks) {
+    double h = (date.MoonDay - std::floor(date.MoonDay)) * 24.0;
+    h = std::fabs(zone + h);
     const double m = std::floor((h - std::floor(h)) * 60.0);
     if (h > 24.0) {
         h -= 24.0;
@@ -74,17 +64,9 @@ std::string WeekDayText(double& julianDay) {
     return kNames[static_cast<std::size_t>(std::fmod(RoundHalfEven(julianDay), 7.0))];
 }
 
-std::string MoonDateText() {
-    return WholeText(MoonDay) + " " + MonthName(MoonMonth) + " " + std::to_string(MoonYear);
-}
-
-void ClearMoonDate() {
-    MoonMonth = MoonYear = 0;
-    MoonDay = 0.0;
-}
-
-std::int16_t PresentYear() {
-    return ToInt16(CivilFromDate(Ports().clock.Today()).year);
+std::string MoonDateText(const MoonDate& date) {
+    return WholeText(date.MoonDay) + " " + MonthName(date.MoonMonth) + " " +
+           std::to_string(date.MoonYear);
 }
 
 }  // namespace horavex

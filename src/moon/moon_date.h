@@ -7,40 +7,38 @@
 namespace horavex {
 
 // The date and clock of an instant as the moon tables and eclipse lists show them. Both take the
-// time zone from the text of the settings window's box, floored to whole hours (-5.5 counts as -6),
-// and neither looks at daylight saving. Two manners are kept: a negative zone moves the date later
-// by its size, like a positive one; and the zone counts twice, once for the date and once more for
-// the clock, so that a row of zone 3 tells three hours more than the clock there
-// (MoonDateTest.ZoneEastCountsTwice and ZoneWestMovesTheDateLaterToo). Each throws
-// TypeMismatchFault for a box that holds no number.
+// user's zone in whole hours, and neither looks at daylight saving. Two manners are kept: a
+// negative zone moves the date later by its size, like a positive one; and the zone counts twice,
+// once for the date and once more for the clock, so that a row of zone 3 tells three hours more
+// than the clock there (MoonDateTest.ZoneEastCountsTwice and ZoneWestMovesTheDateLaterToo).
 
-/// Results of MoonDateFromDay, to be read right after the call.
-extern std::int16_t MoonMonth;  // 1 to 12
-extern std::int16_t MoonYear;
-extern double MoonDay;  // day of the month with its fraction of the day
+/// The zone of a text, as the settings window's box holds it, floored to whole hours: -5.5 counts
+/// as -6. Throws TypeMismatchFault for a text that is no number.
+double WholeZone(const std::string& text);
 
-/// Turns a Julian day into a date of the user's zone. julianDay keeps the shift by the zone and by
-/// half a day, so that it counts from midnight afterwards.
-void MoonDateFromDay(double& julianDay);
+/// A date of the user's zone.
+struct MoonDate {
+    std::int16_t MoonMonth;  // 1 to 12
+    std::int16_t MoonYear;
+    double MoonDay;  // day of the month with its fraction of the day
+};
 
-/// The clock of MoonDay: "14hrs 5min" behind that many blanks, 0 or 1. Hours beyond 24 lose 24
+/// Turns a Julian day into a date of a zone. julianDay keeps the shift by the zone and by half a
+/// day, so that it counts from midnight afterwards.
+MoonDate MoonDateFromDay(double& julianDay, double zone);
+
+/// The clock of a date: "14hrs 5min" behind that many blanks, 0 or 1. Hours beyond 24 lose 24
 /// without a change of the date; 24 itself stays.
-std::string MoonClockText(int leadingBlanks);
+std::string MoonClockText(const MoonDate& date, double zone, int leadingBlanks);
 
 /// English name of the weekday of a Julian day, to which it adds 1.5 in place.
 std::string WeekDayText(double& julianDay);
 
 /// "6 January 2000": MoonDay's day, the month's English name, the year.
-std::string MoonDateText();
-
-/// Clears the three results.
-void ClearMoonDate();
+std::string MoonDateText(const MoonDate& date);
 
 /// A table of moon rows: 13 of them, and a last entry that stays empty.
 inline constexpr std::size_t kMoonRows = 13;
 using MoonRows = std::array<std::string, kMoonRows + 1>;
-
-/// The Gregorian year of the present date.
-std::int16_t PresentYear();
 
 }  // namespace horavex

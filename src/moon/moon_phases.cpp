@@ -2,24 +2,12 @@
 
 #include <cmath>
 
-#include "base/program_state.h"
 #include "moon/lunation.h"
 #include "moon/periodic_sum.h"
 
 namespace horavex {
 
-MoonRows NewMoonRows;
-MoonRows FirstQuarterRows;
-MoonRows FullMoonRows;
-MoonRows LastQuarterRows;
-
 namespace {
-
-const ProgramStateReset reset([] {
-    for (MoonRows* rows : {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
-        rows->fill("");
-    }
-});
 
 // Multiples of M', M, F, O and the planetary argument; the power of E; the coefficients.
 
@@ -101,34 +89,34 @@ double InstantOf(const Phase& phase, const Lunation& at) {
     return phase.quarterSign == 0.0 ? instant : instant + phase.quarterSign * QuarterCorrection(at);
 }
 
-void ComputeRows(MoonRows& rows, const Phase& phase) {
-    ClearMoonDate();
-    const std::int16_t year = PresentYear();
+MoonRows RowsOf(const Phase& phase, std::int16_t year, double zone) {
+    MoonRows rows;
     for (std::size_t i = 0; i < kMoonRows; ++i) {
         double instant =
             InstantOf(phase, LunationOf(year, static_cast<std::int16_t>(i), phase.offset));
-        MoonDateFromDay(instant);
+        const MoonDate date = MoonDateFromDay(instant, zone);
         WeekDayText(instant);  // named each time; no row shows it
-        rows[i] = MoonDateText() + ", " + MoonClockText(phase.leadingBlanks);
+        rows[i] = MoonDateText(date) + ", " + MoonClockText(date, zone, phase.leadingBlanks);
     }
+    return rows;
 }
 
 }  // namespace
 
-void ComputeNewMoonRows() {
-    ComputeRows(NewMoonRows, kNewMoon);
+MoonRows ComputeNewMoonRows(std::int16_t year, double zone) {
+    return RowsOf(kNewMoon, year, zone);
 }
 
-void ComputeFirstQuarterRows() {
-    ComputeRows(FirstQuarterRows, kFirstQuarter);
+MoonRows ComputeFirstQuarterRows(std::int16_t year, double zone) {
+    return RowsOf(kFirstQuarter, year, zone);
 }
 
-void ComputeFullMoonRows() {
-    ComputeRows(FullMoonRows, kFullMoon);
+MoonRows ComputeFullMoonRows(std::int16_t year, double zone) {
+    return RowsOf(kFullMoon, year, zone);
 }
 
-void ComputeLastQuarterRows() {
-    ComputeRows(LastQuarterRows, kLastQuarter);
+MoonRows ComputeLastQuarterRows(std::int16_t year, double zone) {
+    return RowsOf(kLastQuarter, year, zone);
 }
 
 }  // namespace horavex

@@ -3,16 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 #include "engine/angle.h"
 #include "engine/year_table.h"
-#include "moon/moon_date.h"
-#include "moon/moon_phases.h"
 #include "moon/moon_position.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
-#include "windows/moon_phases.h"
 
 namespace horavex {
 
@@ -48,58 +46,46 @@ PolygonStep LitSide(Point centre, double radius, double elongation, double side)
     return lit;
 }
 
-void DrawDiscs(Picture& picture, const MoonRows& rows, double elongation) {
-    constexpr double kRadius = 110.0;
-    picture.drawing.clear();
-    for (std::size_t i = 0; i < kMoonRows; ++i) {
-        if (!rows[i].empty()) {
-            const Point centre{picture.ScaleWidth() / 2.0,
-                               kMoonRowHeight * (static_cast<double>(i) + 0.5)};
-            AddMoonDisc(picture.drawing, centre, kRadius, elongation, PlaceIsSouth());
-        }
-    }
-    picture.Refresh();
-}
-
 double HoursOf(const MoonClock& time) {
     return std::min(time.hour + time.minute / 60.0, 24.0);
 }
 
-/// The strip of the day in a picture: its hours run from left to right.
+/// The strip of the day in an area: its hours run from left to right.
 class DayStrip {
 public:
-    explicit DayStrip(Picture& picture) : picture_(picture) { picture_.drawing.clear(); }
+    DayStrip(double width, double height) : width_(width), height_(height) {}
 
     void Fill(double fromHour, double toHour, Colour colour) {
         const double left = XOf(fromHour);
         const double right = XOf(toHour);
-        picture_.drawing.emplace_back(PolygonStep{
+        drawing_.emplace_back(PolygonStep{
             {{left, 0.0}, {right, 0.0}, {right, Bottom()}, {left, Bottom()}}, colour, {colour}});
     }
 
     void DrawScale() {
         for (int hour = 0; hour <= 24; ++hour) {
             const double length = hour % 6 == 0 ? 120.0 : 60.0;
-            picture_.drawing.emplace_back(
+            drawing_.emplace_back(
                 LineStep{{XOf(hour), Bottom()}, {XOf(hour), Bottom() + length}, {kScale}});
             if (hour % 6 == 0) {
-                picture_.drawing.emplace_back(
+                drawing_.emplace_back(
                     TextStep{{XOf(hour) - 100.0, Bottom() + 130.0}, std::to_string(hour), kScale});
             }
         }
-        picture_.Refresh();
     }
+
+    Drawing Taken() { return std::move(drawing_); }
 
 private:
     static constexpr double kMargin = 200.0;
     static constexpr double kScaleHeight = 420.0;
 
-    double XOf(double hour) const {
-        return kMargin + (picture_.ScaleWidth() - 2.0 * kMargin) * hour / 24.0;
-    }
-    double Bottom() const { return picture_.ScaleHeight() - kScaleHeight; }
+    double XOf(double hour) const { return kMargin + (width_ - 2.0 * kMargin) * hour / 24.0; }
+    double Bottom() const { return height_ - kScaleHeight; }
 
-    Picture& picture_;
+    double width_;
+    double height_;
+    Drawing drawing_;
 };
 
 }  // namespace
@@ -114,29 +100,31 @@ void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongatio
     drawing.emplace_back(LitSide(centre, radius, phase, waxing != south ? 1.0 : -1.0));
 }
 
-void DrawPhaseDiscs() {
-    MoonPhasesForm& form = *Moon_Phases;
-    DrawDiscs(form.picNewMoon, NewMoonRows, 0.0);
-    DrawDiscs(form.picFirstQuarter, FirstQuarterRows, 90.0);
-    DrawDiscs(form.picFullMoon, FullMoonRows, 180.0);
-    DrawDiscs(form.picLastQuarter, LastQuarterRows, 270.0);
+Drawing PhaseDiscs(double width, const MoonRows& rows, double elongation) {
+    constexpr double kRadius = 110.0;
+    Drawing drawing;
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        if (!rows[i].empty()) {
+            const Point centre{width / 2.0, kMoonRowHeight * (static_cast<double>(i) + 0.5)};
+            AddMoonDisc(drawing, centre, kRadius, elongation, PlaceIsSouth());
+        }
+    }
+    return drawing;
 }
 
-void DrawTonightsMoon() {
+Drawing TonightsMoon(double width, double height) {
     const Date today = Ports().clock.Today();
     const double daylightHour = IsDaylightDay(today, ActiveSettings) ? 1.0 : 0.0;
     const MoonPlace moon =
         MoonPosition(24.0 - ActiveSettings.TimeZone - daylightHour, CivilFromDate(today));
-    Picture& picture = Moon_Phases->picTonight;
-    const Point centre{picture.ScaleWidth() / 2.0, picture.ScaleHeight() / 2.0};
-    picture.drawing.clear();
-    AddMoonDisc(picture.drawing, centre, 0.44 * picture.ScaleHeight(),
+    Drawing drawing;
+    AddMoonDisc(drawing, {width / 2.0, height / 2.0}, 0.44 * height,
                 moon.longitude - moon.sunLongitude, PlaceIsSouth());
-    picture.Refresh();
+    return drawing;
 }
 
-void DrawMoonDay(const std::optional<MoonRiseSet>& times) {
-    DayStrip strip(Moon_Phases->picDay);
+Drawing MoonDay(double width, double height, const std::optional<MoonRiseSet>& times) {
+    DayStrip strip(width, height);
     strip.Fill(0.0, 24.0, kMoonDown);
     if (times) {
         const double rise = HoursOf(times->rise);
@@ -149,6 +137,7 @@ void DrawMoonDay(const std::optional<MoonRiseSet>& times) {
         }
     }
     strip.DrawScale();
+    return strip.Taken();
 }
 
 }  // namespace horavex

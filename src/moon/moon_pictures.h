@@ -3,11 +3,13 @@
 #include <optional>
 
 #include "forms/drawing.h"
+#include "moon/moon_date.h"
 #include "moon/moon_rise_set.h"
 
 namespace horavex {
 
-// Pictures of the moon window beside its texts. They say nothing that decides anything.
+// Pictures of the moon window beside its texts, in areas of the given sizes, twips. They say
+// nothing that decides anything.
 
 /// How far apart the rows of the tables stand, twips; a disc lies beside each.
 inline constexpr double kMoonRowHeight = 300.0;
@@ -17,15 +19,15 @@ inline constexpr double kMoonRowHeight = 300.0;
 /// lit at its left.
 void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongation, bool south);
 
-/// Draws a disc beside each row of the four tables.
-void DrawPhaseDiscs();
+/// A disc beside each row of a table whose moons stand that far from the sun.
+Drawing PhaseDiscs(double width, const MoonRows& rows, double elongation);
 
-/// Draws the moon as it stands lit at the coming midnight of the place. Throws
+/// The moon as it stands lit at the coming midnight of the accepted place. Throws
 /// DivisionByZeroFault where the moon's theory has no answer.
-void DrawTonightsMoon();
+Drawing TonightsMoon(double width, double height);
 
-/// Draws the day from 0 to 24 hours with the time of the moon above the horizon in light; an empty
-/// strip without times.
-void DrawMoonDay(const std::optional<MoonRiseSet>& times);
+/// The day from 0 to 24 hours with the time of the moon above the horizon in light; an empty strip
+/// without times.
+Drawing MoonDay(double width, double height, const std::optional<MoonRiseSet>& times);
 
 }  // namespace horavex

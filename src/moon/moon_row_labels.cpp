@@ -4,19 +4,18 @@
 #include <iterator>
 
 #include "calendar/moon_labels.h"
-#include "moon/moon_phases.h"
 
 namespace horavex {
 
-std::vector<std::string> MoonRowLabels(std::int16_t year) {
-    BuildMoonMonthLabels(year);
+std::vector<std::string> MoonRowLabels(std::int16_t year, const MoonRows& newMoons) {
+    const MoonMonthLabels table = BuildMoonMonthLabels(year);
     if (const auto slice = MoonLabelRows(year)) {
-        const auto begin = MoonMonthLabels.begin();
+        const auto begin = table.begin();
         return {begin + static_cast<std::ptrdiff_t>(slice->first),
                 begin + static_cast<std::ptrdiff_t>(slice->last) + 1};
     }
     std::vector<std::string> labels;
-    std::transform(NewMoonRows.begin(), NewMoonRows.begin() + kMoonRows, std::back_inserter(labels),
+    std::transform(newMoons.begin(), newMoons.begin() + kMoonRows, std::back_inserter(labels),
                    HijriLabelForMoonRow);
     return labels;
 }

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <string>
 
+#include "base/int16.h"
+#include "base/program_state.h"
 #include "base/steps.h"
 #include "engine/angle.h"
 #include "engine/center_on_screen.h"
@@ -18,11 +20,25 @@
 #include "moon/rise_set_page.h"
 #include "platform/platform.h"
 #include "windows/frm_main.h"
+#include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
 
 namespace horavex {
 
 namespace {
+
+/// The tables on view.
+MoonRows NewMoonRows;
+MoonRows FirstQuarterRows;
+MoonRows FullMoonRows;
+MoonRows LastQuarterRows;
+
+Eclipses eclipses;
+
+const ProgramStateReset reset([] {
+    NewMoonRows = FirstQuarterRows = FullMoonRows = LastQuarterRows = {};
+    eclipses = {};
+});
 
 struct TabText {
     const char* key;  // of the pack's section "other"
@@ -42,17 +58,25 @@ void EmptyTexts() {
     }
 }
 
-void ComputeTables() {
-    ClearMoonDate();
-    ComputeNewMoonRows();
-    ComputeFirstQuarterRows();
-    ComputeFullMoonRows();
-    ComputeLastQuarterRows();
+std::int16_t PresentYear() {
+    return ToInt16(CivilFromDate(Ports().clock.Today()).year);
+}
+
+/// Throws TypeMismatchFault for a box that holds no number.
+double ZoneInBox() {
+    return WholeZone(HoravexMainForm->txtTimeZone.Text());
+}
+
+void ComputeTables(std::int16_t year, double zone) {
+    NewMoonRows = ComputeNewMoonRows(year, zone);
+    FirstQuarterRows = ComputeFirstQuarterRows(year, zone);
+    FullMoonRows = ComputeFullMoonRows(year, zone);
+    LastQuarterRows = ComputeLastQuarterRows(year, zone);
 }
 
 void FillLabels(std::int16_t year) {
     std::string text;
-    for (const std::string& label : MoonRowLabels(year)) {
+    for (const std::string& label : MoonRowLabels(year, NewMoonRows)) {
         text += label + Crlf;
     }
     Moon_Phases->Text1.SetText(text);
@@ -73,6 +97,25 @@ void FillTables(std::int16_t year) {
     FillRows(Moon_Phases->Text3, FirstQuarterRows);
     FillRows(Moon_Phases->Text5, FullMoonRows);
     FillRows(Moon_Phases->Text6, LastQuarterRows);
+}
+
+void DrawDiscs(Picture& picture, const MoonRows& rows, double elongation) {
+    picture.drawing = PhaseDiscs(picture.ScaleWidth(), rows, elongation);
+    picture.Refresh();
+}
+
+void DrawPhaseDiscs() {
+    MoonPhasesForm& form = *Moon_Phases;
+    DrawDiscs(form.picNewMoon, NewMoonRows, 0.0);
+    DrawDiscs(form.picFirstQuarter, FirstQuarterRows, 90.0);
+    DrawDiscs(form.picFullMoon, FullMoonRows, 180.0);
+    DrawDiscs(form.picLastQuarter, LastQuarterRows, 270.0);
+}
+
+void DrawTonightsMoon() {
+    Picture& picture = Moon_Phases->picTonight;
+    picture.drawing = TonightsMoon(picture.ScaleWidth(), picture.ScaleHeight());
+    picture.Refresh();
 }
 
 void CaptionTabs() {
@@ -101,17 +144,17 @@ void SSTab1_Click() {
 
 void Cmdclear_Click() {
     Moon_Phases->Text7.SetText("");
-    ClearEclipses();
+    ClearEclipses(eclipses);
 }
 
 void Cmdeclipse_sun_Click() {
     Cmdclear_Click();
-    Moon_Phases->Text7.SetText(ListSolarEclipses());
+    Moon_Phases->Text7.SetText(ListSolarEclipses(eclipses, PresentYear(), ZoneInBox()));
 }
 
 void Cmdeclipse_moon_Click() {
     Cmdclear_Click();
-    Moon_Phases->Text7.SetText(ListLunarEclipses());
+    Moon_Phases->Text7.SetText(ListLunarEclipses(eclipses, PresentYear(), ZoneInBox()));
 }
 
 void Moon_Phases_Load() {
@@ -141,8 +184,9 @@ void Bind() {
 void ShowMoonPhases() {
     Bind();
     EmptyTexts();
-    ComputeTables();
-    FillTables(PresentYear());
+    const std::int16_t year = PresentYear();
+    ComputeTables(year, ZoneInBox());
+    FillTables(year);
     CenterOnScreen(*Moon_Phases);
     ShowModalOrUnload(*Moon_Phases, &*frmMain);
 }

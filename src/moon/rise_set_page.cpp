@@ -211,7 +211,9 @@ std::optional<MoonRiseSet> RiseAndSet() {
 void ShowTimes(const std::optional<MoonRiseSet>& times) {
     Moon_Phases->lblMoonRise.SetCaption(times ? MoonRiseText(*times) : MoonErrorText());
     Moon_Phases->lblMoonSet.SetCaption(times ? MoonSetText(*times) : MoonErrorText());
-    DrawMoonDay(times);
+    Picture& day = Moon_Phases->picDay;
+    day.drawing = MoonDay(day.ScaleWidth(), day.ScaleHeight(), times);
+    day.Refresh();
 }
 
 void cmdCalculate_Click() {

@@ -2,7 +2,6 @@
 
 #include "base/fault.h"
 #include "support/test_platform.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 namespace {
@@ -11,14 +10,21 @@ constexpr double kMidnight = 2451544.5;  // 1 January 2000
 constexpr double kSecond = 1.0 / 86400.0;
 
 struct MoonDateTest : testing::Test {
-    static void Zone(const char* text) { HoravexMainForm->txtTimeZone.SetText(text); }
+    void Zone(const char* text) { zone = WholeZone(text); }
 
-    /// Date and clock of an hour of 1 January 2000, half a second on.
-    static std::string At(double hour) {
+    /// An hour of 1 January 2000, half a second on.
+    MoonDate DateAt(double hour) const {
         double day = kMidnight + hour / 24.0 + kSecond / 2.0;
-        MoonDateFromDay(day);
-        return MoonDateText() + " " + MoonClockText(0);
+        return MoonDateFromDay(day, zone);
     }
+
+    /// Date and clock of it.
+    std::string At(double hour) const {
+        const MoonDate date = DateAt(hour);
+        return MoonDateText(date) + " " + MoonClockText(date, zone, 0);
+    }
+
+    double zone = 0.0;
 
     TestPlatform platform;
 };
@@ -32,13 +38,13 @@ TEST_F(MoonDateTest, GreenwichDatesAsTheDayIs) {
 TEST_F(MoonDateTest, ZoneEastCountsTwice) {
     Zone("2");
     EXPECT_EQ(At(10.0), "1 January 2000 14hrs 0min");
-    EXPECT_NEAR(MoonDay, 1.5, 1e-5);
+    EXPECT_NEAR(DateAt(10.0).MoonDay, 1.5, 1e-5);
 }
 
 TEST_F(MoonDateTest, ZoneWestMovesTheDateLaterToo) {
     Zone("-5");
     EXPECT_EQ(At(10.0), "1 January 2000 10hrs 0min");
-    EXPECT_NEAR(MoonDay, 1.0 + 15.0 / 24.0, 1e-5);
+    EXPECT_NEAR(DateAt(10.0).MoonDay, 1.0 + 15.0 / 24.0, 1e-5);
     EXPECT_EQ(At(20.0), "2 January 2000 3hrs 59min") << "1:00 less 5 hours, signless";
 }
 
@@ -47,7 +53,7 @@ TEST_F(MoonDateTest, FractionsOfAZoneAreFloored) {
     EXPECT_EQ(At(1.0), "1 January 2000 11hrs 0min");
     Zone("-5.5");
     EXPECT_EQ(At(10.0), "1 January 2000 10hrs 0min");
-    EXPECT_NEAR(MoonDay, 1.0 + 16.0 / 24.0, 1e-5);
+    EXPECT_NEAR(DateAt(10.0).MoonDay, 1.0 + 16.0 / 24.0, 1e-5);
 }
 
 TEST_F(MoonDateTest, HoursBeyond24LoseADayThatTheDateDoesNotGain) {
@@ -58,29 +64,27 @@ TEST_F(MoonDateTest, HoursBeyond24LoseADayThatTheDateDoesNotGain) {
 TEST_F(MoonDateTest, HourOfExactly24Stays) {
     Zone("12");
     double day = kMidnight;
-    MoonDateFromDay(day);
-    EXPECT_EQ(MoonClockText(0), "24hrs 0min");
+    EXPECT_EQ(MoonClockText(MoonDateFromDay(day, zone), zone, 0), "24hrs 0min");
 }
 
 TEST_F(MoonDateTest, JulianDayKeepsItsShift) {
     Zone("-6");
     double day = kMidnight;
-    MoonDateFromDay(day);
+    MoonDateFromDay(day, zone);
     EXPECT_EQ(day, kMidnight + 0.25 + 0.5);
 }
 
 TEST_F(MoonDateTest, NegativeDayLosesItsSign) {
     Zone("0");
     double day = -1000.25;
-    MoonDateFromDay(day);
+    MoonDateFromDay(day, zone);
     EXPECT_EQ(day, 1000.75);
 }
 
 TEST_F(MoonDateTest, CalendarTurnsAtTheReform) {
     Zone("0");
-    const auto dateOf = [](double julianDay) {
-        MoonDateFromDay(julianDay);
-        return MoonDateText();
+    const auto dateOf = [this](double julianDay) {
+        return MoonDateText(MoonDateFromDay(julianDay, zone));
     };
     EXPECT_EQ(dateOf(2299159.5), "4 October 1582");
     EXPECT_EQ(dateOf(2299160.5), "15 October 1582");
@@ -92,18 +96,18 @@ TEST_F(MoonDateTest, EveryDayOfTwoCenturiesComesOut) {
     Zone("0");
     for (Date date = DateSerial(1900, 1, 1); date < DateSerial(2101, 1, 1); date += 1.0) {
         double julianDay = date + 2415018.5;
-        MoonDateFromDay(julianDay);
+        const MoonDate moon = MoonDateFromDay(julianDay, zone);
         const CivilDate civil = CivilFromDate(date);
-        ASSERT_EQ(MoonYear, civil.year) << date;
-        ASSERT_EQ(MoonMonth, civil.month) << date;
-        ASSERT_EQ(MoonDay, civil.day) << date;
+        ASSERT_EQ(moon.MoonYear, civil.year) << date;
+        ASSERT_EQ(moon.MoonMonth, civil.month) << date;
+        ASSERT_EQ(moon.MoonDay, civil.day) << date;
     }
 }
 
 TEST_F(MoonDateTest, ClockHasItsBlanksAndNoPadding) {
     Zone("0");
     EXPECT_EQ(At(5.0), "1 January 2000 5hrs 0min");
-    EXPECT_EQ(MoonClockText(1), " 5hrs 0min");
+    EXPECT_EQ(MoonClockText(DateAt(5.0), zone, 1), " 5hrs 0min");
 }
 
 TEST_F(MoonDateTest, WeekdayMovesItsDayOn) {
@@ -117,10 +121,8 @@ TEST_F(MoonDateTest, WeekdayMovesItsDayOn) {
 }
 
 TEST_F(MoonDateTest, ZoneThatIsNoNumberIsAFault) {
-    Zone("here");
-    double day = kMidnight;
-    EXPECT_THROW(MoonDateFromDay(day), TypeMismatchFault);
-    EXPECT_THROW(MoonClockText(0), TypeMismatchFault);
+    EXPECT_THROW(WholeZone("here"), TypeMismatchFault);
+    EXPECT_THROW(WholeZone(""), TypeMismatchFault);
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include "base/text.h"
 #include "moon/lunation.h"
-#include "support/test_platform.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 namespace {
@@ -12,17 +10,18 @@ using testing::Each;
 using testing::MatchesRegex;
 
 struct MoonPhasesTest : testing::Test {
-    MoonPhasesTest() { HoravexMainForm->txtTimeZone.SetText("+0.00"); }
-
-    void ComputeAll(int year) {
-        platform.clock.Set(DateSerial(year, 7, 1));
-        ComputeNewMoonRows();
-        ComputeFirstQuarterRows();
-        ComputeFullMoonRows();
-        ComputeLastQuarterRows();
+    void ComputeAll(int number) {
+        const auto year = static_cast<std::int16_t>(number);
+        newMoons = ComputeNewMoonRows(year, 0.0);
+        firstQuarters = ComputeFirstQuarterRows(year, 0.0);
+        fullMoons = ComputeFullMoonRows(year, 0.0);
+        lastQuarters = ComputeLastQuarterRows(year, 0.0);
     }
 
-    TestPlatform platform;
+    MoonRows newMoons;
+    MoonRows firstQuarters;
+    MoonRows fullMoons;
+    MoonRows lastQuarters;
 };
 
 std::vector<std::string> Filled(const MoonRows& rows) {
@@ -31,7 +30,7 @@ std::vector<std::string> Filled(const MoonRows& rows) {
 
 TEST_F(MoonPhasesTest, NewMoonsOf2001) {
     ComputeAll(2001);
-    EXPECT_THAT(Filled(NewMoonRows),
+    EXPECT_THAT(Filled(newMoons),
                 testing::ElementsAre("25 December 2000, 17hrs 22min", "24 January 2001, 13hrs 7min",
                                      "23 February 2001, 8hrs 22min", "25 March 2001, 1hrs 22min",
                                      "23 April 2001, 15hrs 26min", "23 May 2001, 2hrs 47min",
@@ -44,7 +43,7 @@ TEST_F(MoonPhasesTest, NewMoonsOf2001) {
 TEST_F(MoonPhasesTest, FirstQuartersOf2001) {
     ComputeAll(2001);
     EXPECT_THAT(
-        Filled(FirstQuarterRows),
+        Filled(firstQuarters),
         testing::ElementsAre("2 January 2001,  22hrs 32min", "1 February 2001,  14hrs 3min",
                              "3 March 2001,  2hrs 4min", "1 April 2001,  10hrs 50min",
                              "30 April 2001,  17hrs 8min", "29 May 2001,  22hrs 10min",
@@ -57,7 +56,7 @@ TEST_F(MoonPhasesTest, FirstQuartersOf2001) {
 TEST_F(MoonPhasesTest, FullMoonsOf2001) {
     ComputeAll(2001);
     EXPECT_THAT(
-        Filled(FullMoonRows),
+        Filled(fullMoons),
         testing::ElementsAre("9 January 2001,  20hrs 25min", "8 February 2001,  7hrs 12min",
                              "9 March 2001,  17hrs 24min", "8 April 2001,  3hrs 22min",
                              "7 May 2001,  13hrs 53min", "6 June 2001,  1hrs 40min",
@@ -70,7 +69,7 @@ TEST_F(MoonPhasesTest, FullMoonsOf2001) {
 TEST_F(MoonPhasesTest, LastQuartersOf2001) {
     ComputeAll(2001);
     EXPECT_THAT(
-        Filled(LastQuarterRows),
+        Filled(lastQuarters),
         testing::ElementsAre("16 January 2001,  12hrs 35min", "15 February 2001,  3hrs 24min",
                              "16 March 2001,  20hrs 46min", "15 April 2001,  15hrs 32min",
                              "15 May 2001,  10hrs 11min", "14 June 2001,  3hrs 29min",
@@ -85,12 +84,11 @@ TEST_F(MoonPhasesTest, EveryYearOfTwoCenturiesHas13RowsOfEachPhase) {
     const std::string clock = "[0-9]+hrs [0-9]+min";
     for (int year = 1900; year <= 2100; ++year) {
         ComputeAll(year);
-        ASSERT_THAT(Filled(NewMoonRows), Each(MatchesRegex(row + " " + clock))) << year;
-        for (const MoonRows* rows : {&FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+        ASSERT_THAT(Filled(newMoons), Each(MatchesRegex(row + " " + clock))) << year;
+        for (const MoonRows* rows : {&firstQuarters, &fullMoons, &lastQuarters}) {
             ASSERT_THAT(Filled(*rows), Each(MatchesRegex(row + "  " + clock))) << year;
         }
-        for (const MoonRows* rows :
-             {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+        for (const MoonRows* rows : {&newMoons, &firstQuarters, &fullMoons, &lastQuarters}) {
             ASSERT_EQ((*rows)[kMoonRows], "") << year;
         }
     }
@@ -99,8 +97,7 @@ TEST_F(MoonPhasesTest, EveryYearOfTwoCenturiesHas13RowsOfEachPhase) {
 TEST_F(MoonPhasesTest, RowsCarryNoLeadingZeros) {
     for (int year = 1900; year <= 2100; ++year) {
         ComputeAll(year);
-        for (const MoonRows* rows :
-             {&NewMoonRows, &FirstQuarterRows, &FullMoonRows, &LastQuarterRows}) {
+        for (const MoonRows* rows : {&newMoons, &firstQuarters, &fullMoons, &lastQuarters}) {
             for (const std::string& row : Filled(*rows)) {
                 for (const std::string& word : Split(row, ' ')) {
                     ASSERT_FALSE(word.size() > 1 && word[0] == '0' && IsDigit(word[1])) << row;
@@ -111,26 +108,15 @@ TEST_F(MoonPhasesTest, RowsCarryNoLeadingZeros) {
 }
 
 TEST_F(MoonPhasesTest, ZoneCountsTwiceInARow) {
-    HoravexMainForm->txtTimeZone.SetText("+2.00");
-    ComputeAll(2001);
-    EXPECT_EQ(NewMoonRows[1], "24 January 2001, 17hrs 7min");
-}
-
-TEST_F(MoonPhasesTest, EachComputationFillsItsOwnTableAlone) {
-    platform.clock.Set(DateSerial(2001, 7, 1));
-    ComputeFullMoonRows();
-    EXPECT_NE(FullMoonRows[0], "");
-    EXPECT_EQ(NewMoonRows[0], "");
-    EXPECT_EQ(FirstQuarterRows[0], "");
-    EXPECT_EQ(LastQuarterRows[0], "");
+    EXPECT_EQ(ComputeNewMoonRows(2001, 2.0)[1], "24 January 2001, 17hrs 7min");
 }
 
 TEST_F(MoonPhasesTest, ComputingAgainGivesTheSame) {
     ComputeAll(2026);
-    const MoonRows before = LastQuarterRows;
+    const MoonRows before = lastQuarters;
     ReduceAngle(77.0);
     ComputeAll(2026);
-    EXPECT_EQ(LastQuarterRows, before);
+    EXPECT_EQ(lastQuarters, before);
 }
 
 }  // namespace

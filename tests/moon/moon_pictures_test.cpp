@@ -94,9 +94,9 @@ protected:
         return {(disc.centre.x - least->x) / disc.radius, (most->x - disc.centre.x) / disc.radius};
     }
 
-    std::vector<PolygonStep> Bands() {
+    static std::vector<PolygonStep> BandsOf(const Drawing& drawing) {
         std::vector<PolygonStep> bands;
-        for (const DrawingStep& step : form.picDay.drawing) {
+        for (const DrawingStep& step : drawing) {
             if (const auto* band = std::get_if<PolygonStep>(&step)) {
                 bands.push_back(*band);
             }
@@ -104,8 +104,8 @@ protected:
         return bands;
     }
 
-    static MoonRiseSet Times(std::int16_t rise, std::int16_t set) {
-        return {{rise, 30, 0.0}, {set, 0, 0.0}};
+    static std::vector<PolygonStep> BandsBetween(std::int16_t rise, std::int16_t set) {
+        return BandsOf(MoonDay(7200.0, 900.0, MoonRiseSet{{rise, 30, 0.0}, {set, 0, 0.0}}));
     }
 
     MoonPhasesForm& form = *Moon_Phases;
@@ -149,38 +149,35 @@ TEST_F(MoonPicturesTest, TonightsMoonIsLitAsItStandsInTheSky) {
 }
 
 TEST_F(MoonPicturesTest, StripOfTheDayIsLightBetweenRiseAndSet) {
-    ShowMoonPhases();
-    EXPECT_TRUE(form.picDay.drawing.empty());
-    DrawMoonDay(Times(6, 18));
-    ASSERT_EQ(Bands().size(), 2U);
-    const double dayWidth = Bands()[0].corners[1].x - Bands()[0].corners[0].x;
-    const double left = Bands()[0].corners[0].x;
-    EXPECT_NEAR(Bands()[1].corners[0].x, left + dayWidth * 6.5 / 24.0, 1e-6);
-    EXPECT_NEAR(Bands()[1].corners[1].x, left + dayWidth * 18.0 / 24.0, 1e-6);
+    const auto bands = BandsBetween(6, 18);
+    ASSERT_EQ(bands.size(), 2U);
+    const double dayWidth = bands[0].corners[1].x - bands[0].corners[0].x;
+    const double left = bands[0].corners[0].x;
+    EXPECT_NEAR(bands[1].corners[0].x, left + dayWidth * 6.5 / 24.0, 1e-6);
+    EXPECT_NEAR(bands[1].corners[1].x, left + dayWidth * 18.0 / 24.0, 1e-6);
 }
 
 TEST_F(MoonPicturesTest, MoonThatSetsBeforeItRisesLightsBothEndsOfTheDay) {
-    ShowMoonPhases();
-    DrawMoonDay(Times(18, 6));
-    ASSERT_EQ(Bands().size(), 3U);
-    EXPECT_EQ(Bands()[1].corners[0].x, Bands()[0].corners[0].x);
-    EXPECT_EQ(Bands()[2].corners[1].x, Bands()[0].corners[1].x);
+    const auto bands = BandsBetween(18, 6);
+    ASSERT_EQ(bands.size(), 3U);
+    EXPECT_EQ(bands[1].corners[0].x, bands[0].corners[0].x);
+    EXPECT_EQ(bands[2].corners[1].x, bands[0].corners[1].x);
 }
 
 TEST_F(MoonPicturesTest, HourBeyondMidnightEndsAtTheStripsEnd) {
-    ShowMoonPhases();
-    DrawMoonDay(Times(12, 24));
-    EXPECT_NEAR(Bands()[1].corners[1].x, Bands()[0].corners[1].x, 1e-9);
+    const auto bands = BandsBetween(12, 24);
+    EXPECT_NEAR(bands[1].corners[1].x, bands[0].corners[1].x, 1e-9);
 }
 
 TEST_F(MoonPicturesTest, ErrorLeavesAnEmptyStrip) {
     ShowMoonPhases();
+    EXPECT_TRUE(form.picDay.drawing.empty());
     form.SSTab1.UserSelect(2);
     form.cmdCalculate.UserClick();
-    EXPECT_GT(Bands().size(), 1U);
+    EXPECT_GT(BandsOf(form.picDay.drawing).size(), 1U);
     form.cboDay.SetText("");
     form.cmdCalculate.UserClick();
-    EXPECT_EQ(Bands().size(), 1U);
+    EXPECT_EQ(BandsOf(form.picDay.drawing).size(), 1U);
 }
 
 }  // namespace

@@ -4,21 +4,16 @@
 #include "support/data_folder.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 namespace {
 
 struct MoonRowLabelsTest : testing::Test {
-    MoonRowLabelsTest() {
-        CopyBuiltProgramFolder(platform.files);
-        HoravexMainForm->txtTimeZone.SetText("+0.00");
-    }
+    MoonRowLabelsTest() { CopyBuiltProgramFolder(platform.files); }
 
-    std::vector<std::string> Of(int year) {
-        platform.clock.Set(DateSerial(year, 7, 1));
-        ComputeNewMoonRows();
-        return MoonRowLabels(static_cast<std::int16_t>(year));
+    static std::vector<std::string> Of(int number) {
+        const auto year = static_cast<std::int16_t>(number);
+        return MoonRowLabels(year, ComputeNewMoonRows(year, 0.0));
     }
 
     TestPlatform platform;
@@ -42,7 +37,7 @@ TEST_F(MoonRowLabelsTest, YearsOfTheShortSlicesLeaveTheLastRowWithoutALabel) {
 
 TEST_F(MoonRowLabelsTest, LabelsOf2026ComeFromTheConverter) {
     const auto labels = Of(2026);
-    EXPECT_EQ(NewMoonRows[0], "20 December 2025, 1hrs 44min");
+    EXPECT_EQ(ComputeNewMoonRows(2026, 0.0)[0], "20 December 2025, 1hrs 44min");
     EXPECT_EQ(labels[0], " Rajab 1447");
     EXPECT_EQ(labels[2], " Ramadan 1447");
     EXPECT_THAT(labels, testing::Each(testing::StartsWith(" ")));

@@ -44,9 +44,13 @@ protected:
         return lines;
     }
 
-    static std::vector<std::string> Filled(const MoonRows& rows) {
+    /// The rows of a table for the year and the zone on view.
+    static std::vector<std::string> Filled(MoonRows (*compute)(std::int16_t year, double zone)) {
+        const MoonRows rows = compute(2026, Zone());
         return {rows.begin(), rows.begin() + kMoonRows};
     }
+
+    static double Zone() { return WholeZone(HoravexMainForm->txtTimeZone.Text()); }
 
     /// Names of the controls on view that lie on the tabs themselves.
     std::vector<std::string> PageOnView() {
@@ -71,24 +75,24 @@ TEST_F(MoonWindowTest, OpensModalInTheMiddleOfTheScreen) {
 }
 
 TEST_F(MoonWindowTest, TablesAreFilledForTheYearOfTheClock) {
-    EXPECT_EQ(LinesOf(form.Text2), Filled(NewMoonRows));
-    EXPECT_EQ(LinesOf(form.Text3), Filled(FirstQuarterRows));
-    EXPECT_EQ(LinesOf(form.Text5), Filled(FullMoonRows));
-    EXPECT_EQ(LinesOf(form.Text6), Filled(LastQuarterRows));
+    EXPECT_EQ(LinesOf(form.Text2), Filled(ComputeNewMoonRows));
+    EXPECT_EQ(LinesOf(form.Text3), Filled(ComputeFirstQuarterRows));
+    EXPECT_EQ(LinesOf(form.Text5), Filled(ComputeFullMoonRows));
+    EXPECT_EQ(LinesOf(form.Text6), Filled(ComputeLastQuarterRows));
     EXPECT_THAT(LinesOf(form.Text2)[6], testing::HasSubstr(" 2026, "));
     EXPECT_EQ(form.Text7.Text(), "");
 }
 
 TEST_F(MoonWindowTest, BothTablesHaveTheSameLabels) {
     EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
-    EXPECT_EQ(LinesOf(form.Text1)[0], HijriLabelForMoonRow(NewMoonRows[0]));
+    EXPECT_EQ(LinesOf(form.Text1)[0], HijriLabelForMoonRow(LinesOf(form.Text2)[0]));
     EXPECT_EQ(form.Text4.Text(), form.Text1.Text());
 }
 
 TEST_F(MoonWindowTest, LabelsOf2011AreASliceOfTheTable) {
     OpenIn(2011);
-    EXPECT_EQ(LinesOf(form.Text1).front(), MoonMonthLabels[4]);
-    EXPECT_EQ(LinesOf(form.Text4).back(), MoonMonthLabels[16]);
+    EXPECT_EQ(LinesOf(form.Text1).front(), BuildMoonMonthLabels(2011)[4]);
+    EXPECT_EQ(LinesOf(form.Text4).back(), BuildMoonMonthLabels(2011)[16]);
 }
 
 TEST_F(MoonWindowTest, LastRowOf2007HasNoLabel) {
@@ -112,7 +116,7 @@ TEST_F(MoonWindowTest, WithoutTheConverterAllLabelsSayError) {
 
 TEST_F(MoonWindowTest, OpeningAgainFillsTheTablesAnewAndOnce) {
     OpenIn(2026);
-    EXPECT_EQ(LinesOf(form.Text2), Filled(NewMoonRows));
+    EXPECT_EQ(LinesOf(form.Text2), Filled(ComputeNewMoonRows));
     EXPECT_EQ(LinesOf(form.Text1).size(), 13U);
 }
 
@@ -158,9 +162,10 @@ TEST_F(MoonWindowTest, EclipseButtonsListTheYearOfTheClockWhateverTheDateSays) {
     form.Cmdeclipse_sun.UserClick();
     const std::string solar = form.Text7.Text();
     EXPECT_THAT(solar, testing::HasSubstr(" 2026  ,  "));
-    EXPECT_EQ(solar, ListSolarEclipses());
+    Eclipses eclipses;
+    EXPECT_EQ(solar, ListSolarEclipses(eclipses, 2026, Zone()));
     form.Cmdeclipse_moon.UserClick();
-    EXPECT_EQ(form.Text7.Text(), ListLunarEclipses());
+    EXPECT_EQ(form.Text7.Text(), ListLunarEclipses(eclipses, 2026, Zone()));
     EXPECT_NE(form.Text7.Text(), solar);
 }
 
@@ -172,16 +177,12 @@ TEST_F(MoonWindowTest, SecondPressListsTheSameOnce) {
     EXPECT_EQ(form.Text7.Text(), once);
 }
 
-TEST_F(MoonWindowTest, ClearEmptiesTheListAndTheFourTexts) {
+TEST_F(MoonWindowTest, ClearEmptiesTheList) {
     form.SSTab1.UserSelect(3);
     form.Cmdeclipse_sun.UserClick();
-    EXPECT_NE(EclipseKindText, "");
+    EXPECT_NE(form.Text7.Text(), "");
     form.Cmdclear.UserClick();
     EXPECT_EQ(form.Text7.Text(), "");
-    for (const std::string& text : {EclipseHemisphereText, EclipseShadowText, EclipseKindText,
-                                    EclipseTotalityText, SolarEclipseRows[0]}) {
-        EXPECT_EQ(text, "");
-    }
 }
 
 TEST_F(MoonWindowTest, PrintsTheWindow) {
