@@ -3,7 +3,7 @@
 
 #include "ctl/calculation.h"
 #include "ctl/document_fonts.h"
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 #include "engine/current_year.h"
 #include "lang/language_pack.h"
 #include "store/isha_setting.h"

@@ -10,9 +10,9 @@
 #include "ctl/number_range.h"
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
-#include "moon/moon_phases.h"
 #include "moon/moon_rise_set.h"
 #include "moon/moon_row_labels.h"
+#include "moon/phase_rows.h"
 #include "store/language_setting.h"
 
 namespace horavex {

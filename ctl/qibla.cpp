@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 #include "engine/angle.h"
 #include "engine/place.h"
 #include "store/settings_record.h"

@@ -8,7 +8,7 @@
 #include "calendar/hijri_today.h"
 #include "ctl/calculation.h"
 #include "ctl/day_text.h"
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 #include "ctl/watch.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"

@@ -2,7 +2,7 @@
 #include <sstream>
 
 #include "ctl/calculation.h"
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/solar_event.h"

@@ -2,7 +2,7 @@
 
 #include "base/date.h"
 #include "ctl/number_range.h"
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 #include "engine/angle.h"
 #include "store/location_text.h"
 #include "store/settings_defaults.h"

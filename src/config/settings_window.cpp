@@ -4,7 +4,7 @@
 #include "config/city_choice.h"
 #include "config/commit.h"
 #include "config/help.h"
-#include "config/new_coordinates.h"
+#include "config/new_coordinates_window.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"

@@ -1,6 +1,6 @@
 #include "moon/moon_row_labels.h"
 
-#include "moon/moon_phases.h"
+#include "moon/phase_rows.h"
 #include "support/data_folder.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"

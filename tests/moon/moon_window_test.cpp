@@ -6,7 +6,7 @@
 #include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
-#include "moon/moon_phases.h"
+#include "moon/phase_rows.h"
 #include "support/program_test.h"
 #include "windows/frm_ramadan.h"
 #include "windows/moon_phases.h"

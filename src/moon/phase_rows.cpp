@@ -1,4 +1,4 @@
-#include "moon/moon_phases.h"
+#include "moon/phase_rows.h"
 
 #include <cmath>
 

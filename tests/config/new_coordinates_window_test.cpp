@@ -1,4 +1,4 @@
-#include "config/new_coordinates.h"
+#include "config/new_coordinates_window.h"
 
 #include "support/program_test.h"
 #include "windows/new_coordinates.h"

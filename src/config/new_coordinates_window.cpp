@@ -1,4 +1,4 @@
-#include "config/new_coordinates.h"
+#include "config/new_coordinates_window.h"
 
 #include "lang/form_language.h"
 #include "platform/platform.h"

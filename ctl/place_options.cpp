@@ -1,4 +1,4 @@
-#include "ctl/place.h"
+#include "ctl/place_options.h"
 
 #include <algorithm>
 
