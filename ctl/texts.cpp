@@ -55,8 +55,9 @@ void AddTextCommands(CLI::App& app, Session& session) {
     command->add_option("--language", options->language, "Column, 1 to 6")
         ->check(CLI::Range(0, 6))
         ->required();
-    command->callback(
-        [&session, options] { PrintText(session, TextItem(options->entry, options->language)); });
+    command->callback([&session, options] {
+        PrintText(session, TextItem(TextEntry{options->entry}, options->language));
+    });
 }
 
 }  // namespace horavex

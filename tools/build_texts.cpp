@@ -13,10 +13,12 @@ namespace {
 using namespace horavex;
 
 constexpr std::int64_t kLargestPosition = 32767;
+constexpr std::size_t kFirstText = 2;  // behind number and name
 
 void CheckRow(const CsvRow& row, std::size_t entry) {
-    if (row.size() != 1 + kTextLanguages || row[0] != std::to_string(entry)) {
-        throw TypeMismatchFault("row " + std::to_string(entry) + " wants its number and six texts");
+    if (row.size() != kFirstText + kTextLanguages || row[0] != std::to_string(entry)) {
+        throw TypeMismatchFault("row " + std::to_string(entry) +
+                                " wants its number, its name and six texts");
     }
 }
 
@@ -27,7 +29,8 @@ void Build(char** arguments) {
     for (std::size_t entry = 1; entry < rows.size(); ++entry) {
         CheckRow(rows[entry], entry);
         for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
-            const std::string& text = rows[entry][static_cast<std::size_t>(language)];
+            const std::string& text =
+                rows[entry][kFirstText + static_cast<std::size_t>(language) - 1];
             AppendInt16(index, texts.Add(text, TextColumnCodePage(language)));
         }
     }

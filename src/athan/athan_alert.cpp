@@ -46,7 +46,7 @@ void ShowAlarmMessage() {
     fMessage->Shape1.SetVisible(false);
     fMessage->lblMessage2.SetCaption(
         Ports().formats.MediumTime(ActiveSettings.AlarmTime / kAlarmStepsPerDay) + " : " +
-        TextItem(53, ActiveSettings.Language));
+        TextItem(TextEntry::kAlarmIsDue, ActiveSettings.Language));
     fMessage->Show();
 }
 

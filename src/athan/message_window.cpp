@@ -17,7 +17,7 @@ namespace {
 void fMessage_Load() {
     TranslateOnLoad(*fMessage);
     fMessage->SetCaption("Horavex Prayer Time Software ");
-    fMessage->CmdCancel.SetCaption(TextItem(27, ActiveSettings.Language));
+    fMessage->CmdCancel.SetCaption(TextItem(TextEntry::kCancel, ActiveSettings.Language));
     alarmDismissed = kFalse;
     CenterOnScreen(*fMessage);
 }

@@ -89,15 +89,16 @@ private:
     const WorkingValues edits_;
 };
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, Settings.Language);
 }
 
 void RefuseZone() {
     RunStep([] {
         Ports().dialogs.ShowMessage(
-            Text(63) + " " + Text(49) + ". " + Text(69) + " " + std::to_string(ZoneNearest), "",
-            MessageIcon::kNone);
+            Text(TextEntry::kPleaseCheck) + " " + Text(TextEntry::kTimeZone) + ". " +
+                Text(TextEntry::kNearestZone) + " " + std::to_string(ZoneNearest),
+            "", MessageIcon::kNone);
     });
     HoravexMainForm->txtTimeZone.SetFocus();
 }
@@ -109,7 +110,7 @@ void AcceptPlace() {
     ActiveCityText = CityText;
     ActiveLocation = Location;
     frmMain->lblCity.SetCaption(ActiveCityText);
-    HoravexMainForm->lblCityBanner.SetCaption(Text(25) + ": " + ActiveCityText);
+    HoravexMainForm->lblCityBanner.SetCaption(Text(TextEntry::kCity) + ": " + ActiveCityText);
 }
 
 void AcceptLanguage() {

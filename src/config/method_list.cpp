@@ -7,22 +7,19 @@ namespace horavex {
 
 namespace {
 
-constexpr std::uint16_t kCustom = 80;
-constexpr std::uint16_t kOutsideBand = 81;
-
 std::string Refusal(std::int16_t language) {
-    return TextItem(kOutsideBand, language) + " " + std::to_string(AngleBand.smallest) + " - " +
-           std::to_string(AngleBand.largest);
+    return TextItem(TextEntry::kOutsideBand, language) + " " + std::to_string(AngleBand.smallest) +
+           " - " + std::to_string(AngleBand.largest);
 }
 
 }  // namespace
 
 void FillMethodRows(ComboBox& list, std::int16_t language) {
     list.Clear();
-    list.AddItem(TextItem(kCustom, language));
+    list.AddItem(TextItem(TextEntry::kCustom, language));
     const std::string refusal = Refusal(language);
     for (const Method& method : Methods()) {
-        list.AddItem(TextItem(method.nameEntry, language));
+        list.AddItem(TextItem(method.name, language));
         list.SetItemRefusal(list.ListCount() - 1, FitsBand(method) ? "" : refusal);
     }
 }

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <cstdint>
 #include <span>
+
+#include "store/text_entry.h"
 
 namespace horavex {
 
 /// A published convention that defines both twilights by an angle.
 struct Method {
-    std::uint16_t nameEntry;  // of the text table
-    double fajrAngle;         // degrees, in quarters
-    double ishaAngle;         // likewise
-    const char* source;       // who publishes the angles
+    TextEntry name;
+    double fajrAngle;    // degrees, in quarters
+    double ishaAngle;    // likewise
+    const char* source;  // who publishes the angles
 };
 
 /// The conventions in the order of the list. Those that define Isha by minutes after sunset, or

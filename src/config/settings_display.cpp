@@ -25,14 +25,14 @@ namespace {
 
 constexpr double kAlarmStepsPerDay = 288.0;
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, Settings.Language);
 }
 
 }  // namespace
 
 std::string AngleText(double angle) {
-    return Text(16) + " " + NumberToText(angle, Ports().formats.DecimalMark());
+    return Text(TextEntry::kDegrees) + " " + NumberToText(angle, Ports().formats.DecimalMark());
 }
 
 std::string DayText(std::int16_t day) {
@@ -97,7 +97,7 @@ void ShowLocationInWindow() {
     form.lblLocationLat.SetCaption(LatitudeText);
     form.lblLocationLon.SetCaption(LongitudeText);
     form.lblTimeZone.SetCaption(ZoneHintText);
-    form.lblGMT.SetCaption(Text(67));
+    form.lblGMT.SetCaption(Text(TextEntry::kGmt));
 }
 
 void ShowNewLocation() {
@@ -109,50 +109,50 @@ void ShowNewLocation() {
 
 void TranslateSettingsWindow(std::int16_t language) {
     SettingsForm& form = *HoravexMainForm;
-    const std::pair<Control*, std::uint16_t> captions[] = {
-        {&form.fraCity, 20},
-        {&form.cmdChangeCity, 21},
-        {&form.lblGMT, 67},
-        {&form.lblFajrAngle, 40},
-        {&form.lblIshaAngle, 41},
-        {&form.fraAsr, 74},
-        {&form.optAsrRatio(1), 43},
-        {&form.optAsrRatio(2), 44},
-        {&form.fraDayLT, 45},
-        {&form.chkDayLT, 45},
-        {&form.lblBeginAt, 46},
-        {&form.lblEndAT, 48},
-        {&form.fraAthan, 52},
-        {&form.cmdAthan, 52},
-        {&form.optAthanType(1), 56},
-        {&form.optAthanType(2), 58},
-        {&form.optAthanType(3), 61},
-        {&form.fraAlarm, 50},
-        {&form.chkAlarm, 50},
-        {&form.lblAlarmAt, 51},
-        {&form.fraQibla, 68},
-        {&form.optQiblaMethod(1), 70},
-        {&form.optQiblaMethod(2), 71},
-        {&form.cmdQibla, 68},
-        {&form.fraLanguage, 24},
-        {&form.cmdComputerZone, 78},
-        {&form.lblMethod, 79},
-        {&form.fraAngles, 90},
-        {&form.chkAddToStartup, 66},
-        {&form.cmdDefault, 73},
-        {&form.SettingsSet, 72},
-        {&form.VisitWebSiteLabel, 92},
-        {&form.AboutUpdateButton, 93},
-        {&form.QiblaHelpButton, 30},
-        {&form.SettingsHelp, 94},
-        {&form.Help, 95},
-        {&form.lblInternetConnect, 96},
+    const std::pair<Control*, TextEntry> captions[] = {
+        {&form.fraCity, TextEntry::kLocation},
+        {&form.cmdChangeCity, TextEntry::kChangeCity},
+        {&form.lblGMT, TextEntry::kGmt},
+        {&form.lblFajrAngle, TextEntry::kFajrAngle},
+        {&form.lblIshaAngle, TextEntry::kIshaAngle},
+        {&form.fraAsr, TextEntry::kAsrRatio},
+        {&form.optAsrRatio(1), TextEntry::kShafaiiAsr},
+        {&form.optAsrRatio(2), TextEntry::kHanafiAsr},
+        {&form.fraDayLT, TextEntry::kDaylightSaving},
+        {&form.chkDayLT, TextEntry::kDaylightSaving},
+        {&form.lblBeginAt, TextEntry::kBeginsOn},
+        {&form.lblEndAT, TextEntry::kEndsOn},
+        {&form.fraAthan, TextEntry::kAthan},
+        {&form.cmdAthan, TextEntry::kAthan},
+        {&form.optAthanType(1), TextEntry::kMute},
+        {&form.optAthanType(2), TextEntry::kBuzzard},
+        {&form.optAthanType(3), TextEntry::kSound},
+        {&form.fraAlarm, TextEntry::kAlarm},
+        {&form.chkAlarm, TextEntry::kAlarm},
+        {&form.lblAlarmAt, TextEntry::kAlarmAt},
+        {&form.fraQibla, TextEntry::kQibla},
+        {&form.optQiblaMethod(1), TextEntry::kQiblaMethod1},
+        {&form.optQiblaMethod(2), TextEntry::kQiblaMethod2},
+        {&form.cmdQibla, TextEntry::kQibla},
+        {&form.fraLanguage, TextEntry::kLanguage},
+        {&form.cmdComputerZone, TextEntry::kComputersZone},
+        {&form.lblMethod, TextEntry::kMethodCaption},
+        {&form.fraAngles, TextEntry::kDepressionAngles},
+        {&form.chkAddToStartup, TextEntry::kStartWithSession},
+        {&form.cmdDefault, TextEntry::kDefault},
+        {&form.SettingsSet, TextEntry::kSet},
+        {&form.VisitWebSiteLabel, TextEntry::kCheckForUpdate},
+        {&form.AboutUpdateButton, TextEntry::kVisitOurSite},
+        {&form.QiblaHelpButton, TextEntry::kHelp},
+        {&form.SettingsHelp, TextEntry::kHelpOnSettings},
+        {&form.Help, TextEntry::kHelpIndex},
+        {&form.lblInternetConnect, TextEntry::kCheckingConnection},
     };
     for (const auto& [control, entry] : captions) {
         control->SetCaption(TextItem(entry, language));
     }
-    form.lblCityBanner.SetCaption(TextItem(25, language) + ": " + ActiveCityText);
-    form.SetCaption("Horavex " + TextItem(19, language));
+    form.lblCityBanner.SetCaption(TextItem(TextEntry::kCity, language) + ": " + ActiveCityText);
+    form.SetCaption("Horavex " + TextItem(TextEntry::kSettings, language));
     ListMethods(*HoravexMainForm, language);
     ShowNewLocation();
 }

@@ -34,14 +34,15 @@ DayHost* host = nullptr;
 
 const ProgramStateReset reset([] { host = nullptr; });
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
 void ShowProgressWindow() {
     fMessage->Load();
-    fMessage->lblMessage1.SetCaption(Text(5) + " " + std::to_string(CurrentYear));
-    fMessage->lblMessage2.SetCaption(Text(1));
+    fMessage->lblMessage1.SetCaption(Text(TextEntry::kCalculatingYear) + " " +
+                                     std::to_string(CurrentYear));
+    fMessage->lblMessage2.SetCaption(Text(TextEntry::kPleaseWait));
     fMessage->Show();
 }
 

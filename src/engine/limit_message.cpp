@@ -11,23 +11,23 @@ namespace horavex {
 
 namespace {
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
 /// The three closing entries of a message, which name the remedy.
 struct Remedy {
-    std::uint16_t entries[3];
+    TextEntry entries[3];
 };
 
 Remedy RemedyOf(char message) {
     switch (message) {
         case 'A':
-            return {{65, 42, 6}};
+            return {{TextEntry::kOrReduce, TextEntry::kDepressionAngleOf, TextEntry::kFajr}};
         case 'B':
-            return {{64, 42, 6}};
+            return {{TextEntry::kOrIncrease, TextEntry::kDepressionAngleOf, TextEntry::kFajr}};
         default:
-            return {{63, 34, 47}};
+            return {{TextEntry::kPleaseCheck, TextEntry::kOfDaylightSaving, TextEntry::kDays}};
     }
 }
 
@@ -35,8 +35,10 @@ Remedy RemedyOf(char message) {
 
 void ShowLimitMessage(char message) {
     const auto [remedy] = RemedyOf(message);
-    Ports().dialogs.ShowMessage(Text(62) + Crlf + Crlf + Text(63) + " " + Text(49) + Crlf +
-                                    Text(remedy[0]) + " " + Text(remedy[1]) + " " + Text(remedy[2]),
+    Ports().dialogs.ShowMessage(Text(TextEntry::kYearImpossible) + Crlf + Crlf +
+                                    Text(TextEntry::kPleaseCheck) + " " +
+                                    Text(TextEntry::kTimeZone) + Crlf + Text(remedy[0]) + " " +
+                                    Text(remedy[1]) + " " + Text(remedy[2]),
                                 "", MessageIcon::kNone);
 }
 

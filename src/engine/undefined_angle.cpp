@@ -10,7 +10,8 @@ namespace horavex {
 void InstallUndefinedAngleReport() {
     SetUndefinedAngleHandler([] {
         const std::int16_t language = ActiveSettings.Language;
-        Ports().dialogs.ShowMessage(TextItem(29, language) + Crlf + TextItem(3, language),
+        Ports().dialogs.ShowMessage(TextItem(TextEntry::kUndefinedAngle, language) + Crlf +
+                                        TextItem(TextEntry::kProgramCloses, language),
                                     "Horavex Prayer Time Software ", MessageIcon::kCritical);
         Ports().eventLoop.EndProcess();
     });

@@ -261,15 +261,15 @@ void cmdOK_Click() {
 
 void fCountry_Load() {
     TranslateOnLoad(*fCountry);
-    const std::string title = TextItem(55, Settings.Language);
+    const std::string title = TextItem(TextEntry::kChooseCity, Settings.Language);
     fCountry->SetCaption(title.empty() ? "Chose a City" : title);
     CenterOnScreen(*fCountry);
 }
 
 void ShowProgressWindow() {
     fMessage->Load();
-    fMessage->lblMessage1.SetCaption(TextItem(57, Settings.Language));
-    fMessage->lblMessage2.SetCaption(TextItem(1, Settings.Language));
+    fMessage->lblMessage1.SetCaption(TextItem(TextEntry::kLoadingCountries, Settings.Language));
+    fMessage->lblMessage2.SetCaption(TextItem(TextEntry::kPleaseWait, Settings.Language));
     fMessage->Show();
 }
 

@@ -39,11 +39,13 @@ double GreatCircleBearing() {
 }
 
 std::string BearingSentence(double degrees, std::int16_t language) {
-    const auto text = [language](std::uint16_t entry) { return TextItem(entry, language); };
+    const auto text = [language](TextEntry entry) { return TextItem(entry, language); };
     const DegreesMinutes split = SplitDegrees(degrees);
-    return text(68) + ": " + std::to_string(std::abs(split.whole)) + " " + text(16) + ", " +
-           std::to_string(split.minutes) + " " + text(17) + " " + text(degrees < 0.0 ? 15 : 13) +
-           " " + text(18) + " " + text(12);
+    return text(TextEntry::kQibla) + ": " + std::to_string(std::abs(split.whole)) + " " +
+           text(TextEntry::kDegrees) + ", " + std::to_string(split.minutes) + " " +
+           text(TextEntry::kMinutes) + " " +
+           text(degrees < 0.0 ? TextEntry::kWest : TextEntry::kEast) + " " + text(TextEntry::kOf) +
+           " " + text(TextEntry::kNorth);
 }
 
 }  // namespace

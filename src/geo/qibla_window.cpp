@@ -58,10 +58,10 @@ std::string ShownSentence() {
 void ShowTexts() {
     QiblaForm& form = *fQibla;
     form.SetCaption("Horavex Prayer Time Software ");
-    form.lblNorth.SetCaption(TextItem(12, ActiveSettings.Language));
-    form.lblEast.SetCaption(TextItem(13, ActiveSettings.Language));
-    form.lblSouth.SetCaption(TextItem(14, ActiveSettings.Language));
-    form.lblWest.SetCaption(TextItem(15, ActiveSettings.Language));
+    form.lblNorth.SetCaption(TextItem(TextEntry::kNorth, ActiveSettings.Language));
+    form.lblEast.SetCaption(TextItem(TextEntry::kEast, ActiveSettings.Language));
+    form.lblSouth.SetCaption(TextItem(TextEntry::kSouth, ActiveSettings.Language));
+    form.lblWest.SetCaption(TextItem(TextEntry::kWest, ActiveSettings.Language));
     form.lblQibla.SetCaption(ShownSentence());
 }
 

@@ -36,8 +36,6 @@ namespace {
 
 const ProgramStateReset reset([] { programFolder.clear(); });
 
-constexpr std::uint16_t kDamaged = 91;
-
 /// Reads the accepted settings. False for a language that there is not; they speak the first then.
 bool LoadStoredSettings() {
     LoadActiveSettings();
@@ -63,7 +61,7 @@ bool LookUpStoredPlace() {
 
 /// Says that the stored settings are damaged and opens the settings window.
 void AskForSettings() {
-    Ports().dialogs.ShowMessage(TextItem(kDamaged, ActiveSettings.Language), "",
+    Ports().dialogs.ShowMessage(TextItem(TextEntry::kDamagedSettings, ActiveSettings.Language), "",
                                 MessageIcon::kExclamation);
     ShowSettingsWindow();
 }
@@ -72,8 +70,8 @@ void RefuseSecondInstance() {
     if (!Ports().instanceGuard.AnotherIsRunning()) {
         return;
     }
-    Ports().dialogs.ShowMessage(TextItem(54, ActiveSettings.Language), kProgramTitle,
-                                MessageIcon::kCritical);
+    Ports().dialogs.ShowMessage(TextItem(TextEntry::kAlreadyRunning, ActiveSettings.Language),
+                                kProgramTitle, MessageIcon::kCritical);
     Ports().eventLoop.EndProcess();
 }
 

@@ -31,19 +31,12 @@ const ProgramStateReset reset([] {
     ZoneWestText.clear();
 });
 
-constexpr std::uint16_t kNorth = 12;
-constexpr std::uint16_t kEast = 13;
-constexpr std::uint16_t kSouth = 14;
-constexpr std::uint16_t kWest = 15;
-constexpr std::uint16_t kLatitudeCaption = 59;
-constexpr std::uint16_t kLongitudeCaption = 60;
-
-std::string FormatCoordinate(std::uint16_t caption, double degrees, std::uint16_t hemisphere,
+std::string FormatCoordinate(TextEntry caption, double degrees, TextEntry hemisphere,
                              std::int16_t language) {
     const DegreesMinutes split = SplitDegrees(degrees);
     return TextItem(caption, language) + ": " + std::to_string(std::abs(split.whole)) + " " +
-           TextItem(16, language) + ", " + std::to_string(split.minutes) + " " +
-           TextItem(17, language) + " " + TextItem(hemisphere, language);
+           TextItem(TextEntry::kDegrees, language) + ", " + std::to_string(split.minutes) + " " +
+           TextItem(TextEntry::kMinutes, language) + " " + TextItem(hemisphere, language);
 }
 
 }  // namespace
@@ -56,11 +49,13 @@ void ZoneFromLongitude(double longitude) {
 }
 
 std::string FormatLatitude(double degrees, std::int16_t language) {
-    return FormatCoordinate(kLatitudeCaption, degrees, degrees < 0.0 ? kSouth : kNorth, language);
+    return FormatCoordinate(TextEntry::kLatitude, degrees,
+                            degrees < 0.0 ? TextEntry::kSouth : TextEntry::kNorth, language);
 }
 
 std::string FormatLongitude(double degrees, std::int16_t language) {
-    return FormatCoordinate(kLongitudeCaption, degrees, degrees < 0.0 ? kWest : kEast, language);
+    return FormatCoordinate(TextEntry::kLongitude, degrees,
+                            degrees < 0.0 ? TextEntry::kWest : TextEntry::kEast, language);
 }
 
 void ShowLocation(const LocationRecord& location) {
@@ -71,7 +66,7 @@ void ShowLocation(const LocationRecord& location) {
     LatitudeText = FormatLatitude(latitude, Settings.Language);
     LongitudeText = FormatLongitude(longitude, Settings.Language);
     ZoneWestText = std::to_string(ZoneWest);
-    ZoneHintText = TextItem(49, Settings.Language) + " ( " + ZoneWestText + ", " +
+    ZoneHintText = TextItem(TextEntry::kTimeZone, Settings.Language) + " ( " + ZoneWestText + ", " +
                    std::to_string(ZoneEast) + ", ...)";
 }
 

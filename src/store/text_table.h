@@ -1,13 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "base/code_page.h"
+#include "store/text_entry.h"
 
 namespace horavex {
 
-inline constexpr std::uint16_t kTextEntries = 96;  // the last one that the program asks for
 inline constexpr std::int16_t kTextLanguages = 6;
 inline constexpr std::int16_t kArabicColumn = 4;
 
@@ -19,10 +20,16 @@ constexpr bool IsTextLanguage(std::int16_t language) {
 /// The code page in which a column of the table is stored: Arabic in its own, others in Latin.
 CodePage TextColumnCodePage(std::int16_t language);
 
-/// The text of an entry (from 1) in a language column (1 to 6; 0 is taken as 1), from
-/// "Dat/T.DAT" through "Dat/TI.DAT". Both files are opened on every call. An entry beyond the
-/// index gives an empty text. Throws FileFault for a missing file, OverflowFault for a record
-/// number beyond 16 bits, BoundsFault for a damaged index.
-std::string TextItem(std::uint16_t entry, std::int16_t language);
+/// The name of a prayer, by index: the six stand one after another.
+constexpr TextEntry PrayerNameEntry(std::size_t prayer) {
+    return TextEntry{
+        static_cast<std::uint16_t>(static_cast<std::size_t>(TextEntry::kFajr) + prayer)};
+}
+
+/// The text of an entry in a language column (1 to 6; 0 is taken as 1), from
+/// "Dat/T.DAT" through "Dat/TI.DAT". Both files are opened on every call. An entry
+/// beyond the index, which has no name, gives an empty text. Throws FileFault for a missing file,
+/// OverflowFault for a record number beyond 16 bits, BoundsFault for a damaged index.
+std::string TextItem(TextEntry entry, std::int16_t language);
 
 }  // namespace horavex

@@ -22,7 +22,7 @@ const FileRequest kRequest = {"",
                               "All Files (*.*)|*.*|HTML Files|*.html",
                               6};
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
@@ -31,7 +31,8 @@ std::string Text(std::uint16_t entry) {
 std::string AskForFile() {
     fMessage->Load();
     const std::string former = fMessage->lblMessage1.Caption();
-    fMessage->lblMessage1.SetCaption(Text(26) + " " + Text(1));
+    fMessage->lblMessage1.SetCaption(Text(TextEntry::kExportingYear) + " " +
+                                     Text(TextEntry::kPleaseWait));
     const std::string path = Ports().dialogs.SaveFile(kRequest, ".txt");
     if (path.empty()) {
         fMessage->lblMessage1.SetCaption(former);

@@ -27,7 +27,7 @@ constexpr const char* kNoNote = " ";
 constexpr const char* kBegins = "B";
 constexpr const char* kFinishes = "F";
 
-std::string Text(std::uint16_t entry) {
+std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
@@ -42,26 +42,27 @@ std::string Cell(const std::string& text) {
 std::string PlaceLines() {
     const double latitude = StoredCoord(ActiveLocation.City.Latitude);
     const double longitude = StoredCoord(ActiveLocation.City.Longitude);
-    return Text(25) + ": " + ActiveCityText + Crlf +
+    return Text(TextEntry::kCity) + ": " + ActiveCityText + Crlf +
            FormatLatitude(latitude, ActiveSettings.Language) + Crlf +
            FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
 }
 
 std::string ZoneLine() {
-    return Text(49) + ": " + Text(67) + " " +
+    return Text(TextEntry::kTimeZone) + ": " + Text(TextEntry::kGmt) + " " +
            SignedFixedText(ActiveSettings.TimeZone, Ports().formats.DecimalMark()) + Crlf;
 }
 
 std::string QiblaLine() {
-    const std::string method = ActiveSettings.QiblaMethod == 2 ? Text(76) : Text(77);
-    return QiblaText + " (" + method + " " + Text(75) + ") " + Crlf;
+    const std::string method =
+        ActiveSettings.QiblaMethod == 2 ? Text(TextEntry::kSecond) : Text(TextEntry::kFirst);
+    return QiblaText + " (" + method + " " + Text(TextEntry::kMethod) + ") " + Crlf;
 }
 
 std::string ColumnLines() {
     std::string translated(kDayCaptionWidth, ' ');
-    std::string fixed = CenterText(Text(37), kDayCaptionWidth);
-    for (std::uint16_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        translated += Cell(Text(static_cast<std::uint16_t>(6 + prayer)));
+    std::string fixed = CenterText(Text(TextEntry::kDay), kDayCaptionWidth);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        translated += Cell(Text(PrayerNameEntry(prayer)));
         fixed += Cell(prayerNames.at(prayer));
     }
     return translated + Crlf + fixed + Crlf;
@@ -73,7 +74,8 @@ std::string Header() {
 }
 
 std::string MonthTitle(Date date) {
-    const std::string title = Text(36) + " " + Ports().formats.MonthAndYear(date) + ".";
+    const std::string title =
+        Text(TextEntry::kPrayerTimesOf) + " " + Ports().formats.MonthAndYear(date) + ".";
     return Rule() + CenterText(title, kPageWidth) + Crlf + Crlf;
 }
 
@@ -118,7 +120,9 @@ bool EndsGroup(int dayOfMonth) {
 }
 
 std::string Footnote(const DaylightNote& flag) {
-    return "* " + Text(35) + " : " + Text(flag == kBegins ? 32 : 33) + " " + Text(34) + "." + Crlf;
+    return "* " + Text(TextEntry::kNote) + " : " +
+           Text(flag == kBegins ? TextEntry::kStartOf : TextEntry::kEndOf) + " " +
+           Text(TextEntry::kOfDaylightSaving) + "." + Crlf;
 }
 
 }  // namespace

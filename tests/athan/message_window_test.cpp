@@ -31,10 +31,10 @@ TEST_F(MessageWindowTest, LoadTakesTheCancelButtonsCaptionFromTheAcceptedLanguag
     currentLanguage = "German";
     ActiveSettings.Language = 1;
     Settings.Language = 2;
-    ASSERT_NE(TextItem(27, 1), TextItem(27, 2));
+    ASSERT_NE(TextItem(TextEntry::kCancel, 1), TextItem(TextEntry::kCancel, 2));
     fMessage->Unload();
     fMessage->Load();
-    EXPECT_EQ(fMessage->CmdCancel.Caption(), TextItem(27, 1));
+    EXPECT_EQ(fMessage->CmdCancel.Caption(), TextItem(TextEntry::kCancel, 1));
 }
 
 TEST_F(MessageWindowTest, ButtonPlaysTheSoundOfTheOtherPrayers) {

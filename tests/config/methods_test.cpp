@@ -94,9 +94,9 @@ TEST_F(MethodsTest, ConventionOutsideTheBandIsRefusedWithTheReason) {
 
 TEST_F(MethodsTest, LimitsOfTheBandBelongToIt) {
     AngleBand = {18, 18, 17};
-    EXPECT_TRUE(FitsBand({0, 18.0, 17.0, ""}));
-    EXPECT_FALSE(FitsBand({0, 18.25, 17.0, ""}));
-    EXPECT_FALSE(FitsBand({0, 17.0, 16.75, ""}));
+    EXPECT_TRUE(FitsBand({TextEntry::kCustom, 18.0, 17.0, ""}));
+    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 18.25, 17.0, ""}));
+    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 17.0, 16.75, ""}));
 }
 
 TEST_F(MethodsTest, RefusalGoesWithTheNextPlace) {

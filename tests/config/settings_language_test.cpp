@@ -27,7 +27,7 @@ struct SettingsLanguageTest : ProgramTest, testing::WithParamInterface<std::int1
     static std::set<std::string> Texts() {
         std::set<std::string> texts;
         for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
-            texts.insert(TextItem(entry, GetParam()));
+            texts.insert(TextItem(TextEntry{entry}, GetParam()));
         }
         return texts;
     }

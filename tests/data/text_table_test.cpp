@@ -17,18 +17,30 @@ namespace horavex {
 namespace {
 
 constexpr std::int16_t kColumns = 6;
-constexpr std::uint16_t kSingleWords[] = {12, 13, 14, 15, 16, 17, 18, 59, 60, 68};
+constexpr TextEntry kSingleWords[] = {
+    TextEntry::kNorth,     TextEntry::kEast,    TextEntry::kSouth, TextEntry::kWest,
+    TextEntry::kDegrees,   TextEntry::kMinutes, TextEntry::kOf,    TextEntry::kLatitude,
+    TextEntry::kLongitude, TextEntry::kQibla};
 
 using TextTable = BuiltData;
 
-std::string Place(std::int16_t column, std::uint16_t entry) {
-    return "column " + std::to_string(column) + ", entry " + std::to_string(entry);
+std::string Place(std::int16_t column, TextEntry entry) {
+    return "column " + std::to_string(column) + ", entry " +
+           std::to_string(static_cast<std::uint16_t>(entry));
+}
+
+std::vector<TextEntry> AllEntries() {
+    std::vector<TextEntry> entries;
+    for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
+        entries.push_back(TextEntry{entry});
+    }
+    return entries;
 }
 
 template <typename Check>
 void ForEachText(Check check) {
     for (std::int16_t column = 1; column <= kColumns; ++column) {
-        for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
+        for (const TextEntry entry : AllEntries()) {
             SCOPED_TRACE(Place(column, entry));
             check(TextItem(entry, column), column, entry);
         }
@@ -41,11 +53,11 @@ bool IsArabicLetter(char32_t c) {
 
 TEST_F(TextTable, HasNothingBehindItsLastEntry) {
     EXPECT_EQ(folder.ReadWhole("Dat\\TI.DAT").size(), std::size_t{kTextEntries} * kColumns * 2);
-    EXPECT_EQ(TextItem(kTextEntries + 1, 1), "");
+    EXPECT_EQ(TextItem(TextEntry{kTextEntries + 1}, 1), "");
 }
 
 TEST_F(TextTable, EveryEntryHasATextInEveryColumn) {
-    ForEachText([](const std::string& text, std::int16_t, std::uint16_t) {
+    ForEachText([](const std::string& text, std::int16_t, TextEntry) {
         EXPECT_NE(text, "");
         EXPECT_EQ(Trim(text), text);
         EXPECT_TRUE(IsUtf8(text));
@@ -55,16 +67,16 @@ TEST_F(TextTable, EveryEntryHasATextInEveryColumn) {
 }
 
 TEST_F(TextTable, ArabicColumnIsInArabicLetters) {
-    for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
+    for (const TextEntry entry : AllEntries()) {
         const auto codePoints = DecodeUtf8(TextItem(entry, kArabicColumn)).value();
         const bool arabic = std::any_of(codePoints.begin(), codePoints.end(), IsArabicLetter);
         // The name of the zone of Greenwich is written with its Latin letters everywhere.
-        EXPECT_EQ(arabic, entry != 67) << entry;
+        EXPECT_EQ(arabic, entry != TextEntry::kGmt) << Place(kArabicColumn, entry);
     }
 }
 
 TEST_F(TextTable, OtherColumnsHoldNoArabicLetter) {
-    ForEachText([](const std::string& text, std::int16_t column, std::uint16_t) {
+    ForEachText([](const std::string& text, std::int16_t column, TextEntry) {
         const auto codePoints = DecodeUtf8(text).value();
         EXPECT_TRUE(column == kArabicColumn ||
                     std::none_of(codePoints.begin(), codePoints.end(), IsArabicLetter));
@@ -72,23 +84,23 @@ TEST_F(TextTable, OtherColumnsHoldNoArabicLetter) {
 }
 
 TEST_F(TextTable, SixthColumnIsEnglish) {
-    for (std::uint16_t entry = 1; entry <= kTextEntries; ++entry) {
-        EXPECT_EQ(TextItem(entry, 6), TextItem(entry, 1)) << entry;
+    for (const TextEntry entry : AllEntries()) {
+        EXPECT_EQ(TextItem(entry, 6), TextItem(entry, 1)) << Place(6, entry);
     }
 }
 
 TEST_F(TextTable, EnglishDirectionsAndUnitsAreTheOnesThatAreReadBack) {
-    EXPECT_EQ(TextItem(12, 1), "North");
-    EXPECT_EQ(TextItem(13, 1), "East");
-    EXPECT_EQ(TextItem(14, 1), "South");
-    EXPECT_EQ(TextItem(15, 1), "West");
-    EXPECT_EQ(TextItem(16, 1), "degrees");
-    EXPECT_EQ(TextItem(17, 1), "minutes");
+    EXPECT_EQ(TextItem(TextEntry::kNorth, 1), "North");
+    EXPECT_EQ(TextItem(TextEntry::kEast, 1), "East");
+    EXPECT_EQ(TextItem(TextEntry::kSouth, 1), "South");
+    EXPECT_EQ(TextItem(TextEntry::kWest, 1), "West");
+    EXPECT_EQ(TextItem(TextEntry::kDegrees, 1), "degrees");
+    EXPECT_EQ(TextItem(TextEntry::kMinutes, 1), "minutes");
 }
 
 // Sentences made of them are split at blanks again.
 TEST_F(TextTable, PiecesOfCoordinatesAndBearingsAreSingleWords) {
-    for (const std::uint16_t entry : kSingleWords) {
+    for (const TextEntry entry : kSingleWords) {
         for (std::int16_t column = 1; column <= kColumns; ++column) {
             EXPECT_EQ(TextItem(entry, column).find_first_of(" \t\xA0"), std::string::npos)
                 << Place(column, entry);
@@ -97,14 +109,17 @@ TEST_F(TextTable, PiecesOfCoordinatesAndBearingsAreSingleWords) {
 }
 
 TEST_F(TextTable, PrayerNamesHoldNoColon) {
-    ForEachText([](const std::string& text, std::int16_t, std::uint16_t entry) {
-        EXPECT_TRUE(entry < 6 || entry > 11 || text.find(':') == std::string::npos);
-    });
+    for (std::size_t prayer = 0; prayer < 6; ++prayer) {
+        for (std::int16_t column = 1; column <= kColumns; ++column) {
+            EXPECT_EQ(TextItem(PrayerNameEntry(prayer), column).find(':'), std::string::npos)
+                << Place(column, PrayerNameEntry(prayer));
+        }
+    }
 }
 
 TEST_F(TextTable, ZoneHintOpensOneParenthesis) {
     for (std::int16_t column = 1; column <= kColumns; ++column) {
-        EXPECT_EQ(TextItem(49, column).find('('), std::string::npos) << column;
+        EXPECT_EQ(TextItem(TextEntry::kTimeZone, column).find('('), std::string::npos) << column;
     }
 }
 
@@ -143,22 +158,27 @@ TEST_F(TextTable, DirectionsStandWhereTheWordsAreCounted) {
     for (std::int16_t column = 1; column <= kColumns; ++column) {
         ActiveSettings.Language = column;
         ComputeQibla();
-        EXPECT_EQ(Split(FormatLatitude(30.05, column), ' ').at(5), TextItem(12, column));
-        EXPECT_EQ(Split(FormatLongitude(-30.05, column), ' ').at(5), TextItem(15, column));
-        EXPECT_EQ(Split(QiblaText, ' ').at(5), TextItem(13, column));
-        EXPECT_EQ(Split(QiblaText, ' ').at(7), TextItem(12, column));
+        EXPECT_EQ(Split(FormatLatitude(30.05, column), ' ').at(5),
+                  TextItem(TextEntry::kNorth, column));
+        EXPECT_EQ(Split(FormatLongitude(-30.05, column), ' ').at(5),
+                  TextItem(TextEntry::kWest, column));
+        EXPECT_EQ(Split(QiblaText, ' ').at(5), TextItem(TextEntry::kEast, column));
+        EXPECT_EQ(Split(QiblaText, ' ').at(7), TextItem(TextEntry::kNorth, column));
     }
 }
 
 TEST_F(TextTable, RemainingCompositionsAreSentences) {
-    const auto text = [](std::uint16_t entry) { return TextItem(entry, 1); };
-    EXPECT_EQ(text(5) + " 2026", "Calculating the prayer times of 2026");
-    EXPECT_EQ(text(63) + " " + text(49) + ". " + text(69) + " 3",
+    const auto text = [](TextEntry entry) { return TextItem(entry, 1); };
+    EXPECT_EQ(text(TextEntry::kCalculatingYear) + " 2026", "Calculating the prayer times of 2026");
+    EXPECT_EQ(text(TextEntry::kPleaseCheck) + " " + text(TextEntry::kTimeZone) + ". " +
+                  text(TextEntry::kNearestZone) + " 3",
               "Please check the Time Zone. The nearest zone of this place is 3");
-    EXPECT_EQ(text(35) + " : " + text(32) + " " + text(34) + ".",
+    EXPECT_EQ(text(TextEntry::kNote) + " : " + text(TextEntry::kStartOf) + " " +
+                  text(TextEntry::kOfDaylightSaving) + ".",
               "Note : Start of daylight saving.");
-    EXPECT_EQ(text(77) + " " + text(75), "first method");
-    EXPECT_EQ("06:30 AM : " + text(53), "06:30 AM : It is time for your alarm.");
+    EXPECT_EQ(text(TextEntry::kFirst) + " " + text(TextEntry::kMethod), "first method");
+    EXPECT_EQ("06:30 AM : " + text(TextEntry::kAlarmIsDue),
+              "06:30 AM : It is time for your alarm.");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
 #include "engine/wait.h"
+#include "store/text_table.h"
 #include "support/data_folder.h"
 #include "windows/f_message.h"
 #include "windows/frm_main.h"
@@ -144,13 +145,14 @@ TEST_F(RefreshAllTest, WaitsForWhatIsLeftOfTheThreeSeconds) {
 }
 
 TEST_F(RefreshAllTest, ProgressWindowTellsTheYearInTheAcceptedLanguage) {
-    DataFolder(platform.files).WriteTexts(5);
+    DataFolder(platform.files).WriteTexts(kTextEntries);
     ActiveSettings.Language = 2;
     Settings.Language = 3;
     bool shown = false;
     platform.loop.After(1.0, [&shown] {
-        EXPECT_EQ(fMessage->lblMessage1.Caption(), "text 5 in 2 2026");
-        EXPECT_EQ(fMessage->lblMessage2.Caption(), "text 1 in 2");
+        EXPECT_EQ(fMessage->lblMessage1.Caption(),
+                  TextItem(TextEntry::kCalculatingYear, 2) + " 2026");
+        EXPECT_EQ(fMessage->lblMessage2.Caption(), TextItem(TextEntry::kPleaseWait, 2));
         shown = fMessage->Visible();
     });
     RefreshAll();

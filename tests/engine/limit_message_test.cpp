@@ -4,27 +4,23 @@
 #include "engine/angle.h"
 #include "engine/sample_year.h"
 #include "engine/undefined_angle.h"
-#include "store/data_text.h"
+#include "store/text_table.h"
+#include "support/data_folder.h"
 
 namespace horavex {
 namespace {
 
-/// A text table in which every text tells its own number and column: "62:1".
+/// Every text tells its own number and column.
 struct MessageTest : EngineTest {
-    MessageTest() {
-        Bytes texts;
-        Bytes index;
-        for (int record = 0; record < 77 * 6; ++record) {
-            const auto start = static_cast<std::int16_t>(texts.size() + 1);
-            index.resize(index.size() + 2);
-            PutInt16(index, index.size() - 2, start);
-            const std::string text =
-                std::to_string(record / 6 + 1) + ":" + std::to_string(record % 6 + 1);
-            const Bytes stored = DecodeText(BytesOf(text));
-            texts.insert(texts.end(), stored.begin(), stored.end());
-        }
-        platform.files.WriteWhole("/program/Dat/T.DAT", texts);
-        platform.files.WriteWhole("/program/Dat/TI.DAT", index);
+    MessageTest() { DataFolder(platform.files).WriteTexts(kTextEntries); }
+
+    /// What all messages open with, and the remedy in pieces behind it.
+    static std::string Message(std::int16_t language, TextEntry first, TextEntry second,
+                               TextEntry third) {
+        const auto text = [language](TextEntry entry) { return TextItem(entry, language); };
+        return text(TextEntry::kYearImpossible) + "\r\n\r\n" + text(TextEntry::kPleaseCheck) + " " +
+               text(TextEntry::kTimeZone) + "\r\n" + text(first) + " " + text(second) + " " +
+               text(third);
     }
 
     std::string Shown(char message) {
@@ -37,21 +33,25 @@ struct MessageTest : EngineTest {
 };
 
 TEST_F(MessageTest, TwilightMessage) {
-    EXPECT_EQ(Shown('A'), "62:1\r\n\r\n63:1 49:1\r\n65:1 42:1 6:1");
+    EXPECT_EQ(Shown('A'),
+              Message(1, TextEntry::kOrReduce, TextEntry::kDepressionAngleOf, TextEntry::kFajr));
 }
 
 TEST_F(MessageTest, DawnMessage) {
-    EXPECT_EQ(Shown('B'), "62:1\r\n\r\n63:1 49:1\r\n64:1 42:1 6:1");
+    EXPECT_EQ(Shown('B'),
+              Message(1, TextEntry::kOrIncrease, TextEntry::kDepressionAngleOf, TextEntry::kFajr));
 }
 
 TEST_F(MessageTest, DaylightMessage) {
-    EXPECT_EQ(Shown('C'), "62:1\r\n\r\n63:1 49:1\r\n63:1 34:1 47:1");
+    EXPECT_EQ(Shown('C'),
+              Message(1, TextEntry::kPleaseCheck, TextEntry::kOfDaylightSaving, TextEntry::kDays));
 }
 
 TEST_F(MessageTest, SpeaksTheAcceptedLanguage) {
     ActiveSettings.Language = 3;
     Settings.Language = 5;
-    EXPECT_EQ(Shown('C'), "62:3\r\n\r\n63:3 49:3\r\n63:3 34:3 47:3");
+    EXPECT_EQ(Shown('C'),
+              Message(3, TextEntry::kPleaseCheck, TextEntry::kOfDaylightSaving, TextEntry::kDays));
 }
 
 TEST_F(MessageTest, UndefinedAngleEndsTheProgram) {
@@ -59,7 +59,8 @@ TEST_F(MessageTest, UndefinedAngleEndsTheProgram) {
     ActiveSettings.Language = 2;
     EXPECT_THROW(Atan2Checked(0.0, 0.0), ProcessEnded);
     ASSERT_EQ(platform.dialogs.messages.size(), 1U);
-    EXPECT_EQ(platform.dialogs.messages[0].text, "29:2\r\n3:2");
+    EXPECT_EQ(platform.dialogs.messages[0].text, TextItem(TextEntry::kUndefinedAngle, 2) + "\r\n" +
+                                                     TextItem(TextEntry::kProgramCloses, 2));
     EXPECT_EQ(platform.dialogs.messages[0].title, "Horavex Prayer Time Software ");
     EXPECT_EQ(platform.dialogs.messages[0].icon, MessageIcon::kCritical);
     SetUndefinedAngleHandler(nullptr);

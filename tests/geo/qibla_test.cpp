@@ -2,49 +2,27 @@
 
 #include "engine/angle.h"
 #include "engine/place.h"
-#include "store/data_text.h"
 #include "store/settings_record.h"
+#include "support/data_folder.h"
 #include "support/test_platform.h"
 
 namespace horavex {
 namespace {
 
 struct QiblaTest : testing::Test {
-    /// Texts in English for the entries of the sentence; those of the second column have a mark.
+    /// The words of the sentence in English; those of the second column have a mark.
     QiblaTest() {
-        Bytes texts;
-        Bytes index;
-        for (int record = 0; record < 77 * 6; ++record) {
-            index.resize(index.size() + 2);
-            PutInt16(index, index.size() - 2, static_cast<std::int16_t>(texts.size() + 1));
-            const Bytes stored =
-                DecodeText(BytesOf(WordOf(record / 6 + 1) + (record % 6 == 1 ? "2" : "")));
-            texts.insert(texts.end(), stored.begin(), stored.end());
+        const std::pair<TextEntry, const char*> words[] = {
+            {TextEntry::kNorth, "North"},     {TextEntry::kEast, "East"},
+            {TextEntry::kWest, "West"},       {TextEntry::kDegrees, "degrees"},
+            {TextEntry::kMinutes, "minutes"}, {TextEntry::kOf, "of"},
+            {TextEntry::kQibla, "Qibla"},
+        };
+        for (const auto& [entry, word] : words) {
+            data.WriteText(entry, 1, word);
+            data.WriteText(entry, 2, std::string(word) + "2");
         }
-        platform.files.WriteWhole("/program/Dat/T.DAT", texts);
-        platform.files.WriteWhole("/program/Dat/TI.DAT", index);
         Settings.QiblaMethod = 1;
-    }
-
-    static std::string WordOf(int entry) {
-        switch (entry) {
-            case 12:
-                return "North";
-            case 13:
-                return "East";
-            case 15:
-                return "West";
-            case 16:
-                return "degrees";
-            case 17:
-                return "minutes";
-            case 18:
-                return "of";
-            case 68:
-                return "Qibla";
-            default:
-                return "?";
-        }
     }
 
     void From(double latitude, double longitude) {
@@ -54,6 +32,7 @@ struct QiblaTest : testing::Test {
     }
 
     TestPlatform platform;
+    DataFolder data{platform.files};
 };
 
 TEST_F(QiblaTest, FromCairo) {

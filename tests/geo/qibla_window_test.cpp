@@ -34,17 +34,17 @@ TEST_F(QiblaWindowTest, ShowsTheSentenceAndTheFourDirections) {
     EXPECT_EQ(form.Owner(), &*frmMain);
     EXPECT_EQ(form.Caption(), "Horavex Prayer Time Software ");
     EXPECT_EQ(form.lblQibla.Caption(), QiblaText);
-    EXPECT_EQ(form.lblNorth.Caption(), TextItem(12, 1));
-    EXPECT_EQ(form.lblEast.Caption(), TextItem(13, 1));
-    EXPECT_EQ(form.lblSouth.Caption(), TextItem(14, 1));
-    EXPECT_EQ(form.lblWest.Caption(), TextItem(15, 1));
+    EXPECT_EQ(form.lblNorth.Caption(), TextItem(TextEntry::kNorth, 1));
+    EXPECT_EQ(form.lblEast.Caption(), TextItem(TextEntry::kEast, 1));
+    EXPECT_EQ(form.lblSouth.Caption(), TextItem(TextEntry::kSouth, 1));
+    EXPECT_EQ(form.lblWest.Caption(), TextItem(TextEntry::kWest, 1));
 }
 
 TEST_F(QiblaWindowTest, DirectionsAreInTheLanguageOfTheAcceptedSettings) {
     ActiveSettings.Language = 3;
     ShowQibla();
-    EXPECT_EQ(form.lblEast.Caption(), TextItem(13, 3));
-    EXPECT_NE(form.lblEast.Caption(), TextItem(13, 1));
+    EXPECT_EQ(form.lblEast.Caption(), TextItem(TextEntry::kEast, 3));
+    EXPECT_NE(form.lblEast.Caption(), TextItem(TextEntry::kEast, 1));
 }
 
 TEST_F(QiblaWindowTest, ArabicRewritesTheSentenceByItsWords) {

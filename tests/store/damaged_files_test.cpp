@@ -47,8 +47,9 @@ protected:
             });
         }
         failed |= Fails([] { ShowLocation(Location); });
-        for (const int entry : {1, 2, 12, 69, 77}) {
-            failed |= Fails([&] { TextItem(static_cast<std::uint16_t>(entry), 6); });
+        for (const TextEntry entry :
+             {TextEntry::kPleaseWait, TextEntry::kNorth, TextEntry::kFirst}) {
+            failed |= Fails([&] { TextItem(entry, 6); });
         }
         failed |= Fails([] { LoadActiveSettings(); });
         return failed;
@@ -102,8 +103,8 @@ TEST_F(DamagedFilesTest, EveryLengthOfAShortTextTableGivesTextsOrFaults) {
             for (std::uint16_t entry = 1; entry <= 3; ++entry) {
                 const std::string whole = "text " + std::to_string(entry) + " in 1";
                 Fails([&] {
-                    EXPECT_TRUE(TextItem(entry, 1).starts_with(whole) ||
-                                whole.starts_with(TextItem(entry, 1)))
+                    EXPECT_TRUE(TextItem(TextEntry{entry}, 1).starts_with(whole) ||
+                                whole.starts_with(TextItem(TextEntry{entry}, 1)))
                         << length;
                 });
             }

@@ -127,12 +127,12 @@ TEST_F(DataCheckTest, NameBeforeTheFirstPositionIsNamed) {
 }
 
 TEST_F(DataCheckTest, EmptyTextIsNamed) {
-    data.WriteText(3, 2, "");
+    data.WriteText(TextEntry{3}, 2, "");
     EXPECT_THAT(Problems(), ElementsAre(StartsWith("Dat/TI.DAT: record 14: no text from ")));
 }
 
 TEST_F(DataCheckTest, TextsBeyondSixteenBitsAreNamed) {
-    data.WriteText(kTextEntries, 5, std::string(32767, 'x'));
+    data.WriteText(TextEntry{kTextEntries}, 5, std::string(32767, 'x'));
     EXPECT_THAT(Problems(),
                 ElementsAre(StartsWith("Dat/TI.DAT: record 575: no text from position "),
                             StartsWith("Dat/TI.DAT: record 576: no text from position -")));

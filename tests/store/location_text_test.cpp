@@ -48,18 +48,18 @@ TEST(ZoneFromLongitude, BeyondSixteenBitsIsAFault) {
 class CoordinateTextTest : public DataFolderTest {
 protected:
     CoordinateTextTest() {
-        data.WriteTexts(67);
+        data.WriteTexts(kTextEntries);
         for (const std::int16_t language : {std::int16_t{1}, std::int16_t{2}}) {
             const std::string mark = language == 1 ? "" : "2";
-            data.WriteText(12, language, "North" + mark);
-            data.WriteText(13, language, "East" + mark);
-            data.WriteText(14, language, "South" + mark);
-            data.WriteText(15, language, "West" + mark);
-            data.WriteText(16, language, "degrees" + mark);
-            data.WriteText(17, language, "minutes" + mark);
-            data.WriteText(49, language, "Zones" + mark);
-            data.WriteText(59, language, "Latitude" + mark);
-            data.WriteText(60, language, "Longitude" + mark);
+            data.WriteText(TextEntry::kNorth, language, "North" + mark);
+            data.WriteText(TextEntry::kEast, language, "East" + mark);
+            data.WriteText(TextEntry::kSouth, language, "South" + mark);
+            data.WriteText(TextEntry::kWest, language, "West" + mark);
+            data.WriteText(TextEntry::kDegrees, language, "degrees" + mark);
+            data.WriteText(TextEntry::kMinutes, language, "minutes" + mark);
+            data.WriteText(TextEntry::kTimeZone, language, "Zones" + mark);
+            data.WriteText(TextEntry::kLatitude, language, "Latitude" + mark);
+            data.WriteText(TextEntry::kLongitude, language, "Longitude" + mark);
         }
     }
 };

@@ -115,7 +115,7 @@ void DataFolder::WriteTexts(std::uint16_t entries) {
     Bytes texts;
     for (std::uint16_t entry = 1; entry <= entries; ++entry) {
         for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
-            const auto at = texts_.find({entry, language});
+            const auto at = texts_.find({TextEntry{entry}, language});
             AppendInt16(index, NextPosition(texts));
             Append(texts, Stored(at != texts_.end() ? at->second
                                                     : "text " + std::to_string(entry) + " in " +
@@ -127,9 +127,9 @@ void DataFolder::WriteTexts(std::uint16_t entries) {
     Write("Dat/T.DAT", texts);
 }
 
-void DataFolder::WriteText(std::uint16_t entry, std::int16_t language, const std::string& text) {
+void DataFolder::WriteText(TextEntry entry, std::int16_t language, const std::string& text) {
     texts_[{entry, language}] = text;
-    WriteTexts(std::max(entry, entries_));
+    WriteTexts(std::max(static_cast<std::uint16_t>(entry), entries_));
 }
 
 void DataFolder::WriteSample() {

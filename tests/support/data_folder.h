@@ -10,6 +10,7 @@
 #include "store/angle_band.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
+#include "store/text_entry.h"
 
 namespace horavex {
 
@@ -40,8 +41,8 @@ public:
     /// The text table with this many entries, each saying which it is: "text 12 in 1".
     void WriteTexts(std::uint16_t entries);
 
-    /// One text of the table in the place of the present one, entry from 1, language 1 to 6.
-    void WriteText(std::uint16_t entry, std::int16_t language, const std::string& text);
+    /// One text of the table in the place of the present one, language 1 to 6.
+    void WriteText(TextEntry entry, std::int16_t language, const std::string& text);
 
     /// Cities with and without a province in three countries, ranks, bands, texts and both
     /// settings records, all of them sound. Nothing else stays in the folder "Dat".
@@ -66,7 +67,7 @@ private:
     std::int16_t nextCity_ = kFirstCityIndex;
     std::map<std::string, std::int16_t> provinces_;
     std::uint16_t entries_ = 0;
-    std::map<std::pair<std::uint16_t, std::int16_t>, std::string> texts_;
+    std::map<std::pair<TextEntry, std::int16_t>, std::string> texts_;
 };
 
 /// The data files that hold records or texts, as the system names them.

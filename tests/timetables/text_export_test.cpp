@@ -237,8 +237,13 @@ TEST_F(TextPagesTest, ZoneHasTheDecimalMarkOfTheUser) {
 TEST_F(TextPagesTest, PlaceIsToldInTheWordsOfTheAcceptedLanguage) {
     ActiveSettings.Language = 2;
     Settings.Language = 1;
-    for (const auto& [entry, text] : std::initializer_list<std::pair<std::uint16_t, const char*>>{
-             {12, "Nord"}, {13, "Est"}, {16, "degr"}, {17, "min"}, {59, "Lat"}, {60, "Lon"}}) {
+    for (const auto& [entry, text] :
+         std::initializer_list<std::pair<TextEntry, const char*>>{{TextEntry::kNorth, "Nord"},
+                                                                  {TextEntry::kEast, "Est"},
+                                                                  {TextEntry::kDegrees, "degr"},
+                                                                  {TextEntry::kMinutes, "min"},
+                                                                  {TextEntry::kLatitude, "Lat"},
+                                                                  {TextEntry::kLongitude, "Lon"}}) {
         data.WriteText(entry, 2, text);
     }
     const std::string january = Pages().at(0);
@@ -252,14 +257,14 @@ TEST_F(TextPagesTest, TimeThatDoesNotExistComesOutAsItsFormatGivesIt) {
 }
 
 TEST_F(TextPagesTest, LongNameIsCutToItsCell) {
-    data.WriteText(7, 1, "Rising of the sun");
+    data.WriteText(TextEntry::kShurooq, 1, "Rising of the sun");
     EXPECT_THAT(Pages().at(0), HasSubstr("          Fajr     Rising of t    Zuhr    "));
 }
 
 TEST_F(TextPagesTest, TextsAreOfTheAcceptedLanguageInUtf8WithoutAMark) {
     ActiveSettings.Language = 4;
-    data.WriteText(25, 4, "المدينة");
-    data.WriteText(6, 4, "الفجر");
+    data.WriteText(TextEntry::kCity, 4, "المدينة");
+    data.WriteText(TextEntry::kFajr, 4, "الفجر");
     const std::string january = Pages().at(0);
     EXPECT_THAT(january, StartsWith("-"));
     EXPECT_THAT(january, HasSubstr("\r\nالمدينة: Cairo - Egypt\r\n"));

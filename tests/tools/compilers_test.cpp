@@ -124,7 +124,8 @@ TEST_F(BuildLocations, MissingSourceFailsNamingIt) {
 }
 
 TEST_F(BuildTexts, TextsAreIndexedByEntryAndColumn) {
-    const ProgramRun run = Compile("build_texts", "entry,1,2,3,4,5,6\n1,a,b,c,ش,\"d,e\",f\n");
+    const ProgramRun run =
+        Compile("build_texts", "entry,name,1,2,3,4,5,6\n1,Name,a,b,c,ش,\"d,e\",f\n");
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "1 texts, 8 bytes\n");
     const Bytes index = Output("TI.DAT");
@@ -137,25 +138,27 @@ TEST_F(BuildTexts, TextsAreIndexedByEntryAndColumn) {
 }
 
 TEST_F(BuildTexts, GapInTheNumbersFails) {
-    ExpectFailure(Compile("build_texts", "entry,1,2,3,4,5,6\n2,a,b,c,d,e,f\n"), "row 1");
+    ExpectFailure(Compile("build_texts", "entry,name,1,2,3,4,5,6\n2,Name,a,b,c,d,e,f\n"), "row 1");
 }
 
 TEST_F(BuildTexts, MissingColumnFails) {
-    ExpectFailure(Compile("build_texts", "entry,1,2,3,4,5,6\n1,a,b,c,d,e\n"), "row 1");
+    ExpectFailure(Compile("build_texts", "entry,name,1,2,3,4,5,6\n1,Name,a,b,c,d,e\n"), "row 1");
 }
 
 TEST_F(BuildTexts, CharacterThatTheColumnLacksFails) {
-    ExpectFailure(Compile("build_texts", "entry,1,2,3,4,5,6\n1,ش,b,c,d,e,f\n"), "ش");
+    ExpectFailure(Compile("build_texts", "entry,name,1,2,3,4,5,6\n1,Name,ش,b,c,d,e,f\n"), "ش");
 }
 
 TEST_F(BuildTexts, UnclosedQuoteFails) {
-    ExpectFailure(Compile("build_texts", "entry,1,2,3,4,5,6\n1,\"a,b,c,d,e,f\n"), "quoted field");
+    ExpectFailure(Compile("build_texts", "entry,name,1,2,3,4,5,6\n1,Name,\"a,b,c,d,e,f\n"),
+                  "quoted field");
 }
 
 TEST_F(BuildTexts, TextsBeyondTheReachOfTheIndexFail) {
     const std::string longText(32767, 'x');
-    ExpectFailure(Compile("build_texts", "entry,1,2,3,4,5,6\n1," + longText + ",b,c,d,e,f\n"),
-                  "no room");
+    ExpectFailure(
+        Compile("build_texts", "entry,name,1,2,3,4,5,6\n1,Name," + longText + ",b,c,d,e,f\n"),
+        "no room");
 }
 
 TEST_F(BuildTexts, EmptySourceFails) {
