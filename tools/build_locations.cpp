@@ -1,6 +1,6 @@
 // Compiles data/gazetteer into the location files: countries, cities and provinces with their
-// indexes, and the rank of each city by population. Arguments: the folder of the source, the
-// folder of the data files.
+// indexes, the rank of each city by population, its zone and its other names. Arguments: the folder
+// of the source, the folder of the data files.
 
 #include <algorithm>
 #include <iostream>
@@ -28,19 +28,23 @@ struct City {
     int latitude;   // hundredths of a degree
     int longitude;  // hundredths of a degree
     int population;
+    std::string zone;   // of the zone database
+    std::string names;  // other ones, joined by commas
 };
 
 City ParseCity(const std::string& line) {
     const auto columns = SplitTabs(line);
-    if (columns.size() != 6) {
-        throw TypeMismatchFault("a city wants six columns: " + line);
+    if (columns.size() != 8) {
+        throw TypeMismatchFault("a city wants eight columns: " + line);
     }
     return {columns[0],
             columns[1],
             columns[2],
             WholeNumber(columns[3]),
             WholeNumber(columns[4]),
-            WholeNumber(columns[5])};
+            WholeNumber(columns[5]),
+            columns[6],
+            columns[7]};
 }
 
 std::vector<City> ReadCities(const std::string& path) {
@@ -175,6 +179,35 @@ void WriteRanks(const std::vector<City>& cities, const std::string& folder) {
     WriteDataFile(folder, "RI.DAT", ranks);
 }
 
+/// The names of all zones by the alphabet, a line each, and for each city the number of its zone's
+/// line.
+void WriteZones(const std::vector<City>& cities, const std::string& folder) {
+    std::map<std::string, std::int64_t> numbers;
+    for (const City& city : cities) {
+        numbers[city.zone] = 0;
+    }
+    std::string names;
+    for (std::int64_t count = 0; auto& [zone, number] : numbers) {
+        number = ++count;
+        names += zone + "\n";
+    }
+    Bytes index;
+    for (const City& city : cities) {
+        AppendInt16(index, numbers.at(city.zone));
+    }
+    WriteDataFile(folder, "ZI.DAT", index);
+    WriteDataFile(folder, "Z.DAT", BytesOf(names));
+}
+
+/// The other names of each city, a line a city.
+void WriteOtherNames(const std::vector<City>& cities, const std::string& folder) {
+    std::string names;
+    for (const City& city : cities) {
+        names += city.names + "\n";
+    }
+    WriteDataFile(folder, "N.DAT", BytesOf(names));
+}
+
 void Build(char** arguments) {
     const std::string source = arguments[0];
     const auto all = ReadCities(source + "/cities.tsv");
@@ -187,6 +220,8 @@ void Build(char** arguments) {
     WriteCountries(chosen, ReadLines(source + "/countries.tsv"), arguments[1]);
     WriteCities(chosen, arguments[1]);
     WriteRanks(chosen, arguments[1]);
+    WriteZones(chosen, arguments[1]);
+    WriteOtherNames(chosen, arguments[1]);
     std::cout << chosen.size() << " cities\n";
 }
 

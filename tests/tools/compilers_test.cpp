@@ -15,7 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kCityColumns = "country\tname\tprovince\tlatitude\tlongitude\tpopulation\n";
+constexpr const char* kCityColumns =
+    "country\tname\tprovince\tlatitude\tlongitude\tpopulation\tzone\tnames\n";
 constexpr const char* kCountries = "code\tname\nDZ\tAlgeria\nEG\tEgypt\nSA\tSaudi Arabia\n";
 
 struct Compilers : testing::Test {
@@ -65,52 +66,67 @@ std::string Cities(const std::string& rows) {
 std::string CitiesOf(const std::string& country, int count) {
     std::string rows;
     for (int i = 0; i < count; ++i) {
-        rows += country + "\tC" + std::to_string(i) + "\t\t3000\t3100\t1000\n";
+        rows += country + "\tC" + std::to_string(i) + "\t\t3000\t3100\t1000\tAfrica/Algiers\tN" +
+                std::to_string(i) + "\n";
     }
     return rows;
 }
 
 TEST_F(BuildLocations, SourceWithoutMeccaFailsClearly) {
-    ExpectFailure(Locations(Cities("EG\tCairo\tCairo\t3006\t3125\t7734614\n")),
+    ExpectFailure(Locations(Cities("EG\tCairo\tCairo\t3006\t3125\t7734614\tAfrica/Cairo\t\n")),
                   "the gazetteer has no Mecca");
 }
 
 TEST_F(BuildLocations, TooFewCitiesToPlaceMeccaFailClearly) {
-    ExpectFailure(Locations(Cities("EG\tCairo\tCairo\t3006\t3125\t7734614\n"
-                                   "SA\tMecca\tMecca\t2143\t3983\t1323624\n")),
+    ExpectFailure(Locations(Cities("EG\tCairo\tCairo\t3006\t3125\t7734614\tAfrica/Cairo\t\n"
+                                   "SA\tMecca\tMecca\t2143\t3983\t1323624\tAsia/Riyadh\t\n")),
                   "no number of cities gives Mecca its index");
 }
 
 TEST_F(BuildLocations, CitiesBeforeMeccaGiveItItsIndex) {
     // 37,183 records stand before Mecca's.
-    const ProgramRun run =
-        Locations(Cities(CitiesOf("DZ", 20000) + CitiesOf("EG", 17183) +
-                         "SA\tMecca\tMecca\t2143\t3983\t1323624\n" + CitiesOf("SA", 3000)));
+    const ProgramRun run = Locations(
+        Cities(CitiesOf("DZ", 20000) + CitiesOf("EG", 17183) +
+               "SA\tMecca\tMecca\t2143\t3983\t1323624\tAsia/Riyadh\t\n" + CitiesOf("SA", 3000)));
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "40184 cities\n");
     EXPECT_EQ(GetInt16(Output("CI.DAT"), 37183 * 10 + 4), 2143);
     EXPECT_EQ(GetInt16(Output("SI.DAt"), 2 * 6 + 2), -32000 + 37183);
 }
 
+TEST_F(BuildLocations, EachCityHasItsZoneAndOtherNames) {
+    Locations(Cities(CitiesOf("DZ", 20000) + CitiesOf("EG", 17183) +
+                     "SA\tMecca\tMecca\t2143\t3983\t1323624\tAsia/Riyadh\tمكة,Mekka\n" +
+                     CitiesOf("SA", 3000)));
+    EXPECT_EQ(StringOf(Output("Z.DAT")), "Africa/Algiers\nAsia/Riyadh\n");
+    const Bytes index = Output("ZI.DAT");
+    ASSERT_EQ(index.size(), 40184U * 2);
+    EXPECT_EQ(GetInt16(index, 37182 * 2), 1);
+    EXPECT_EQ(GetInt16(index, 37183 * 2), 2);
+    EXPECT_THAT(StringOf(Output("N.DAT")), testing::HasSubstr("\nN17182\nمكة,Mekka\nN0\n"));
+}
+
 TEST_F(BuildLocations, MoreCitiesThanACountryCanCountFail) {
-    const ProgramRun run = Locations(Cities(
-        CitiesOf("EG", 37183) + "SA\tMecca\tMecca\t2143\t3983\t1323624\n" + CitiesOf("SA", 3000)));
+    const ProgramRun run = Locations(
+        Cities(CitiesOf("EG", 37183) + "SA\tMecca\tMecca\t2143\t3983\t1323624\tAsia/Riyadh\t\n" +
+               CitiesOf("SA", 3000)));
     ExpectFailure(run, "16-bit field");
 }
 
 TEST_F(BuildLocations, CitiesOutOfTheOrderOfTheirCountriesFail) {
-    const ProgramRun run =
-        Locations(Cities(CitiesOf("EG", 17183) + CitiesOf("DZ", 20000) +
-                         "SA\tMecca\tMecca\t2143\t3983\t1323624\n" + CitiesOf("SA", 3000)));
+    const ProgramRun run = Locations(
+        Cities(CitiesOf("EG", 17183) + CitiesOf("DZ", 20000) +
+               "SA\tMecca\tMecca\t2143\t3983\t1323624\tAsia/Riyadh\t\n" + CitiesOf("SA", 3000)));
     ExpectFailure(run, "order of their countries");
 }
 
-TEST_F(BuildLocations, RowWithoutSixColumnsFailsNamingIt) {
+TEST_F(BuildLocations, RowWithoutEightColumnsFailsNamingIt) {
     ExpectFailure(Locations(Cities("EG\tCairo\tCairo\t3006\t3125\n")), "EG\tCairo");
 }
 
 TEST_F(BuildLocations, CoordinateThatIsNoNumberFailsNamingIt) {
-    ExpectFailure(Locations(Cities("SA\tMecca\tMecca\t21.43\t3983\t1\n")), "\"21.43\"");
+    ExpectFailure(Locations(Cities("SA\tMecca\tMecca\t21.43\t3983\t1\tAsia/Riyadh\t\n")),
+                  "\"21.43\"");
 }
 
 TEST_F(BuildLocations, EmptySourceFails) {

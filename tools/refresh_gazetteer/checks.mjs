@@ -35,6 +35,19 @@ const landmarks = [
     ["BR", "São Paulo", -23.5, -46.6], ["AR", "Buenos Aires", -34.6, -58.4],
 ];
 
+// Country, city, zone: whole hours and others, north and south, two zones of one country.
+const landmarkZones = [
+    ["SA", "Mecca", "Asia/Riyadh"], ["EG", "Cairo", "Africa/Cairo"], ["PS", "Gaza", "Asia/Gaza"],
+    ["MA", "Casablanca", "Africa/Casablanca"], ["NP", "Kathmandu", "Asia/Kathmandu"],
+    ["IN", "Mumbai", "Asia/Kolkata"], ["IR", "Tehran", "Asia/Tehran"],
+    ["IE", "Dublin", "Europe/Dublin"], ["DE", "Berlin", "Europe/Berlin"],
+    ["US", "New York City", "America/New_York"], ["US", "Phoenix", "America/Phoenix"],
+    ["CA", "St. John's", "America/St_Johns"], ["BR", "Manaus", "America/Manaus"],
+    ["AU", "Adelaide", "Australia/Adelaide"], ["NZ", "Auckland", "Pacific/Auckland"],
+    ["KI", "Tarawa", "Pacific/Tarawa"], ["WS", "Apia", "Pacific/Apia"],
+    ["UA", "Kyiv", "Europe/Kyiv"],
+];
+
 /// Total length of the distinct names; one letter is one byte in Windows-1252.
 export function packedBytes(names) {
     return [...new Set(names)].reduce((sum, name) => sum + name.length, 0);
@@ -50,19 +63,28 @@ function checkLandmarks(rows) {
     }
 }
 
+function checkZones(rows) {
+    for (const [code, name, zone] of landmarkZones) {
+        const found = rows.some((row) => row.code === code && row.name === name && row.zone === zone);
+        assert(found, `${name} (${code}) is not in ${zone}`);
+    }
+}
+
 function checkRow(row) {
     const told = JSON.stringify(row);
     assert(row.name !== "" && row.country !== "", `nameless: ${told}`);
     assert(Math.abs(row.latitude) <= 9000 && Math.abs(row.longitude) <= 18000, `off Earth: ${told}`);
-    for (const text of [row.country, row.name, row.province]) {
+    for (const text of [row.country, row.name, row.province, ...row.names.split(",")]) {
         assert(text === text.trim() && !/[\t\p{Cc}]/u.test(text), `unclean: ${told}`);
     }
+    assert(/^[A-Z][A-Za-z]+(\/[A-Za-z_-]+)+$/.test(row.zone), `no zone: ${told}`);
 }
 
 /// The numbers to report. Throws AssertionError when the rows cannot be compiled.
 export function checkedFigures(rows) {
     rows.forEach(checkRow);
     checkLandmarks(rows);
+    checkZones(rows);
     const mecca = rows.findIndex((row) => row.code === "SA" && row.name === "Mecca");
     const counts = countsForRecord(rows, mecca, meccaRecord);
     assert(counts && counts[1] >= fewestCities, `Mecca cannot become record ${meccaRecord}`);
@@ -76,6 +98,8 @@ export function checkedFigures(rows) {
         countryBytes,
         provinces: new Set(rows.map((row) => row.province)).size - 1,
         provinceBytes,
+        zones: new Set(rows.map((row) => row.zone)).size,
+        otherNames: rows.flatMap((row) => row.names.split(",").filter(Boolean)).length,
         smallestPopulation: Math.min(...rows.map((row) => row.population)),
         meccaAtMost: mecca + 1,
         citiesForMecca: counts,

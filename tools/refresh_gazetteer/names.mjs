@@ -23,7 +23,7 @@ const cyrillicLetters = {
 
 const foldedLetters = { ß: "ss", æ: "ae", œ: "oe", ø: "o", ð: "d", þ: "th" };
 
-const dropAccents = (text) => text.normalize("NFD").replace(/\p{M}/gu, "");
+export const dropAccents = (text) => text.normalize("NFD").replace(/\p{M}/gu, "");
 
 function romanizeCyrillic(letter) {
     const lower = letter.toLowerCase();
@@ -54,10 +54,14 @@ export function plainName(name) {
     return [...tidy].map(representable).join("").replace(/ +/g, " ").trim();
 }
 
+/// Lower case without accents: what a search compares.
+export function bareLetters(name) {
+    return dropAccents(name.toLowerCase()).replace(/[ßæœøðþ]/g, (c) => foldedLetters[c]);
+}
+
 /// Lower case without accents, apostrophes and punctuation: what rows are ordered by.
 export function fold(name) {
-    const bare = dropAccents(name.toLowerCase()).replace(/[ßæœøðþ]/g, (c) => foldedLetters[c]);
-    return bare.replace(/'/g, "").replace(/[^a-z0-9]+/g, " ").trim();
+    return bareLetters(name).replace(/'/g, "").replace(/[^a-z0-9]+/g, " ").trim();
 }
 
 /// -1, 0 or 1 by code units, the same on every machine whatever its locale.

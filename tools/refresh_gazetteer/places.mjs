@@ -41,10 +41,11 @@ export function withoutDuplicates(rows) {
     return [...kept.values()].flat();
 }
 
-/// Rows { code, country, name, province, latitude, longitude, population }; coordinates in
-/// hundredths of a degree, north and east positive. `provinceOf` gives the province of a city.
+/// Rows { id, code, country, name, province, latitude, longitude, population }; the id is that of
+/// GeoNames, coordinates are in hundredths of a degree, north and east positive. `provinceOf` gives the province of a city.
 export function townRows(cities, provinceOf) {
     return withoutDuplicates(cities.filter(isTown).map((city) => ({
+        id: city.cityId,
         code: city.country,
         country: countryName(city.country),
         name: cleanCityName(city.name),

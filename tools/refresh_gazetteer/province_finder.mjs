@@ -1,6 +1,7 @@
 // Which province a city lies in. The cities come from an older package than the provinces, and
 // division codes have been dissolved and reissued in between (Norway, Vietnam, Latvia ...).
 
+import { groupBy } from "./group_by.mjs";
 import { provinceNames } from "./provinces.mjs";
 
 // Countries that gave old codes to other provinces, so that a city's own code misleads.
@@ -8,16 +9,6 @@ const reissued = new Set(["VN"]);
 
 const sameTownDegrees = 0.1; // records of one name this close in both directions are one town
 const neighbourDegrees = 1; // a nearest town farther than this tells nothing of the province
-
-function groupBy(items, keyOf) {
-    const groups = new Map();
-    for (const item of items) {
-        const key = keyOf(item);
-        if (!groups.has(key)) groups.set(key, []);
-        groups.get(key).push(item);
-    }
-    return groups;
-}
 
 /// Degrees of latitude between two places, good enough to compare neighbours.
 function separation(latitude, longitude, place) {

@@ -36,14 +36,14 @@ test("counts that make a row a given record are found", () => {
 });
 
 const place = (name, population, more = {}) => ({
-    country: "OM", name, population, featureCode: "PPL", loc: { coordinates: [58.406, 23.584] },
+    cityId: 7, country: "OM", name, population, featureCode: "PPL", loc: { coordinates: [58.406, 23.584] },
     ...more,
 });
 
 test("coordinates are stored in hundredths of a degree, north and east positive", () => {
     const [town] = townRows([place("Muscat", 1)], () => "Muscat");
     assert.deepEqual(town, {
-        code: "OM", country: "Oman", name: "Muscat", province: "Muscat", latitude: 2358,
+        id: 7, code: "OM", country: "Oman", name: "Muscat", province: "Muscat", latitude: 2358,
         longitude: 5841, population: 1,
     });
 });
