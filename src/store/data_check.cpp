@@ -7,6 +7,8 @@
 #include <optional>
 
 #include "base/fault.h"
+#include "base/text.h"
+#include "base/utf8.h"
 #include "platform/platform.h"
 #include "store/data_text.h"
 #include "store/indexed_file.h"
@@ -37,6 +39,12 @@ constexpr std::int64_t kRankLength = 2;
 constexpr const char* kBands = "Dat/A.dat";
 constexpr std::int64_t kBandLength = 5;
 
+/// Zones of the cities by number, and their names; other names of the cities.
+constexpr const char* kZones = "Dat/ZI.DAT";
+constexpr std::int64_t kZoneLength = 2;
+constexpr const char* kZoneNames = "Dat/Z.DAT";
+constexpr const char* kOtherNames = "Dat/N.DAT";
+
 /// Published Hijri years.
 constexpr const char* kHijriYears = "Dat/UQ.DAT";
 constexpr std::int64_t kHijriYearLength = 18;
@@ -50,6 +58,15 @@ std::string At(const char* file, std::int64_t number) {
 bool HasControlCharacter(const Bytes& text) {
     return std::any_of(text.begin(), text.end(),
                        [](std::uint8_t code) { return code < 32 || code == 127; });
+}
+
+bool IsPlainText(const std::string& text) {
+    return !text.empty() && IsUtf8(text) && !HasControlCharacter(BytesOf(text));
+}
+
+/// Names of one city, joined by commas; it may have none.
+bool AreNames(const std::string& line) {
+    return line.empty() || std::ranges::all_of(Split(line, ','), IsPlainText);
 }
 
 /// A loaded file cut into records.
@@ -80,6 +97,7 @@ public:
             CheckLength(files.index, files.recordLength);
         }
         CheckLength(kRanks, kRankLength);
+        CheckLength(kZones, kZoneLength);
         CheckLength(kBands, kBandLength);
         CheckLength(kHijriYears, kHijriYearLength);
         CheckTexts(kProvinces);
@@ -89,7 +107,10 @@ public:
         CheckCityFields();
         CheckCountryRanges();
         CheckTextCount();
-        CheckRanks();
+        CheckOnePerCity(kRanks, kRankLength, "rank");
+        CheckOnePerCity(kZones, kZoneLength, "zone");
+        CheckZoneNumbers();
+        CheckOtherNames();
         CheckBands();
         CheckHijriYears();
         CheckSettings("Dat/AI.DAT");
@@ -204,13 +225,54 @@ private:
         }
     }
 
-    void CheckRanks() {
-        const auto ranks = LoadRecords(kRanks, kRankLength);
+    void CheckOnePerCity(const char* file, std::int64_t length, const char* what) {
+        const auto records = LoadRecords(file, length);
         const auto cities = LoadRecords(kCities.index, kCities.recordLength);
-        if (ranks && cities) {
+        if (records && cities) {
             report_.Expect(
-                ranks->Count() == cities->Count(),
-                std::string(kRanks) + ": not one rank for each city of " + kCities.index);
+                records->Count() == cities->Count(),
+                std::string(file) + ": not one " + what + " for each city of " + kCities.index);
+        }
+    }
+
+    /// The lines of a file, each looked at by isSound; nothing where the file cannot be read.
+    std::optional<std::size_t> CheckLines(const char* file, bool (*isSound)(const std::string&)) {
+        const auto& bytes = Load(file);
+        if (!bytes) {
+            return std::nullopt;
+        }
+        auto lines = Split(StringOf(*bytes), '\n');
+        report_.Expect(lines.back().empty(), std::string(file) + ": the last line is cut short");
+        lines.pop_back();
+        report_.Expect(!lines.empty(), std::string(file) + ": there is no line");
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            report_.Expect(isSound(lines[i]),
+                           std::string(file) + ": line " + std::to_string(i + 1) +
+                               ": it is empty, no UTF-8 or holds control characters");
+        }
+        return lines.size();
+    }
+
+    void CheckZoneNumbers() {
+        const auto zones = LoadRecords(kZones, kZoneLength);
+        const auto count = CheckLines(kZoneNames, IsPlainText);
+        if (!zones || !count) {
+            return;
+        }
+        for (std::int64_t number = 1; number <= zones->Count(); ++number) {
+            const std::int16_t zone = GetInt16(zones->Of(number), 0);
+            report_.Expect(zone >= 0 && zone <= static_cast<std::int64_t>(*count),
+                           At(kZones, number) + "there is no zone " + std::to_string(zone));
+        }
+    }
+
+    void CheckOtherNames() {
+        const auto count = CheckLines(kOtherNames, AreNames);
+        const auto cities = LoadRecords(kCities.index, kCities.recordLength);
+        if (count && cities) {
+            report_.Expect(
+                static_cast<std::int64_t>(*count) == cities->Count(),
+                std::string(kOtherNames) + ": not one line for each city of " + kCities.index);
         }
     }
 

@@ -70,7 +70,8 @@ private:
 inline constexpr const char* kDataFiles[] = {
     "Dat/SI.DAt", "Dat/S.DAT",  "Dat/CI.DAT",       "Dat/C.DAt",        "Dat/PI.DAT",
     "Dat/P.DAT",  "Dat/RI.DAT", "Dat/A.dat",        "Dat/UQ.DAT",       "Dat/TI.DAT",
-    "Dat/T.DAT",  "Dat/AI.DAT", "Dat/Settings.DAT", "lang/English.ini", "lang/Arabic.ini"};
+    "Dat/T.DAT",  "Dat/AI.DAT", "Dat/Settings.DAT", "lang/English.ini", "lang/Arabic.ini",
+    "Dat/ZI.DAT", "Dat/Z.DAT",  "Dat/N.DAT"};
 
 /// The name of a test for a file.
 inline std::string TestName(const testing::TestParamInfo<const char*>& info) {

@@ -96,7 +96,7 @@ TEST_P(DamagedLocationFile, TooLongEndsNoSearchOutOfOrder) {
 
 INSTANTIATE_TEST_SUITE_P(Files, DamagedLocationFile,
                          testing::Values("Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt",
-                                         "Dat/PI.DAT", "Dat/P.DAT", "Dat/RI.DAT"),
+                                         "Dat/PI.DAT", "Dat/P.DAT", "Dat/RI.DAT", "Dat/N.DAT"),
                          TestName);
 
 TEST(DamagedFolder, FileThatIsAFolderIsOneClearLine) {

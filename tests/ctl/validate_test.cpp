@@ -102,7 +102,8 @@ TEST_P(FilesThatCannotBeMissing, MissingOneIsNamed) {
 INSTANTIATE_TEST_SUITE_P(Files, FilesThatCannotBeMissing,
                          testing::Values("Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt",
                                          "Dat/PI.DAT", "Dat/P.DAT", "Dat/RI.DAT", "Dat/A.dat",
-                                         "Dat/UQ.DAT", "Dat/TI.DAT", "Dat/T.DAT"),
+                                         "Dat/UQ.DAT", "Dat/TI.DAT", "Dat/T.DAT", "Dat/ZI.DAT",
+                                         "Dat/Z.DAT", "Dat/N.DAT"),
                          TestName);
 
 struct Damage {
@@ -208,6 +209,9 @@ INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
                                          Damage{"Dat/PI.DAT", "Dat/PI.DAT: record "},
                                          Damage{"Dat/P.DAT", "Dat/PI.DAT: record "},
                                          Damage{"Dat/RI.DAT", "Dat/RI.DAT: not one rank"},
+                                         Damage{"Dat/ZI.DAT", "Dat/ZI.DAT: not one zone"},
+                                         Damage{"Dat/Z.DAT", "Dat/Z.DAT: the last line"},
+                                         Damage{"Dat/N.DAT", "Dat/N.DAT: the last line"},
                                          Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
                                          Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 577: "},
                                          Damage{"Dat/T.DAT", "Dat/TI.DAT: record 576: "}));
@@ -237,6 +241,9 @@ INSTANTIATE_TEST_SUITE_P(
                                "Dat/SI.DAt: the countries do not hold all cities"},
                     LostRecord{"Dat/PI.DAT", 2, "Dat/CI.DAT: record "},
                     LostRecord{"Dat/RI.DAT", 2, "Dat/RI.DAT: not one rank"},
+                    LostRecord{"Dat/ZI.DAT", 2, "Dat/ZI.DAT: not one zone"},
+                    LostRecord{"Dat/Z.DAT", 1, "Dat/Z.DAT: the last line is cut short"},
+                    LostRecord{"Dat/N.DAT", 1, "Dat/N.DAT: the last line is cut short"},
                     LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 96 entries"}));
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include "base/fault.h"
 #include "store/city_search.h"
+#include "store/city_zones.h"
 #include "store/data_check.h"
 #include "store/location_files.h"
 #include "store/location_text.h"
@@ -50,6 +51,9 @@ protected:
         for (const TextEntry entry :
              {TextEntry::kPleaseWait, TextEntry::kNorth, TextEntry::kFirst}) {
             failed |= Fails([&] { TextItem(entry, 6); });
+        }
+        for (std::int16_t cityIndex = -32001; cityIndex <= -31995; ++cityIndex) {
+            failed |= Fails([&] { CityZones().Of(cityIndex); });
         }
         failed |= Fails([] { LoadActiveSettings(); });
         return failed;

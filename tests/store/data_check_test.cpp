@@ -81,7 +81,7 @@ TEST_F(DataCheckTest, EveryFailingCallIsAProblemOfItsFile) {
     platform.failingFiles.FailCall(0);
     Problems();
     const int calls = platform.failingFiles.Calls();
-    EXPECT_EQ(calls, 13 * 2);  // thirteen files, opened and read once
+    EXPECT_EQ(calls, 16 * 2);  // sixteen files, opened and read once
     for (int n = 1; n <= calls; ++n) {
         platform.failingFiles.FailCall(n);
         EXPECT_THAT(Problems(), ElementsAre(StartsWith("Dat/"))) << n;
@@ -89,8 +89,8 @@ TEST_F(DataCheckTest, EveryFailingCallIsAProblemOfItsFile) {
 }
 
 TEST_F(DataCheckTest, FileWithoutRecordsIsAProblem) {
-    for (const std::string file :
-         {"Dat/SI.DAt", "Dat/CI.DAT", "Dat/PI.DAT", "Dat/TI.DAT", "Dat/RI.DAT", "Dat/A.dat"}) {
+    for (const std::string file : {"Dat/SI.DAt", "Dat/CI.DAT", "Dat/PI.DAT", "Dat/TI.DAT",
+                                   "Dat/RI.DAT", "Dat/A.dat", "Dat/ZI.DAT"}) {
         data.WriteSample();
         data.ShrinkTo(file, 0);
         EXPECT_THAT(Problems(), Contains(file + ": there is no record"));
@@ -202,6 +202,55 @@ TEST_F(DataCheckTest, CityOfNoCountryIsAProblem) {
 TEST_F(DataCheckTest, MissingTextsAreAProblem) {
     data.ShrinkBy("Dat/TI.DAT", 2);
     EXPECT_THAT(Problems(), ElementsAre("Dat/TI.DAT: fewer than 96 entries in six languages"));
+}
+
+TEST_F(DataCheckTest, NotOneZoneForEachCityIsAProblem) {
+    data.ShrinkBy("Dat/ZI.DAT", 2);
+    EXPECT_THAT(Problems(), ElementsAre("Dat/ZI.DAT: not one zone for each city of Dat/CI.DAT"));
+}
+
+TEST_F(DataCheckTest, ZoneThatNoLineHasIsNamed) {
+    data.SetInt16("Dat/ZI.DAT", 4, 4);
+    data.SetInt16("Dat/ZI.DAT", 8, -1);
+    EXPECT_THAT(Problems(), ElementsAre("Dat/ZI.DAT: record 3: there is no zone 4",
+                                        "Dat/ZI.DAT: record 5: there is no zone -1"));
+    data.SetInt16("Dat/ZI.DAT", 4, 3);
+    data.SetInt16("Dat/ZI.DAT", 8, 0);
+    EXPECT_THAT(Problems(), IsEmpty());
+}
+
+TEST_F(DataCheckTest, FileWithoutLinesIsAProblem) {
+    for (const std::string file : {"Dat/Z.DAT", "Dat/N.DAT"}) {
+        data.WriteSample();
+        data.ShrinkTo(file, 0);
+        EXPECT_THAT(Problems(), Contains(file + ": there is no line"));
+    }
+}
+
+TEST_F(DataCheckTest, ZoneNamesThatAreNoneAreNamed) {
+    data.Write("Dat/Z.DAT", "A/B\n\nC\xFF\nD/E");
+    const std::string unsound = ": it is empty, no UTF-8 or holds control characters";
+    EXPECT_THAT(Problems(),
+                ElementsAre("Dat/Z.DAT: the last line is cut short", "Dat/Z.DAT: line 2" + unsound,
+                            "Dat/Z.DAT: line 3" + unsound));
+}
+
+TEST_F(DataCheckTest, OtherNamesOfOtherCitiesAreAProblem) {
+    const std::string problem = "Dat/N.DAT: not one line for each city of Dat/CI.DAT";
+    data.WriteOtherNames("");
+    EXPECT_THAT(Problems(), ElementsAre(problem));
+    data.Write("Dat/N.DAT", "\n\n\n\n");
+    EXPECT_THAT(Problems(), ElementsAre(problem));
+    data.Write("Dat/N.DAT", "\n\n\n\n\n");
+    EXPECT_THAT(Problems(), IsEmpty());
+}
+
+TEST_F(DataCheckTest, OtherNamesThatAreNoneAreNamed) {
+    data.Write("Dat/N.DAT", "A,,B\nA\tB\n\xFF\nA,\nA,B\n");
+    const std::string unsound = ": it is empty, no UTF-8 or holds control characters";
+    EXPECT_THAT(Problems(),
+                ElementsAre("Dat/N.DAT: line 1" + unsound, "Dat/N.DAT: line 2" + unsound,
+                            "Dat/N.DAT: line 3" + unsound, "Dat/N.DAT: line 4" + unsound));
 }
 
 TEST_F(DataCheckTest, RanksAreOneForEachCity) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/code_page.h"
+#include "base/text.h"
 #include "store/data_text.h"
 #include "store/text_table.h"
 
@@ -87,6 +88,22 @@ void DataFolder::WriteRank(std::int16_t rank) {
     Write("Dat/RI.DAT", ranks);
 }
 
+void DataFolder::WriteZone(const std::string& zone) {
+    Bytes index = Read("Dat/ZI.DAT");
+    auto zones = Split(StringOf(Read("Dat/Z.DAT")), '\n');
+    zones.pop_back();
+    const auto at = std::find(zones.begin(), zones.end(), zone);
+    AppendInt16(index, static_cast<std::int16_t>(at - zones.begin() + 1));
+    Write("Dat/ZI.DAT", index);
+    if (at == zones.end()) {
+        Write("Dat/Z.DAT", StringOf(Read("Dat/Z.DAT")) + zone + "\n");
+    }
+}
+
+void DataFolder::WriteOtherNames(const std::string& names) {
+    Write("Dat/N.DAT", StringOf(Read("Dat/N.DAT")) + names + "\n");
+}
+
 void DataFolder::WriteBand(std::int16_t limit, const AngleLimits& angles) {
     Bytes bands = Read("Dat/A.dat");
     AppendInt16(bands, limit);
@@ -150,6 +167,13 @@ void DataFolder::WriteSample() {
     for (const int rank : {5, 1, 2, 4, 3}) {
         WriteRank(static_cast<std::int16_t>(rank));
     }
+    for (const char* const zone : {"America/Sao_Paulo", "America/Sao_Paulo", "Africa/Cairo",
+                                   "Africa/Cairo", "Asia/Riyadh"}) {
+        WriteZone(zone);
+    }
+    for (const char* const names : {"", "San Pablo", "القاهرة,Kairo", "", "مكة,Mekka"}) {
+        WriteOtherNames(names);
+    }
     WriteBand(-1, {20, 18, 5});
     WriteBand(4500, {17, 17, 4});
     WriteBand(5100, {12, 12, 3});
@@ -200,7 +224,8 @@ void DataFolder::SetInt32(const std::string& file, std::size_t offset, std::int3
 const std::vector<std::string>& DataFileNames() {
     static const std::vector<std::string> names = {
         "Dat/SI.DAt", "Dat/S.DAT", "Dat/CI.DAT", "Dat/C.DAt", "Dat/PI.DAT",
-        "Dat/P.DAT",  "Dat/A.dat", "Dat/UQ.DAT", "Dat/T.DAT", "Dat/TI.DAT"};
+        "Dat/P.DAT",  "Dat/A.dat", "Dat/UQ.DAT", "Dat/T.DAT", "Dat/TI.DAT",
+        "Dat/ZI.DAT", "Dat/Z.DAT", "Dat/N.DAT"};
     return names;
 }
 

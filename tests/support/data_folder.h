@@ -31,6 +31,10 @@ public:
     /// Rank of the next city by population.
     void WriteRank(std::int16_t rank);
 
+    /// Zone and other names of the next city; names joined by commas, empty for none.
+    void WriteZone(const std::string& zone);
+    void WriteOtherNames(const std::string& names);
+
     /// The next band of "Dat/A.dat"; limit in degrees x 100.
     void WriteBand(std::int16_t limit, const AngleLimits& angles);
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace horavex {
+
+/// The other names of all cities in the order of their index, those of one city joined by commas,
+/// best known first. An aid of searching: where "Dat/N.DAT" is missing there are none. Throws
+/// FileFault for a file that cannot be read, and BoundsFault for one that has not one line for each
+/// of cityCount cities.
+std::vector<std::string> ReadOtherNames(std::int64_t cityCount);
+
+}  // namespace horavex
