@@ -36,6 +36,7 @@ void AddMoonCommands(CLI::App& app, Session& session);
 void AddCalendarCommands(CLI::App& app, Session& session);
 void AddDistanceCommand(CLI::App& app, Session& session);
 void AddExportCommand(CLI::App& app, Session& session);
+void AddMethodsCommand(CLI::App& app, Session& session);
 void AddValidateCommand(CLI::App& app, Session& session);
 
 /// A subcommand with the --json flag that all of them have.

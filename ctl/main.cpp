@@ -64,6 +64,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddCalendarCommands(app, session);
     AddDistanceCommand(app, session);
     AddExportCommand(app, session);
+    AddMethodsCommand(app, session);
     AddValidateCommand(app, session);
 }
 

@@ -9,13 +9,12 @@ namespace horavex {
 /// A published convention that defines both twilights by an angle.
 struct Method {
     TextEntry name;
-    double fajrAngle;    // degrees, in quarters
-    double ishaAngle;    // likewise
-    const char* source;  // who publishes the angles
+    double fajrAngle;  // degrees, in quarters
+    double ishaAngle;  // likewise
 };
 
-/// The conventions in the order of the list. Those that define Isha by minutes after sunset, or
-/// Maghrib by an angle of its own, are none of these.
+/// The conventions in the order of the list, with the angles of their authorities. Those that
+/// define Isha by minutes after sunset, or Maghrib by an angle of its own, are none of these.
 std::span<const Method> Methods();
 
 /// Whether both angles lie within the band of the present latitude, limits included.

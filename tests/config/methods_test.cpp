@@ -25,14 +25,24 @@ struct MethodsTest : ProgramTest {
     ComboBox& list = HoravexMainForm->cboMethod;
 };
 
-TEST_F(MethodsTest, EachHasASourceAndAnglesInQuartersOfItsOwn) {
+TEST_F(MethodsTest, EachHasAnglesInQuartersOfItsOwn) {
     std::set<std::pair<double, double>> pairs;
     for (const Method& method : Methods()) {
-        EXPECT_NE(std::string(method.source), "");
         EXPECT_EQ(method.fajrAngle * 4.0, std::floor(method.fajrAngle * 4.0));
         EXPECT_EQ(method.ishaAngle * 4.0, std::floor(method.ishaAngle * 4.0));
-        EXPECT_TRUE(pairs.insert({method.fajrAngle, method.ishaAngle}).second) << method.source;
+        EXPECT_TRUE(pairs.insert({method.fajrAngle, method.ishaAngle}).second) << method.fajrAngle;
     }
+}
+
+TEST_F(MethodsTest, ListHasTheAnglesThatUsersKnowItBy) {
+    const std::vector<std::pair<double, double>> wanted = {{18.0, 17.0}, {19.5, 17.5}, {18.0, 18.0},
+                                                           {15.0, 15.0}, {20.0, 18.0}, {18.0, 17.5},
+                                                           {16.0, 15.0}, {12.0, 12.0}};
+    std::vector<std::pair<double, double>> angles;
+    for (const Method& method : Methods()) {
+        angles.emplace_back(method.fajrAngle, method.ishaAngle);
+    }
+    EXPECT_EQ(angles, wanted);
 }
 
 TEST_F(MethodsTest, ListShowsTheConventionOfTheSliders) {
@@ -94,9 +104,9 @@ TEST_F(MethodsTest, ConventionOutsideTheBandIsRefusedWithTheReason) {
 
 TEST_F(MethodsTest, LimitsOfTheBandBelongToIt) {
     AngleBand = {18, 18, 17};
-    EXPECT_TRUE(FitsBand({TextEntry::kCustom, 18.0, 17.0, ""}));
-    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 18.25, 17.0, ""}));
-    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 17.0, 16.75, ""}));
+    EXPECT_TRUE(FitsBand({TextEntry::kCustom, 18.0, 17.0}));
+    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 18.25, 17.0}));
+    EXPECT_FALSE(FitsBand({TextEntry::kCustom, 17.0, 16.75}));
 }
 
 TEST_F(MethodsTest, RefusalGoesWithTheNextPlace) {
