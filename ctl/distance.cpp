@@ -46,12 +46,12 @@ PointTexts ParseTarget(const std::string& text) {
 void PrintDistance(const Session& session, const DistanceOptions& options) {
     const PointTexts from = ParsePoint(options.from);
     const PointTexts to = ParseTarget(options.to);
-    DistanceLonA = ReadCoordinate(from.longitude);
-    DistanceLatA = ReadCoordinate(from.latitude);
-    DistanceLonB = ReadCoordinate(to.longitude);
-    DistanceLatB = ReadCoordinate(to.latitude);
+    const DistancePoints points = {.DistanceLatA = ReadCoordinate(from.latitude),
+                                   .DistanceLonA = ReadCoordinate(from.longitude),
+                                   .DistanceLatB = ReadCoordinate(to.latitude),
+                                   .DistanceLonB = ReadCoordinate(to.longitude)};
     const DistanceUnit unit = kUnits.at(options.unit);
-    const double value = InUnit(DistanceKilometres(), unit);
+    const double value = InUnit(DistanceKilometres(points), unit);
     session.Print({{"value", value}, {"unit", options.unit}},
                   NumberToText(value) + " " + UnitName(unit) + "\n");
 }

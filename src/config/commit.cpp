@@ -9,7 +9,7 @@
 #include "config/zone_box.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
-#include "geo/qibla.h"
+#include "geo/qibla_window.h"
 #include "platform/platform.h"
 #include "store/isha_setting.h"
 #include "store/location_files.h"

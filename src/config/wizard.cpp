@@ -23,6 +23,7 @@
 #include "store/angle_band.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "windows/f_country.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"

@@ -3,16 +3,18 @@
 #include <cmath>
 #include <optional>
 
+#include "base/fault.h"
 #include "base/int16.h"
+#include "base/memory_fault.h"
 #include "base/program_state.h"
-#include "base/steps.h"
 #include "engine/accepted_year.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"
 #include "engine/day_view.h"
+#include "engine/day_window.h"
 #include "engine/limit_message.h"
-#include "engine/next_prayer.h"
 #include "engine/place.h"
+#include "engine/progress_window.h"
 #include "engine/sun.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
@@ -20,9 +22,6 @@
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
-#include "windows/f_message.h"
-#include "windows/frm_main.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
@@ -38,25 +37,6 @@ std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);
 }
 
-void ShowProgressWindow() {
-    fMessage->Load();
-    fMessage->lblMessage1.SetCaption(Text(TextEntry::kCalculatingYear) + " " +
-                                     std::to_string(CurrentYear));
-    fMessage->lblMessage2.SetCaption(Text(TextEntry::kPleaseWait));
-    fMessage->Show();
-}
-
-/// The progress window goes whatever happens behind it.
-class ProgressWindow {
-public:
-    ProgressWindow() = default;
-    ~ProgressWindow() {
-        RunStep([] { fMessage->Unload(); });
-    }
-    ProgressWindow(const ProgressWindow&) = delete;
-    ProgressWindow& operator=(const ProgressWindow&) = delete;
-};
-
 /// The times cannot be calculated with these settings, whatever the fault; where even that cannot
 /// be said, the fault's own line says what is wrong.
 void TellFault(const Fault& fault) {
@@ -71,7 +51,9 @@ void TellFault(const Fault& fault) {
 void CalculateBehindProgress() {
     try {
         WithMemoryFaults([] {
-            ShowProgressWindow();
+            ShowProgressWindow(
+                Text(TextEntry::kCalculatingYear) + " " + std::to_string(CurrentYear),
+                Text(TextEntry::kPleaseWait));
             RecalculateYear();
         });
     } catch (const Fault& fault) {
@@ -103,25 +85,16 @@ std::optional<std::size_t> RowOf(Date day) {
     return static_cast<std::size_t>(day - DateSerial(CurrentYear, 1, 1));
 }
 
-void ShowTimes(const DayMoments& moments) {
+void TakeTimes(const DayMoments& moments) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         TodayTimes[prayer] = moments[prayer].hours / 24.0;
-        frmMain->lblTime(static_cast<int>(prayer))
-            .SetCaption(Ports().formats.MediumTime(TodayTimes[prayer]));
     }
 }
 
-void ShowDates(const DayView& day) {
-    frmMain->lblDate.SetCaption(Ports().formats.LongDate(day.date));
-    frmMain->lblCurrTime.SetCaption(Ports().formats.LongTime(day.now));
-}
-
-void ShowNextPrayer(const NextMoment& next) {
+void TakeNextPrayer(const NextMoment& next) {
     if (NextPrayer == -1) {
         NextPrayer = next.isTomorrows ? kNoPrayerLeft : next.prayer;
     }
-    frmMain->lblNextAthan.SetCaption(NextPrayerSentence(next));
-    frmMain->lblRemaining.SetCaption(RemainingText(next.remainingSeconds));
 }
 
 /// The row of the next day's Fajr; row 365 has no next one and serves itself. In a common year
@@ -154,7 +127,7 @@ void RefreshAll() {
     const double start = Ports().clock.SteadySeconds();
     CurrentYear = ToInt16(CivilFromDate(Ports().clock.Now()).year);
     {
-        const ProgressWindow window;
+        const ProgressWindowCloser closer;
         CalculateBehindProgress();
         if (CalcFailed == 0) {
             KeepYear();
@@ -163,7 +136,7 @@ void RefreshAll() {
         WaitSeconds(kShortestProgress - (Ports().clock.SteadySeconds() - start) / kSecondsPerDay);
     }
     if (CalcFailed == 0) {
-        HoravexMainForm->SetEnabled(true);
+        EnableSettingsWindow();
     } else {
         ShowAcceptedYear();
     }
@@ -187,9 +160,9 @@ void ShowDay() {
         return;  // the next tick calculates the new year
     }
     ShownDay = *day;
-    ShowTimes(ShownDay.moments);
-    ShowDates(ShownDay);
-    ShowNextPrayer(ShownDay.next);
+    TakeTimes(ShownDay.moments);
+    TakeNextPrayer(ShownDay.next);
+    ShowDayInLabels(ShownDay);
     host->SetFlashVariables();
 }
 

@@ -9,21 +9,18 @@
 #include "base/program_state.h"
 #include "base/text.h"
 #include "engine/center_on_screen.h"
-#include "engine/progress.h"
+#include "engine/progress_window.h"
 #include "lang/form_language.h"
 #include "store/cancel_load.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/text_table.h"
+#include "windows/f_country.h"
 #include "windows/f_message.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
-
-SettingsRecord PickSettings;
-LocationRecord PickLocation;
-std::string PickCityText;
 
 namespace {
 
@@ -43,9 +40,6 @@ void ForgetCities() {
 }
 
 const ProgramStateReset reset([] {
-    PickSettings = {};
-    PickLocation = {};
-    PickCityText.clear();
     lastFill = 0;
     ForgetCities();
 });
@@ -185,20 +179,18 @@ std::int16_t PickedCity() {
     return ToInt16(SelectedCountry().FirstCity + fCountry->lstcity.ListIndex());
 }
 
-void TakeForDistance(std::int16_t cityIndex) {
-    PickSettings = Settings;
-    PickSettings.CityIndex = cityIndex;
-    PickCityText = LookupLocation(cityIndex, PickLocation);
-    if (fCountry->onPickForDistance) {
-        fCountry->onPickForDistance();
-    }
+CityPick PickOf(std::int16_t cityIndex) {
+    CityPick pick{Settings, {}, {}};
+    pick.PickSettings.CityIndex = cityIndex;
+    pick.PickCityText = LookupLocation(cityIndex, pick.PickLocation);
+    return pick;
 }
 
 void Take(std::int16_t cityIndex) {
-    if (fCountry->openedFromDistance != kFalse) {
-        TakeForDistance(cityIndex);
-    } else if (fCountry->onPick) {
-        fCountry->onPick(cityIndex);
+    const bool forDistance = fCountry->openedFromDistance != kFalse;
+    const auto& take = forDistance ? fCountry->onPickForDistance : fCountry->onPick;
+    if (take) {
+        take(cityIndex);
     }
 }
 
@@ -266,13 +258,6 @@ void fCountry_Load() {
     CenterOnScreen(*fCountry);
 }
 
-void ShowProgressWindow() {
-    fMessage->Load();
-    fMessage->lblMessage1.SetCaption(TextItem(TextEntry::kLoadingCountries, Settings.Language));
-    fMessage->lblMessage2.SetCaption(TextItem(TextEntry::kPleaseWait, Settings.Language));
-    fMessage->Show();
-}
-
 }  // namespace
 
 void FillCountries() {
@@ -293,7 +278,8 @@ bool LoadCityPicker() {
     fCountry->Unload();   // one of an earlier pick lies hidden
     fCountry->openedFromDistance = kFalse;
     fCountry->Load();
-    ShowProgressWindow();
+    ShowProgressWindow(TextItem(TextEntry::kLoadingCountries, Settings.Language),
+                       TextItem(TextEntry::kPleaseWait, Settings.Language));
     FillCountries();
     fMessage->Unload();
     if (CancelLoad != kFalse) {
@@ -305,12 +291,14 @@ bool LoadCityPicker() {
     return true;
 }
 
-void PickCityForDistance(Form& owner, Handler take) {
+void PickCityForDistance(Form& owner, std::function<void(const CityPick& pick)> take) {
     if (!LoadCityPicker()) {
         return;
     }
     fCountry->openedFromDistance = kTrue;
-    fCountry->onPickForDistance = std::move(take);
+    fCountry->onPickForDistance = [take = std::move(take)](std::int16_t cityIndex) {
+        take(PickOf(cityIndex));
+    };
     fCountry->ShowModal(&owner);
 }
 

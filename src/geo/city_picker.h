@@ -1,19 +1,20 @@
 #pragma once
 
-#include <cstdint>
+#include <functional>
 #include <string>
 
+#include "forms/form.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
-#include "windows/f_country.h"
 
 namespace horavex {
 
 /// What a pick for the distance window is kept in, so that it leaves Settings and Location alone.
-/// Written by the picker's OK button.
-extern SettingsRecord PickSettings;
-extern LocationRecord PickLocation;
-extern std::string PickCityText;
+struct CityPick {
+    SettingsRecord PickSettings;  // those of the working settings, but for the city
+    LocationRecord PickLocation;
+    std::string PickCityText;
+};
 
 /// Loads the picker, hidden, and fills its list of countries behind the progress window; then the
 /// country and the city of Settings are selected. False, with the picker unloaded, where the user
@@ -21,8 +22,8 @@ extern std::string PickCityText;
 bool LoadCityPicker();
 
 /// Opens the picker in front of the distance window and returns when it is closed. On a pick,
-/// take runs with PickLocation and PickCityText filled.
-void PickCityForDistance(Form& owner, Handler take);
+/// take is called with it.
+void PickCityForDistance(Form& owner, std::function<void(const CityPick& pick)> take);
 
 /// Adds the countries to the list; stops behind the item with which CancelLoad came up. Throws
 /// as the readers of the location files do.

@@ -5,21 +5,11 @@
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/number_text.h"
-#include "base/program_state.h"
 #include "base/text.h"
 
 namespace horavex {
 
-double DistanceLatA = 0.0;
-double DistanceLatB = 0.0;
-double DistanceLonA = 0.0;
-double DistanceLonB = 0.0;
-
 namespace {
-
-const ProgramStateReset reset([] {
-    DistanceLatA = DistanceLatB = DistanceLonA = DistanceLonB = 0.0;
-});
 
 constexpr double kPi = 3.14159265358979;
 constexpr double kEquatorialRadius = 6378.14;          // kilometres
@@ -45,26 +35,26 @@ bool Holds(const std::string& part, const char* word) {
 
 }  // namespace
 
-double HalfSumLat() {
-    return Radians((DistanceLatA + DistanceLatB) / 2.0);
+double HalfSumLat(const DistancePoints& points) {
+    return Radians((points.DistanceLatA + points.DistanceLatB) / 2.0);
 }
 
-double HalfDiffLat() {
-    return Radians((DistanceLatA - DistanceLatB) / 2.0);
+double HalfDiffLat(const DistancePoints& points) {
+    return Radians((points.DistanceLatA - points.DistanceLatB) / 2.0);
 }
 
-double HalfDiffLon() {
-    return Radians((DistanceLonA - DistanceLonB) / 2.0);
+double HalfDiffLon(const DistancePoints& points) {
+    return Radians((points.DistanceLonA - points.DistanceLonB) / 2.0);
 }
 
-double AndoyerS() {
-    return Square(std::sin(HalfDiffLat())) * Square(std::cos(HalfDiffLon())) +
-           Square(std::cos(HalfSumLat())) * Square(std::sin(HalfDiffLon()));
+double AndoyerS(const DistancePoints& points) {
+    return Square(std::sin(HalfDiffLat(points))) * Square(std::cos(HalfDiffLon(points))) +
+           Square(std::cos(HalfSumLat(points))) * Square(std::sin(HalfDiffLon(points)));
 }
 
-double AndoyerC() {
-    return Square(std::cos(HalfDiffLat())) * Square(std::cos(HalfDiffLon())) +
-           Square(std::sin(HalfSumLat())) * Square(std::sin(HalfDiffLon()));
+double AndoyerC(const DistancePoints& points) {
+    return Square(std::cos(HalfDiffLat(points))) * Square(std::cos(HalfDiffLon(points))) +
+           Square(std::sin(HalfSumLat(points))) * Square(std::sin(HalfDiffLon(points)));
 }
 
 double AndoyerKilometres(double S, double C, double F, double G) {
@@ -83,8 +73,9 @@ double AndoyerKilometres(double S, double C, double F, double G) {
                 kFlattening * H2 * Square(std::cos(F)) * Square(std::sin(G)));
 }
 
-double DistanceKilometres() {
-    return AndoyerKilometres(AndoyerS(), AndoyerC(), HalfSumLat(), HalfDiffLat());
+double DistanceKilometres(const DistancePoints& points) {
+    return AndoyerKilometres(AndoyerS(points), AndoyerC(points), HalfSumLat(points),
+                             HalfDiffLat(points));
 }
 
 double InUnit(double kilometres, DistanceUnit unit) {

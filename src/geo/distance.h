@@ -9,28 +9,30 @@ namespace horavex {
 // 1/298.257), with one departure that is kept: the two terms of the flattening are multiplied by
 // the sums C and S where the method divides by them. Accuracy: within one part in 300.
 
-// The two points, degrees, north and east positive.
-extern double DistanceLatA;
-extern double DistanceLatB;
-extern double DistanceLonA;
-extern double DistanceLonB;
+/// The two points, degrees, north and east positive.
+struct DistancePoints {
+    double DistanceLatA;
+    double DistanceLonA;
+    double DistanceLatB;
+    double DistanceLonB;
+};
 
 /// Half the sum and half the differences of the coordinates, radians.
-double HalfSumLat();
-double HalfDiffLat();
-double HalfDiffLon();
+double HalfSumLat(const DistancePoints& points);
+double HalfDiffLat(const DistancePoints& points);
+double HalfDiffLon(const DistancePoints& points);
 
 /// sin(G)^2 cos(L)^2 + cos(F)^2 sin(L)^2 and cos(G)^2 cos(L)^2 + sin(F)^2 sin(L)^2, of half the
 /// sum F and half the differences G and L.
-double AndoyerS();
-double AndoyerC();
+double AndoyerS(const DistancePoints& points);
+double AndoyerC(const DistancePoints& points);
 
 /// Kilometres of the two sums and of F and G; 0 for two equal points. Throws DivisionByZeroFault
 /// for a C of 0, two points opposite each other on the equator.
 double AndoyerKilometres(double S, double C, double F, double G);
 
 /// Kilometres between the two points. Throws as above.
-double DistanceKilometres();
+double DistanceKilometres(const DistancePoints& points);
 
 enum class DistanceUnit { kKilometres, kMiles, kNauticalMiles };
 

@@ -163,12 +163,12 @@ double ReadBoxes(const CoordinateControls& coordinate) {
         {coordinate.boxes[0]->Text(), coordinate.boxes[1]->Text(), coordinate.boxes[2]->Text()});
 }
 
-void ReadPoints() {
+DistancePoints PointsInBoxes() {
     const auto coordinates = Coordinates();
-    DistanceLonA = ReadBoxes(coordinates[kLongitudeA]);
-    DistanceLatA = ReadBoxes(coordinates[kLatitudeA]);
-    DistanceLonB = ReadBoxes(coordinates[kLongitudeB]);
-    DistanceLatB = ReadBoxes(coordinates[kLatitudeB]);
+    return {.DistanceLatA = ReadBoxes(coordinates[kLatitudeA]),
+            .DistanceLonA = ReadBoxes(coordinates[kLongitudeA]),
+            .DistanceLatB = ReadBoxes(coordinates[kLatitudeB]),
+            .DistanceLonB = ReadBoxes(coordinates[kLongitudeB])};
 }
 
 void cmdCalcDistance_Click() {
@@ -178,8 +178,8 @@ void cmdCalcDistance_Click() {
     }
     // Whatever was typed since, the signs agree with the options again.
     std::ranges::for_each(Coordinates(), TakeChosenHemisphere);
-    ReadPoints();
-    frmDistance->txtDistanceRsult.SetText(NumberInBox(InUnit(DistanceKilometres(), *unit)));
+    const double kilometres = DistanceKilometres(PointsInBoxes());
+    frmDistance->txtDistanceRsult.SetText(NumberInBox(InUnit(kilometres, *unit)));
     frmDistance->metricsLabel.SetCaption(UnitName(*unit));
 }
 
@@ -207,11 +207,11 @@ void cmdDistanceClear_Click() {
 }
 
 void PickCity(DistanceCity city) {
-    PickCityForDistance(*frmDistance, [city] {
-        FillPickedCity(
-            city, PickCityText,
-            FormatLatitude(StoredCoord(PickLocation.City.Latitude), Settings.Language),
-            FormatLongitude(StoredCoord(PickLocation.City.Longitude), Settings.Language));
+    PickCityForDistance(*frmDistance, [city](const CityPick& pick) {
+        const CityRecord& picked = pick.PickLocation.City;
+        FillPickedCity(city, pick.PickCityText,
+                       FormatLatitude(StoredCoord(picked.Latitude), Settings.Language),
+                       FormatLongitude(StoredCoord(picked.Longitude), Settings.Language));
     });
 }
 

@@ -8,7 +8,6 @@
 #include "engine/place.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
-#include "windows/frm_main.h"
 
 namespace horavex {
 
@@ -56,11 +55,6 @@ void ComputeQibla() {
         QiblaDegrees = RadToDeg(QiblaRad);
     }
     QiblaText = BearingSentence(QiblaDegrees, ActiveSettings.Language);
-}
-
-void Qibla() {
-    ComputeQibla();
-    frmMain->lblQibla.SetCaption(QiblaText);
 }
 
 }  // namespace horavex

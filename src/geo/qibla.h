@@ -22,7 +22,4 @@ extern std::string QiblaText;  // the sentence, in the language of the accepted 
 /// bearing and words it anew.
 void ComputeQibla();
 
-/// frmMain's own computation of the qibla, shown in its label.
-void Qibla();
-
 }  // namespace horavex

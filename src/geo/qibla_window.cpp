@@ -86,6 +86,11 @@ void fQibla_Paint() {
 
 }  // namespace
 
+void Qibla() {
+    ComputeQibla();
+    frmMain->lblQibla.SetCaption(QiblaText);
+}
+
 void ShowQibla() {
     fQibla->onLoad = fQibla_Load;
     fQibla->onPaint = fQibla_Paint;

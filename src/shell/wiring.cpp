@@ -5,7 +5,7 @@
 #include "config/commit.h"
 #include "config/config_room.h"
 #include "engine/day_driver.h"
-#include "engine/progress.h"
+#include "engine/progress_window.h"
 #include "engine/undefined_angle.h"
 #include "geo/geo_room.h"
 #include "geo/qibla.h"

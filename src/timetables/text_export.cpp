@@ -4,7 +4,7 @@
 #include "base/prayer_names.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
-#include "engine/progress.h"
+#include "engine/progress_window.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"

@@ -34,10 +34,8 @@ public:
     /// Flag: the distance window asks, which sets it before the picker is shown.
     std::int16_t openedFromDistance = kFalse;
 
-    /// What the distance window does with PickLocation and PickCityText.
-    Handler onPickForDistance;
-
-    /// Takes the CityIndex of a city that was picked for the settings.
+    /// Each takes the CityIndex of a picked city: for the distance window, and for the settings.
+    std::function<void(std::int16_t cityIndex)> onPickForDistance;
     std::function<void(std::int16_t cityIndex)> onPick;
 };
 

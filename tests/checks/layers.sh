@@ -30,20 +30,24 @@ uses[platform]="base/*"
 uses[forms]="base/*"
 uses[primitives]="base/* $primitives"
 uses[windows]="base/* forms/* $primitives"
-uses[store]="base/* platform/* forms/* windows/* $primitives"
-uses[lang]="${uses[store]}"
+uses[store]="base/* platform/* forms/* $primitives"
+uses[lang]="${uses[store]} windows/*"
 # Of the store, the engine knows the records and the text tables; of its own room, everything. The
 # names of the next prayer come from the language pack.
 uses[engine]="${uses[store]} store/*_record.h store/text_*.h lang/*"
 uses[calendar]="${uses[store]} engine/* store/* lang/*"
 uses[geo]="${uses[calendar]} calendar/*"
 uses[moon]="${uses[geo]} geo/*"
-uses[athan]="${uses[moon]} moon/*"
+uses[athan]="${uses[moon]} moon/* windows/*"
 # The export shares its cancel with the alarm.
 uses[timetables]="${uses[athan]} athan/*"
 uses[config]="${uses[athan]}"
 uses[update]="${uses[athan]}"
 uses[shell]="${uses[athan]} athan/* timetables/* config/* update/*"
+
+# In four rooms logic asks no window: the files of their windows, and those that bind a room to the
+# windows, are named as such, and they alone may include what the room itself may not.
+window_files="*_window.* *_page.* *_picker.* *_room.*"
 
 violations=0
 complain() {
@@ -58,17 +62,27 @@ layer_of() {
     esac
 }
 
-# True when the file of the first argument may include the one of the second.
-may_use() {
+# True when the path of the first argument fits one of the patterns in the second.
+fits() {
     local pattern patterns
-    layer_of "$1"
-    [[ $layer != primitives && $2 == "$layer"/* ]] && return 0
-    read -ra patterns <<<"${uses[$layer]}"
+    read -ra patterns <<<"$2"
     for pattern in "${patterns[@]}"; do
         # shellcheck disable=SC2053  # the right side is a pattern
-        [[ $2 == $pattern ]] && return 0
+        [[ $1 == $pattern ]] && return 0
     done
     return 1
+}
+
+# True for a file of windows in one of the four rooms.
+is_window_file() { # FILE LAYER
+    [[ $2 =~ ^(engine|calendar|geo|moon)$ ]] && fits "$1" "$window_files"
+}
+
+# True when the file of the first argument may include the one of the second.
+may_use() {
+    layer_of "$1"
+    [[ $layer != primitives && $2 == "$layer"/* ]] || fits "$2" "${uses[$layer]}" ||
+        { [[ $2 == windows/* ]] && is_window_file "$1" "$layer"; }
 }
 
 edges=""

@@ -3,7 +3,6 @@
 #include "base/fault.h"
 #include "engine/angle.h"
 #include "engine/day_state.h"
-#include "engine/progress.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
 #include "engine/wait.h"
@@ -360,18 +359,6 @@ TEST(WaitSeconds, DeliversEventsMeanwhile) {
     platform.loop.After(1.5, [&] { ++delivered; });
     WaitSeconds(1.0 / 86400.0);
     EXPECT_EQ(delivered, 1);
-}
-
-TEST(ReportProgress, FillsTheBarFromTheLeft) {
-    TestPlatform platform;
-    fMessage->Load();
-    ReportProgress(25.0);
-    ASSERT_EQ(fMessage->picProgress.drawing.size(), 1U);
-    const auto& box = std::get<PolygonStep>(fMessage->picProgress.drawing[0]);
-    EXPECT_EQ(box.fill, (Colour{250, 250, 250}));
-    EXPECT_EQ(box.corners[0].x, 0.0);
-    EXPECT_DOUBLE_EQ(box.corners[2].x, fMessage->picProgress.Width() / 4.0);
-    EXPECT_EQ(platform.loop.Pumps(), 1);
 }
 
 }  // namespace

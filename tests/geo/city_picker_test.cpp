@@ -7,6 +7,7 @@
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "support/program_test.h"
+#include "windows/f_country.h"
 #include "windows/frm_wizard.h"
 
 namespace horavex {
@@ -367,23 +368,27 @@ TEST_F(CityPickerTest, SameCityOfEgyptPickedAgainSetsThePairOnceMore) {
 // The distance window's way.
 
 struct DistancePickTest : CityPickerTest {
+    void Ask() {
+        PickCityForDistance(*frmMain, [this](const CityPick& pick) { taken = pick; });
+    }
+
     /// Picks in the modal window, which returns at once here and is acted on behind.
     void Pick(const std::string& city) {
-        PickCityForDistance(*frmMain, [this] { taken = PickCityText; });
+        Ask();
         SelectCity(IndexOf(city));
         picker.cmdOK.UserClick();
     }
 
-    std::string taken;
+    CityPick taken;
 };
 
 TEST_F(DistancePickTest, FillsThePickAndLeavesTheSettingsAlone) {
     const SettingsRecord before = Settings;
     Pick("Jakarta");
-    EXPECT_EQ(taken, "Jakarta, Jakarta - Indonesia");
-    EXPECT_EQ(PickLocation.City.Name, "Jakarta");
-    EXPECT_EQ(PickSettings.CityIndex, IndexOf("Jakarta"));
-    EXPECT_EQ(PickSettings.TimeZone, Settings.TimeZone);
+    EXPECT_EQ(taken.PickCityText, "Jakarta, Jakarta - Indonesia");
+    EXPECT_EQ(taken.PickLocation.City.Name, "Jakarta");
+    EXPECT_EQ(taken.PickSettings.CityIndex, IndexOf("Jakarta"));
+    EXPECT_EQ(taken.PickSettings.TimeZone, Settings.TimeZone);
     EXPECT_EQ(Settings, before);
     EXPECT_EQ(Location.City.Name, "Mecca");
     EXPECT_EQ(HoravexMainForm->txtTimeZone.Text(), "+3.00");
@@ -391,13 +396,13 @@ TEST_F(DistancePickTest, FillsThePickAndLeavesTheSettingsAlone) {
 }
 
 TEST_F(DistancePickTest, TakesTheCityOfTheSettingsToo) {
-    PickCityForDistance(*frmMain, [this] { taken = PickCityText; });
+    Ask();
     picker.cmdOK.UserClick();
-    EXPECT_EQ(taken, "Mecca, Mecca - Saudi Arabia");
+    EXPECT_EQ(taken.PickCityText, "Mecca, Mecca - Saudi Arabia");
 }
 
 TEST_F(DistancePickTest, IsModalInFrontOfItsWindow) {
-    PickCityForDistance(*frmMain, [] {});
+    PickCityForDistance(*frmMain, [](const CityPick&) {});
     EXPECT_EQ(picker.Owner(), &*frmMain);
     EXPECT_TRUE(picker.IsModal());
     EXPECT_EQ(picker.openedFromDistance, kTrue);
@@ -414,25 +419,25 @@ TEST_F(DistancePickTest, LooksAtTheSettingsCityForEgypt) {
 
 TEST_F(DistancePickTest, NextPickForTheSettingsIsTheirsAgain) {
     Pick("Jakarta");
-    taken.clear();
+    taken = {};
     Open();
     SelectCity(IndexOf("Berlin"));
     picker.cmdOK.UserClick();
-    EXPECT_EQ(taken, "");
+    EXPECT_EQ(taken.PickCityText, "");
     EXPECT_EQ(Location.City.Name, "Berlin");
 }
 
 TEST_F(DistancePickTest, CancelledProgressOpensNothing) {
     platform.loop.AtPump(platform.loop.Pumps() + 2, [] { fMessage->UserClose(); });
-    PickCityForDistance(*frmMain, [this] { taken = "taken"; });
+    Ask();
     EXPECT_FALSE(picker.IsLoaded());
-    EXPECT_EQ(taken, "");
+    EXPECT_EQ(taken.PickCityText, "");
 }
 
 TEST_F(DistancePickTest, ProgressWindowClosedEarlierKeepsNoPickerAway) {
     CancelLoad = kTrue;
     Pick("Jakarta");
-    EXPECT_EQ(taken, "Jakarta, Jakarta - Indonesia");
+    EXPECT_EQ(taken.PickCityText, "Jakarta, Jakarta - Indonesia");
 }
 
 }  // namespace

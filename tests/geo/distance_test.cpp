@@ -3,22 +3,17 @@
 #include <cmath>
 
 #include "base/fault.h"
-#include "base/program_state.h"
 
 namespace horavex {
 namespace {
 
 struct DistanceTest : testing::Test {
-    DistanceTest() { ResetProgramState(); }
-
     static double Between(double latA, double lonA, double latB, double lonB) {
-        DistanceLatA = latA;
-        DistanceLonA = lonA;
-        DistanceLatB = latB;
-        DistanceLonB = lonB;
-        return DistanceKilometres();
+        return DistanceKilometres({latA, lonA, latB, lonB});
     }
 };
+
+constexpr DistancePoints kParisWashington = {48.8366, 2.3372, 38.9213, -77.0656};
 
 TEST_F(DistanceTest, EqualPointsAreNothingApart) {
     EXPECT_EQ(Between(30.05, 31.25, 30.05, 31.25), 0.0);
@@ -31,29 +26,30 @@ TEST_F(DistanceTest, DegreeOfTheEquator) {
 }
 
 TEST_F(DistanceTest, HalvesAreRadians) {
-    Between(30.0, 60.0, -10.0, 20.0);
-    EXPECT_NEAR(HalfSumLat(), 10.0 * 3.14159265358979 / 180.0, 1e-15);
-    EXPECT_NEAR(HalfDiffLat(), 20.0 * 3.14159265358979 / 180.0, 1e-15);
-    EXPECT_NEAR(HalfDiffLon(), 20.0 * 3.14159265358979 / 180.0, 1e-15);
+    const DistancePoints points = {30.0, 60.0, -10.0, 20.0};
+    EXPECT_NEAR(HalfSumLat(points), 10.0 * 3.14159265358979 / 180.0, 1e-15);
+    EXPECT_NEAR(HalfDiffLat(points), 20.0 * 3.14159265358979 / 180.0, 1e-15);
+    EXPECT_NEAR(HalfDiffLon(points), 20.0 * 3.14159265358979 / 180.0, 1e-15);
 }
 
 TEST_F(DistanceTest, SumsCompleteEachOther) {
-    Between(48.8366, 2.3372, 38.9213, -77.0656);
-    EXPECT_NEAR(AndoyerS() + AndoyerC(), 1.0, 1e-15);
-    EXPECT_NEAR(AndoyerS(), 0.216427, 1e-6);
+    const double S = AndoyerS(kParisWashington);
+    EXPECT_NEAR(S + AndoyerC(kParisWashington), 1.0, 1e-15);
+    EXPECT_NEAR(S, 0.216427, 1e-6);
 }
 
 // Paris to Washington, observatories: the textbook form gives 6181.63 km.
 TEST_F(DistanceTest, FlatteningTermsAreProducts) {
-    const double distance = Between(48.8366, 2.3372, 38.9213, -77.0656);
-    const double S = AndoyerS();
-    const double C = AndoyerC();
+    const DistancePoints points = kParisWashington;
+    const double distance = DistanceKilometres(points);
+    const double S = AndoyerS(points);
+    const double C = AndoyerC(points);
     const double w = std::atan(std::sqrt(S / C));
     const double R = std::sqrt(S * C) / w;
     const double D = 2.0 * w * 6378.14;
     const double f = 0.0033528131778969143;
-    const double north = std::pow(std::sin(HalfSumLat()) * std::cos(HalfDiffLat()), 2);
-    const double south = std::pow(std::cos(HalfSumLat()) * std::sin(HalfDiffLat()), 2);
+    const double north = std::pow(std::sin(HalfSumLat(points)) * std::cos(HalfDiffLat(points)), 2);
+    const double south = std::pow(std::cos(HalfSumLat(points)) * std::sin(HalfDiffLat(points)), 2);
     const double textbook = D * (1.0 + f * (3.0 * R - 1.0) / (2.0 * C) * north -
                                  f * (3.0 * R + 1.0) / (2.0 * S) * south);
     EXPECT_NEAR(textbook, 6181.63, 0.01);

@@ -19,6 +19,7 @@
 #include "store/settings_record.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
+#include "windows/f_country.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"

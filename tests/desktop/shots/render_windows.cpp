@@ -12,7 +12,7 @@
 #include "desktop/face_values.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/ports/help_window.h"
-#include "engine/progress.h"
+#include "engine/progress_window.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "support/build_folder.h"

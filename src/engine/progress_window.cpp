@@ -1,5 +1,6 @@
-#include "engine/progress.h"
+#include "engine/progress_window.h"
 
+#include "base/steps.h"
 #include "platform/platform.h"
 #include "windows/f_message.h"
 
@@ -10,6 +11,17 @@ namespace {
 constexpr Colour kBarColour{250, 250, 250};
 
 }  // namespace
+
+void ShowProgressWindow(const std::string& line1, const std::string& line2) {
+    fMessage->Load();
+    fMessage->lblMessage1.SetCaption(line1);
+    fMessage->lblMessage2.SetCaption(line2);
+    fMessage->Show();
+}
+
+ProgressWindowCloser::~ProgressWindowCloser() {
+    RunStep([] { fMessage->Unload(); });
+}
 
 void ReportProgress(double percent) {
     Picture& bar = fMessage->picProgress;
