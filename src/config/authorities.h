@@ -20,7 +20,7 @@ struct Authority {
     const char* name;              // English
     double fajrAngle = 0.0;        // degrees of depression
     double ishaAngle = 0.0;        // degrees of depression; 0 where an interval counts
-    int ishaInterval = 0;          // minutes from Maghrib to Isha; 0 where the angle counts
+    int ishaInterval = 0;          // minutes from Maghrib to Isha, margins apart; 0: by the angle
     int ishaIntervalRamadan = 0;   // the same in Ramadan
     double maghribAngle = 0.0;     // degrees of depression; 0 for sunset
     Margins margins{};             // minutes
