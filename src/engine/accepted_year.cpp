@@ -5,6 +5,7 @@
 #include "base/program_state.h"
 #include "engine/current_year.h"
 #include "engine/place.h"
+#include "engine/ruled_year.h"
 #include "engine/year_table.h"
 
 namespace horavex {
@@ -17,6 +18,7 @@ struct KeptYear {
     double longitudeWestRad;
     std::string cityText;
     YearTimes times;
+    YearBasis basis;
 };
 
 std::optional<KeptYear> kept;
@@ -26,7 +28,7 @@ const ProgramStateReset reset([] { kept.reset(); });
 }  // namespace
 
 void KeepYear() {
-    kept = {CurrentYear, LatitudeRad, LongitudeWestRad, YearCityText, Times};
+    kept = {CurrentYear, LatitudeRad, LongitudeWestRad, YearCityText, Times, RuledYear};
 }
 
 bool BringYearBack() {
@@ -37,6 +39,7 @@ bool BringYearBack() {
     LongitudeWestRad = kept->longitudeWestRad;
     YearCityText = kept->cityText;
     Times = kept->times;
+    RuledYear = kept->basis;
     return true;
 }
 

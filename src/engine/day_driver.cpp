@@ -1,5 +1,6 @@
 #include "engine/day_driver.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -13,8 +14,10 @@
 #include "engine/day_view.h"
 #include "engine/day_window.h"
 #include "engine/limit_message.h"
+#include "engine/moments.h"
 #include "engine/place.h"
 #include "engine/progress_window.h"
+#include "engine/ruled_year.h"
 #include "engine/sun.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
@@ -97,10 +100,17 @@ void TakeNextPrayer(const NextMoment& next) {
     }
 }
 
-/// The row of the next day's Fajr; row 365 has no next one and serves itself. In a common year
-/// it holds what a leap year before has left there.
+/// The row of the next day. Row 365 has no next one and serves itself. Without rules a common
+/// year's last day looks at row 365, which holds what a leap year before has left there.
 std::size_t RowAfter(std::size_t row) {
-    return row < kYearRows - 1 ? row + 1 : row;
+    const bool isBare = RuledYear.rules == MomentRules{};
+    const std::size_t last = isBare || LeapFlag == 1 ? kYearRows - 1 : kYearRows - 2;
+    return std::min(row + 1, last);
+}
+
+/// The first day of the year serves as its own yesterday.
+std::size_t RowBefore(std::size_t row) {
+    return row > 0 ? row - 1 : row;
 }
 
 }  // namespace
@@ -115,8 +125,10 @@ void RecalculateYear() {
     TakePlace(Location.City, CityText);
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);
+    RuledYear.rules = host->RulesOf(CurrentYear);
     ComputeYearTimes(0, AddInt16(365, LeapFlag),
                      [](double percent) { host->ReportProgress(percent); });
+    RuledYear.inputs = PresentInputs();
     if (CalcFailed == 0) {
         host->ComputeQibla();
     }
@@ -147,8 +159,8 @@ std::optional<DayView> TakeDayView(Date now) {
     if (!row) {
         return std::nullopt;
     }
-    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row))[kFajr],
-                        host->QiblaBearing()},
+    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
+                        MomentsOfRow(RowBefore(*row))[kIsha], host->QiblaBearing()},
                        now);
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/date.h"
 #include "calendar/hijri_calendar.h"
-#include "engine/moments.h"
+#include "engine/moment.h"
 
 namespace horavex {
 
@@ -16,7 +17,7 @@ inline constexpr std::int16_t kNoPrayerLeft = 6;
 struct NextMoment {
     std::int16_t prayer = 0;        // kFajr or kZuhr to kIsha
     bool isTomorrows = false;       // today's prayers are over
-    Moment moment;                  // of its own day
+    Moment moment;                  // in the hours of its own day
     double remainingSeconds = 0.0;  // whole seconds until then, [0, 86400)
 };
 
@@ -30,13 +31,18 @@ struct DayView {
     DayMoments moments;         // of the day
     NextMoment next;            // from now on
     double qiblaDegrees = 0.0;  // from north, positive to the east
+
+    // Moments of the days beside it that the clock reaches on this one, in its own hours.
+    std::optional<Moment> lateIsha;   // of the day before, past midnight
+    std::optional<Moment> earlyFajr;  // of the day after, before midnight
 };
 
 /// What a day is made of besides the moment.
 struct DaySource {
     std::string place;
     DayMoments today;
-    Moment tomorrowsFajr;
+    DayMoments tomorrow;
+    Moment yesterdaysIsha;
     double qiblaDegrees = 0.0;
 };
 

@@ -1,14 +1,118 @@
 #include "engine/moments.h"
 
+#include <algorithm>
+#include <cmath>
+
+#include "engine/ruled_year.h"
+#include "engine/solar_event.h"
+#include "engine/year_table.h"
+
 namespace horavex {
 
-DayMoments MomentsOfRow(std::size_t row) {
-    const PrayerRow hours = TimesOfRow(row);
+namespace {
+
+constexpr double kMinutesPerHour = 60.0;
+
+/// The zone's offset at an instant of Universal Time. The first span holds before it, too.
+double OffsetAt(const std::vector<ZoneSpan>& zone, Date instant) {
+    const auto after = std::ranges::upper_bound(zone, instant, {}, &ZoneSpan::from);
+    return after == zone.begin() ? zone.front().hours : std::prev(after)->hours;
+}
+
+/// An hour of the record's standard time on the clock of the city's own zone. The record may hold
+/// an offset that is a whole day off.
+double InZone(const std::vector<ZoneSpan>& zone, Date day, double hours, double recordZone) {
+    const double usual = OffsetAt(zone, day + (12.0 - recordZone) / 24.0);
+    const double standard = recordZone + 24.0 * std::round((usual - recordZone) / 24.0);
+    const double universal = hours - standard;
+    return universal + OffsetAt(zone, day + universal / 24.0);
+}
+
+/// Makes the moments of one day.
+class DayMaker {
+public:
+    DayMaker(const YearSource& year, std::size_t row)
+        : year_(year), rules_(year.rules), row_(row), sun_(SunOfDay(year, row)) {}
+
+    DayMoments Make() const {
+        DayMoments day{};
+        day[kShurooq] = FromSun(kShurooq);
+        day[kZuhr] = {sun_.hours[kZuhr]};
+        day[kAsr] = FromSun(kAsr);
+        day[kMaghrib] = Maghrib();
+        day[kFajr] = FajrOf(year_, row_);
+        day[kIsha] = Isha(day[kMaghrib]);
+        for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+            PutOnClock(day[prayer], rules_.offsets[prayer]);
+        }
+        return day;
+    }
+
+private:
+    Moment FromSun(Prayer prayer) const {
+        return {sun_.hours[prayer], sun_.borrowed ? MomentBy::kRule : MomentBy::kSun};
+    }
+
+    Moment Maghrib() const {
+        if (rules_.maghribAngle == 0.0) {
+            return FromSun(kMaghrib);
+        }
+        const double hours = TwilightOf(year_, row_, rules_.maghribAngle, DayHalf::kEvening);
+        return IsEvent(hours) ? Moment{hours} : FromSun(kMaghrib);
+    }
+
+    int IshaMinutes() const {
+        const bool isLonger = rules_.ramadan[row_] && rules_.ishaIntervalRamadan > 0;
+        return isLonger ? rules_.ishaIntervalRamadan : rules_.ishaInterval;
+    }
+
+    Moment Isha(const Moment& maghrib) const {
+        const int minutes = IshaMinutes();
+        return minutes == 0
+                   ? IshaOf(year_, row_)
+                   : Moment{maghrib.hours + minutes / kMinutesPerHour, MomentBy::kInterval};
+    }
+
+    void PutOnClock(Moment& moment, int minutes) const {
+        if (!IsEvent(moment.hours)) {
+            moment.hours = NoEvent;
+            return;
+        }
+        const YearInputs& inputs = year_.inputs;
+        if (!rules_.zone.empty()) {
+            const Date day = DateSerial(inputs.year, 1, 1) + static_cast<double>(row_);
+            moment.hours = InZone(rules_.zone, day, moment.hours, inputs.place.timeZone);
+        } else if (HasDaylightHour(inputs.method, row_)) {
+            moment.hours += 1.0;
+        }
+        moment.hours += minutes / kMinutesPerHour;
+    }
+
+    const YearSource& year_;
+    const MomentRules& rules_;
+    std::size_t row_;
+    SunDay sun_;
+};
+
+DayMoments TableMoments(const PrayerRow& hours) {
     DayMoments moments;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         moments[prayer].hours = hours[prayer];
     }
     return moments;
+}
+
+}  // namespace
+
+DayMoments MomentsOf(const YearSource& year, std::size_t row) {
+    if (year.rules == MomentRules{}) {
+        return TableMoments(RowOf(year.times, row));
+    }
+    return DayMaker(year, row).Make();
+}
+
+DayMoments MomentsOfRow(std::size_t row) {
+    return MomentsOf({RuledYear.inputs, Times, RuledYear.rules}, row);
 }
 
 }  // namespace horavex

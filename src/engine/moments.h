@@ -1,31 +1,19 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 
-#include "engine/year_table.h"
+#include "engine/moment.h"
+#include "engine/night_rules.h"
 
 namespace horavex {
 
-/// What a moment was worked out by.
-enum class MomentBy {
-    kSun,       // the sun stands where the method wants it
-    kRule,      // a rule for nights in which it does not get there
-    kInterval,  // so long after another moment
-};
+// A year's moments are made from its table and from what the options ask for. With no option they
+// are the table's own numbers.
 
-/// A time of prayer of one day.
-struct Moment {
-    double hours = 0.0;  // of the local clock from the midnight that begins the day; NoEvent
-    MomentBy by = MomentBy::kSun;
+/// The moments of a day. row: 0 to 365. With rules Isha may lie beyond 24 and Fajr below 0 hours.
+DayMoments MomentsOf(const YearSource& year, std::size_t row);
 
-    bool operator==(const Moment&) const = default;
-};
-
-/// By prayer.
-using DayMoments = std::array<Moment, kPrayerCount>;
-
-/// The moments of a day of the year, which are the table's own numbers. row: 0 to 365.
+/// The moments of a day of the program's year by the rules in force.
 DayMoments MomentsOfRow(std::size_t row);
 
 }  // namespace horavex

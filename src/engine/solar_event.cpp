@@ -19,6 +19,32 @@ double WrapOnce(double hours) {
     return hours;
 }
 
+/// The sun at an hour of the local clock on a day of the year.
+struct Sky {
+    double t;  // days, as SunAt counts them
+    SunPosition sun;
+};
+
+Sky SkyAt(const YearConstants& constants, const YearPlace& place, std::int16_t day, double hours) {
+    const double lonH = place.longitudeWestRad * kHoursPerRadian;
+    const double t = day + (lonH + hours) / 24.0;
+    return {t, SunAt(constants, t)};
+}
+
+/// Cosine of the hour angle at which the sun stands at a zenith distance; beyond 1 it never does.
+double CosHourAngle(const YearPlace& place, double s, double zenith) {
+    const double c = std::sqrt(1.0 - s * s);
+    return (std::cos(zenith) - std::sin(place.latitudeRad) * s) / (std::cos(place.latitudeRad) * c);
+}
+
+/// The clock's hour at which the sun has gone H hours from its transit, whole days aside.
+double ClockHour(const YearConstants& constants, const YearPlace& place, const Sky& sky, double H) {
+    const double lonH = place.longitudeWestRad * kHoursPerRadian;
+    return lonH +
+           (sky.sun.rightAscension + H - constants.SiderealRate * sky.t - constants.SiderealEpoch) +
+           place.timeZone;
+}
+
 }  // namespace
 
 double SolarTransit(const YearConstants& constants, const YearPlace& place, std::int16_t day,
@@ -35,13 +61,8 @@ double SolarTransit(const YearConstants& constants, const YearPlace& place, std:
 
 double EventTime(const YearConstants& constants, const YearPlace& place, std::int16_t day,
                  double zenith, double guess) {
-    const double lonH = place.longitudeWestRad * kHoursPerRadian;
-    const double t = day + (lonH + guess) / 24.0;
-    const SunPosition sun = SunAt(constants, t);
-    const double s = sun.sinDeclination;
-    const double c = std::sqrt(1.0 - s * s);
-    const double x =
-        (std::cos(zenith) - std::sin(place.latitudeRad) * s) / (std::cos(place.latitudeRad) * c);
+    const Sky sky = SkyAt(constants, place, day, guess);
+    const double x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
     if (std::fabs(x) > 1.0) {
         return NoEvent;
     }
@@ -51,9 +72,25 @@ double EventTime(const YearConstants& constants, const YearPlace& place, std::in
     if (guess < 12.0) {
         H = 24.0 - H;
     }
-    return WrapOnce(
-        lonH + (sun.rightAscension + H - constants.SiderealRate * t - constants.SiderealEpoch) +
-        place.timeZone);
+    return WrapOnce(ClockHour(constants, place, sky, H));
+}
+
+double EventBeside(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+                   double zenith, double transit, DayHalf half) {
+    constexpr int kRounds = 4;  // each takes the error of the guess to a hundredth
+    const double side = half == DayHalf::kMorning ? -1.0 : 1.0;
+    double hours = transit + side * 6.0;
+    for (int round = 0; round < kRounds; ++round) {
+        const Sky sky = SkyAt(constants, place, day, hours);
+        const double x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
+        if (!(std::fabs(x) < 1.0)) {
+            return NoEvent;
+        }
+        const double H = side * ArcCos(x) * kHoursPerRadian;
+        const double hour = ClockHour(constants, place, sky, H);
+        hours = hour + 24.0 * std::round((transit + H - hour) / 24.0);
+    }
+    return hours;
 }
 
 }  // namespace horavex

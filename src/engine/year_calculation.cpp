@@ -16,8 +16,7 @@ namespace horavex {
 namespace {
 
 constexpr PrayerRow kFirstGuess = {4.0, 6.0, 0.0, 15.0, 18.0, 20.0};  // hours; Zuhr has none
-constexpr double kHorizonZenith = 90.83;  // degrees: refraction and the sun's semi-diameter
-constexpr double kShortestDawn = 0.25;    // hours between Fajr and Shurooq
+constexpr double kShortestDawn = 0.25;  // hours between Fajr and Shurooq
 
 /// The prayers that an event of the sun makes, in the order in which a day is worked out.
 constexpr Prayer kTimedPrayers[] = {kShurooq, kAsr, kMaghrib, kFajr, kIsha};
@@ -71,19 +70,23 @@ void StoreRow(YearTimes& times, std::size_t row, const PrayerRow& day) {
     }
 }
 
-bool WithinLimits(const PrayerRow& times, const Limits& limits) {
-    return !(times[kFajr] < limits.earliestFajr) && !(times[kIsha] > limits.latestIsha);
+bool WithinLimits(const PrayerRow& times, const YearMethod& method, const Limits& limits) {
+    return !(method.needsFajr && times[kFajr] < limits.earliestFajr) &&
+           !(method.needsIsha && times[kIsha] > limits.latestIsha);
 }
 
-bool TwilightFitsDay(const PrayerRow& times) {
-    return times[kFajr] != NoEvent && times[kIsha] != NoEvent && WithinLimits(times, kDayLimits);
+bool TwilightFitsDay(const PrayerRow& times, const YearMethod& method) {
+    return !(method.needsFajr && times[kFajr] == NoEvent) &&
+           !(method.needsIsha && times[kIsha] == NoEvent) &&
+           WithinLimits(times, method, kDayLimits);
 }
 
-std::optional<YearFailure> CheckDay(const PrayerRow& times, std::int16_t row) {
-    if (!TwilightFitsDay(times)) {
+std::optional<YearFailure> CheckDay(const PrayerRow& times, const YearMethod& method,
+                                    std::int16_t row) {
+    if (!TwilightFitsDay(times, method)) {
         return YearFailure{'A', row};
     }
-    if (!(times[kFajr] + kShortestDawn < times[kShurooq])) {
+    if (method.needsFajr && !(times[kFajr] + kShortestDawn < times[kShurooq])) {
         return YearFailure{'B', row};
     }
     return std::nullopt;
@@ -100,7 +103,7 @@ std::optional<YearFailure> SolveRows(Run run, YearRows rows, const ProgressRepor
         }
         const PrayerRow day = SolveDay(run, AddInt16(row, 1));
         StoreRow(times, static_cast<std::size_t>(row), day);
-        if (const auto failure = CheckDay(day, row)) {
+        if (const auto failure = CheckDay(day, run.inputs.method, row)) {
             return failure;
         }
     }
@@ -129,9 +132,10 @@ void AddDaylightHour(YearTimes& times, const YearMethod& method, std::int16_t en
     }
 }
 
-std::optional<YearFailure> CheckShiftedRows(const YearTimes& times, YearRows rows) {
+std::optional<YearFailure> CheckShiftedRows(const YearTimes& times, const YearMethod& method,
+                                            YearRows rows) {
     for (std::int16_t row = rows.first; row < rows.end; ++row) {
-        if (!WithinLimits(RowOf(times, static_cast<std::size_t>(row)), kShiftedLimits)) {
+        if (!WithinLimits(RowOf(times, static_cast<std::size_t>(row)), method, kShiftedLimits)) {
             return YearFailure{'C', row};
         }
     }
@@ -148,6 +152,16 @@ PrayerRow RowOf(const YearTimes& times, std::size_t row) {
     return day;
 }
 
+bool HasDaylightHour(const YearMethod& method, std::size_t row) {
+    if (method.dstEnabled != 1) {
+        return false;
+    }
+    const int day = static_cast<int>(row) + 1;
+    const bool started = day >= method.dstStart;
+    const bool over = day > method.dstEnd;
+    return method.dstStart <= method.dstEnd ? started && !over : started || !over;
+}
+
 YearMethod MethodOf(const SettingsRecord& settings, double ishaAngle) {
     return {settings.FajrAngle,  ishaAngle,         settings.AsrRatio,
             settings.DstEnabled, settings.DstStart, settings.DstEnd};
@@ -162,7 +176,7 @@ std::optional<YearFailure> FillYear(const YearConstants& constants, const YearIn
         AddDaylightHour(times, inputs.method, rows.end);
     }
     // Runs with daylight saving off too.
-    return CheckShiftedRows(times, rows);
+    return CheckShiftedRows(times, inputs.method, rows);
 }
 
 YearTable CalculateYear(const YearInputs& inputs) {
@@ -182,7 +196,7 @@ DayTimes CalculateDay(const YearInputs& inputs, std::int16_t row) {
     EquationOfTime(DateSerial(inputs.year, 1, 1) + row);
     DayTimes result;
     result.times = SolveDay(run, day);
-    result.failure = CheckDay(result.times, row);
+    result.failure = CheckDay(result.times, method, row);
     if (result.failure) {
         return result;
     }
@@ -191,7 +205,7 @@ DayTimes CalculateDay(const YearInputs& inputs, std::int16_t row) {
             time += 1.0;
         }
     }
-    if (!WithinLimits(result.times, kDayLimits)) {
+    if (!WithinLimits(result.times, method, kDayLimits)) {
         result.failure = YearFailure{'C', row};
     }
     return result;

@@ -40,7 +40,14 @@ struct YearMethod {
     std::int16_t dstEnabled = 0;  // 1 when daylight saving applies
     std::int16_t dstStart = 0;    // first day of daylight saving, 1-based day of the year
     std::int16_t dstEnd = 0;      // last day of the same
+    bool needsFajr = true;        // the year gives up where Fajr does not fit its day
+    bool needsIsha = true;        // likewise
+
+    bool operator==(const YearMethod&) const = default;
 };
+
+/// True for a row whose times carry the daylight hour. row: 0 to 365.
+bool HasDaylightHour(const YearMethod& method, std::size_t row);
 
 /// The method of a settings record and of the angle that stands beside it.
 YearMethod MethodOf(const SettingsRecord& settings, double ishaAngle);

@@ -6,6 +6,7 @@
 #include "base/program_state.h"
 #include "engine/current_year.h"
 #include "engine/limit_message.h"
+#include "engine/ruled_year.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -38,7 +39,11 @@ PrayerRow TimesOfRow(std::size_t row) {
 }
 
 YearInputs PresentInputs() {
-    return {CurrentYear, PresentPlace(), MethodOf(Settings, IshaAngle)};
+    YearMethod method = MethodOf(Settings, IshaAngle);
+    const MomentRules& rules = RuledYear.rules;
+    method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
+    method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
+    return {CurrentYear, PresentPlace(), method};
 }
 
 void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const ProgressReport& report) {
@@ -54,13 +59,9 @@ void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const Progress
 }
 
 bool IsDaylightDay(Date date, const SettingsRecord& settings) {
-    if (settings.DstEnabled != 1) {
-        return false;
-    }
-    const double day = std::floor(date) - DateSerial(CivilFromDate(date).year, 1, 1) + 1.0;
-    const bool started = day >= settings.DstStart;
-    const bool over = day > settings.DstEnd;
-    return settings.DstStart <= settings.DstEnd ? started && !over : started || !over;
+    const Date newYear = DateSerial(CivilFromDate(date).year, 1, 1);
+    return HasDaylightHour(MethodOf(settings, 0.0),
+                           static_cast<std::size_t>(std::floor(date) - newYear));
 }
 
 bool IsDaylightDay(Date date) {

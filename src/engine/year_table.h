@@ -21,7 +21,7 @@ extern std::int16_t CalcFailed;
 /// Why the last calculation gave up, for tools that cannot read a message box.
 extern std::optional<YearFailure> LastYearFailure;
 
-/// CurrentYear at the program's place by the working settings.
+/// CurrentYear at the program's place by the working settings, and by the rules of RuledYear.
 YearInputs PresentInputs();
 
 /// Fills the rows firstDay to endDay - 1 (0-based) by the year constants and the present inputs,

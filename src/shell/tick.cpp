@@ -38,12 +38,22 @@ void FollowCalendar(const TickActions& actions) {
     }
 }
 
+bool HasArrived(const std::optional<Moment>& moment) {
+    return moment && HasArrived(moment->hours / 24.0);
+}
+
 /// The first prayer that has arrived; of two within the window only the earlier one fires.
 std::optional<std::int16_t> ArrivedPrayer() {
+    if (HasArrived(ShownDay.lateIsha)) {
+        return static_cast<std::int16_t>(kIsha);
+    }
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
             return static_cast<std::int16_t>(prayer);
         }
+    }
+    if (HasArrived(ShownDay.earlyFajr)) {
+        return static_cast<std::int16_t>(kFajr);
     }
     return std::nullopt;
 }

@@ -8,9 +8,9 @@
 namespace horavex {
 
 // What goes beyond the base behaviour is an option: a text value of its own under kOptionsKey. The
-// rows below are the table of them all: name, least, most, default (the base behaviour), and what
-// a value changes. An absent value, one outside its range and one that is no value of its type give
-// the default, everywhere.
+// rows in the namespace option are the table of them all: name, least, most, default (the base
+// behaviour), and what a value changes. An absent value, one outside its range and one that is no
+// value of its type give the default, everywhere.
 
 inline constexpr const char* kOptionsKey = "\\Software\\Horavex\\Options";
 
@@ -49,6 +49,8 @@ enum class HighLatitudeRule : std::size_t { kNone, kMiddle, kSeventh, kAngle, kN
 /// Where the Hijri dates of the face, of tables and of exports come from.
 enum class HijriSource : std::size_t { kArithmetic, kUmmAlQura };
 
+namespace option {
+
 /// 1: zone and daylight saving follow the city's own zone of the zone database.
 inline constexpr WholeOption kAutomaticZone = {"Automatic Zone", 0, 1, 0};
 
@@ -81,6 +83,8 @@ inline constexpr WholeOption kHijriAdjustment = {"Hijri Adjustment", -2, 2, 0};
 
 /// 0: the daily alarm neither shows nor beeps.
 inline constexpr WholeOption kAlarm = {"Alarm", 0, 1, 1};
+
+}  // namespace option
 
 /// The value in force.
 int ReadOption(const WholeOption& option);

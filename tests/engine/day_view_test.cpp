@@ -20,7 +20,10 @@ Date At(int hour, int minute, int second) {
 }
 
 DayView ViewAt(int hour, int minute, int second) {
-    return MakeDayView({"Cairo", Moments(), {5.01}, 136.25}, At(hour, minute, second));
+    DayMoments tomorrow = Moments();
+    tomorrow[kFajr].hours = 5.01;
+    return MakeDayView({"Cairo", Moments(), tomorrow, Moments()[kIsha], 136.25},
+                       At(hour, minute, second));
 }
 
 TEST(FindNextPrayer, WaitsForNoShurooq) {
@@ -79,6 +82,72 @@ TEST(MakeDayView, AfterIshaTheNextMomentIsTomorrowsFajr) {
     EXPECT_TRUE(next.isTomorrows);
     EXPECT_EQ(next.moment.hours, 5.01);
     EXPECT_EQ(next.remainingSeconds, 86400 - 19 * 3600 - 31 * 60 + 5 * 3600 + 36);
+}
+
+TEST(MakeDayView, OnlyMomentsThatCrossMidnightFallOnTheDayBeside) {
+    const DayView day = ViewAt(12, 0, 0);
+    EXPECT_FALSE(day.lateIsha);
+    EXPECT_FALSE(day.earlyFajr);
+}
+
+/// A summer of high latitudes: Isha a quarter past midnight, every day alike.
+DayView ShortNightAt(int hour, int minute) {
+    DayMoments moments = Moments();
+    moments[kIsha] = {24.25, MomentBy::kRule};
+    moments[kFajr].hours = 1.5;
+    return MakeDayView({"Oslo", moments, moments, moments[kIsha], 0.0}, At(hour, minute, 0));
+}
+
+TEST(ShortNight, IshaBehindMidnightIsCountedDownToFromTheEvening) {
+    const NextMoment next = ShortNightAt(23, 15).next;
+    EXPECT_EQ(next.prayer, 5);
+    EXPECT_FALSE(next.isTomorrows);
+    EXPECT_EQ(next.remainingSeconds, 3600.0);
+    EXPECT_EQ(next.moment.hours, 24.25);
+}
+
+TEST(ShortNight, YesterdaysIshaStillLiesAheadBehindMidnight) {
+    const DayView day = ShortNightAt(0, 10);
+    ASSERT_TRUE(day.lateIsha);
+    EXPECT_EQ(day.lateIsha->hours, 0.25);
+    EXPECT_EQ(day.lateIsha->by, MomentBy::kRule);
+    EXPECT_EQ(day.next.prayer, 5);
+    EXPECT_EQ(day.next.moment.hours, 0.25);
+    EXPECT_EQ(day.next.remainingSeconds, 300.0);
+}
+
+TEST(ShortNight, BehindItComesFajr) {
+    const NextMoment next = ShortNightAt(0, 15).next;
+    EXPECT_EQ(next.prayer, 0);
+    EXPECT_FALSE(next.isTomorrows);
+    EXPECT_EQ(next.remainingSeconds, 75 * 60.0);
+}
+
+/// Fajr ten minutes before midnight, by the middle of the night in the east of a wide zone.
+DayView EarlyFajrAt(int hour, int minute) {
+    DayMoments moments = Moments();
+    moments[kFajr].hours = -1.0 / 6.0;
+    return MakeDayView({"East", moments, moments, moments[kIsha], 0.0}, At(hour, minute, 0));
+}
+
+TEST(ShortNight, FajrBeforeMidnightIsCountedDownToOnTheEveBefore) {
+    const DayView day = EarlyFajrAt(23, 0);
+    EXPECT_EQ(day.next.prayer, 0);
+    EXPECT_TRUE(day.next.isTomorrows);
+    EXPECT_EQ(day.next.remainingSeconds, 50 * 60.0);
+    ASSERT_TRUE(day.earlyFajr);
+    EXPECT_NEAR(day.earlyFajr->hours, 24.0 - 1.0 / 6.0, 1e-12);
+}
+
+TEST(ShortNight, BehindAFajrBeforeMidnightTheNextIsTomorrowsZuhr) {
+    const NextMoment next = EarlyFajrAt(23, 55).next;
+    EXPECT_EQ(next.prayer, 2);
+    EXPECT_TRUE(next.isTomorrows);
+    EXPECT_EQ(next.remainingSeconds, 12 * 3600.0 + 300.0);
+}
+
+TEST(ShortNight, FajrThatWasYesterdayIsNotWaitedForAgain) {
+    EXPECT_EQ(EarlyFajrAt(0, 5).next.prayer, 2);
 }
 
 }  // namespace

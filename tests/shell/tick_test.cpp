@@ -62,6 +62,24 @@ TEST_F(TickTest, WindowIsTenSeconds) {
     EXPECT_THAT(calls, ElementsAre("day"));
 }
 
+TEST_F(TickTest, YesterdaysIshaArrivesBehindMidnight) {
+    TodayTimes[kIsha] = 24.3 / 24.0;  // today's own comes tomorrow
+    ShownDay.lateIsha = Moment{0.25, MomentBy::kRule};
+    TickAt(0, 15, 0);
+    EXPECT_THAT(calls, ElementsAre("5", "day"));
+    TickAt(0, 18, 0);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, TomorrowsFajrArrivesBeforeMidnight) {
+    TodayTimes[kFajr] = -0.25 / 24.0;  // today's own came yesterday
+    ShownDay.earlyFajr = Moment{23.75, MomentBy::kRule};
+    TickAt(23, 45, 0);
+    EXPECT_THAT(calls, ElementsAre("0", "day"));
+    TickAt(0, 15, 0);
+    EXPECT_THAT(calls, ElementsAre("day"));
+}
+
 TEST_F(TickTest, ActiveAthanHoldsTheNextOneBack) {
     athanActive = -1;
     TickAt(12, 0, 3);

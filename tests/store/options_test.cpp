@@ -26,31 +26,32 @@ protected:
 
 /// Rows of the table that hold whole numbers.
 std::vector<WholeOption> WholeOptions() {
-    std::vector<WholeOption> options = {kAutomaticZone, kIshaInterval, kIshaIntervalRamadan,
-                                        kHijriAdjustment, kAlarm};
-    options.insert(options.end(), kOffsets.begin(), kOffsets.end());
+    std::vector<WholeOption> options = {option::kAutomaticZone, option::kIshaInterval,
+                                        option::kIshaIntervalRamadan, option::kHijriAdjustment,
+                                        option::kAlarm};
+    options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }
 
 TEST_F(OptionsTest, AbsentValuesGiveTheBase) {
-    EXPECT_EQ(ReadOption(kAutomaticZone), 0);
-    EXPECT_EQ(ReadOption(kZoneName), "");
-    EXPECT_EQ(ReadOption(kHighLatitudeRule), HighLatitudeRule::kNone);
-    EXPECT_EQ(ReadOption(kIshaInterval), 0);
-    EXPECT_EQ(ReadOption(kIshaIntervalRamadan), 0);
-    EXPECT_EQ(ReadOption(kMaghribAngle), 0.0);
-    for (const WholeOption& offset : kOffsets) {
+    EXPECT_EQ(ReadOption(option::kAutomaticZone), 0);
+    EXPECT_EQ(ReadOption(option::kZoneName), "");
+    EXPECT_EQ(ReadOption(option::kHighLatitudeRule), HighLatitudeRule::kNone);
+    EXPECT_EQ(ReadOption(option::kIshaInterval), 0);
+    EXPECT_EQ(ReadOption(option::kIshaIntervalRamadan), 0);
+    EXPECT_EQ(ReadOption(option::kMaghribAngle), 0.0);
+    for (const WholeOption& offset : option::kOffsets) {
         EXPECT_EQ(ReadOption(offset), 0);
     }
-    EXPECT_EQ(ReadOption(kHijriCalendar), HijriSource::kArithmetic);
-    EXPECT_EQ(ReadOption(kHijriAdjustment), 0);
-    EXPECT_EQ(ReadOption(kAlarm), 1);
+    EXPECT_EQ(ReadOption(option::kHijriCalendar), HijriSource::kArithmetic);
+    EXPECT_EQ(ReadOption(option::kHijriAdjustment), 0);
+    EXPECT_EQ(ReadOption(option::kAlarm), 1);
     EXPECT_EQ(Stored("Alarm"), "nothing") << "reading writes nothing";
 }
 
 TEST_F(OptionsTest, EveryOptionHasAValueOfItsOwn) {
-    std::set<std::string> names = {kZoneName.name, kHighLatitudeRule.name, kMaghribAngle.name,
-                                   kHijriCalendar.name};
+    std::set<std::string> names = {option::kZoneName.name, option::kHighLatitudeRule.name,
+                                   option::kMaghribAngle.name, option::kHijriCalendar.name};
     for (const WholeOption& option : WholeOptions()) {
         names.insert(option.name);
     }
@@ -58,9 +59,9 @@ TEST_F(OptionsTest, EveryOptionHasAValueOfItsOwn) {
 }
 
 TEST_F(OptionsTest, OffsetsAreInTheOrderOfThePrayers) {
-    EXPECT_STREQ(kOffsets[0].name, "Offset Fajr");
-    EXPECT_STREQ(kOffsets[2].name, "Offset Zuhr");
-    EXPECT_STREQ(kOffsets[5].name, "Offset Isha");
+    EXPECT_STREQ(option::kOffsets[0].name, "Offset Fajr");
+    EXPECT_STREQ(option::kOffsets[2].name, "Offset Zuhr");
+    EXPECT_STREQ(option::kOffsets[5].name, "Offset Isha");
 }
 
 TEST_F(OptionsTest, BothEndsOfARangeAreReadAndWhatLiesBehindCountsAsAbsent) {
@@ -77,49 +78,49 @@ TEST_F(OptionsTest, BothEndsOfARangeAreReadAndWhatLiesBehindCountsAsAbsent) {
 }
 
 TEST_F(OptionsTest, RangesAreThoseOfTheTable) {
-    EXPECT_EQ(kIshaInterval.most, 180);
-    EXPECT_EQ(kIshaIntervalRamadan.most, 180);
-    EXPECT_EQ(kOffsets[3].least, -60);
-    EXPECT_EQ(kOffsets[3].most, 60);
-    EXPECT_EQ(kHijriAdjustment.least, -2);
-    EXPECT_EQ(kHijriAdjustment.most, 2);
+    EXPECT_EQ(option::kIshaInterval.most, 180);
+    EXPECT_EQ(option::kIshaIntervalRamadan.most, 180);
+    EXPECT_EQ(option::kOffsets[3].least, -60);
+    EXPECT_EQ(option::kOffsets[3].most, 60);
+    EXPECT_EQ(option::kHijriAdjustment.least, -2);
+    EXPECT_EQ(option::kHijriAdjustment.most, 2);
 }
 
 TEST_F(OptionsTest, DegreesHaveFractionsWithPointOrComma) {
     Store("Maghrib Angle", "4.5");
-    EXPECT_EQ(ReadOption(kMaghribAngle), 4.5);
+    EXPECT_EQ(ReadOption(option::kMaghribAngle), 4.5);
     Store("Maghrib Angle", "4,5");
-    EXPECT_EQ(ReadOption(kMaghribAngle), 4.5);
+    EXPECT_EQ(ReadOption(option::kMaghribAngle), 4.5);
     Store("Maghrib Angle", "10");
-    EXPECT_EQ(ReadOption(kMaghribAngle), 10.0);
+    EXPECT_EQ(ReadOption(option::kMaghribAngle), 10.0);
     for (const std::string text : {"10.01", "-0.01", "1E+300"}) {
         Store("Maghrib Angle", text);
-        EXPECT_EQ(ReadOption(kMaghribAngle), 0.0) << text;
+        EXPECT_EQ(ReadOption(option::kMaghribAngle), 0.0) << text;
     }
 }
 
 TEST_F(OptionsTest, DamagedNumberCountsAsAbsent) {
     for (const std::string text : {"", "yes", "1.5", "0 minutes", "nan", "1E+999", "-", "0x1"}) {
         Store("Alarm", text);
-        EXPECT_EQ(ReadOption(kAlarm), 1) << text;
+        EXPECT_EQ(ReadOption(option::kAlarm), 1) << text;
         Store("Isha Interval", text);
-        EXPECT_EQ(ReadOption(kIshaInterval), 0) << text;
+        EXPECT_EQ(ReadOption(option::kIshaInterval), 0) << text;
     }
     Store("Isha Interval", "1.5");
-    EXPECT_EQ(ReadOption(kIshaInterval), 0) << "minutes are whole";
+    EXPECT_EQ(ReadOption(option::kIshaInterval), 0) << "minutes are whole";
 }
 
 TEST_F(OptionsTest, WordsAreReadInAnyCase) {
     Store("High Latitude Rule", "Seventh");
-    EXPECT_EQ(ReadOption(kHighLatitudeRule), HighLatitudeRule::kSeventh);
+    EXPECT_EQ(ReadOption(option::kHighLatitudeRule), HighLatitudeRule::kSeventh);
     Store("Hijri Calendar", "UMM-AL-QURA");
-    EXPECT_EQ(ReadOption(kHijriCalendar), HijriSource::kUmmAlQura);
+    EXPECT_EQ(ReadOption(option::kHijriCalendar), HijriSource::kUmmAlQura);
 }
 
 TEST_F(OptionsTest, UnknownWordCountsAsAbsent) {
     for (const std::string text : {"", "seven", "seventh of the night", "3"}) {
         Store("High Latitude Rule", text);
-        EXPECT_EQ(ReadOption(kHighLatitudeRule), HighLatitudeRule::kNone) << text;
+        EXPECT_EQ(ReadOption(option::kHighLatitudeRule), HighLatitudeRule::kNone) << text;
     }
 }
 
@@ -128,47 +129,48 @@ TEST_F(OptionsTest, WrittenValuesAreReadAgain) {
         EXPECT_EQ(SaveOption(option, option.least), 0);
         EXPECT_EQ(ReadOption(option), option.least) << option.name;
     }
-    SaveOption(kMaghribAngle, 4.25);
-    EXPECT_EQ(ReadOption(kMaghribAngle), 4.25);
-    SaveOption(kZoneName, "Africa/Cairo");
-    EXPECT_EQ(ReadOption(kZoneName), "Africa/Cairo");
+    SaveOption(option::kMaghribAngle, 4.25);
+    EXPECT_EQ(ReadOption(option::kMaghribAngle), 4.25);
+    SaveOption(option::kZoneName, "Africa/Cairo");
+    EXPECT_EQ(ReadOption(option::kZoneName), "Africa/Cairo");
     for (const auto rule : {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh,
                             HighLatitudeRule::kAngle, HighLatitudeRule::kNearest}) {
-        SaveOption(kHighLatitudeRule, rule);
-        EXPECT_EQ(ReadOption(kHighLatitudeRule), rule);
+        SaveOption(option::kHighLatitudeRule, rule);
+        EXPECT_EQ(ReadOption(option::kHighLatitudeRule), rule);
     }
-    SaveOption(kHijriCalendar, HijriSource::kUmmAlQura);
-    EXPECT_EQ(ReadOption(kHijriCalendar), HijriSource::kUmmAlQura);
+    SaveOption(option::kHijriCalendar, HijriSource::kUmmAlQura);
+    EXPECT_EQ(ReadOption(option::kHijriCalendar), HijriSource::kUmmAlQura);
 }
 
 TEST_F(OptionsTest, ValuesAreStoredAsTexts) {
-    SaveOption(kOffsets[0], -5);
+    SaveOption(option::kOffsets[0], -5);
     EXPECT_EQ(Stored("Offset Fajr"), "-5");
-    SaveOption(kMaghribAngle, 4.5);
+    SaveOption(option::kMaghribAngle, 4.5);
     EXPECT_EQ(Stored("Maghrib Angle"), "4.5");
-    SaveOption(kHighLatitudeRule, HighLatitudeRule::kAngle);
+    SaveOption(option::kHighLatitudeRule, HighLatitudeRule::kAngle);
     EXPECT_EQ(Stored("High Latitude Rule"), "angle");
 }
 
 TEST_F(OptionsTest, DefaultIsWrittenTooToStandInFrontOfAMachineWideOne) {
-    SaveOption(kAlarm, 1);
+    SaveOption(option::kAlarm, 1);
     EXPECT_EQ(Stored("Alarm"), "1");
-    SaveOption(kHighLatitudeRule, HighLatitudeRule::kNone);
+    SaveOption(option::kHighLatitudeRule, HighLatitudeRule::kNone);
     EXPECT_EQ(Stored("High Latitude Rule"), "none");
 }
 
 TEST_F(OptionsTest, ValueOutsideItsRangeIsNotWritten) {
-    SaveOption(kIshaInterval, 90);
-    EXPECT_THROW(SaveOption(kIshaInterval, 181), BoundsFault);
-    EXPECT_THROW(SaveOption(kIshaInterval, -1), BoundsFault);
+    SaveOption(option::kIshaInterval, 90);
+    EXPECT_THROW(SaveOption(option::kIshaInterval, 181), BoundsFault);
+    EXPECT_THROW(SaveOption(option::kIshaInterval, -1), BoundsFault);
     EXPECT_EQ(Stored("Isha Interval"), "90");
-    EXPECT_THROW(SaveOption(kMaghribAngle, 10.5), BoundsFault);
-    EXPECT_THROW(SaveOption(kMaghribAngle, std::numeric_limits<double>::quiet_NaN()), BoundsFault);
+    EXPECT_THROW(SaveOption(option::kMaghribAngle, 10.5), BoundsFault);
+    EXPECT_THROW(SaveOption(option::kMaghribAngle, std::numeric_limits<double>::quiet_NaN()),
+                 BoundsFault);
     EXPECT_EQ(Stored("Maghrib Angle"), "nothing");
 }
 
 TEST_F(OptionsTest, OptionsLieApartFromTheSettings) {
-    SaveOption(kZoneName, "Africa/Cairo");
+    SaveOption(option::kZoneName, "Africa/Cairo");
     std::string value;
     EXPECT_NE(CRegister().REGGetSetting(kLocalMachine, kSettingsKey, "Zone Name", "", value), 0);
     EXPECT_EQ(CRegister().REGGetSetting(kLocalMachine, "Software\\Horavex\\Options", "Zone Name",
@@ -178,17 +180,17 @@ TEST_F(OptionsTest, OptionsLieApartFromTheSettings) {
 }
 
 TEST_F(OptionsTest, RestrictedUserReadsAndKeepsNothing) {
-    SaveOption(kAlarm, 0);
+    SaveOption(option::kAlarm, 0);
     platform.registry.DenyWriting(true);
-    EXPECT_EQ(SaveOption(kAlarm, 1), kRegistryAccessDenied);
-    EXPECT_EQ(ReadOption(kAlarm), 0);
+    EXPECT_EQ(SaveOption(option::kAlarm, 1), kRegistryAccessDenied);
+    EXPECT_EQ(ReadOption(option::kAlarm), 0);
 }
 
 TEST_F(OptionsTest, FailedReadGivesTheBase) {
-    SaveOption(kAlarm, 0);
+    SaveOption(option::kAlarm, 0);
     platform.registry.FailCall(1);
-    EXPECT_EQ(ReadOption(kAlarm), 1);
-    EXPECT_EQ(ReadOption(kAlarm), 0);
+    EXPECT_EQ(ReadOption(option::kAlarm), 1);
+    EXPECT_EQ(ReadOption(option::kAlarm), 0);
 }
 
 }  // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+
+#include "engine/year_calculation.h"
+
+namespace horavex {
+
+/// What a moment was worked out by.
+enum class MomentBy {
+    kSun,       // the sun stands where the method wants it
+    kRule,      // a rule for nights in which it does not get there
+    kInterval,  // so long after another moment
+};
+
+/// A time of prayer of one day.
+struct Moment {
+    double hours = 0.0;  // of the local clock from the midnight that begins the day; NoEvent
+    MomentBy by = MomentBy::kSun;
+
+    bool operator==(const Moment&) const = default;
+};
+
+/// By prayer.
+using DayMoments = std::array<Moment, kPrayerCount>;
+
+}  // namespace horavex

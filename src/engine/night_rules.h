@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+
+#include "engine/moment.h"
+#include "engine/moment_rules.h"
+#include "engine/solar_event.h"
+
+namespace horavex {
+
+// Nights of high latitudes. With a rule, Fajr and Isha hold to their angles as long as the sun
+// sinks to them and as long as they keep to their portion of the night, counted back from sunrise
+// and on from sunset: a half, a seventh, or a sixtieth for each degree of the angle, as tables of
+// the larger conventions publish them. By the rule of the nearest day a twilight that does not come
+// stands at the clock's hour of the last day of the year that had it; in its stead, of the next.
+// Days that lack sunrise, Asr or sunset borrow all three from such a day under any rule.
+//
+// Hours here are of the record's standard time, without the daylight hour, from the midnight that
+// begins the day.
+
+/// What a year's moments are made from.
+struct YearSource {
+    const YearInputs& inputs;
+    const YearTimes& times;  // by the same inputs
+    const MomentRules& rules;
+};
+
+/// A day by the sun alone.
+struct SunDay {
+    PrayerRow hours{};      // NoEvent where the sun does not get there
+    bool borrowed = false;  // Shurooq, Asr and Maghrib are those of another day
+};
+
+SunDay SunOfDay(const YearSource& year, std::size_t row);
+
+/// The hour of a twilight by an angle of depression (degrees), or NoEvent.
+double TwilightOf(const YearSource& year, std::size_t row, double angle, DayHalf half);
+
+Moment FajrOf(const YearSource& year, std::size_t row);
+
+/// Isha by its angle, whatever the intervals say.
+Moment IshaOf(const YearSource& year, std::size_t row);
+
+}  // namespace horavex

@@ -1,0 +1,309 @@
+#include "engine/moments.h"
+
+#include <gtest/gtest.h>
+
+#include "base/date.h"
+#include "engine/angle.h"
+
+namespace horavex {
+namespace {
+
+constexpr double kMinute = 1.0 / 60.0;
+
+/// Row of a day of 2026.
+std::size_t Day(int month, int day) {
+    return static_cast<std::size_t>(DateSerial(2026, month, day) - DateSerial(2026, 1, 1));
+}
+
+/// A place of the year 2026 and its rules; degrees and hours.
+struct Case {
+    Case(double latitude, double longitude, double zone, double angle)
+        : inputs{2026,
+                 {DegToRad(latitude), -DegToRad(longitude), zone},
+                 {angle, angle, 1.0, 0, 0, 0, true, true}} {}
+
+    Case& Rule(HighLatitudeRule rule) {
+        rules.highLatitude = rule;
+        inputs.method.needsFajr = inputs.method.needsIsha = rule == HighLatitudeRule::kNone;
+        return *this;
+    }
+
+    Case& Daylight(std::int16_t start, std::int16_t end) {
+        inputs.method.dstEnabled = 1;
+        inputs.method.dstStart = start;
+        inputs.method.dstEnd = end;
+        return *this;
+    }
+
+    void Calculate() {
+        table = CalculateYear(inputs);
+        calculated = true;
+    }
+
+    DayMoments On(int month, int day) {
+        if (!calculated) {
+            Calculate();
+        }
+        EXPECT_FALSE(table.failure);
+        return MomentsOf({inputs, table.times, rules}, Day(month, day));
+    }
+
+    YearInputs inputs;
+    MomentRules rules;
+    YearTable table;
+    bool calculated = false;
+};
+
+Case Cairo() {
+    return {30.05, 31.25, 2.0, 17.5};
+}
+
+Case Oslo() {
+    return Case(59.91, 10.75, 1.0, 18.0).Daylight(88, 297);
+}
+
+/// Midnight sun from May to July, no sunrise from the end of November on.
+Case Tromso() {
+    return {69.65, 18.96, 1.0, 18.0};
+}
+
+TEST(MomentsOf, WithoutRulesTheyAreTheTablesOwnNumbers) {
+    Case cairo = Cairo().Daylight(100, 200);
+    for (const int month : {1, 5, 12}) {
+        const DayMoments moments = cairo.On(month, 15);
+        for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+            EXPECT_EQ(moments[prayer].hours, cairo.table.times[prayer][Day(month, 15)]);
+            EXPECT_EQ(moments[prayer].by, MomentBy::kSun);
+        }
+    }
+}
+
+TEST(MomentsOf, OffsetsAreAddedByPrayer) {
+    Case cairo = Cairo();
+    const DayMoments plain = cairo.On(3, 1);
+    cairo.rules.offsets = {2, 0, 5, 0, -3, 60};
+    const DayMoments moved = cairo.On(3, 1);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        EXPECT_NEAR(moved[prayer].hours - plain[prayer].hours,
+                    cairo.rules.offsets[prayer] * kMinute, 1e-12);
+    }
+}
+
+TEST(MomentsOf, IntervalCountsFromMaghribAndRamadanHasItsOwn) {
+    Case mecca(21.42, 39.82, 3.0, 18.5);
+    mecca.rules.ishaInterval = 90;
+    mecca.rules.ishaIntervalRamadan = 120;
+    mecca.rules.ramadan.set(Day(3, 1));
+    const DayMoments usual = mecca.On(5, 1);
+    EXPECT_NEAR(usual[kIsha].hours - usual[kMaghrib].hours, 1.5, 1e-12);
+    EXPECT_EQ(usual[kIsha].by, MomentBy::kInterval);
+    const DayMoments ramadan = mecca.On(3, 1);
+    EXPECT_NEAR(ramadan[kIsha].hours - ramadan[kMaghrib].hours, 2.0, 1e-12);
+}
+
+TEST(MomentsOf, WithoutAnIntervalOfItsOwnRamadanHasTheUsualOne) {
+    Case mecca(21.42, 39.82, 3.0, 18.5);
+    mecca.rules.ishaInterval = 90;
+    mecca.rules.ramadan.set();
+    const DayMoments day = mecca.On(3, 1);
+    EXPECT_NEAR(day[kIsha].hours - day[kMaghrib].hours, 1.5, 1e-12);
+}
+
+TEST(MomentsOf, IntervalOfRamadanAloneLeavesOtherMonthsToTheAngle) {
+    Case mecca(21.42, 39.82, 3.0, 18.5);
+    mecca.rules.ishaIntervalRamadan = 120;
+    mecca.rules.ramadan.set(Day(3, 1));
+    EXPECT_EQ(mecca.On(5, 1)[kIsha].by, MomentBy::kSun);
+    EXPECT_EQ(mecca.On(3, 1)[kIsha].by, MomentBy::kInterval);
+}
+
+TEST(MomentsOf, OffsetOfMaghribDoesNotMoveTheIshaThatCountsFromIt) {
+    Case mecca(21.42, 39.82, 3.0, 18.5);
+    mecca.rules.ishaInterval = 90;
+    const double isha = mecca.On(5, 1)[kIsha].hours;
+    mecca.rules.offsets[kMaghrib] = 10;
+    EXPECT_EQ(mecca.On(5, 1)[kIsha].hours, isha);
+}
+
+// 4.5 degrees take some 20 minutes at the latitude of Tehran in March.
+TEST(MomentsOf, AngleOfMaghribComesBehindSunset) {
+    Case tehran(35.69, 51.39, 3.5, 17.7);
+    const double sunset = tehran.On(3, 21)[kMaghrib].hours;
+    tehran.rules.maghribAngle = 4.5;
+    const DayMoments day = tehran.On(3, 21);
+    EXPECT_NEAR(day[kMaghrib].hours - sunset, 18.0 * kMinute, 1.0 * kMinute);
+    EXPECT_EQ(day[kMaghrib].by, MomentBy::kSun);
+}
+
+// The angle of Fajr and Isha reached with Maghrib's own equation: both ways are one sun.
+TEST(MomentsOf, AngleOfMaghribIsTheAngleOfTheTable) {
+    Case cairo = Cairo();
+    cairo.inputs.method.ishaAngle = 9.0;
+    cairo.rules.maghribAngle = 9.0;
+    const DayMoments day = cairo.On(9, 23);
+    EXPECT_NEAR(day[kMaghrib].hours, day[kIsha].hours, 2.0 / 3600.0);
+}
+
+TEST(MomentsOf, ZoneGivesEachMomentTheOffsetOfItsOwnInstant) {
+    Case london(51.51, -0.13, 0.0, 12.0);
+    london.rules.zone = {{DateSerial(2025, 10, 26), 0.0},
+                         {DateSerial(2026, 3, 29) + 1.0 / 24.0, 1.0},
+                         {DateSerial(2026, 10, 25) + 1.0 / 24.0, 0.0}};
+    const DayMoments before = london.On(3, 28);
+    EXPECT_EQ(before[kZuhr].hours, london.table.times[kZuhr][Day(3, 28)]);
+    const DayMoments summer = london.On(3, 29);
+    EXPECT_NEAR(summer[kFajr].hours, london.table.times[kFajr][Day(3, 29)] + 1.0, 1e-12);
+    const DayMoments winter = london.On(10, 25);
+    EXPECT_NEAR(winter[kFajr].hours, london.table.times[kFajr][Day(10, 25)], 1e-12);
+}
+
+TEST(MomentsOf, ChangeBetweenTwoMomentsOfADayPartsThem) {
+    Case cairo = Cairo();
+    cairo.rules.zone = {{DateSerial(2026, 1, 1), 2.0},
+                        {DateSerial(2026, 4, 24) + 8.0 / 24.0, 3.0}};  // at 10:00
+    const DayMoments day = cairo.On(4, 24);
+    EXPECT_NEAR(day[kShurooq].hours, cairo.table.times[kShurooq][Day(4, 24)], 1e-12);
+    EXPECT_NEAR(day[kZuhr].hours, cairo.table.times[kZuhr][Day(4, 24)] + 1.0, 1e-12);
+}
+
+TEST(MomentsOf, DaylightHourOfTheRecordDoesNotCountBesideAZone) {
+    Case cairo = Cairo();
+    const double plain = cairo.On(7, 1)[kZuhr].hours;
+    Case daylight = Cairo().Daylight(100, 300);
+    daylight.rules.zone = {{DateSerial(2026, 1, 1), 2.0}};
+    EXPECT_NEAR(daylight.On(7, 1)[kZuhr].hours, plain, 1e-12);
+}
+
+// Kiritimati is 14 hours east of Greenwich; the record holds the same clock as 10 hours west.
+TEST(MomentsOf, RecordThatIsAWholeDayOffShowsTheSameClock) {
+    Case kiritimati(1.87, -157.43, -10.0, 18.0);
+    const DayMoments plain = kiritimati.On(6, 1);
+    kiritimati.rules.zone = {{DateSerial(2025, 1, 1), 14.0}};
+    const DayMoments zoned = kiritimati.On(6, 1);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        EXPECT_NEAR(zoned[prayer].hours, plain[prayer].hours, 1e-9) << prayer;
+    }
+}
+
+TEST(HighLatitude, RuleChangesNothingWhereItsPortionIsNotReached) {
+    Case cairo = Cairo();
+    const DayMoments plain = cairo.On(6, 21);
+    for (const auto rule :
+         {HighLatitudeRule::kMiddle, HighLatitudeRule::kAngle, HighLatitudeRule::kNearest}) {
+        EXPECT_EQ(cairo.Rule(rule).On(6, 21), plain);
+    }
+}
+
+TEST(HighLatitude, WithoutARuleTheYearGivesUp) {
+    EXPECT_TRUE(CalculateYear(Oslo().inputs).failure);
+    EXPECT_FALSE(CalculateYear(Oslo().Rule(HighLatitudeRule::kSeventh).inputs).failure);
+}
+
+// Sunset of 21 June 2026 in Oslo 22:44, sunrise of the 22nd 3:54 (almanac): a night of 5:10.
+TEST(HighLatitude, PortionsAreCountedFromSunsetAndSunrise) {
+    struct Row {
+        HighLatitudeRule rule;
+        double portion;
+    };
+    for (const auto& [rule, portion] :
+         {Row{HighLatitudeRule::kMiddle, 0.5}, Row{HighLatitudeRule::kSeventh, 1.0 / 7.0},
+          Row{HighLatitudeRule::kAngle, 18.0 / 60.0}}) {
+        Case oslo = Oslo().Rule(rule);
+        const DayMoments day = oslo.On(6, 21);
+        const DayMoments next = oslo.On(6, 22);
+        const double night = next[kShurooq].hours + 24.0 - day[kMaghrib].hours;
+        EXPECT_NEAR(night, 5.0 + 10.0 / 60.0, 1.5 * kMinute);
+        EXPECT_NEAR(day[kIsha].hours, day[kMaghrib].hours + portion * night, 1e-9);
+        EXPECT_NEAR(next[kFajr].hours, next[kShurooq].hours - portion * night, 1e-9);
+        EXPECT_EQ(day[kIsha].by, MomentBy::kRule);
+        EXPECT_EQ(next[kFajr].by, MomentBy::kRule);
+        EXPECT_EQ(day[kMaghrib].by, MomentBy::kSun);
+    }
+}
+
+TEST(HighLatitude, MiddleOfASummersNightLiesBehindMidnight) {
+    const DayMoments day = Oslo().Rule(HighLatitudeRule::kMiddle).On(6, 21);
+    EXPECT_NEAR(day[kIsha].hours, 24.0 + 1.0 + 19.0 * kMinute, 2.0 * kMinute);
+}
+
+TEST(HighLatitude, WhereTheSunSinksTheLaterThanTheRuleTheRuleCounts) {
+    Case oslo = Oslo().Rule(HighLatitudeRule::kSeventh);
+    const DayMoments autumn = oslo.On(10, 1);  // 18 degrees are reached, and take two hours
+    EXPECT_EQ(autumn[kIsha].by, MomentBy::kRule);
+    EXPECT_LT(autumn[kIsha].hours, oslo.table.times[kIsha][Day(10, 1)]);
+    EXPECT_GT(autumn[kFajr].hours, oslo.table.times[kFajr][Day(10, 1)]);
+}
+
+TEST(HighLatitude, NearestDayIsTheLastThatHadTheTwilight) {
+    Case oslo = Oslo().Rule(HighLatitudeRule::kNearest);
+    const DayMoments before = oslo.On(4, 15);
+    EXPECT_EQ(before[kIsha].by, MomentBy::kSun);
+    std::size_t last = Day(4, 15);
+    while (IsEvent(oslo.table.times[kIsha][last + 1])) {
+        ++last;
+    }
+    const DayMoments kept = MomentsOf({oslo.inputs, oslo.table.times, oslo.rules}, last);
+    const DayMoments summer = oslo.On(6, 21);
+    EXPECT_EQ(summer[kIsha].by, MomentBy::kRule);
+    EXPECT_NEAR(summer[kIsha].hours, kept[kIsha].hours, 1e-9);
+    EXPECT_NEAR(summer[kFajr].hours, kept[kFajr].hours, 0.3);
+}
+
+TEST(HighLatitude, NightsOfMidnightSunBorrowTheLastDayThatHadBothHorizons) {
+    Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
+    const DayMoments day = tromso.On(6, 21);
+    EXPECT_EQ(day[kShurooq].by, MomentBy::kRule);
+    EXPECT_EQ(day[kMaghrib].by, MomentBy::kRule);
+    EXPECT_EQ(day[kZuhr].by, MomentBy::kSun);
+    EXPECT_LT(day[kShurooq].hours, 1.5);
+    EXPECT_GT(day[kMaghrib].hours, 23.0);
+    EXPECT_LE(day[kFajr].hours, day[kShurooq].hours);
+    EXPECT_GE(day[kIsha].hours, day[kMaghrib].hours);
+}
+
+TEST(HighLatitude, EveryDayOfAPolarYearHasItsMomentsInOrder) {
+    for (const auto rule :
+         {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh, HighLatitudeRule::kAngle}) {
+        Case tromso = Tromso().Rule(rule);
+        tromso.Calculate();
+        for (std::size_t row = 0; row < 365; ++row) {
+            const DayMoments day =
+                MomentsOf({tromso.inputs, tromso.table.times, tromso.rules}, row);
+            for (std::size_t prayer = 0; prayer + 1 < kPrayerCount; ++prayer) {
+                EXPECT_LE(day[prayer].hours, day[prayer + 1].hours) << row << " " << prayer;
+            }
+            EXPECT_GT(day[kFajr].hours, -2.0) << row;
+            EXPECT_LT(day[kIsha].hours, 26.0) << row;
+        }
+    }
+}
+
+// At 57.7 degrees the sun sinks to 12 degrees until the end of May, at the end long after midnight.
+TEST(HighLatitude, IshaBehindMidnightGoesOnInItsOwnHalfOfTheNight) {
+    Case goteborg = Case(57.7, 11.97, 1.0, 12.0).Rule(HighLatitudeRule::kNearest);
+    double former = goteborg.On(4, 20)[kIsha].hours;
+    for (int day = 21; day < 30; ++day) {
+        const double isha = goteborg.On(4, day)[kIsha].hours;
+        EXPECT_GT(isha, former);
+        EXPECT_LT(isha - former, 0.25);
+        former = isha;
+    }
+    former = goteborg.On(5, 1)[kIsha].hours;
+    for (int day = 2; day < 31; ++day) {
+        const Moment isha = goteborg.On(5, day)[kIsha];
+        EXPECT_GE(isha.hours, former) << day;
+        EXPECT_LT(isha.hours, 25.5) << day;
+        former = isha.hours;
+    }
+}
+
+TEST(HighLatitude, PoleItselfHasNoMomentsButZuhr) {
+    Case pole = Case(90.0, 0.0, 0.0, 18.0).Rule(HighLatitudeRule::kMiddle);
+    const DayMoments day = pole.On(6, 21);
+    EXPECT_TRUE(IsEvent(day[kZuhr].hours));
+    EXPECT_EQ(day[kFajr].hours, NoEvent);
+    EXPECT_EQ(day[kIsha].hours, NoEvent);
+}
+
+}  // namespace
+}  // namespace horavex
