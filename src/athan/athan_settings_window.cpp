@@ -1,11 +1,12 @@
 #include "athan/athan_settings_window.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "athan/athan_state.h"
 #include "athan/sound.h"
 #include "athan/sound_tools.h"
+#include "base/program_state.h"
 #include "base/steps.h"
 #include "engine/center_on_screen.h"
 #include "lang/form_language.h"
@@ -17,6 +18,10 @@
 namespace horavex {
 
 namespace {
+
+std::array<std::string, 2> customAthanFiles;
+
+const ProgramStateReset reset([] { customAthanFiles = {}; });
 
 /// A built-in sound and the option that stands for it.
 struct Reciter {
@@ -237,6 +242,17 @@ void Picture_Click(int index) {
 }
 
 }  // namespace
+
+void LoadCustomAthanFiles() {
+    for (std::size_t i = 0; i < customAthanFiles.size(); ++i) {
+        CRegister().REGGetSetting(kLocalMachine, kSettingsKey,
+                                  "Custom Athan File" + std::to_string(i), "", customAthanFiles[i]);
+    }
+}
+
+const std::string& CustomAthanFile(std::size_t group) {
+    return customAthanFiles.at(group);
+}
 
 void BindAthanSettingsWindow() {
     FrmAthan& form = *frmAthan;

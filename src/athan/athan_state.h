@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <string>
 
 namespace horavex {
 
@@ -15,11 +13,5 @@ extern std::int16_t alarmActive;
 
 /// -1 once the user has closed the alarm's message; shared with the export's cancel.
 extern std::int16_t alarmDismissed;
-
-/// Paths of the user's own sounds: 0 for Fajr, 1 for the other prayers; empty for none.
-extern std::array<std::string, 2> customAthanFiles;
-
-/// Reads both paths from the registry.
-void LoadCustomAthanFiles();
 
 }  // namespace horavex

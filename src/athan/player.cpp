@@ -11,13 +11,14 @@
 
 namespace horavex {
 
-std::int16_t fileOpen = kFalse;
-std::int16_t playing = kFalse;
 std::int16_t Paused = kFalse;
-std::int32_t blockBytes = 0;
-std::int32_t playedBytes = 0;
 
 namespace {
+
+std::int16_t fileOpen = kFalse;
+std::int16_t playing = kFalse;  // a pause included
+std::int32_t blockBytes = 0;    // one second of the open file, the size of one read
+std::int32_t playedBytes = 0;   // where a pause has stopped, from the beginning of the file
 
 const ProgramStateReset reset([] {
     fileOpen = kFalse;
@@ -72,6 +73,10 @@ void AudioPlayer_EndPlay() {
 }
 
 }  // namespace
+
+bool IsPlaying() {
+    return playing != kFalse;
+}
 
 void OpenFileForPlay(const std::string& path) {
     StopPlay();

@@ -9,16 +9,11 @@ namespace horavex {
 /// or stopped at its beginning. It reads a second of the file at a time and keeps two of them
 /// queued, so that a long file takes no more memory than a short one.
 
-/// Flags: a file is open; it plays, a pause included; it pauses.
-extern std::int16_t fileOpen;
-extern std::int16_t playing;
+/// Flag: the sound pauses.
 extern std::int16_t Paused;
 
-/// Bytes that make one second of the open file, the size of one read.
-extern std::int32_t blockBytes;
-
-/// Where a pause has stopped, in bytes of samples from the beginning of the file.
-extern std::int32_t playedBytes;
+/// Whether a sound plays, a pause included.
+bool IsPlaying();
 
 /// Plays the file of that real path from its beginning, in place of what plays. A file that is
 /// missing, unreadable, of an unknown format or without audio leaves nothing playing, in silence.

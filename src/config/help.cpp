@@ -1,5 +1,8 @@
 #include "config/help.h"
 
+#include <array>
+#include <cstdint>
+
 #include "base/fault.h"
 #include "base/program_state.h"
 #include "base/text.h"
@@ -13,11 +16,18 @@
 
 namespace horavex {
 
-std::string helpOwnerWindow;
-std::string helpFile;
-HelpWindowRecord HelpWindowInfo{};
-
 namespace {
+
+/// What the help window is told once about itself.
+struct HelpWindowRecord {
+    std::int32_t size;
+    HelpPlace place;
+    std::array<char, 2> member;
+};
+
+std::string helpOwnerWindow;      // the form that help calls pass as their owner
+std::string helpFile;             // path in the program folder
+HelpWindowRecord HelpWindowInfo;  // a half of the screen each way, from a quarter of it
 
 const ProgramStateReset reset([] {
     helpOwnerWindow.clear();

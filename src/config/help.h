@@ -1,11 +1,8 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
 #include <string>
 
 #include "forms/form.h"
-#include "platform/help_view.h"
 
 namespace horavex {
 
@@ -14,22 +11,6 @@ inline constexpr int kHelpIndex = 9999;
 inline constexpr int kHelpSettings = 10009;
 inline constexpr int kHelpQibla = 10019;
 inline constexpr int kHelpDateConversion = 10099;
-
-/// What the help window is told once about itself.
-struct HelpWindowRecord {
-    std::int32_t size;
-    HelpPlace place;
-    std::array<char, 2> member;
-};
-
-/// The form that help calls pass as their owner. Written by InitHelp.
-extern std::string helpOwnerWindow;
-
-/// Path of the help file in the program folder. Written by InitHelp.
-extern std::string helpFile;
-
-/// Written by InitHelp: a half of the screen each way, from a quarter of it.
-extern HelpWindowRecord HelpWindowInfo;
 
 /// Takes the owner of all help calls and works the path of the help file out from the program's
 /// folder. Once, at the load of HoravexMainForm.

@@ -17,9 +17,10 @@
 namespace horavex {
 
 std::int16_t languageMenuBuilt = kFalse;
-std::int16_t languageMenuCount = 0;
 
 namespace {
+
+std::int16_t languageMenuCount = 0;  // items of mnuL that stand for a language
 
 const ProgramStateReset reset([] {
     languageMenuBuilt = kFalse;

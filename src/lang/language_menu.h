@@ -8,9 +8,6 @@ namespace horavex {
 /// Flag: the menu stands. It is built once a run; an error on the way leaves it false.
 extern std::int16_t languageMenuBuilt;
 
-/// Items of mnuL that stand for a language, once the menu is built.
-extern std::int16_t languageMenuCount;
-
 /// Fills the submenu of languages on frmMain from the folder of the packs: an entry for each pack,
 /// with its emblem, the one of that language checked. An error is told in a message box and ends
 /// the work where it stands.

@@ -1,6 +1,7 @@
 #include "shell/settings_start.h"
 
 #include "athan/athan_files.h"
+#include "athan/athan_settings_window.h"
 #include "athan/athan_state.h"
 #include "base/flag.h"
 #include "base/prayer_names.h"

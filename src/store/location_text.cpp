@@ -18,9 +18,10 @@ CityRecord ShownCity;
 std::string LatitudeText;
 std::string LongitudeText;
 std::string ZoneHintText;
-std::string ZoneWestText;
 
 namespace {
+
+std::string ZoneWestText;
 
 const ProgramStateReset reset([] {
     ZoneWest = ZoneNearest = ZoneEast = 0;

@@ -17,7 +17,6 @@ extern CityRecord ShownCity;
 extern std::string LatitudeText;
 extern std::string LongitudeText;
 extern std::string ZoneHintText;
-extern std::string ZoneWestText;
 
 /// longitude: degrees, east positive, -180 to 180. A half goes east; an exact multiple of 15 is
 /// its own western zone, or the eastern one where it is negative.

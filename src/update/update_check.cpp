@@ -16,9 +16,11 @@
 
 namespace horavex {
 
-std::string updateFilePath;
-
 namespace {
+
+/// The scratch file of the check in the program folder: the web server's file as it came, byte for
+/// byte. Nothing of it lasts from one run to the next.
+std::string updateFilePath;
 
 const ProgramStateReset reset([] { updateFilePath.clear(); });
 

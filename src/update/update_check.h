@@ -1,12 +1,6 @@
 #pragma once
 
-#include <string>
-
 namespace horavex {
-
-/// The scratch file of the check in the program folder: the web server's file as it came, byte for
-/// byte. Nothing of it lasts from one run to the next. Written by ClearUpdateFile and each check.
-extern std::string updateFilePath;
 
 /// Names the scratch file and deletes it if it is there; what cannot be deleted stays. At the
 /// load of HoravexMainForm.

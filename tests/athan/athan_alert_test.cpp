@@ -52,7 +52,7 @@ TEST_F(AthanTest, BringsItsWindowUpAndIsHeardTwoSecondsLater) {
     EXPECT_NEAR(platform.clock.SteadySeconds() - before, 2.0, 0.02);
     EXPECT_EQ(Text(), "It is time for the Asr prayer");
     EXPECT_EQ(frmAzan->prayerIndex, 3);
-    EXPECT_EQ(playing, -1);
+    EXPECT_TRUE(IsPlaying());
 }
 
 TEST_F(AthanTest, FajrHasASoundOfItsOwn) {
@@ -114,7 +114,7 @@ TEST_F(AthanTest, TypeIsLookedAtWhenTheSoundIsDue) {
 TEST_F(AthanTest, StopBeforeTheSoundIsDueDoesNotKeepItBack) {
     platform.loop.After(1.0, [&] { PressStop(); });
     sub04F9(2);
-    EXPECT_EQ(playing, -1);
+    EXPECT_TRUE(IsPlaying());
     EXPECT_EQ(athanActive, 0);
 }
 
@@ -123,7 +123,7 @@ TEST_F(AthanTest, MissingSoundLeavesTheWindowUp) {
     sub04F9(2);
     EXPECT_TRUE(frmAzan->Visible());
     EXPECT_EQ(athanActive, -1);
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
 }
 
 TEST_F(AthanTest, EndOfTheSoundEndsTheCycle) {
@@ -136,7 +136,7 @@ TEST_F(AthanTest, EndOfTheSoundEndsTheCycle) {
 TEST_F(AthanTest, CalculatedYearSilencesItAndTheWindowStays) {
     sub04F9(2);
     RefreshAll();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_TRUE(frmAzan->Visible());
     EXPECT_EQ(athanActive, -1);
 }

@@ -121,7 +121,8 @@ TEST_F(AthanSettingsTest, StoredCustomFilesAreShown) {
     frmAthan->Load();
     EXPECT_EQ(frmAthan->lblCustomFajr.Caption(), "/home/dawn.ogg");
     EXPECT_EQ(frmAthan->lblCustomOther.Caption(), "/home/day.ogg");
-    EXPECT_THAT(customAthanFiles, ElementsAre("/home/dawn.ogg", "/home/day.ogg"));
+    EXPECT_EQ(CustomAthanFile(0), "/home/dawn.ogg");
+    EXPECT_EQ(CustomAthanFile(1), "/home/day.ogg");
 }
 
 TEST_F(AthanSettingsTest, BrowseIsForTheCustomOptionOfItsGroup) {
@@ -147,7 +148,7 @@ TEST_F(AthanSettingsTest, ClickOnAnOptionStopsTheSound) {
           &frmAthan->DessamAthan}) {
         OpenFileForPlay(kFolder + "athan1.mp3");
         option->UserClick();
-        EXPECT_EQ(playing, 0) << option->Name();
+        EXPECT_FALSE(IsPlaying()) << option->Name();
     }
 }
 
@@ -184,7 +185,8 @@ TEST_F(AthanSettingsTest, ChosenFileIsStoredAndShownAtOnce) {
     Choose(1, "/home/day.ogg");
     EXPECT_EQ(Stored("Custom Athan File1"), "/home/day.ogg");
     EXPECT_EQ(frmAthan->lblCustomOther.Caption(), "/home/day.ogg");
-    EXPECT_THAT(customAthanFiles, ElementsAre("/home/dawn.ogg", "/home/day.ogg"));
+    EXPECT_EQ(CustomAthanFile(0), "/home/dawn.ogg");
+    EXPECT_EQ(CustomAthanFile(1), "/home/day.ogg");
 }
 
 TEST_F(AthanSettingsTest, CancelledBrowseChangesNothing) {
@@ -380,7 +382,7 @@ TEST_F(AthanSettingsTest, ListenWithoutACustomFileLeavesNothingPlaying) {
     Store("Fajr Athan Type", "3");
     frmAthan->Load();
     frmAthan->Picture_(4).UserClick();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_THAT(Opened(), IsEmpty());
 }
 
@@ -393,7 +395,7 @@ TEST_F(AthanSettingsTest, PauseAndStopServeBothGroups) {
         frmAthan->Picture_(pause).UserClick();
         EXPECT_EQ(Paused, 0);
         frmAthan->Picture_(pause + 1).UserClick();
-        EXPECT_EQ(playing, 0);
+        EXPECT_FALSE(IsPlaying());
     }
 }
 
@@ -419,7 +421,7 @@ TEST_F(AthanSettingsTest, CloseUnloadsAndTheSoundStops) {
     frmAthan->Picture_(1).UserClick();
     frmAthan->cmdClose.UserClick();
     EXPECT_FALSE(frmAthan->IsLoaded());
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
 }
 
 }  // namespace

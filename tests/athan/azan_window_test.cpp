@@ -105,7 +105,7 @@ TEST_F(AzanWindowTest, StopSendsItAboveTheScreenAndSilencesTheSound) {
     EXPECT_FALSE(frmAzan->Timer1.Running());
     EXPECT_EQ(frmAzan->Top(), -bottom);
     EXPECT_THAT(platform.desktop.calls, ElementsAre("SetNotTopMost frmAzan"));
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_FALSE(platform.audioPlayer.IsPlaying());
     EXPECT_TRUE(frmAzan->IsLoaded());
 }
@@ -135,7 +135,7 @@ TEST_F(AzanWindowTest, UserWhoClosesItStopsTheAthan) {
     PlaySomething();
     frmAzan->UserClose();
     EXPECT_EQ(athanActive, 0);
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_TRUE(frmAzan->IsLoaded());
 }
 
@@ -143,7 +143,7 @@ TEST_F(AzanWindowTest, UnloadStopsTheSound) {
     frmAzan->Load();
     PlaySomething();
     frmAzan->Unload();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
 }
 
 struct AzanTextTest : AzanWindowTest {

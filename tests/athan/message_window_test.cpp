@@ -40,20 +40,20 @@ TEST_F(MessageWindowTest, LoadTakesTheCancelButtonsCaptionFromTheAcceptedLanguag
 TEST_F(MessageWindowTest, ButtonPlaysTheSoundOfTheOtherPrayers) {
     fMessage->Athan_Sound.UserClick();
     EXPECT_THAT(platform.audioFile.opened, ElementsAre("/program/Athan/athan.mp3"));
-    EXPECT_EQ(playing, -1);
+    EXPECT_TRUE(IsPlaying());
 }
 
 TEST_F(MessageWindowTest, UnloadStopsTheSound) {
     fMessage->Athan_Sound.UserClick();
     fMessage->Unload();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
 }
 
 TEST_F(MessageWindowTest, CancelStopsTheSoundAndTheWindowStays) {
     fMessage->CmdCancel.SetVisible(true);
     fMessage->Athan_Sound.UserClick();
     fMessage->CmdCancel.UserClick();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_EQ(alarmDismissed, -1);
     EXPECT_TRUE(fMessage->IsLoaded());
 }

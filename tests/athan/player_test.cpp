@@ -15,10 +15,10 @@ using testing::ElementsAre;
 
 constexpr int kBlock = 200;  // bytes of a second: 100 moments of one sample
 
-/// The bytes of a sound of that length, each another one than its neighbours.
-Bytes Samples(std::size_t count) {
+/// So many bytes of a sound from a position on, each another one than its neighbours.
+Bytes Samples(std::size_t count, std::size_t from = 0) {
     Bytes samples(count);
-    std::iota(samples.begin(), samples.end(), std::uint8_t{1});
+    std::iota(samples.begin(), samples.end(), static_cast<std::uint8_t>(from + 1));
     return samples;
 }
 
@@ -33,9 +33,16 @@ struct PlayerTest : ProgramTest {
     }
 
     static void ExpectRest() {
-        EXPECT_EQ(playing, 0);
+        EXPECT_FALSE(IsPlaying());
         EXPECT_EQ(Paused, 0);
-        EXPECT_EQ(playedBytes, 0);
+    }
+
+    /// What is heard of the sound that pauses when it goes on to its end.
+    Bytes HeardFromHere() {
+        player.heard.clear();
+        PausePlay();
+        player.PlayToTheEnd();
+        return player.heard;
     }
 
     MemoryAudioPlayer& player = platform.audioPlayer;
@@ -44,9 +51,9 @@ struct PlayerTest : ProgramTest {
 
 TEST_F(PlayerTest, StartQueuesTwoBlocksOfASecond) {
     OpenFileForPlay("/long");
-    EXPECT_EQ(playing, -1);
-    EXPECT_EQ(fileOpen, -1);
-    EXPECT_EQ(blockBytes, kBlock);
+    EXPECT_TRUE(IsPlaying());
+    EXPECT_TRUE(file.IsOpen());
+    EXPECT_EQ(file.longestRead, static_cast<std::size_t>(kBlock));
     EXPECT_EQ(player.starts, 1);
     EXPECT_EQ(player.Queued(), 2U);
 }
@@ -60,9 +67,9 @@ TEST_F(PlayerTest, WholeFileIsHeardWithTwoBlocksQueuedAtMost) {
 }
 
 TEST_F(PlayerTest, BlockFollowsTheFormatOfTheFile) {
-    file.sounds["/stereo"] = {Samples(5000), 44100, {2}};
+    file.sounds["/stereo"] = {Samples(200000), 44100, {2}};
     OpenFileForPlay("/stereo");
-    EXPECT_EQ(blockBytes, 176400);
+    EXPECT_EQ(file.longestRead, 176400U);
 }
 
 TEST_F(PlayerTest, SoundOfLessThanASecondIsHeardAndEnds) {
@@ -90,7 +97,7 @@ TEST_F(PlayerTest, EndLeavesTheFileOpenAtItsBeginning) {
     OpenFileForPlay("/long");
     player.PlayToTheEnd();
     ExpectRest();
-    EXPECT_EQ(fileOpen, -1);
+    EXPECT_TRUE(file.IsOpen());
     EXPECT_EQ(file.Read(2), Samples(2));
 }
 
@@ -132,8 +139,8 @@ TEST_F(PlayerTest, WhatCannotBeOpenedLeavesNothingPlaying) {
         OpenFileForPlay("/long");
         OpenFileForPlay(path);
         ExpectRest();
-        EXPECT_EQ(fileOpen, 0);
-        EXPECT_FALSE(player.IsPlaying());
+        StartPlay();
+        EXPECT_FALSE(player.IsPlaying()) << "no file is open";
         EXPECT_TRUE(platform.dialogs.messages.empty());
     }
 }
@@ -159,7 +166,7 @@ TEST_F(PlayerTest, StopKeepsTheFileOpenAndStartPlaysItFromTheBeginning) {
     OpenFileForPlay("/long");
     player.FinishBlock();
     StopPlay();
-    EXPECT_EQ(fileOpen, -1);
+    EXPECT_TRUE(file.IsOpen());
     player.heard.clear();
     StartPlay();
     player.PlayToTheEnd();
@@ -176,7 +183,7 @@ TEST_F(PlayerTest, StartResumesAPausedSound) {
 
 TEST_F(PlayerTest, StartWithoutAFileDoesNothing) {
     StartPlay();
-    EXPECT_EQ(playing, 0);
+    EXPECT_FALSE(IsPlaying());
     EXPECT_EQ(player.starts, 0);
 }
 
@@ -186,16 +193,10 @@ TEST_F(PlayerTest, ResumeGoesOnWhereThePauseBegan) {
     player.Hear(50);
     PausePlay();
     EXPECT_EQ(Paused, -1);
-    EXPECT_EQ(playing, -1);
-    EXPECT_EQ(playedBytes, kBlock + 50);
+    EXPECT_TRUE(IsPlaying());
     EXPECT_FALSE(player.IsPlaying());
-    player.heard.clear();
-    PausePlay();
-    EXPECT_EQ(Paused, 0);
-    EXPECT_EQ(player.Queued(), 2U);
-    player.PlayToTheEnd();
-    const Bytes whole = Samples(5 * kBlock);
-    EXPECT_EQ(player.heard, Bytes(whole.begin() + kBlock + 50, whole.end()));
+    EXPECT_EQ(HeardFromHere(), Samples(4 * kBlock - 50, kBlock + 50));
+    EXPECT_EQ(player.mostQueued, 2U);
 }
 
 TEST_F(PlayerTest, SecondPauseAddsToTheFirst) {
@@ -205,15 +206,14 @@ TEST_F(PlayerTest, SecondPauseAddsToTheFirst) {
     PausePlay();
     player.Hear(60);
     PausePlay();
-    EXPECT_EQ(playedBytes, 160);
+    EXPECT_EQ(HeardFromHere(), Samples(5 * kBlock - 160, 160));
 }
 
 TEST_F(PlayerTest, ResumeKeepsThePositionThatTheFileReached) {
     OpenFileForPlay("/long");
     player.Hear(51);
     PausePlay();
-    PausePlay();
-    EXPECT_EQ(playedBytes, 50) << "a whole moment";
+    EXPECT_EQ(HeardFromHere(), Samples(5 * kBlock - 50, 50)) << "a whole moment";
 }
 
 TEST_F(PlayerTest, ResumeAtTheVeryEndComesToTheEnd) {
@@ -242,7 +242,6 @@ TEST_F(PlayerTest, PauseBehindTheLargestPositionIsAFault) {
     EXPECT_NO_THROW(PausePlay());
     PausePlay();
     player.Hear(2147483647);
-    playedBytes = 1;
     EXPECT_THROW(PausePlay(), OverflowFault);
 }
 
@@ -266,7 +265,7 @@ using SoundTest = PlayerTest;
 TEST_F(SoundTest, PlayFileOpensThePath) {
     PlayFile("/short");
     EXPECT_THAT(file.opened, ElementsAre("/short"));
-    EXPECT_EQ(playing, -1);
+    EXPECT_TRUE(IsPlaying());
 }
 
 TEST_F(SoundTest, PlayFileWhilePausedResumesTheFormerFile) {

@@ -28,23 +28,13 @@ struct HelpTest : ProgramTest {
     }
 };
 
-TEST_F(HelpTest, StartTakesTheOwnerTheFileAndTheWindow) {
-    EXPECT_EQ(helpOwnerWindow, "HoravexMainForm");
-    EXPECT_EQ(helpFile, "\\Horavex.HLP");
-    EXPECT_EQ(HelpWindowInfo.size, 26);
-    EXPECT_EQ(HelpWindowInfo.place.x, 256);
-    EXPECT_EQ(HelpWindowInfo.place.y, 256);
-    EXPECT_EQ(HelpWindowInfo.place.width, 512);
-    EXPECT_EQ(HelpWindowInfo.place.height, 512);
-    EXPECT_THAT(HelpWindowInfo.member, ElementsAre('\0', '\0'));
-}
-
 TEST_F(HelpTest, FileLiesInTheFolderWhateverItsEnd) {
-    InitHelp("frmSample", "\\share\\");
-    EXPECT_EQ(helpOwnerWindow, "frmSample");
-    EXPECT_EQ(helpFile, "\\share\\Horavex.HLP");
-    InitHelp("frmSample", "  \\share  ");
-    EXPECT_EQ(helpFile, "\\share\\Horavex.HLP");
+    platform.files.WriteWhole("/program/share/Horavex.HLP", BytesOf("[topics]\n9999=moon.html\n"));
+    for (const char* folder : {"\\share\\", "  \\share  "}) {
+        InitHelp("frmSample", folder);
+        EXPECT_EQ(PathAt(kHelpIndex), "/program/help/English/moon.html") << folder;
+        EXPECT_EQ(platform.shell.help->owner, "frmSample");
+    }
 }
 
 TEST_F(HelpTest, TopicsOfTheButtonsHaveTheirPages) {
@@ -70,6 +60,8 @@ TEST_F(HelpTest, ViewIsPlacedNamedAndOwned) {
     const HelpView& view = *platform.shell.help;
     EXPECT_EQ(view.owner, "HoravexMainForm");
     EXPECT_EQ(view.place.x, 256);
+    EXPECT_EQ(view.place.y, 256);
+    EXPECT_EQ(view.place.width, 512);
     EXPECT_EQ(view.place.height, 512);
     EXPECT_EQ(view.title, "Horavex Help");
     EXPECT_EQ(view.contents, "Contents");

@@ -1,6 +1,6 @@
 #include "shell/start.h"
 
-#include "athan/athan_state.h"
+#include "athan/athan_settings_window.h"
 #include "base/program_state.h"
 #include "config/wizard.h"
 #include "engine/day_state.h"
@@ -197,8 +197,8 @@ TEST_F(StartTest, CustomSoundsAreRead) {
     platform.registry.CreateKey("Software\\Horavex\\Settings");
     platform.registry.SetValue("Software\\Horavex\\Settings", "Custom Athan File1", "/a/b.ogg");
     Start();
-    EXPECT_EQ(customAthanFiles[0], "");
-    EXPECT_EQ(customAthanFiles[1], "/a/b.ogg");
+    EXPECT_EQ(CustomAthanFile(0), "");
+    EXPECT_EQ(CustomAthanFile(1), "/a/b.ogg");
 }
 
 TEST_F(StartTest, MissingTablesFailTheStart) {
