@@ -30,13 +30,13 @@ void WriteAngle(const std::string& text) {
 }  // namespace
 
 bool LoadIshaAngle() {
-    const bool firstRun = ReadAngle("-1") < 0.0;
-    if (firstRun) {
+    const bool isFirst = ReadAngle("-1") < 0.0;
+    if (isFirst) {
         WriteAngle(kFirstIshaAngle);
     }
     IshaAngle = ReadAngle(kFirstIshaAngle);
     ActiveIshaAngle = IshaAngle;
-    return firstRun;
+    return isFirst;
 }
 
 void ReloadIshaAngle() {
