@@ -66,6 +66,7 @@ void AddExportCommand(CLI::App& app, Session& session) {
     auto options = std::make_shared<ExportOptions>();
     AddCoordinateOptions(*command, options->place, false);
     AddCityOptions(*command, options->place);
+    AddAuthorityOption(*command, options->place);
     AddMethodOptions(*command, options->place, false);
     command->add_option("--year", options->year, "Gregorian year")
         ->check(CLI::Range(1, 9999))

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/int16.h"
+#include "ctl/method_option.h"
 #include "ctl/number_range.h"
 #include "engine/angle.h"
 #include "lang/language_pack.h"
@@ -85,6 +86,13 @@ void TakePlace(const PlaceOptions& options) {
     }
 }
 
+/// The figures that an authority leaves open stay as they are.
+void TakeAuthority(const Authority& authority) {
+    Settings.FajrAngle = authority.fajrAngle;
+    IshaAngle = authority.ishaInterval == 0 ? authority.ishaAngle : IshaAngle;
+    Settings.AsrRatio = authority.asrRatio == 0.0 ? Settings.AsrRatio : authority.asrRatio;
+}
+
 void TakeMethod(const PlaceOptions& options) {
     Settings.TimeZone = options.zone.value_or(Settings.TimeZone);
     Settings.FajrAngle = options.fajr.value_or(Settings.FajrAngle);
@@ -133,6 +141,11 @@ void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required) {
     end->needs(start);
 }
 
+void AddAuthorityOption(CLI::App& command, PlaceOptions& options) {
+    command.add_option("--method", options.method,
+                       "The method of an authority, by (a part of) its name");
+}
+
 void AddCityOptions(CLI::App& command, PlaceOptions& options) {
     auto* city = command.add_option("--city", options.city, "A city by (a part of) its name");
     auto* index = command.add_option("--city-index", options.cityIndex, "A city by its number");
@@ -150,6 +163,9 @@ std::int16_t StoredFromDegrees(double degrees) {
 
 void ApplyPlace(const PlaceOptions& options) {
     TakePlace(options);
+    if (options.method) {
+        TakeAuthority(AuthorityOfText(*options.method));
+    }
     TakeMethod(options);
 }
 

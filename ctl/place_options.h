@@ -12,14 +12,15 @@ namespace horavex {
 struct PlaceOptions {
     std::optional<std::string> city;
     std::optional<int> cityIndex;
-    std::optional<double> latitude;   // degrees, north positive
-    std::optional<double> longitude;  // degrees, east positive
-    std::optional<double> zone;       // hours east of Greenwich
-    std::optional<double> fajr;       // degrees of depression
-    std::optional<double> isha;       // degrees of depression
-    std::optional<double> asr;        // shadow factor
-    std::optional<int> dstStart;      // 1-based day of the year
-    std::optional<int> dstEnd;        // 1-based day of the year
+    std::optional<double> latitude;     // degrees, north positive
+    std::optional<double> longitude;    // degrees, east positive
+    std::optional<double> zone;         // hours east of Greenwich
+    std::optional<std::string> method;  // of an authority, by (a part of) its name
+    std::optional<double> fajr;         // degrees of depression
+    std::optional<double> isha;         // degrees of depression
+    std::optional<double> asr;          // shadow factor
+    std::optional<int> dstStart;        // 1-based day of the year
+    std::optional<int> dstEnd;          // 1-based day of the year
 };
 
 /// --latitude and --longitude; given together or not at all.
@@ -27,6 +28,9 @@ void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool require
 
 /// --zone, --fajr, --isha, --asr, --dst-start and --dst-end.
 void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required);
+
+/// --method, whose figures the method options replace one by one.
+void AddAuthorityOption(CLI::App& command, PlaceOptions& options);
 
 /// --city and --city-index, beside the coordinates.
 void AddCityOptions(CLI::App& command, PlaceOptions& options);
@@ -39,8 +43,9 @@ std::int16_t StoredFromDegrees(double degrees);
 
 /// Fills the working settings, place and Isha angle. Without a place the accepted ones count; a
 /// city or coordinates alone take the nearest zone, the default Fajr angle of their band, 18
-/// degrees clipped to the band for Isha, ratio 1 and no daylight saving. Method options come on
-/// top. Refuses the usage for a city that is not there.
+/// degrees clipped to the band for Isha, ratio 1 and no daylight saving. A method of an authority
+/// comes on top, and then the method options. Refuses the usage for a city or a method that is
+/// not there.
 void ApplyPlace(const PlaceOptions& options);
 
 }  // namespace horavex

@@ -144,6 +144,7 @@ void AddTodayCommand(CLI::App& app, Session& session) {
     auto options = std::make_shared<TodayOptions>();
     AddCoordinateOptions(*command, options->place, false);
     AddCityOptions(*command, options->place);
+    AddAuthorityOption(*command, options->place);
     AddMethodOptions(*command, options->place, false);
     auto* at = command->add_option("--at", options->at, "A moment in place of now");
     command->add_flag("--watch", options->watch, "Redraw each second in the terminal")
