@@ -5,6 +5,8 @@
 #include <iostream>
 #include <thread>
 
+#include "config/authority_rules.h"
+#include "ctl/method_option.h"
 #include "ctl/plain_text.h"
 #include "engine/undefined_angle.h"
 #include "engine/year_table.h"
@@ -59,6 +61,10 @@ void ConsoleHost::ComputeQibla() {
 
 double ConsoleHost::QiblaBearing() {
     return QiblaDegrees;
+}
+
+MomentRules ConsoleHost::RulesOf(std::int16_t year) {
+    return ChosenAuthority ? horavex::RulesOf(*ChosenAuthority, year) : MomentRules{};
 }
 
 ConsolePlatform::ConsolePlatform()

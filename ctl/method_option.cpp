@@ -4,6 +4,8 @@
 
 namespace horavex {
 
+std::optional<Authority> ChosenAuthority;
+
 namespace {
 
 std::string KeysText(const std::vector<const Authority*>& authorities) {

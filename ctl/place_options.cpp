@@ -86,8 +86,17 @@ void TakePlace(const PlaceOptions& options) {
     }
 }
 
+/// An angle of Isha by hand stands for the interval, too.
+Authority WithoutInterval(Authority authority) {
+    authority.ishaInterval = 0;
+    authority.ishaIntervalRamadan = 0;
+    return authority;
+}
+
 /// The figures that an authority leaves open stay as they are.
-void TakeAuthority(const Authority& authority) {
+void TakeAuthority(const PlaceOptions& options) {
+    const Authority& authority = AuthorityOfText(*options.method);
+    ChosenAuthority = options.isha ? WithoutInterval(authority) : authority;
     Settings.FajrAngle = authority.fajrAngle;
     IshaAngle = authority.ishaInterval == 0 ? authority.ishaAngle : IshaAngle;
     Settings.AsrRatio = authority.asrRatio == 0.0 ? Settings.AsrRatio : authority.asrRatio;
@@ -164,7 +173,7 @@ std::int16_t StoredFromDegrees(double degrees) {
 void ApplyPlace(const PlaceOptions& options) {
     TakePlace(options);
     if (options.method) {
-        TakeAuthority(AuthorityOfText(*options.method));
+        TakeAuthority(options);
     }
     TakeMethod(options);
 }
