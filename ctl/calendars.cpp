@@ -5,7 +5,7 @@
 #include "ctl/command.h"
 #include "ctl/date_option.h"
 #include "lang/language_pack.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 
 namespace horavex {
 

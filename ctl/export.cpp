@@ -6,10 +6,9 @@
 #include "ctl/place_options.h"
 #include "engine/current_year.h"
 #include "lang/language_pack.h"
-#include "store/isha_setting.h"
-#include "store/language_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 #include "timetables/timetable_file.h"
 
 namespace horavex {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <iostream>
 
-#include "base/memory_fault.h"
+#include "base/fault.h"
 #include "ctl/command.h"
 #include "ctl/plain_text.h"
 

@@ -13,7 +13,7 @@
 #include "moon/moon_rise_set.h"
 #include "moon/moon_row_labels.h"
 #include "moon/phase_rows.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 
 namespace horavex {
 

@@ -9,11 +9,11 @@
 #include "lang/language_pack.h"
 #include "store/angle_band.h"
 #include "store/city_search.h"
-#include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "store/location_text.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 
 namespace horavex {
 

@@ -3,9 +3,9 @@
 
 #include "ctl/command.h"
 #include "lang/language_pack.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 #include "store/text_table.h"
-#include "update/web_server.h"
+#include "update/web_pages.h"
 
 namespace horavex {
 

@@ -15,7 +15,7 @@
 #include "engine/next_prayer.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 #include "timetables/timetable.h"
 
 namespace horavex {

@@ -2,7 +2,7 @@
 #include <memory>
 #include <optional>
 
-#include "config/help_check.h"
+#include "config/help_topics.h"
 #include "ctl/command.h"
 #include "lang/pack_check.h"
 #include "store/data_check.h"

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "base/memory_fault.h"
+#include "base/fault.h"
 
 namespace horavex {
 

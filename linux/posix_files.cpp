@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "base/memory_fault.h"
+#include "base/fault.h"
 #include "linux/descriptor.h"
 #include "linux/file_status.h"
 #include "linux/replace_file.h"

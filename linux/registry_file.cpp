@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/memory_fault.h"
+#include "base/fault.h"
 #include "base/utf8.h"
 
 namespace horavex {

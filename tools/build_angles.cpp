@@ -6,7 +6,7 @@
 #include "base/fault.h"
 #include "lib/data_writer.h"
 #include "lib/text_source.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 
 namespace {
 

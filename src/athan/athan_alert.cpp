@@ -3,7 +3,7 @@
 #include "athan/athan_state.h"
 #include "athan/azan_window.h"
 #include "athan/sound.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"

@@ -6,8 +6,8 @@
 
 #include "athan/sound.h"
 #include "athan/sound_tools.h"
+#include "base/fault.h"
 #include "base/program_state.h"
-#include "base/steps.h"
 #include "engine/center_on_screen.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"

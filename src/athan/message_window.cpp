@@ -2,10 +2,10 @@
 
 #include "athan/athan_state.h"
 #include "athan/sound.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "engine/center_on_screen.h"
+#include "geo/city_picker.h"
 #include "lang/form_language.h"
-#include "store/cancel_load.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
 #include "windows/f_message.h"

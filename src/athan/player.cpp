@@ -4,7 +4,7 @@
 
 #include "athan/athan_state.h"
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "platform/platform.h"
 #include "windows/frm_azan.h"

@@ -1,10 +1,39 @@
 #include "athan/sound.h"
 
 #include "athan/player.h"
-#include "base/flag.h"
+#include "base/fault.h"
+#include "base/int16.h"
 #include "platform/platform.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
+
+namespace {
+
+/// A sound that is played, and the built-in one that stands in for it.
+struct AthanFile {
+    const char* played;
+    const char* builtIn;
+};
+
+constexpr AthanFile kOtherPrayers = {"Athan\\athan.mp3", "Athan\\athan1.mp3"};
+constexpr AthanFile kFajr = {"Athan\\fagr_athan.mp3", "Athan\\fagr_athan1.mp3"};
+
+void MakeIfMissing(const AthanFile& file) {
+    const ProgramFolder& folder = Ports().programFolder;
+    if (folder.Exists(file.builtIn) && !folder.Exists(file.played)) {
+        RunStep(
+            [&] { folder.WriteWhole(file.played, folder.ReadWhole(file.builtIn, kLargestSound)); });
+    }
+}
+
+void OfferSound(bool offered) {
+    HoravexMainForm->optAthanType(3).SetVisible(offered);
+    HoravexMainForm->mnuPopSound.SetVisible(offered);
+    HoravexMainForm->mnuSound.SetVisible(offered);
+}
+
+}  // namespace
 
 std::string FullPath(const std::string& relativePath) {
     return Ports().programFolder.RealPath(relativePath);
@@ -27,11 +56,18 @@ void PauseSound() {
 }
 
 void Athan_Sound_Click() {
-    PlayFile(FullPath("Athan\\athan.mp3"));
+    PlayFile(FullPath(kOtherPrayers.played));
 }
 
 void Fagr_Athan_Sound_Click() {
-    PlayFile(FullPath("Athan\\fagr_athan.mp3"));
+    PlayFile(FullPath(kFajr.played));
+}
+
+void CheckAthanFiles() {
+    MakeIfMissing(kOtherPrayers);
+    MakeIfMissing(kFajr);
+    // The sound of Fajr decides alone, whatever has become of the other.
+    OfferSound(Ports().programFolder.Exists(kFajr.played));
 }
 
 }  // namespace horavex

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/bytes.h"
-#include "platform/sound_kind.h"
+#include "platform/audio_file.h"
 
 namespace horavex {
 

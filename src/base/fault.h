@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -51,5 +52,33 @@ public:
 private:
     std::string path_;
 };
+
+/// There is not as much memory as a damaged or huge input asks for.
+class MemoryFault : public Fault {
+public:
+    MemoryFault() : Fault("not enough memory") {}
+};
+
+/// Runs an action and lets a want of memory in it be a fault like the others.
+template <class Action>
+auto WithMemoryFaults(Action action) {
+    try {
+        return action();
+    } catch (const std::bad_alloc&) {
+        throw MemoryFault();
+    } catch (const std::length_error&) {
+        throw MemoryFault();
+    }
+}
+
+/// Runs one step of a routine whose failed steps are passed over so that the next one runs.
+template <class Step>
+void RunStep(Step step) {
+    try {
+        WithMemoryFaults(step);
+    } catch (const Fault&) {
+        // Passed over in silence.
+    }
+}
 
 }  // namespace horavex

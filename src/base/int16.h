@@ -4,6 +4,10 @@
 
 namespace horavex {
 
+/// Program-wide flags are 16-bit: 0 is false, -1 is true.
+inline constexpr std::int16_t kFalse = 0;
+inline constexpr std::int16_t kTrue = -1;
+
 /// Narrows to a 16-bit field. Throws OverflowFault outside -32768 to 32767.
 std::int16_t ToInt16(std::int64_t value);
 

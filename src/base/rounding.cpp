@@ -1,6 +1,8 @@
 #include "base/rounding.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace horavex {
 
@@ -22,6 +24,15 @@ double RoundToPlaces(double value, int places) {
         scale *= 10.0;
     }
     return RoundHalfEven(value * scale) / scale;
+}
+
+int NearestInt(double value) {
+    if (std::isnan(value)) {
+        return 0;
+    }
+    constexpr double kLowest = std::numeric_limits<int>::min();
+    constexpr double kHighest = std::numeric_limits<int>::max();
+    return static_cast<int>(RoundHalfEven(std::clamp(value, kLowest, kHighest)));
 }
 
 }  // namespace horavex

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/nearest_int.h"
+#include "base/rounding.h"
 
 namespace horavex {
 

@@ -2,21 +2,21 @@
 
 #include <string>
 
+#include "base/fault.h"
 #include "base/number_text.h"
 #include "base/program_state.h"
-#include "base/steps.h"
 #include "config/settings_display.h"
 #include "config/zone_box.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
 #include "geo/qibla_window.h"
 #include "platform/platform.h"
-#include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 #include "store/text_table.h"
 #include "windows/f_country.h"
 #include "windows/frm_main.h"

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "base/check_report.h"
+
 namespace horavex {
 
 /// Name of the help file, in the program's folder.
@@ -32,5 +34,9 @@ public:
 private:
     std::string file_;
 };
+
+/// Looks through the help of the program folder: that the help file names pages, that each is there
+/// in English, and that each page of any language has a title. Never throws.
+void CheckHelp(CheckReport& report);
 
 }  // namespace horavex

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "base/nearest_int.h"
 #include "base/number_text.h"
+#include "base/rounding.h"
 #include "base/text.h"
 #include "config/method_list.h"
 #include "engine/current_year.h"

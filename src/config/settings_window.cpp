@@ -1,6 +1,6 @@
 #include "config/settings_window.h"
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/city_choice.h"
 #include "config/commit.h"
 #include "config/help.h"
@@ -8,11 +8,11 @@
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"
-#include "store/cancel_load.h"
-#include "store/isha_setting.h"
+#include "geo/city_picker.h"
 #include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 

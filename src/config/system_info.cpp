@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "platform/platform.h"
 #include "store/register.h"
 

@@ -1,10 +1,9 @@
 #include "config/wizard.h"
 
-#include "base/flag.h"
+#include "base/fault.h"
 #include "base/int16.h"
-#include "base/nearest_int.h"
 #include "base/program_state.h"
-#include "base/steps.h"
+#include "base/rounding.h"
 #include "config/angle_sliders.h"
 #include "config/commit.h"
 #include "config/computer_zone.h"

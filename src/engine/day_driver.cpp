@@ -6,7 +6,6 @@
 
 #include "base/fault.h"
 #include "base/int16.h"
-#include "base/memory_fault.h"
 #include "base/program_state.h"
 #include "engine/accepted_year.h"
 #include "engine/current_year.h"

@@ -1,6 +1,6 @@
 #include "engine/progress_window.h"
 
-#include "base/steps.h"
+#include "base/fault.h"
 #include "platform/platform.h"
 #include "windows/f_message.h"
 

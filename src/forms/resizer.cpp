@@ -5,7 +5,6 @@
 #include <string>
 
 #include "base/fault.h"
-#include "base/steps.h"
 
 namespace horavex {
 

@@ -4,14 +4,12 @@
 #include <utility>
 #include <vector>
 
-#include "base/flag.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "base/text.h"
 #include "engine/center_on_screen.h"
 #include "engine/progress_window.h"
 #include "lang/form_language.h"
-#include "store/cancel_load.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/text_table.h"
@@ -21,6 +19,8 @@
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
+
+std::int16_t CancelLoad = kFalse;
 
 namespace {
 
@@ -40,6 +40,7 @@ void ForgetCities() {
 }
 
 const ProgramStateReset reset([] {
+    CancelLoad = kFalse;
     lastFill = 0;
     ForgetCities();
 });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -8,6 +9,10 @@
 #include "store/settings_record.h"
 
 namespace horavex {
+
+/// 0, or -1 once the user has closed the progress window: a long list fill then stops. Cleared
+/// when the settings window fills its controls and whenever a picker opens.
+extern std::int16_t CancelLoad;
 
 /// What a pick for the distance window is kept in, so that it leaves Settings and Location alone.
 struct CityPick {

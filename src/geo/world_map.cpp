@@ -6,7 +6,6 @@
 #include "base/bytes.h"
 #include "base/fault.h"
 #include "base/number_text.h"
-#include "base/steps.h"
 #include "base/text.h"
 #include "engine/angle.h"
 #include "platform/platform.h"

@@ -4,15 +4,24 @@
 #include <iterator>
 #include <string_view>
 
-#include "base/flag.h"
-#include "base/steps.h"
+#include "base/fault.h"
+#include "base/int16.h"
 #include "lang/language_pack.h"
-#include "lang/menu_bar.h"
 #include "platform/platform.h"
 
 namespace horavex {
 
 namespace {
+
+struct MenuTitle {
+    const char* variable;
+    const char* key;  // in the section of the face's window
+};
+
+constexpr MenuTitle kTitles[] = {{"_root.azan", "mnuAthan"},
+                                 {"_root.settings", "mnuSettings"},
+                                 {"_root.tools", "mnuTools"},
+                                 {"_root.help", "mnuHelp"}};
 
 constexpr std::string_view kRuntimePrefixes[] = {"mnuL", "lblTime"};
 
@@ -83,6 +92,13 @@ void TranslateFace(const std::string& packPath) {
 }
 
 }  // namespace
+
+void SetMenuBar(const std::string& packPath) {
+    for (const MenuTitle& title : kTitles) {
+        Ports().face.SetVariable(
+            title.variable, ReadPackString(packPath, "frmMain", title.key, "", kPackNameBuffer));
+    }
+}
 
 std::string ControlIndexSuffix(const Control& control) {
     return control.Has(Property::kIndex) ? "_" + std::to_string(control.Index()) : "";

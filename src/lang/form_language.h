@@ -32,6 +32,10 @@ std::string ToolTipKey(const Control& control);
 /// The face's window hands its six texts over to the face besides.
 void LoadFormLanguage(Form& form, const std::string& packPath);
 
+/// Hands the titles of the face's four menus over to it, as the pack of that path has them. A
+/// title that the pack lacks is empty.
+void SetMenuBar(const std::string& packPath);
+
 /// LoadFormLanguage with the current pack, if the language menu has seen any. What a form does
 /// first at its load, and the face's window at a change of language.
 void TranslateOnLoad(Form& form);

@@ -4,13 +4,11 @@
 #include <vector>
 
 #include "base/fault.h"
-#include "base/flag.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "base/text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
-#include "lang/pack_files.h"
 #include "platform/platform.h"
 #include "windows/frm_main.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/code_page.h"
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "base/text.h"
 #include "base/utf8.h"
@@ -15,6 +15,8 @@ std::string currentLanguage;
 std::int16_t languageFilesPresent = kFalse;
 
 namespace {
+
+constexpr const char* kPackFolder = "\\Lang\\";
 
 const ProgramStateReset reset([] {
     currentLanguage.clear();
@@ -39,6 +41,11 @@ std::string ReadPack(const std::string& packPath) {
     } catch (const FileFault&) {
         return {};
     }
+}
+
+bool EndsIn(const std::string& name, const std::string& suffix) {
+    return name.size() >= suffix.size() &&
+           EqualsIgnoringCase(name.substr(name.size() - suffix.size()), suffix);
 }
 
 }  // namespace
@@ -70,6 +77,26 @@ std::string ReadPackString(const std::string& section, const std::string& key,
 std::string GetLangString(const std::string& section, const std::string& key,
                           const std::string& defaultText) {
     return ReadPackString(section, key, defaultText, kPackTextBuffer);
+}
+
+std::string LanguageFilePath(const std::string& fileName) {
+    return kPackFolder + fileName;
+}
+
+std::vector<std::string> ListLanguageFiles(const std::string& suffix) {
+    std::vector<std::string> names = Ports().programFolder.List(kPackFolder);
+    std::erase_if(names, [&](const std::string& name) { return !EndsIn(name, suffix); });
+    return names;
+}
+
+std::string LanguageOfFile(const std::string& fileName) {
+    const std::size_t end = fileName.find(".ini");
+    if (end == std::string::npos) {
+        throw BoundsFault(fileName +
+                          ": the name of a language file ends in \".ini\", in small "
+                          "letters");
+    }
+    return fileName.substr(0, end);
 }
 
 }  // namespace horavex

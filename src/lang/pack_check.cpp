@@ -4,7 +4,7 @@
 
 #include "base/fault.h"
 #include "base/text.h"
-#include "lang/pack_files.h"
+#include "lang/language_pack.h"
 #include "lang/pack_keys.h"
 #include "lang/profile_file.h"
 #include "platform/platform.h"

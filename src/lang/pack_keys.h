@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -25,5 +26,9 @@ std::vector<std::string> FormPackKeys(const Form& form);
 /// The whole of a pack: the vocabularies, then a section for each of PackForms, with what the form
 /// reads of it beside the walk.
 std::vector<PackSection> PackSections();
+
+/// Every form that translates itself at its load, made anew and not loaded: as its definition has
+/// it, whatever a running one shows. A new form that does so goes on this list.
+std::vector<std::unique_ptr<Form>> PackForms();
 
 }  // namespace horavex

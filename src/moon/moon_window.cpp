@@ -4,9 +4,9 @@
 #include <iterator>
 #include <string>
 
+#include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
-#include "base/steps.h"
 #include "engine/angle.h"
 #include "engine/center_on_screen.h"
 #include "forms/show_modal.h"

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "base/fault.h"
+#include "platform/dialogs.h"
 #include "platform/face.h"
+#include "platform/instance_guard.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
 #include "platform/windows.h"
@@ -150,6 +152,53 @@ public:
 
 private:
     DesktopLog& log_;
+};
+
+/// Writes down each message box and closes it at once; answers for the user who chooses a file to
+/// open or to save.
+class RecordingDialogs : public Dialogs {
+public:
+    struct Message {
+        std::string text;
+        std::string title;
+        MessageIcon icon;
+    };
+
+    void ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) override {
+        messages.push_back({text, title, icon});
+    }
+
+    std::string OpenFile(const FileRequest& request) override {
+        fileRequests.push_back(request);
+        return chosenFile;
+    }
+
+    void Beep() override { ++beeps; }
+
+    std::string SaveFile(const FileRequest& request, const std::string& suffix) override {
+        saveRequests.push_back({request, suffix});
+        return savedFile;
+    }
+
+    struct SaveRequest {
+        FileRequest request;
+        std::string suffix;
+    };
+
+    std::vector<Message> messages;
+    std::vector<FileRequest> fileRequests;
+    std::string chosenFile;  // empty for a user who cancels
+    std::vector<SaveRequest> saveRequests;
+    std::string savedFile;  // empty for a user who cancels
+    int beeps = 0;
+};
+
+/// Answers as it is told.
+class FixedInstanceGuard : public InstanceGuard {
+public:
+    bool AnotherIsRunning() override { return anotherIsRunning; }
+
+    bool anotherIsRunning = false;
 };
 
 }  // namespace horavex

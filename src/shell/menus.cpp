@@ -3,7 +3,7 @@
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 #include "windows/frm_main.h"
 
 namespace horavex {

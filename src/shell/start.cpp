@@ -1,6 +1,6 @@
 #include "shell/start.h"
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
@@ -12,8 +12,8 @@
 #include "platform/platform.h"
 #include "shell/close_face.h"
 #include "shell/settings_start.h"
-#include "store/language_setting.h"
 #include "store/location_record.h"
+#include "store/stored_values.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 

@@ -4,7 +4,7 @@
 
 #include "athan/athan_alert.h"
 #include "athan/athan_state.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/rounding.h"
 #include "config/commit.h"
 #include "engine/current_year.h"

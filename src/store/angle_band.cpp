@@ -3,7 +3,6 @@
 #include <cstdlib>
 
 #include "base/program_state.h"
-#include "store/data_text.h"
 #include "store/indexed_file.h"
 
 namespace horavex {

@@ -10,7 +10,6 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "platform/platform.h"
-#include "store/data_text.h"
 #include "store/indexed_file.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"

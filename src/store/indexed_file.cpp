@@ -1,11 +1,32 @@
 #include "store/indexed_file.h"
 
+#include <algorithm>
+
 #include "base/fault.h"
 #include "base/rounding.h"
 #include "platform/platform.h"
-#include "store/data_text.h"
 
 namespace horavex {
+
+namespace {
+
+std::uint8_t DecodeByte(std::uint8_t code) {
+    if (code >= 1 && code <= 127) {
+        return static_cast<std::uint8_t>(code + 127);
+    }
+    if (code >= 128 && code <= 254) {
+        return static_cast<std::uint8_t>(code - 127);
+    }
+    return code;
+}
+
+}  // namespace
+
+Bytes DecodeText(ByteView stored) {
+    Bytes text(stored.size());
+    std::transform(stored.begin(), stored.end(), text.begin(), DecodeByte);
+    return text;
+}
 
 RecordFile::RecordFile(std::string path, std::int64_t recordLength)
     : path_(std::move(path)),

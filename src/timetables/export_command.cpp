@@ -1,7 +1,7 @@
 #include "timetables/export_command.h"
 
 #include "athan/athan_state.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "engine/wait.h"
 #include "platform/platform.h"
 #include "store/settings_record.h"

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "base/nearest_int.h"
 #include "base/rounding.h"
 #include "base/text.h"
 #include "base/utf8.h"

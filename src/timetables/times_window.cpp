@@ -1,7 +1,6 @@
 #include "timetables/times_window.h"
 
 #include "base/fault.h"
-#include "base/steps.h"
 #include "base/text.h"
 #include "engine/current_year.h"
 #include "engine/day_state.h"

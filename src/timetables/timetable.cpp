@@ -12,9 +12,9 @@
 #include "engine/moments.h"
 #include "engine/solar_event.h"
 #include "geo/qibla.h"
-#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 
 namespace horavex {
 

@@ -1,6 +1,6 @@
 #include "update/connection_probes.h"
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "platform/platform.h"
 
 namespace horavex {

@@ -3,15 +3,14 @@
 #include <sstream>
 
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
 #include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "update/connection_probes.h"
-#include "update/open_address.h"
-#include "update/web_server.h"
+#include "update/web_pages.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {

@@ -1,7 +1,7 @@
 #include "update/update_room.h"
 
-#include "update/open_address.h"
 #include "update/update_check.h"
+#include "update/web_pages.h"
 #include "windows/frm_main.h"
 
 namespace horavex {

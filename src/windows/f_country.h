@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "forms/command_button.h"
 #include "forms/form.h"
 #include "forms/form_instance.h"

@@ -1,8 +1,8 @@
 #include "athan/athan_settings_window.h"
 
-#include "athan/athan_files.h"
 #include "athan/athan_state.h"
 #include "athan/player.h"
+#include "athan/sound.h"
 #include "athan/sound_tools.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"

@@ -4,6 +4,7 @@
 
 #include <cfenv>
 #include <cmath>
+#include <limits>
 #include <random>
 
 namespace horavex {
@@ -92,6 +93,24 @@ TEST(RoundToPlaces, ValueBelowHalfAPlaceVanishes) {
 TEST(RoundToPlaces, TwentyTwoPlacesScaleByAnExactPowerOfTen) {
     EXPECT_EQ(RoundToPlaces(1.5e-22, 22), 2e-22);
     EXPECT_EQ(RoundToPlaces(3.0, 22), 3.0);
+}
+
+TEST(NearestInt, RoundsWithTiesToTheEvenNumber) {
+    EXPECT_EQ(NearestInt(2.4), 2);
+    EXPECT_EQ(NearestInt(2.5), 2);
+    EXPECT_EQ(NearestInt(3.5), 4);
+    EXPECT_EQ(NearestInt(-0.6), -1);
+}
+
+TEST(NearestInt, EndsAtTheEndsOfItsRange) {
+    EXPECT_EQ(NearestInt(1e300), std::numeric_limits<int>::max());
+    EXPECT_EQ(NearestInt(-9.3e16), std::numeric_limits<int>::min());
+    EXPECT_EQ(NearestInt(INFINITY), std::numeric_limits<int>::max());
+    EXPECT_EQ(NearestInt(-INFINITY), std::numeric_limits<int>::min());
+}
+
+TEST(NearestInt, WhatIsNoNumberIsNothing) {
+    EXPECT_EQ(NearestInt(NAN), 0);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "config/city_choice.h"
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/settings_window.h"
+#include "geo/city_picker.h"
 #include "lang/language_pack.h"
 #include "store/angle_band.h"
-#include "store/cancel_load.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/location_text.h"

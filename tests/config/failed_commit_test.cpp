@@ -1,7 +1,7 @@
 // What is left on view by a set that was refused, and what the user can do while one runs.
 
 #include "athan/athan_state.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/commit.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"

@@ -4,12 +4,12 @@
 #include "config/settings_display.h"
 #include "engine/current_year.h"
 #include "engine/year_table.h"
+#include "geo/city_picker.h"
 #include "geo/qibla.h"
 #include "store/angle_band.h"
-#include "store/cancel_load.h"
 #include "store/city_search.h"
-#include "store/isha_setting.h"
 #include "store/location_files.h"
+#include "store/stored_values.h"
 #include "support/program_test.h"
 
 namespace horavex {

@@ -1,7 +1,7 @@
 #include "config/wizard.h"
 
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/settings_controls.h"
 #include "config/settings_window.h"
 #include "config/wizard_preview.h"
@@ -11,8 +11,8 @@
 #include "lang/language_pack.h"
 #include "store/angle_band.h"
 #include "store/city_search.h"
-#include "store/isha_setting.h"
 #include "store/location_files.h"
+#include "store/stored_values.h"
 #include "support/program_test.h"
 #include "windows/f_country.h"
 #include "windows/frm_wizard.h"

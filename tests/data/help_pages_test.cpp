@@ -10,7 +10,7 @@
 #include "base/utf8.h"
 #include "config/help.h"
 #include "config/help_topics.h"
-#include "lang/pack_forms.h"
+#include "lang/pack_keys.h"
 #include "support/build_folder.h"
 #include "support/run_program.h"
 

@@ -4,9 +4,9 @@
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
-#include "store/isha_setting.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 
 namespace horavex {
 namespace {

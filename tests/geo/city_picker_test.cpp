@@ -2,8 +2,7 @@
 
 #include <chrono>
 
-#include "base/flag.h"
-#include "store/cancel_load.h"
+#include "base/int16.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "support/program_test.h"

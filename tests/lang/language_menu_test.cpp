@@ -1,12 +1,12 @@
 #include "lang/language_menu.h"
 
 #include "base/fault.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "lang/form_language.h"
 #include "lang/lang_test.h"
 #include "lang/language_pack.h"
-#include "store/language_setting.h"
+#include "store/stored_values.h"
 #include "windows/frm_main.h"
 
 namespace horavex {

@@ -1,5 +1,5 @@
 #include "base/code_page.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "lang/lang_test.h"
 #include "lang/language_pack.h"

@@ -3,6 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "lang/form_language.h"
+#include "lang/lang_test.h"
+#include "lang/language_pack.h"
+#include "lang/walk_form.h"
+#include "windows/frm_main.h"
+
 namespace horavex {
 namespace {
 
@@ -40,6 +48,87 @@ TEST(PackVocabularies, LabelsAreNumberedTo20AndFollowedByTheEraAndPrayersWithout
 
 TEST(PackVocabularies, AthanWindowHasAPrayersNumberWithoutShurooq) {
     EXPECT_THAT(Section(2).keys, ElementsAre("0", "2", "3", "4", "5"));
+}
+
+class PackSectionsTest : public LangTest {};
+
+TEST_F(PackSectionsTest, KeysOfAFormAreWhatItsWalkReads) {
+    EXPECT_THAT(FormPackKeys(WalkForm()),
+                ElementsAre("frmWalk", "fraAsr", "fraAsrTTIP", "optAsrRatio_1", "optAsrRatioTTIP_1",
+                            "optAsrRatio_2", "lblTitle", "lblTitleTTIP", "SkinLabel1",
+                            "SkinLabel1TTIP", "chkAlarm", "chkAlarmTTIP", "cmdClose_0",
+                            "cmdCloseTTIP_0", "SettingsSet", "SettingsSetTTIP", "mnuFile",
+                            "mnuExit", "lblDeprMax", "lblCityBanner", "MyLblTime"));
+}
+
+TEST_F(PackSectionsTest, PackOfTheseKeysLeavesNothingBlank) {
+    std::string pack = "[frmWalk]\n";
+    for (const std::string& key : FormPackKeys(WalkForm())) {
+        pack += key + "=text\n";
+    }
+    WritePack("Pack.ini", pack);
+    WalkForm form;
+    LoadFormLanguage(form, "\\lang\\Pack.ini");
+    EXPECT_EQ(form.Caption(), "text");
+    for (const Control* control : form.Controls()) {
+        if (TakesPackTexts(*control)) {
+            EXPECT_EQ(control->Caption(), "text") << control->Name();
+        }
+    }
+    EXPECT_EQ(FormPackKeys(form).size(), FormPackKeys(WalkForm()).size());  // no tooltip lost
+}
+
+TEST_F(PackSectionsTest, RuntimeMembersAskForNoKey) {
+    WalkForm form;
+    form.mnuL.Load(1);
+    EXPECT_THAT(FormPackKeys(form), Not(Contains("mnuL_1")));
+}
+
+TEST_F(PackSectionsTest, FormsStandAsDefined) {
+    frmMain->SetCaption("changed");
+    frmMain->mnuL.Load(1);
+    std::vector<std::string> names;
+    for (const auto& form : PackForms()) {
+        names.push_back(form->Name());
+        EXPECT_FALSE(form->IsLoaded());
+        EXPECT_NE(form->Caption(), "changed");
+    }
+    EXPECT_THAT(
+        names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
+                           "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla", "frmDistance",
+                           "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
+}
+
+TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
+    std::vector<std::string> names;
+    for (const PackSection& section : PackSections()) {
+        names.push_back(section.name);
+    }
+    EXPECT_THAT(names,
+                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
+                            "HoravexMainForm", "fMessage", "frmAthan", "fCountry", "NewCoordinates",
+                            "frmWizard", "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases",
+                            "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
+}
+
+TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
+    const auto sections = PackSections();
+    const auto help = std::ranges::find(sections, "frmRamadan", &PackSection::name);
+    ASSERT_NE(help, sections.end());
+    EXPECT_THAT(help->keys, ElementsAre("frmRamadan", "SkinLabel1", "cmdClose", "Text1"));
+}
+
+TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
+    const auto keys = PackSections()[5].keys;
+    for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
+                            "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
+                            "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {
+        EXPECT_THAT(keys, Contains(key));
+    }
+    for (const char* key :
+         {"lblTime_0", "lblCity", "lblQibla", "mnuL_0", "tmrUpdate", "traypic_0"}) {
+        EXPECT_THAT(keys, Not(Contains(key)));
+    }
 }
 
 }  // namespace

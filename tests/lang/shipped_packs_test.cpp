@@ -11,7 +11,6 @@
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
 #include "lang/pack_check.h"
-#include "lang/pack_forms.h"
 #include "lang/pack_keys.h"
 #include "linux/posix_files.h"
 #include "support/build_folder.h"

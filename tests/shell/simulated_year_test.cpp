@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "athan/athan_state.h"
-#include "base/flag.h"
+#include "base/int16.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/day_state.h"

@@ -1,7 +1,8 @@
 #include "store/indexed_file.h"
 
+#include <gtest/gtest.h>
+
 #include "base/fault.h"
-#include "store/data_text.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {
@@ -204,6 +205,42 @@ TEST_F(DataFolderTest, BothWidthsOfAStartAreSignedAndLittleEndian) {
     EXPECT_EQ(ShortStart(Bytes{0xFE, 0xFF}), -2);
     EXPECT_EQ(LongStart(Bytes{0x78, 0x56, 0x34, 0x12, 0x99}), 0x12345678);
     EXPECT_EQ(LongStart(Bytes{0xFE, 0xFF, 0xFF, 0xFF}), -2);
+}
+
+std::uint8_t DecodeOne(int code) {
+    const Bytes stored = {static_cast<std::uint8_t>(code)};
+    return DecodeText(stored).at(0);
+}
+
+TEST(DecodeText, LowCodesMoveUpBy127) {
+    for (int code = 1; code <= 127; ++code) {
+        EXPECT_EQ(DecodeOne(code), code + 127);
+    }
+}
+
+TEST(DecodeText, HighCodesMoveDownBy127) {
+    for (int code = 128; code <= 254; ++code) {
+        EXPECT_EQ(DecodeOne(code), code - 127);
+    }
+}
+
+TEST(DecodeText, ZeroAnd255Stay) {
+    EXPECT_EQ(DecodeOne(0), 0);
+    EXPECT_EQ(DecodeOne(255), 255);
+}
+
+TEST(DecodeText, TwiceGivesBackEveryCode) {
+    Bytes all;
+    for (int code = 0; code <= 255; ++code) {
+        all.push_back(static_cast<std::uint8_t>(code));
+    }
+    EXPECT_EQ(DecodeText(DecodeText(all)), all);
+}
+
+TEST(DecodeText, KeepsOrderAndLength) {
+    const Bytes stored = {0xC2, 0xE0, 0xE8, 0xF1, 0xEE};
+    EXPECT_EQ(StringOf(DecodeText(stored)), "Cairo");
+    EXPECT_TRUE(DecodeText(Bytes()).empty());
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "store/text_table.h"
 
 #include "base/fault.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {

@@ -4,7 +4,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 #include "store/text_table.h"
 
 namespace horavex {

@@ -5,9 +5,9 @@
 #include "engine/current_year.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
-#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 #include "support/data_folder.h"
 #include "support/test_platform.h"
 

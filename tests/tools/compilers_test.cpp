@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "base/bytes.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 #include "store/settings_record.h"
 #include "support/build_folder.h"
 #include "support/run_program.h"

@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "base/fault.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 #include "support/temporary_folder.h"
 
 namespace horavex {

@@ -6,7 +6,7 @@
 
 #include "base/fault.h"
 #include "base/int16.h"
-#include "store/data_text.h"
+#include "store/indexed_file.h"
 
 namespace horavex {
 

@@ -2,12 +2,11 @@
 
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
-#include "platform/fixed_instance_guard.h"
 #include "platform/manual_clock.h"
 #include "platform/memory_files.h"
 #include "platform/memory_registry.h"
 #include "platform/platform.h"
-#include "platform/recording_dialogs.h"
+#include "platform/recording_desktop.h"
 #include "platform/scripted_event_loop.h"
 
 namespace horavex {

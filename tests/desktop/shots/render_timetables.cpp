@@ -6,7 +6,7 @@
 #include <QPalette>
 #include <QTimer>
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/printing/document_desk.h"
 #include "engine/current_year.h"
@@ -14,9 +14,9 @@
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "linux/posix_files.h"
-#include "store/isha_setting.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
+#include "store/stored_values.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
 #include "timetables/month_window.h"

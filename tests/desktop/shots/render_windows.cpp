@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "base/flag.h"
+#include "base/int16.h"
 #include "config/about_window.h"
 #include "config/help_topics.h"
 #include "desktop/face/azan_face.h"

@@ -1,7 +1,10 @@
-#include "update/web_server.h"
+#include "update/web_pages.h"
 
+#include "base/int16.h"
 #include "base/text.h"
+#include "platform/platform.h"
 #include "store/register.h"
+#include "update/connection_probes.h"
 
 namespace horavex {
 
@@ -35,6 +38,26 @@ std::string WithWebAddress(std::string text) {
         text.replace(at, kMark.size(), WebServer() + "/");
     }
     return text;
+}
+
+void OpenIt(const std::string& target) {
+    Ports().shell.OpenAddress(target);
+}
+
+void OpenPage(const std::string& address) {
+    if (IsOnline() == kFalse) {
+        Ports().dialogs.ShowMessage(GetConnectionSummary(), "", MessageIcon::kNone);
+        return;
+    }
+    OpenIt(address);
+}
+
+void mnuPopVisitWebSite_Click() {
+    OpenPage(WebServer() + "/");
+}
+
+void AboutUpdateButton_Click() {
+    OpenPage(HomePage());
 }
 
 }  // namespace horavex

@@ -1,7 +1,6 @@
-#include "update/open_address.h"
+#include "update/web_pages.h"
 
 #include "support/test_platform.h"
-#include "update/web_server.h"
 
 namespace horavex {
 namespace {

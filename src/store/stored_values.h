@@ -1,8 +1,12 @@
 #pragma once
 
+#include <string>
+
 namespace horavex {
 
-/// The value's name in the registry, and the angle of a first run.
+// The Isha angle and the language pack: the values that the registry keeps beside the records.
+
+/// The name of the Isha angle in the registry, and the angle of a first run.
 inline constexpr const char* kIshaValueName = "Isha Dep Angle";
 inline constexpr const char* kFirstIshaAngle = "18";
 
@@ -23,5 +27,11 @@ void PeekIshaAngle();
 
 /// Writes IshaAngle to the registry in the general form of a number.
 void SaveIshaAngle();
+
+/// The stored name of the language pack; "English" where none is stored.
+std::string ReadStoredLanguage();
+
+/// Stores the name of the language pack in use.
+void SaveStoredLanguage(const std::string& language);
 
 }  // namespace horavex

@@ -1,4 +1,4 @@
-#include "store/isha_setting.h"
+#include "store/stored_values.h"
 
 #include <string>
 
@@ -12,6 +12,8 @@ namespace horavex {
 double ActiveIshaAngle = 0.0;
 
 namespace {
+
+constexpr const char* kLanguageValueName = "Language";
 
 const ProgramStateReset reset([] { ActiveIshaAngle = 0.0; });
 
@@ -50,6 +52,17 @@ void PeekIshaAngle() {
 
 void SaveIshaAngle() {
     WriteAngle(NumberToText(IshaAngle));
+}
+
+std::string ReadStoredLanguage() {
+    std::string language;
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, kLanguageValueName, "English", language);
+    return language;
+}
+
+void SaveStoredLanguage(const std::string& language) {
+    std::int32_t result = 0;
+    CRegister().REGSaveSetting(kLocalMachine, kSettingsKey, kLanguageValueName, language, result);
 }
 
 }  // namespace horavex

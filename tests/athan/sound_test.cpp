@@ -1,4 +1,4 @@
-#include "athan/athan_files.h"
+#include "athan/sound.h"
 
 #include "support/program_test.h"
 

@@ -1,4 +1,4 @@
-#include "config/help_check.h"
+#include "config/help_topics.h"
 
 #include "support/program_copy.h"
 #include "support/test_platform.h"
