@@ -125,7 +125,8 @@ constexpr Authority kAuthorities[] = {
      .name = "Muslim World League",
      .fajrAngle = 18.0,
      .ishaAngle = 17.0,
-     .source = "Pray Times, Calculation Methods, http://praytimes.org/wiki/Calculation_Methods"},
+     .source = "Muslim World League, Prayer Times, "
+               "https://portal.themwl.org/en/applications/prayer-times"},
     {.key = "oman",
      .name = "Ministry of Awqaf and Religious Affairs, Oman",
      .fajrAngle = 18.0,
