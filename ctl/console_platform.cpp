@@ -8,7 +8,7 @@
 #include "config/authority_rules.h"
 #include "ctl/method_option.h"
 #include "ctl/plain_text.h"
-#include "engine/undefined_angle.h"
+#include "engine/limit_message.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "linux/folders.h"

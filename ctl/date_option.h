@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <string>
 
-#include "calendar/date_text.h"
+#include "calendar/date_entry.h"
 
 namespace horavex {
 

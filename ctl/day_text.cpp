@@ -3,7 +3,7 @@
 #include <iomanip>
 #include <sstream>
 
-#include "calendar/hijri_today.h"
+#include "calendar/date_words.h"
 #include "ctl/plain_text.h"
 #include "engine/next_prayer.h"
 #include "geo/qibla.h"

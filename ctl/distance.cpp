@@ -7,7 +7,6 @@
 #include "base/text.h"
 #include "ctl/command.h"
 #include "ctl/coordinate.h"
-#include "geo/mecca.h"
 
 namespace horavex {
 

@@ -11,7 +11,6 @@
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
 #include "moon/moon_rise_set.h"
-#include "moon/moon_row_labels.h"
 #include "moon/phase_rows.h"
 #include "store/stored_values.h"
 

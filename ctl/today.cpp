@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "base/text.h"
-#include "calendar/hijri_today.h"
+#include "calendar/date_words.h"
 #include "ctl/calculation.h"
 #include "ctl/day_text.h"
 #include "ctl/place_options.h"

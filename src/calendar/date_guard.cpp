@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "calendar/date_text.h"
+#include "calendar/date_entry.h"
 
 namespace horavex {
 

@@ -1,7 +1,7 @@
 #include "calendar/month_view.h"
 
 #include "calendar/current_calendar.h"
-#include "calendar/month_name.h"
+#include "calendar/date_words.h"
 
 namespace horavex {
 

@@ -8,7 +8,6 @@
 #include "base/int16.h"
 #include "base/text.h"
 #include "calendar/date_entry.h"
-#include "calendar/date_text.h"
 #include "lang/language_pack.h"
 
 namespace horavex {

@@ -1,6 +1,6 @@
 #include "config/city_choice.h"
 
-#include "config/angle_sliders.h"
+#include "config/angle_controls.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "geo/city_picker.h"

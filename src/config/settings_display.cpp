@@ -7,7 +7,7 @@
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/text.h"
-#include "config/method_list.h"
+#include "config/angle_controls.h"
 #include "engine/current_year.h"
 #include "geo/qibla.h"
 #include "lang/arabic_labels.h"

@@ -3,8 +3,7 @@
 #include <initializer_list>
 
 #include "base/int16.h"
-#include "config/angle_sliders.h"
-#include "config/method_list.h"
+#include "config/angle_controls.h"
 #include "config/settings_display.h"
 #include "config/wizard_preview.h"
 #include "config/zone_box.h"

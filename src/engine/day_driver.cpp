@@ -9,7 +9,6 @@
 #include "base/program_state.h"
 #include "engine/accepted_year.h"
 #include "engine/current_year.h"
-#include "engine/day_state.h"
 #include "engine/day_view.h"
 #include "engine/day_window.h"
 #include "engine/limit_message.h"
@@ -27,13 +26,26 @@
 
 namespace horavex {
 
+std::array<double, kPrayerCount> TodayTimes{};
+std::int16_t NextPrayer = 0;
+DayView ShownDay;
+Date TodayDate = 0.0;
+Date LastRefreshDate = 0.0;
+
 namespace {
 
 constexpr double kShortestProgress = 3.0 / kSecondsPerDay;  // days
 
 DayHost* host = nullptr;
 
-const ProgramStateReset reset([] { host = nullptr; });
+const ProgramStateReset reset([] {
+    TodayTimes = {};
+    NextPrayer = 0;
+    ShownDay = {};
+    TodayDate = 0.0;
+    LastRefreshDate = 0.0;
+    host = nullptr;
+});
 
 std::string Text(TextEntry entry) {
     return TextItem(entry, ActiveSettings.Language);

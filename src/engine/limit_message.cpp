@@ -42,4 +42,14 @@ void ShowLimitMessage(char message) {
                                 "", MessageIcon::kNone);
 }
 
+void InstallUndefinedAngleReport() {
+    SetUndefinedAngleHandler([] {
+        const std::int16_t language = ActiveSettings.Language;
+        Ports().dialogs.ShowMessage(TextItem(TextEntry::kUndefinedAngle, language) + Crlf +
+                                        TextItem(TextEntry::kProgramCloses, language),
+                                    "Horavex Prayer Time Software ", MessageIcon::kCritical);
+        Ports().eventLoop.EndProcess();
+    });
+}
+
 }  // namespace horavex

@@ -66,4 +66,9 @@ struct CoordinateFields {
 /// is in another language. Throws TypeMismatchFault for a word in the place of a number.
 CoordinateFields ParseCoordinates(const std::string& text);
 
+/// Mecca as the distance window knows it, 21 degrees 25 minutes north and 39 degrees 49 minutes
+/// east: rounded to the minute, and so a little off the place that the qibla points at.
+inline const CoordinateTexts kMeccaLatitudeTexts = {"21", "25", "0"};
+inline const CoordinateTexts kMeccaLongitudeTexts = {"39", "49", "0"};
+
 }  // namespace horavex

@@ -10,7 +10,6 @@
 #include "forms/show_modal.h"
 #include "geo/city_picker.h"
 #include "geo/distance.h"
-#include "geo/mecca.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"

@@ -5,7 +5,7 @@
 #include "base/int16.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "calendar/month_name.h"
+#include "calendar/date_words.h"
 
 namespace horavex {
 

@@ -14,12 +14,11 @@
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
 #include "moon/moon_pictures.h"
-#include "moon/moon_row_labels.h"
 #include "moon/phase_rows.h"
-#include "moon/ramadan_window.h"
 #include "moon/rise_set_page.h"
 #include "platform/platform.h"
 #include "windows/frm_main.h"
+#include "windows/frm_ramadan.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
 
@@ -179,6 +178,11 @@ void Bind() {
     BindRiseSetPage();
 }
 
+void frmRamadan_Load() {
+    TranslateOnLoad(*frmRamadan);
+    frmRamadan->Text1.SetText(GetLangString("frmRamadan", "Text1", ""));
+}
+
 }  // namespace
 
 void ShowMoonPhases() {
@@ -189,6 +193,12 @@ void ShowMoonPhases() {
     FillTables(year);
     CenterOnScreen(*Moon_Phases);
     ShowModalOrUnload(*Moon_Phases, &*frmMain);
+}
+
+void ShowRamadanHelp() {
+    frmRamadan->onLoad = frmRamadan_Load;
+    frmRamadan->cmdClose.onClick = [] { frmRamadan->Unload(); };
+    frmRamadan->ShowModal(&*Moon_Phases);
 }
 
 }  // namespace horavex

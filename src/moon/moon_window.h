@@ -7,4 +7,8 @@ namespace horavex {
 /// TypeMismatchFault for a zone of the settings window that is no number.
 void ShowMoonPhases();
 
+/// Opens the help on finding the first day of a lunar month, in front of the moon window, and
+/// returns when it is closed. Its text is the language pack's; without one it stays empty.
+void ShowRamadanHelp();
+
 }  // namespace horavex

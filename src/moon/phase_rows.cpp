@@ -1,7 +1,10 @@
 #include "moon/phase_rows.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
+#include "calendar/moon_labels.h"
 #include "moon/lunation.h"
 #include "moon/periodic_sum.h"
 
@@ -117,6 +120,19 @@ MoonRows ComputeFullMoonRows(std::int16_t year, double zone) {
 
 MoonRows ComputeLastQuarterRows(std::int16_t year, double zone) {
     return RowsOf(kLastQuarter, year, zone);
+}
+
+std::vector<std::string> MoonRowLabels(std::int16_t year, const MoonRows& newMoons) {
+    const MoonMonthLabels table = BuildMoonMonthLabels(year);
+    if (const auto slice = MoonLabelRows(year)) {
+        const auto begin = table.begin();
+        return {begin + static_cast<std::ptrdiff_t>(slice->first),
+                begin + static_cast<std::ptrdiff_t>(slice->last) + 1};
+    }
+    std::vector<std::string> labels;
+    std::transform(newMoons.begin(), newMoons.begin() + kMoonRows, std::back_inserter(labels),
+                   HijriLabelForMoonRow);
+    return labels;
 }
 
 }  // namespace horavex

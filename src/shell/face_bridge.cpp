@@ -2,9 +2,8 @@
 
 #include "base/number_text.h"
 #include "calendar/current_calendar.h"
-#include "calendar/hijri_today.h"
-#include "calendar/month_name.h"
-#include "engine/day_state.h"
+#include "calendar/date_words.h"
+#include "engine/day_driver.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"

@@ -4,7 +4,6 @@
 #include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "geo/qibla_window.h"
 #include "lang/form_language.h"
 #include "lang/language_menu.h"

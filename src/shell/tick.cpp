@@ -9,7 +9,6 @@
 #include "config/commit.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
 #include "store/settings_record.h"

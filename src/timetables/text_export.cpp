@@ -2,6 +2,7 @@
 
 #include "base/number_text.h"
 #include "base/prayer_names.h"
+#include "base/utf8.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/progress_window.h"
@@ -12,7 +13,6 @@
 #include "store/location_text.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
-#include "timetables/center_text.h"
 
 namespace horavex {
 
@@ -126,6 +126,15 @@ std::string Footnote(const DaylightNote& flag) {
 }
 
 }  // namespace
+
+std::string CenterText(std::string_view text, std::size_t width) {
+    const std::size_t length = Utf8Length(text);
+    if (length >= width) {
+        return std::string(Utf8FirstCharacters(text, width));
+    }
+    const std::size_t before = (width - length) / 2;
+    return std::string(before, ' ') + std::string(text) + std::string(width - length - before, ' ');
+}
 
 void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& file) {
     ReportProgress(monthIndex * 100.0 / 12.0);

@@ -1,11 +1,17 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "platform/files.h"
 
 namespace horavex {
+
+/// The text in the middle of a cell of that many characters, an odd blank behind it; a text that
+/// fills the cell or is longer is cut to it.
+std::string CenterText(std::string_view text, std::size_t width);
 
 /// The change of daylight saving that a month's footnote tells: " " for none, "B" for its
 /// beginning and "F" for its end. Of two in one month the later one stands.

@@ -3,7 +3,7 @@
 #include "base/fault.h"
 #include "base/text.h"
 #include "engine/current_year.h"
-#include "engine/day_state.h"
+#include "engine/day_driver.h"
 #include "engine/year_table.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"

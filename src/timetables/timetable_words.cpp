@@ -1,7 +1,6 @@
 #include "timetables/timetable_words.h"
 
-#include "calendar/hijri_today.h"
-#include "calendar/month_name.h"
+#include "calendar/date_words.h"
 #include "lang/language_pack.h"
 #include "timetables/timetable.h"
 

@@ -5,7 +5,6 @@
 #include "athan/athan_state.h"
 #include "athan/player.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "shell/tick.h"
 #include "support/program_test.h"
 #include "windows/frm_azan.h"

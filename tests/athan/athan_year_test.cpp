@@ -9,7 +9,6 @@
 #include "athan/player.h"
 #include "athan/sound.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "shell/tick.h"
 #include "support/program_test.h"
 #include "windows/frm_azan.h"

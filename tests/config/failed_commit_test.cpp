@@ -7,7 +7,6 @@
 #include "config/wizard.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "engine/solar_event.h"
 #include "shell/tick.h"
 #include "store/city_search.h"

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "config/method_list.h"
+#include "config/angle_controls.h"
 #include "config/settings_controls.h"
 #include "store/angle_band.h"
 #include "support/program_test.h"

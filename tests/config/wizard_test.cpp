@@ -6,7 +6,7 @@
 #include "config/settings_window.h"
 #include "config/wizard_preview.h"
 #include "engine/current_year.h"
-#include "engine/day_state.h"
+#include "engine/day_driver.h"
 #include "engine/place.h"
 #include "lang/language_pack.h"
 #include "store/angle_band.h"

@@ -12,7 +12,7 @@
 
 #include "desktop/form_window/form_windows.h"
 #include "lang/language_pack.h"
-#include "moon/ramadan_window.h"
+#include "moon/moon_window.h"
 #include "shell/wiring.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"

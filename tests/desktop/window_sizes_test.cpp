@@ -15,7 +15,7 @@
 #include "desktop/form_window/fit_screen.h"
 #include "desktop/form_window/form_windows.h"
 #include "geo/city_picker.h"
-#include "moon/ramadan_window.h"
+#include "moon/moon_window.h"
 #include "shell/wiring.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"

@@ -2,7 +2,6 @@
 
 #include "base/fault.h"
 #include "engine/angle.h"
-#include "engine/day_state.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
 #include "engine/wait.h"

@@ -3,7 +3,6 @@
 #include "base/fault.h"
 #include "engine/angle.h"
 #include "engine/sample_year.h"
-#include "engine/undefined_angle.h"
 #include "store/text_table.h"
 #include "support/data_folder.h"
 

@@ -2,7 +2,6 @@
 
 #include "calendar/current_calendar.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "store/location_record.h"

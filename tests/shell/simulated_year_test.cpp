@@ -14,7 +14,6 @@
 #include "base/int16.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "shell/tick.h"
 #include "support/program_test.h"
 

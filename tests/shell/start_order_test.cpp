@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "engine/day_state.h"
+#include "engine/day_driver.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"

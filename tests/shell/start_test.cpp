@@ -3,7 +3,7 @@
 #include "athan/athan_settings_window.h"
 #include "base/program_state.h"
 #include "config/wizard.h"
-#include "engine/day_state.h"
+#include "engine/day_driver.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "windows/frm_wizard.h"

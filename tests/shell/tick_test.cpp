@@ -5,7 +5,6 @@
 #include "athan/athan_state.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
-#include "engine/day_state.h"
 #include "support/program_test.h"
 #include "windows/frm_azan.h"
 

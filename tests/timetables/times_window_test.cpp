@@ -1,7 +1,7 @@
 #include "timetables/times_window.h"
 
 #include "engine/current_year.h"
-#include "engine/day_state.h"
+#include "engine/day_driver.h"
 #include "shell/tick.h"
 #include "support/program_test.h"
 #include "windows/frm_times.h"

@@ -12,7 +12,6 @@
 #include "geo/qibla_window.h"
 #include "lang/language_pack.h"
 #include "moon/moon_window.h"
-#include "moon/ramadan_window.h"
 #include "shell/wiring.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"

@@ -1,4 +1,4 @@
-#include "calendar/date_text.h"
+#include "calendar/date_entry.h"
 
 #include "base/program_state.h"
 #include "calendar/current_calendar.h"

@@ -1,5 +1,8 @@
-#include "config/method_list.h"
+#include "config/angle_controls.h"
 
+#include <cmath>
+
+#include "base/rounding.h"
 #include "store/angle_band.h"
 #include "store/text_table.h"
 
@@ -7,12 +10,26 @@ namespace horavex {
 
 namespace {
 
+constexpr double kQuarter = 0.25;  // degrees a step of the fine slider
+
 std::string Refusal(std::int16_t language) {
     return TextItem(TextEntry::kOutsideBand, language) + " " + std::to_string(AngleBand.smallest) +
            " - " + std::to_string(AngleBand.largest);
 }
 
 }  // namespace
+
+double AngleOnSliders(const ScrollBar& whole, const Slider& quarters) {
+    return whole.Value() + kQuarter * quarters.Value();
+}
+
+void MoveSliders(double angle, ScrollBar& whole, Slider& quarters) {
+    // The degree above the range is its end and four quarters.
+    const bool topmost = angle == whole.Max() + 1.0;
+    const double floor = topmost ? whole.Max() : std::floor(angle);
+    whole.SetValue(NearestInt(floor));
+    quarters.SetValue(NearestInt(std::fabs(angle - floor) / kQuarter));
+}
 
 void FillMethodRows(ComboBox& list, std::int16_t language) {
     list.Clear();

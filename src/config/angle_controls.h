@@ -2,11 +2,20 @@
 
 #include <cstdint>
 
-#include "config/angle_sliders.h"
 #include "config/methods.h"
 #include "forms/combo_box.h"
+#include "forms/range.h"
 
 namespace horavex {
+
+// An angle stands on two controls: a scroll bar of whole degrees and a slider of quarters, whose
+// last step is a whole degree again.
+
+/// The angle that a pair shows, degrees.
+double AngleOnSliders(const ScrollBar& whole, const Slider& quarters);
+
+/// Puts an angle on a pair; what lies outside its range is clipped.
+void MoveSliders(double angle, ScrollBar& whole, Slider& quarters);
 
 // The list of conventions above the angle controls, alike in the settings window and the wizard.
 // Row 0 is "custom"; it only tells that no convention has the angles on the sliders.

@@ -1,4 +1,6 @@
-#include "calendar/hijri_today.h"
+#include "calendar/date_words.h"
+
+#include <gtest/gtest.h>
 
 #include "calendar/current_calendar.h"
 #include "calendar/hijri_calendar.h"
@@ -51,6 +53,21 @@ TEST_F(HijriTodayTest, MonthNameIsCutAtItsBuffer) {
     platform.files.WriteWhole("/program/lang/English.ini",
                               BytesOf("[other]\n2=" + std::string(300, 'x') + "\n"));
     EXPECT_EQ(HijriMonthName(2), std::string(254, 'x'));
+}
+
+TEST(MonthName, IsTheEnglishName) {
+    EXPECT_EQ(MonthName(1), "January");
+    EXPECT_EQ(MonthName(2), "February");
+    EXPECT_EQ(MonthName(6), "June");
+    EXPECT_EQ(MonthName(9), "September");
+    EXPECT_EQ(MonthName(11), "November");
+    EXPECT_EQ(MonthName(12), "December");
+}
+
+TEST(MonthName, ZeroIsJanuaryAndAnyOtherNumberDecember) {
+    EXPECT_EQ(MonthName(0), "January");
+    EXPECT_EQ(MonthName(13), "December");
+    EXPECT_EQ(MonthName(-1), "December");
 }
 
 }  // namespace
