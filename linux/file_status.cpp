@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 
-#include "linux/descriptor.h"
 #include "linux/system_call.h"
 
 namespace horavex {

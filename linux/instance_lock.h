@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "linux/descriptor.h"
+#include "linux/system_call.h"
 #include "platform/instance_guard.h"
 
 namespace horavex {

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include "linux/system_call.h"
-#include "linux/write_all.h"
 
 namespace horavex {
 

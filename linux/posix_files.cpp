@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "base/fault.h"
-#include "linux/descriptor.h"
 #include "linux/file_status.h"
 #include "linux/replace_file.h"
 #include "linux/replacement.h"

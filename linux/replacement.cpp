@@ -6,7 +6,6 @@
 
 #include "linux/file_status.h"
 #include "linux/system_call.h"
-#include "linux/write_all.h"
 
 namespace horavex {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "base/bytes.h"
-#include "linux/descriptor.h"
+#include "linux/system_call.h"
 
 namespace horavex {
 

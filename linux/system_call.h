@@ -1,12 +1,38 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <string>
 #include <system_error>
+#include <utility>
 
+#include "base/bytes.h"
 #include "base/fault.h"
 
 namespace horavex {
+
+/// Owns a file descriptor of the system; negative owns none.
+class Descriptor {
+public:
+    explicit Descriptor(int number = -1) : number_(number) {}
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~Descriptor() {
+        if (number_ >= 0) {
+            ::close(number_);
+        }
+    }
+
+    bool IsOpen() const { return number_ >= 0; }
+    int Number() const { return number_; }
+
+private:
+    int number_;
+};
 
 /// Turns an error number of the system into a FileFault that names the path.
 [[noreturn]] inline void ThrowFileFault(const std::string& path, int error = errno) {
@@ -21,5 +47,8 @@ inline const char* SystemPath(const std::string& path) {
     }
     return path.c_str();
 }
+
+/// Writes all bytes, however many calls it takes. Throws FileFault with the path.
+void WriteAll(const Descriptor& file, ByteView bytes, const std::string& path);
 
 }  // namespace horavex

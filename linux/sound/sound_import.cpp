@@ -11,7 +11,7 @@
 
 #include "base/fault.h"
 #include "base/text.h"
-#include "linux/descriptor.h"
+#include "linux/system_call.h"
 
 namespace horavex {
 

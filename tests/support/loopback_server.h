@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "linux/descriptor.h"
+#include "linux/system_call.h"
 
 namespace horavex {
 

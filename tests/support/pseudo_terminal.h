@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "linux/descriptor.h"
+#include "linux/system_call.h"
 #include "support/run_program.h"
 
 namespace horavex {

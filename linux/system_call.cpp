@@ -1,7 +1,3 @@
-#include "linux/write_all.h"
-
-#include <unistd.h>
-
 #include "linux/system_call.h"
 
 namespace horavex {
