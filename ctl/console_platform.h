@@ -7,6 +7,7 @@
 #include "linux/instance_lock.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
+#include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
 #include "platform/platform.h"
@@ -90,9 +91,10 @@ private:
     AbsentFace athanFace_;
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
-    Platform platform_{clock,     eventLoop_,    files,      folder_,     formats_, dialogs_,
-                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
-                       network_,  athanFace_,    audioFile_, audioPlayer_};
+    ZoneDatabase zoneRules_;
+    Platform platform_{clock,     eventLoop_,    files,      folder_,      formats_,  dialogs_,
+                       registry_, instanceLock_, face_,      windows_,     tray_,     shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_};
 };
 
 }  // namespace horavex

@@ -18,6 +18,7 @@
 #include "linux/sound/pulse_player.h"
 #include "linux/sound/sound_file.h"
 #include "linux/system_clock.h"
+#include "linux/zone_database.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -51,9 +52,10 @@ private:
     AzanFace athanFace_;
     SoundFile audioFile_;
     PulsePlayer audioPlayer_;
-    Platform platform_{clock_,    eventLoop_,    files_,     folder_,     formats_, dialogs_,
-                       registry_, instanceLock_, face_,      windows_,    tray_,    shell_,
-                       network_,  athanFace_,    audioFile_, audioPlayer_};
+    ZoneDatabase zoneRules_;
+    Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,  dialogs_,
+                       registry_, instanceLock_, face_,      windows_,     tray_,     shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_};
 };
 
 }  // namespace horavex

@@ -15,6 +15,7 @@
 #include "platform/shell.h"
 #include "platform/tray.h"
 #include "platform/windows.h"
+#include "platform/zone_rules.h"
 
 namespace horavex {
 
@@ -37,6 +38,7 @@ struct Platform {
     Face& athanFace;  // in the window of frmAzan
     AudioFile& audioFile;
     AudioPlayer& audioPlayer;
+    const ZoneRules& zoneRules;
 };
 
 /// Installs the ports; nullptr takes them away again.

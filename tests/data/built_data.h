@@ -6,6 +6,7 @@
 #include "base/program_state.h"
 #include "engine/day_driver.h"
 #include "linux/posix_files.h"
+#include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
 #include "platform/manual_clock.h"
@@ -60,9 +61,10 @@ private:
     AbsentFace athanFace_;
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
-    Platform platform_{clock_,    loop_,          files,      folder,      formats_, dialogs,
-                       registry_, instanceGuard_, face_,      windows_,    tray_,    shell_,
-                       network_,  athanFace_,     audioFile_, audioPlayer_};
+    ZoneDatabase zoneRules_;
+    Platform platform_{clock_,    loop_,          files,      folder,       formats_,  dialogs,
+                       registry_, instanceGuard_, face_,      windows_,     tray_,     shell_,
+                       network_,  athanFace_,     audioFile_, audioPlayer_, zoneRules_};
 };
 
 }  // namespace horavex

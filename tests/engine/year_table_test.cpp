@@ -226,10 +226,11 @@ struct FlagDialogs : RecordingDialogs {
 TEST_F(YearTableTest, MessageComesBeforeTheFlag) {
     FlagDialogs dialogs;
     const Platform& ports = Ports();
-    const Platform watched{ports.clock,   ports.eventLoop, ports.files,     ports.programFolder,
-                           ports.formats, dialogs,         ports.registry,  ports.instanceGuard,
-                           ports.face,    ports.windows,   ports.tray,      ports.shell,
-                           ports.network, ports.athanFace, ports.audioFile, ports.audioPlayer};
+    const Platform watched{ports.clock,    ports.eventLoop, ports.files,     ports.programFolder,
+                           ports.formats,  dialogs,         ports.registry,  ports.instanceGuard,
+                           ports.face,     ports.windows,   ports.tray,      ports.shell,
+                           ports.network,  ports.athanFace, ports.audioFile, ports.audioPlayer,
+                           ports.zoneRules};
     InstallPlatform(&watched);
     London(18.0, 17.0);
     Calculate(2001);

@@ -200,7 +200,8 @@ struct OrderTest : ProgramTest {
                          platform.network,
                          platform.athanFace,
                          platform.audioFile,
-                         platform.audioPlayer};
+                         platform.audioPlayer,
+                         platform.zoneRules};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };

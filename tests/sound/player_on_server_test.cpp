@@ -71,7 +71,8 @@ struct PlayerOnAServer : testing::Test {
                          former.network,
                          former.athanFace,
                          file,
-                         player};
+                         player,
+                         former.zoneRules};
 };
 
 TEST_F(PlayerOnAServer, WholeFileIsHeardAsItIs) {

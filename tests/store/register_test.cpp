@@ -221,7 +221,8 @@ TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
                          platform.network,
                          platform.athanFace,
                          platform.audioFile,
-                         platform.audioPlayer};
+                         platform.audioPlayer,
+                         platform.zoneRules};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

@@ -2,6 +2,7 @@
 
 #include "platform/failing_files.h"
 #include "platform/fixed_formats.h"
+#include "platform/fixed_zone_rules.h"
 #include "platform/manual_clock.h"
 #include "platform/memory_audio.h"
 #include "platform/memory_files.h"
@@ -42,11 +43,12 @@ public:
     RecordingFace athanFace{desktop, "athan "};
     MemoryAudioFile audioFile{desktop};
     MemoryAudioPlayer audioPlayer;
+    FixedZoneRules zoneRules;
 
 private:
-    Platform platform_{clock,    loop,          failingFiles, folder,     formats, dialogs,
-                       registry, instanceGuard, face,         windows,    tray,    shell,
-                       network,  athanFace,     audioFile,    audioPlayer};
+    Platform platform_{clock,    loop,          failingFiles, folder,      formats,  dialogs,
+                       registry, instanceGuard, face,         windows,     tray,     shell,
+                       network,  athanFace,     audioFile,    audioPlayer, zoneRules};
 };
 
 }  // namespace horavex
