@@ -13,7 +13,7 @@ struct ComputerZoneTest : ProgramTest {
         platform.clock.SetOffset(DateSerial(2026, month, day), offset);
     }
 
-    ComputerZone Found() { return FindComputerZone(platform.clock.Today()); }
+    ZoneYear Found() { return FindComputerZone(platform.clock.Today()); }
 
     /// The rules of central Europe: from the last Sunday of March to the last of October.
     void LiveInEurope() {
@@ -27,52 +27,59 @@ struct ComputerZoneTest : ProgramTest {
 
 TEST_F(ComputerZoneTest, ZoneWithoutDaylightSaving) {
     platform.clock.SetOffset(0.0, {5.75, false});
-    EXPECT_EQ(Found(), (ComputerZone{.hours = 5.75}));
+    EXPECT_EQ(Found(), (ZoneYear{.hours = 5.75}));
 }
 
 TEST_F(ComputerZoneTest, NorthernSummer) {
     LiveInEurope();
-    EXPECT_EQ(Found(), (ComputerZone{1.0, true, 88, 297}));
+    EXPECT_EQ(Found(), (ZoneYear{1.0, true, 88, 297}));
 }
 
 TEST_F(ComputerZoneTest, SouthernSummerGoesOverTheTurnOfTheYear) {
     platform.clock.SetOffset(0.0, {11.0, true});
     SetOffset(4, 5, {10.0, false});
     SetOffset(10, 4, {11.0, true});
-    EXPECT_EQ(Found(), (ComputerZone{10.0, true, 277, 94}));
+    EXPECT_EQ(Found(), (ZoneYear{10.0, true, 277, 94}));
 }
 
 TEST_F(ComputerZoneTest, WinterThatCountsAsTheExceptionIsTheZoneAllTheSame) {
     platform.clock.SetOffset(0.0, {0.0, true});
     SetOffset(3, 29, {1.0, false});
     SetOffset(10, 25, {0.0, true});
-    EXPECT_EQ(Found(), (ComputerZone{0.0, true, 88, 297}));
+    EXPECT_EQ(Found(), (ZoneYear{0.0, true, 88, 297}));
 }
 
 TEST_F(ComputerZoneTest, ZoneThatMovesForGoodGivesTheOffsetOfToday) {
     platform.clock.SetOffset(0.0, {6.0, false});
     SetOffset(3, 1, {5.0, false});
-    EXPECT_EQ(Found(), (ComputerZone{.hours = 5.0}));
+    EXPECT_EQ(Found(), (ZoneYear{.hours = 5.0}));
 }
 
 TEST_F(ComputerZoneTest, ShiftOfHalfAnHourGivesTheOffsetOfToday) {
     platform.clock.SetOffset(0.0, {11.0, true});
     SetOffset(4, 5, {10.5, false});
     SetOffset(10, 4, {11.0, true});
-    EXPECT_EQ(Found(), (ComputerZone{.hours = 11.0}));
+    EXPECT_EQ(Found(), (ZoneYear{.hours = 11.0}));
+}
+
+TEST_F(ComputerZoneTest, ZoneBeyondTwelveHoursEastReadsTheSameOnTheClock) {
+    platform.clock.SetOffset(0.0, {14.0, false});
+    EXPECT_EQ(Found(), (ZoneYear{.hours = -10.0}));
+    form.cmdComputerZone.UserClick();
+    EXPECT_EQ(form.txtTimeZone.Text(), "-10.00");
 }
 
 TEST_F(ComputerZoneTest, YearOfTodayCounts) {
     LiveInEurope();
     SetClock(2025, 7, 1, 12, 0, 0);
-    EXPECT_EQ(Found(), (ComputerZone{.hours = 1.0}));
+    EXPECT_EQ(Found(), (ZoneYear{.hours = 1.0}));
 }
 
 TEST_F(ComputerZoneTest, LastDayOfALeapYear) {
     SetClock(2028, 1, 1, 12, 0, 0);
     platform.clock.SetOffset(0.0, {2.0, false});
     platform.clock.SetOffset(DateSerial(2028, 12, 31), {3.0, true});
-    EXPECT_EQ(Found(), (ComputerZone{2.0, true, 366, 366}));
+    EXPECT_EQ(Found(), (ZoneYear{2.0, true, 366, 366}));
 }
 
 TEST_F(ComputerZoneTest, ButtonFillsTheBoxAndTheDaylightDaysAndNothingElse) {
