@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/code_page.h"
+#include "base/utf8.h"
 
 namespace horavex {
 namespace {
@@ -34,8 +35,43 @@ TEST(FoldForSearch, LeavesSignsAlone) {
     EXPECT_EQ(FoldForSearch("a×b÷c €5 – 10°"), "a×b÷c €5 – 10°");
 }
 
+TEST(FoldForSearch, LatinLettersOfAllLanguagesLoseTheirAccents) {
+    EXPECT_EQ(FoldForSearch("Şişli Łódź Iğdır Ķelne Reykjavík"),
+              "sisli lodz igdir kelne reykjavik");
+    EXPECT_EQ(FoldForSearch("Əhmədbəyli Thành phố Ħal Ŋ ĳ"), "ehmedbeyli thanh pho hal ng ij");
+    EXPECT_EQ(FoldForSearch("Bucureșți Ǎ ƛ"), "bucuresti a ƛ");
+}
+
+TEST(FoldForSearch, CyrillicGreekAndArmenianCapitalsAreSmall) {
+    EXPECT_EQ(FoldForSearch("МОСКВА Київ Орёл Ўзбек"), "москва киів орел узбек");
+    EXPECT_EQ(FoldForSearch("ΑΘΉΝΑ Κάιρος Ϊ"), "αθηνα καιροσ ι");
+    EXPECT_EQ(FoldForSearch("ԵՐԵՎԱՆ"), "երեվան");
+    EXPECT_EQ(FoldForSearch("ҚҰӘ"), "құә");
+}
+
+TEST(FoldForSearch, ArabicLettersThatAreWrittenForEachOtherAreOne) {
+    EXPECT_EQ(FoldForSearch("القاهرة"), FoldForSearch("القاهره"));
+    EXPECT_EQ(FoldForSearch("أبو ظبي"), FoldForSearch("ابو ظبى"));
+    EXPECT_EQ(FoldForSearch("مکہ"), FoldForSearch("مكه"));
+    EXPECT_EQ(FoldForSearch("آلْقَاهِـرَة"), FoldForSearch("القاهرة"));
+}
+
+TEST(FoldForSearch, PointsAndInvisibleCharactersGo) {
+    EXPECT_EQ(FoldForSearch("יְרוּשָׁלַיִם"), "ירושלים");
+    EXPECT_EQ(FoldForSearch("e\u0301 ki\u200Cif"), "e kiif");
+}
+
 TEST(FoldForSearch, LeavesLettersOfOtherAlphabets) {
-    EXPECT_EQ(FoldForSearch("مكة Şişli Ω"), "مكة Şişli Ω");
+    EXPECT_EQ(FoldForSearch("東京 मुंबई กรุงเทพ 서울 バ"), "東京 मुंबई กรุงเทพ 서울 バ");
+}
+
+TEST(FoldForSearch, FoldedLetterFoldsToItself) {
+    for (char32_t letter = 0x80; letter < 0x2100; ++letter) {
+        std::string text;
+        AppendUtf8(text, letter);
+        const std::string folded = FoldForSearch(text);
+        EXPECT_EQ(FoldForSearch(folded), folded) << std::hex << static_cast<unsigned>(letter);
+    }
 }
 
 TEST(FoldForSearch, FoldedTextFoldsToItself) {

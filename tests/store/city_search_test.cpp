@@ -155,11 +155,11 @@ TEST_F(SearchCitiesTest, NameAtAWordsEndComesBeforeALongerWord) {
 }
 
 TEST_F(SearchCitiesTest, LetterBeyondAsciiIsPartOfAWord) {
-    Add("Sanşa", 1);
-    Add("şan", 2);
+    Add("SanЖa", 1);
+    Add("Жan", 2);
     Add("San Juan", 3);
-    EXPECT_THAT(Search("san"), ElementsAre("San Juan", "Sanşa"));
-    EXPECT_THAT(Search("an"), ElementsAre("Sanşa", "şan", "San Juan"));  // no word begins so
+    EXPECT_THAT(Search("san"), ElementsAre("San Juan", "SanЖa"));
+    EXPECT_THAT(Search("an"), ElementsAre("SanЖa", "Жan", "San Juan"));  // no word begins so
 }
 
 TEST_F(SearchCitiesTest, WordsBeginningIsFoundBehindAPlainPart) {
