@@ -20,18 +20,20 @@ struct CityFilter {
     std::size_t limit = 0;  // 0 is no limit
 };
 
-using Selection = std::vector<const ListedCity*>;
+using Selection = std::vector<CityHit>;
 
 Selection AllOf(const std::vector<ListedCity>& cities) {
     Selection all;
     std::transform(cities.begin(), cities.end(), std::back_inserter(all),
-                   [](const ListedCity& city) { return &city; });
+                   [](const ListedCity& city) {
+                       return CityHit{&city, {}};
+                   });
     return all;
 }
 
 template <typename Predicate>
 void Keep(Selection& selection, Predicate wanted) {
-    std::erase_if(selection, [&](const ListedCity* city) { return !wanted(*city); });
+    std::erase_if(selection, [&](const CityHit& hit) { return !wanted(*hit.city); });
 }
 
 Selection Select(const std::vector<ListedCity>& cities, const CityFilter& filter) {
@@ -51,27 +53,33 @@ Selection Select(const std::vector<ListedCity>& cities, const CityFilter& filter
     return selection;
 }
 
-Json CityJson(const ListedCity& city) {
-    return {{"index", city.cityIndex},
-            {"name", city.name},
-            {"province", city.province},
-            {"country", city.country},
-            {"latitude", StoredCoord(city.latitude)},
-            {"longitude", StoredCoord(city.longitude)}};
+Json CityJson(const CityHit& hit) {
+    const ListedCity& city = *hit.city;
+    Json json = {{"index", city.cityIndex},
+                 {"name", city.name},
+                 {"province", city.province},
+                 {"country", city.country},
+                 {"latitude", StoredCoord(city.latitude)},
+                 {"longitude", StoredCoord(city.longitude)}};
+    if (!hit.otherName.empty()) {
+        json["otherName"] = hit.otherName;
+    }
+    return json;
 }
 
-std::string CityLine(const ListedCity& city) {
-    return std::to_string(city.cityIndex) + "\t" + city.name +
-           (city.province.empty() ? "" : ", " + city.province) + " - " + city.country + "\n";
+std::string CityLine(const CityHit& hit) {
+    const std::string otherName =
+        hit.otherName.empty() ? "" : " (" + std::string(hit.otherName) + ")";
+    return std::to_string(hit.city->cityIndex) + "\t" + DisplayText(*hit.city) + otherName + "\n";
 }
 
 void PrintCities(const Session& session, const CityFilter& filter) {
     const auto cities = ListCities();
     Json array = Json::array();
     std::string text;
-    for (const ListedCity* city : Select(cities, filter)) {
-        array.push_back(CityJson(*city));
-        text += CityLine(*city);
+    for (const CityHit& hit : Select(cities, filter)) {
+        array.push_back(CityJson(hit));
+        text += CityLine(hit);
     }
     session.Print(array, text);
 }
@@ -81,7 +89,9 @@ void PrintCities(const Session& session, const CityFilter& filter) {
 void AddCitiesCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "cities", "The cities of the database");
     auto filter = std::make_shared<CityFilter>();
-    command->add_option("--search", filter->search, "A part of the name; best matches first");
+    command->add_option("--search", filter->search,
+                        "A part of the name, or the beginning of another name in any script; "
+                        "best matches first");
     command->add_option("--country", filter->country, "A part of the country's name");
     command->add_option("--index", filter->index, "The city's number");
     command->add_option("--limit", filter->limit, "The most that are listed")

@@ -27,7 +27,7 @@ std::int16_t FindCity(const std::string& text) {
     if (found.empty()) {
         RefuseUsage("no city matches \"" + text + "\"");
     }
-    return found.front()->cityIndex;
+    return found.front().city->cityIndex;
 }
 
 std::int16_t CheckedCityIndex(int index) {

@@ -201,8 +201,8 @@ void ShowHits() {
     hits.clear();
     const auto found = SearchCities(cities, form.txtSearch.Text());
     for (std::size_t hit = 0; hit < std::min(found.size(), kHitsShown); ++hit) {
-        form.lstFound.AddItem(DisplayText(*found[hit]));
-        hits.push_back(found[hit]->cityIndex);
+        form.lstFound.AddItem(DisplayText(*found[hit].city));
+        hits.push_back(found[hit].city->cityIndex);
     }
     form.lstFound.SetVisible(!Trim(form.txtSearch.Text()).empty());
 }

@@ -1,7 +1,7 @@
 #include "store/city_search.h"
 
 #include <algorithm>
-#include <tuple>
+#include <optional>
 
 #include "base/bytes.h"
 #include "base/fault.h"
@@ -9,6 +9,7 @@
 #include "base/int16.h"
 #include "base/text.h"
 #include "platform/platform.h"
+#include "store/city_names.h"
 #include "store/location_files.h"
 
 namespace horavex {
@@ -16,10 +17,25 @@ namespace horavex {
 namespace {
 
 /// How well a city matches; the smaller the better.
-enum Match { kWholeName, kNameThenWord, kNameBeginning, kWordBeginning, kAnyPart, kNone };
+enum Match : std::uint8_t {
+    kWholeName,
+    kNameThenWord,
+    kNameBeginning,
+    kOtherBeginning,
+    kWordBeginning,
+    kAnyPart,
+    kNone
+};
 
 bool IsWordCharacter(char c) {
     return (c >= 'a' && c <= 'z') || IsDigit(c) || static_cast<unsigned char>(c) >= 0x80;
+}
+
+std::string FoldName(const std::string& name) {
+    std::string folded = FoldForSearch(name);
+    std::erase(folded, '\'');
+    std::replace(folded.begin(), folded.end(), '-', ' ');
+    return folded;
 }
 
 bool BeginsAWord(const std::string& folded, const std::string& text) {
@@ -51,9 +67,82 @@ Match MatchOf(const std::string& folded, const std::string& text) {
     return BeginsAWord(folded, text) ? kWordBeginning : kAnyPart;
 }
 
+/// A match with one of the other names; at: where it begins in the folded ones.
+struct OtherMatch {
+    Match match = kNone;
+    std::size_t at = 0;
+};
+
+/// name: a comma and the folded beginning of a name, or nothing.
+OtherMatch MatchOtherNames(const std::string& foldedNames, const std::string& name) {
+    OtherMatch best;
+    std::size_t at = name.empty() ? std::string::npos : foldedNames.find(name);
+    for (; at != std::string::npos; at = foldedNames.find(name, at + 1)) {
+        if (foldedNames[at + name.size()] == ',') {
+            return {kWholeName, at};
+        }
+        best = best.match == kNone ? OtherMatch{kOtherBeginning, at} : best;
+    }
+    return best;
+}
+
+/// The name that stands at a place of the folded ones.
+std::string_view OtherNameAt(const ListedCity& city, std::size_t at) {
+    const auto begin = city.foldedNames.begin();
+    auto before = std::count(begin, begin + static_cast<std::ptrdiff_t>(at), ',');
+    std::string_view names = city.otherNames;
+    for (; before > 0; --before) {
+        names.remove_prefix(names.find(',') + 1);
+    }
+    return names.substr(0, names.find(','));
+}
+
+/// What a search looks for.
+struct Wanted {
+    std::string own;    // in own names
+    std::string other;  // in other ones, a comma before it; empty where these do not count
+};
+
+Wanted WantedOf(const std::string& text) {
+    const std::string trimmed(Trim(text));
+    const std::string name = FoldName(trimmed);
+    const bool isName = name.size() > 1 && name.find(',') == std::string::npos;
+    return {FoldForSearch(trimmed), isName ? "," + name : std::string()};
+}
+
 /// Cities without a rank come last.
 std::uint16_t OrderOf(std::uint16_t rank) {
     return static_cast<std::uint16_t>(rank - 1);
+}
+
+/// A hit before it is in its place; small, for a single letter hits nearly every city.
+struct RankedHit {
+    std::uint64_t order;  // the best first: match, rank by population, position in the list
+    std::uint32_t city;   // position in the list
+    std::uint32_t other;  // where the matching name begins in the folded other ones, or kOwnName
+};
+
+constexpr std::uint32_t kOwnName = 0xFFFFFFFF;
+
+RankedHit Ranked(Match match, const ListedCity& city, std::size_t position, std::size_t other) {
+    const std::uint64_t rank = OrderOf(city.rank);
+    return {std::uint64_t{match} << 48U | rank << 32U | position,
+            static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(other)};
+}
+
+std::optional<RankedHit> HitOf(const ListedCity& city, std::size_t position, const Wanted& wanted) {
+    const Match own = MatchOf(city.folded, wanted.own);
+    const OtherMatch other =
+        own == kWholeName ? OtherMatch() : MatchOtherNames(city.foldedNames, wanted.other);
+    if (other.match < own) {
+        return Ranked(other.match, city, position, other.at);
+    }
+    return own == kNone ? std::nullopt : std::optional(Ranked(own, city, position, kOwnName));
+}
+
+CityHit CityOf(const std::vector<ListedCity>& cities, const RankedHit& hit) {
+    const ListedCity& city = cities[hit.city];
+    return {&city, hit.other == kOwnName ? std::string_view() : OtherNameAt(city, hit.other)};
 }
 
 /// The ranks file is an aid of searching alone: without it, equal matches keep their order.
@@ -71,22 +160,36 @@ std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
     return offset + 2 <= ranks.size() ? static_cast<std::uint16_t>(GetInt16(ranks, offset)) : 0;
 }
 
-ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const Bytes& ranks) {
+/// The same; a damaged index can name a city behind the last one.
+std::string OtherNamesOf(const std::vector<std::string>& names, std::int16_t cityIndex) {
+    const auto at = static_cast<std::size_t>(cityIndex - kFirstCityIndex);
+    return at < names.size() ? names[at] : std::string();
+}
+
+/// What is read beside the location files.
+struct SearchAids {
+    Bytes ranks;
+    std::vector<std::string> otherNames;  // by city
+};
+
+ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const SearchAids& aids) {
     CityRecord city;
     ReadCity(cityIndex, city);
-    ListedCity listed{cityIndex,
-                      city.Name,
-                      city.Province,
-                      country,
-                      city.Latitude,
-                      city.Longitude,
-                      RankOf(ranks, cityIndex),
-                      {}};
+    ListedCity listed;
+    listed.cityIndex = cityIndex;
+    listed.name = city.Name;
+    listed.province = city.Province;
+    listed.country = country;
+    listed.latitude = city.Latitude;
+    listed.longitude = city.Longitude;
+    listed.rank = RankOf(aids.ranks, cityIndex);
     listed.folded = FoldForSearch(DisplayText(listed));
+    listed.otherNames = OtherNamesOf(aids.otherNames, cityIndex);
+    listed.foldedNames = FoldOtherNames(listed.otherNames);
     return listed;
 }
 
-void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks) {
+void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const SearchAids& aids) {
     CountryRecord country;
     ReadCountry(number, country);
     // A damaged index could otherwise list its cities over and over.
@@ -94,7 +197,7 @@ void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Byt
         throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
     }
     for (std::int32_t i = 0; i < country.CityCount; ++i) {
-        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name, ranks));
+        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name, aids));
     }
 }
 
@@ -105,34 +208,37 @@ std::string DisplayText(const ListedCity& city) {
     return city.name + province + " - " + city.country;
 }
 
+std::string FoldOtherNames(const std::string& otherNames) {
+    return otherNames.empty() ? std::string() : "," + FoldName(otherNames) + ",";
+}
+
 std::vector<ListedCity> ListCities() {
-    const Bytes ranks = ReadRanks();
     std::vector<ListedCity> cities;
     OpenLocationFiles();
+    const SearchAids aids{ReadRanks(), ReadOtherNames(CityCount())};
     const std::int64_t count = CountryCount();
     for (std::int64_t number = 1; number <= count; ++number) {
-        ListCountry(cities, ToInt16(number), ranks);
+        ListCountry(cities, ToInt16(number), aids);
     }
     CloseLocationFiles();
     return cities;
 }
 
-std::vector<const ListedCity*> SearchCities(const std::vector<ListedCity>& cities,
-                                            const std::string& text) {
-    const std::string folded = FoldForSearch(Trim(text));
-    using Hit = std::tuple<Match, std::uint16_t, const ListedCity*>;
-    std::vector<Hit> hits;
-    for (const ListedCity& city : cities) {
-        const Match match = folded.empty() ? kNone : MatchOf(city.folded, folded);
-        if (match != kNone) {
-            hits.emplace_back(match, OrderOf(city.rank), &city);
+std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text) {
+    const Wanted wanted = WantedOf(text);
+    std::vector<RankedHit> ranked;
+    for (std::size_t i = 0; i < cities.size() && !wanted.own.empty(); ++i) {
+        if (const auto hit = HitOf(cities[i], i, wanted)) {
+            ranked.push_back(*hit);
         }
     }
-    std::sort(hits.begin(), hits.end());
-    std::vector<const ListedCity*> found;
-    std::transform(hits.begin(), hits.end(), std::back_inserter(found),
-                   [](const Hit& hit) { return std::get<2>(hit); });
-    return found;
+    std::ranges::sort(ranked, {}, &RankedHit::order);
+    std::vector<CityHit> hits;
+    hits.reserve(ranked.size());
+    for (const RankedHit& hit : ranked) {
+        hits.push_back(CityOf(cities, hit));
+    }
+    return hits;
 }
 
 }  // namespace horavex

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace horavex {
@@ -12,24 +13,37 @@ struct ListedCity {
     std::string name;
     std::string province;  // empty when none
     std::string country;
-    std::int16_t latitude;   // degrees x 100, north positive
-    std::int16_t longitude;  // degrees x 100, east positive
-    std::uint16_t rank;      // by population, 1 for the largest; 0 where "Dat/RI.DAT" has none
-    std::string folded;      // "name, province - country" for comparing
+    std::int16_t latitude;    // degrees x 100, north positive
+    std::int16_t longitude;   // degrees x 100, east positive
+    std::uint16_t rank;       // by population, 1 for the largest; 0 where "Dat/RI.DAT" has none
+    std::string folded;       // "name, province - country" for comparing
+    std::string otherNames;   // joined by commas, best known first
+    std::string foldedNames;  // the same for comparing, with a comma at both ends; empty for none
 };
 
 /// "name, province - country", as a list of cities of all countries shows it.
 std::string DisplayText(const ListedCity& city);
 
-/// All cities in the order of CityIndex. Throws as the readers of the location files do, and
-/// BoundsFault for countries that hold more cities than there are.
+/// The other names of a city as a list of cities holds them for comparing: apostrophes do not
+/// count, and a hyphen is a blank.
+std::string FoldOtherNames(const std::string& otherNames);
+
+/// All cities in the order of CityIndex. Throws as the readers of the location files and of the
+/// other names do, and BoundsFault for countries that hold more cities than there are.
 std::vector<ListedCity> ListCities();
 
-/// The cities that match a typed text, best first: the whole name, then its beginning at a word's
-/// end, its beginning, a word's beginning anywhere in name, province or country, and any part.
-/// Letter case and accents do not matter; equal matches come by population, those without a rank
-/// last. An empty text matches nothing. The pointers live as long as the list.
-std::vector<const ListedCity*> SearchCities(const std::vector<ListedCity>& cities,
-                                            const std::string& text);
+/// A city that a search found. Both pointers live as long as the list.
+struct CityHit {
+    const ListedCity* city;
+    std::string_view otherName;  // the one of its other names that matches; empty for its own name
+};
+
+/// The cities that match a typed text, best first: the whole name, own or other; then the own
+/// name's beginning at a word's end, its beginning, another name's beginning, a word's beginning
+/// anywhere in name, province or country, and any part of these. Letter case and accents do not
+/// matter; equal matches come by population, those without a rank last. Of two other names that
+/// match alike the better known one counts; a single Latin letter begins too many of them to look
+/// there. An empty text matches nothing.
+std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text);
 
 }  // namespace horavex

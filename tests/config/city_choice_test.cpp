@@ -23,7 +23,7 @@ struct CityChoiceTest : ProgramTest {
 
     static std::int16_t IndexOf(const std::string& text) {
         const auto cities = ListCities();
-        return SearchCities(cities, text).at(0)->cityIndex;
+        return SearchCities(cities, text).at(0).city->cityIndex;
     }
 
     SettingsForm& form = *HoravexMainForm;

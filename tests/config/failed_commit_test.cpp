@@ -33,7 +33,7 @@ struct FailedCommitTest : ProgramTest {
 
     static std::int16_t IndexOf(const std::string& text) {
         const auto cities = ListCities();
-        return SearchCities(cities, text).at(0)->cityIndex;
+        return SearchCities(cities, text).at(0).city->cityIndex;
     }
 
     /// A place whose summer has no night.

@@ -503,7 +503,7 @@ TEST_F(SettingsWindowTest, ComesUpWithTheWorkingRecordInEveryControl) {
 
 TEST_F(SettingsWindowTest, ComesUpWithTheWorkingPlaceAndKeepsBothAngles) {
     const auto cities = ListCities();
-    Settings.CityIndex = SearchCities(cities, "Tromsø").at(0)->cityIndex;
+    Settings.CityIndex = SearchCities(cities, "Tromsø").at(0).city->cityIndex;
     CityText = LookupLocation(Settings.CityIndex, Location);
     frmMain->mnumSettings.UserClick();
     EXPECT_EQ(form.lblCity.Caption(), CityText);
@@ -525,7 +525,7 @@ TEST_F(SettingsWindowTest, EntryOfTheMenuLeavesAnOpenWindowAsItIs) {
 TEST_F(SettingsWindowTest, StoredCityComesWithItsPlace) {
     const auto cities = ListCities();
     SettingsRecord refused = ActiveSettings;
-    refused.CityIndex = SearchCities(cities, "Tromsø").at(0)->cityIndex;
+    refused.CityIndex = SearchCities(cities, "Tromsø").at(0).city->cityIndex;
     Settings = refused;
     SaveWorkingSettings();
     form.UserClose();
@@ -541,7 +541,7 @@ TEST_F(SettingsWindowTest, StoredCityComesWithItsPlace) {
 
 TEST_F(SettingsWindowTest, StoredCityComesWithItsZone) {
     SettingsRecord refused = ActiveSettings;
-    refused.CityIndex = SearchCities(ListCities(), "Tromsø").at(0)->cityIndex;
+    refused.CityIndex = SearchCities(ListCities(), "Tromsø").at(0).city->cityIndex;
     refused.TimeZone = 1.0;
     Settings = refused;
     SaveWorkingSettings();

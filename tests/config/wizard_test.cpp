@@ -41,7 +41,7 @@ struct WizardTest : ProgramTest {
 
     static std::int16_t IndexOf(const std::string& text) {
         const auto cities = ListCities();
-        return SearchCities(cities, text).at(0)->cityIndex;
+        return SearchCities(cities, text).at(0).city->cityIndex;
     }
 
     void GoTo(int page) {

@@ -35,6 +35,15 @@ TEST(CtlCities, SearchPassesOverCaseAndAccents) {
     EXPECT_EQ(city["country"], "Brazil");
 }
 
+TEST(CtlCities, HitByAnotherNameSaysWhich) {
+    const Json city = JsonOf(Ctl(), "cities --limit 1 --search", {"القاهرة"})[0];
+    EXPECT_EQ(city["name"], "Cairo");
+    EXPECT_EQ(city["otherName"], "القاهرة");
+    EXPECT_FALSE(JsonOf(Ctl(), "cities --limit 1 --search cairo")[0].contains("otherName"));
+    EXPECT_THAT(Ctl().Run("cities --limit 1 --search Kiev").out,
+                testing::EndsWith("\tKyiv, Kyiv City - Ukraine (Kiev)\n"));
+}
+
 TEST(CtlCities, LimitCutsTheList) {
     const Json ten = JsonOf(Ctl(), "cities --search san --limit 10");
     const Json three = JsonOf(Ctl(), "cities --search san --limit 3");

@@ -10,7 +10,7 @@ namespace {
 
 struct BuiltCityZones : BuiltData {
     std::string ZoneOf(const std::string& search) {
-        return zones.Of(SearchCities(cities, search).at(0)->cityIndex);
+        return zones.Of(SearchCities(cities, search).at(0).city->cityIndex);
     }
 
     std::vector<ListedCity> cities = ListCities();
@@ -41,7 +41,7 @@ TEST_F(BuiltCityZones, KnownCitiesLieInTheirs) {
 
 TEST_F(BuiltCityZones, OtherNamesStandBesideTheirCities) {
     const auto names = ReadOtherNames(std::ssize(cities));
-    const auto cairo = SearchCities(cities, "Cairo").at(0)->cityIndex - kFirstCityIndex;
+    const auto cairo = SearchCities(cities, "Cairo").at(0).city->cityIndex - kFirstCityIndex;
     EXPECT_TRUE(names.at(static_cast<std::size_t>(cairo)).starts_with("القاهرة,"));
 }
 

@@ -187,9 +187,27 @@ TEST_F(LocationFiles, LargestCityOfAKnownNameLiesWhereItShould) {
     for (const KnownCity& known : kKnownCities) {
         const auto found = SearchCities(cities, known.search);
         ASSERT_FALSE(found.empty()) << known.search;
-        EXPECT_EQ(found[0]->country, known.country) << known.search;
-        EXPECT_NEAR(found[0]->latitude / 100.0, known.latitude, 0.25) << known.search;
-        EXPECT_NEAR(found[0]->longitude / 100.0, known.longitude, 0.25) << known.search;
+        EXPECT_EQ(found[0].city->country, known.country) << known.search;
+        EXPECT_NEAR(found[0].city->latitude / 100.0, known.latitude, 0.25) << known.search;
+        EXPECT_NEAR(found[0].city->longitude / 100.0, known.longitude, 0.25) << known.search;
+    }
+}
+
+struct KnownName {
+    const char* search;
+    const char* city;
+};
+
+TEST_F(LocationFiles, LargestCityOfAKnownOtherNameComesFirst) {
+    const auto cities = ListCities();
+    for (const KnownName& known :
+         {KnownName{"القاهرة", "Cairo"}, KnownName{"مكة", "Mecca"}, KnownName{"Москва", "Moscow"},
+          KnownName{"東京", "Tokyo"}, KnownName{"München", "Munich"}, KnownName{"Cologne", "Köln"},
+          KnownName{"Köln", "Köln"}, KnownName{"Kyiv", "Kyiv"}, KnownName{"Kiev", "Kyiv"},
+          KnownName{"Київ", "Kyiv"}, KnownName{"Peking", "Beijing"}, KnownName{"서울", "Seoul"}}) {
+        const auto found = SearchCities(cities, known.search);
+        ASSERT_FALSE(found.empty()) << known.search;
+        EXPECT_EQ(found[0].city->name, known.city) << known.search;
     }
 }
 

@@ -25,7 +25,7 @@ struct CityPickerTest : ProgramTest {
     /// The first hit of a search; the test cannot go on without one.
     static std::int16_t IndexOf(const std::string& text) {
         const auto cities = ListCities();
-        return SearchCities(cities, text).at(0)->cityIndex;
+        return SearchCities(cities, text).at(0).city->cityIndex;
     }
 
     static CountryRecord CountryOfRow(int row) {

@@ -90,7 +90,7 @@ TEST_F(DamagedStart, CityOfTheStoredRecordIsTheOneOnView) {
     platform.files.WriteWhole(
         kWorking, RecordOf([&] {
             SettingsRecord london = sound;
-            london.CityIndex = SearchCities(ListCities(), "London, England").at(0)->cityIndex;
+            london.CityIndex = SearchCities(ListCities(), "London, England").at(0).city->cityIndex;
             london.TimeZone = 0.0;
             return london;
         }()));

@@ -98,6 +98,23 @@ TEST_F(ListCitiesTest, MissingFilesAreFileFaults) {
     EXPECT_THROW(ListCities(), FileFault);
 }
 
+TEST_F(ListCitiesTest, CityHasItsOtherNamesAndTheirFoldedForm) {
+    const ListedCity city = ListCities().at(2);
+    EXPECT_EQ(city.otherNames, "القاهرة,Kairo");
+    EXPECT_EQ(city.foldedNames, "," + FoldForSearch("القاهرة") + ",kairo,");
+    EXPECT_EQ(ListCities().at(0).foldedNames, "");
+}
+
+TEST_F(ListCitiesTest, WithoutTheFileOfOtherNamesThereAreNone) {
+    data.Remove("Dat/N.DAT");
+    EXPECT_EQ(ListCities().at(2).otherNames, "");
+}
+
+TEST_F(ListCitiesTest, OtherNamesOfOtherCitiesAreAFault) {
+    data.WriteOtherNames("x");
+    EXPECT_THROW(ListCities(), BoundsFault);
+}
+
 TEST_F(ListCitiesTest, FilesAreClosedAgain) {
     ListCities();
     EXPECT_THROW(CityCount(), FileFault);
@@ -110,14 +127,25 @@ protected:
     void Add(const std::string& name, std::uint16_t rank, const std::string& country = "Nowhere",
              const std::string& province = "") {
         const std::string display = province.empty() ? name : name + ", " + province;
-        cities.push_back(
-            {0, name, province, country, 0, 0, rank, FoldForSearch(display + " - " + country)});
+        cities.push_back({0, name, province, country, 0, 0, rank,
+                          FoldForSearch(display + " - " + country), "", ""});
+    }
+
+    void AddWithNames(const std::string& name, std::uint16_t rank, const std::string& otherNames) {
+        Add(name, rank);
+        cities.back().otherNames = otherNames;
+        cities.back().foldedNames = FoldOtherNames(otherNames);
+    }
+
+    /// The other name by which the first hit was found.
+    std::string MatchedName(const std::string& text) const {
+        return std::string(SearchCities(cities, text).at(0).otherName);
     }
 
     std::vector<std::string> Search(const std::string& text) const {
         std::vector<std::string> names;
-        for (const ListedCity* city : SearchCities(cities, text)) {
-            names.push_back(city->name);
+        for (const CityHit& hit : SearchCities(cities, text)) {
+            names.push_back(hit.city->name);
         }
         return names;
     }
@@ -143,7 +171,7 @@ TEST_F(SearchCitiesTest, WholeNameMayBeFollowedByProvinceOrCountry) {
     Add("Mecca", 3, "United States", "California");
     Add("Mecca", 2, "Saudi Arabia");
     EXPECT_THAT(Search("mecca"), ElementsAre("Mecca", "Mecca", "Mecca Hills"));
-    EXPECT_EQ(SearchCities(cities, "mecca").at(0)->country, "Saudi Arabia");
+    EXPECT_EQ(SearchCities(cities, "mecca").at(0).city->country, "Saudi Arabia");
     EXPECT_THAT(Search("mecca, california"), ElementsAre("Mecca"));
     EXPECT_THAT(Search("Mecca - Saudi Arabia"), ElementsAre("Mecca"));
 }
@@ -175,8 +203,8 @@ TEST_F(SearchCitiesTest, EqualMatchesComeByPopulationAndThoseWithoutARankLast) {
     Add("Springfield", 0, "D");
     Add("Springfield", 1, "E");
     std::string countries;
-    for (const ListedCity* city : SearchCities(cities, "springfield")) {
-        countries += city->country;
+    for (const CityHit& hit : SearchCities(cities, "springfield")) {
+        countries += hit.city->country;
     }
     EXPECT_EQ(countries, "ECBAD");  // equal ranks in the order of the list
 }
@@ -192,6 +220,71 @@ TEST_F(SearchCitiesTest, CaseAndAccentsDoNotMatter) {
 TEST_F(SearchCitiesTest, BlanksAroundTheTextDoNotMatter) {
     Add("Cairo", 1);
     EXPECT_THAT(Search("  cairo\t"), ElementsAre("Cairo"));
+}
+
+TEST_F(SearchCitiesTest, OtherNamesAreFoundInAnyScript) {
+    AddWithNames("Cairo", 1, "القاهرة,Kairo,カイロ");
+    AddWithNames("Moscow", 2, "Москва,Moskau");
+    EXPECT_THAT(Search("القاهره"), ElementsAre("Cairo"));
+    EXPECT_THAT(Search("МОСКВА"), ElementsAre("Moscow"));
+    EXPECT_THAT(Search("カイロ"), ElementsAre("Cairo"));
+    EXPECT_THAT(Search("kaïro"), ElementsAre("Cairo"));
+}
+
+TEST_F(SearchCitiesTest, HitSaysWhichOtherNameMatched) {
+    AddWithNames("Cairo", 1, "القاهرة,Kairo,Kair");
+    EXPECT_EQ(MatchedName("kairo"), "Kairo");
+    EXPECT_EQ(MatchedName("القاهرة"), "القاهرة");
+    EXPECT_EQ(MatchedName("cairo"), "");
+    EXPECT_EQ(MatchedName("cai"), "");
+}
+
+TEST_F(SearchCitiesTest, WholeOtherNameComesBeforeTheBeginningOfOneAndBothInTheirOrder) {
+    AddWithNames("Cairo", 1, "Kairoun,Kairos,Kairo,Kaíro");
+    EXPECT_EQ(MatchedName("kairo"), "Kairo");
+    EXPECT_EQ(MatchedName("kair"), "Kairoun");
+}
+
+TEST_F(SearchCitiesTest, WholeOtherNameCountsAsTheOwnOne) {
+    Add("Cologne", 7);
+    AddWithNames("Köln", 3, "Colonia,Cologne");
+    Add("Cologne Springs", 1);
+    EXPECT_THAT(Search("cologne"), ElementsAre("Köln", "Cologne", "Cologne Springs"));
+}
+
+TEST_F(SearchCitiesTest, BeginningOfAnotherNameComesBehindThatOfTheOwnOne) {
+    AddWithNames("São Paulo", 1, "San Pablo");
+    Add("Santiago", 2);
+    Add("Puerto San Carlos", 3);
+    EXPECT_THAT(Search("san"), ElementsAre("Santiago", "São Paulo", "Puerto San Carlos"));
+}
+
+TEST_F(SearchCitiesTest, PartInsideAnotherNameMatchesNothing) {
+    AddWithNames("Cairo", 1, "El Qahira,Kairo");
+    EXPECT_THAT(Search("qahira"), IsEmpty());
+    EXPECT_THAT(Search("airo"), ElementsAre("Cairo"));
+    EXPECT_EQ(MatchedName("airo"), "");
+}
+
+TEST_F(SearchCitiesTest, HyphensAndApostrophesInOtherNamesDoNotMatter) {
+    AddWithNames("Mecca", 1, "Makkah al-Mukarramah,Umm al Qura'");
+    EXPECT_THAT(Search("makkah al mukarramah"), ElementsAre("Mecca"));
+    EXPECT_THAT(Search("Makkah Al-Mukarramah"), ElementsAre("Mecca"));
+    EXPECT_EQ(MatchedName("umm al-qura"), "Umm al Qura'");
+}
+
+TEST_F(SearchCitiesTest, SingleLatinLetterLooksAtOwnNamesAlone) {
+    AddWithNames("Cairo", 1, "Kairo,開羅");
+    EXPECT_THAT(Search("k"), IsEmpty());
+    EXPECT_THAT(Search("ka"), ElementsAre("Cairo"));
+    EXPECT_THAT(Search("開"), ElementsAre("Cairo"));
+}
+
+TEST_F(SearchCitiesTest, WhatIsNoNameMatchesNoOtherName) {
+    AddWithNames("Cairo", 1, "Kairo,Misr");
+    EXPECT_THAT(Search("'"), IsEmpty());
+    EXPECT_THAT(Search(","), ElementsAre()) << "cities without a province have no comma";
+    EXPECT_THAT(Search("kairo,misr"), IsEmpty());
 }
 
 TEST_F(SearchCitiesTest, EmptyTextMatchesNothing) {
