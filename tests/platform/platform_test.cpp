@@ -25,6 +25,7 @@ TEST(Platform, InstalledPortsAreThoseOfTheTestPlatform) {
     EXPECT_EQ(&Ports().dialogs, &platform.dialogs);
     EXPECT_EQ(&Ports().registry, &platform.registry);
     EXPECT_EQ(&Ports().instanceGuard, &platform.instanceGuard);
+    EXPECT_EQ(&Ports().zoneRules, &platform.zoneRules);
 }
 
 TEST(Platform, TestPlatformStandsAtNoon) {
