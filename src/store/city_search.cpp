@@ -21,6 +21,7 @@ enum Match : std::uint8_t {
     kWholeName,
     kNameThenWord,
     kNameBeginning,
+    kWholeOtherName,
     kOtherBeginning,
     kWordBeginning,
     kAnyPart,
@@ -79,7 +80,7 @@ OtherMatch MatchOtherNames(const std::string& foldedNames, const std::string& na
     std::size_t at = name.empty() ? std::string::npos : foldedNames.find(name);
     for (; at != std::string::npos; at = foldedNames.find(name, at + 1)) {
         if (foldedNames[at + name.size()] == ',') {
-            return {kWholeName, at};
+            return {kWholeOtherName, at};
         }
         best = best.match == kNone ? OtherMatch{kOtherBeginning, at} : best;
     }
@@ -123,6 +124,7 @@ struct RankedHit {
 };
 
 constexpr std::uint32_t kOwnName = 0xFFFFFFFF;
+constexpr std::uint16_t kWellKnownCities = 5000;  // about those of 100,000 inhabitants
 
 RankedHit Ranked(Match match, const ListedCity& city, std::size_t position, std::size_t other) {
     const std::uint64_t rank = OrderOf(city.rank);
@@ -130,12 +132,19 @@ RankedHit Ranked(Match match, const ListedCity& city, std::size_t position, std:
             static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(other)};
 }
 
+/// A whole other name of one of the largest cities counts as its own; those of small towns are many
+/// and little known.
+Match MatchAmongOwn(Match match, const ListedCity& city) {
+    return match == kWholeOtherName && OrderOf(city.rank) < kWellKnownCities ? kWholeName : match;
+}
+
 std::optional<RankedHit> HitOf(const ListedCity& city, std::size_t position, const Wanted& wanted) {
     const Match own = MatchOf(city.folded, wanted.own);
     const OtherMatch other =
         own == kWholeName ? OtherMatch() : MatchOtherNames(city.foldedNames, wanted.other);
-    if (other.match < own) {
-        return Ranked(other.match, city, position, other.at);
+    const Match otherMatch = MatchAmongOwn(other.match, city);
+    if (otherMatch < own) {
+        return Ranked(otherMatch, city, position, other.at);
     }
     return own == kNone ? std::nullopt : std::optional(Ranked(own, city, position, kOwnName));
 }

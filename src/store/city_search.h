@@ -38,12 +38,12 @@ struct CityHit {
     std::string_view otherName;  // the one of its other names that matches; empty for its own name
 };
 
-/// The cities that match a typed text, best first: the whole name, own or other; then the own
-/// name's beginning at a word's end, its beginning, another name's beginning, a word's beginning
-/// anywhere in name, province or country, and any part of these. Letter case and accents do not
-/// matter; equal matches come by population, those without a rank last. Of two other names that
-/// match alike the better known one counts; a single Latin letter begins too many of them to look
-/// there. An empty text matches nothing.
+/// The cities that match a typed text, best first: the whole name, be it another name of one of the
+/// 5,000 largest cities; the own name's beginning at a word's end, then its beginning; a whole
+/// other name, then the beginning of one; a word's beginning anywhere in name, province or country,
+/// and any part of these. Letter case and accents do not matter; equal matches come by population,
+/// those without a rank last. Of two other names that match alike the better known one counts; a
+/// single Latin letter begins too many of them to look there. An empty text matches nothing.
 std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text);
 
 }  // namespace horavex

@@ -252,6 +252,17 @@ TEST_F(SearchCitiesTest, WholeOtherNameCountsAsTheOwnOne) {
     EXPECT_THAT(Search("cologne"), ElementsAre("Köln", "Cologne", "Cologne Springs"));
 }
 
+TEST_F(SearchCitiesTest, WholeOtherNameOfASmallTownComesBehindTheBeginningsOfOwnOnes) {
+    AddWithNames("York", 5001, "New York");
+    AddWithNames("Jorvik", 0, "New York");
+    Add("New York City", 5002);
+    Add("New Yorkton", 4);
+    EXPECT_THAT(Search("new york"), ElementsAre("New York City", "New Yorkton", "York", "Jorvik"));
+    AddWithNames("Nova Iorque", 5000, "New York");
+    EXPECT_THAT(Search("new york"),
+                ElementsAre("Nova Iorque", "New York City", "New Yorkton", "York", "Jorvik"));
+}
+
 TEST_F(SearchCitiesTest, BeginningOfAnotherNameComesBehindThatOfTheOwnOne) {
     AddWithNames("São Paulo", 1, "San Pablo");
     Add("Santiago", 2);
