@@ -6,7 +6,6 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "base/text.h"
 #include "config/angle_controls.h"
 #include "engine/current_year.h"
 #include "geo/qibla.h"
@@ -102,7 +101,7 @@ void ShowLocationInWindow() {
 
 void ShowNewLocation() {
     ShowLocationInWindow();
-    if (AsciiLower(currentLanguage) == "arabic") {
+    if (IsArabicPack()) {
         Translate();
     }
 }

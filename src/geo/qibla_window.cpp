@@ -52,7 +52,7 @@ std::string InArabic(const std::string& sentence) {
 }
 
 std::string ShownSentence() {
-    return AsciiLower(currentLanguage) == "arabic" ? InArabic(QiblaText) : QiblaText;
+    return IsArabicPack() ? InArabic(QiblaText) : QiblaText;
 }
 
 void ShowTexts() {

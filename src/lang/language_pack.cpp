@@ -29,9 +29,12 @@ std::string BaseName(const std::string& path) {
     return path.substr(name, path.rfind('.') - name);
 }
 
+bool IsArabic(const std::string& packName) {
+    return EqualsIgnoringCase(packName, "arabic");
+}
+
 CodePage EightBitPage(const std::string& packPath) {
-    return EqualsIgnoringCase(BaseName(packPath), "arabic") ? CodePage::kWindows1256
-                                                            : CodePage::kWindows1252;
+    return IsArabic(BaseName(packPath)) ? CodePage::kWindows1256 : CodePage::kWindows1252;
 }
 
 /// A missing or unreadable pack is as good as an empty one.
@@ -52,6 +55,10 @@ bool EndsIn(const std::string& name, const std::string& suffix) {
 
 std::string LanguagePackPath(const std::string& language) {
     return "\\lang\\" + language + ".ini";
+}
+
+bool IsArabicPack() {
+    return IsArabic(currentLanguage);
 }
 
 std::string ReadPackString(const std::string& packPath, const std::string& section,

@@ -11,6 +11,10 @@ namespace horavex {
 /// lower case only. Written at start and by the language menu.
 extern std::string currentLanguage;
 
+/// True when the pack in use is Arabic, in any case. Some windows then arrange and word themselves
+/// in Arabic.
+bool IsArabicPack();
+
 /// Flag: the language menu has seen a pack, so that forms translate themselves at their load.
 /// Never cleared again.
 extern std::int16_t languageFilesPresent;

@@ -1,7 +1,6 @@
 #include "shell/tray_icon.h"
 
 #include "base/program_state.h"
-#include "base/text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
@@ -50,7 +49,7 @@ void TraySetTip(const std::string& text) {
 std::string TrayTip() {
     const std::string next = frmMain->Label1.Caption() + frmMain->lblNextAthan.Caption();
     const std::string remaining = frmMain->Label3.Caption() + frmMain->lblRemaining.Caption();
-    return AsciiLower(currentLanguage) == "arabic" ? remaining + next : next + " " + remaining;
+    return IsArabicPack() ? remaining + next : next + " " + remaining;
 }
 
 void RefreshTrayTip() {

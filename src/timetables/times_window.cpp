@@ -1,7 +1,6 @@
 #include "timetables/times_window.h"
 
 #include "base/fault.h"
-#include "base/text.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
@@ -73,7 +72,7 @@ void frmTimes_Load() {
     TranslateOnLoad(*frmTimes);
     frmTimes->lblCity.SetCaption(ActiveCityText);
     cmdToday_Click();
-    ShowEverydayNames(AsciiLower(currentLanguage) != "arabic");
+    ShowEverydayNames(!IsArabicPack());
 }
 
 }  // namespace

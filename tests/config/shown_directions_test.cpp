@@ -1,6 +1,5 @@
 // Which way a place and Mecca lie, as it is told in every pack and every language of the texts.
 
-#include "base/text.h"
 #include "config/settings_display.h"
 #include "engine/angle.h"
 #include "engine/solar_event.h"
@@ -65,7 +64,7 @@ struct ShownDirectionsTest : ProgramTest {
 
     void ExpectRight(double latitude, double longitude, std::int16_t language) {
         const auto allowed = [](const std::string& own, const std::string& arabic) {
-            return AsciiLower(currentLanguage) == "arabic" ? AnyOf(own, arabic) : AnyOf(own, own);
+            return IsArabicPack() ? AnyOf(own, arabic) : AnyOf(own, own);
         };
         EXPECT_THAT(form.lblLocationLat.Caption(),
                     allowed(FormatLatitude(latitude, language), LatitudeInArabic(latitude)));

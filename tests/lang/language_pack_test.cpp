@@ -207,6 +207,17 @@ TEST_F(LanguagePackTest, FileLargerThanAnyPackIsAsGoodAsNone) {
     EXPECT_NE(Message(), "found");
 }
 
+TEST_F(LanguagePackTest, ArabicIsToldByItsNameInAnyCase) {
+    for (const std::string language : {"Arabic", "ARABIC", "arabic"}) {
+        currentLanguage = language;
+        EXPECT_TRUE(IsArabicPack()) << language;
+    }
+    for (const std::string language : {"", "English", "Arabic2", "Arab"}) {
+        currentLanguage = language;
+        EXPECT_FALSE(IsArabicPack()) << language;
+    }
+}
+
 TEST_F(LanguagePackTest, FreshProcessHasNoLanguage) {
     ResetProgramState();
     EXPECT_EQ(currentLanguage, "");
