@@ -11,6 +11,7 @@ namespace horavex {
 
 namespace {
 
+// To 15 figures, 3e-15 short of pi: less than a micrometre on the way around the Earth.
 constexpr double kPi = 3.14159265358979;
 constexpr double kEquatorialRadius = 6378.14;          // kilometres
 constexpr double kFlattening = 0.0033528131778969143;  // 1 / 298.257

@@ -9,9 +9,6 @@ namespace horavex {
 
 namespace {
 
-// The series carries a pi of its own.
-constexpr double kPi = 3.14159265358979;
-
 constexpr const char* kCentral = "The Eclipse is Central";
 
 // Multiples of M', M, the corrected F, O and A1; the power of E; column 0 the Sun, 1 the Moon.
@@ -38,7 +35,7 @@ constexpr Body kSun = {0.0, 0, &Eclipses::SolarEclipseRows, ClassifySolarEclipse
 constexpr Body kMoon = {0.5, 1, &Eclipses::LunarEclipseRows, ClassifyLunarEclipse, false};
 
 double UnreducedA1(const Lunation& at) {
-    return (299.77 + 0.107408 * at.k - 0.009173 * at.T * at.T) * kPi / 180.0;
+    return (299.77 + 0.107408 * at.k - 0.009173 * at.T * at.T) * kSeriesPi / 180.0;
 }
 
 /// Julian day of the greatest eclipse.
@@ -101,7 +98,7 @@ struct Listing {
         }
         const double latitude = at.latitude - 0.02665 * std::sin(at.node);
         std::string listed;
-        if (IsListed(180.0 - at.latitude * 180.0 / kPi)) {
+        if (IsListed(180.0 - at.latitude * 180.0 / kSeriesPi)) {
             listed = ListRow(i, InstantOf(body, at, latitude));
         }
         const EclipseGeometry geometry = GeometryOf(at, latitude);

@@ -8,8 +8,6 @@ namespace horavex {
 
 namespace {
 
-// The series carries a pi of its own.
-constexpr double kPi = 3.14159265358979;
 constexpr int kMostTurns = 1000;
 constexpr double kTurn = 360.0;
 
@@ -31,7 +29,7 @@ constexpr Planetary kPlanetary[kPlanetaryArguments] = {
 };
 
 double ReducedRadians(double degrees) {
-    return ReduceAngle(degrees) * kPi / 180.0;
+    return ReduceAngle(degrees) * kSeriesPi / 180.0;
 }
 
 /// Stage of a negative angle of a turn or more. True when the answer stands.

@@ -43,7 +43,7 @@ struct SunOfTheory {
 SunOfTheory SunAtDays(double D) {
     const double N = RoundToSix(WrapRange((360.0 / kDaysPerYear) * D, 0.0, 360.0));
     const double anomaly = RoundToSix(N + 279.403303 - 282.768422);
-    const double longitude = (360.0 / 3.1415927) * 0.016713 * SinDegrees(anomaly) +
+    const double longitude = (360.0 / kShortPi) * 0.016713 * SinDegrees(anomaly) +
                              (360.0 / kDaysPerYear) * D + 279.403303;
     return {anomaly, RoundToSix(WrapRange(longitude, 0.0, 360.0))};
 }

@@ -114,7 +114,7 @@ Unlisted FindUnlisted(double offset) {
             const Lunation at = LunationOf(static_cast<std::int16_t>(year), i, offset);
             const double latitude = at.latitude - 0.02665 * std::sin(at.node);
             if (NearNode(std::sin(at.latitude)) &&
-                !IsListed(180.0 - at.latitude * 180.0 / 3.14159265358979) &&
+                !IsListed(180.0 - at.latitude * 180.0 / kSeriesPi) &&
                 IsEclipse(GeometryOf(at, latitude))) {
                 return {year, i};
             }
