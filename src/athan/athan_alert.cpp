@@ -18,11 +18,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int16_t kFajr = 0;
-constexpr std::int16_t kAlarm = 7;
-constexpr std::int16_t kAthanNow = -1;
-constexpr std::int16_t kSoundAthan = 3;
-constexpr double kAlarmStepsPerDay = 288.0;
 constexpr double kBeforeSound = 2.0;  // seconds
 constexpr double kAfterBeep = 3.0;    // seconds
 constexpr double kHold = 12.504;      // seconds; 20 beeps and 20 holds make about 310
@@ -44,9 +39,9 @@ void ShowAlarmMessage() {
     fMessage->CmdCancel.SetVisible(false);
     fMessage->SetCaption("Horavex Prayer Time Software ");
     fMessage->Shape1.SetVisible(false);
-    fMessage->lblMessage2.SetCaption(
-        Ports().formats.MediumTime(ActiveSettings.AlarmTime / kAlarmStepsPerDay) + " : " +
-        TextItem(TextEntry::kAlarmIsDue, ActiveSettings.Language));
+    fMessage->lblMessage2.SetCaption(Ports().formats.MediumTime(AlarmMoment(ActiveSettings)) +
+                                     " : " +
+                                     TextItem(TextEntry::kAlarmIsDue, ActiveSettings.Language));
     fMessage->Show();
 }
 
@@ -85,33 +80,33 @@ void SoundAlarm(double start) {
     fMessage->Unload();
 }
 
-void BringAthanWindowUp(std::int16_t index) {
+void BringAthanWindowUp(Alert alert) {
     frmAzan->Load();
-    frmAzan->prayerIndex = index;
-    if (index != kAthanNow) {
+    frmAzan->prayerIndex = alert;
+    if (alert != Alert::kAthanNow) {
         SetAzanText();
     }
     ShowMe();
 }
 
 /// Only an athan of sound that has been accepted is heard; a buzzer is as silent as mute.
-void PlayAthan(std::int16_t index) {
+void PlayAthan(Alert alert) {
     if (ActiveSettings.AthanType != kSoundAthan || Settings.AthanType != kSoundAthan) {
         return;
     }
-    if (index == kFajr) {
+    if (alert == Alert::kFajr) {
         Fagr_Athan_Sound_Click();
     } else {
         Athan_Sound_Click();
     }
 }
 
-void SoundAthan(std::int16_t index, double start) {
-    BringAthanWindowUp(index);
+void SoundAthan(Alert alert, double start) {
+    BringAthanWindowUp(alert);
     soundDue = start + kBeforeSound + kTick;
     WaitUntil(start, kBeforeSound);
     soundDue = 0.0;
-    PlayAthan(index);
+    PlayAthan(alert);
 }
 
 }  // namespace
@@ -120,15 +115,15 @@ bool AthanAwaitsItsSound() {
     return Ports().clock.SteadySeconds() < soundDue;
 }
 
-void sub04F9(std::int16_t index) {
-    if (index == static_cast<std::int16_t>(kShurooq)) {
+void sub04F9(Alert alert) {
+    if (alert == Alert::kShurooq) {
         return;
     }
     const double start = Ports().clock.SteadySeconds();
-    if (index == kAlarm) {
+    if (alert == Alert::kDailyAlarm) {
         SoundAlarm(start);
     } else {
-        SoundAthan(index, start);
+        SoundAthan(alert, start);
     }
     HoravexMainForm->SetEnabled(true);
 }

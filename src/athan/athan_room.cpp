@@ -16,7 +16,7 @@ void BindAthanRoom() {
     BindAzanWindow();
     BindMessageWindow();
     BindAthanSettingsWindow();
-    frmMain->mnuThanNow.onClick = [] { sub04F9(-1); };
+    frmMain->mnuThanNow.onClick = [] { sub04F9(Alert::kAthanNow); };
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
     HoravexMainForm->cmdAthan.onClick = [] { frmAthan->ShowModal(&*HoravexMainForm); };
 }

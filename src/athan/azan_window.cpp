@@ -66,8 +66,11 @@ void frmAzan_QueryUnload(CloseRequest& request) {
 }  // namespace
 
 void SetAzanText() {
-    const std::int16_t prayer = frmAzan->prayerIndex;
-    const std::string text = prayer == -1 ? "" : GetLangString("Azan", std::to_string(prayer), "");
+    const Alert alert = frmAzan->prayerIndex;
+    const std::string text =
+        alert == Alert::kAthanNow
+            ? ""
+            : GetLangString("Azan", std::to_string(static_cast<std::int16_t>(alert)), "");
     Ports().athanFace.SetVariable("_root.character_textField", text);
 }
 

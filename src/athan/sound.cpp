@@ -4,6 +4,7 @@
 #include "base/fault.h"
 #include "base/int16.h"
 #include "platform/platform.h"
+#include "store/settings_record.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -17,7 +18,7 @@ struct AthanFile {
 };
 
 constexpr AthanFile kOtherPrayers = {"Athan\\athan.mp3", "Athan\\athan1.mp3"};
-constexpr AthanFile kFajr = {"Athan\\fagr_athan.mp3", "Athan\\fagr_athan1.mp3"};
+constexpr AthanFile kFajrAthan = {"Athan\\fagr_athan.mp3", "Athan\\fagr_athan1.mp3"};
 
 void MakeIfMissing(const AthanFile& file) {
     const ProgramFolder& folder = Ports().programFolder;
@@ -28,7 +29,7 @@ void MakeIfMissing(const AthanFile& file) {
 }
 
 void OfferSound(bool offered) {
-    HoravexMainForm->optAthanType(3).SetVisible(offered);
+    HoravexMainForm->optAthanType(kSoundAthan).SetVisible(offered);
     HoravexMainForm->mnuPopSound.SetVisible(offered);
     HoravexMainForm->mnuSound.SetVisible(offered);
 }
@@ -60,14 +61,14 @@ void Athan_Sound_Click() {
 }
 
 void Fagr_Athan_Sound_Click() {
-    PlayFile(FullPath(kFajr.played));
+    PlayFile(FullPath(kFajrAthan.played));
 }
 
 void CheckAthanFiles() {
     MakeIfMissing(kOtherPrayers);
-    MakeIfMissing(kFajr);
+    MakeIfMissing(kFajrAthan);
     // The sound of Fajr decides alone, whatever has become of the other.
-    OfferSound(Ports().programFolder.Exists(kFajr.played));
+    OfferSound(Ports().programFolder.Exists(kFajrAthan.played));
 }
 
 }  // namespace horavex

@@ -27,7 +27,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int16_t kSoundAthan = 3;
 constexpr double kLastZone = 12.0;  // hours; the wizard stops an hour earlier
 
 int running = 0;

@@ -22,8 +22,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kAlarmStepsPerDay = 288.0;
-
 std::string Text(TextEntry entry) {
     return TextItem(entry, Settings.Language);
 }
@@ -39,8 +37,7 @@ std::string DayText(std::int16_t day) {
 }
 
 void sub0690() {
-    HoravexMainForm->lblAlarm.SetCaption(
-        Ports().formats.MediumTime(Settings.AlarmTime / kAlarmStepsPerDay));
+    HoravexMainForm->lblAlarm.SetCaption(Ports().formats.MediumTime(AlarmMoment(Settings)));
 }
 
 void sub06C6() {
@@ -123,9 +120,9 @@ void TranslateSettingsWindow(std::int16_t language) {
         {&form.lblEndAT, TextEntry::kEndsOn},
         {&form.fraAthan, TextEntry::kAthan},
         {&form.cmdAthan, TextEntry::kAthan},
-        {&form.optAthanType(1), TextEntry::kMute},
-        {&form.optAthanType(2), TextEntry::kBuzzard},
-        {&form.optAthanType(3), TextEntry::kSound},
+        {&form.optAthanType(kMuteAthan), TextEntry::kMute},
+        {&form.optAthanType(kBuzzerAthan), TextEntry::kBuzzard},
+        {&form.optAthanType(kSoundAthan), TextEntry::kSound},
         {&form.fraAlarm, TextEntry::kAlarm},
         {&form.chkAlarm, TextEntry::kAlarm},
         {&form.lblAlarmAt, TextEntry::kAlarmAt},

@@ -20,8 +20,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::int16_t kSoundAthan = 3;
-
 /// The close box throws all edits away.
 void DiscardEdits() {
     HoravexMainForm->Hide();

@@ -9,9 +9,8 @@ namespace {
 
 /// Key of the section "other" that names a prayer. Shurooq never comes next, yet would be told
 /// as Zuhr.
-const char* NameKey(std::int16_t prayer) {
-    constexpr const char* kKeys[] = {"Fajr", "Zuhr", "Zuhr", "Asr", "Maghrib", "Isha"};
-    return kKeys[prayer];
+const char* NameKey(std::size_t prayer) {
+    return kPrayerKeys[prayer == kShurooq ? kZuhr : prayer];
 }
 
 // Today's Fajr is told by a fixed English text; only tomorrow's has a name in the pack.
@@ -19,7 +18,9 @@ std::string SentenceStart(const NextMoment& next) {
     if (next.prayer == kFajr && !next.isTomorrows) {
         return "Fajr at ";
     }
-    return ReadPackString("other", NameKey(next.prayer), "", kPackNameBuffer) + " ";
+    return ReadPackString("other", NameKey(static_cast<std::size_t>(next.prayer)), "",
+                          kPackNameBuffer) +
+           " ";
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "base/prayers.h"
 #include "engine/place.h"
 #include "engine/sun.h"
 
@@ -16,9 +17,6 @@ namespace horavex {
 
 struct SettingsRecord;
 
-/// Prayer indexes, the columns of the table.
-enum Prayer : std::size_t { kFajr, kShurooq, kZuhr, kAsr, kMaghrib, kIsha };
-inline constexpr std::size_t kPrayerCount = 6;
 inline constexpr std::size_t kYearRows = 366;
 
 /// The six times of one day, hours of the local clock.

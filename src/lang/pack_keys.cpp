@@ -1,5 +1,6 @@
 #include "lang/pack_keys.h"
 
+#include "base/prayers.h"
 #include "lang/form_language.h"
 #include "windows/f_country.h"
 #include "windows/f_message.h"
@@ -38,17 +39,19 @@ std::vector<std::string> MessageKeys() {
 
 std::vector<std::string> OtherKeys() {
     auto keys = Numbers(1, 20);
-    keys.insert(keys.end(), {"AH", "Fajr", "Zuhr", "Asr", "Maghrib", "Isha"});
+    keys.push_back("AH");
+    keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
+    std::erase(keys, kPrayerKeys[kShurooq]);  // never comes next
     return keys;
 }
 
 /// What a written timetable says; its months and weekdays are numbered.
 std::vector<std::string> TimetableKeys() {
-    std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",    "Hijri",
-                                     "Fajr",      "Shurooq",   "Zuhr",      "Asr",    "Maghrib",
-                                     "Isha",      "Latitude",  "Longitude", "Zone",   "FajrAngle",
-                                     "IshaAngle", "AsrRatio",  "Qibla",     "Begins", "Ends",
-                                     "MonthPage", "YearPage"};
+    std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",
+                                     "Hijri",     "Latitude",  "Longitude", "Zone",
+                                     "FajrAngle", "IshaAngle", "AsrRatio",  "Qibla",
+                                     "Begins",    "Ends",      "MonthPage", "YearPage"};
+    keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);
     }

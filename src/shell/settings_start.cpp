@@ -4,7 +4,7 @@
 #include "athan/athan_state.h"
 #include "athan/sound.h"
 #include "base/int16.h"
-#include "base/prayer_names.h"
+#include "base/prayers.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
 #include "config/help.h"
@@ -116,7 +116,7 @@ void HoravexMainForm_Load() {
 
 void LoadIshaAngleAtStart() {
     if (LoadIshaAngle()) {
-        Settings.AthanType = 3;
+        Settings.AthanType = kSoundAthan;
         firstRun = kTrue;
     }
 }

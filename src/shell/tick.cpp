@@ -18,8 +18,6 @@ namespace horavex {
 namespace {
 
 constexpr double kMatchWindow = 10.0;  // seconds in which a moment counts as arrived
-constexpr double kAlarmStepsPerDay = 288.0;
-constexpr std::int16_t kAlarm = 7;
 
 /// Compares the clock in whole seconds with a fraction of a day. The difference is taken to the
 /// microsecond, so that the tenth second after a moment is never inside its window.
@@ -42,17 +40,17 @@ bool HasArrived(const std::optional<Moment>& moment) {
 }
 
 /// The first prayer that has arrived; of two within the window only the earlier one fires.
-std::optional<std::int16_t> ArrivedPrayer() {
+std::optional<Alert> ArrivedPrayer() {
     if (HasArrived(ShownDay.lateIsha)) {
-        return static_cast<std::int16_t>(kIsha);
+        return Alert::kIsha;
     }
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
-            return static_cast<std::int16_t>(prayer);
+            return static_cast<Alert>(prayer);
         }
     }
     if (HasArrived(ShownDay.earlyFajr)) {
-        return static_cast<std::int16_t>(kFajr);
+        return Alert::kFajr;
     }
     return std::nullopt;
 }
@@ -62,7 +60,7 @@ void TestPrayers(const TickActions& actions) {
     if (!prayer) {
         return;
     }
-    if (*prayer != static_cast<std::int16_t>(kShurooq) && athanActive == kFalse) {
+    if (*prayer != Alert::kShurooq && athanActive == kFalse) {
         actions.alert(*prayer);
     }
     // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
@@ -73,8 +71,8 @@ void TestPrayers(const TickActions& actions) {
 /// raised again by the ticks inside its own wait, and none comes between an athan and its sound.
 void TestAlarm(const TickActions& actions) {
     if (alarmActive == kFalse && !AthanAwaitsItsSound() &&
-        HasArrived(ActiveSettings.AlarmTime / kAlarmStepsPerDay)) {
-        actions.alert(kAlarm);
+        HasArrived(AlarmMoment(ActiveSettings))) {
+        actions.alert(Alert::kDailyAlarm);
     }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
+
+#include "base/prayers.h"
 
 namespace horavex {
 
@@ -9,7 +10,7 @@ namespace horavex {
 struct TickActions {
     std::function<void()> refreshAll;
     std::function<void()> showDay;
-    std::function<void(std::int16_t index)> alert;
+    std::function<void(Alert alert)> alert;
 };
 
 TickActions DefaultTickActions();

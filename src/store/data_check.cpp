@@ -342,7 +342,7 @@ private:
                        place + "FajrAngle is no angle");
         report_.Expect(record.AsrRatio == 1.0 || record.AsrRatio == 2.0,
                        place + "AsrRatio is neither 1 nor 2");
-        report_.Expect(record.AthanType >= 1 && record.AthanType <= 3,
+        report_.Expect(record.AthanType >= kMuteAthan && record.AthanType <= kSoundAthan,
                        place + "AthanType is not from 1 to 3");
         report_.Expect(record.QiblaMethod == 1 || record.QiblaMethod == 2,
                        place + "QiblaMethod is neither 1 nor 2");
@@ -350,7 +350,7 @@ private:
                        place + "TimeZone is not from -12 to 12");
         report_.Expect(record.Language >= 0 && record.Language <= kTextLanguages,
                        place + "Language is not from 0 to 6");
-        report_.Expect(record.AlarmTime >= 0 && record.AlarmTime <= 287,
+        report_.Expect(record.AlarmTime >= 0 && record.AlarmTime < kAlarmStepsPerDay,
                        place + "AlarmTime is not from 0 to 287");
         const auto isDay = [](std::int16_t day) { return day >= 1 && day <= 366; };
         report_.Expect(record.DstEnabled != 1 || (isDay(record.DstStart) && isDay(record.DstEnd)),

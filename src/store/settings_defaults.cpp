@@ -39,7 +39,7 @@ void SetDefaultDstDays(Date today, std::int16_t latitude) {
 }
 
 void ApplyDefaultSettings(Date today) {
-    Settings.AthanType = 3;
+    Settings.AthanType = kSoundAthan;
     Settings.QiblaMethod = 1;
     Settings.FajrAngle = AngleBand.middle;
     Settings.AsrRatio = 1.0;

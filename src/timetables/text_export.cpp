@@ -1,7 +1,7 @@
 #include "timetables/text_export.h"
 
 #include "base/number_text.h"
-#include "base/prayer_names.h"
+#include "base/prayers.h"
 #include "base/utf8.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"

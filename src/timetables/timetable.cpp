@@ -18,9 +18,6 @@
 
 namespace horavex {
 
-const std::array<const char*, kPrayerCount> kPrayerKeys = {"Fajr", "Shurooq", "Zuhr",
-                                                           "Asr",  "Maghrib", "Isha"};
-
 namespace {
 
 TimetableDay TakeDay(std::size_t row) {

@@ -53,9 +53,6 @@ struct DayMinute {
 };
 DayMinute MinuteOf(Date day, double hours);
 
-/// English names of the six prayers for machines, by index.
-extern const std::array<const char*, kPrayerCount> kPrayerKeys;
-
 /// "2026-11-21".
 std::string IsoDate(const CivilDate& date);
 std::string IsoDate(const HijriDate& date);

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <cstdint>
-
+#include "base/prayers.h"
 #include "forms/form.h"
 #include "forms/form_instance.h"
 #include "forms/timer.h"
@@ -17,8 +16,8 @@ public:
     /// Moves the window up while it rises.
     Timer Timer1{*this, "Timer1", {.enabled = false, .intervalMs = 50}};
 
-    /// Whose athan it is: a prayer, 0 or 2 to 5, or -1 for one that the user asked for.
-    std::int16_t prayerIndex = 0;
+    /// Whose athan it is: a prayer's, or one that the user asked for.
+    Alert prayerIndex = Alert::kFajr;
 };
 
 inline const FormInstance<FrmAzan> frmAzan;

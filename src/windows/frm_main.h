@@ -20,9 +20,7 @@ public:
 
     /// What the face tells: today's times, the date and the time of day.
     ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};
-    ControlArray<Label> lblZoritNameArabic{
-        *this, "lblZoritNameArabic",
-        PrayerLabels({"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"})};
+    ControlArray<Label> lblZoritNameArabic{*this, "lblZoritNameArabic", PrayerLabels(kPrayerKeys)};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};

@@ -20,9 +20,8 @@ public:
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
-    ControlArray<Label> lblZoritNameArabic{
-        *this, "lblZoritNameArabic",
-        PrayerLabels({"Fajr", "Shurook", "Zuhr", "Asr", "Maghrib", "Isha"})};
+    ControlArray<Label> lblZoritNameArabic{*this, "lblZoritNameArabic",
+                                           PrayerLabels(kDayBrowserNames)};
     ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};
     CommandButton cmdToday{*this, "cmdToday", {.caption = "Today"}};
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "Previous Day"}};

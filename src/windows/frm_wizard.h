@@ -110,9 +110,8 @@ public:
 
     /// The preview: today's times with the settings as they stand.
     ControlArray<Label> lblZoritName{Frame2(4), "lblZoritName", EverydayPrayerLabels()};
-    ControlArray<Label> lblZoritNameArabic{
-        Frame2(4), "lblZoritNameArabic",
-        PrayerLabels({"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"})};
+    ControlArray<Label> lblZoritNameArabic{Frame2(4), "lblZoritNameArabic",
+                                           PrayerLabels(kPrayerKeys)};
     ControlArray<Label> lblTime{Frame2(4), "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
 
     CommandButton Command3{*this, "Command3", {.caption = "&Cancel"}};

@@ -1,26 +1,25 @@
 #pragma once
 
-#include <string>
-#include <utility>
 #include <vector>
 
+#include "base/prayers.h"
 #include "forms/control_array.h"
 #include "forms/label.h"
 
 namespace horavex {
 
 /// Six labels, one a prayer from Fajr on, with these captions.
-inline std::vector<ControlArray<Label>::Member> PrayerLabels(std::vector<std::string> captions) {
+inline std::vector<ControlArray<Label>::Member> PrayerLabels(const PrayerTexts& captions) {
     std::vector<ControlArray<Label>::Member> labels;
-    for (std::string& caption : captions) {
-        labels.push_back({static_cast<int>(labels.size()), {.caption = std::move(caption)}});
+    for (const char* caption : captions) {
+        labels.push_back({static_cast<int>(labels.size()), {.caption = caption}});
     }
     return labels;
 }
 
 /// The everyday names, which three windows have.
 inline std::vector<ControlArray<Label>::Member> EverydayPrayerLabels() {
-    return PrayerLabels({"Dawn", "Sunrise", "Noon", "Afternoon", "Sunset", "Night"});
+    return PrayerLabels(kEverydayNames);
 }
 
 }  // namespace horavex

@@ -24,7 +24,7 @@ struct AthanTest : ProgramTest {
         platform.audioFile.sounds[kOthersSound] = {Bytes(2000), 100, {1}};  // ten seconds
         platform.audioFile.sounds[kFajrSound] = {Bytes(2000), 100, {1}};
         StartAgain();
-        SetAthanType(3);
+        SetAthanType(kSoundAthan);
         ActiveSettings.AlarmTime = 0;
     }
 
@@ -47,29 +47,29 @@ TEST_F(AthanTest, BringsItsWindowUpAndIsHeardTwoSecondsLater) {
         EXPECT_THAT(Opened(), IsEmpty());
     });
     const double before = platform.clock.SteadySeconds();
-    sub04F9(3);
+    sub04F9(Alert::kAsr);
     EXPECT_NEAR(platform.clock.SteadySeconds() - before, 2.0, 0.02);
     EXPECT_EQ(Text(), "It is time for the Asr prayer");
-    EXPECT_EQ(frmAzan->prayerIndex, 3);
+    EXPECT_EQ(frmAzan->prayerIndex, Alert::kAsr);
     EXPECT_TRUE(IsPlaying());
 }
 
 TEST_F(AthanTest, FajrHasASoundOfItsOwn) {
-    sub04F9(0);
+    sub04F9(Alert::kFajr);
     EXPECT_THAT(Opened(), ElementsAre(kFajrSound));
 }
 
 TEST_F(AthanTest, OtherPrayersShareOne) {
-    for (const std::int16_t prayer : std::initializer_list<std::int16_t>{2, 3, 4, 5}) {
+    for (const Alert prayer : {Alert::kZuhr, Alert::kAsr, Alert::kMaghrib, Alert::kIsha}) {
         sub04F9(prayer);
     }
     EXPECT_THAT(Opened(), ElementsAre(kOthersSound, kOthersSound, kOthersSound, kOthersSound));
 }
 
 TEST_F(AthanTest, AthanNowKeepsTheTextAsItStands) {
-    sub04F9(5);
-    sub04F9(-1);
-    EXPECT_EQ(frmAzan->prayerIndex, -1);
+    sub04F9(Alert::kIsha);
+    sub04F9(Alert::kAthanNow);
+    EXPECT_EQ(frmAzan->prayerIndex, Alert::kAthanNow);
     EXPECT_EQ(Text(), "It is time for the Isha prayer");
     EXPECT_THAT(Opened(), ElementsAre(kOthersSound, kOthersSound));
 }
@@ -84,7 +84,7 @@ TEST_F(AthanTest, MenuEntryAsksForAthanNow) {
 TEST_F(AthanTest, MuteAndBuzzerAreSilentWithTheWindowUpUntilStop) {
     for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 2}) {
         SetAthanType(type);
-        sub04F9(2);
+        sub04F9(Alert::kZuhr);
         EXPECT_TRUE(frmAzan->Visible());
         EXPECT_THAT(Opened(), IsEmpty());
         EXPECT_EQ(athanActive, -1);
@@ -95,45 +95,45 @@ TEST_F(AthanTest, MuteAndBuzzerAreSilentWithTheWindowUpUntilStop) {
 }
 
 TEST_F(AthanTest, TypeThatWasNotAcceptedMakesNoSound) {
-    Settings.AthanType = 1;
-    sub04F9(2);
-    Settings.AthanType = 3;
-    ActiveSettings.AthanType = 1;
-    sub04F9(2);
+    Settings.AthanType = kMuteAthan;
+    sub04F9(Alert::kZuhr);
+    Settings.AthanType = kSoundAthan;
+    ActiveSettings.AthanType = kMuteAthan;
+    sub04F9(Alert::kZuhr);
     EXPECT_THAT(Opened(), IsEmpty());
 }
 
 TEST_F(AthanTest, TypeIsLookedAtWhenTheSoundIsDue) {
-    SetAthanType(1);
-    platform.loop.After(1.0, [] { SetAthanType(3); });
-    sub04F9(2);
+    SetAthanType(kMuteAthan);
+    platform.loop.After(1.0, [] { SetAthanType(kSoundAthan); });
+    sub04F9(Alert::kZuhr);
     EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
 }
 
 TEST_F(AthanTest, StopBeforeTheSoundIsDueDoesNotKeepItBack) {
     platform.loop.After(1.0, [&] { PressStop(); });
-    sub04F9(2);
+    sub04F9(Alert::kZuhr);
     EXPECT_TRUE(IsPlaying());
     EXPECT_EQ(athanActive, 0);
 }
 
 TEST_F(AthanTest, MissingSoundLeavesTheWindowUp) {
     platform.audioFile.sounds.clear();
-    sub04F9(2);
+    sub04F9(Alert::kZuhr);
     EXPECT_TRUE(frmAzan->Visible());
     EXPECT_EQ(athanActive, -1);
     EXPECT_FALSE(IsPlaying());
 }
 
 TEST_F(AthanTest, EndOfTheSoundEndsTheCycle) {
-    sub04F9(2);
+    sub04F9(Alert::kZuhr);
     platform.audioPlayer.PlayToTheEnd();
     EXPECT_EQ(athanActive, 0);
     EXPECT_FALSE(frmAzan->IsLoaded());
 }
 
 TEST_F(AthanTest, CalculatedYearSilencesItAndTheWindowStays) {
-    sub04F9(2);
+    sub04F9(Alert::kZuhr);
     RefreshAll();
     EXPECT_FALSE(IsPlaying());
     EXPECT_TRUE(frmAzan->Visible());
@@ -142,7 +142,7 @@ TEST_F(AthanTest, CalculatedYearSilencesItAndTheWindowStays) {
 
 TEST_F(AthanTest, EnablesTheSettingsWindow) {
     HoravexMainForm->SetEnabled(false);
-    sub04F9(2);
+    sub04F9(Alert::kZuhr);
     EXPECT_TRUE(HoravexMainForm->Enabled());
 }
 
@@ -224,7 +224,7 @@ TEST_F(AthanTickTest, AlarmThatFallsDueBeforeTheSoundComesBehindIt) {
     platform.clock.Set(platform.clock.Today() + TimeSerial(6, 29, 59));
     platform.loop.After(1.5, [] { tmrUpdate_Timer(); });
     const double before = platform.clock.SteadySeconds();
-    sub04F9(-1);
+    sub04F9(Alert::kAthanNow);
     EXPECT_NEAR(platform.clock.SteadySeconds() - before, 2.0, 0.02);
     EXPECT_THAT(Opened(), ElementsAre(kOthersSound));
     bool alarmIsUp = false;
@@ -245,7 +245,7 @@ struct AlarmTest : ProgramTest {
     /// How long the alarm stood, in seconds.
     double SoundAlarm() {
         const double before = platform.clock.SteadySeconds();
-        sub04F9(7);
+        sub04F9(Alert::kDailyAlarm);
         return platform.clock.SteadySeconds() - before;
     }
 };
@@ -375,7 +375,7 @@ TEST_F(AlarmTest, PlaysNoSoundFileWhateverTheAthanType) {
 
 TEST_F(AlarmTest, SunriseReturnsAtOnce) {
     HoravexMainForm->SetEnabled(false);
-    sub04F9(1);
+    sub04F9(Alert::kShurooq);
     EXPECT_FALSE(HoravexMainForm->Enabled());
 }
 

@@ -147,7 +147,7 @@ TEST_F(AzanWindowTest, UnloadStopsTheSound) {
 }
 
 struct AzanTextTest : AzanWindowTest {
-    std::string TextOf(std::int16_t prayer) {
+    std::string TextOf(Alert prayer) {
         frmAzan->prayerIndex = prayer;
         platform.athanFace.variables.clear();
         SetAzanText();
@@ -157,26 +157,26 @@ struct AzanTextTest : AzanWindowTest {
 };
 
 TEST_F(AzanTextTest, ComesFromThePackForEachPrayer) {
-    EXPECT_EQ(TextOf(0), "It is time for the Fajr prayer");
-    EXPECT_EQ(TextOf(2), "It is time for the Zuhr prayer");
-    EXPECT_EQ(TextOf(3), "It is time for the Asr prayer");
-    EXPECT_EQ(TextOf(4), "It is time for the Maghrib prayer");
-    EXPECT_EQ(TextOf(5), "It is time for the Isha prayer");
+    EXPECT_EQ(TextOf(Alert::kFajr), "It is time for the Fajr prayer");
+    EXPECT_EQ(TextOf(Alert::kZuhr), "It is time for the Zuhr prayer");
+    EXPECT_EQ(TextOf(Alert::kAsr), "It is time for the Asr prayer");
+    EXPECT_EQ(TextOf(Alert::kMaghrib), "It is time for the Maghrib prayer");
+    EXPECT_EQ(TextOf(Alert::kIsha), "It is time for the Isha prayer");
 }
 
 TEST_F(AzanTextTest, SpeaksTheCurrentLanguage) {
     currentLanguage = "Arabic";
-    EXPECT_THAT(TextOf(0), HasSubstr("الفجر"));
+    EXPECT_THAT(TextOf(Alert::kFajr), HasSubstr("الفجر"));
 }
 
 TEST_F(AzanTextTest, IsEmptyForAnAthanThatTheUserAskedFor) {
-    EXPECT_EQ(TextOf(-1), "");
+    EXPECT_EQ(TextOf(Alert::kAthanNow), "");
 }
 
 TEST_F(AzanTextTest, IsEmptyWithAPackThatLacksTheTexts) {
     platform.files.WriteWhole("/program/lang/Short.ini", BytesOf("[msg]\n1=a\n"));
     currentLanguage = "Short";
-    EXPECT_EQ(TextOf(0), "");
+    EXPECT_EQ(TextOf(Alert::kFajr), "");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ struct AthanFilesTest : testing::Test {
     }
 
     static void ExpectSoundOffered(bool offered) {
-        EXPECT_EQ(HoravexMainForm->optAthanType(3).Visible(), offered);
+        EXPECT_EQ(HoravexMainForm->optAthanType(kSoundAthan).Visible(), offered);
         EXPECT_EQ(HoravexMainForm->mnuPopSound.Visible(), offered);
         EXPECT_EQ(HoravexMainForm->mnuSound.Visible(), offered);
     }
@@ -121,13 +121,13 @@ TEST_F(AthanStartTest, StartMakesTheSoundsAndKeepsTheStoredAthanType) {
     Start();
     EXPECT_TRUE(platform.files.Exists("/program/Athan/athan.mp3"));
     EXPECT_TRUE(platform.files.Exists("/program/Athan/fagr_athan.mp3"));
-    EXPECT_TRUE(HoravexMainForm->optAthanType(3).Visible());
+    EXPECT_TRUE(HoravexMainForm->optAthanType(kSoundAthan).Visible());
 }
 
 TEST_F(AthanStartTest, WithoutSoundsTheStoredAthanTypeStaysAndIsNotOffered) {
     Start();
-    EXPECT_FALSE(HoravexMainForm->optAthanType(3).Visible());
-    EXPECT_EQ(ActiveSettings.AthanType, 3);
+    EXPECT_FALSE(HoravexMainForm->optAthanType(kSoundAthan).Visible());
+    EXPECT_EQ(ActiveSettings.AthanType, kSoundAthan);
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ struct CommitTest : ProgramTest {
         form.chkDayLT.UserClick();
         form.hsBegin.UserSlide(99);
         form.hsEnd.UserSlide(299);
-        form.optAthanType(2).UserClick();
+        form.optAthanType(kBuzzerAthan).UserClick();
         form.optQiblaMethod(2).UserClick();
         form.lstLanguage.UserSelect(1);
         form.hsAlarm.UserSlide(60);
@@ -54,7 +54,7 @@ struct CommitTest : ProgramTest {
         record.DstEnabled = 1;
         record.DstStart = 100;
         record.DstEnd = 300;
-        record.AthanType = 2;
+        record.AthanType = kBuzzerAthan;
         record.QiblaMethod = 2;
         record.Language = 2;
         record.TimeZone = 3.25;

@@ -39,7 +39,7 @@ TEST_F(SettingsWindowTest, LoadShowsTheAcceptedState) {
     EXPECT_EQ(form.lblLocationLat.Caption(), "Latitude: 21 degrees, 26 minutes North");
     EXPECT_EQ(form.lblTimeZone.Caption(), "Time Zone ( 2, 3, ...)");
     EXPECT_TRUE(form.optAsrRatio(1).Value());
-    EXPECT_TRUE(form.optAthanType(3).Value());
+    EXPECT_TRUE(form.optAthanType(kSoundAthan).Value());
     EXPECT_TRUE(form.optQiblaMethod(1).Value());
     EXPECT_EQ(form.hsDepr.Value(), 18);
     EXPECT_EQ(form.hsDepr.Min(), 5);
@@ -114,9 +114,9 @@ TEST_F(SettingsWindowTest, ControlsWriteStraightIntoTheWorkingRecord) {
     EXPECT_EQ(form.lblAlarm.Caption(), "11:55 PM");
     form.optAsrRatio(2).UserClick();
     EXPECT_EQ(Settings.AsrRatio, 2.0);
-    form.optAthanType(1).UserClick();
-    EXPECT_EQ(Settings.AthanType, 1);
-    EXPECT_EQ(ActiveSettings.AthanType, 3);
+    form.optAthanType(kMuteAthan).UserClick();
+    EXPECT_EQ(Settings.AthanType, kMuteAthan);
+    EXPECT_EQ(ActiveSettings.AthanType, kSoundAthan);
 }
 
 TEST_F(SettingsWindowTest, QuartersSplitAndAdd) {
@@ -254,7 +254,7 @@ TEST_F(SettingsWindowTest, DefaultsAreShownInEveryControl) {
     form.hsDepr.UserSlide(10);
     form.hsDepr1.UserSlide(2);
     form.optAsrRatio(2).UserClick();
-    form.optAthanType(1).UserClick();
+    form.optAthanType(kMuteAthan).UserClick();
     form.optQiblaMethod(2).UserClick();
     form.chkAlarm.UserClick();
     form.hsAlarm.UserSlide(5);
@@ -265,7 +265,7 @@ TEST_F(SettingsWindowTest, DefaultsAreShownInEveryControl) {
     EXPECT_EQ(form.hsDepr1.Value(), 0);
     EXPECT_EQ(form.lblDepr.Caption(), "degrees 18");
     EXPECT_TRUE(form.optAsrRatio(1).Value());
-    EXPECT_TRUE(form.optAthanType(3).Value());
+    EXPECT_TRUE(form.optAthanType(kSoundAthan).Value());
     EXPECT_TRUE(form.optQiblaMethod(1).Value());
     EXPECT_EQ(form.chkAlarm.Value(), 1);
     EXPECT_EQ(form.lblAlarm.Caption(), "06:30 AM");
@@ -420,7 +420,7 @@ TEST_F(SettingsWindowTest, QiblaIsNotOfferedInMecca) {
 
 TEST_F(SettingsWindowTest, AthanButtonFollowsTheAcceptedType) {
     EXPECT_TRUE(form.cmdAthan.Enabled());
-    form.optAthanType(2).UserClick();
+    form.optAthanType(kBuzzerAthan).UserClick();
     EXPECT_TRUE(form.cmdAthan.Enabled());
     form.SettingsSet.UserClick();
     EXPECT_FALSE(form.cmdAthan.Enabled());

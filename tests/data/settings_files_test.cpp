@@ -25,7 +25,7 @@ TEST_F(SettingsFiles, FreshInstallHasTheDefaultMethod) {
     LoadActiveSettings();
     EXPECT_EQ(ActiveSettings.FajrAngle, 18.0);
     EXPECT_EQ(ActiveSettings.AsrRatio, 1.0);
-    EXPECT_EQ(ActiveSettings.AthanType, 3);
+    EXPECT_EQ(ActiveSettings.AthanType, kSoundAthan);
     EXPECT_EQ(ActiveSettings.QiblaMethod, 1);
     EXPECT_EQ(ActiveSettings.Language, 1);
     EXPECT_EQ(ActiveSettings.AlarmTime, 78);

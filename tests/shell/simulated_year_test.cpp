@@ -22,7 +22,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr std::int16_t kAlarm = 7;
 constexpr int kDaySeconds = 86400;
 constexpr int kCoarseStep = 3600;  // seconds
 constexpr int kBefore = 2;         // seconds watched before a moment and behind it
@@ -117,7 +116,7 @@ struct SimulatedYear : ProgramTest {
         const bool wasActive = athanActive != kFalse;
         alerts.clear();
         platform.face.variables.clear();
-        RunTick({[this] { Refresh(); }, ShowDay, [this](std::int16_t index) { Alert(index); }});
+        RunTick({[this] { Refresh(); }, ShowDay, [this](Alert alert) { Ring(alert); }});
         CheckTick(wasActive);
     }
 
@@ -126,10 +125,10 @@ struct SimulatedYear : ProgramTest {
         RefreshAll();
     }
 
-    void Alert(std::int16_t index) {
-        alerts.push_back(index);
-        ++calls.at(static_cast<std::size_t>(index));
-        if (index != kAlarm && athanSeconds > 0) {
+    void Ring(Alert alert) {
+        alerts.push_back(alert);
+        ++calls.at(static_cast<std::size_t>(alert));
+        if (alert != Alert::kDailyAlarm && athanSeconds > 0) {
             athanActive = kTrue;
             athanEnd = Second() + athanSeconds;
         }
@@ -144,7 +143,7 @@ struct SimulatedYear : ProgramTest {
     // What a tick should have done, read off the table of the year.
 
     void CheckTick(bool wasActive) {
-        const std::optional<std::int16_t> arrived = Arrived();
+        const std::optional<Alert> arrived = Arrived();
         counted = static_cast<std::int16_t>(counted + (arrived ? 1 : 0));
         ASSERT_EQ(alerts, ExpectedAlerts(arrived, wasActive)) << Now();
         ASSERT_EQ(NextPrayer, counted) << Now();
@@ -154,23 +153,22 @@ struct SimulatedYear : ProgramTest {
         ASSERT_EQ(platform.face.Value("_root.sNextRemaining"), "Remaining: " + Remaining());
     }
 
-    std::vector<std::int16_t> ExpectedAlerts(std::optional<std::int16_t> arrived,
-                                             bool wasActive) const {
-        std::vector<std::int16_t> expected;
-        if (arrived && *arrived != static_cast<std::int16_t>(kShurooq) && !wasActive) {
+    std::vector<Alert> ExpectedAlerts(std::optional<Alert> arrived, bool wasActive) const {
+        std::vector<Alert> expected;
+        if (arrived && *arrived != Alert::kShurooq && !wasActive) {
             expected.push_back(*arrived);
         }
         if (Second() >= AlarmSecond() && Second() < AlarmSecond() + 10) {
-            expected.push_back(kAlarm);
+            expected.push_back(Alert::kDailyAlarm);
         }
         return expected;
     }
 
-    std::optional<std::int16_t> Arrived() const {
+    std::optional<Alert> Arrived() const {
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
             const double since = Second() - MomentOf(prayer, Row());
             if (since >= 0.0 && since < 10.0) {
-                return static_cast<std::int16_t>(prayer);
+                return static_cast<Alert>(prayer);
             }
         }
         return std::nullopt;
@@ -245,7 +243,7 @@ struct SimulatedYear : ProgramTest {
     std::int16_t counted = 0;    // what NextPrayer should hold
     int refreshes = 0;           // recalculations for another year
     std::array<int, 8> calls{};  // alerts of the day, by index
-    std::vector<std::int16_t> alerts;
+    std::vector<Alert> alerts;
 };
 
 TEST_F(SimulatedYear, CommonYearCallsEachAthanAndAlarmInItsTenSeconds) {

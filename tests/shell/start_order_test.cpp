@@ -289,13 +289,13 @@ TEST_F(StartOrderTest, InstanceThatCameUpMeanwhileEndsTheStartAtItsVeryEnd) {
 }
 
 TEST_F(StartOrderTest, FirstRunChoosesTheSoundBeforeTheStoredSettingsAreRead) {
-    ActiveSettings.AthanType = 1;
+    ActiveSettings.AthanType = kMuteAthan;
     SaveActiveSettings();
-    Settings.AthanType = 1;
+    Settings.AthanType = kMuteAthan;
     guard.firstYes = 1;
     EXPECT_THROW(Start(), ProcessEnded);
-    EXPECT_EQ(Settings.AthanType, 3);
-    EXPECT_EQ(ActiveSettings.AthanType, 1);
+    EXPECT_EQ(Settings.AthanType, kSoundAthan);
+    EXPECT_EQ(ActiveSettings.AthanType, kMuteAthan);
 }
 
 TEST_F(StartOrderTest, WithoutStoredSettingsTheWindowIsAskedForInPlaceOfTheYear) {

@@ -38,7 +38,7 @@ TEST_F(StartTest, FirstRunStoresTheIshaAngleAndChoosesTheSound) {
     EXPECT_EQ(firstRun, -1);
     EXPECT_EQ(Stored("Isha Dep Angle"), "18");
     EXPECT_EQ(IshaAngle, 18.0);
-    EXPECT_EQ(Settings.AthanType, 3);
+    EXPECT_EQ(Settings.AthanType, kSoundAthan);
 }
 
 TEST_F(StartTest, StoredMinusOneIsAFirstRunAllTheSame) {

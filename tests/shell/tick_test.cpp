@@ -15,7 +15,11 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-/// Ticks whose three ways out are written down: "refresh", "day" and the alert's index.
+std::string NameOf(Alert alert) {
+    return alert == Alert::kDailyAlarm ? "Alarm" : kPrayerKeys.at(static_cast<std::size_t>(alert));
+}
+
+/// Ticks whose three ways out are written down: "refresh", "day" and what the alert is for.
 struct TickTest : testing::Test {
     TickTest() {
         CurrentYear = 2026;
@@ -35,7 +39,7 @@ struct TickTest : testing::Test {
     void Tick() {
         calls.clear();
         RunTick({[this] { calls.push_back("refresh"); }, [this] { calls.push_back("day"); },
-                 [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
+                 [this](Alert alert) { calls.push_back(NameOf(alert)); }});
     }
 
     TestPlatform platform;
@@ -51,12 +55,12 @@ TEST_F(TickTest, PrayerArrivesAtItsSecond) {
     TickAt(11, 59, 59);
     EXPECT_THAT(calls, ElementsAre("day"));
     TickAt(12, 0, 0);
-    EXPECT_THAT(calls, ElementsAre("2", "day"));
+    EXPECT_THAT(calls, ElementsAre("Zuhr", "day"));
 }
 
 TEST_F(TickTest, WindowIsTenSeconds) {
     TickAt(12, 0, 9);
-    EXPECT_THAT(calls, ElementsAre("2", "day"));
+    EXPECT_THAT(calls, ElementsAre("Zuhr", "day"));
     TickAt(12, 0, 10);
     EXPECT_THAT(calls, ElementsAre("day"));
 }
@@ -65,7 +69,7 @@ TEST_F(TickTest, YesterdaysIshaArrivesBehindMidnight) {
     TodayTimes[kIsha] = 24.3 / 24.0;  // today's own comes tomorrow
     ShownDay.lateIsha = Moment{0.25, MomentBy::kRule};
     TickAt(0, 15, 0);
-    EXPECT_THAT(calls, ElementsAre("5", "day"));
+    EXPECT_THAT(calls, ElementsAre("Isha", "day"));
     TickAt(0, 18, 0);
     EXPECT_THAT(calls, ElementsAre("day"));
 }
@@ -74,7 +78,7 @@ TEST_F(TickTest, TomorrowsFajrArrivesBeforeMidnight) {
     TodayTimes[kFajr] = -0.25 / 24.0;  // today's own came yesterday
     ShownDay.earlyFajr = Moment{23.75, MomentBy::kRule};
     TickAt(23, 45, 0);
-    EXPECT_THAT(calls, ElementsAre("0", "day"));
+    EXPECT_THAT(calls, ElementsAre("Fajr", "day"));
     TickAt(0, 15, 0);
     EXPECT_THAT(calls, ElementsAre("day"));
 }
@@ -105,14 +109,14 @@ TEST_F(TickTest, SunriseHasNoAthan) {
 TEST_F(TickTest, OfTwoPrayersWithinTheWindowTheEarlierFires) {
     TodayTimes[3] = TodayTimes[2] + 5.0 / 86400.0;
     TickAt(12, 0, 6);
-    EXPECT_THAT(calls, ElementsAre("2", "day"));
+    EXPECT_THAT(calls, ElementsAre("Zuhr", "day"));
 }
 
 TEST_F(TickTest, AlarmComesWhateverItsBoxSays) {
     ActiveSettings.AlarmEnabled = 0;
     athanActive = -1;
     TickAt(6, 30, 9);
-    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    EXPECT_THAT(calls, ElementsAre("Alarm", "day"));
     TickAt(6, 30, 10);
     EXPECT_THAT(calls, ElementsAre("day"));
 }
@@ -120,10 +124,10 @@ TEST_F(TickTest, AlarmComesWhateverItsBoxSays) {
 TEST_F(TickTest, AlarmTimesReachFromMidnightToFiveBefore) {
     ActiveSettings.AlarmTime = 0;
     TickAt(0, 0, 9);
-    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    EXPECT_THAT(calls, ElementsAre("Alarm", "day"));
     ActiveSettings.AlarmTime = 287;
     TickAt(23, 55, 0);
-    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    EXPECT_THAT(calls, ElementsAre("Alarm", "day"));
 }
 
 TEST_F(TickTest, NewDateShowsTheDayBeforeAndAfterTheTests) {
@@ -136,8 +140,8 @@ TEST_F(TickTest, TimesOfTheNewDayAreInPlaceForItsOwnTests) {
     TodayDate -= 1.0;
     platform.clock.Set(DateSerial(2026, 11, 21) + TimeSerial(4, 0, 5));
     RunTick({[] {}, [] { TodayTimes[0] = 4.0 / 24.0; },
-             [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
-    EXPECT_THAT(calls, ElementsAre("0"));
+             [this](Alert alert) { calls.push_back(NameOf(alert)); }});
+    EXPECT_THAT(calls, ElementsAre("Fajr"));
 }
 
 TEST_F(TickTest, BrowsedDayIsRepairedBeforeTheTests) {
@@ -145,19 +149,19 @@ TEST_F(TickTest, BrowsedDayIsRepairedBeforeTheTests) {
     TodayTimes[0] = 4.0 / 24.0;
     platform.clock.Set(DateSerial(2026, 11, 21) + TimeSerial(4, 0, 5));
     RunTick({[] {}, [] { TodayTimes[0] = 5.0 / 24.0; },
-             [this](std::int16_t index) { calls.push_back(std::to_string(index)); }});
+             [this](Alert alert) { calls.push_back(NameOf(alert)); }});
     EXPECT_THAT(calls, IsEmpty());
 }
 
 TEST_F(TickTest, PrayerComesBeforeTheAlarmOfTheSameSecond) {
     ActiveSettings.AlarmTime = 144;
     TickAt(12, 0, 0);
-    EXPECT_THAT(calls, ElementsAre("2", "7", "day"));
+    EXPECT_THAT(calls, ElementsAre("Zuhr", "Alarm", "day"));
 }
 
 TEST_F(TickTest, ShurooqDoesNotHideTheAlarm) {
     TickAt(6, 30, 0);
-    EXPECT_THAT(calls, ElementsAre("7", "day"));
+    EXPECT_THAT(calls, ElementsAre("Alarm", "day"));
 }
 
 TEST_F(TickTest, NewYearRefreshesInstead) {
@@ -176,7 +180,7 @@ TEST_F(TickTest, ClockThatJumpsOverTheWindowMissesTheAthan) {
 TEST_F(TickTest, ClockSetBackFiresAgain) {
     TickAt(12, 0, 5);
     TickAt(12, 0, 2);
-    EXPECT_THAT(calls, ElementsAre("2", "day"));
+    EXPECT_THAT(calls, ElementsAre("Zuhr", "day"));
 }
 
 TEST_F(TickTest, TimeThatDoesNotExistNeverMatches) {
@@ -184,7 +188,7 @@ TEST_F(TickTest, TimeThatDoesNotExistNeverMatches) {
     for (int minute = 0; minute < 24 * 60; ++minute) {
         platform.clock.Set(DateSerial(2026, 11, 21) + minute / 1440.0);
         Tick();
-        EXPECT_THAT(calls, testing::Not(testing::Contains("2")));
+        EXPECT_THAT(calls, testing::Not(testing::Contains("Zuhr")));
     }
 }
 
@@ -198,8 +202,8 @@ struct RunningClockTest : ProgramTest {
 
     /// An alarm less than five minutes ahead of Asr.
     void AlarmBeforeAsr() {
-        ActiveSettings.AlarmTime = static_cast<std::int16_t>(TodayTimes[3] * 288.0);
-        platform.clock.Set(platform.clock.Today() + ActiveSettings.AlarmTime / 288.0);
+        ActiveSettings.AlarmTime = static_cast<std::int16_t>(TodayTimes[kAsr] * kAlarmStepsPerDay);
+        platform.clock.Set(platform.clock.Today() + AlarmMoment(ActiveSettings));
     }
 
     /// The ticks that come while the next tick waits.
@@ -270,7 +274,7 @@ TEST_F(RunningClockTest, AthanThatFallsDueDuringAnAlarmComes) {
     frmMain->tmrUpdate.Tick();
     ASSERT_EQ(TodayTimes[3], asr);
     EXPECT_TRUE(frmAzan->Visible());
-    EXPECT_EQ(frmAzan->prayerIndex, 3);
+    EXPECT_EQ(frmAzan->prayerIndex, Alert::kAsr);
     EXPECT_EQ(athanActive, -1);
 }
 

@@ -83,7 +83,7 @@ TEST_F(SettingsDefaultsTest, DefaultButtonSetsItsFieldsAndLeavesTheRest) {
     IshaAngle = 16.25;
     Location.City.Latitude = 3006;
     ApplyDefaultSettings(today);
-    expected.AthanType = 3;
+    expected.AthanType = kSoundAthan;
     expected.QiblaMethod = 1;
     expected.FajrAngle = 17.0;
     expected.AsrRatio = 1.0;
@@ -107,7 +107,7 @@ TEST_F(SettingsDefaultsTest, DefaultButtonFollowsTheWorkingPlaceIntoTheSouth) {
 
 TEST_F(SettingsDefaultsTest, DefaultAlarmIsHalfPastSix) {
     ApplyDefaultSettings(today);
-    EXPECT_EQ(platform.formats.MediumTime(Settings.AlarmTime / 288.0), "06:30 AM");
+    EXPECT_EQ(platform.formats.MediumTime(AlarmMoment(Settings)), "06:30 AM");
 }
 
 }  // namespace

@@ -83,6 +83,15 @@ TEST(SettingsRecord, FloatsThatAreNoNumbersKeepTheirBits) {
     EXPECT_EQ(infinite.FajrAngle, std::numeric_limits<double>::infinity());
 }
 
+TEST(SettingsRecord, AlarmGoesThroughTheDayInStepsOfFiveMinutes) {
+    SettingsRecord record;
+    EXPECT_EQ(AlarmMoment(record), 0.0);
+    record.AlarmTime = 78;
+    EXPECT_EQ(AlarmMoment(record), 6.5 / 24.0);
+    record.AlarmTime = kAlarmStepsPerDay - 1;
+    EXPECT_EQ(AlarmMoment(record), 1435.0 / 1440.0);
+}
+
 TEST(SettingsRecord, FreshProcessHasRecordsOfZerosAndNoIshaAngle) {
     Settings.Language = ActiveSettings.CityIndex = 4;
     IshaAngle = 18.0;

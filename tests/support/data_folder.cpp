@@ -242,7 +242,7 @@ SettingsRecord SampleSettings() {
     record.DstEnabled = 1;
     record.DstStart = 94;
     record.DstEnd = 297;
-    record.AthanType = 3;
+    record.AthanType = kSoundAthan;
     record.QiblaMethod = 1;
     record.Language = 5;
     record.CityIndex = -31998;

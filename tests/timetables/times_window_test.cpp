@@ -149,12 +149,12 @@ TEST_F(TimesWindowTest, PrayerThatArrivesBeforeTheRepairIsOneOfTheDayOnView) {
     }
     const Date asr = platform.clock.Today() + Times[kAsr][kTodaysRow + 10] / 24.0;
     platform.clock.Set(asr + 2.0 / kSecondsPerDay);
-    std::vector<std::int16_t> alerts;
-    RunTick({[] {}, [] {}, [&](std::int16_t index) { alerts.push_back(index); }});
-    EXPECT_THAT(alerts, ElementsAre(3));
+    std::vector<Alert> alerts;
+    RunTick({[] {}, [] {}, [&](Alert alert) { alerts.push_back(alert); }});
+    EXPECT_THAT(alerts, ElementsAre(Alert::kAsr));
     alerts.clear();
     auto actions = DefaultTickActions();
-    actions.alert = [&](std::int16_t index) { alerts.push_back(index); };
+    actions.alert = [&](Alert alert) { alerts.push_back(alert); };
     RunTick(actions);
     EXPECT_THAT(alerts, IsEmpty()) << "today's Asr is minutes away";
 }

@@ -15,6 +15,7 @@
 #include "engine/progress_window.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
+#include "store/settings_record.h"
 #include "support/build_folder.h"
 #include "support/program_copy.h"
 #include "support/run_program.h"
@@ -82,10 +83,10 @@ void ShowSettings(bool arabic) {
     form.lblBegin.SetCaption("Friday, May 1, 2026");
     form.lblEnd.SetCaption("Wednesday, September 30, 2026");
     say(form.fraAthan, "Athan", "الأذان");
-    say(form.optAthanType(1), "Mute", "صامت");
-    say(form.optAthanType(2), "Buzzard", "جرس");
-    say(form.optAthanType(3), "Sound", "صوت");
-    form.optAthanType(3).SetValue(true);
+    say(form.optAthanType(kMuteAthan), "Mute", "صامت");
+    say(form.optAthanType(kBuzzerAthan), "Buzzard", "جرس");
+    say(form.optAthanType(kSoundAthan), "Sound", "صوت");
+    form.optAthanType(kSoundAthan).SetValue(true);
     form.optAsrRatio(1).SetValue(true);
     form.optQiblaMethod(1).SetValue(true);
     say(form.cmdAthan, "&Athan", "الأذان");
