@@ -68,9 +68,7 @@ Json CityJson(const CityHit& hit) {
 }
 
 std::string CityLine(const CityHit& hit) {
-    const std::string otherName =
-        hit.otherName.empty() ? "" : " (" + std::string(hit.otherName) + ")";
-    return std::to_string(hit.city->cityIndex) + "\t" + DisplayText(*hit.city) + otherName + "\n";
+    return std::to_string(hit.city->cityIndex) + "\t" + DisplayText(hit) + "\n";
 }
 
 void PrintCities(const Session& session, const CityFilter& filter) {

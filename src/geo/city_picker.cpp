@@ -201,7 +201,7 @@ void ShowHits() {
     hits.clear();
     const auto found = SearchCities(cities, form.txtSearch.Text());
     for (std::size_t hit = 0; hit < std::min(found.size(), kHitsShown); ++hit) {
-        form.lstFound.AddItem(DisplayText(*found[hit].city));
+        form.lstFound.AddItem(DisplayText(found[hit]));
         hits.push_back(found[hit].city->cityIndex);
     }
     form.lstFound.SetVisible(!Trim(form.txtSearch.Text()).empty());

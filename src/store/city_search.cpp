@@ -74,11 +74,30 @@ struct OtherMatch {
     std::size_t at = 0;
 };
 
-/// name: a comma and the folded beginning of a name, or nothing.
+/// One of 64 bits for the first two bytes of a folded name, so that most cities need no look at
+/// their names.
+std::uint64_t BeginningBit(std::string_view name) {
+    const auto first = static_cast<unsigned char>(name[0]);
+    const auto second = static_cast<unsigned char>(name[1]);
+    return std::uint64_t{1} << ((first * 31U + second) % 64U);
+}
+
+/// foldedNames: with a comma at both ends.
+std::uint64_t BeginningsOf(std::string_view foldedNames) {
+    std::uint64_t beginnings = 0;
+    for (std::size_t at = 0; at + 2 < foldedNames.size(); ++at) {
+        if (foldedNames[at] == ',') {
+            beginnings |= BeginningBit(foldedNames.substr(at + 1));
+        }
+    }
+    return beginnings;
+}
+
+/// name: a comma and the folded beginning of a name, two bytes or more.
 OtherMatch MatchOtherNames(const std::string& foldedNames, const std::string& name) {
     OtherMatch best;
-    std::size_t at = name.empty() ? std::string::npos : foldedNames.find(name);
-    for (; at != std::string::npos; at = foldedNames.find(name, at + 1)) {
+    for (std::size_t at = foldedNames.find(name); at != std::string::npos;
+         at = foldedNames.find(name, at + 1)) {
         if (foldedNames[at + name.size()] == ',') {
             return {kWholeOtherName, at};
         }
@@ -100,15 +119,16 @@ std::string_view OtherNameAt(const ListedCity& city, std::size_t at) {
 
 /// What a search looks for.
 struct Wanted {
-    std::string own;    // in own names
-    std::string other;  // in other ones, a comma before it; empty where these do not count
+    std::string own;          // in own names
+    std::string other;        // in other ones, a comma before it
+    std::uint64_t beginning;  // of the latter; 0 where other names do not count
 };
 
 Wanted WantedOf(const std::string& text) {
     const std::string trimmed(Trim(text));
     const std::string name = FoldName(trimmed);
     const bool isName = name.size() > 1 && name.find(',') == std::string::npos;
-    return {FoldForSearch(trimmed), isName ? "," + name : std::string()};
+    return {FoldForSearch(trimmed), "," + name, isName ? BeginningBit(name) : 0};
 }
 
 /// Cities without a rank come last.
@@ -140,8 +160,9 @@ Match MatchAmongOwn(Match match, const ListedCity& city) {
 
 std::optional<RankedHit> HitOf(const ListedCity& city, std::size_t position, const Wanted& wanted) {
     const Match own = MatchOf(city.folded, wanted.own);
+    const bool mayMatch = own != kWholeName && (city.beginnings & wanted.beginning) != 0;
     const OtherMatch other =
-        own == kWholeName ? OtherMatch() : MatchOtherNames(city.foldedNames, wanted.other);
+        mayMatch ? MatchOtherNames(city.foldedNames, wanted.other) : OtherMatch();
     const Match otherMatch = MatchAmongOwn(other.match, city);
     if (otherMatch < own) {
         return Ranked(otherMatch, city, position, other.at);
@@ -193,8 +214,7 @@ ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const Se
     listed.longitude = city.Longitude;
     listed.rank = RankOf(aids.ranks, cityIndex);
     listed.folded = FoldForSearch(DisplayText(listed));
-    listed.otherNames = OtherNamesOf(aids.otherNames, cityIndex);
-    listed.foldedNames = FoldOtherNames(listed.otherNames);
+    SetOtherNames(listed, OtherNamesOf(aids.otherNames, cityIndex));
     return listed;
 }
 
@@ -217,8 +237,15 @@ std::string DisplayText(const ListedCity& city) {
     return city.name + province + " - " + city.country;
 }
 
-std::string FoldOtherNames(const std::string& otherNames) {
-    return otherNames.empty() ? std::string() : "," + FoldName(otherNames) + ",";
+std::string DisplayText(const CityHit& hit) {
+    const std::string otherName(hit.otherName);
+    return DisplayText(*hit.city) + (otherName.empty() ? "" : " (" + otherName + ")");
+}
+
+void SetOtherNames(ListedCity& city, const std::string& otherNames) {
+    city.otherNames = otherNames;
+    city.foldedNames = otherNames.empty() ? std::string() : "," + FoldName(otherNames) + ",";
+    city.beginnings = BeginningsOf(city.foldedNames);
 }
 
 std::vector<ListedCity> ListCities() {

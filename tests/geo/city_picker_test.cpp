@@ -256,6 +256,12 @@ TEST_F(CityPickerTest, SearchMindsNeitherCaseNorAccents) {
     EXPECT_THAT(picker.lstFound.ListItem(0), HasSubstr("São Paulo"));
 }
 
+TEST_F(CityPickerTest, HitByAnotherNameShowsWhich) {
+    Open();
+    picker.txtSearch.UserType("القاهرة");
+    EXPECT_EQ(picker.lstFound.ListItem(0), "Cairo, Cairo - Egypt (القاهرة)");
+}
+
 TEST_F(CityPickerTest, EmptySearchShowsNoHits) {
     Open();
     picker.txtSearch.UserType("ber");

@@ -133,8 +133,7 @@ protected:
 
     void AddWithNames(const std::string& name, std::uint16_t rank, const std::string& otherNames) {
         Add(name, rank);
-        cities.back().otherNames = otherNames;
-        cities.back().foldedNames = FoldOtherNames(otherNames);
+        SetOtherNames(cities.back(), otherNames);
     }
 
     /// The other name by which the first hit was found.
@@ -239,6 +238,12 @@ TEST_F(SearchCitiesTest, HitSaysWhichOtherNameMatched) {
     EXPECT_EQ(MatchedName("cai"), "");
 }
 
+TEST_F(SearchCitiesTest, HitShowsTheOtherNameThatMatchedInBrackets) {
+    AddWithNames("Cairo", 1, "القاهرة,Kairo");
+    EXPECT_EQ(DisplayText(SearchCities(cities, "kai").at(0)), "Cairo - Nowhere (Kairo)");
+    EXPECT_EQ(DisplayText(SearchCities(cities, "cai").at(0)), "Cairo - Nowhere");
+}
+
 TEST_F(SearchCitiesTest, WholeOtherNameComesBeforeTheBeginningOfOneAndBothInTheirOrder) {
     AddWithNames("Cairo", 1, "Kairoun,Kairos,Kairo,Kaíro");
     EXPECT_EQ(MatchedName("kairo"), "Kairo");
@@ -296,6 +301,8 @@ TEST_F(SearchCitiesTest, WhatIsNoNameMatchesNoOtherName) {
     EXPECT_THAT(Search("'"), IsEmpty());
     EXPECT_THAT(Search(","), ElementsAre()) << "cities without a province have no comma";
     EXPECT_THAT(Search("kairo,misr"), IsEmpty());
+    AddWithNames("Ye", 2, "E,''");
+    EXPECT_THAT(Search("e,"), IsEmpty());
 }
 
 TEST_F(SearchCitiesTest, EmptyTextMatchesNothing) {
