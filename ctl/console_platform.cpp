@@ -5,8 +5,7 @@
 #include <iostream>
 #include <thread>
 
-#include "config/authority_rules.h"
-#include "ctl/method_option.h"
+#include "ctl/place_options.h"
 #include "ctl/plain_text.h"
 #include "engine/limit_message.h"
 #include "engine/year_table.h"
@@ -63,8 +62,8 @@ double ConsoleHost::QiblaBearing() {
     return QiblaDegrees;
 }
 
-MomentRules ConsoleHost::RulesOf(std::int16_t year) {
-    return ChosenAuthority ? horavex::RulesOf(*ChosenAuthority, year) : MomentRules{};
+YearRules ConsoleHost::RulesOf(std::int16_t year) {
+    return RulesOfYear(ChosenOptions, year);
 }
 
 ConsolePlatform::ConsolePlatform()

@@ -58,7 +58,7 @@ public:
     void ReportProgress(double) override {}
     void ComputeQibla() override;
     double QiblaBearing() override;
-    MomentRules RulesOf(std::int16_t year) override;
+    YearRules RulesOf(std::int16_t year) override;
     void RunSetAction() override {}
     void SetFlashVariables() override {}
 };

@@ -4,8 +4,6 @@
 
 namespace horavex {
 
-std::optional<Authority> ChosenAuthority;
-
 namespace {
 
 std::string KeysText(const std::vector<const Authority*>& authorities) {

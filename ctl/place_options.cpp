@@ -17,6 +17,8 @@
 
 namespace horavex {
 
+YearOptions ChosenOptions;
+
 namespace {
 
 constexpr std::int16_t kUsualIshaAngle = 18;  // degrees
@@ -47,6 +49,7 @@ void TakeAccepted() {
     ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
     CopyActiveToWorking();
     CityText = ActiveCityText;
+    ChosenOptions = ReadYearOptions(ActiveSettings.CityIndex);
 }
 
 /// Method values that go with the place in Location.
@@ -58,6 +61,7 @@ void TakeDefaultsOfPlace() {
     IshaAngle = std::clamp(kUsualIshaAngle, AngleBand.smallest, AngleBand.largest);
     Settings.AsrRatio = 1.0;
     Settings.QiblaMethod = 1;
+    ChosenOptions = {};
 }
 
 void TakeCity(std::int16_t cityIndex) {
@@ -86,17 +90,9 @@ void TakePlace(const PlaceOptions& options) {
     }
 }
 
-/// An angle of Isha by hand stands for the interval, too.
-Authority WithoutInterval(Authority authority) {
-    authority.ishaInterval = 0;
-    authority.ishaIntervalRamadan = 0;
-    return authority;
-}
-
 /// The figures that an authority leaves open stay as they are.
-void TakeAuthority(const PlaceOptions& options) {
-    const Authority& authority = AuthorityOfText(*options.method);
-    ChosenAuthority = options.isha ? WithoutInterval(authority) : authority;
+void TakeMethodOf(const Authority& authority) {
+    TakeAuthority(authority, ChosenOptions);
     Settings.FajrAngle = authority.fajrAngle;
     IshaAngle = authority.ishaInterval == 0 ? authority.ishaAngle : IshaAngle;
     Settings.AsrRatio = authority.asrRatio == 0.0 ? Settings.AsrRatio : authority.asrRatio;
@@ -105,7 +101,10 @@ void TakeAuthority(const PlaceOptions& options) {
 void TakeMethod(const PlaceOptions& options) {
     Settings.TimeZone = options.zone.value_or(Settings.TimeZone);
     Settings.FajrAngle = options.fajr.value_or(Settings.FajrAngle);
-    IshaAngle = options.isha.value_or(IshaAngle);
+    if (options.isha) {  // an angle by hand stands for the interval, too
+        IshaAngle = *options.isha;
+        ChosenOptions.ishaInterval = ChosenOptions.ishaIntervalRamadan = 0;
+    }
     Settings.AsrRatio = options.asr.value_or(Settings.AsrRatio);
     if (options.dstStart) {
         Settings.DstEnabled = 1;
@@ -173,7 +172,7 @@ std::int16_t StoredFromDegrees(double degrees) {
 void ApplyPlace(const PlaceOptions& options) {
     TakePlace(options);
     if (options.method) {
-        TakeAuthority(options);
+        TakeMethodOf(AuthorityOfText(*options.method));
     }
     TakeMethod(options);
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "config/year_options.h"
 #include "ctl/command.h"
 
 namespace horavex {
@@ -41,11 +42,14 @@ bool NamesPlace(const PlaceOptions& options);
 /// A coordinate as the files store it: rounded to the hundredth of a degree.
 std::int16_t StoredFromDegrees(double degrees);
 
-/// Fills the working settings, place and Isha angle. Without a place the accepted ones count; a
-/// city or coordinates alone take the nearest zone, the default Fajr angle of their band, 18
-/// degrees clipped to the band for Isha, ratio 1 and no daylight saving. A method of an authority
-/// comes on top, and then the method options. Refuses the usage for a city or a method that is
-/// not there.
+/// The options by which the commands calculate. Written by ApplyPlace.
+extern YearOptions ChosenOptions;
+
+/// Fills the working settings, place, Isha angle and ChosenOptions. Without a place the accepted
+/// ones count; a city or coordinates alone take the nearest zone, the default Fajr angle of their
+/// band, 18 degrees clipped to the band for Isha, ratio 1 and no daylight saving. A method of an
+/// authority comes on top, and then the method options. Refuses the usage for a city or a method
+/// that is not there.
 void ApplyPlace(const PlaceOptions& options);
 
 }  // namespace horavex

@@ -13,7 +13,7 @@ namespace horavex {
 
 namespace {
 
-struct YearOptions {
+struct YearArguments {
     PlaceOptions place;
     int year = 0;
 };
@@ -51,7 +51,7 @@ std::string TimesText() {
     return text;
 }
 
-void PrintYear(Session& session, const YearOptions& options) {
+void PrintYear(Session& session, const YearArguments& options) {
     ApplyPlace(options.place);
     Calculate(session, options.year);
     session.Print({{"year", options.year},
@@ -67,7 +67,7 @@ void PrintYear(Session& session, const YearOptions& options) {
 
 void AddYearCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "year", "The six times of every day of a year");
-    auto options = std::make_shared<YearOptions>();
+    auto options = std::make_shared<YearArguments>();
     AddCoordinateOptions(*command, options->place, true);
     AddMethodOptions(*command, options->place, true);
     command->add_option("--year", options->year, "Gregorian year")

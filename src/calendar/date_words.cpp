@@ -1,6 +1,6 @@
 #include "calendar/date_words.h"
 
-#include "calendar/current_calendar.h"
+#include "engine/ruled_year.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -14,10 +14,8 @@ std::string MonthName(int monthNumber) {
 }
 
 HijriTexts HijriToday() {
-    const CalendarScope hijri(kHijriCalendar);
-    const Date today = Ports().clock.Today();
-    return {std::to_string(DayOf(today)), HijriMonthName(MonthOf(today)),
-            std::to_string(YearOf(today))};
+    const HijriDate today = RuledHijriDate(Ports().clock.Today());
+    return {std::to_string(today.day), HijriMonthName(today.month), std::to_string(today.year)};
 }
 
 std::string HijriMonthName(int month) {

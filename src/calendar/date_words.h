@@ -15,7 +15,7 @@ struct HijriTexts {
     std::string year;       // decimal
 };
 
-/// Reads today under the Hijri calendar. The day turns at local midnight.
+/// Today by the Hijri calendar of the program's year. The day turns at local midnight.
 HijriTexts HijriToday();
 
 /// Name of a Hijri month (1 to 12) in the current pack, section "other"; empty where it has none.

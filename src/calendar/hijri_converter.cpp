@@ -23,13 +23,14 @@ std::string AsOneWord(std::string text) {
 }  // namespace
 
 HijriDate HijriConverter::ToHijri(Date date) const {
-    const auto published = ummAlQura_.HijriOf(date);
-    return published ? *published : HijriFromDate(date);
+    const Date adjusted = date + adjustment_;
+    const auto published = ummAlQura_.HijriOf(adjusted);
+    return published ? *published : HijriFromDate(adjusted);
 }
 
 Date HijriConverter::ToGregorian(const HijriDate& hijri) const {
     const auto published = ummAlQura_.DateOf(hijri);
-    return published ? *published : DateFromHijri(hijri);
+    return (published ? *published : DateFromHijri(hijri)) - adjustment_;
 }
 
 std::string HijriConverter::CalculateHijri(std::int16_t year, int month, int day) const {

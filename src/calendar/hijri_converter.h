@@ -4,13 +4,14 @@
 #include <string>
 
 #include "calendar/umm_al_qura.h"
+#include "store/options.h"
 
 namespace horavex {
 
 /// Turns a date of one calendar into the other: by the published Umm al-Qura months where they are
 /// known, arithmetically before and after. It is made anew for each conversion and lets go of the
-/// table with its end. The texts are in the language of the pack, with the English names without
-/// one, and in the user's regional form.
+/// table with its end. The option of days that are added to the Hijri date counts. The texts are in
+/// the language of the pack, with the English names without one, and in the user's regional form.
 class HijriConverter {
 public:
     /// The Hijri day of a moment, and midnight that begins a Hijri day.
@@ -27,6 +28,7 @@ public:
 
 private:
     UmmAlQura ummAlQura_;
+    const int adjustment_ = ReadOption(option::kHijriAdjustment);  // days
 };
 
 /// Name of a Hijri month, 1 to 12, in the current pack; the English one without it.

@@ -114,7 +114,7 @@ void TakeNextPrayer(const NextMoment& next) {
 /// The row of the next day. Row 365 has no next one and serves itself. Without rules a common
 /// year's last day looks at row 365, which holds what a leap year before has left there.
 std::size_t RowAfter(std::size_t row) {
-    const bool isBare = RuledYear.rules == MomentRules{};
+    const bool isBare = RuledYear.rules.moments == MomentRules{};
     const std::size_t last = isBare || LeapFlag == 1 ? kYearRows - 1 : kYearRows - 2;
     return std::min(row + 1, last);
 }
@@ -170,9 +170,10 @@ std::optional<DayView> TakeDayView(Date now) {
     if (!row) {
         return std::nullopt;
     }
-    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
-                        MomentsOfRow(RowBefore(*row))[kIsha], host->QiblaBearing()},
-                       now);
+    return MakeDayView(
+        {YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
+         MomentsOfRow(RowBefore(*row))[kIsha], RuledHijriDate(now), host->QiblaBearing()},
+        now);
 }
 
 void ShowDay() {

@@ -6,7 +6,7 @@
 
 #include "base/date.h"
 #include "engine/day_view.h"
-#include "engine/moment_rules.h"
+#include "engine/year_rules.h"
 
 namespace horavex {
 
@@ -39,8 +39,8 @@ public:
     /// Direction of Mecca as last worked out, degrees from north, positive to the east.
     virtual double QiblaBearing() = 0;
 
-    /// What the options ask of the moments of a year; nothing by default.
-    virtual MomentRules RulesOf(std::int16_t /*year*/) { return {}; }
+    /// What the options ask of a year; nothing by default.
+    virtual YearRules RulesOf(std::int16_t /*year*/) { return {}; }
 
     /// The set action that the clock runs by itself: a set of the accepted values.
     virtual void RunSetAction() = 0;

@@ -71,7 +71,7 @@ DayView MakeDayView(const DaySource& source, Date now) {
     DayView day;
     day.now = now;
     day.date = std::floor(now);
-    day.hijri = HijriFromDate(now);
+    day.hijri = source.hijri;
     day.place = source.place;
     day.moments = source.today;
     day.lateIsha = OnThisDay(source.yesterdaysIsha, -24.0);

@@ -26,7 +26,7 @@ struct NextMoment {
 struct DayView {
     Date now = 0.0;             // of the local clock
     Date date = 0.0;            // midnight that begins the day
-    HijriDate hijri{};          // by the arithmetic calendar
+    HijriDate hijri{};          // by the calendar that the options ask for
     std::string place;          // display text of the place that the year is for
     DayMoments moments;         // of the day
     NextMoment next;            // from now on
@@ -43,6 +43,7 @@ struct DaySource {
     DayMoments today;
     DayMoments tomorrow;
     Moment yesterdaysIsha;
+    HijriDate hijri{};
     double qiblaDegrees = 0.0;
 };
 

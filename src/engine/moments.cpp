@@ -112,7 +112,7 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row) {
 }
 
 DayMoments MomentsOfRow(std::size_t row) {
-    return MomentsOf({RuledYear.inputs, Times, RuledYear.rules}, row);
+    return MomentsOf({RuledYear.inputs, Times, RuledYear.rules.moments}, row);
 }
 
 }  // namespace horavex

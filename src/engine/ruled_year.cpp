@@ -1,5 +1,7 @@
 #include "engine/ruled_year.h"
 
+#include <cmath>
+
 #include "base/program_state.h"
 
 namespace horavex {
@@ -11,5 +13,12 @@ namespace {
 const ProgramStateReset reset([] { RuledYear = {}; });
 
 }  // namespace
+
+HijriDate RuledHijriDate(Date date) {
+    const std::vector<HijriDate>& days = RuledYear.rules.hijri;
+    const int year = CivilFromDate(date).year;
+    const auto row = static_cast<std::size_t>(std::floor(date) - DateSerial(year, 1, 1));
+    return year == RuledYear.inputs.year && row < days.size() ? days[row] : HijriFromDate(date);
+}
 
 }  // namespace horavex

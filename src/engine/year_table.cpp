@@ -40,7 +40,7 @@ PrayerRow TimesOfRow(std::size_t row) {
 
 YearInputs PresentInputs() {
     YearMethod method = MethodOf(Settings, IshaAngle);
-    const MomentRules& rules = RuledYear.rules;
+    const MomentRules& rules = RuledYear.rules.moments;
     method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
     method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
     return {CurrentYear, PresentPlace(), method};

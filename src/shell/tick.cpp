@@ -11,6 +11,7 @@
 #include "engine/day_driver.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
+#include "store/options.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -69,9 +70,10 @@ void TestPrayers(const TickActions& actions) {
 
 /// The alarm is compared every day, whatever the state of its check box. One that is up is not
 /// raised again by the ticks inside its own wait, and none comes between an athan and its sound.
+/// An option switches it off.
 void TestAlarm(const TickActions& actions) {
     if (alarmActive == kFalse && !AthanAwaitsItsSound() &&
-        HasArrived(AlarmMoment(ActiveSettings))) {
+        HasArrived(AlarmMoment(ActiveSettings)) && ReadOption(option::kAlarm) != 0) {
         actions.alert(Alert::kDailyAlarm);
     }
 }

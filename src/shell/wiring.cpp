@@ -4,6 +4,7 @@
 #include "calendar/calendar_room.h"
 #include "config/commit.h"
 #include "config/config_room.h"
+#include "config/year_options.h"
 #include "engine/day_driver.h"
 #include "engine/limit_message.h"
 #include "engine/progress_window.h"
@@ -26,6 +27,7 @@ public:
     void ReportProgress(double percent) override { horavex::ReportProgress(percent); }
     void ComputeQibla() override { horavex::ComputeQibla(); }
     double QiblaBearing() override { return QiblaDegrees; }
+    YearRules RulesOf(std::int16_t year) override { return StoredRulesOfYear(year); }
     void RunSetAction() override { SetAcceptedAgain(); }
     void SetFlashVariables() override { horavex::SetFlashVariables(); }
 };

@@ -10,6 +10,7 @@
 #include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/moments.h"
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "geo/qibla.h"
 #include "store/location_record.h"
@@ -23,7 +24,7 @@ namespace {
 TimetableDay TakeDay(std::size_t row) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
     TimetableDay day = {
-        date, HijriFromDate(date), IsDaylightDay(date, ActiveSettings), DaylightChange::kNone, {}};
+        date, RuledHijriDate(date), IsDaylightDay(date, ActiveSettings), DaylightChange::kNone, {}};
     const DayMoments moments = MomentsOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         // What is no time of any day, a damaged zone's, has no text either.

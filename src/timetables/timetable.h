@@ -18,10 +18,10 @@ enum class DaylightChange {
 };
 
 struct TimetableDay {
-    Date date;              // midnight that begins it
-    HijriDate hijri;        // by the arithmetic calendar of the face
-    bool daylight;          // its times carry the daylight hour
-    DaylightChange change;  // a day that is both begins
+    Date date;                                              // midnight that begins it
+    HijriDate hijri;                                        // by the calendar of the face
+    bool daylight;                                          // its times carry the daylight hour
+    DaylightChange change;                                  // a day that is both begins
     std::array<std::optional<double>, kPrayerCount> hours;  // local clock; none for NoEvent
 };
 

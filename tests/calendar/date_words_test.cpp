@@ -4,6 +4,7 @@
 
 #include "calendar/current_calendar.h"
 #include "calendar/hijri_calendar.h"
+#include "engine/ruled_year.h"
 #include "lang/language_pack.h"
 #include "support/test_platform.h"
 
@@ -25,6 +26,13 @@ TEST_F(HijriTodayTest, GivesDayMonthAndYearAsTexts) {
     EXPECT_EQ(today.day, "5");
     EXPECT_EQ(today.monthName, "Shawwal");
     EXPECT_EQ(today.year, "1416");
+}
+
+TEST_F(HijriTodayTest, RulesOfTheYearMayHaveAnotherDate) {
+    platform.clock.Set(DateSerial(1996, 2, 25) + 0.5);
+    RuledYear.inputs.year = 1996;
+    RuledYear.rules.hijri.assign(366, HijriDate{1416, 10, 6});
+    EXPECT_EQ(HijriToday().day, "6");
 }
 
 TEST_F(HijriTodayTest, NewYearComesAtLocalMidnight) {

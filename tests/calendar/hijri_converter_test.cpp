@@ -33,6 +33,14 @@ TEST_F(HijriConverterTest, EveryDayOfTwoCenturiesComesBack) {
     }
 }
 
+TEST_F(HijriConverterTest, StoredAdjustmentCountsBothWays) {
+    const HijriDate plain = HijriConverter().ToHijri(DateSerial(2026, 11, 21));
+    SaveOption(option::kHijriAdjustment, -2);
+    const HijriConverter adjusted;
+    EXPECT_EQ(adjusted.ToHijri(DateSerial(2026, 11, 23)), plain);
+    EXPECT_EQ(adjusted.ToGregorian(plain), DateSerial(2026, 11, 23));
+}
+
 TEST_F(HijriConverterTest, OutsideTheTableItIsArithmetic) {
     const HijriConverter converter;
     EXPECT_EQ(converter.ToHijri(DateSerial(1900, 1, 1)), HijriFromDate(DateSerial(1900, 1, 1)));

@@ -22,7 +22,7 @@ Date At(int hour, int minute, int second) {
 DayView ViewAt(int hour, int minute, int second) {
     DayMoments tomorrow = Moments();
     tomorrow[kFajr].hours = 5.01;
-    return MakeDayView({"Cairo", Moments(), tomorrow, Moments()[kIsha], 136.25},
+    return MakeDayView({"Cairo", Moments(), tomorrow, Moments()[kIsha], {1448, 6, 10}, 136.25},
                        At(hour, minute, second));
 }
 
@@ -95,7 +95,7 @@ DayView ShortNightAt(int hour, int minute) {
     DayMoments moments = Moments();
     moments[kIsha] = {24.25, MomentBy::kRule};
     moments[kFajr].hours = 1.5;
-    return MakeDayView({"Oslo", moments, moments, moments[kIsha], 0.0}, At(hour, minute, 0));
+    return MakeDayView({"Oslo", moments, moments, moments[kIsha], {}, 0.0}, At(hour, minute, 0));
 }
 
 TEST(ShortNight, IshaBehindMidnightIsCountedDownToFromTheEvening) {
@@ -127,7 +127,7 @@ TEST(ShortNight, BehindItComesFajr) {
 DayView EarlyFajrAt(int hour, int minute) {
     DayMoments moments = Moments();
     moments[kFajr].hours = -1.0 / 6.0;
-    return MakeDayView({"East", moments, moments, moments[kIsha], 0.0}, At(hour, minute, 0));
+    return MakeDayView({"East", moments, moments, moments[kIsha], {}, 0.0}, At(hour, minute, 0));
 }
 
 TEST(ShortNight, FajrBeforeMidnightIsCountedDownToOnTheEveBefore) {

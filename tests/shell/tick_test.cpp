@@ -5,6 +5,7 @@
 #include "athan/athan_state.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
+#include "store/options.h"
 #include "support/program_test.h"
 #include "windows/frm_azan.h"
 
@@ -81,6 +82,15 @@ TEST_F(TickTest, TomorrowsFajrArrivesBeforeMidnight) {
     EXPECT_THAT(calls, ElementsAre("Fajr", "day"));
     TickAt(0, 15, 0);
     EXPECT_THAT(calls, ElementsAre("day"));
+}
+
+TEST_F(TickTest, OptionSwitchesTheAlarmOff) {
+    SaveOption(option::kAlarm, 0);
+    TickAt(6, 30, 0);
+    EXPECT_THAT(calls, testing::Not(testing::Contains("Alarm")));
+    SaveOption(option::kAlarm, 1);
+    TickAt(6, 30, 0);
+    EXPECT_THAT(calls, testing::Contains("Alarm"));
 }
 
 TEST_F(TickTest, ActiveAthanHoldsTheNextOneBack) {

@@ -1,0 +1,120 @@
+#include "config/year_options.h"
+
+#include "calendar/umm_al_qura.h"
+#include "engine/current_year.h"
+#include "platform/platform.h"
+#include "store/city_zones.h"
+#include "store/settings_record.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kRamadan = 9;
+
+std::string ChosenZone(std::int16_t cityIndex) {
+    if (ReadOption(option::kAutomaticZone) == 0) {
+        return {};
+    }
+    const std::string name = ReadOption(option::kZoneName);
+    return name.empty() ? CityZones().Of(cityIndex) : name;
+}
+
+/// The Hijri dates of a year's days, by row.
+std::vector<HijriDate> HijriDays(HijriSource source, int adjustment, std::int16_t year) {
+    const Date newYear = DateSerial(year, 1, 1) + adjustment;
+    std::optional<UmmAlQura> published;
+    if (source == HijriSource::kUmmAlQura) {
+        published.emplace();
+    }
+    std::vector<HijriDate> days;
+    for (int row = 0; row < 365 + LeapFlagOf(year); ++row) {
+        const Date date = newYear + row;
+        const auto hijri = published ? published->HijriOf(date) : std::nullopt;
+        days.push_back(hijri.value_or(HijriFromDate(date)));
+    }
+    return days;
+}
+
+std::bitset<kYearRows> RamadanOf(const std::vector<HijriDate>& days) {
+    std::bitset<kYearRows> ramadan;
+    for (std::size_t row = 0; row < days.size(); ++row) {
+        ramadan[row] = days[row].month == kRamadan;
+    }
+    return ramadan;
+}
+
+Date UniversalDate(UtcSeconds moment) {
+    return DateSerial(1970, 1, 1) + static_cast<double>(moment) / kSecondsPerDay;
+}
+
+/// The zone's clock over the year and the days beside it.
+std::vector<ZoneSpan> SpansOfYear(const std::string& zone, std::int16_t year) {
+    const ZoneRules& rules = Ports().zoneRules;
+    const UtcSeconds from = MomentOf(rules, zone, DateSerial(year, 1, 1) - 2.0);
+    const UtcSeconds end = MomentOf(rules, zone, DateSerial(year + 1, 1, 1) + 2.0);
+    const auto span = [](UtcSeconds moment, const ZoneOffset& offset) {
+        return ZoneSpan{UniversalDate(moment), offset.seconds / 3600.0};
+    };
+    std::vector<ZoneSpan> spans = {span(from, rules.OffsetAt(zone, from))};
+    for (const ZoneChange& change : rules.ChangesBetween(zone, from, end)) {
+        spans.push_back(span(change.moment, change.after));
+    }
+    return spans;
+}
+
+}  // namespace
+
+YearOptions ReadYearOptions(std::int16_t cityIndex) {
+    YearOptions options;
+    options.zone = ChosenZone(cityIndex);
+    options.highLatitude = ReadOption(option::kHighLatitudeRule);
+    options.ishaInterval = ReadOption(option::kIshaInterval);
+    options.ishaIntervalRamadan = ReadOption(option::kIshaIntervalRamadan);
+    options.maghribAngle = ReadOption(option::kMaghribAngle);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        options.offsets[prayer] = ReadOption(option::kOffsets[prayer]);
+    }
+    options.hijri = ReadOption(option::kHijriCalendar);
+    options.hijriAdjustment = ReadOption(option::kHijriAdjustment);
+    return options;
+}
+
+void TakeAuthority(const Authority& authority, YearOptions& options) {
+    options.ishaInterval = authority.ishaInterval;
+    options.ishaIntervalRamadan = authority.ishaIntervalRamadan;
+    options.maghribAngle = authority.maghribAngle;
+    options.offsets = authority.margins;
+}
+
+YearRules RulesOfYear(const YearOptions& options, std::int16_t year) {
+    YearRules rules;
+    rules.moments.highLatitude = options.highLatitude;
+    rules.moments.ishaInterval = options.ishaInterval;
+    rules.moments.ishaIntervalRamadan = options.ishaIntervalRamadan;
+    rules.moments.maghribAngle = options.maghribAngle;
+    rules.moments.offsets = options.offsets;
+    if (!options.zone.empty()) {
+        rules.moments.zone = SpansOfYear(options.zone, year);
+    }
+    if (options.ishaIntervalRamadan != options.ishaInterval) {
+        rules.moments.ramadan =
+            RamadanOf(HijriDays(HijriSource::kUmmAlQura, options.hijriAdjustment, year));
+    }
+    if (options.hijri != HijriSource::kArithmetic || options.hijriAdjustment != 0) {
+        rules.hijri = HijriDays(options.hijri, options.hijriAdjustment, year);
+    }
+    return rules;
+}
+
+YearRules StoredRulesOfYear(std::int16_t year) {
+    YearOptions options = ReadYearOptions(Settings.CityIndex);
+    try {
+        return RulesOfYear(options, year);
+    } catch (const UnknownZoneFault&) {
+        options.zone.clear();
+        return RulesOfYear(options, year);
+    }
+}
+
+}  // namespace horavex

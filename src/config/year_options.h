@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "config/authorities.h"
+#include "engine/year_rules.h"
+#include "store/options.h"
+
+namespace horavex {
+
+/// The options that a year goes by, as values.
+struct YearOptions {
+    std::string zone;  // name in the zone database; empty for the record's zone and daylight days
+    HighLatitudeRule highLatitude = HighLatitudeRule::kNone;
+    int ishaInterval = 0;                     // minutes
+    int ishaIntervalRamadan = 0;              // minutes
+    double maghribAngle = 0.0;                // degrees
+    std::array<int, kPrayerCount> offsets{};  // minutes
+    HijriSource hijri = HijriSource::kArithmetic;
+    int hijriAdjustment = 0;  // days
+
+    bool operator==(const YearOptions&) const = default;
+};
+
+/// The stored options, with the zone of a city where its clock is to count.
+YearOptions ReadYearOptions(std::int16_t cityIndex);
+
+/// Puts what a method asks beyond its angles of Fajr and Isha in the place of the options: the
+/// intervals, the angle of Maghrib, the margins as offsets.
+void TakeAuthority(const Authority& authority, YearOptions& options);
+
+/// What they ask of a Gregorian year. Ramadan is the published one, with the adjustment, and the
+/// arithmetic one in years before and after these. Throws UnknownZoneFault for a zone that the zone
+/// database does not have, and as UmmAlQura does.
+YearRules RulesOfYear(const YearOptions& options, std::int16_t year);
+
+/// The rules of a year by the stored options and the working city. A zone that the zone database
+/// does not have counts as none.
+YearRules StoredRulesOfYear(std::int16_t year);
+
+}  // namespace horavex
