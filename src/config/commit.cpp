@@ -77,7 +77,6 @@ class AcceptedValues {
 public:
     AcceptedValues() {
         CopyActiveToWorking();
-        CityText = ActiveCityText;
         IshaAngle = ActiveIshaAngle;
     }
     ~AcceptedValues() { edits_.PutBack(); }
