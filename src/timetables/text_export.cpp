@@ -5,7 +5,9 @@
 #include "base/utf8.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/moments.h"
 #include "engine/progress_window.h"
+#include "engine/ruled_year.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
@@ -83,7 +85,8 @@ std::string MonthTitle(Date date) {
 struct ExportedYear {
     Date first = DateSerial(CurrentYear, 1, 1);
     int days = 365 + LeapFlag;
-    decltype(Times) times = Times;
+    YearTimes times = Times;
+    YearBasis basis = RuledYear;
     SettingsRecord settings = ActiveSettings;
 };
 
@@ -107,9 +110,9 @@ std::string DaylightMark(const SettingsRecord& settings, int day, DaylightNote& 
 /// day: 1-based day of the year.
 std::string DayCells(const ExportedYear& year, int day, int dayOfMonth) {
     std::string cells = CenterText(std::to_string(dayOfMonth), kDayWidth);
-    for (const auto& hours : year.times) {
-        cells +=
-            Cell(Ports().formats.MediumTime(hours.at(static_cast<std::size_t>(day) - 1) / 24.0));
+    const YearSource source = {year.basis.inputs, year.times, year.basis.rules.moments};
+    for (const Moment& moment : MomentsOf(source, static_cast<std::size_t>(day) - 1)) {
+        cells += Cell(Ports().formats.MediumTime(moment.hours / 24.0));
     }
     return cells + Crlf;
 }

@@ -3,7 +3,7 @@
 #include "base/fault.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
-#include "engine/year_table.h"
+#include "engine/moments.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
@@ -21,7 +21,8 @@ double FractionOf(int prayer, double day) {
     if (day < 0.0 || day >= static_cast<double>(kYearRows)) {
         throw BoundsFault("the day lies outside the year of the table");
     }
-    return TimesOfRow(static_cast<std::size_t>(day)).at(static_cast<std::size_t>(prayer)) / 24.0;
+    const DayMoments moments = MomentsOfRow(static_cast<std::size_t>(day));
+    return moments.at(static_cast<std::size_t>(prayer)).hours / 24.0;
 }
 
 void ShowTime(int prayer, double day) {

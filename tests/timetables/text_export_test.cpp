@@ -1,7 +1,9 @@
 #include "timetables/text_export.h"
 
 #include "base/text.h"
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
+#include "engine/year_table.h"
 #include "timetables/sample_timetable.h"
 #include "windows/f_message.h"
 
@@ -136,6 +138,14 @@ TEST_F(TextPagesTest, RowsAreThoseOfTheTable) {
     const auto pages = Pages();
     EXPECT_THAT(Rows(pages.at(1)).at(0), StartsWith("   1    04:30 AM "));
     EXPECT_THAT(Rows(pages.at(11)).at(30), EndsWith("    08:01 PM  \r"));
+}
+
+TEST_F(TextPagesTest, RulesOfTheYearCountInTheRows) {
+    RuledYear.inputs = PresentInputs();
+    RuledYear.rules.moments.ishaInterval = 95;
+    RuledYear.rules.moments.offsets[kFajr] = -2;
+    EXPECT_THAT(Written(), HasSubstr("   1    04:58 AM    06:30 AM    12:00 PM    03:15 PM    "
+                                     "06:00 PM    07:35 PM  \r\n"));
 }
 
 TEST_F(TextPagesTest, EmptyLineFollowsEveryFifthDayBelowThirty) {

@@ -2,6 +2,8 @@
 
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
+#include "engine/ruled_year.h"
+#include "engine/year_table.h"
 #include "shell/tick.h"
 #include "support/program_test.h"
 #include "windows/frm_times.h"
@@ -61,6 +63,15 @@ TEST_F(TimesWindowTest, OpensOnToday) {
     EXPECT_EQ(ShownTimes(), TimesOn(kTodaysRow));
     EXPECT_EQ(frmTimes->lblDate.Caption(), "Saturday, November 21, 2026");
     EXPECT_EQ(frmTimes->lblCity.Caption(), ActiveCityText);
+}
+
+TEST_F(TimesWindowTest, RulesOfTheYearCountInIt) {
+    const double asr = TodayTimes[kAsr];
+    RuledYear.inputs = PresentInputs();
+    RuledYear.rules.moments.offsets[kAsr] = 10;
+    frmTimes->cmdToday.UserClick();
+    EXPECT_NEAR(TodayTimes[kAsr], asr + 10.0 / 1440.0, 1e-9);
+    EXPECT_EQ(ShownTimes()[3], platform.formats.MediumTime(TodayTimes[kAsr]));
 }
 
 TEST_F(TimesWindowTest, CaptionIsTheDefinitionsUntilAPackReplacesIt) {
