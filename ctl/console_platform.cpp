@@ -1,6 +1,7 @@
 #include "ctl/console_platform.h"
 
 #include <chrono>
+#include <cmath>
 #include <cstdlib>
 #include <iostream>
 #include <thread>
@@ -28,7 +29,12 @@ RegistryFile FindRegistry(Files& files) {
 }
 
 Date WorkingZoneTime() {
-    const Date standard = SystemClock().UniversalNow() + Settings.TimeZone / 24.0;
+    const Date universal = SystemClock().UniversalNow();
+    if (!ChosenOptions.zone.empty()) {
+        const double seconds = (universal - DateSerial(1970, 1, 1)) * kSecondsPerDay;
+        return LocalDateOf(Ports().zoneRules, ChosenOptions.zone, std::llround(seconds));
+    }
+    const Date standard = universal + Settings.TimeZone / 24.0;
     return IsDaylightDay(standard) ? standard + 1.0 / 24.0 : standard;
 }
 

@@ -43,8 +43,8 @@ public:
     /// Shows that moment for good.
     void StandAt(Date moment);
 
-    /// Runs as the clocks of a place do that keep the zone of the working settings, their days
-    /// of daylight saving included.
+    /// Runs as the clocks of a place do that keep the chosen zone of the database or, without one,
+    /// that of the working settings, their days of daylight saving included.
     void RunInWorkingZone();
 
 private:

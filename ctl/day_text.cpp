@@ -4,6 +4,8 @@
 #include <sstream>
 
 #include "calendar/date_words.h"
+#include "ctl/basis.h"
+#include "ctl/moment_text.h"
 #include "ctl/plain_text.h"
 #include "engine/next_prayer.h"
 #include "geo/qibla.h"
@@ -21,8 +23,7 @@ std::string PrayerLine(const DayView& day, std::size_t prayer, bool highlight) {
     const bool next = static_cast<std::int16_t>(prayer) == day.next.prayer;
     std::ostringstream line;
     line << (next && highlight ? kBold : "") << (next ? "  > " : "    ") << std::left
-         << std::setw(10) << kPrayerKeys[prayer]
-         << Ports().formats.MediumTime(day.moments[prayer].hours / 24.0)
+         << std::setw(10) << kPrayerKeys[prayer] << MomentText(day.moments[prayer])
          << (next && highlight ? kPlain : "") << '\n';
     return line.str();
 }
@@ -38,9 +39,10 @@ std::string DayText(const DayView& day, bool highlight) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         text += PrayerLine(day, prayer, highlight);
     }
+    text += StarNote(day.moments);
     return text + WithoutControls("\nNext: " + NextPrayerSentence(day.next) +
                                   "\nRemaining: " + RemainingText(day.next.remainingSeconds) +
-                                  "\n" + QiblaText + "\n");
+                                  "\n" + QiblaText + "\n" + BasisText(day.now));
 }
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #include <memory>
 #include <optional>
 
+#include "ctl/basis.h"
 #include "ctl/calculation.h"
 #include "ctl/document_fonts.h"
 #include "ctl/place_options.h"
@@ -36,10 +37,11 @@ void Write(Session& session, const ExportOptions& options) {
     InstallDocumentFonts();
     WriteTimetable(*TimetableFormatOf(options.format), options.output,
                    options.paper == "letter" ? PaperSize::kLetter : PaperSize::kA4);
-    const int days = 365 + LeapFlag;
     if (options.output != kStandardOutput) {
-        session.Print({{"file", options.output}, {"days", days}},
-                      options.output + ": " + std::to_string(days) + " days\n");
+        Json json = {{"file", options.output}, {"days", DaysOfYear()}};
+        AddYearBasis(json);
+        session.Print(json, options.output + ": " + std::to_string(DaysOfYear()) + " days\n" +
+                                BasisText(DateSerial(CurrentYear, 1, 1)));
     }
 }
 
@@ -48,13 +50,15 @@ void RunExport(Session& session, const ExportOptions& options) {
         RefuseUsage("--json and the timetable cannot both go to the standard output");
     }
     currentLanguage = options.language.value_or(ReadStoredLanguage());
-    ApplyPlace(options.place);
+    ApplyPlace(options.place, DateSerial(options.year, 1, 1));
     Accept();
     Calculate(session, options.year);
     if (session.status == kDone) {
         Write(session, options);
     } else {
-        session.Print({{"file", nullptr}, {"days", 0}}, "");
+        Json json = {{"file", nullptr}, {"days", 0}};
+        AddYearBasis(json);
+        session.Print(json, "");
     }
 }
 
@@ -63,10 +67,7 @@ void RunExport(Session& session, const ExportOptions& options) {
 void AddExportCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "export", "A year's timetable as a file");
     auto options = std::make_shared<ExportOptions>();
-    AddCoordinateOptions(*command, options->place, false);
-    AddCityOptions(*command, options->place);
-    AddAuthorityOption(*command, options->place);
-    AddMethodOptions(*command, options->place, false);
+    AddPlaceOptions(*command, options->place);
     command->add_option("--year", options->year, "Gregorian year")
         ->check(CLI::Range(1, 9999))
         ->required();

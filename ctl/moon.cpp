@@ -4,14 +4,20 @@
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/number_text.h"
+#include "base/rounding.h"
 #include "ctl/command.h"
 #include "ctl/coordinate.h"
 #include "ctl/date_option.h"
 #include "ctl/number_range.h"
+#include "ctl/place_options.h"
+#include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
 #include "moon/moon_rise_set.h"
 #include "moon/phase_rows.h"
+#include "platform/platform.h"
+#include "store/location_record.h"
+#include "store/settings_record.h"
 #include "store/stored_values.h"
 
 namespace horavex {
@@ -19,16 +25,17 @@ namespace horavex {
 namespace {
 
 /// A year and the zone as the settings window's box holds it.
-struct YearOptions {
+struct PhaseOptions {
     int year = 0;
     std::string zone;
 };
 
 struct RiseOptions {
+    PlaceOptions place;  // a city, with its own clock
     std::string date;
     std::string latitude;
     std::string longitude;
-    double zone = 0.0;
+    std::optional<double> zone;
     bool daylightSaving = false;
 };
 
@@ -36,7 +43,7 @@ std::vector<std::string> Filled(const MoonRows& rows) {
     return {rows.begin(), rows.begin() + kMoonRows};
 }
 
-double ZoneOf(const YearOptions& options) {
+double ZoneOf(const PhaseOptions& options) {
     if (!IsNumeric(options.zone)) {
         RefuseUsage("--zone: \"" + options.zone + "\" is no number of hours");
     }
@@ -59,7 +66,7 @@ std::string LabelsText(const std::vector<std::string>& labels) {
     return text;
 }
 
-void PrintMoon(Session& session, const YearOptions& options) {
+void PrintMoon(Session& session, const PhaseOptions& options) {
     const double zone = ZoneOf(options);
     const std::int16_t year = ToInt16(options.year);
     const MoonRows newMoons = ComputeNewMoonRows(year, zone);
@@ -84,7 +91,7 @@ std::string WithoutReturns(std::string text) {
     return text;
 }
 
-void PrintEclipses(Session& session, const YearOptions& options) {
+void PrintEclipses(Session& session, const PhaseOptions& options) {
     const double zone = ZoneOf(options);
     const std::int16_t year = ToInt16(options.year);
     Eclipses eclipses;
@@ -106,14 +113,53 @@ std::pair<std::int16_t, std::int16_t> SignedParts(const CommandCoordinate& coord
     return {ToInt16(sign * coordinate.degrees), ToInt16(sign * coordinate.minutes)};
 }
 
-MoonObserver ObserverOf(const RiseOptions& options) {
+/// A coordinate of a city, in whole minutes.
+std::pair<std::int16_t, std::int16_t> SignedParts(std::int16_t stored) {
+    const int minutes = NearestInt(StoredCoord(stored) * 60.0);
+    return {ToInt16(minutes / 60), ToInt16(minutes % 60)};
+}
+
+/// Where and by which clock the moon is watched.
+struct MoonWatch {
+    MoonObserver observer;
+    double zone;  // hours east of Greenwich
+};
+
+double ZoneOfDay(Date day) {
+    const ZoneRules& rules = Ports().zoneRules;
+    const std::string& zone = ChosenOptions.zone;
+    return zone.empty() ? Settings.TimeZone
+                        : rules.OffsetAt(zone, MomentOf(rules, zone, day + 0.5)).seconds / 3600.0;
+}
+
+MoonWatch WatchInCity(const RiseOptions& options, Date day) {
+    ApplyPlace(options.place, day);
+    const auto [latDeg, latMin] = SignedParts(Location.City.Latitude);
+    const auto [lonDeg, lonMin] = SignedParts(Location.City.Longitude);
+    return {{latDeg, latMin, lonDeg, lonMin}, options.zone.value_or(ZoneOfDay(day))};
+}
+
+/// Without a city all of it is asked for.
+void RequireAll(const RiseOptions& options) {
+    const std::pair<const char*, bool> required[] = {{"--latitude", !options.latitude.empty()},
+                                                     {"--longitude", !options.longitude.empty()},
+                                                     {"--zone", options.zone.has_value()}};
+    for (const auto& [name, given] : required) {
+        if (!given) {
+            RefuseUsage(std::string(name) + " is required where no city is named");
+        }
+    }
+}
+
+MoonWatch WatchAtPoint(const RiseOptions& options) {
+    RequireAll(options);
     const auto [latDeg, latMin] =
         SignedParts(ParseCommandCoordinate(options.latitude, kLatitudeLetters, kLargestLatitude),
                     options.latitude);
     const auto [lonDeg, lonMin] =
         SignedParts(ParseCommandCoordinate(options.longitude, kLongitudeLetters, kLargestLongitude),
                     options.longitude);
-    return {latDeg, latMin, lonDeg, lonMin};
+    return {{latDeg, latMin, lonDeg, lonMin}, *options.zone};
 }
 
 struct RiseSetTexts {
@@ -122,10 +168,10 @@ struct RiseSetTexts {
 };
 
 /// Both texts of the error where the moon does not rise or set.
-RiseSetTexts TextsOf(Session& session, const CivilDate& date, const MoonObserver& observer,
+RiseSetTexts TextsOf(Session& session, const CivilDate& date, const MoonWatch& watch,
                      const RiseOptions& options) {
     try {
-        MoonRiseSet times = MoonRiseSetTimes(date, observer, options.zone);
+        MoonRiseSet times = MoonRiseSetTimes(date, watch.observer, watch.zone);
         if (options.daylightSaving) {
             AddDaylightHour(times);
         }
@@ -138,17 +184,18 @@ RiseSetTexts TextsOf(Session& session, const CivilDate& date, const MoonObserver
 
 void PrintMoonrise(Session& session, const RiseOptions& options) {
     const DateNumbers date = ParseCivilDateOption(options.date);
-    const MoonObserver observer = ObserverOf(options);
+    const MoonWatch watch = NamesCity(options.place)
+                                ? WatchInCity(options, DateSerial(date.year, date.month, date.day))
+                                : WatchAtPoint(options);
     currentLanguage = ReadStoredLanguage();
-    const RiseSetTexts texts =
-        TextsOf(session, {date.year, date.month, date.day}, observer, options);
+    const RiseSetTexts texts = TextsOf(session, {date.year, date.month, date.day}, watch, options);
     session.Print({{"rise", texts.rise}, {"set", texts.set}}, texts.rise + "\n" + texts.set + "\n");
 }
 
 void AddYearly(CLI::App& app, Session& session, const char* name, const char* description,
-               void (*print)(Session& session, const YearOptions& options)) {
+               void (*print)(Session& session, const PhaseOptions& options)) {
     auto* command = AddCommand(app, session, name, description);
-    auto options = std::make_shared<YearOptions>();
+    auto options = std::make_shared<PhaseOptions>();
     command->add_option("--year", options->year, "Gregorian year")
         ->check(CLI::Range(1, 9999))
         ->required();
@@ -162,11 +209,11 @@ void AddMoonriseCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "moonrise", "Rise and set of the moon on a day");
     auto options = std::make_shared<RiseOptions>();
     AddDateOption(*command, options->date);
-    command->add_option("--latitude", options->latitude, "Such as 30:3N")->required();
-    command->add_option("--longitude", options->longitude, "Such as 31:15E")->required();
+    command->add_option("--latitude", options->latitude, "Such as 30:3N");
+    command->add_option("--longitude", options->longitude, "Such as 31:15E");
+    AddCityOptions(*command, options->place);
     command->add_option("--zone", options->zone, "Hours east of Greenwich, fractions allowed")
-        ->check(NumberFrom(-12.0, 12.0))
-        ->required();
+        ->check(NumberFrom(-12.0, 12.0));
     command->add_flag("--dst", options->daylightSaving, "Add the hour of daylight saving");
     command->callback([&session, options] { PrintMoonrise(session, *options); });
 }

@@ -3,46 +3,41 @@
 #include <algorithm>
 
 #include "base/int16.h"
+#include "config/usual_choices.h"
 #include "ctl/method_option.h"
+#include "ctl/named_city.h"
 #include "ctl/number_range.h"
 #include "engine/angle.h"
 #include "lang/language_pack.h"
+#include "platform/platform.h"
 #include "store/angle_band.h"
-#include "store/city_search.h"
+#include "store/city_zones.h"
 #include "store/location_files.h"
 #include "store/location_text.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/stored_values.h"
+#include "store/zone_year.h"
 
 namespace horavex {
 
 YearOptions ChosenOptions;
+const Authority* ChosenMethod = nullptr;
 
 namespace {
 
 constexpr std::int16_t kUsualIshaAngle = 18;  // degrees
 
-std::int16_t FindCity(const std::string& text) {
-    const auto cities = ListCities();
-    const auto found = SearchCities(cities, text);
-    if (found.empty()) {
-        RefuseUsage("no city matches \"" + text + "\"");
+bool IsZone(const std::string& name) {
+    try {
+        Ports().zoneRules.OffsetAt(name, 0);
+        return true;
+    } catch (const UnknownZoneFault&) {
+        return false;
     }
-    return found.front().city->cityIndex;
 }
 
-std::int16_t CheckedCityIndex(int index) {
-    OpenCityFiles();
-    const std::int64_t last = kFirstCityIndex + CityCount() - 1;
-    CloseCityFiles();
-    if (index < kFirstCityIndex || index > last) {
-        RefuseUsage("city indexes run from " + std::to_string(kFirstCityIndex) + " to " +
-                    std::to_string(last));
-    }
-    return ToInt16(index);
-}
-
+/// A stored name that the zone database does not have counts as none.
 void TakeAccepted() {
     LoadActiveSettings();
     PeekIshaAngle();
@@ -50,6 +45,9 @@ void TakeAccepted() {
     CopyActiveToWorking();
     CityText = ActiveCityText;
     ChosenOptions = ReadYearOptions(ActiveSettings.CityIndex);
+    if (!IsZone(ChosenOptions.zone)) {
+        ChosenOptions.zone.clear();
+    }
 }
 
 /// Method values that go with the place in Location.
@@ -78,68 +76,99 @@ void TakeCoordinates(double latitude, double longitude) {
     TakeDefaultsOfPlace();
 }
 
-void TakePlace(const PlaceOptions& options) {
-    if (options.city) {
-        TakeCity(FindCity(*options.city));
-    } else if (options.cityIndex) {
-        TakeCity(CheckedCityIndex(*options.cityIndex));
-    } else if (options.latitude) {
-        TakeCoordinates(*options.latitude, *options.longitude);
-    } else {
-        TakeAccepted();
-    }
-}
-
 /// The figures that an authority leaves open stay as they are.
 void TakeMethodOf(const Authority& authority) {
+    ChosenMethod = &authority;
     TakeAuthority(authority, ChosenOptions);
     Settings.FajrAngle = authority.fajrAngle;
     IshaAngle = authority.ishaInterval == 0 ? authority.ishaAngle : IshaAngle;
     Settings.AsrRatio = authority.asrRatio == 0.0 ? Settings.AsrRatio : authority.asrRatio;
 }
 
-void TakeMethod(const PlaceOptions& options) {
-    Settings.TimeZone = options.zone.value_or(Settings.TimeZone);
+/// The record takes what it can hold of the zone, and the rules the rest.
+void TakeZone(const std::string& name, Date day) {
+    const ZoneYear year = FindZoneYear(Ports().zoneRules, name, day);
+    Settings.TimeZone = year.hours;
+    Settings.DstEnabled = year.daylight ? 1 : 0;
+    Settings.DstStart = year.dstStart;
+    Settings.DstEnd = year.dstEnd;
+    ChosenOptions.zone = name;
+}
+
+/// What is usual in the city that has just been taken.
+void TakeUsual(Date day) {
+    const std::string zone = CityZones().Of(Settings.CityIndex);
+    if (IsZone(zone)) {
+        TakeZone(zone, day);
+    }
+    ChosenOptions.highLatitude = UsualHighLatitudeRule(StoredCoord(Location.City.Latitude));
+}
+
+/// The method by hand, or else the one that is usual in the country of a city.
+void TakeAnyMethod(const PlaceOptions& options) {
+    if (options.method) {
+        TakeMethodOf(AuthorityOfText(*options.method));
+    } else if (NamesCity(options)) {
+        TakeMethodOf(UsualAuthority(Location.Country));
+    }
+}
+
+/// Hours by hand: the clock of no zone of the database.
+void TakeHours(const PlaceOptions& options) {
+    if (options.zone) {
+        Settings.DstEnabled = ChosenOptions.zone.empty() ? Settings.DstEnabled : 0;
+        Settings.TimeZone = *options.zone;
+        ChosenOptions.zone.clear();
+    }
+    if (options.dstStart) {
+        Settings.DstEnabled = 1;
+        Settings.DstStart = ToInt16(*options.dstStart);
+        Settings.DstEnd = ToInt16(*options.dstEnd);
+        ChosenOptions.zone.clear();
+    }
+}
+
+void TakeClock(const PlaceOptions& options, Date day) {
+    const auto& zone = options.rules.timeZone;
+    if (zone && !IsZone(*zone)) {
+        RefuseUsage("the zone database has no zone \"" + *zone + "\"");
+    }
+    if (zone) {
+        TakeZone(*zone, day);
+    }
+    TakeHours(options);
+}
+
+void TakeAngles(const PlaceOptions& options) {
     Settings.FajrAngle = options.fajr.value_or(Settings.FajrAngle);
     if (options.isha) {  // an angle by hand stands for the interval, too
         IshaAngle = *options.isha;
         ChosenOptions.ishaInterval = ChosenOptions.ishaIntervalRamadan = 0;
     }
     Settings.AsrRatio = options.asr.value_or(Settings.AsrRatio);
-    if (options.dstStart) {
-        Settings.DstEnabled = 1;
-        Settings.DstStart = ToInt16(*options.dstStart);
-        Settings.DstEnd = ToInt16(*options.dstEnd);
-    }
 }
 
-}  // namespace
-
-void AddCoordinateOptions(CLI::App& command, PlaceOptions& options, bool required) {
+void AddCoordinateOptions(CLI::App& command, PlaceOptions& options) {
     auto* latitude = command.add_option("--latitude", options.latitude, "Degrees, north positive")
-                         ->check(NumberFrom(-90.0, 90.0))
-                         ->required(required);
+                         ->check(NumberFrom(-90.0, 90.0));
     auto* longitude =
         command.add_option("--longitude", options.longitude, "Degrees, east positive")
-            ->check(NumberFrom(-180.0, 180.0))
-            ->required(required);
+            ->check(NumberFrom(-180.0, 180.0));
     latitude->needs(longitude);
     longitude->needs(latitude);
 }
 
-void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required) {
+void AddMethodOptions(CLI::App& command, PlaceOptions& options) {
     command.add_option("--zone", options.zone, "Hours east of Greenwich, fractions allowed")
-        ->check(NumberFrom(-12.0, 12.0))
-        ->required(required);
+        ->check(NumberFrom(-12.0, 12.0));
     command.add_option("--fajr", options.fajr, "Fajr depression angle in degrees")
-        ->check(NumberFrom(-90.0, 90.0))
-        ->required(required);
+        ->check(NumberFrom(-90.0, 90.0));
     command.add_option("--isha", options.isha, "Isha depression angle in degrees")
-        ->check(NumberFrom(-90.0, 90.0))
-        ->required(required);
+        ->check(NumberFrom(-90.0, 90.0));
     command.add_option("--asr", options.asr, "Asr shadow factor: 1, or 2 for Hanafi")
-        ->check(CLI::IsMember({1, 2}))
-        ->required(required);
+        ->check(CLI::IsMember({1, 2}));
+    command.add_option("--method", options.method,
+                       "The method of an authority, by (a part of) its name");
     auto* start =
         command.add_option("--dst-start", options.dstStart, "First day of daylight saving")
             ->check(CLI::Range(1, 366));
@@ -149,32 +178,68 @@ void AddMethodOptions(CLI::App& command, PlaceOptions& options, bool required) {
     end->needs(start);
 }
 
-void AddAuthorityOption(CLI::App& command, PlaceOptions& options) {
-    command.add_option("--method", options.method,
-                       "The method of an authority, by (a part of) its name");
-}
+}  // namespace
 
 void AddCityOptions(CLI::App& command, PlaceOptions& options) {
-    auto* city = command.add_option("--city", options.city, "A city by (a part of) its name");
+    auto* city = command.add_option("--city", options.city,
+                                    "A city by (a part of) its name; behind a comma its province "
+                                    "or country");
     auto* index = command.add_option("--city-index", options.cityIndex, "A city by its number");
-    city->excludes(index)->excludes("--latitude");
-    index->excludes("--latitude");
+    auto* near = command.add_option("--near", options.near,
+                                    "The city nearest to LAT,LON, such as 51.5,-0.12");
+    city->excludes(index)->excludes(near)->excludes("--latitude");
+    index->excludes(near)->excludes("--latitude");
+    near->excludes("--latitude");
+}
+
+void AddWhereOptions(CLI::App& command, PlaceOptions& options) {
+    AddCoordinateOptions(command, options);
+    AddCityOptions(command, options);
+}
+
+void AddPlaceOptions(CLI::App& command, PlaceOptions& options) {
+    AddWhereOptions(command, options);
+    AddMethodOptions(command, options);
+    AddTimeZoneOption(command, options.rules);
+    AddMomentOptions(command, options.rules);
+    AddHijriOption(command, options.rules);
 }
 
 bool NamesPlace(const PlaceOptions& options) {
-    return options.city || options.cityIndex || options.latitude;
+    return NamesCity(options) || options.latitude;
+}
+
+bool NamesCity(const PlaceOptions& options) {
+    return options.city || options.cityIndex || options.near;
 }
 
 std::int16_t StoredFromDegrees(double degrees) {
     return RoundToInt16(degrees * 100.0);
 }
 
-void ApplyPlace(const PlaceOptions& options) {
-    TakePlace(options);
-    if (options.method) {
-        TakeMethodOf(AuthorityOfText(*options.method));
+void TakeNamedPlace(const PlaceOptions& options) {
+    if (options.city) {
+        TakeCity(CityOfText(*options.city));
+    } else if (options.cityIndex) {
+        TakeCity(CityOfIndex(*options.cityIndex));
+    } else if (options.near) {
+        TakeCity(CityNear(*options.near));
+    } else if (options.latitude) {
+        TakeCoordinates(*options.latitude, *options.longitude);
+    } else {
+        TakeAccepted();
     }
-    TakeMethod(options);
+}
+
+void ApplyPlace(const PlaceOptions& options, Date day) {
+    TakeNamedPlace(options);
+    if (NamesCity(options)) {
+        TakeUsual(day);
+    }
+    TakeAnyMethod(options);
+    TakeClock(options, day);
+    TakeAngles(options);
+    TakeRules(options.rules, ChosenOptions);
 }
 
 }  // namespace horavex

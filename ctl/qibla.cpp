@@ -5,6 +5,7 @@
 #include "ctl/place_options.h"
 #include "engine/angle.h"
 #include "engine/place.h"
+#include "store/location_record.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -12,8 +13,9 @@ namespace horavex {
 namespace {
 
 void PrintQibla(const Session& session, const PlaceOptions& place) {
-    LatitudeRad = DegToRad(StoredCoord(StoredFromDegrees(*place.latitude)));
-    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(StoredFromDegrees(*place.longitude)));
+    TakeNamedPlace(place);
+    LatitudeRad = DegToRad(StoredCoord(Location.City.Latitude));
+    LongitudeWestRad = -1.0 * DegToRad(StoredCoord(Location.City.Longitude));
     Settings.QiblaMethod = 1;
     ComputeQibla();
     const DegreesMinutes split = SplitDegrees(QiblaDegrees);
@@ -30,7 +32,7 @@ void PrintQibla(const Session& session, const PlaceOptions& place) {
 void AddQiblaCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "qibla", "The direction of Mecca from a place");
     auto place = std::make_shared<PlaceOptions>();
-    AddCoordinateOptions(*command, *place, true);
+    AddWhereOptions(*command, *place);
     command->callback([&session, place] { PrintQibla(session, *place); });
 }
 

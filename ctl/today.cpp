@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "calendar/date_words.h"
+#include "ctl/basis.h"
 #include "ctl/calculation.h"
 #include "ctl/day_text.h"
 #include "ctl/place_options.h"
@@ -73,18 +74,21 @@ Json HijriJson(const HijriDate& hijri) {
 }
 
 Json DayJson(const DayView& day) {
-    return {{"city", day.place},
-            {"date", IsoDate(CivilFromDate(day.date))},
-            {"hijri", HijriJson(day.hijri)},
-            {"hours", HoursJson(day.moments)},
-            {"times", TimesJson(day.moments)},
-            {"next",
-             {{"index", day.next.prayer},
-              {"sentence", NextPrayerSentence(day.next)},
-              {"remainingSeconds", static_cast<int>(day.next.remainingSeconds)},
-              {"remaining", RemainingText(day.next.remainingSeconds)}}},
-            {"qibla", {{"degrees", day.qiblaDegrees}, {"text", QiblaText}}},
-            {"failure", FailureJson()}};
+    Json json = {{"city", day.place},
+                 {"date", IsoDate(CivilFromDate(day.date))},
+                 {"hijri", HijriJson(day.hijri)},
+                 {"hours", HoursJson(day.moments)},
+                 {"times", TimesJson(day.moments)},
+                 {"next",
+                  {{"index", day.next.prayer},
+                   {"sentence", NextPrayerSentence(day.next)},
+                   {"remainingSeconds", static_cast<int>(day.next.remainingSeconds)},
+                   {"remaining", RemainingText(day.next.remainingSeconds)}}},
+                 {"qibla", {{"degrees", day.qiblaDegrees}, {"text", QiblaText}}},
+                 {"failure", FailureJson()}};
+    AddBasis(json, day.now);
+    json["moments"] = MomentsJson(day.date, day.moments);
+    return json;
 }
 
 int PresentYear() {
@@ -114,19 +118,19 @@ void Watch(Session& session) {
     }
 }
 
-/// The accepted place is where the computer stands, so its clock counts; another place has a
-/// clock of its own.
+/// The accepted place is where the computer stands, so its clock counts; another place, or a zone
+/// by hand, has a clock of its own.
 void SetClock(ConsoleClock& clock, const TodayOptions& options) {
     if (options.at) {
         clock.StandAt(ParseMoment(*options.at));
-    } else if (NamesPlace(options.place)) {
+    } else if (NamesPlace(options.place) || options.place.rules.timeZone) {
         clock.RunInWorkingZone();
     }
 }
 
 void RunToday(Session& session, const TodayOptions& options) {
     currentLanguage = ReadStoredLanguage();
-    ApplyPlace(options.place);
+    ApplyPlace(options.place, options.at ? ParseMoment(*options.at) : Ports().clock.Today());
     SetClock(session.platform.clock, options);
     Calculate(session, PresentYear());
     if (options.watch) {
@@ -142,10 +146,7 @@ void RunToday(Session& session, const TodayOptions& options) {
 void AddTodayCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "today", "The day's times and the next prayer");
     auto options = std::make_shared<TodayOptions>();
-    AddCoordinateOptions(*command, options->place, false);
-    AddCityOptions(*command, options->place);
-    AddAuthorityOption(*command, options->place);
-    AddMethodOptions(*command, options->place, false);
+    AddPlaceOptions(*command, options->place);
     auto* at = command->add_option("--at", options->at, "A moment in place of now");
     command->add_flag("--watch", options->watch, "Redraw each second in the terminal")
         ->excludes(at)

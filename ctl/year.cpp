@@ -1,11 +1,14 @@
+#include <algorithm>
 #include <memory>
 #include <sstream>
 
+#include "ctl/basis.h"
 #include "ctl/calculation.h"
+#include "ctl/moment_text.h"
 #include "ctl/place_options.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
-#include "engine/solar_event.h"
+#include "engine/moments.h"
 #include "engine/year_table.h"
 #include "store/location_record.h"
 
@@ -18,49 +21,72 @@ struct YearArguments {
     int year = 0;
 };
 
-std::size_t DaysOfYear() {
-    return 365U + static_cast<std::size_t>(LeapFlag);
+PrayerRow HoursOf(const DayMoments& moments) {
+    PrayerRow hours;
+    std::ranges::transform(moments, hours.begin(), &Moment::hours);
+    return hours;
 }
 
-/// Rows that the calculation did not reach are zeros.
+/// A year that gave up is told as its table stands; rows that were not reached are zeros.
 Json TimesJson() {
     Json rows = Json::array();
     for (std::size_t row = 0; row < DaysOfYear(); ++row) {
-        rows.push_back(TimesOfRow(row));
+        rows.push_back(CalcFailed == 0 ? HoursOf(MomentsOfRow(row)) : TimesOfRow(row));
     }
     return rows;
 }
 
-std::string DayLine(std::size_t row) {
+std::string DayLine(std::size_t row, const DayMoments& moments) {
     const CivilDate date = CivilFromDate(DateSerial(CurrentYear, 1, 1) + static_cast<double>(row));
     std::ostringstream line;
     line << (date.month < 10 ? "0" : "") << date.month << (date.day < 10 ? "-0" : "-") << date.day;
-    for (const double hours : TimesOfRow(row)) {
-        line << "  "
-             << (hours == NoEvent ? std::string("   --   ")
-                                  : Ports().formats.MediumTime(hours / 24.0));
+    line << "  ";
+    for (const Moment& moment : moments) {
+        line << MomentColumn(moment);
     }
-    return line.str() + "\n";
+    std::string text = line.str();
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text + "\n";
 }
 
 std::string TimesText() {
     std::string text = "        Fajr   Shurooq      Zuhr       Asr   Maghrib      Isha\n";
+    std::vector<Moment> all;
     for (std::size_t row = 0; row < DaysOfYear(); ++row) {
-        text += DayLine(row);
+        const DayMoments moments = MomentsOfRow(row);
+        text += DayLine(row, moments);
+        all.insert(all.end(), moments.begin(), moments.end());
     }
-    return text;
+    return text + StarNote(all) + NextDayNote(all) + BasisText(DateSerial(CurrentYear, 1, 1));
+}
+
+/// Without a city everything that the times depend on is asked for.
+void RequireAll(const PlaceOptions& place) {
+    const std::pair<const char*, bool> required[] = {
+        {"--latitude", place.latitude.has_value()},
+        {"--zone", place.zone || place.rules.timeZone},
+        {"--fajr", place.fajr.has_value()},
+        {"--isha", place.isha || place.rules.ishaInterval},
+        {"--asr", place.asr.has_value()}};
+    for (const auto& [name, given] : required) {
+        if (!given && !NamesCity(place)) {
+            RefuseUsage(std::string(name) + " is required where no city is named");
+        }
+    }
 }
 
 void PrintYear(Session& session, const YearArguments& options) {
-    ApplyPlace(options.place);
+    RequireAll(options.place);
+    ApplyPlace(options.place, DateSerial(options.year, 1, 1));
     Calculate(session, options.year);
-    session.Print({{"year", options.year},
-                   {"latitude", StoredCoord(Location.City.Latitude)},
-                   {"longitude", StoredCoord(Location.City.Longitude)},
-                   {"calcFailed", CalcFailed},
-                   {"failure", FailureJson()},
-                   {"times", TimesJson()}},
-                  session.status == kDone ? TimesText() : "");
+    Json json = {{"year", options.year},
+                 {"latitude", StoredCoord(Location.City.Latitude)},
+                 {"longitude", StoredCoord(Location.City.Longitude)},
+                 {"calcFailed", CalcFailed},
+                 {"failure", FailureJson()},
+                 {"times", TimesJson()}};
+    AddYearBasis(json);
+    session.Print(json, session.status == kDone ? TimesText() : "");
 }
 
 }  // namespace
@@ -68,8 +94,7 @@ void PrintYear(Session& session, const YearArguments& options) {
 void AddYearCommand(CLI::App& app, Session& session) {
     auto* command = AddCommand(app, session, "year", "The six times of every day of a year");
     auto options = std::make_shared<YearArguments>();
-    AddCoordinateOptions(*command, options->place, true);
-    AddMethodOptions(*command, options->place, true);
+    AddPlaceOptions(*command, options->place);
     command->add_option("--year", options->year, "Gregorian year")
         ->check(CLI::Range(1, 9999))
         ->required();

@@ -197,7 +197,7 @@ constexpr Authority kAuthorities[] = {
 };
 
 struct Usual {
-    const char* country;
+    std::string_view country;
     const char* key;
 };
 
@@ -301,6 +301,11 @@ std::vector<std::string> CountriesOf(const Authority& authority) {
         }
     }
     return countries;
+}
+
+const Authority* AuthorityOfCountry(std::string_view country) {
+    const auto* found = std::ranges::find(kUsual, country, &Usual::country);
+    return found == std::end(kUsual) ? nullptr : AuthorityOfKey(found->key);
 }
 
 }  // namespace horavex

@@ -42,4 +42,7 @@ std::vector<const Authority*> MatchingAuthorities(std::string_view text);
 /// has two.
 std::vector<std::string> CountriesOf(const Authority& authority);
 
+/// The one that is usual in a country; null where none is known.
+const Authority* AuthorityOfCountry(std::string_view country);
+
 }  // namespace horavex

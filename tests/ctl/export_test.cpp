@@ -30,7 +30,8 @@ protected:
         const std::string file = ctl / ("year." + format);
         const std::string line = "export " + std::string(kCairo) + " --format " + format + more;
         const Json told = JsonOf(ctl, line, {"--output", file});
-        EXPECT_THAT(KeysOf(told), ElementsAre("file", "days"));
+        EXPECT_THAT(KeysOf(told), ElementsAre("file", "days", "timeZone", "method",
+                                              "highLatitudeRule", "moments"));
         EXPECT_EQ(told["file"], file);
         EXPECT_EQ(told["days"], 365);
         return file;
@@ -170,7 +171,9 @@ TEST_F(CtlExport, CalculationThatGivesUpWritesNoFile) {
                              "export --latitude 51.5 --longitude 0 --zone 0 --fajr 18 --isha 17 "
                              "--year 2001 --format csv",
                              {"--output", file}, 1);
-    EXPECT_EQ(told, Json::parse(R"({"file":null,"days":0})"));
+    EXPECT_TRUE(told["file"].is_null());
+    EXPECT_EQ(told["days"], 0);
+    EXPECT_TRUE(told["moments"].is_null());
     EXPECT_EQ(ContentOf(file), "");
 }
 

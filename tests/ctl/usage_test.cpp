@@ -42,7 +42,8 @@ constexpr BadCall kCommands[] = {
 INSTANTIATE_TEST_SUITE_P(Commands, BadUsage, testing::ValuesIn(kCommands));
 
 constexpr BadCall kMissing[] = {
-    {"year", "--latitude"},
+    {"year", "--year"},
+    {"year --year 2026", "--latitude"},
     {"year --latitude 1 --longitude 1 --zone 0 --fajr 18 --isha 18 --asr 1", "--year"},
     {"year --latitude 1 --longitude 1 --fajr 18 --isha 18 --asr 1 --year 2026", "--zone"},
     {"year --latitude 1 --longitude 1 --zone 0 --fajr 18 --isha 18 --year 2026", "--asr"},
@@ -98,6 +99,17 @@ constexpr BadCall kRanges[] = {
     {"text --entry 1 --language -1", "--language"},
     {"cities --limit 0", "--limit"},
     {"cities --limit -1", "--limit"},
+    {"today --high-latitude fifth", "--high-latitude"},
+    {"today --isha-interval 181", "--isha-interval"},
+    {"today --maghrib-angle 10.5", "--maghrib-angle"},
+    {"today --hijri lunar", "--hijri"},
+    {"today --offset isha=61", "--offset"},
+    {"today --offset isha", "--offset"},
+    {"today --offset dawn=3", "--offset"},
+    {"today --offset isha=3,", "--offset"},
+    {"today --near 91,0", "--near"},
+    {"today --near nan,0", "--near"},
+    {"today --near 51.5", "--near"},
     {"today --city-index -32001", "city indexes run from -32000"},
     {"today --city-index 32767", "city indexes run from -32000"},
     {"today --city-index 40000", "city indexes run from -32000"},
@@ -184,6 +196,11 @@ constexpr BadCall kTogether[] = {
     {"today --city Cairo --latitude 1 --longitude 1", "--city"},
     {"today --city-index 5183 --latitude 1 --longitude 1", "--city-index"},
     {"today --city Cairo --city-index 5183", "--city"},
+    {"today --city Cairo --near 30,31", "--city"},
+    {"today --near 30,31 --latitude 1 --longitude 1", "--near"},
+    {"today --time-zone Europe/London --zone 0", "--time-zone"},
+    {"today --time-zone Europe/London --dst-start 90 --dst-end 300", "--time-zone"},
+    {"today --isha 17 --isha-interval 90", "--isha"},
     {"today --watch --json", "--watch"},
     {"today --watch --at 2026-11-21", "--watch"},
 };
@@ -191,6 +208,8 @@ INSTANTIATE_TEST_SUITE_P(ExcludingOptions, BadUsage, testing::ValuesIn(kTogether
 
 constexpr BadCall kAbsent[] = {
     {"today --city Xyzzyx", "no city matches \"Xyzzyx\""},
+    {"today --time-zone Mars/Base", "the zone database has no zone \"Mars/Base\""},
+    {"today --city Cairo --time-zone ../x", "the zone database has no zone"},
     {"today --watch", "--watch wants a terminal"},
     {"validate nowhere/at/all", "there is no folder \"nowhere/at/all\""},
     {"validate /dev/null", "there is no folder \"/dev/null\""},

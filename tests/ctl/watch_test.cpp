@@ -77,7 +77,9 @@ TEST_F(CtlWatch, SignalsToEndLeaveTheTerminalAsItWas) {
 
 TEST(CtlWatchOf, PlaceThatCannotBeCalculatedNeverOpensTheSecondScreen) {
     const Ctl ctl;
-    PseudoTerminal terminal("horavexctl", {"today", "--watch", "--city", "Tromso"}, ctl.variables);
+    PseudoTerminal terminal("horavexctl",
+                            {"today", "--watch", "--city", "Tromso", "--high-latitude", "none"},
+                            ctl.variables);
     const std::string text = terminal.ReadToEnd();
     EXPECT_THAT(text, testing::HasSubstr("cannot be calculated with the present settings"));
     EXPECT_THAT(text, testing::Not(testing::HasSubstr("\x1b")));

@@ -41,7 +41,8 @@ std::vector<double> Shifts(const Json& times, const Json& plain) {
 TEST(CtlYear, ObjectHasTheAgreedKeysAndTypes) {
     const Json year = JsonOf(Ctl(), CairoCall("--asr 1"));
     EXPECT_THAT(KeysOf(year),
-                ElementsAre("year", "latitude", "longitude", "calcFailed", "failure", "times"));
+                ElementsAre("year", "latitude", "longitude", "calcFailed", "failure", "times",
+                            "timeZone", "method", "highLatitudeRule", "moments"));
     EXPECT_EQ(year["year"], 2001);
     EXPECT_EQ(year["latitude"], 30.05);
     EXPECT_EQ(year["longitude"], 31.25);

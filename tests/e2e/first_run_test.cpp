@@ -157,8 +157,8 @@ TEST_F(FirstRunTest, CityInEgyptWithTheComputersZone) {
 
 TEST_F(FirstRunTest, CityInIndonesiaWithTheComputersZone) {
     GoThrough("WIB-7", "jakarta",
-              {"--city", "Jakarta, Jakarta", "--zone", "7", "--fajr", "18", "--isha", "18", "--asr",
-               "1"});
+              {"--city", "Jakarta, Jakarta", "--method", "mwl", "--zone", "7", "--fajr", "18",
+               "--isha", "18", "--asr", "1"});
     EXPECT_EQ(Stored("AI.DAT").TimeZone, 7.0);
     EXPECT_EQ(Stored("AI.DAT").DstEnabled, 0);
 }
@@ -210,8 +210,9 @@ TEST_F(FirstRunTest, CityAt52DegreesWithTheZoneTypedInTheSettingsWindow) {
     LetSecondsPass(2);
     EXPECT_EQ(Stored("AI.DAT").TimeZone, 1.0);
     EXPECT_EQ(Stored("AI.DAT").FajrAngle, 10.0);
-    EXPECT_EQ(TimesToday({}), TimesToday({"--city", "Berlin, Berlin", "--zone", "1", "--fajr", "10",
-                                          "--isha", "10", "--asr", "1"}));
+    EXPECT_EQ(TimesToday({}),
+              TimesToday({"--city", "Berlin, Berlin", "--zone", "1", "--fajr", "10", "--isha", "10",
+                          "--asr", "1", "--high-latitude", "none"}));
     ExpectSameAfterRestart(program, TimesOnFace(face));
 }
 

@@ -1,0 +1,121 @@
+#include "ctl/basis.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "base/rounding.h"
+#include "ctl/place_options.h"
+#include "engine/current_year.h"
+#include "engine/moments.h"
+#include "engine/solar_event.h"
+#include "engine/year_table.h"
+#include "store/settings_record.h"
+#include "timetables/timetable.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kSecondsPerHour = 3600.0;
+
+/// That of the working clock at a time that it shows. day: the one whose moment it is, by which the
+/// daylight hour of the record goes.
+ZoneOffset OffsetAt(Date local, Date day) {
+    if (!ChosenOptions.zone.empty()) {
+        const ZoneRules& rules = Ports().zoneRules;
+        return rules.OffsetAt(ChosenOptions.zone, MomentOf(rules, ChosenOptions.zone, local));
+    }
+    const bool daylight = IsDaylightDay(day);
+    const double hours = Settings.TimeZone + (daylight ? 1.0 : 0.0);
+    return {NearestInt(hours * kSecondsPerHour), daylight};
+}
+
+Json ZoneJson(Date now) {
+    const ZoneOffset offset = OffsetAt(now, now);
+    const std::string& name = ChosenOptions.zone;
+    return {{"name", name.empty() ? Json() : Json(name)},
+            {"offset", offset.seconds / kSecondsPerHour},
+            {"daylight", offset.daylight}};
+}
+
+std::string RuleWord() {
+    return option::kHighLatitudeRule.words[static_cast<std::size_t>(ChosenOptions.highLatitude)];
+}
+
+/// "+03:00".
+std::string OffsetText(const ZoneOffset& offset) {
+    const int minutes = std::abs(offset.seconds) / 60;
+    char text[32];
+    std::snprintf(text, sizeof text, "%c%02d:%02d", offset.seconds < 0 ? '-' : '+', minutes / 60,
+                  minutes % 60);
+    return text;
+}
+
+/// "2026-06-21T23:14:05+03:00".
+Json LocalJson(Date day, double hours) {
+    if (std::fabs(hours) >= NoEvent) {
+        return nullptr;
+    }
+    const double seconds = RoundHalfEven(hours * kSecondsPerHour);
+    const Date local = day + seconds / kSecondsPerDay;
+    const ClockTime clock = ClockTimeOf(local);
+    const double date = day + std::floor(seconds / kSecondsPerDay);
+    char text[32];
+    std::snprintf(text, sizeof text, "T%02d:%02d:%02d", clock.hour, clock.minute, clock.second);
+    return IsoDate(CivilFromDate(date)) + text + OffsetText(OffsetAt(local, day));
+}
+
+Json YearMomentsJson() {
+    Json days = Json::array();
+    const Date newYear = DateSerial(CurrentYear, 1, 1);
+    for (std::size_t row = 0; row < DaysOfYear(); ++row) {
+        days.push_back(MomentsJson(newYear + static_cast<double>(row), MomentsOfRow(row)));
+    }
+    return days;
+}
+
+constexpr const char* kBy[] = {"sun", "rule", "interval"};
+
+}  // namespace
+
+void AddBasis(Json& object, Date now) {
+    object["timeZone"] = ZoneJson(now);
+    object["method"] = ChosenMethod == nullptr ? Json() : Json(ChosenMethod->name);
+    object["highLatitudeRule"] = RuleWord();
+}
+
+std::string BasisText(Date now) {
+    std::string text;
+    if (!ChosenOptions.zone.empty()) {
+        text +=
+            "Time zone: " + ChosenOptions.zone + ", UTC" + OffsetText(OffsetAt(now, now)) + "\n";
+    }
+    if (ChosenMethod != nullptr) {
+        text += std::string("Method: ") + ChosenMethod->name + "\n";
+    }
+    if (ChosenOptions.highLatitude != HighLatitudeRule::kNone) {
+        text += "Nights without twilight: by the rule \"" + RuleWord() + "\"\n";
+    }
+    return text;
+}
+
+Json MomentsJson(Date day, const DayMoments& moments) {
+    Json array = Json::array();
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        array.push_back({{"prayer", kPrayerKeys[prayer]},
+                         {"local", LocalJson(day, moments[prayer].hours)},
+                         {"by", kBy[static_cast<std::size_t>(moments[prayer].by)]}});
+    }
+    return array;
+}
+
+void AddYearBasis(Json& object) {
+    AddBasis(object, DateSerial(CurrentYear, 1, 1));
+    object["moments"] = CalcFailed == 0 ? YearMomentsJson() : Json();
+}
+
+std::size_t DaysOfYear() {
+    return 365U + static_cast<std::size_t>(LeapFlag);
+}
+
+}  // namespace horavex
