@@ -121,6 +121,20 @@ TEST(CtlRules, CountForAcceptedSettingsAndCoordinatesToo) {
     EXPECT_EQ(day["moments"][0]["by"], "rule");
 }
 
+// The value's file has one section; a line of another opens the next.
+TEST(CtlRules, StoredZoneThatTheDatabaseLacksCountsAsNone) {
+    const auto zone = [](const std::string& name) {
+        const Ctl ctl;
+        ctl.StoreRegistryValue("Language",
+                               "English\n[Software\\\\Horavex\\\\Options]\n"
+                               "Automatic Zone=1\nZone Name=" +
+                                   name);
+        return JsonOf(ctl, kMidsummer)["timeZone"]["name"];
+    };
+    EXPECT_EQ(zone("Africa/Cairo"), "Africa/Cairo");
+    EXPECT_TRUE(zone("Mars/Base").is_null());
+}
+
 TEST(CtlRules, CalendarOfTheHijriDateIsChosen) {
     const auto hijri = [](const std::string& calendar) {
         return JsonOf(Ctl(), "today --at 2026-06-16 --hijri " + calendar)["hijri"]["day"];
@@ -167,6 +181,16 @@ TEST(CtlMoments, TableOfAYearMarksThem) {
     EXPECT_THAT(text, HasSubstr("\n06-21  03:09 AM* 03:53 AM"));
     EXPECT_THAT(text, HasSubstr("\n* by a rule"));
     EXPECT_THAT(text, HasSubstr("\nTime zone: Europe/Oslo, UTC+01:00\nMethod: Muslim World"));
+}
+
+TEST(CtlMoments, TableOfAYearMarksTheNextDay) {
+    const std::string text = Ctl()
+                                 .Run(
+                                     "year --latitude 59.9 --longitude 10.7 --zone 3 --fajr 18 "
+                                     "--isha 17 --asr 1 --high-latitude seventh --year 2026")
+                                 .out;
+    EXPECT_THAT(text, HasSubstr("  11:43 PM  12:28 AM*+\n"));
+    EXPECT_THAT(text, HasSubstr("\n+ on the next day\n"));
 }
 
 TEST(CtlMoments, AreNoneOfAYearThatGivesUp) {
