@@ -1,8 +1,10 @@
 #include "config/city_choice.h"
 
 #include "config/angle_controls.h"
+#include "config/automatic_zone.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
+#include "config/wizard_preview.h"
 #include "geo/city_picker.h"
 #include "platform/platform.h"
 #include "store/angle_band.h"
@@ -21,6 +23,8 @@ namespace {
 void ChangeCity(std::int16_t cityIndex) {
     SettingsForm& form = *HoravexMainForm;
     CityText = LookupLocation(cityIndex, Location);
+    const PreviewHold preview;
+    const ZoneHold hold;
     Settings.CityIndex = cityIndex;
     frmMain->lblCity.SetCaption(CityText);
     form.txtTimeZone.SetText("");
@@ -35,6 +39,7 @@ void ChangeCity(std::int16_t cityIndex) {
     ShowDaylightDays();
     sub06C6();
     sub071C();
+    FollowCity();
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include "base/fault.h"
 #include "base/number_text.h"
 #include "base/program_state.h"
+#include "config/automatic_zone.h"
+#include "config/city_clock.h"
 #include "config/settings_display.h"
 #include "config/zone_box.h"
 #include "engine/day_driver.h"
@@ -14,6 +16,7 @@
 #include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
+#include "store/options.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "store/stored_values.h"
@@ -53,6 +56,8 @@ private:
         frmWizard->SetEnabled(enabled);
         fCountry->SetEnabled(enabled);
     }
+
+    const ZoneHold zone_;
 };
 
 /// The working values at a moment.
@@ -72,14 +77,19 @@ private:
     double ishaAngle_ = IshaAngle;
 };
 
-/// The working values are the accepted ones as long as it lives; the edits come back behind it.
+/// The working values are the accepted ones as long as it lives; the edits come back behind it,
+/// with the zone of the year that is now.
 class AcceptedValues {
 public:
     AcceptedValues() {
+        KeepAcceptedZone();
         CopyActiveToWorking();
         IshaAngle = ActiveIshaAngle;
     }
-    ~AcceptedValues() { edits_.PutBack(); }
+    ~AcceptedValues() {
+        edits_.PutBack();
+        RunStep(FollowCity);
+    }
     AcceptedValues(const AcceptedValues&) = delete;
     AcceptedValues& operator=(const AcceptedValues&) = delete;
 
@@ -167,6 +177,22 @@ void Commit() {
     Store();
 }
 
+void SaveZoneOption(int value) {
+    if (value != ReadOption(option::kAutomaticZone)) {
+        SaveOption(option::kAutomaticZone, value);
+    }
+}
+
+/// The calculation goes by the option that is tried; a refused one gives way to the accepted one.
+void CommitWithZoneOption() {
+    const int accepted = ReadOption(option::kAutomaticZone);
+    SaveZoneOption(AutomaticZoneIsOn() ? 1 : 0);
+    Commit();
+    if (CalcFailed != 0) {
+        SaveZoneOption(accepted);
+    }
+}
+
 }  // namespace
 
 // An athan opens the window to the user while a commit waits, and its button stays without effect.
@@ -181,7 +207,7 @@ void SettingsSet_Click() {
     }
     const ShutWindows shut;
     Settings.TimeZone = *zone;
-    Commit();
+    CommitWithZoneOption();
     HoravexMainForm->Hide();
 }
 

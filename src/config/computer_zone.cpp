@@ -3,12 +3,9 @@
 #include <cmath>
 #include <vector>
 
-#include "base/int16.h"
-#include "base/number_text.h"
-#include "config/settings_display.h"
+#include "config/automatic_zone.h"
+#include "config/zone_controls.h"
 #include "platform/platform.h"
-#include "store/settings_record.h"
-#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
@@ -17,19 +14,6 @@ namespace {
 ZoneOffset OffsetOn(Date day) {
     const ClockOffset offset = Ports().clock.OffsetOn(day);
     return {static_cast<std::int32_t>(std::lround(offset.hours * 3600.0)), offset.daylight};
-}
-
-/// A control that stands already where it is put writes nothing; what is shown counts all the same.
-void WriteShownDaylight() {
-    const SettingsForm& form = *HoravexMainForm;
-    Settings.DstEnabled = ToInt16(form.chkDayLT.Value());
-    if (Settings.DstEnabled == 1) {
-        Settings.DstStart = ToInt16(form.hsBegin.Value() + 1);
-        Settings.DstEnd = ToInt16(form.hsEnd.Value() + 1);
-    }
-    sub0602();
-    sub06C6();
-    sub071C();
 }
 
 }  // namespace
@@ -44,16 +28,10 @@ ZoneYear FindComputerZone(Date today) {
     return ZoneYearOf(offsets, static_cast<std::size_t>(today - first));
 }
 
+// The computer's zone is the user's choice in the place of the city's.
 void UseComputerZone() {
-    const ZoneYear zone = FindComputerZone(Ports().clock.Today());
-    SettingsForm& form = *HoravexMainForm;
-    form.txtTimeZone.SetText(SignedFixedText(zone.hours, Ports().formats.DecimalMark()));
-    form.chkDayLT.SetValue(zone.daylight ? 1 : 0);
-    if (zone.daylight) {
-        form.hsBegin.SetValue(zone.dstStart - 1);
-        form.hsEnd.SetValue(zone.dstEnd - 1);
-    }
-    WriteShownDaylight();
+    FillZoneControls(FindComputerZone(Ports().clock.Today()));
+    ZoneWasEdited();
 }
 
 }  // namespace horavex

@@ -5,6 +5,7 @@
 #include "base/rounding.h"
 #include "base/text.h"
 #include "config/angle_controls.h"
+#include "config/automatic_zone.h"
 #include "config/computer_zone.h"
 #include "config/settings_display.h"
 #include "config/wizard_preview.h"
@@ -16,6 +17,7 @@
 #include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
+#include "store/options.h"
 #include "store/settings_defaults.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
@@ -68,6 +70,7 @@ void ShowLanguage() {
 }
 
 void ShowSettings(double fajrAngle, double ishaAngle) {
+    const ZoneHold hold;
     SettingsForm& form = *HoravexMainForm;
     Select(form.optAsrRatio, NearestInt(Settings.AsrRatio));
     Select(form.optAthanType, Settings.AthanType);
@@ -75,6 +78,7 @@ void ShowSettings(double fajrAngle, double ishaAngle) {
     ShowAngles(fajrAngle, ishaAngle);
     ShowAlarmAndDaylight();
     ShowLanguage();
+    FollowCity();
 }
 
 void hsDepr_Change() {
@@ -92,11 +96,13 @@ void hsDepr2_Change() {
 void hsBegin_Change() {
     Settings.DstStart = ToInt16(HoravexMainForm->hsBegin.Value() + 1);
     sub06C6();
+    ZoneWasEdited();
 }
 
 void hsEnd_Change() {
     Settings.DstEnd = ToInt16(HoravexMainForm->hsEnd.Value() + 1);
     sub071C();
+    ZoneWasEdited();
 }
 
 void hsAlarm_Change() {
@@ -107,6 +113,7 @@ void hsAlarm_Change() {
 void chkDayLT_Click() {
     Settings.DstEnabled = ToInt16(HoravexMainForm->chkDayLT.Value());
     sub0602();
+    ZoneWasEdited();
 }
 
 void chkAlarm_Click() {
@@ -118,6 +125,7 @@ void lstLanguage_Click() {
     Settings.Language = ToInt16(HoravexMainForm->lstLanguage.ListIndex() + 1);
     TranslateSettingsWindow(Settings.Language);
     sub06FB();
+    ShowAutomaticZone(AutomaticZoneIsOn());
     HoravexMainForm->SetHelpContextId(Settings.Language * 1000 + 200);
 }
 
@@ -125,6 +133,7 @@ void txtTimeZone_Change() {
     if (!Trim(HoravexMainForm->txtTimeZone.Text()).empty()) {
         HoravexMainForm->SettingsSet.SetEnabled(true);
     }
+    ZoneWasEdited();
 }
 
 void txtTimeZone_GotFocus() {
@@ -138,6 +147,7 @@ void txtTimeZone_KeyUp() {
 void cmdDefault_Click() {
     ApplyDefaultSettings(Ports().clock.Today());
     HoravexMainForm->txtTimeZone.SetText(std::to_string(ZoneNearest));
+    ZoneWasEdited();
     sub0651();
 }
 
@@ -195,6 +205,7 @@ void BindOptions(ControlArray<OptionButton>& options, void (*write)(std::int16_t
 }  // namespace
 
 void Settings_Form_Load() {
+    const ZoneHold hold;
     CancelLoad = kFalse;
     CurrentYear = ToInt16(CivilFromDate(Ports().clock.Today()).year);
     LeapYearFlag();
@@ -209,6 +220,7 @@ void Settings_Form_Load() {
     Settings.FajrAngle = ActiveSettings.FajrAngle;
     IshaAngle = ishaAngle;
     LoadSettingsIntoControls();
+    ShowAutomaticZone(ReadOption(option::kAutomaticZone) == 1);
 }
 
 void SetDepressionLimits(std::int16_t latitude) {
@@ -256,6 +268,7 @@ void BindSettingsControls() {
     BindOptions(form.optAsrRatio, [](std::int16_t index) { Settings.AsrRatio = index; });
     BindOptions(form.optAthanType, [](std::int16_t index) { Settings.AthanType = index; });
     BindOptions(form.optQiblaMethod, [](std::int16_t index) { Settings.QiblaMethod = index; });
+    BindAutomaticZone();
     form.chkDayLT.onClick = chkDayLT_Click;
     form.chkAlarm.onClick = chkAlarm_Click;
     form.lstLanguage.onClick = lstLanguage_Click;

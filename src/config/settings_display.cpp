@@ -132,6 +132,7 @@ void TranslateSettingsWindow(std::int16_t language) {
         {&form.cmdQibla, TextEntry::kQibla},
         {&form.fraLanguage, TextEntry::kLanguage},
         {&form.cmdComputerZone, TextEntry::kComputersZone},
+        {&form.chkAutomaticZone, TextEntry::kZoneOfCity},
         {&form.lblMethod, TextEntry::kMethodCaption},
         {&form.fraAngles, TextEntry::kDepressionAngles},
         {&form.chkAddToStartup, TextEntry::kStartWithSession},

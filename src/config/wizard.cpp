@@ -5,6 +5,7 @@
 #include "base/program_state.h"
 #include "base/rounding.h"
 #include "config/angle_controls.h"
+#include "config/automatic_zone.h"
 #include "config/commit.h"
 #include "config/computer_zone.h"
 #include "config/settings_controls.h"
@@ -106,6 +107,15 @@ void ProposeDaylightDays() {
     form.hsEnd.SetValue(kWizardEnd);
 }
 
+/// While the box is ticked the wizard shows the zone of the city, as any refresh does.
+void ShowCityZone() {
+    if (AutomaticZoneIsOn()) {
+        const ZoneHold zone;
+        CopyDaylight();
+        ShowCityOnWizard();
+    }
+}
+
 void StartOnFirstPage() {
     ShowPage(1);
     frmWizard->cmdPrev.SetEnabled(false);
@@ -113,6 +123,7 @@ void StartOnFirstPage() {
 
 void frmWizard_Load() {
     const PreviewHold hold;
+    const ZoneHold zone;
     ForgetPreview();
     TranslateOnLoad(*frmWizard);
     CopyLimits();
@@ -129,6 +140,8 @@ void frmWizard_Load() {
     ShowCityOnWizard();
     frmWizard->lblDepr1.SetCaption(HoravexMainForm->lblDepr1.Caption());
     ProposeDaylightDays();
+    FollowCity();
+    ShowCityZone();
     CenterOnScreen(*frmWizard);
 }
 
@@ -138,6 +151,14 @@ void ShowPickedCity() {
     frmWizard->lblPickedCity.SetCaption(CityText);
     frmWizard->lblPicked.SetVisible(picked);
     frmWizard->lblPickedCity.SetVisible(picked);
+}
+
+void CopyAutomaticZone() {
+    CheckBox& box = frmWizard->chkAutomaticZone;
+    const CheckBox& source = HoravexMainForm->chkAutomaticZone;
+    box.SetEnabled(source.Enabled());
+    box.SetToolTipText(source.ToolTipText());
+    box.SetValue(source.Value());
 }
 
 void Finish() {
@@ -161,7 +182,8 @@ void GoOn() {
 void cmdNext_Click() {
     WizardForm& form = *frmWizard;
     form.cmdPrev.SetEnabled(true);
-    if (form.currentPage == kZonePage) {
+    // A zone beyond the bound of this page is right where it is the city's.
+    if (form.currentPage == kZonePage && !AutomaticZoneIsOn()) {
         std::int16_t accepted = kFalse;
         CheckWizardTimeZone(form.txtTimeZone.Text(), accepted);
         if (accepted == kFalse) {
@@ -191,9 +213,17 @@ void cmdSetCity_Click() {
     ShowNewLocation();
     RunStep(ShowDay);
     const PreviewHold hold;
+    const ZoneHold zone;
     frmWizard->txtTimeZone.SetText(HoravexMainForm->txtTimeZone.Text());
     MoveSliders(Settings.FajrAngle, frmWizard->hsDepr, frmWizard->hsDepr1);
     ShowCityOnWizard();
+    ShowCityZone();
+}
+
+void chkAutomaticZone_Click() {
+    HoravexMainForm->chkAutomaticZone.SetValue(frmWizard->chkAutomaticZone.Value());
+    const PreviewHold hold;
+    ShowCityZone();
 }
 
 /// The settings window's controls are filled; the wizard shows them as any refresh does.
@@ -219,6 +249,7 @@ void ShowWizard() {
 void ShowCityOnWizard() {
     WizardForm& form = *frmWizard;
     const SettingsForm& settings = *HoravexMainForm;
+    const ZoneHold zone;
     form.lblCity.SetCaption(ActiveCityText);
     form.lblCity2.SetCaption(ActiveCityText);
     ShowPickedCity();
@@ -228,6 +259,7 @@ void ShowCityOnWizard() {
     form.lblLocationLon.SetCaption(settings.lblLocationLon.Caption());
     form.hsBegin.SetValue(Settings.DstStart - 1);
     form.hsEnd.SetValue(Settings.DstEnd - 1);
+    CopyAutomaticZone();
     ShowWizardAngles();
 }
 
@@ -249,6 +281,7 @@ void BindWizard() {
     form.cmdPrev.onClick = cmdPrev_Click;
     form.cmdSetCity.onClick = cmdSetCity_Click;
     form.cmdComputerZone.onClick = cmdComputerZone_Click;
+    form.chkAutomaticZone.onClick = chkAutomaticZone_Click;
     form.Command3.onClick = [] { frmWizard->Unload(); };
 }
 

@@ -4,6 +4,7 @@
 
 #include "base/int16.h"
 #include "config/angle_controls.h"
+#include "config/automatic_zone.h"
 #include "config/settings_display.h"
 #include "config/wizard_preview.h"
 #include "config/zone_box.h"
@@ -29,16 +30,24 @@ void hsDepr2_Change() {
 void hsBegin_Change() {
     Settings.DstStart = ToInt16(frmWizard->hsBegin.Value() + 1);
     frmWizard->lblBegin.SetCaption(DayText(Settings.DstStart));
+    ZoneWasEdited();
 }
 
 void hsEnd_Change() {
     Settings.DstEnd = ToInt16(frmWizard->hsEnd.Value() + 1);
     frmWizard->lblEnd.SetCaption(DayText(Settings.DstEnd));
+    ZoneWasEdited();
 }
 
 void chkDayLT_Click() {
     Settings.DstEnabled = ToInt16(frmWizard->chkDayLT.Value());
     ShowWizardDaylight();
+    ZoneWasEdited();
+}
+
+void txtTimeZone_Change() {
+    ZoneWasEdited();
+    SetTodayPrayerTimes();
 }
 
 void txtTimeZone_GotFocus() {
@@ -87,7 +96,7 @@ void BindWizardControls() {
         const PreviewHold hold;
         cboMethod_Click(*frmWizard);
     });
-    form.txtTimeZone.onChange = WhileOpen(SetTodayPrayerTimes);
+    form.txtTimeZone.onChange = WhileOpen(txtTimeZone_Change);
     form.txtTimeZone.onGotFocus = txtTimeZone_GotFocus;
     form.txtTimeZone.onKeyUp = txtTimeZone_KeyUp;
 }

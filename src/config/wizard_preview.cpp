@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "base/program_state.h"
+#include "config/automatic_zone.h"
+#include "config/city_clock.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -28,6 +30,7 @@ struct PreviewInput {
     std::int16_t latitude;
     std::int16_t longitude;
     Date today;
+    std::optional<double> cityHours;  // east of Greenwich, where the zone follows the city
 
     bool operator==(const PreviewInput&) const = default;
 };
@@ -42,16 +45,28 @@ const ProgramStateReset reset([] {
     shown.reset();
 });
 
-PreviewInput PresentInput() {
-    return {Settings, IshaAngle, Location.City.Latitude, Location.City.Longitude,
-            Ports().clock.Today()};
+/// The city's clock today, while it counts.
+std::optional<double> CityHours(Date today) {
+    return AutomaticZoneIsOn() ? CityHoursOn(Settings.CityIndex, today) : std::nullopt;
 }
 
-/// At the working place, which the table may not have been worked out for.
-PrayerRow TimesOfToday() {
+PreviewInput PresentInput() {
+    const Date today = Ports().clock.Today();
+    return {Settings, IshaAngle,       Location.City.Latitude, Location.City.Longitude,
+            today,    CityHours(today)};
+}
+
+/// At the working place, which the table may not have been worked out for. The clock of the city
+/// stands in the place of the record's daylight hour.
+PrayerRow TimesOf(const PreviewInput& input) {
     YearInputs inputs = PresentInputs();
     inputs.place = PlaceOf(Location.City, Settings.TimeZone);
-    return ComputeTodayTimes(inputs, Ports().clock.Today());
+    inputs.method.dstEnabled = input.cityHours ? std::int16_t{0} : inputs.method.dstEnabled;
+    PrayerRow times = ComputeTodayTimes(inputs, input.today);
+    for (double& hours : times) {
+        hours += input.cityHours.value_or(Settings.TimeZone) - Settings.TimeZone;
+    }
+    return times;
 }
 
 }  // namespace
@@ -61,11 +76,12 @@ void SetTodayPrayerTimes() {
         asked = true;
         return;
     }
-    if (shown == PresentInput()) {
+    const PreviewInput input = PresentInput();
+    if (shown == input) {
         return;
     }
-    shown = PresentInput();
-    const PrayerRow times = TimesOfToday();
+    shown = input;
+    const PrayerRow times = TimesOf(input);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         frmWizard->lblTime(static_cast<int>(prayer))
             .SetCaption(Ports().formats.MediumTime(times[prayer] / kHoursPerDay));

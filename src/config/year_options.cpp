@@ -1,9 +1,9 @@
 #include "config/year_options.h"
 
 #include "calendar/umm_al_qura.h"
+#include "config/city_clock.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
-#include "store/city_zones.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -13,11 +13,7 @@ namespace {
 constexpr int kRamadan = 9;
 
 std::string ChosenZone(std::int16_t cityIndex) {
-    if (ReadOption(option::kAutomaticZone) == 0) {
-        return {};
-    }
-    const std::string name = ReadOption(option::kZoneName);
-    return name.empty() ? CityZones().Of(cityIndex) : name;
+    return ReadOption(option::kAutomaticZone) == 0 ? std::string() : ZoneNameOf(cityIndex);
 }
 
 /// The Hijri dates of a year's days, by row.

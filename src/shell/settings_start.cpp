@@ -7,6 +7,7 @@
 #include "base/prayers.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
+#include "config/city_clock.h"
 #include "config/help.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
@@ -88,6 +89,7 @@ void CalculateOrAsk() {
         ShowSettingsWindow();
         return;
     }
+    KeepAcceptedZone();
     CopyActiveToWorking();
     RefreshAll();
     HoravexMainForm->SetHelpContextId(ActiveSettings.Language * 1000);

@@ -1,6 +1,7 @@
 #include "shell/start.h"
 
 #include "base/int16.h"
+#include "config/automatic_zone.h"
 #include "config/wizard.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
@@ -45,6 +46,7 @@ void FrmMain_Load() {
     }
     TranslateOnLoad(*frmMain);
     if (firstRun != kFalse) {
+        ShowAutomaticZone(true);  // what serves a new user
         ShowWizard();
     }
     // A second line of defence behind the settings window's own test.

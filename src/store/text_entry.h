@@ -107,10 +107,15 @@ enum class TextEntry : std::uint16_t {
     kHelpOnSettings = 94,
     kHelpIndex = 95,
     kCheckingConnection = 96,
+    kZoneOfCity = 97,
+    kZoneOfCityHint = 98,
+    kNoZoneKnown = 99,
+    kZoneNotInDatabase = 100,
+    kThisComputersClock = 101,
 };
 
 #pragma GCC diagnostic pop
 
-inline constexpr std::uint16_t kTextEntries = 96;
+inline constexpr std::uint16_t kTextEntries = 101;
 
 }  // namespace horavex

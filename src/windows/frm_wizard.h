@@ -65,6 +65,8 @@ public:
         {.caption = "Follow this wizard to correctly configure Horavex times", .visible = false}};
     Label lblCity{Frame2(1), "lblCity"};
     CommandButton cmdSetCity{Frame2(1), "cmdSetCity", {.caption = "&Set City"}};
+    CheckBox chkAutomaticZone{
+        Frame2(1), "chkAutomaticZone", {.caption = "Time zone and daylight saving of the city"}};
     /// What was picked and is not accepted yet.
     Label lblPicked{Frame2(1), "lblPicked", {.caption = "Picked city:", .visible = false}};
     Label lblPickedCity{Frame2(1), "lblPickedCity", {.caption = "City", .visible = false}};

@@ -37,6 +37,10 @@ public:
     CommandButton cmdComputerZone{
         fraCity, "cmdComputerZone", {.caption = "Use this computer's &zone"}};
 
+    CheckBox chkAutomaticZone{
+        fraCity, "chkAutomaticZone", {.caption = "Time zone and daylight saving of the city"}};
+    Label lblClocks{fraCity, "lblClocks", {.caption = "This computer's clock", .visible = false}};
+
     horavex::Frame fraAngles{*this, "fraAngles", {.caption = "Depression angles"}};
     Label lblMethod{fraAngles, "lblMethod", {.caption = "&Method"}};
     ComboBox cboMethod{fraAngles, "cboMethod", {.typed = false}};

@@ -36,7 +36,7 @@ struct SettingsLanguageTest : ProgramTest, testing::WithParamInterface<std::int1
     static bool IsLeftOut(const Control& control) {
         static const std::set<std::string> names = {"lblCityBanner", "lblDeprMin", "lblDeprMax",
                                                     "Label6",        "Label7",     "lblZoritName",
-                                                    "mnuPopSound",   "mnuSound"};
+                                                    "mnuPopSound",   "mnuSound",   "lblClocks"};
         return IsRuntimeControl(control) || names.contains(control.Name()) || !HasCaption(control);
     }
 };

@@ -6,6 +6,7 @@
 // The folder HORAVEX_TEST_BINARY_DIR is where the program was built.
 #include <QApplication>
 
+#include "config/automatic_zone.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/settings_window.h"
@@ -45,6 +46,7 @@ public:
         SaveActiveSettings();
         Settings = ActiveSettings;
         SaveWorkingSettings();
+        platform_.zoneRules.Add("Asia/Riyadh", {3 * 3600, false});
         BindWindows();
         platform_.registry.CreateKey("Software\\Horavex\\Settings");
         platform_.registry.SetValue("Software\\Horavex\\Settings", "Language", language.pack);
@@ -77,6 +79,7 @@ private:
     void RenderSettings() {
         ShowSettingsWindow();
         HoravexMainForm->chkDayLT.SetValue(1);
+        ShowAutomaticZone(true);
         ShowNewLocation();
         Save(*HoravexMainForm, "settings");
     }
