@@ -5,6 +5,7 @@
 #include "athan/sound.h"
 #include "base/int16.h"
 #include "base/program_state.h"
+#include "base/program_version.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
@@ -37,7 +38,7 @@ void ShowAlarmMessage() {
     fMessage->cmdAlarmClose.SetVisible(true);
     fMessage->CmdCancel.SetCaption("Cancel");
     fMessage->CmdCancel.SetVisible(false);
-    fMessage->SetCaption("Horavex Prayer Time Software ");
+    fMessage->SetCaption(kSoftwareTitle);
     fMessage->Shape1.SetVisible(false);
     fMessage->lblMessage2.SetCaption(Ports().formats.MediumTime(AlarmMoment(ActiveSettings)) +
                                      " : " +

@@ -3,6 +3,7 @@
 #include "athan/athan_state.h"
 #include "athan/sound.h"
 #include "base/int16.h"
+#include "base/program_version.h"
 #include "engine/center_on_screen.h"
 #include "geo/city_picker.h"
 #include "lang/form_language.h"
@@ -16,7 +17,7 @@ namespace {
 
 void fMessage_Load() {
     TranslateOnLoad(*fMessage);
-    fMessage->SetCaption("Horavex Prayer Time Software ");
+    fMessage->SetCaption(kSoftwareTitle);
     fMessage->CmdCancel.SetCaption(TextItem(TextEntry::kCancel, ActiveSettings.Language));
     alarmDismissed = kFalse;
     CenterOnScreen(*fMessage);

@@ -2,7 +2,8 @@
 
 namespace horavex {
 
-/// Module-level state goes back to what a fresh process holds. Every test starts with it.
+/// Module-level state goes back to what a fresh process holds. Every test over
+/// the ports in memory starts with it.
 void ResetProgramState();
 
 /// Registers one module's part of ResetProgramState. Declared once beside the state:

@@ -93,7 +93,7 @@ YearRules RulesOfYear(const YearOptions& options, std::int16_t year) {
     if (!options.zone.empty()) {
         rules.moments.zone = SpansOfYear(options.zone, year);
     }
-    if (options.ishaIntervalRamadan != options.ishaInterval) {
+    if (options.ishaIntervalRamadan > 0 && options.ishaIntervalRamadan != options.ishaInterval) {
         rules.moments.ramadan =
             RamadanOf(HijriDays(HijriSource::kUmmAlQura, options.hijriAdjustment, year));
     }

@@ -137,6 +137,7 @@ void RecalculateYear() {
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);
     RuledYear.rules = host->RulesOf(CurrentYear);
+    RuledYear.inputs = PresentInputs();  // a tick comes in with the first report
     ComputeYearTimes(0, AddInt16(365, LeapFlag),
                      [](double percent) { host->ReportProgress(percent); });
     RuledYear.inputs = PresentInputs();

@@ -21,6 +21,7 @@ bool IsAhead(const DayMoments& day, std::size_t prayer, int second) {
     return prayer != kShurooq && SecondOfMoment(day[prayer]) > second;
 }
 
+/// The first of the moments that lies ahead by more than 0 whole seconds.
 std::int16_t FirstAhead(const DayMoments& day, int second) {
     std::size_t prayer = 0;
     while (prayer < kPrayerCount && !IsAhead(day, prayer, second)) {
@@ -62,10 +63,6 @@ std::optional<Moment> OnThisDay(Moment moment, double hours) {
 }
 
 }  // namespace
-
-std::int16_t FindNextPrayer(const DayMoments& today, Date now) {
-    return FirstAhead(today, SecondOfDay(now));
-}
 
 DayView MakeDayView(const DaySource& source, Date now) {
     DayView day;

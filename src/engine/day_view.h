@@ -47,10 +47,6 @@ struct DaySource {
     double qiblaDegrees = 0.0;
 };
 
-/// The index of the first of the moments that lies ahead of the clock by more than 0 whole
-/// seconds, Shurooq left out since nobody waits for it; kNoPrayerLeft when there is none.
-std::int16_t FindNextPrayer(const DayMoments& today, Date now);
-
 DayView MakeDayView(const DaySource& source, Date now);
 
 }  // namespace horavex

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/program_version.h"
 #include "engine/angle.h"
 #include "platform/platform.h"
 #include "store/settings_record.h"
@@ -47,7 +48,7 @@ void InstallUndefinedAngleReport() {
         const std::int16_t language = ActiveSettings.Language;
         Ports().dialogs.ShowMessage(TextItem(TextEntry::kUndefinedAngle, language) + Crlf +
                                         TextItem(TextEntry::kProgramCloses, language),
-                                    "Horavex Prayer Time Software ", MessageIcon::kCritical);
+                                    kSoftwareTitle, MessageIcon::kCritical);
         Ports().eventLoop.EndProcess();
     });
 }

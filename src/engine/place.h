@@ -6,11 +6,12 @@
 
 namespace horavex {
 
-/// Place of the program's calculation, radians. Written by TakePlace.
+/// Place of the program's calculation, radians. Written by TakePlace, by BringYearBack, and by
+/// horavexctl for a qibla alone.
 extern double LatitudeRad;       // north positive, -Pi/2 to Pi/2
 extern double LongitudeWestRad;  // west positive, -Pi to Pi
 
-/// Display text of that place. Written by TakePlace.
+/// Display text of that place. Written by TakePlace and BringYearBack.
 extern std::string YearCityText;
 
 /// Where a year is worked out, and by which clock.

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/program_version.h"
 #include "base/text.h"
 #include "engine/angle.h"
 #include "engine/place.h"
@@ -57,7 +58,7 @@ std::string ShownSentence() {
 
 void ShowTexts() {
     QiblaForm& form = *fQibla;
-    form.SetCaption("Horavex Prayer Time Software ");
+    form.SetCaption(kSoftwareTitle);
     form.lblNorth.SetCaption(TextItem(TextEntry::kNorth, ActiveSettings.Language));
     form.lblEast.SetCaption(TextItem(TextEntry::kEast, ActiveSettings.Language));
     form.lblSouth.SetCaption(TextItem(TextEntry::kSouth, ActiveSettings.Language));

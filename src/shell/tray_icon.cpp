@@ -1,6 +1,7 @@
 #include "shell/tray_icon.h"
 
 #include "base/program_state.h"
+#include "base/program_version.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "shell/menus.h"
@@ -13,8 +14,6 @@ namespace {
 std::string shownTip;
 
 const ProgramStateReset reset([] { shownTip.clear(); });
-
-constexpr const char* kTitle = "Horavex";
 
 void BringFaceBack() {
     frmMain->Show();
@@ -33,8 +32,8 @@ void OpenTrayMenu() {
 }  // namespace
 
 void TrayAdd() {
-    shownTip = kTitle;
-    Ports().tray.Add(kTitle);
+    shownTip = kProgramTitle;
+    Ports().tray.Add(kProgramTitle);
 }
 
 void TrayRemove() {

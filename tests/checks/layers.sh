@@ -41,8 +41,8 @@ uses[moon]="${uses[geo]} geo/*"
 uses[athan]="${uses[moon]} moon/* windows/*"
 # The export shares its cancel with the alarm.
 uses[timetables]="${uses[athan]} athan/*"
-uses[config]="${uses[athan]}"
-uses[update]="${uses[athan]}"
+uses[config]="${uses[moon]} windows/*"
+uses[update]="${uses[moon]} windows/*"
 uses[shell]="${uses[athan]} athan/* timetables/* config/* update/*"
 
 # In four rooms logic asks no window: the sources of their windows, and those that bind a room to

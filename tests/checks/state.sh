@@ -20,7 +20,21 @@ complain() {
 
 # "NAME HEADER" of each variable that others may reach.
 declared=$(grep -rE '^extern ' src --include='*.h' | grep -v ':extern const ' |
-    sed -nE 's|^src/([^:]*):[^;]*[ &*]([A-Za-z_0-9]+);.*|\2 \1|p' | sort)
+    sed -nE 's#^src/([^:]*):extern ([^,;()<>]|<[^;]*>)*[ &*]([A-Za-z_0-9]+);.*#\3 \1#p' | sort)
+
+# Declarations that the line above does not take, and those that pass by the table altogether.
+refuse_others() {
+    local place
+    while IFS= read -r place; do
+        [[ -z $place ]] || complain "$place: declare each variable in a header, on a line of its own"
+    done < <(
+        grep -rnE '^[[:space:]]*extern [^"]' src --include='*.h' | grep -v ':extern const ' |
+            grep -vE ':[0-9]+:extern ([^,;()<>]|<[^;]*>)*[ &*][A-Za-z_0-9]+;' | cut -d: -f1,2 || true
+        grep -rnE '^[[:space:]]*extern [^"]' src --include='*.cpp' | cut -d: -f1,2 || true
+        grep -rnE '^inline [^(]*[ &*][A-Za-z_0-9]+( = .*|\{.*)?;' src --include='*.h' |
+            grep -vE ':inline (constexpr|const|FormInstance<.*>) ' | cut -d: -f1,2 || true
+    )
+}
 
 # "NAME HEADER|WRITERS|READERS" of each row, the marks of code taken away.
 rows=$(sed -nE 's/^\| (`[A-Za-z_0-9]+`) \| (`[^`]+\.h`) \|[^|]*\|([^|]*)\|([^|]*)\|$/\1 \2|\3|\4/p' \
@@ -74,6 +88,7 @@ compare_users() { # NAME HEADER WRITERS READERS
 if [[ -z $declared ]]; then
     complain "no variable in $1"
 fi
+refuse_others
 compare_names
 while IFS='|' read -r variable writers readers; do
     # shellcheck disable=SC2086  # two words

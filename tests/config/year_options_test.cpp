@@ -140,6 +140,13 @@ TEST_F(YearOptionsTest, IntervalsThatAreOneNeedNoRamadan) {
     EXPECT_TRUE(RulesOfYear(options, 2026).moments.ramadan.none());
 }
 
+TEST(YearOptionsAlone, IntervalWithoutOneForRamadanNeedsNoPublishedMonths) {
+    const TestPlatform platform;
+    YearOptions options;
+    options.ishaInterval = 90;
+    EXPECT_EQ(RulesOfYear(options, 2026).moments.ishaInterval, 90);
+}
+
 TEST_F(YearOptionsTest, HijriDatesOfTheYearAreThePublishedOnes) {
     YearOptions options;
     options.hijri = HijriSource::kUmmAlQura;

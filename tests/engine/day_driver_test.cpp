@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "engine/angle.h"
+#include "engine/ruled_year.h"
 #include "engine/sample_year.h"
 #include "engine/solar_event.h"
 #include "engine/wait.h"
@@ -68,6 +69,25 @@ TEST_F(RecalculateYearTest, PlaceLeapFlagAndConstantsStandBeforeTheFirstDay) {
     EXPECT_EQ(first.leapFlag, 1);
     EXPECT_EQ(first.constants, YearConstantsOf(2024));
     EXPECT_EQ(Times, leapYear) << "nothing of the run before is used";
+}
+
+TEST_F(RecalculateYearTest, RulesAndInputsStandTogetherBeforeTheFirstDay) {
+    struct Host : RecordingHost {
+        YearRules RulesOf(std::int16_t year) override {
+            YearRules rules;
+            rules.moments.ishaInterval = year == 2026 ? 90 : 0;
+            return rules;
+        }
+        void ReportProgress(double /*percent*/) override {
+            whole = whole && RuledYear.rules.moments.ishaInterval == 90 &&
+                    RuledYear.inputs.year == 2026 && RuledYear.inputs.place.timeZone == 2.0;
+        }
+        bool whole = true;
+    } ruled;
+    InstallDayHost(&ruled);
+    Cairo();
+    Calculate(2026);
+    EXPECT_TRUE(ruled.whole);
 }
 
 TEST_F(RecalculateYearTest, QiblaComesBehindTheWholeTable) {

@@ -19,36 +19,39 @@ Date At(int hour, int minute, int second) {
     return DateSerial(2026, 11, 21) + TimeSerial(hour, minute, second);
 }
 
-DayView ViewAt(int hour, int minute, int second) {
+DayView ViewOf(const DayMoments& today, Date now) {
     DayMoments tomorrow = Moments();
     tomorrow[kFajr].hours = 5.01;
-    return MakeDayView({"Cairo", Moments(), tomorrow, Moments()[kIsha], {1448, 6, 10}, 136.25},
-                       At(hour, minute, second));
+    return MakeDayView({"Cairo", today, tomorrow, Moments()[kIsha], {1448, 6, 10}, 136.25}, now);
 }
 
-TEST(FindNextPrayer, WaitsForNoShurooq) {
-    EXPECT_EQ(FindNextPrayer(Moments(), At(5, 30, 0)), 2);
+DayView ViewAt(int hour, int minute, int second) {
+    return ViewOf(Moments(), At(hour, minute, second));
 }
 
-TEST(FindNextPrayer, EqualSecondIsNotAhead) {
-    EXPECT_EQ(FindNextPrayer(Moments(), At(11, 59, 59)), 2);
-    EXPECT_EQ(FindNextPrayer(Moments(), At(12, 0, 0)), 3);
+TEST(NextPrayer, WaitsForNoShurooq) {
+    EXPECT_EQ(ViewAt(5, 30, 0).next.prayer, 2);
 }
 
-TEST(FindNextPrayer, ComparesWholeSeconds) {
+TEST(NextPrayer, EqualSecondIsNotAhead) {
+    EXPECT_EQ(ViewAt(11, 59, 59).next.prayer, 2);
+    EXPECT_EQ(ViewAt(12, 0, 0).next.prayer, 3);
+}
+
+TEST(NextPrayer, ComparesWholeSeconds) {
     DayMoments moments = Moments();
     moments[kZuhr].hours = 12.0 + 0.4 / 3600;  // rounds to 12:00:00
-    EXPECT_EQ(FindNextPrayer(moments, At(12, 0, 0)), 3);
+    EXPECT_EQ(ViewOf(moments, At(12, 0, 0)).next.prayer, 3);
     moments[kZuhr].hours = 12.0 + 0.6 / 3600;  // rounds to 12:00:01
-    EXPECT_EQ(FindNextPrayer(moments, At(12, 0, 0)), 2);
+    EXPECT_EQ(ViewOf(moments, At(12, 0, 0)).next.prayer, 2);
 }
 
-TEST(FindNextPrayer, BeforeDawnItIsFajr) {
-    EXPECT_EQ(FindNextPrayer(Moments(), At(0, 0, 0)), 0);
+TEST(NextPrayer, BeforeDawnItIsFajr) {
+    EXPECT_EQ(ViewAt(0, 0, 0).next.prayer, 0);
 }
 
-TEST(FindNextPrayer, AfterIshaNoneIsLeft) {
-    EXPECT_EQ(FindNextPrayer(Moments(), At(19, 30, 0)), kNoPrayerLeft);
+TEST(NextPrayer, AfterIshaNoneIsLeft) {
+    EXPECT_TRUE(ViewAt(19, 30, 0).next.isTomorrows);
 }
 
 TEST(MakeDayView, CarriesItsSourceAndTheDatesOfTheMoment) {
