@@ -214,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
                                          Damage{"Dat/N.DAT", "Dat/N.DAT: the last line"},
                                          Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
                                          Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 577: "},
-                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 576: "}));
+                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 606: "}));
 
 struct LostRecord {
     const char* file;
@@ -244,7 +244,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LostRecord{"Dat/ZI.DAT", 2, "Dat/ZI.DAT: not one zone"},
                     LostRecord{"Dat/Z.DAT", 1, "Dat/Z.DAT: the last line is cut short"},
                     LostRecord{"Dat/N.DAT", 1, "Dat/N.DAT: the last line is cut short"},
-                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 96 entries"}));
+                    LostRecord{"Dat/TI.DAT", 2, "Dat/TI.DAT: fewer than 101 entries"}));
 
 }  // namespace
 }  // namespace horavex
