@@ -171,10 +171,9 @@ std::optional<DayView> TakeDayView(Date now) {
     if (!row) {
         return std::nullopt;
     }
-    return MakeDayView(
-        {YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
-         MomentsOfRow(RowBefore(*row))[kIsha], RuledHijriDate(now), host->QiblaBearing()},
-        now);
+    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
+                        MomentsOfRow(RowBefore(*row)), RuledHijriDate(now), host->QiblaBearing()},
+                       now);
 }
 
 void ShowDay() {

@@ -42,10 +42,12 @@ NextMoment TomorrowsFirst(const DayMoments& tomorrow, int second) {
             RestOf(tomorrow[prayer], second)};
 }
 
-NextMoment NextOf(const DaySource& source, const std::optional<Moment>& lateIsha, Date now) {
+NextMoment NextOf(const DaySource& source, const std::vector<PrayerMoment>& late, Date now) {
     const int second = SecondOfDay(now);
-    if (lateIsha && SecondOfMoment(*lateIsha) > second) {
-        return {static_cast<std::int16_t>(kIsha), false, *lateIsha, RestOf(*lateIsha, second)};
+    for (const auto& [prayer, moment] : late) {
+        if (SecondOfMoment(moment) > second) {
+            return {static_cast<std::int16_t>(prayer), false, moment, RestOf(moment, second)};
+        }
     }
     const std::int16_t found = FirstAhead(source.today, second);
     if (found == kNoPrayerLeft) {
@@ -55,11 +57,17 @@ NextMoment NextOf(const DaySource& source, const std::optional<Moment>& lateIsha
     return {found, false, moment, RestOf(moment, second)};
 }
 
-/// A moment of a neighbouring day in this one's hours, if it falls on this one.
-std::optional<Moment> OnThisDay(Moment moment, double hours) {
-    moment.hours += hours;
-    const bool falls = moment.hours >= 0.0 && moment.hours < 24.0;
-    return falls ? std::optional(moment) : std::nullopt;
+/// The moments of a neighbouring day that fall on this one, in its hours; sunrise is none.
+std::vector<PrayerMoment> OnThisDay(const DayMoments& neighbour, double hours) {
+    std::vector<PrayerMoment> found;
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        Moment moment = neighbour[prayer];
+        moment.hours += hours;
+        if (prayer != kShurooq && moment.hours >= 0.0 && moment.hours < 24.0) {
+            found.push_back({static_cast<Prayer>(prayer), moment});
+        }
+    }
+    return found;
 }
 
 }  // namespace
@@ -71,9 +79,9 @@ DayView MakeDayView(const DaySource& source, Date now) {
     day.hijri = source.hijri;
     day.place = source.place;
     day.moments = source.today;
-    day.lateIsha = OnThisDay(source.yesterdaysIsha, -24.0);
-    day.earlyFajr = OnThisDay(source.tomorrow[kFajr], 24.0);
-    day.next = NextOf(source, day.lateIsha, now);
+    day.late = OnThisDay(source.yesterday, -24.0);
+    day.early = OnThisDay(source.tomorrow, 24.0);
+    day.next = NextOf(source, day.late, now);
     day.qiblaDegrees = source.qiblaDegrees;
     return day;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
+#include <vector>
 
 #include "base/date.h"
 #include "calendar/hijri_calendar.h"
@@ -21,6 +21,12 @@ struct NextMoment {
     double remainingSeconds = 0.0;  // whole seconds until then, [0, 86400)
 };
 
+/// A moment and whose it is.
+struct PrayerMoment {
+    Prayer prayer = kFajr;
+    Moment moment;
+};
+
 /// A day as it stands at one moment. Captions, the face's variables, the icon's tip, the command
 /// line and the documents are words for it; none of them reads another's words.
 struct DayView {
@@ -32,9 +38,9 @@ struct DayView {
     NextMoment next;            // from now on
     double qiblaDegrees = 0.0;  // from north, positive to the east
 
-    // Moments of the days beside it that the clock reaches on this one, in its own hours.
-    std::optional<Moment> lateIsha;   // of the day before, past midnight
-    std::optional<Moment> earlyFajr;  // of the day after, before midnight
+    // Moments of the days beside it that the clock reaches on this one, in its own hours, in order.
+    std::vector<PrayerMoment> late;   // of the day before, past midnight
+    std::vector<PrayerMoment> early;  // of the day after, before midnight
 };
 
 /// What a day is made of besides the moment.
@@ -42,7 +48,7 @@ struct DaySource {
     std::string place;
     DayMoments today;
     DayMoments tomorrow;
-    Moment yesterdaysIsha;
+    DayMoments yesterday;
     HijriDate hijri{};
     double qiblaDegrees = 0.0;
 };

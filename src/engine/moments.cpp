@@ -68,9 +68,16 @@ private:
 
     Moment Isha(const Moment& maghrib) const {
         const int minutes = IshaMinutes();
-        return minutes == 0
-                   ? IshaOf(year_, row_)
-                   : Moment{maghrib.hours + minutes / kMinutesPerHour, MomentBy::kInterval};
+        if (minutes == 0) {
+            return IshaOf(year_, row_);
+        }
+        const double hours = maghrib.hours + minutes / kMinutesPerHour;
+        if (rules_.highLatitude == HighLatitudeRule::kNone) {
+            return {hours, MomentBy::kInterval};
+        }
+        const double middle = MiddleOfNight(year_, row_);
+        return hours <= middle ? Moment{hours, MomentBy::kInterval}
+                               : Moment{middle, MomentBy::kRule};
     }
 
     void PutOnClock(Moment& moment, int minutes) const {

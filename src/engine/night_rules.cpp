@@ -81,18 +81,14 @@ double Beside(const YearSource& year, std::size_t row, double zenith, DayHalf ha
                        transit, half);
 }
 
-/// An event of the table. The table folds what passes midnight back onto its day and then goes on
-/// in the other half of the night; what has come out there is worked out anew.
+/// An event of the sun: the table's own number where it is one. The table folds what passes
+/// midnight back onto its day and may then go on in the other half of the night, or miss an event
+/// whose sun of yesterday's hour does not get there; what differs is worked out anew.
 double EventOf(const YearSource& year, std::size_t row, Prayer prayer) {
-    const PrayerRow hours = StandardRow(year, row);
-    if (!IsEvent(hours[prayer])) {
-        return NoEvent;
-    }
-    const DayHalf half = HalfOf(prayer);
-    const bool isMorning = hours[prayer] < hours[kZuhr];
-    return isMorning == (half == DayHalf::kMorning)
-               ? hours[prayer]
-               : Beside(year, row, ZenithOf(year, row, prayer), half);
+    constexpr double kSame = 0.1;  // hours; the table takes the sun of yesterday's answer
+    const double told = StandardRow(year, row)[prayer];
+    const double own = Beside(year, row, ZenithOf(year, row, prayer), HalfOf(prayer));
+    return std::fabs(told - own) < kSame ? told : own;
 }
 
 /// A day that has Shurooq, Asr and Maghrib. On the first and last days of a polar night the sun's
@@ -178,13 +174,22 @@ SunDay SunOfDay(const YearSource& year, std::size_t row) {
     }
     const auto nearest =
         FindNearest(year, row, [&](std::size_t other) { return WholeDay(year, other); });
-    SunDay day = {nearest.value_or(hours), nearest.has_value()};
-    day.hours[kZuhr] = hours[kZuhr];
+    if (!nearest) {
+        return {hours};
+    }
+    SunDay day = {*nearest, true};
+    for (double& hour : day.hours) {
+        hour += hours[kZuhr] - (*nearest)[kZuhr];
+    }
     return day;
 }
 
 double TwilightOf(const YearSource& year, std::size_t row, double angle, DayHalf half) {
     return Beside(year, row, DegToRad(90.0 + angle), half);
+}
+
+double MiddleOfNight(const YearSource& year, std::size_t row) {
+    return SunOfDay(year, row).hours[kMaghrib] + NightLength(year, row, DayHalf::kEvening) / 2.0;
 }
 
 Moment FajrOf(const YearSource& year, std::size_t row) {

@@ -13,7 +13,8 @@ namespace horavex {
 // and on from sunset: a half, a seventh, or a sixtieth for each degree of the angle, as tables of
 // the larger conventions publish them. By the rule of the nearest day a twilight that does not come
 // stands at the clock's hour of the last day of the year that had it; in its stead, of the next.
-// Days that lack sunrise, Asr or sunset borrow all three from such a day under any rule.
+// Days that lack sunrise, Asr or sunset borrow all three from such a day under any rule, as far
+// from noon as there.
 //
 // Hours here are of the record's standard time, without the daylight hour, from the midnight that
 // begins the day.
@@ -37,6 +38,9 @@ SunDay SunOfDay(const YearSource& year, std::size_t row);
 double TwilightOf(const YearSource& year, std::size_t row, double angle, DayHalf half);
 
 Moment FajrOf(const YearSource& year, std::size_t row);
+
+/// The middle of the night behind a day, which no Isha passes.
+double MiddleOfNight(const YearSource& year, std::size_t row);
 
 /// Isha by its angle, whatever the intervals say.
 Moment IshaOf(const YearSource& year, std::size_t row);

@@ -1,5 +1,6 @@
 #include "engine/solar_event.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "engine/angle.h"
@@ -77,20 +78,20 @@ double EventTime(const YearConstants& constants, const YearPlace& place, std::in
 
 double EventBeside(const YearConstants& constants, const YearPlace& place, std::int16_t day,
                    double zenith, double transit, DayHalf half) {
-    constexpr int kRounds = 4;  // each takes the error of the guess to a hundredth
+    constexpr int kRounds = 6;  // each takes the error of the guess to a tenth at least
+    constexpr double kEdge = 1.0 - 1e-12;
     const double side = half == DayHalf::kMorning ? -1.0 : 1.0;
-    double hours = transit + side * 6.0;
+    double hours = transit;
+    double x = 0.0;
     for (int round = 0; round < kRounds; ++round) {
         const Sky sky = SkyAt(constants, place, day, hours);
-        const double x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
-        if (!(std::fabs(x) < 1.0)) {
-            return NoEvent;
-        }
-        const double H = side * ArcCos(x) * kHoursPerRadian;
+        x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
+        // On the way the sun of another hour may not get there; the last round decides.
+        const double H = side * ArcCos(std::clamp(x, -kEdge, kEdge)) * kHoursPerRadian;
         const double hour = ClockHour(constants, place, sky, H);
         hours = hour + 24.0 * std::round((transit + H - hour) / 24.0);
     }
-    return hours;
+    return std::fabs(x) < 1.0 ? hours : NoEvent;
 }
 
 }  // namespace horavex

@@ -36,24 +36,27 @@ void FollowCalendar(const TickActions& actions) {
     }
 }
 
-bool HasArrived(const std::optional<Moment>& moment) {
-    return moment && HasArrived(moment->hours / 24.0);
+/// Of moments whose own day is a neighbour of this one.
+std::optional<Alert> ArrivedOf(const std::vector<PrayerMoment>& moments) {
+    for (const auto& [prayer, moment] : moments) {
+        if (HasArrived(moment.hours / 24.0)) {
+            return static_cast<Alert>(prayer);
+        }
+    }
+    return std::nullopt;
 }
 
 /// The first prayer that has arrived; of two within the window only the earlier one fires.
 std::optional<Alert> ArrivedPrayer() {
-    if (HasArrived(ShownDay.lateIsha)) {
-        return Alert::kIsha;
+    if (const auto late = ArrivedOf(ShownDay.late)) {
+        return late;
     }
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
             return static_cast<Alert>(prayer);
         }
     }
-    if (HasArrived(ShownDay.earlyFajr)) {
-        return Alert::kFajr;
-    }
-    return std::nullopt;
+    return ArrivedOf(ShownDay.early);
 }
 
 void TestPrayers(const TickActions& actions) {

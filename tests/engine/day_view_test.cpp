@@ -22,7 +22,7 @@ Date At(int hour, int minute, int second) {
 DayView ViewOf(const DayMoments& today, Date now) {
     DayMoments tomorrow = Moments();
     tomorrow[kFajr].hours = 5.01;
-    return MakeDayView({"Cairo", today, tomorrow, Moments()[kIsha], {1448, 6, 10}, 136.25}, now);
+    return MakeDayView({"Cairo", today, tomorrow, Moments(), {1448, 6, 10}, 136.25}, now);
 }
 
 DayView ViewAt(int hour, int minute, int second) {
@@ -89,8 +89,8 @@ TEST(MakeDayView, AfterIshaTheNextMomentIsTomorrowsFajr) {
 
 TEST(MakeDayView, OnlyMomentsThatCrossMidnightFallOnTheDayBeside) {
     const DayView day = ViewAt(12, 0, 0);
-    EXPECT_FALSE(day.lateIsha);
-    EXPECT_FALSE(day.earlyFajr);
+    EXPECT_TRUE(day.late.empty());
+    EXPECT_TRUE(day.early.empty());
 }
 
 /// A summer of high latitudes: Isha a quarter past midnight, every day alike.
@@ -98,7 +98,7 @@ DayView ShortNightAt(int hour, int minute) {
     DayMoments moments = Moments();
     moments[kIsha] = {24.25, MomentBy::kRule};
     moments[kFajr].hours = 1.5;
-    return MakeDayView({"Oslo", moments, moments, moments[kIsha], {}, 0.0}, At(hour, minute, 0));
+    return MakeDayView({"Oslo", moments, moments, moments, {}, 0.0}, At(hour, minute, 0));
 }
 
 TEST(ShortNight, IshaBehindMidnightIsCountedDownToFromTheEvening) {
@@ -111,12 +111,26 @@ TEST(ShortNight, IshaBehindMidnightIsCountedDownToFromTheEvening) {
 
 TEST(ShortNight, YesterdaysIshaStillLiesAheadBehindMidnight) {
     const DayView day = ShortNightAt(0, 10);
-    ASSERT_TRUE(day.lateIsha);
-    EXPECT_EQ(day.lateIsha->hours, 0.25);
-    EXPECT_EQ(day.lateIsha->by, MomentBy::kRule);
+    ASSERT_EQ(day.late.size(), 1U);
+    EXPECT_EQ(day.late[0].prayer, kIsha);
+    EXPECT_EQ(day.late[0].moment, (Moment{0.25, MomentBy::kRule}));
     EXPECT_EQ(day.next.prayer, 5);
     EXPECT_EQ(day.next.moment.hours, 0.25);
     EXPECT_EQ(day.next.remainingSeconds, 300.0);
+}
+
+/// The sun sets four minutes past midnight.
+TEST(ShortNight, MaghribBehindMidnightComesBeforeItsIsha) {
+    DayMoments moments = Moments();
+    moments[kMaghrib].hours = 24.0 + 4.0 / 60.0;
+    moments[kIsha].hours = 24.5;
+    const DaySource source = {"Reykjavik", moments, moments, moments, {}, 0.0};
+    const DayView day = MakeDayView(source, At(0, 1, 0));
+    EXPECT_EQ(day.next.prayer, 4);
+    EXPECT_EQ(day.next.remainingSeconds, 180.0);
+    ASSERT_EQ(day.late.size(), 2U);
+    EXPECT_EQ(day.late[0].prayer, kMaghrib);
+    EXPECT_EQ(MakeDayView(source, At(0, 4, 0)).next.prayer, 5);
 }
 
 TEST(ShortNight, BehindItComesFajr) {
@@ -130,7 +144,7 @@ TEST(ShortNight, BehindItComesFajr) {
 DayView EarlyFajrAt(int hour, int minute) {
     DayMoments moments = Moments();
     moments[kFajr].hours = -1.0 / 6.0;
-    return MakeDayView({"East", moments, moments, moments[kIsha], {}, 0.0}, At(hour, minute, 0));
+    return MakeDayView({"East", moments, moments, moments, {}, 0.0}, At(hour, minute, 0));
 }
 
 TEST(ShortNight, FajrBeforeMidnightIsCountedDownToOnTheEveBefore) {
@@ -138,8 +152,8 @@ TEST(ShortNight, FajrBeforeMidnightIsCountedDownToOnTheEveBefore) {
     EXPECT_EQ(day.next.prayer, 0);
     EXPECT_TRUE(day.next.isTomorrows);
     EXPECT_EQ(day.next.remainingSeconds, 50 * 60.0);
-    ASSERT_TRUE(day.earlyFajr);
-    EXPECT_NEAR(day.earlyFajr->hours, 24.0 - 1.0 / 6.0, 1e-12);
+    ASSERT_EQ(day.early.size(), 1U);
+    EXPECT_NEAR(day.early[0].moment.hours, 24.0 - 1.0 / 6.0, 1e-12);
 }
 
 TEST(ShortNight, BehindAFajrBeforeMidnightTheNextIsTomorrowsZuhr) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "base/date.h"
 #include "engine/angle.h"
 
@@ -261,21 +263,84 @@ TEST(HighLatitude, NightsOfMidnightSunBorrowTheLastDayThatHadBothHorizons) {
     EXPECT_GE(day[kIsha].hours, day[kMaghrib].hours);
 }
 
+/// Towns beyond or near the polar circles by the names of people who live there.
+struct Town {
+    const char* name;
+    double latitude;
+    double longitude;
+    double zone;
+};
+
+constexpr Town kTowns[] = {{"Tromso", 69.65, 18.96, 1.0},       {"Murmansk", 68.97, 33.08, 3.0},
+                           {"Inuvik", 68.36, -133.72, -7.0},    {"Utqiagvik", 71.29, -156.79, -9.0},
+                           {"Norilsk", 69.35, 88.2, 7.0},       {"Tiksi", 71.64, 128.87, 9.0},
+                           {"Pevek", 69.7, 170.31, 12.0},       {"Kirkenes", 69.73, 30.05, 1.0},
+                           {"Longyearbyen", 78.22, 15.65, 1.0}, {"Ushuaia", -54.8, -68.3, -3.0},
+                           {"Reykjavik", 64.15, -21.94, 0.0}};
+
 TEST(HighLatitude, EveryDayOfAPolarYearHasItsMomentsInOrder) {
-    for (const auto rule :
-         {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh, HighLatitudeRule::kAngle}) {
-        Case tromso = Tromso().Rule(rule);
-        tromso.Calculate();
-        for (std::size_t row = 0; row < 365; ++row) {
-            const DayMoments day =
-                MomentsOf({tromso.inputs, tromso.table.times, tromso.rules}, row);
-            for (std::size_t prayer = 0; prayer + 1 < kPrayerCount; ++prayer) {
-                EXPECT_LE(day[prayer].hours, day[prayer + 1].hours) << row << " " << prayer;
+    for (const Town& town : kTowns) {
+        for (const auto rule :
+             {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh, HighLatitudeRule::kAngle}) {
+            Case place = Case(town.latitude, town.longitude, town.zone, 18.0).Rule(rule);
+            place.Calculate();
+            for (std::size_t row = 0; row < 365; ++row) {
+                const DayMoments day =
+                    MomentsOf({place.inputs, place.table.times, place.rules}, row);
+                for (std::size_t prayer = 0; prayer + 1 < kPrayerCount; ++prayer) {
+                    EXPECT_LE(day[prayer].hours, day[prayer + 1].hours)
+                        << town.name << " " << row << " " << prayer;
+                }
+                EXPECT_GT(day[kFajr].hours, -3.0) << town.name << " " << row;
+                EXPECT_LT(day[kIsha].hours, 27.0) << town.name << " " << row;
             }
-            EXPECT_GT(day[kFajr].hours, -2.0) << row;
-            EXPECT_LT(day[kIsha].hours, 26.0) << row;
         }
     }
+}
+
+/// By the sun's own days: sunrise and sunset move by less than an hour and a half from one to the
+/// next, whatever half of the night the table has slipped into.
+TEST(HighLatitude, SunriseAndSunsetGoOnFromDayToDay) {
+    for (const Town& town : kTowns) {
+        Case place =
+            Case(town.latitude, town.longitude, town.zone, 18.0).Rule(HighLatitudeRule::kMiddle);
+        place.Calculate();
+        DayMoments former{};
+        for (std::size_t row = 0; row < 365; ++row) {
+            const DayMoments day = MomentsOf({place.inputs, place.table.times, place.rules}, row);
+            for (const Prayer prayer : {kShurooq, kMaghrib}) {
+                if (row > 0 && day[prayer].by == MomentBy::kSun &&
+                    former[prayer].by == MomentBy::kSun) {
+                    EXPECT_LT(std::fabs(day[prayer].hours - former[prayer].hours), 1.5)
+                        << town.name << " " << row << " " << prayer;
+                }
+            }
+            former = day;
+        }
+    }
+}
+
+// Murmansk on 19 May 2026: the sun rises at 1:35.
+TEST(HighLatitude, EventThatTheTableHasFoldedTwiceIsWorkedOutAnew) {
+    Case murmansk = Case(68.97, 33.08, 3.0, 18.0).Rule(HighLatitudeRule::kSeventh);
+    EXPECT_NEAR(murmansk.On(5, 19)[kShurooq].hours, 1.0 + 35.0 / 60.0, 0.1);
+}
+
+// Tromso on 22 November 2026: a short day, and a real one.
+TEST(HighLatitude, LastDaysBeforeThePolarNightAreTheirOwn) {
+    const DayMoments day = Tromso().Rule(HighLatitudeRule::kSeventh).On(11, 22);
+    EXPECT_EQ(day[kShurooq].by, MomentBy::kSun);
+    EXPECT_NEAR(day[kShurooq].hours, 10.0 + 14.0 / 60.0, 0.1);
+    EXPECT_NEAR(day[kMaghrib].hours, 12.0 + 45.0 / 60.0, 0.1);
+}
+
+TEST(HighLatitude, IntervalEndsAtTheMiddleOfTheNight) {
+    Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
+    tromso.rules.ishaInterval = 90;
+    const DayMoments summer = tromso.On(6, 21);
+    EXPECT_EQ(summer[kIsha].by, MomentBy::kRule);
+    EXPECT_LE(summer[kIsha].hours, tromso.On(6, 22)[kFajr].hours + 24.0);
+    EXPECT_EQ(tromso.On(3, 1)[kIsha].by, MomentBy::kInterval);
 }
 
 // At 57.7 degrees the sun sinks to 12 degrees until the end of May, at the end long after midnight.

@@ -68,7 +68,7 @@ TEST_F(TickTest, WindowIsTenSeconds) {
 
 TEST_F(TickTest, YesterdaysIshaArrivesBehindMidnight) {
     TodayTimes[kIsha] = 24.3 / 24.0;  // today's own comes tomorrow
-    ShownDay.lateIsha = Moment{0.25, MomentBy::kRule};
+    ShownDay.late = {{kMaghrib, {0.1, MomentBy::kSun}}, {kIsha, {0.25, MomentBy::kRule}}};
     TickAt(0, 15, 0);
     EXPECT_THAT(calls, ElementsAre("Isha", "day"));
     TickAt(0, 18, 0);
@@ -77,7 +77,7 @@ TEST_F(TickTest, YesterdaysIshaArrivesBehindMidnight) {
 
 TEST_F(TickTest, TomorrowsFajrArrivesBeforeMidnight) {
     TodayTimes[kFajr] = -0.25 / 24.0;  // today's own came yesterday
-    ShownDay.earlyFajr = Moment{23.75, MomentBy::kRule};
+    ShownDay.early = {{kFajr, {23.75, MomentBy::kRule}}};
     TickAt(23, 45, 0);
     EXPECT_THAT(calls, ElementsAre("Fajr", "day"));
     TickAt(0, 15, 0);
