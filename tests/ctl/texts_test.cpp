@@ -1,4 +1,5 @@
 #include "ctl/ctl_json.h"
+#include "store/text_entry.h"
 
 namespace horavex {
 namespace {
@@ -27,7 +28,8 @@ TEST(CtlText, LastTextOfTheTableEndsWithTheFile) {
 }
 
 TEST(CtlText, EntryBehindTheTableIsEmpty) {
-    EXPECT_EQ(TextOf("text --entry 97 --language 1"), "");
+    const std::string behind = std::to_string(kTextEntries + 1);
+    EXPECT_EQ(TextOf("text --entry " + behind + " --language 1"), "");
 }
 
 TEST(CtlText, EntryWhoseRecordNumberLeavesSixteenBitsIsAFault) {

@@ -213,7 +213,7 @@ INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
                                          Damage{"Dat/Z.DAT", "Dat/Z.DAT: the last line"},
                                          Damage{"Dat/N.DAT", "Dat/N.DAT: the last line"},
                                          Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
-                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 577: "},
+                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 607: "},
                                          Damage{"Dat/T.DAT", "Dat/TI.DAT: record 606: "}));
 
 struct LostRecord {
