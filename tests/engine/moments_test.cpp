@@ -334,6 +334,31 @@ TEST(HighLatitude, LastDaysBeforeThePolarNightAreTheirOwn) {
     EXPECT_NEAR(day[kMaghrib].hours, 12.0 + 45.0 / 60.0, 0.1);
 }
 
+// The equation of time moves noon by minutes through a polar night.
+TEST(HighLatitude, BorrowedDayKeepsItsDistanceFromNoonAndTheNoonIsTheDaysOwn) {
+    Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
+    const DayMoments former = tromso.On(12, 1);
+    const DayMoments later = tromso.On(12, 21);
+    ASSERT_EQ(former[kShurooq].by, MomentBy::kRule);
+    ASSERT_EQ(later[kShurooq].by, MomentBy::kRule);
+    EXPECT_EQ(later[kZuhr].hours, tromso.table.times[kZuhr][Day(12, 21)]);
+    EXPECT_GT(later[kZuhr].hours - former[kZuhr].hours, 0.1);
+    for (const Prayer prayer : {kShurooq, kAsr, kMaghrib}) {
+        EXPECT_NEAR(later[prayer].hours - later[kZuhr].hours,
+                    former[prayer].hours - former[kZuhr].hours, 1e-9);
+    }
+}
+
+TEST(HighLatitude, WithoutARuleNoDayIsBorrowed) {
+    Case tromso = Tromso();
+    tromso.inputs.method.needsFajr = tromso.inputs.method.needsIsha = false;
+    tromso.rules.offsets[kZuhr] = 1;
+    const DayMoments day = tromso.On(12, 21);
+    EXPECT_EQ(day[kShurooq].hours, NoEvent);
+    EXPECT_EQ(day[kMaghrib].hours, NoEvent);
+    EXPECT_TRUE(IsEvent(day[kZuhr].hours));
+}
+
 TEST(HighLatitude, IntervalEndsAtTheMiddleOfTheNight) {
     Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
     tromso.rules.ishaInterval = 90;
