@@ -43,7 +43,6 @@ void TakeAccepted() {
     PeekIshaAngle();
     ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
     CopyActiveToWorking();
-    CityText = ActiveCityText;
     ChosenOptions = ReadYearOptions(ActiveSettings.CityIndex);
     if (!IsZone(ChosenOptions.zone)) {
         ChosenOptions.zone.clear();
