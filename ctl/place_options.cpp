@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/int16.h"
+#include "config/unusable_file.h"
 #include "config/usual_choices.h"
 #include "ctl/method_option.h"
 #include "ctl/named_city.h"
@@ -96,7 +97,7 @@ void TakeZone(const std::string& name, Date day) {
 
 /// What is usual in the city that has just been taken.
 void TakeUsual(Date day) {
-    const std::string zone = CityZones().Of(Settings.CityIndex);
+    const auto zone = ReadOrTell([] { return CityZones().Of(Settings.CityIndex); });
     if (IsZone(zone)) {
         TakeZone(zone, day);
     }

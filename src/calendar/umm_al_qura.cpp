@@ -19,12 +19,22 @@ constexpr std::size_t kFirstDayOffset = 2;
 constexpr std::size_t kMonthsOffset = 6;
 constexpr std::size_t kMonths = 12;
 
+constexpr std::uint8_t kShortestMonth = 28;  // days
+constexpr std::uint8_t kLongestMonth = 30;
+
 Bytes ReadTable() {
     Bytes table = Ports().programFolder.ReadWhole(kFile);
     if (table.empty() || table.size() % kRecordLength != 0) {
         throw BoundsFault(std::string(kFile) + ": a record is cut short");
     }
     return table;
+}
+
+void Expect(bool sound, std::size_t record, const char* problem) {
+    if (!sound) {
+        throw BoundsFault(std::string(kFile) + ": record " +
+                          std::to_string(record / kRecordLength + 1) + ": " + problem);
+    }
 }
 
 }  // namespace
@@ -34,8 +44,13 @@ UmmAlQura::UmmAlQura() {
     firstYear_ = GetInt16(table, 0);
     monthStarts_ = {static_cast<Date>(GetInt32(table, kFirstDayOffset))};
     for (std::size_t record = 0; record < table.size(); record += kRecordLength) {
+        Expect(monthStarts_.back() == GetInt32(table, record + kFirstDayOffset), record,
+               "it does not begin where the one before ends");
         for (std::size_t month = 0; month < kMonths; ++month) {
-            monthStarts_.push_back(monthStarts_.back() + table[record + kMonthsOffset + month]);
+            const std::uint8_t days = table[record + kMonthsOffset + month];
+            Expect(days >= kShortestMonth && days <= kLongestMonth, record,
+                   "a month is not from 28 to 30 days long");
+            monthStarts_.push_back(monthStarts_.back() + days);
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "calendar/umm_al_qura.h"
 #include "config/city_clock.h"
+#include "config/unusable_file.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
 #include "store/settings_record.h"
@@ -13,16 +14,21 @@ namespace {
 constexpr int kRamadan = 9;
 
 std::string ChosenZone(std::int16_t cityIndex) {
-    return ReadOption(option::kAutomaticZone) == 0 ? std::string() : ZoneNameOf(cityIndex);
+    return ReadOption(option::kAutomaticZone) == 0
+               ? std::string()
+               : ReadOrTell([&] { return ZoneNameOf(cityIndex); });
+}
+
+/// The published months; none where their file cannot be used.
+std::optional<UmmAlQura> PublishedMonths() {
+    return ReadOrTell([] { return std::optional<UmmAlQura>(UmmAlQura()); });
 }
 
 /// The Hijri dates of a year's days, by row.
 std::vector<HijriDate> HijriDays(HijriSource source, int adjustment, std::int16_t year) {
     const Date newYear = DateSerial(year, 1, 1) + adjustment;
-    std::optional<UmmAlQura> published;
-    if (source == HijriSource::kUmmAlQura) {
-        published.emplace();
-    }
+    const std::optional<UmmAlQura> published =
+        source == HijriSource::kUmmAlQura ? PublishedMonths() : std::nullopt;
     std::vector<HijriDate> days;
     for (int row = 0; row < 365 + LeapFlagOf(year); ++row) {
         const Date date = newYear + row;

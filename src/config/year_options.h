@@ -24,7 +24,8 @@ struct YearOptions {
     bool operator==(const YearOptions&) const = default;
 };
 
-/// The stored options, with the zone of a city where its clock is to count.
+/// The stored options, with the zone of a city where its clock is to count. Where the files of the
+/// zones cannot be used that is told, and the record's zone counts.
 YearOptions ReadYearOptions(std::int16_t cityIndex);
 
 /// Puts what a method asks beyond its angles of Fajr and Isha in the place of the options: the
@@ -32,8 +33,9 @@ YearOptions ReadYearOptions(std::int16_t cityIndex);
 void TakeAuthority(const Authority& authority, YearOptions& options);
 
 /// What they ask of a Gregorian year. Ramadan is the published one, with the adjustment, and the
-/// arithmetic one in years before and after these. Throws UnknownZoneFault for a zone that the zone
-/// database does not have, and as UmmAlQura does.
+/// arithmetic one in years before and after these; where the file of the published months cannot be
+/// used that is told, and the arithmetic calendar counts. Throws UnknownZoneFault for a zone that
+/// the zone database does not have.
 YearRules RulesOfYear(const YearOptions& options, std::int16_t year);
 
 /// The rules of a year by the stored options and the working city. A zone that the zone database

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "base/fault.h"
 #include "base/int16.h"
@@ -131,12 +132,14 @@ void InstallDayHost(DayHost* newHost) {
 }
 
 void RecalculateYear() {
+    // What the options ask for may have to tell of a damaged file, and a tick comes in meanwhile.
+    YearRules rules = host->RulesOf(CurrentYear);
     // The first three need nothing of each other, and no event comes in before the first report of
     // the table: their own order shows nowhere, that they all stand before the table does.
     TakePlace(Location.City, CityText);
     LeapYearFlag();
     ComputeYearConstants(CurrentYear);
-    RuledYear.rules = host->RulesOf(CurrentYear);
+    RuledYear.rules = std::move(rules);
     RuledYear.inputs = PresentInputs();  // a tick comes in with the first report
     ComputeYearTimes(0, AddInt16(365, LeapFlag),
                      [](double percent) { host->ReportProgress(percent); });

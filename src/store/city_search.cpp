@@ -184,6 +184,13 @@ Bytes ReadRanks() {
     }
 }
 
+/// So is the file of other names: one that cannot be used leaves the cities their own.
+std::vector<std::string> OtherNamesOrNone() {
+    std::vector<std::string> names;
+    RunStep([&] { names = ReadOtherNames(CityCount()); });
+    return names;
+}
+
 /// cityIndex: of a city that the index can hold.
 std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
     const auto offset = static_cast<std::size_t>(cityIndex - kFirstCityIndex) * 2;
@@ -251,7 +258,7 @@ void SetOtherNames(ListedCity& city, const std::string& otherNames) {
 std::vector<ListedCity> ListCities() {
     std::vector<ListedCity> cities;
     OpenLocationFiles();
-    const SearchAids aids{ReadRanks(), ReadOtherNames(CityCount())};
+    const SearchAids aids{ReadRanks(), OtherNamesOrNone()};
     const std::int64_t count = CountryCount();
     for (std::int64_t number = 1; number <= count; ++number) {
         ListCountry(cities, ToInt16(number), aids);

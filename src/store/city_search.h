@@ -30,8 +30,9 @@ std::string DisplayText(const ListedCity& city);
 /// and a hyphen is a blank.
 void SetOtherNames(ListedCity& city, const std::string& otherNames);
 
-/// All cities in the order of CityIndex. Throws as the readers of the location files and of the
-/// other names do, and BoundsFault for countries that hold more cities than there are.
+/// All cities in the order of CityIndex. Throws as the readers of the location files do, and
+/// BoundsFault for countries that hold more cities than there are. Ranks or other names that cannot
+/// be read are none.
 std::vector<ListedCity> ListCities();
 
 /// A city that a search found. Both pointers live as long as the list.

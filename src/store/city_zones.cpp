@@ -21,13 +21,8 @@ std::int16_t NumberOf(const Bytes& index, std::int16_t cityIndex) {
 
 }  // namespace
 
-CityZones::CityZones() {
-    const ProgramFolder& folder = Ports().programFolder;
-    if (folder.Exists(kIndex) && folder.Exists(kNames)) {
-        index_ = folder.ReadWhole(kIndex);
-        names_ = ReadLineFile(kNames);
-    }
-}
+CityZones::CityZones()
+    : index_(Ports().programFolder.ReadWhole(kIndex)), names_(ReadLineFile(kNames)) {}
 
 std::string CityZones::Of(std::int16_t cityIndex) const {
     const std::int16_t number = NumberOf(index_, cityIndex);

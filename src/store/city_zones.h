@@ -11,8 +11,8 @@ namespace horavex {
 /// The zone in which each city lies, as "Dat/ZI.DAT" and "Dat/Z.DAT" tell.
 class CityZones {
 public:
-    /// Reads both files; where one is missing no zone is known. Throws FileFault for one that
-    /// cannot be read, and BoundsFault for names that are cut short.
+    /// Reads both files. Throws FileFault for one that is missing or cannot be read, and
+    /// BoundsFault for names that are cut short.
     CityZones();
 
     /// The zone's name in the zone database ("Africa/Cairo"); empty where none is known. Throws

@@ -112,10 +112,11 @@ enum class TextEntry : std::uint16_t {
     kNoZoneKnown = 99,
     kZoneNotInDatabase = 100,
     kThisComputersClock = 101,
+    kUnusableFile = 102,
 };
 
 #pragma GCC diagnostic pop
 
-inline constexpr std::uint16_t kTextEntries = 101;
+inline constexpr std::uint16_t kTextEntries = 102;
 
 }  // namespace horavex

@@ -83,5 +83,17 @@ TEST_F(UmmAlQuraTest, CutTableIsAFault) {
     EXPECT_THROW(UmmAlQura(), BoundsFault);
 }
 
+TEST_F(UmmAlQuraTest, YearThatDoesNotFollowIsAFault) {
+    data.SetInt32("Dat/UQ.DAT", 18 + 2, 0);
+    EXPECT_THROW(UmmAlQura(), BoundsFault);
+}
+
+TEST_F(UmmAlQuraTest, MonthOfAnImpossibleLengthIsAFault) {
+    data.SetByte("Dat/UQ.DAT", 144 * 18 + 17, 31);
+    EXPECT_THROW(UmmAlQura(), BoundsFault);
+    data.SetByte("Dat/UQ.DAT", 144 * 18 + 17, 27);
+    EXPECT_THROW(UmmAlQura(), BoundsFault);
+}
+
 }  // namespace
 }  // namespace horavex

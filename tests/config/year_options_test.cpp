@@ -4,6 +4,7 @@
 #include "engine/ruled_year.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
+#include "support/data_folder.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
 
@@ -20,6 +21,7 @@ struct YearOptionsTest : testing::Test {
     YearOptionsTest() { CopyBuiltProgramFolder(platform.files); }
 
     TestPlatform platform;
+    DataFolder data{platform.files};
 };
 
 TEST_F(YearOptionsTest, UnsetTheyAskForNothing) {
@@ -138,6 +140,42 @@ TEST_F(YearOptionsTest, IntervalsThatAreOneNeedNoRamadan) {
     YearOptions options;
     TakeAuthority(*AuthorityOfKey("qatar"), options);
     EXPECT_TRUE(RulesOfYear(options, 2026).moments.ramadan.none());
+}
+
+TEST_F(YearOptionsTest, DamagedPublishedMonthsGiveWayToTheArithmeticCalendarAndAreToldOnce) {
+    data.ShrinkBy("Dat/UQ.DAT", 1);
+    YearOptions options;
+    options.hijri = HijriSource::kUmmAlQura;
+    options.ishaIntervalRamadan = 120;
+    const YearRules rules = RulesOfYear(options, 2026);
+    EXPECT_EQ(rules.hijri.at(0), HijriFromDate(DateSerial(2026, 1, 1)));
+    EXPECT_EQ(rules.moments.ramadan.count(), 30U);
+    RulesOfYear(options, 2027);
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text,
+              "A data file is missing or damaged; the program goes on without it:\n"
+              "Dat\\UQ.DAT: a record is cut short");
+}
+
+TEST_F(YearOptionsTest, FilesOfZonesThatCannotBeUsedLeaveTheRecordsZoneAndAreToldOnceEach) {
+    SaveOption(option::kAutomaticZone, 1);
+    data.ShrinkBy("Dat/Z.DAT", 1);
+    EXPECT_EQ(ReadYearOptions(kMeccaCityIndex).zone, "");
+    EXPECT_EQ(ReadYearOptions(kMeccaCityIndex).zone, "");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_THAT(platform.dialogs.messages[0].text, testing::HasSubstr("Dat\\Z.DAT: "));
+    data.Remove("Dat/ZI.DAT");
+    EXPECT_TRUE(StoredRulesOfYear(2026).moments.zone.empty());
+    ASSERT_EQ(platform.dialogs.messages.size(), 2U);
+    EXPECT_THAT(platform.dialogs.messages[1].text, testing::HasSubstr("ZI.DAT"));
+}
+
+TEST_F(YearOptionsTest, ToldOfADamagedFileWithoutATableOfTextsTheFaultStandsAlone) {
+    SaveOption(option::kAutomaticZone, 1);
+    data.ShrinkBy("Dat/Z.DAT", 1);
+    data.Remove("Dat/T.DAT");
+    ReadYearOptions(kMeccaCityIndex);
+    EXPECT_EQ(platform.dialogs.messages.at(0).text, "Dat\\Z.DAT: the last line is cut short");
 }
 
 TEST(YearOptionsAlone, IntervalWithoutOneForRamadanNeedsNoPublishedMonths) {
