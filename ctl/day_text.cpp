@@ -5,9 +5,10 @@
 
 #include "calendar/date_words.h"
 #include "ctl/basis.h"
-#include "ctl/moment_text.h"
 #include "ctl/plain_text.h"
+#include "engine/moment_text.h"
 #include "engine/next_prayer.h"
+#include "engine/ruled_year.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "timetables/timetable.h"
@@ -39,7 +40,8 @@ std::string DayText(const DayView& day, bool highlight) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         text += PrayerLine(day, prayer, highlight);
     }
-    text += StarNote(day.moments);
+    const std::string note = RuleNote(day.moments, RuledYear.rules.moments.highLatitude);
+    text += WithoutControls(note.empty() ? "" : note + "\n");
     return text + WithoutControls("\nNext: " + NextPrayerSentence(day.next) +
                                   "\nRemaining: " + RemainingText(day.next.remainingSeconds) +
                                   "\n" + QiblaText + "\n" + BasisText(day.now));

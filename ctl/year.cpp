@@ -1,14 +1,18 @@
 #include <algorithm>
 #include <memory>
+#include <span>
 #include <sstream>
 
+#include "base/utf8.h"
 #include "ctl/basis.h"
 #include "ctl/calculation.h"
-#include "ctl/moment_text.h"
 #include "ctl/place_options.h"
+#include "ctl/plain_text.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/moment_text.h"
 #include "engine/moments.h"
+#include "engine/ruled_year.h"
 #include "engine/year_table.h"
 #include "store/location_record.h"
 
@@ -36,28 +40,59 @@ Json TimesJson() {
     return rows;
 }
 
-std::string DayLine(std::size_t row, const DayMoments& moments) {
+constexpr std::size_t kWidth = 10;        // of a column
+constexpr std::size_t kMarkedWidth = 13;  // of one whose times have marks
+
+std::string Column(const std::string& text, std::size_t width) {
+    return text + std::string(width - std::min(width, Utf8Length(text)), ' ');
+}
+
+std::string Line(std::string text) {
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text + "\n";
+}
+
+std::string HeadLine(std::size_t width) {
+    std::string line(7, ' ');
+    for (const char* prayer : kPrayerKeys) {
+        line += Column(prayer, width);
+    }
+    return Line(line);
+}
+
+std::string DayLine(std::size_t row, std::span<const Moment> moments, std::size_t width) {
     const CivilDate date = CivilFromDate(DateSerial(CurrentYear, 1, 1) + static_cast<double>(row));
     std::ostringstream line;
     line << (date.month < 10 ? "0" : "") << date.month << (date.day < 10 ? "-0" : "-") << date.day;
     line << "  ";
     for (const Moment& moment : moments) {
-        line << MomentColumn(moment);
+        line << Column(moment.hours == NoEvent ? "--" : MomentCell(moment), width);
     }
-    std::string text = line.str();
-    text.erase(text.find_last_not_of(' ') + 1);
-    return text + "\n";
+    return Line(line.str());
 }
 
-std::string TimesText() {
-    std::string text = "        Fajr   Shurooq      Zuhr       Asr   Maghrib      Isha\n";
+/// Day by day, each by prayer.
+std::vector<Moment> YearMoments() {
     std::vector<Moment> all;
     for (std::size_t row = 0; row < DaysOfYear(); ++row) {
         const DayMoments moments = MomentsOfRow(row);
-        text += DayLine(row, moments);
         all.insert(all.end(), moments.begin(), moments.end());
     }
-    return text + StarNote(all) + NextDayNote(all) + BasisText(DateSerial(CurrentYear, 1, 1));
+    return all;
+}
+
+std::string TimesText() {
+    const std::vector<Moment> all = YearMoments();
+    const auto notes = ColumnNotes(all, RuledYear.rules.moments.highLatitude);
+    const std::size_t width = notes.empty() ? kWidth : kMarkedWidth;
+    std::string text = HeadLine(width);
+    for (std::size_t row = 0; row < DaysOfYear(); ++row) {
+        text += DayLine(row, std::span(all).subspan(row * kPrayerCount, kPrayerCount), width);
+    }
+    for (const std::string& note : notes) {
+        text += note + "\n";
+    }
+    return WithoutControls(text) + BasisText(DateSerial(CurrentYear, 1, 1));
 }
 
 /// Without a city everything that the times depend on is asked for.

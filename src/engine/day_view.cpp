@@ -38,8 +38,10 @@ double RestOf(const Moment& moment, int second) {
 NextMoment TomorrowsFirst(const DayMoments& tomorrow, int second) {
     const bool fajrIsOver = SecondOfMoment(tomorrow[kFajr]) + kDay <= second;
     const Prayer prayer = fajrIsOver ? kZuhr : kFajr;
-    return {static_cast<std::int16_t>(prayer), true, tomorrow[prayer],
-            RestOf(tomorrow[prayer], second)};
+    NextMoment next = {static_cast<std::int16_t>(prayer), true, tomorrow[prayer],
+                       RestOf(tomorrow[prayer], second)};
+    next.moment.dayShift = 0;  // before midnight it is still today's clock
+    return next;
 }
 
 NextMoment NextOf(const DaySource& source, const std::vector<PrayerMoment>& late, Date now) {
@@ -63,6 +65,7 @@ std::vector<PrayerMoment> OnThisDay(const DayMoments& neighbour, double hours) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         Moment moment = neighbour[prayer];
         moment.hours += hours;
+        moment.dayShift = 0;
         if (prayer != kShurooq && moment.hours >= 0.0 && moment.hours < 24.0) {
             found.push_back({static_cast<Prayer>(prayer), moment});
         }

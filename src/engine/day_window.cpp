@@ -1,5 +1,6 @@
 #include "engine/day_window.h"
 
+#include "engine/moment_text.h"
 #include "engine/next_prayer.h"
 #include "platform/platform.h"
 #include "windows/frm_main.h"
@@ -11,8 +12,7 @@ namespace {
 
 void ShowTimes(const DayMoments& moments) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        frmMain->lblTime(static_cast<int>(prayer))
-            .SetCaption(Ports().formats.MediumTime(moments[prayer].hours / 24.0));
+        frmMain->lblTime(static_cast<int>(prayer)).SetCaption(MomentText(moments[prayer]));
     }
 }
 

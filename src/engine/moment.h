@@ -17,6 +17,7 @@ enum class MomentBy {
 struct Moment {
     double hours = 0.0;  // of the local clock from the midnight that begins the day; NoEvent
     MomentBy by = MomentBy::kSun;
+    int dayShift = 0;  // days from the day that it is told on to that of its clock; 0 without rules
 
     bool operator==(const Moment&) const = default;
 };

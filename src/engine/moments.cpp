@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/rounding.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
@@ -26,6 +27,10 @@ double InZone(const std::vector<ZoneSpan>& zone, Date day, double hours, double 
     const double standard = recordZone + 24.0 * std::round((usual - recordZone) / 24.0);
     const double universal = hours - standard;
     return universal + OffsetAt(zone, day + universal / 24.0);
+}
+
+int DayShiftOf(double hours) {
+    return NearestInt(std::floor(RoundHalfEven(hours * 3600.0) / kSecondsPerDay));
 }
 
 /// Makes the moments of one day.
@@ -93,6 +98,7 @@ private:
             moment.hours += 1.0;
         }
         moment.hours += minutes / kMinutesPerHour;
+        moment.dayShift = DayShiftOf(moment.hours);
     }
 
     const YearSource& year_;

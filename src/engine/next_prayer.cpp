@@ -1,5 +1,6 @@
 #include "engine/next_prayer.h"
 
+#include "engine/moment_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -26,7 +27,8 @@ std::string SentenceStart(const NextMoment& next) {
 }  // namespace
 
 std::string NextPrayerSentence(const NextMoment& next) {
-    return SentenceStart(next) + Ports().formats.LongTime(next.moment.hours / 24.0);
+    return SentenceStart(next) +
+           WithMarks(Ports().formats.LongTime(next.moment.hours / 24.0), next.moment);
 }
 
 std::string RemainingText(double seconds) {

@@ -77,7 +77,10 @@ const std::vector<PackSection>& PackVocabularies() {
         {"Azan", {"0", "2", "3", "4", "5"}},
         {"desktop",
          {"NoTray", "BareSamples", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
-        {"timetables", TimetableKeys()}};
+        {"timetables", TimetableKeys()},
+        {"moments",
+         {"NextDay", "PreviousDay", "NextDayNote", "PreviousDayNote", "RuleNote", "RuleMiddle",
+          "RuleSeventh", "RuleAngle", "RuleNearest"}}};
     return sections;
 }
 

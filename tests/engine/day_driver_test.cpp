@@ -229,6 +229,19 @@ TEST_F(ShowDayTest, FillsLabelsAndFractions) {
     EXPECT_EQ(host.faces, 1);
 }
 
+TEST_F(ShowDayTest, LabelOfAMomentBehindMidnightTellsItsDay) {
+    struct : RecordingHost {
+        YearRules RulesOf(std::int16_t /*year*/) override {
+            YearRules rules;
+            rules.moments.ishaInterval = 8 * 60;
+            return rules;
+        }
+    } ruled;
+    InstallDayHost(&ruled);
+    RefreshAll();
+    EXPECT_THAT(frmMain->lblTime(kIsha).Caption(), testing::EndsWith(" AM, next day"));
+}
+
 TEST_F(ShowDayTest, FaceComesLastAndFindsEveryLabelFilled) {
     struct : RecordingHost {
         void SetFlashVariables() override {

@@ -96,7 +96,7 @@ TEST(MakeDayView, OnlyMomentsThatCrossMidnightFallOnTheDayBeside) {
 /// A summer of high latitudes: Isha a quarter past midnight, every day alike.
 DayView ShortNightAt(int hour, int minute) {
     DayMoments moments = Moments();
-    moments[kIsha] = {24.25, MomentBy::kRule};
+    moments[kIsha] = {24.25, MomentBy::kRule, 1};
     moments[kFajr].hours = 1.5;
     return MakeDayView({"Oslo", moments, moments, moments, {}, 0.0}, At(hour, minute, 0));
 }
@@ -116,7 +116,18 @@ TEST(ShortNight, YesterdaysIshaStillLiesAheadBehindMidnight) {
     EXPECT_EQ(day.late[0].moment, (Moment{0.25, MomentBy::kRule}));
     EXPECT_EQ(day.next.prayer, 5);
     EXPECT_EQ(day.next.moment.hours, 0.25);
+    EXPECT_EQ(day.next.moment.dayShift, 0);
     EXPECT_EQ(day.next.remainingSeconds, 300.0);
+}
+
+TEST(ShortNight, TomorrowsFajrBeforeMidnightIsOfTodaysClock) {
+    DayMoments tomorrow = Moments();
+    tomorrow[kFajr] = {-0.5, MomentBy::kRule, -1};
+    const DayView day =
+        MakeDayView({"Oslo", Moments(), tomorrow, Moments(), {}, 0.0}, At(23, 0, 0));
+    EXPECT_TRUE(day.next.isTomorrows);
+    EXPECT_EQ(day.next.moment.dayShift, 0);
+    EXPECT_EQ(day.next.remainingSeconds, 1800.0);
 }
 
 /// The sun sets four minutes past midnight.

@@ -226,6 +226,8 @@ TEST(HighLatitude, PortionsAreCountedFromSunsetAndSunrise) {
 TEST(HighLatitude, MiddleOfASummersNightLiesBehindMidnight) {
     const DayMoments day = Oslo().Rule(HighLatitudeRule::kMiddle).On(6, 21);
     EXPECT_NEAR(day[kIsha].hours, 24.0 + 1.0 + 19.0 * kMinute, 2.0 * kMinute);
+    EXPECT_EQ(day[kIsha].dayShift, 1);
+    EXPECT_EQ(day[kMaghrib].dayShift, 0);
 }
 
 TEST(HighLatitude, WhereTheSunSinksTheLaterThanTheRuleTheRuleCounts) {

@@ -40,6 +40,12 @@ TEST_F(NextPrayerTest, ShurooqWouldBeToldAsZuhr) {
     EXPECT_EQ(Sentence(kShurooq, 12.0), "Zuhr at 12:00:00 PM");
 }
 
+TEST_F(NextPrayerTest, DayIsToldWhereItIsNotToday) {
+    const Moment isha = {24.25, MomentBy::kRule, 1};
+    EXPECT_EQ(NextPrayerSentence({kIsha, false, isha, 0.0}),
+              "Isha at 12:15:00 AM, next day \u2020");
+}
+
 TEST_F(NextPrayerTest, WithoutAPackTheNameIsEmpty) {
     currentLanguage = "Nowhere";
     EXPECT_EQ(Sentence(kAsr, 15.25), " 3:15:00 PM");

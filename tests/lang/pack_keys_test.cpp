@@ -23,13 +23,14 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowTheDesktopAndTimetables) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(5));
+TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowTheDesktopTimetablesAndMoments) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(6));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
     EXPECT_EQ(Section(3).name, "desktop");
     EXPECT_EQ(Section(4).name, "timetables");
+    EXPECT_EQ(Section(5).name, "moments");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -105,7 +106,7 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
         names.push_back(section.name);
     }
     EXPECT_THAT(names,
-                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "frmMain",
+                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "frmMain",
                             "HoravexMainForm", "fMessage", "frmAthan", "fCountry", "NewCoordinates",
                             "frmWizard", "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases",
                             "frmRamadan", "frmAbout", "frmTimes", "frmMonth"));
@@ -119,7 +120,7 @@ TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[5].keys;
+    const auto keys = PackSections()[6].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {
