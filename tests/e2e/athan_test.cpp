@@ -126,19 +126,6 @@ protected:
         return false;
     }
 
-    /// Waits until the program shows a window that is none of those, and returns it.
-    std::string WaitForAnother(const ChildProcess& program,
-                               const std::vector<std::string>& known) const {
-        return *WaitUntil("another window", [&]() -> std::optional<std::string> {
-            for (const std::string& window : desktop.WindowsOf(program)) {
-                if (std::find(known.begin(), known.end(), window) == known.end()) {
-                    return window;
-                }
-            }
-            return std::nullopt;
-        });
-    }
-
     /// The face shows another second: the program runs on.
     void ExpectTicks() const {
         const std::string before = desktop.Fingerprint();
@@ -305,9 +292,9 @@ TEST_F(AthanProgramTest, AlarmBeepsUntilItIsClosedAndComesBackInItsTenSeconds) {
 class AthanSettingsProgramTest : public AthanProgramTest {
 protected:
     std::string OpenSettings(const ChildProcess& program) const {
-        const std::size_t windows = desktop.WindowsOf(program).size();
+        const auto windows = desktop.WindowsOf(program);
         Click(face, 143, 120);
-        WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() == windows + 1; });
+        desktop.WaitForMenu(program, windows);
         desktop.PressKey("a");
         return desktop.WaitForWindow(program, "Athan Settings");
     }
@@ -368,13 +355,13 @@ TEST_F(AthanProgramTest, AthanCanBeStoppedWhileAFileDialogueIsOpenAndTheClockRun
     const std::string window = WaitForAthan(program);
     SetClock(SecondOf(3) + 60);
     Click(face, 78, 120);
-    WaitForAnother(program, {face, window});
+    desktop.WaitForMenu(program, {face, window});
     for (const char* key : {"Down", "Down"}) {  // the export
         desktop.PressKey(key);
     }
     const auto menu = desktop.WindowsOf(program);
     desktop.PressKey("Return");
-    const std::string dialogue = WaitForAnother(program, menu);
+    const std::string dialogue = desktop.WaitForAnother(program, menu);
     ExpectTicks();
     PressStop(window);
     EXPECT_TRUE(WaitUntil("no window", [&] { return !IsOnView(program); }));

@@ -83,12 +83,11 @@ TEST_F(FaceProgramTest, FaceThatWasMovedComesUpAtItsOwnPlaceAtTheNextStart) {
 TEST_F(FaceProgramTest, MenuOpensBelowItsButtonAndItsExitEndsTheProgram) {
     ChildProcess program = StartProgram();
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
-    const std::size_t windows = desktop.WindowsOf(program).size();
+    const auto windows = desktop.WindowsOf(program);
     desktop.Click(face, 78, 120);
-    WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() == windows + 1; });
+    const std::string menu = desktop.WaitForMenu(program, windows);
     desktop.SaveScreen("menu");
-    desktop.PressKey("Up");  // from the bottom: the exit
-    desktop.PressKey("Return");
+    desktop.ChooseLastEntry(menu);
     EXPECT_EQ(program.Wait(), 0);
     EXPECT_THAT(StoredValues(), HasSubstr("Language=English"));
 }

@@ -194,9 +194,9 @@ TEST_F(FirstRunTest, CityAt52DegreesWithTheZoneTypedInTheSettingsWindow) {
     ChildProcess program = StartProgram();
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     Press(desktop.WaitForWindow(program, kWizardTitle), {"Escape"});
-    const std::size_t windows = desktop.WindowsOf(program).size();
+    const auto windows = desktop.WindowsOf(program);
     desktop.Click(face, 166, 120);
-    WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() != windows; });
+    desktop.WaitForMenu(program, windows);
     desktop.PressKey("Down");
     desktop.PressKey("Return");
     const std::string settings = desktop.WaitForWindow(program, kSettingsTitle);

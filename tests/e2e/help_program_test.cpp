@@ -14,9 +14,9 @@ class HelpProgramTest : public ProgramFixture {
 protected:
     /// Chooses an entry of the face's help menu, the first one by number 1.
     void ChooseHelpEntry(const ChildProcess& program, const std::string& face, int number) const {
-        const std::size_t windows = desktop.WindowsOf(program).size();
+        const auto windows = desktop.WindowsOf(program);
         desktop.Click(face, 257, 120);
-        WaitUntil("a menu", [&] { return desktop.WindowsOf(program).size() == windows + 1; });
+        desktop.WaitForMenu(program, windows);
         for (int step = 0; step < number; ++step) {
             desktop.PressKey("Down");
         }

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -36,7 +37,6 @@ protected:
         WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); });
     }
 
-    /// A modal window.
     /// Does it over and over with time to work in between, until the test is true: a face that has
     /// just come up may still be moved, or not be active yet, while the user's doing is on its way.
     static bool DoUntil(const std::string& what, const std::function<void()>& act,
@@ -50,8 +50,8 @@ protected:
         });
     }
 
+    /// A modal window.
     void OpenPrayerTimes(const ChildProcess& program, const std::string& face) {
-        const std::size_t before = CountOfWindows(program);
         DoUntil(
             "the window Prayer Times",
             [&] {
@@ -59,12 +59,22 @@ protected:
                 desktop.Use({"xdotool", "mousemove", "--window", face, "100", "300"});
                 desktop.Click(face, 136, 386);
             },
-            [&] { return CountOfWindows(program) > before; });
-        desktop.WaitForWindow(program, "Prayer Times");
+            [&] {
+                const auto windows = desktop.WindowsOf(program);
+                return std::any_of(windows.begin(), windows.end(), [&](const auto& window) {
+                    return desktop.TitleOf(window) == "Prayer Times";
+                });
+            });
     }
 
-    std::size_t CountOfWindows(const ChildProcess& program) {
-        return desktop.WindowsOf(program).size();
+    /// Leaves by the icon's menu.
+    void Exit(ChildProcess& program, const std::string& icon) const {
+        const auto windows = desktop.WindowsOf(program);
+        desktop.Click(icon, 8, 8, 3);
+        const std::string menu = desktop.WaitForMenu(program, windows);
+        desktop.SaveScreen("tray-menu-exit");
+        desktop.ChooseLastEntry(menu);
+        EXPECT_EQ(program.Wait(), 0);
     }
 };
 
@@ -100,13 +110,13 @@ TEST_F(TrayTest, SingleClickDoesNothingAndTheRightButtonOpensTheMenuAsItIsLetGo)
     const ChildProcess program = StartProgram();
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     const std::string icon = WaitForIcon(program);
-    const std::size_t windows = CountOfWindows(program);
+    const auto windows = desktop.WindowsOf(program);
     desktop.Click(icon, 8, 8);
     desktop.Use({"xdotool", "mousemove", "--window", icon, "8", "8", "mousedown", "3"});
     LetSecondsPass(2);
-    EXPECT_EQ(CountOfWindows(program), windows);
+    EXPECT_THAT(desktop.WindowsOf(program), testing::UnorderedElementsAreArray(windows));
     desktop.Use({"xdotool", "mouseup", "3"});
-    EXPECT_TRUE(WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; }));
+    EXPECT_NE(desktop.WaitForMenu(program, windows), "");
     desktop.SaveScreen("tray-menu");
 }
 
@@ -115,12 +125,7 @@ TEST_F(TrayTest, ExitOfTheIconsMenuEndsTheProgram) {
     ChildProcess program = StartProgram();
     desktop.WaitForWindow(program, kFaceTitle);
     const std::string icon = WaitForIcon(program);
-    const std::size_t windows = CountOfWindows(program);
-    desktop.Click(icon, 8, 8, 3);
-    WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; });
-    desktop.PressKey("Up");
-    desktop.PressKey("Return");
-    EXPECT_EQ(program.Wait(), 0);
+    Exit(program, icon);
     EXPECT_THAT(StoredValues(), HasSubstr("Language=English"));
 }
 
@@ -130,10 +135,10 @@ TEST_F(TrayTest, PointingAtTheIconBringsTheTip) {
     desktop.WaitForWindow(program, kFaceTitle);
     const std::string icon = WaitForIcon(program);
     LetSecondsPass(1);
-    const std::size_t windows = CountOfWindows(program);
+    const auto windows = desktop.WindowsOf(program);
     desktop.Use({"xdotool", "mousemove", "--window", icon, "7", "8"});
     desktop.Use({"xdotool", "mousemove_relative", "1", "1"});
-    EXPECT_TRUE(WaitUntil("a tip", [&] { return CountOfWindows(program) == windows + 1; }));
+    EXPECT_NE(desktop.WaitForAnother(program, windows), "");
     desktop.SaveScreen("tray-tip");
 }
 
@@ -162,13 +167,7 @@ TEST_F(TrayTest, IconWorksWhileAModalWindowIsOpen) {
     const std::string icon = WaitForIcon(program);
     LetSecondsPass(1);
     OpenPrayerTimes(program, face);
-    const std::size_t windows = CountOfWindows(program);
-    desktop.Click(icon, 8, 8, 3);
-    WaitUntil("a menu", [&] { return CountOfWindows(program) == windows + 1; });
-    desktop.SaveScreen("tray-menu-modal");
-    desktop.PressKey("Up");
-    desktop.PressKey("Return");
-    EXPECT_EQ(program.Wait(), 0);
+    Exit(program, icon);
 }
 
 TEST_F(TrayTest, PointingAtTheIconBringsTheTipWhileAModalWindowIsOpen) {
@@ -178,10 +177,10 @@ TEST_F(TrayTest, PointingAtTheIconBringsTheTipWhileAModalWindowIsOpen) {
     const std::string icon = WaitForIcon(program);
     LetSecondsPass(1);
     OpenPrayerTimes(program, face);
-    const std::size_t windows = CountOfWindows(program);
+    const auto windows = desktop.WindowsOf(program);
     desktop.Use({"xdotool", "mousemove", "--window", icon, "7", "8"});
     desktop.Use({"xdotool", "mousemove_relative", "1", "1"});
-    EXPECT_TRUE(WaitUntil("a tip", [&] { return CountOfWindows(program) == windows + 1; }));
+    EXPECT_NE(desktop.WaitForAnother(program, windows), "");
 }
 
 TEST_F(TrayTest, IconFitsAPanelOnAScreenOfDoubleDensity) {

@@ -113,7 +113,21 @@ bool TestDesktop::IsOnView(const ChildProcess& program, const std::string& windo
     return std::find(windows.begin(), windows.end(), window) != windows.end();
 }
 
-// A window may be gone meanwhile: it then has no title.
+std::string TestDesktop::WaitForAnother(const ChildProcess& program,
+                                        const std::vector<std::string>& known,
+                                        int leastHeight) const {
+    return *WaitUntil("another window", [&]() -> std::optional<std::string> {
+        for (const std::string& window : WindowsOf(program)) {
+            if (std::find(known.begin(), known.end(), window) == known.end() &&
+                PlaceOf(window).height >= leastHeight) {
+                return window;
+            }
+        }
+        return std::nullopt;
+    });
+}
+
+// A window may be gone meanwhile: it then has neither title nor size.
 std::string TestDesktop::TitleOf(const std::string& window) const {
     const std::string printed = RunCommand({"xdotool", "getwindowname", window}, variables).out;
     return printed.substr(0, printed.find('\n'));
@@ -121,7 +135,8 @@ std::string TestDesktop::TitleOf(const std::string& window) const {
 
 ScreenPlace TestDesktop::PlaceOf(const std::string& window) const {
     ScreenPlace place;
-    for (const std::string& line : LinesOf(Use({"xwininfo", "-id", window}))) {
+    for (const std::string& line :
+         LinesOf(RunCommand({"xwininfo", "-id", window}, variables).out)) {
         const auto read = [&line](const std::string& name, int& value) {
             const std::size_t at = line.find(name);
             if (at != std::string::npos) {
@@ -143,6 +158,12 @@ void TestDesktop::Click(const std::string& window, int x, int y, int button) con
 
 void TestDesktop::PressKey(const std::string& key) const {
     Use({"xdotool", "key", key});
+}
+
+void TestDesktop::ChooseLastEntry(const std::string& menu) const {
+    constexpr int kAcross = 30;
+    constexpr int kAboveTheLowerEdge = 12;
+    Click(menu, kAcross, PlaceOf(menu).height - kAboveTheLowerEdge);
 }
 
 void TestDesktop::SaveScreen(const std::string& name) const {

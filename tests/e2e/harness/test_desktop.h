@@ -47,6 +47,15 @@ public:
     /// Waits for the window on view with this title.
     std::string WaitForWindow(const ChildProcess& program, const std::string& title) const;
     bool IsOnView(const ChildProcess& program, const std::string& window) const;
+    /// Waits for a window on view that is none of those, and returns it.
+    std::string WaitForAnother(const ChildProcess& program, const std::vector<std::string>& known,
+                               int leastHeight = 1) const;
+    /// The same for a menu; tips, which are lower, may come and go.
+    std::string WaitForMenu(const ChildProcess& program,
+                            const std::vector<std::string>& known) const {
+        constexpr int kHigherThanATip = 60;
+        return WaitForAnother(program, known, kHigherThanATip);
+    }
 
     std::string TitleOf(const std::string& window) const;
     ScreenPlace PlaceOf(const std::string& window) const;
@@ -54,6 +63,8 @@ public:
     /// A click at a place of the window, in dots from its upper left corner.
     void Click(const std::string& window, int x, int y, int button = 1) const;
     void PressKey(const std::string& key) const;
+    /// Clicks the last entry of a menu. A key could come before the menu has the keyboard.
+    void ChooseLastEntry(const std::string& menu) const;
 
     /// A picture of the whole screen in the build's folder "screenshots", for people to look at.
     void SaveScreen(const std::string& name) const;
