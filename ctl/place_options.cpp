@@ -87,11 +87,7 @@ void TakeMethodOf(const Authority& authority) {
 
 /// The record takes what it can hold of the zone, and the rules the rest.
 void TakeZone(const std::string& name, Date day) {
-    const ZoneYear year = FindZoneYear(Ports().zoneRules, name, day);
-    Settings.TimeZone = year.hours;
-    Settings.DstEnabled = year.daylight ? 1 : 0;
-    Settings.DstStart = year.dstStart;
-    Settings.DstEnd = year.dstEnd;
+    TakeZoneYear(FindZoneYear(Ports().zoneRules, name, day), Settings);
     ChosenOptions.zone = name;
 }
 

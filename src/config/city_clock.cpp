@@ -17,16 +17,6 @@ std::string NameOrNone(std::int16_t cityIndex) {
     return name;
 }
 
-SettingsRecord InZone(SettingsRecord record, const ZoneYear& zone) {
-    record.TimeZone = zone.hours;
-    record.DstEnabled = zone.daylight ? 1 : 0;
-    if (zone.daylight) {
-        record.DstStart = zone.dstStart;
-        record.DstEnd = zone.dstEnd;
-    }
-    return record;
-}
-
 }  // namespace
 
 std::string ZoneNameOf(std::int16_t cityIndex) {
@@ -65,8 +55,13 @@ void KeepAcceptedZone() {
         return;
     }
     const auto zone = FindCityZone(ActiveSettings.CityIndex);
-    if (zone && InZone(ActiveSettings, *zone) != ActiveSettings) {
-        ActiveSettings = InZone(ActiveSettings, *zone);
+    if (!zone) {
+        return;
+    }
+    SettingsRecord kept = ActiveSettings;
+    TakeZoneYear(*zone, kept);
+    if (kept != ActiveSettings) {
+        ActiveSettings = kept;
         RunStep(SaveActiveSettings);
     }
 }

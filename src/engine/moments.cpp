@@ -45,7 +45,7 @@ public:
         day[kZuhr] = {sun_.hours[kZuhr]};
         day[kAsr] = FromSun(kAsr);
         day[kMaghrib] = Maghrib();
-        day[kFajr] = FajrOf(year_, row_);
+        day[kFajr] = Fajr(day[kShurooq]);
         day[kIsha] = Isha(day[kMaghrib]);
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
             PutOnClock(day[prayer], rules_.offsets[prayer]);
@@ -62,8 +62,25 @@ private:
         if (rules_.maghribAngle == 0.0) {
             return FromSun(kMaghrib);
         }
-        const double hours = TwilightOf(year_, row_, rules_.maghribAngle, DayHalf::kEvening);
-        return IsEvent(hours) ? Moment{hours} : FromSun(kMaghrib);
+        const Moment sunset = FromSun(kMaghrib);
+        const Moment moment = MaghribByAngle(year_, row_);
+        const bool isBehind = IsEvent(moment.hours) && !(moment.hours < sunset.hours);
+        return isBehind ? moment : sunset;
+    }
+
+    /// A twilight of an earlier day may lie beyond a sun that stays up longer.
+    Moment Fajr(const Moment& shurooq) const {
+        const Moment fajr = FajrOf(year_, row_);
+        const bool isLate =
+            fajr.by == MomentBy::kRule && IsEvent(shurooq.hours) && fajr.hours > shurooq.hours;
+        return isLate ? Moment{shurooq.hours, MomentBy::kRule} : fajr;
+    }
+
+    /// The same at the other end of the night.
+    Moment IshaByAngle(const Moment& maghrib) const {
+        const Moment isha = IshaOf(year_, row_);
+        const bool isEarly = isha.by == MomentBy::kRule && isha.hours < maghrib.hours;
+        return isEarly ? Moment{maghrib.hours, MomentBy::kRule} : isha;
     }
 
     int IshaMinutes() const {
@@ -74,7 +91,7 @@ private:
     Moment Isha(const Moment& maghrib) const {
         const int minutes = IshaMinutes();
         if (minutes == 0) {
-            return IshaOf(year_, row_);
+            return IshaByAngle(maghrib);
         }
         const double hours = maghrib.hours + minutes / kMinutesPerHour;
         if (rules_.highLatitude == HighLatitudeRule::kNone) {

@@ -29,17 +29,13 @@ PrayerRow StandardRow(const YearSource& year, std::size_t row) {
     return hours;
 }
 
-/// What the nearest day of the year has that has something: the last one before the row, or else
-/// the first one behind it. have takes a row to an optional.
+/// What the last day before the row has that has something. The end of the year stands for that of
+/// the year before it. have takes a row to an optional.
 template <class Have>
-auto FindNearest(const YearSource& year, std::size_t row, Have have) -> decltype(have(row)) {
-    for (std::size_t before = row; before-- > 0;) {
-        if (auto found = have(before)) {
-            return found;
-        }
-    }
-    for (std::size_t behind = row + 1; behind < RowCount(year); ++behind) {
-        if (auto found = have(behind)) {
+auto FindLast(const YearSource& year, std::size_t row, Have have) -> decltype(have(row)) {
+    const std::size_t rows = RowCount(year);
+    for (std::size_t back = 1; back < rows; ++back) {
+        if (auto found = have((row + rows - back) % rows)) {
             return found;
         }
     }
@@ -101,10 +97,11 @@ std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
     PrayerRow hours = StandardRow(year, row);
     for (const Prayer prayer : {kShurooq, kAsr, kMaghrib}) {
         hours[prayer] = EventOf(year, row, prayer);
+        if (!IsEvent(hours[prayer])) {
+            return std::nullopt;
+        }
     }
-    const bool isWhole =
-        IsEvent(hours[kShurooq]) && IsEvent(hours[kAsr]) && IsEvent(hours[kMaghrib]);
-    return isWhole ? std::optional(hours) : std::nullopt;
+    return hours;
 }
 
 /// The night before a day's sunrise, or the one after its sunset.
@@ -126,44 +123,59 @@ double PortionOfNight(HighLatitudeRule rule, double angle) {
     }
 }
 
-/// The hour that a rule of portions allows at the earliest for Fajr, at the latest for Isha.
-double LimitOf(const YearSource& year, std::size_t row, Prayer prayer) {
-    const DayHalf half = HalfOf(prayer);
-    const YearMethod& method = year.inputs.method;
-    const double angle = prayer == kFajr ? method.fajrAngle : method.ishaAngle;
-    const double part =
-        PortionOfNight(year.rules.highLatitude, angle) * NightLength(year, row, half);
+/// A moment at which the sun stands at an angle of depression.
+struct Twilight {
+    DayHalf half;
+    double angle;        // degrees
+    double share = 1.0;  // of the rule's portion of the night
+};
+
+/// The hour that a rule of portions allows at the earliest for Fajr, at the latest for the others.
+double LimitOf(const YearSource& year, std::size_t row, const Twilight& twilight) {
+    const double part = twilight.share * PortionOfNight(year.rules.highLatitude, twilight.angle) *
+                        NightLength(year, row, twilight.half);
     const PrayerRow hours = SunOfDay(year, row).hours;
-    return prayer == kFajr ? hours[kShurooq] - part : hours[kMaghrib] + part;
+    return twilight.half == DayHalf::kMorning ? hours[kShurooq] - part : hours[kMaghrib] + part;
 }
 
-Moment ByPortion(const YearSource& year, std::size_t row, Prayer prayer) {
-    const double own = EventOf(year, row, prayer);
-    const double limit = LimitOf(year, row, prayer);
-    const bool keeps = IsEvent(own) && (prayer == kFajr ? own >= limit : own <= limit);
+Moment ByPortion(const YearSource& year, std::size_t row, const Twilight& twilight, double own) {
+    const double limit = LimitOf(year, row, twilight);
+    const bool isMorning = twilight.half == DayHalf::kMorning;
+    const bool keeps = IsEvent(own) && (isMorning ? own >= limit : own <= limit);
     return keeps || !IsEvent(limit) ? Moment{own} : Moment{limit, MomentBy::kRule};
 }
 
-Moment ByNearestDay(const YearSource& year, std::size_t row, Prayer prayer) {
-    const auto have = [&](std::size_t other) {
-        const double hours = EventOf(year, other, prayer);
-        return IsEvent(hours) ? std::optional(hours) : std::nullopt;
-    };
-    if (const auto own = have(row)) {
-        return {*own};
+/// eventOf takes a row to the hour of the twilight or NoEvent.
+template <class EventOfRow>
+Moment TwilightMoment(const YearSource& year, std::size_t row, const Twilight& twilight,
+                      EventOfRow eventOf) {
+    const double own = eventOf(row);
+    if (year.rules.highLatitude == HighLatitudeRule::kNone) {
+        return {own};
     }
-    return {FindNearest(year, row, have).value_or(NoEvent), MomentBy::kRule};
+    if (year.rules.highLatitude != HighLatitudeRule::kNearest) {
+        return ByPortion(year, row, twilight, own);
+    }
+    if (IsEvent(own)) {
+        return {own};
+    }
+    const auto last = FindLast(year, row, [&](std::size_t other) {
+        const double hours = eventOf(other);
+        return IsEvent(hours) ? std::optional(hours) : std::nullopt;
+    });
+    return {last.value_or(NoEvent), MomentBy::kRule};
 }
 
-Moment TwilightMoment(const YearSource& year, std::size_t row, Prayer prayer) {
-    switch (year.rules.highLatitude) {
-        case HighLatitudeRule::kNone:
-            return {EventOf(year, row, prayer)};
-        case HighLatitudeRule::kNearest:
-            return ByNearestDay(year, row, prayer);
-        default:
-            return ByPortion(year, row, prayer);
-    }
+Moment TwilightOfPrayer(const YearSource& year, std::size_t row, Prayer prayer, double angle) {
+    return TwilightMoment(year, row, {HalfOf(prayer), angle},
+                          [&](std::size_t other) { return EventOf(year, other, prayer); });
+}
+
+/// Only the rule of the angle gives a smaller angle a smaller portion.
+double ShareOfMaghrib(const YearSource& year) {
+    const double share = year.rules.maghribAngle / year.inputs.method.ishaAngle;
+    const bool isOwn = year.rules.highLatitude == HighLatitudeRule::kAngle;
+    return isOwn || share < 0.0 || share > 1.0 ? 1.0 : share;
 }
 
 }  // namespace
@@ -177,7 +189,7 @@ SunDay SunOfDay(const YearSource& year, std::size_t row) {
         return {hours};
     }
     const auto nearest =
-        FindNearest(year, row, [&](std::size_t other) { return WholeDay(year, other); });
+        FindLast(year, row, [&](std::size_t other) { return WholeDay(year, other); });
     if (!nearest) {
         return {hours};
     }
@@ -188,20 +200,24 @@ SunDay SunOfDay(const YearSource& year, std::size_t row) {
     return day;
 }
 
-double TwilightOf(const YearSource& year, std::size_t row, double angle, DayHalf half) {
-    return Beside(year, row, DegToRad(90.0 + angle), half);
-}
-
 double MiddleOfNight(const YearSource& year, std::size_t row) {
     return SunOfDay(year, row).hours[kMaghrib] + NightLength(year, row, DayHalf::kEvening) / 2.0;
 }
 
 Moment FajrOf(const YearSource& year, std::size_t row) {
-    return TwilightMoment(year, row, kFajr);
+    return TwilightOfPrayer(year, row, kFajr, year.inputs.method.fajrAngle);
 }
 
 Moment IshaOf(const YearSource& year, std::size_t row) {
-    return TwilightMoment(year, row, kIsha);
+    return TwilightOfPrayer(year, row, kIsha, year.inputs.method.ishaAngle);
+}
+
+Moment MaghribByAngle(const YearSource& year, std::size_t row) {
+    const double angle = year.rules.maghribAngle;
+    return TwilightMoment(year, row, {DayHalf::kEvening, angle, ShareOfMaghrib(year)},
+                          [&](std::size_t other) {
+                              return Beside(year, other, DegToRad(90.0 + angle), DayHalf::kEvening);
+                          });
 }
 
 }  // namespace horavex

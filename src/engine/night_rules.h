@@ -12,9 +12,10 @@ namespace horavex {
 // sinks to them and as long as they keep to their portion of the night, counted back from sunrise
 // and on from sunset: a half, a seventh, or a sixtieth for each degree of the angle, as tables of
 // the larger conventions publish them. By the rule of the nearest day a twilight that does not come
-// stands at the clock's hour of the last day of the year that had it; in its stead, of the next.
-// Days that lack sunrise, Asr or sunset borrow all three from such a day under any rule, as far
-// from noon as there.
+// stands at the clock's hour of the last day that had it; the end of the year stands for that of
+// the year before. Days that lack sunrise, Asr or sunset borrow all three from such a day under any
+// rule, as far from noon as there. A Maghrib by an angle has the part of Isha's portion that its
+// angle is of Isha's.
 //
 // Hours here are of the record's standard time, without the daylight hour, from the midnight that
 // begins the day.
@@ -34,9 +35,6 @@ struct SunDay {
 
 SunDay SunOfDay(const YearSource& year, std::size_t row);
 
-/// The hour of a twilight by an angle of depression (degrees), or NoEvent.
-double TwilightOf(const YearSource& year, std::size_t row, double angle, DayHalf half);
-
 Moment FajrOf(const YearSource& year, std::size_t row);
 
 /// The middle of the night behind a day, which no Isha passes.
@@ -44,5 +42,8 @@ double MiddleOfNight(const YearSource& year, std::size_t row);
 
 /// Isha by its angle, whatever the intervals say.
 Moment IshaOf(const YearSource& year, std::size_t row);
+
+/// Maghrib by the angle of the rules; NoEvent where neither sun nor rule gives one.
+Moment MaghribByAngle(const YearSource& year, std::size_t row);
 
 }  // namespace horavex

@@ -70,4 +70,13 @@ ZoneYear FindZoneYear(const ZoneRules& rules, const std::string& zone, Date day)
     return ZoneYearOf(offsets, static_cast<std::size_t>(day - first));
 }
 
+void TakeZoneYear(const ZoneYear& zone, SettingsRecord& record) {
+    record.TimeZone = zone.hours;
+    record.DstEnabled = zone.daylight ? 1 : 0;
+    if (zone.daylight) {
+        record.DstStart = zone.dstStart;
+        record.DstEnd = zone.dstEnd;
+    }
+}
+
 }  // namespace horavex

@@ -6,6 +6,7 @@
 
 #include "base/date.h"
 #include "platform/zone_rules.h"
+#include "store/settings_record.h"
 
 namespace horavex {
 
@@ -28,5 +29,8 @@ ZoneYear ZoneYearOf(const std::vector<ZoneOffset>& offsets, std::size_t day);
 
 /// Of the year of a day in a zone of the database. Throws UnknownZoneFault.
 ZoneYear FindZoneYear(const ZoneRules& rules, const std::string& zone, Date day);
+
+/// Writes what a record holds of a zone. Without daylight saving its days stay as they are.
+void TakeZoneYear(const ZoneYear& zone, SettingsRecord& record);
 
 }  // namespace horavex

@@ -280,24 +280,68 @@ constexpr Town kTowns[] = {{"Tromso", 69.65, 18.96, 1.0},       {"Murmansk", 68.
                            {"Longyearbyen", 78.22, 15.65, 1.0}, {"Ushuaia", -54.8, -68.3, -3.0},
                            {"Reykjavik", 64.15, -21.94, 0.0}};
 
+void ExpectOrder(const DayMoments& day, const std::string& where) {
+    for (std::size_t prayer = 0; prayer + 1 < kPrayerCount; ++prayer) {
+        EXPECT_LE(day[prayer].hours, day[prayer + 1].hours) << where << " " << prayer;
+    }
+    EXPECT_GT(day[kFajr].hours, -3.0) << where;
+    EXPECT_LT(day[kIsha].hours, 27.0) << where;
+}
+
+/// A year of a town under a rule, with Maghrib at sunset (0) or by an angle. The rule that looks
+/// back for a day takes long: every fifth day does.
+void ExpectOrderedYear(const Town& town, HighLatitudeRule rule, double maghribAngle) {
+    Case place = Case(town.latitude, town.longitude, town.zone, 18.0).Rule(rule);
+    place.rules.maghribAngle = maghribAngle;
+    place.Calculate();
+    const std::size_t step = rule == HighLatitudeRule::kNearest ? 5 : 1;
+    for (std::size_t row = 0; row < 365; row += step) {
+        const std::string where = std::string(town.name) + " " + std::to_string(row) + " rule " +
+                                  std::to_string(static_cast<int>(rule));
+        ExpectOrder(MomentsOf({place.inputs, place.table.times, place.rules}, row), where);
+    }
+}
+
 TEST(HighLatitude, EveryDayOfAPolarYearHasItsMomentsInOrder) {
     for (const Town& town : kTowns) {
-        for (const auto rule :
-             {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh, HighLatitudeRule::kAngle}) {
-            Case place = Case(town.latitude, town.longitude, town.zone, 18.0).Rule(rule);
-            place.Calculate();
-            for (std::size_t row = 0; row < 365; ++row) {
-                const DayMoments day =
-                    MomentsOf({place.inputs, place.table.times, place.rules}, row);
-                for (std::size_t prayer = 0; prayer + 1 < kPrayerCount; ++prayer) {
-                    EXPECT_LE(day[prayer].hours, day[prayer + 1].hours)
-                        << town.name << " " << row << " " << prayer;
-                }
-                EXPECT_GT(day[kFajr].hours, -3.0) << town.name << " " << row;
-                EXPECT_LT(day[kIsha].hours, 27.0) << town.name << " " << row;
-            }
+        for (const auto rule : {HighLatitudeRule::kMiddle, HighLatitudeRule::kSeventh,
+                                HighLatitudeRule::kAngle, HighLatitudeRule::kNearest}) {
+            ExpectOrderedYear(town, rule, 0.0);
+            ExpectOrderedYear(town, rule, 4.5);
         }
     }
+}
+
+// The sun of a summer's night in Oslo sinks to 4.5 degrees long after a seventh of the night.
+TEST(HighLatitude, MaghribByAnAngleHasItsPartOfIshasPortion) {
+    Case oslo = Oslo().Rule(HighLatitudeRule::kSeventh);
+    const DayMoments plain = oslo.On(6, 21);
+    oslo.rules.maghribAngle = 4.5;
+    const DayMoments day = oslo.On(6, 21);
+    EXPECT_EQ(day[kMaghrib].by, MomentBy::kRule);
+    EXPECT_NEAR(day[kMaghrib].hours - plain[kMaghrib].hours,
+                (plain[kIsha].hours - plain[kMaghrib].hours) * 4.5 / 18.0, 1e-9);
+}
+
+// A winter without sun goes over the turn of the year, and so does what it borrows.
+TEST(HighLatitude, NewYearBorrowsTheSameDayAsItsEve) {
+    Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
+    const DayMoments eve = tromso.On(12, 31);
+    const DayMoments newYear = tromso.On(1, 1);
+    for (const Prayer prayer : {kShurooq, kAsr, kMaghrib}) {
+        EXPECT_NEAR(newYear[prayer].hours - newYear[kZuhr].hours,
+                    eve[prayer].hours - eve[kZuhr].hours, 1e-9);
+    }
+}
+
+// 54.8 degrees south: nights of early January lack 18 degrees as those of late December do.
+TEST(HighLatitude, NearestDayOfASouthernJanuaryIsOneOfTheSpringBefore) {
+    Case ushuaia = Case(-54.8, -68.3, -3.0, 18.0).Rule(HighLatitudeRule::kNearest);
+    const DayMoments eve = ushuaia.On(12, 31);
+    const DayMoments newYear = ushuaia.On(1, 1);
+    ASSERT_EQ(newYear[kIsha].by, MomentBy::kRule);
+    EXPECT_NEAR(newYear[kIsha].hours, eve[kIsha].hours, 1e-9);
+    EXPECT_NEAR(newYear[kFajr].hours, eve[kFajr].hours, 1e-9);
 }
 
 /// By the sun's own days: sunrise and sunset move by less than an hour and a half from one to the

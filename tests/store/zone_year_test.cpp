@@ -80,5 +80,26 @@ TEST(ZoneYear, UnknownZoneIsAFault) {
     EXPECT_THROW(YearOf("Europe/Berlun", 2026), UnknownZoneFault);
 }
 
+TEST(TakeZoneYearTest, DaysStayAsTheyAreWhereTheYearHasNone) {
+    SettingsRecord record;
+    record.DstEnabled = 1;
+    record.DstStart = 88;
+    record.DstEnd = 297;
+    TakeZoneYear({.hours = 5.5}, record);
+    EXPECT_EQ(record.TimeZone, 5.5);
+    EXPECT_EQ(record.DstEnabled, 0);
+    EXPECT_EQ(record.DstStart, 88);
+    EXPECT_EQ(record.DstEnd, 297);
+}
+
+TEST(TakeZoneYearTest, DaysOfTheYearAreTaken) {
+    SettingsRecord record;
+    TakeZoneYear({-5.0, true, 67, 304}, record);
+    EXPECT_EQ(record.TimeZone, -5.0);
+    EXPECT_EQ(record.DstEnabled, 1);
+    EXPECT_EQ(record.DstStart, 67);
+    EXPECT_EQ(record.DstEnd, 304);
+}
+
 }  // namespace
 }  // namespace horavex
