@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "base/rounding.h"
-#include "store/angle_band.h"
+#include "config/angle_range.h"
 #include "store/text_table.h"
 
 namespace horavex {
@@ -13,8 +13,9 @@ namespace {
 constexpr double kQuarter = 0.25;  // degrees a step of the fine slider
 
 std::string Refusal(std::int16_t language) {
-    return TextItem(TextEntry::kOutsideBand, language) + " " + std::to_string(AngleBand.smallest) +
-           " - " + std::to_string(AngleBand.largest);
+    const AngleLimits range = AngleRange();
+    return TextItem(TextEntry::kOutsideBand, language) + " " + std::to_string(range.smallest) +
+           " - " + std::to_string(range.largest);
 }
 
 }  // namespace

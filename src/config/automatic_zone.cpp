@@ -34,15 +34,6 @@ TextEntry HintOf(CityClock state) {
     return TextEntry::kZoneOfCityHint;
 }
 
-/// "UTC-5", "UTC+5:45".
-std::string OffsetText(double hours) {
-    const int minutes = NearestInt(std::fabs(hours) * 60.0);
-    std::string text = std::string("UTC") + (hours < 0.0 ? "-" : "+");
-    text += std::to_string(minutes / 60);
-    const int rest = minutes % 60;
-    return rest == 0 ? text : text + (rest < 10 ? ":0" : ":") + std::to_string(rest);
-}
-
 /// Both offsets, where the zone follows a city whose clock is not this computer's.
 std::string ClockNote() {
     const Date today = Ports().clock.Today();
@@ -51,8 +42,8 @@ std::string ClockNote() {
     if (!city || *city == here) {
         return {};
     }
-    return TextItem(TextEntry::kThisComputersClock, Settings.Language) + ": " + OffsetText(here) +
-           "; " + Location.City.Name + ": " + OffsetText(*city);
+    return TextItem(TextEntry::kThisComputersClock, Settings.Language) + ": " +
+           UtcOffsetText(here) + "; " + Location.City.Name + ": " + UtcOffsetText(*city);
 }
 
 void ShowClocks() {
@@ -77,6 +68,14 @@ void chkAutomaticZone_Click() {
 }
 
 }  // namespace
+
+std::string UtcOffsetText(double hours) {
+    const int minutes = NearestInt(std::fabs(hours) * 60.0);
+    std::string text = std::string("UTC") + (hours < 0.0 ? "-" : "+");
+    text += std::to_string(minutes / 60);
+    const int rest = minutes % 60;
+    return rest == 0 ? text : text + (rest < 10 ? ":0" : ":") + std::to_string(rest);
+}
 
 bool AutomaticZoneIsOn() {
     return HoravexMainForm->chkAutomaticZone.Value() == 1;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace horavex {
 
 // The box by which zone and daylight saving follow the city. It stands in the settings window,
@@ -30,6 +32,9 @@ public:
     ZoneHold(const ZoneHold&) = delete;
     ZoneHold& operator=(const ZoneHold&) = delete;
 };
+
+/// "UTC-5", "UTC+5:45". hours: ahead of Greenwich.
+std::string UtcOffsetText(double hours);
 
 /// Binds the box of the settings window.
 void BindAutomaticZone();

@@ -4,6 +4,7 @@
 #include "config/automatic_zone.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
+#include "config/usual_pick.h"
 #include "config/wizard_preview.h"
 #include "geo/city_picker.h"
 #include "platform/platform.h"
@@ -64,6 +65,7 @@ void cmdChangeCity_Click() {
 
 void BindCityChoice() {
     fCountry->onPick = TakePickedCity;
+    fCountry->onPickDone = FollowUsualChoices;
     HoravexMainForm->cmdChangeCity.onClick = cmdChangeCity_Click;
 }
 

@@ -8,6 +8,7 @@
 #include "config/automatic_zone.h"
 #include "config/city_clock.h"
 #include "config/settings_display.h"
+#include "config/working_options.h"
 #include "config/zone_box.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
@@ -183,13 +184,18 @@ void SaveZoneOption(int value) {
     }
 }
 
-/// The calculation goes by the option that is tried; a refused one gives way to the accepted one.
-void CommitWithZoneOption() {
-    const int accepted = ReadOption(option::kAutomaticZone);
+/// The calculation goes by the options that are tried; refused ones give way to the accepted ones.
+void CommitWithOptions() {
+    const int acceptedZone = ReadOption(option::kAutomaticZone);
+    const YearOptions accepted = ReadRuleOptions();
     SaveZoneOption(AutomaticZoneIsOn() ? 1 : 0);
+    SaveYearOptions(WorkingRules());
     Commit();
     if (CalcFailed != 0) {
-        SaveZoneOption(accepted);
+        SaveZoneOption(acceptedZone);
+        SaveYearOptions(accepted);
+    } else {
+        ChosenOptionsAreAccepted();
     }
 }
 
@@ -207,7 +213,7 @@ void SettingsSet_Click() {
     }
     const ShutWindows shut;
     Settings.TimeZone = *zone;
-    CommitWithZoneOption();
+    CommitWithOptions();
     HoravexMainForm->Hide();
 }
 

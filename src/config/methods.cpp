@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "config/angle_range.h"
 #include "config/authorities.h"
-#include "store/angle_band.h"
 
 namespace horavex {
 
@@ -31,7 +31,8 @@ std::span<const Method> Methods() {
 
 bool FitsBand(const Method& method) {
     const auto [lower, higher] = std::minmax({method.fajrAngle, method.ishaAngle});
-    return lower >= AngleBand.smallest && higher <= AngleBand.largest;
+    const AngleLimits range = AngleRange();
+    return lower >= range.smallest && higher <= range.largest;
 }
 
 }  // namespace horavex

@@ -17,7 +17,7 @@ struct Method {
 /// define Isha by minutes after sunset, or Maghrib by an angle of its own, are none of these.
 std::span<const Method> Methods();
 
-/// Whether both angles lie within the band of the present latitude, limits included.
+/// Whether both angles lie within the range of the windows, limits included.
 bool FitsBand(const Method& method);
 
 }  // namespace horavex

@@ -5,10 +5,12 @@
 #include "base/rounding.h"
 #include "base/text.h"
 #include "config/angle_controls.h"
+#include "config/angle_range.h"
 #include "config/automatic_zone.h"
 #include "config/computer_zone.h"
 #include "config/settings_display.h"
 #include "config/wizard_preview.h"
+#include "config/working_options.h"
 #include "config/zone_box.h"
 #include "engine/current_year.h"
 #include "geo/city_picker.h"
@@ -176,15 +178,16 @@ void TakeStoredSettings() {
 /// Ranges of the angle controls of a window, and the labels of their limits.
 template <class Window>
 void LimitAngles(Window& form) {
+    const AngleLimits range = AngleRange();
     for (ScrollBar* bar : {&form.hsDepr, &form.hsDepr2}) {
-        bar->SetMin(AngleBand.smallest);
-        bar->SetMax(AngleBand.largest);
+        bar->SetMin(range.smallest);
+        bar->SetMax(range.largest);
     }
     for (Label* label : {&form.lblDeprMin, &form.Label7}) {
-        label->SetCaption(std::to_string(AngleBand.smallest));
+        label->SetCaption(std::to_string(range.smallest));
     }
     for (Label* label : {&form.lblDeprMax, &form.Label6}) {
-        label->SetCaption(std::to_string(AngleBand.largest));
+        label->SetCaption(std::to_string(range.largest));
     }
     ListMethods(form, Settings.Language);
 }
@@ -207,6 +210,7 @@ void BindOptions(ControlArray<OptionButton>& options, void (*write)(std::int16_t
 void Settings_Form_Load() {
     const ZoneHold hold;
     CancelLoad = kFalse;
+    DropChosenOptions();
     CurrentYear = ToInt16(CivilFromDate(Ports().clock.Today()).year);
     LeapYearFlag();
     CopyActiveToWorking();

@@ -9,8 +9,8 @@ namespace horavex {
 void Settings_Form_Load();
 
 /// Takes the band of a latitude (stored hundredths of a degree) and sets the ranges of the angle
-/// controls, the labels of their limits and the list of conventions, here and in the wizard.
-/// Without a band file the former band stays.
+/// controls as AngleRange has them, the labels of their limits and the list of conventions, here
+/// and in the wizard. Without a band file the former band stays.
 void SetDepressionLimits(std::int16_t latitude);
 
 /// Reads the stored working settings back, with the place that they name, and shows them, but

@@ -11,7 +11,9 @@
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/wizard_controls.h"
+#include "config/wizard_place.h"
 #include "config/wizard_preview.h"
+#include "config/working_options.h"
 #include "config/zone_box.h"
 #include "engine/center_on_screen.h"
 #include "engine/day_driver.h"
@@ -21,6 +23,7 @@
 #include "platform/platform.h"
 #include "store/angle_band.h"
 #include "store/location_record.h"
+#include "store/options.h"
 #include "store/settings_record.h"
 #include "windows/f_country.h"
 #include "windows/frm_main.h"
@@ -53,6 +56,7 @@ void ShowPage(std::int16_t page) {
     }
     form.Frame(page).BringToFront();
     form.Frame2(page).BringToFront();
+    form.fraToday.SetVisible(page != kLastPage);
 }
 
 void CopyPrayerNames() {
@@ -161,6 +165,24 @@ void CopyAutomaticZone() {
     box.SetValue(source.Value());
 }
 
+/// The proposals of a wizard that was cancelled are gone; its edits of the working settings stay.
+void GiveUpChoices() {
+    DropChosenOptions();
+    SetDepressionLimits(Location.City.Latitude);
+    ShowAutomaticZone(ReadOption(option::kAutomaticZone) == 1);
+}
+
+void Cancel() {
+    GiveUpChoices();
+    frmWizard->Unload();
+}
+
+void frmWizard_QueryUnload(const CloseRequest& request) {
+    if (request.reason == CloseReason::kUser) {
+        GiveUpChoices();
+    }
+}
+
 void Finish() {
     RunStep(SetSettings);
     frmWizard->Unload();
@@ -224,6 +246,8 @@ void chkAutomaticZone_Click() {
     HoravexMainForm->chkAutomaticZone.SetValue(frmWizard->chkAutomaticZone.Value());
     const PreviewHold hold;
     ShowCityZone();
+    ShowPlaceOnWizard();
+    SetTodayPrayerTimes();
 }
 
 /// The settings window's controls are filled; the wizard shows them as any refresh does.
@@ -261,6 +285,7 @@ void ShowCityOnWizard() {
     form.hsEnd.SetValue(Settings.DstEnd - 1);
     CopyAutomaticZone();
     ShowWizardAngles();
+    ShowPlaceOnWizard();
 }
 
 void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted) {
@@ -277,12 +302,13 @@ void BindWizard() {
     BindWizardControls();
     WizardForm& form = *frmWizard;
     form.onLoad = frmWizard_Load;
+    form.onCloseRequest = frmWizard_QueryUnload;
     form.cmdNext.onClick = cmdNext_Click;
     form.cmdPrev.onClick = cmdPrev_Click;
     form.cmdSetCity.onClick = cmdSetCity_Click;
     form.cmdComputerZone.onClick = cmdComputerZone_Click;
     form.chkAutomaticZone.onClick = chkAutomaticZone_Click;
-    form.Command3.onClick = [] { frmWizard->Unload(); };
+    form.Command3.onClick = Cancel;
 }
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #include "config/wizard_controls.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include "base/int16.h"
 #include "config/angle_controls.h"
@@ -59,8 +60,8 @@ void txtTimeZone_KeyUp() {
 }
 
 /// A handler of the open wizard.
-Handler WhileOpen(void (*handler)()) {
-    return [handler] {
+Handler WhileOpen(Handler handler) {
+    return [handler = std::move(handler)] {
         if (frmWizard->IsLoaded()) {
             handler();
         }
@@ -73,10 +74,10 @@ void BindRange(MovableRange& range, void (*change)()) {
 
 void BindAsrRatio() {
     frmWizard->optAsrRatio.Bind([](OptionButton& option) {
-        option.onClick = [&option] {
+        option.onClick = WhileOpen([&option] {
             Settings.AsrRatio = option.Index();
             SetTodayPrayerTimes();
-        };
+        });
     });
 }
 

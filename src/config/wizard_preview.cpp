@@ -1,13 +1,19 @@
 #include "config/wizard_preview.h"
 
+#include <cmath>
 #include <cstdint>
 #include <exception>
 #include <optional>
+#include <string>
 #include <utility>
 
+#include "base/int16.h"
 #include "base/program_state.h"
-#include "config/automatic_zone.h"
-#include "config/city_clock.h"
+#include "config/working_options.h"
+#include "engine/current_year.h"
+#include "engine/moment_text.h"
+#include "engine/moments.h"
+#include "engine/solar_event.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -17,8 +23,6 @@
 namespace horavex {
 
 namespace {
-
-constexpr double kHoursPerDay = 24.0;
 
 int holds = 0;
 bool asked = false;  // for a preview, while it is put off
@@ -30,7 +34,7 @@ struct PreviewInput {
     std::int16_t latitude;
     std::int16_t longitude;
     Date today;
-    std::optional<double> cityHours;  // east of Greenwich, where the zone follows the city
+    YearOptions options;
 
     bool operator==(const PreviewInput&) const = default;
 };
@@ -45,28 +49,77 @@ const ProgramStateReset reset([] {
     shown.reset();
 });
 
-/// The city's clock today, while it counts.
-std::optional<double> CityHours(Date today) {
-    return AutomaticZoneIsOn() ? CityHoursOn(Settings.CityIndex, today) : std::nullopt;
-}
-
 PreviewInput PresentInput() {
-    const Date today = Ports().clock.Today();
-    return {Settings, IshaAngle,       Location.City.Latitude, Location.City.Longitude,
-            today,    CityHours(today)};
+    return {Settings,
+            IshaAngle,
+            Location.City.Latitude,
+            Location.City.Longitude,
+            Ports().clock.Today(),
+            WorkingOptions()};
 }
 
-/// At the working place, which the table may not have been worked out for. The clock of the city
-/// stands in the place of the record's daylight hour.
-PrayerRow TimesOf(const PreviewInput& input) {
+/// The working place, which the table may not have been worked out for, under the given rules. The
+/// clock of the city stands in the place of the record's daylight hour.
+YearInputs InputsUnder(const MomentRules& rules) {
     YearInputs inputs = PresentInputs();
     inputs.place = PlaceOf(Location.City, Settings.TimeZone);
-    inputs.method.dstEnabled = input.cityHours ? std::int16_t{0} : inputs.method.dstEnabled;
-    PrayerRow times = ComputeTodayTimes(inputs, input.today);
-    for (double& hours : times) {
-        hours += input.cityHours.value_or(Settings.TimeZone) - Settings.TimeZone;
+    YearMethod& method = inputs.method;
+    method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
+    method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
+    method.dstEnabled = rules.zone.empty() ? method.dstEnabled : std::int16_t{0};
+    return inputs;
+}
+
+DayMoments ByTheSun(const PrayerRow& hours) {
+    DayMoments moments;
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        moments[prayer].hours = hours[prayer];
     }
-    return times;
+    return moments;
+}
+
+/// The year that rules draw on never gives up here: a day that does has told so already.
+DayMoments ByRules(YearInputs inputs, const MomentRules& rules, Date today) {
+    inputs.method.needsFajr = inputs.method.needsIsha = false;
+    inputs.year = ToInt16(CivilFromDate(today).year);
+    const YearTable table = CalculateYear(inputs);
+    const auto row = static_cast<std::size_t>(today - DateSerial(inputs.year, 1, 1));
+    return MomentsOf({inputs, table.times, rules}, row);
+}
+
+DayMoments MomentsOfPreview(const PreviewInput& input) {
+    const MomentRules rules = PossibleRulesOfYear(input.options, CurrentYear).moments;
+    const YearInputs inputs = InputsUnder(rules);
+    const PrayerRow bare = ComputeTodayTimes(inputs, input.today);
+    return rules == MomentRules{} ? ByTheSun(bare) : ByRules(inputs, rules, input.today);
+}
+
+/// A time that does not come has no text.
+bool Comes(const Moment& moment) {
+    return std::fabs(moment.hours) < NoEvent;
+}
+
+void ShowMoments(const DayMoments& moments) {
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        const int index = static_cast<int>(prayer);
+        const Moment& moment = moments[prayer];
+        frmWizard->lblTime(index).SetCaption(Comes(moment) ? MomentText(moment) : "");
+        frmWizard->lblTimeToday(index).SetCaption(Comes(moment) ? MomentCell(moment) : "");
+    }
+}
+
+void ShowNote(Label& label, const std::string& note) {
+    label.SetCaption(note);
+    label.SetVisible(!note.empty());
+}
+
+void ShowNotes(const DayMoments& moments, HighLatitudeRule rule) {
+    ShowNote(frmWizard->lblTimeNote, RuleNote(moments, rule));
+    std::string notes;
+    for (const std::string& note : ColumnNotes(moments, rule)) {
+        notes += (notes.empty() ? "" : " ") + note;
+    }
+    ShowNote(frmWizard->lblTimeTodayNote, notes);
 }
 
 }  // namespace
@@ -81,11 +134,9 @@ void SetTodayPrayerTimes() {
         return;
     }
     shown = input;
-    const PrayerRow times = TimesOf(input);
-    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        frmWizard->lblTime(static_cast<int>(prayer))
-            .SetCaption(Ports().formats.MediumTime(times[prayer] / kHoursPerDay));
-    }
+    const DayMoments moments = MomentsOfPreview(input);
+    ShowMoments(moments);
+    ShowNotes(moments, input.options.highLatitude);
 }
 
 void ForgetPreview() {

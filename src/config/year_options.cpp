@@ -65,11 +65,17 @@ std::vector<ZoneSpan> SpansOfYear(const std::string& zone, std::int16_t year) {
     return spans;
 }
 
+template <class Option, class Value>
+void SaveChange(const Option& option, const Value& value) {
+    if (value != ReadOption(option)) {
+        SaveOption(option, value);
+    }
+}
+
 }  // namespace
 
-YearOptions ReadYearOptions(std::int16_t cityIndex) {
+YearOptions ReadRuleOptions() {
     YearOptions options;
-    options.zone = ChosenZone(cityIndex);
     options.highLatitude = ReadOption(option::kHighLatitudeRule);
     options.ishaInterval = ReadOption(option::kIshaInterval);
     options.ishaIntervalRamadan = ReadOption(option::kIshaIntervalRamadan);
@@ -80,6 +86,24 @@ YearOptions ReadYearOptions(std::int16_t cityIndex) {
     options.hijri = ReadOption(option::kHijriCalendar);
     options.hijriAdjustment = ReadOption(option::kHijriAdjustment);
     return options;
+}
+
+YearOptions ReadYearOptions(std::int16_t cityIndex) {
+    YearOptions options = ReadRuleOptions();
+    options.zone = ChosenZone(cityIndex);
+    return options;
+}
+
+void SaveYearOptions(const YearOptions& options) {
+    SaveChange(option::kHighLatitudeRule, options.highLatitude);
+    SaveChange(option::kIshaInterval, options.ishaInterval);
+    SaveChange(option::kIshaIntervalRamadan, options.ishaIntervalRamadan);
+    SaveChange(option::kMaghribAngle, options.maghribAngle);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        SaveChange(option::kOffsets[prayer], options.offsets[prayer]);
+    }
+    SaveChange(option::kHijriCalendar, options.hijri);
+    SaveChange(option::kHijriAdjustment, options.hijriAdjustment);
 }
 
 void TakeAuthority(const Authority& authority, YearOptions& options) {
@@ -109,14 +133,17 @@ YearRules RulesOfYear(const YearOptions& options, std::int16_t year) {
     return rules;
 }
 
-YearRules StoredRulesOfYear(std::int16_t year) {
-    YearOptions options = ReadYearOptions(Settings.CityIndex);
+YearRules PossibleRulesOfYear(YearOptions options, std::int16_t year) {
     try {
         return RulesOfYear(options, year);
     } catch (const UnknownZoneFault&) {
         options.zone.clear();
         return RulesOfYear(options, year);
     }
+}
+
+YearRules StoredRulesOfYear(std::int16_t year) {
+    return PossibleRulesOfYear(ReadYearOptions(Settings.CityIndex), year);
 }
 
 }  // namespace horavex

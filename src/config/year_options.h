@@ -24,9 +24,16 @@ struct YearOptions {
     bool operator==(const YearOptions&) const = default;
 };
 
+/// The stored options, the zone apart.
+YearOptions ReadRuleOptions();
+
 /// The stored options, with the zone of a city where its clock is to count. Where the files of the
 /// zones cannot be used that is told, and the record's zone counts.
 YearOptions ReadYearOptions(std::int16_t cityIndex);
+
+/// Stores them, the zone apart. Where nothing changes nothing is written: an absent value stays
+/// absent.
+void SaveYearOptions(const YearOptions& options);
 
 /// Puts what a method asks beyond its angles of Fajr and Isha in the place of the options: the
 /// intervals, the angle of Maghrib, the margins as offsets.
@@ -38,8 +45,10 @@ void TakeAuthority(const Authority& authority, YearOptions& options);
 /// the zone database does not have.
 YearRules RulesOfYear(const YearOptions& options, std::int16_t year);
 
-/// The rules of a year by the stored options and the working city. A zone that the zone database
-/// does not have counts as none.
+/// The same, but a zone that the zone database does not have counts as none.
+YearRules PossibleRulesOfYear(YearOptions options, std::int16_t year);
+
+/// That of a year by the stored options and the working city.
 YearRules StoredRulesOfYear(std::int16_t year);
 
 }  // namespace horavex

@@ -187,9 +187,12 @@ CityPick PickOf(std::int16_t cityIndex) {
     return pick;
 }
 
+bool IsForDistance() {
+    return fCountry->openedFromDistance != kFalse;
+}
+
 void Take(std::int16_t cityIndex) {
-    const bool forDistance = fCountry->openedFromDistance != kFalse;
-    const auto& take = forDistance ? fCountry->onPickForDistance : fCountry->onPick;
+    const auto& take = IsForDistance() ? fCountry->onPickForDistance : fCountry->onPick;
     if (take) {
         take(cityIndex);
     }
@@ -250,6 +253,9 @@ void cmdOK_Click() {
     fCountry->Hide();
     ForgetCities();
     SetEgyptianAngles();
+    if (!IsForDistance() && fCountry->onPickDone) {
+        fCountry->onPickDone();
+    }
 }
 
 void fCountry_Load() {

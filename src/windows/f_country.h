@@ -37,6 +37,9 @@ public:
     /// Each takes the CityIndex of a picked city: for the distance window, and for the settings.
     std::function<void(std::int16_t cityIndex)> onPickForDistance;
     std::function<void(std::int16_t cityIndex)> onPick;
+
+    /// The end of a pick for the settings, when all has been done that it does.
+    Handler onPickDone;
 };
 
 inline const FormInstance<CountryForm> fCountry;

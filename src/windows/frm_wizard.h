@@ -91,6 +91,11 @@ public:
     ScrollBar hsEnd{Frame2(3), "hsEnd", {.max = 364}};
     Label lblEnd{Frame2(3), "lblEnd"};
 
+    /// What is usual at the place, and what counts besides the angles.
+    Label lblUsual{Frame2(4), "lblUsual", {.caption = "Usual in"}};
+    Label lblNoUsual{
+        Frame2(4), "lblNoUsual", {.caption = "No usual method is known for", .visible = false}};
+
     Label lblMethod{Frame2(4), "lblMethod", {.caption = "&Method"}};
     ComboBox cboMethod{Frame2(4), "cboMethod", {.typed = false}};
     Label lblFajrAngle{Frame2(4), "lblFajrAngle", {.caption = "Fajr angle"}};
@@ -105,6 +110,22 @@ public:
     Label Label6{Frame2(4), "Label6", {.caption = "Max."}};
     Slider hsDepr21{Frame2(4), "hsDepr21", {.max = 4}};
     Label lblDepr1{Frame2(4), "lblDepr1"};
+    Label lblInterval{
+        Frame2(4), "lblInterval", {.caption = "Isha minutes after Maghrib:", .visible = false}};
+    Label lblRuleMiddle{Frame2(4),
+                        "lblRuleMiddle",
+                        {.caption = "Fajr and Isha keep to their half of the night, also where the "
+                                    "sun does not sink to the angle.",
+                         .visible = false}};
+    Label lblRuleSeventh{
+        Frame2(4),
+        "lblRuleSeventh",
+        {.caption = "Beyond 48 degrees of latitude it may not get dark on summer nights: Fajr then "
+                    "comes in the last seventh of the night, Isha in the first.",
+         .visible = false}};
+    Label lblHijri{Frame2(4),
+                   "lblHijri",
+                   {.caption = "Hijri dates by the Umm al-Qura calendar.", .visible = false}};
     ControlArray<OptionButton> optAsrRatio{
         Frame2(4),
         "optAsrRatio",
@@ -115,6 +136,14 @@ public:
     ControlArray<Label> lblZoritNameArabic{Frame2(4), "lblZoritNameArabic",
                                            PrayerLabels(kPrayerKeys)};
     ControlArray<Label> lblTime{Frame2(4), "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
+    Label lblTimeNote{Frame2(4), "lblTimeNote", {.visible = false}};
+
+    /// The times of today at the picked place, below each page but the last, which has its own.
+    horavex::Frame fraToday{*this, "fraToday", {.caption = "Today"}};
+    Label lblPlace{fraToday, "lblPlace", {.caption = "City"}};
+    ControlArray<Label> lblPrayerToday{fraToday, "lblPrayerToday", PrayerLabels(kPrayerKeys)};
+    ControlArray<Label> lblTimeToday{fraToday, "lblTimeToday", {{0}, {1}, {2}, {3}, {4}, {5}}};
+    Label lblTimeTodayNote{fraToday, "lblTimeTodayNote", {.visible = false}};
 
     CommandButton Command3{*this, "Command3", {.caption = "&Cancel"}};
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "&Previuos", .enabled = false}};
