@@ -5,6 +5,7 @@
 #include "config/settings_controls.h"
 #include "config/settings_window.h"
 #include "config/wizard.h"
+#include "config/wizard_preview.h"
 #include "config/working_options.h"
 #include "engine/day_driver.h"
 #include "store/stored_values.h"
@@ -115,10 +116,26 @@ TEST_F(UsualPickTest, NorthernCityTakesASeventhAndASummerWithoutTwilight) {
     EXPECT_EQ(wizard.hsDepr.Max(), 20);
     EXPECT_EQ(wizard.lblDeprMax.Caption(), "20");
     EXPECT_EQ(wizard.hsDepr.Value(), 18);
+    EXPECT_EQ(wizard.lblTime(kIsha).Caption(), "10:28 PM †");
+    EXPECT_TRUE(wizard.lblTimeNote.Visible());
+    EXPECT_TRUE(wizard.lblTimeTodayNote.Visible());
     Finish();
     EXPECT_EQ(ActiveSettings.FajrAngle, 18.0);
     EXPECT_EQ(ShownDay.moments[kIsha].by, MomentBy::kRule);
-    EXPECT_EQ(wizard.lblTime(kIsha).Caption(), "");
+}
+
+TEST_F(UsualPickTest, MomentBeyondMidnightIsShownWithItsDay) {
+    AddZone("Europe/Oslo", 2 * kHour);
+    SetClock(2026, 6, 21, 12, 0, 0);
+    Start();
+    PickInWizard("oslo");
+    YearOptions options = WorkingRules();
+    options.highLatitude = HighLatitudeRule::kMiddle;
+    ChooseOptions(options);
+    SetTodayPrayerTimes();
+    EXPECT_EQ(wizard.lblTime(kIsha).Caption(), "01:18 AM, next day †");
+    EXPECT_EQ(wizard.lblTimeToday(kIsha).Caption(), "01:18 AM+1†");
+    EXPECT_EQ(wizard.lblTime(kZuhr).Caption(), "01:18 PM");
 }
 
 TEST_F(UsualPickTest, CountryWithoutAKnownMethodSaysSo) {
@@ -231,7 +248,7 @@ TEST_P(PreviewTest, FirstPageHasTheTimesThatTheFaceHasBehindTheFinish) {
     PickInWizard(GetParam());
     std::vector<std::string> preview;
     for (int prayer = 0; prayer < 6; ++prayer) {
-        preview.push_back(wizard.lblTimeToday(prayer).Caption());
+        preview.push_back(wizard.lblTime(prayer).Caption());
     }
     Finish();
     for (int prayer = 0; prayer < 6; ++prayer) {
