@@ -9,6 +9,7 @@
 
 #include "base/fault.h"
 #include "engine/year_table.h"
+#include "lib/city_walk.h"
 #include "lib/data_writer.h"
 #include "lib/text_source.h"
 #include "lib/tool_platform.h"
@@ -82,22 +83,6 @@ private:
     int year_;
     std::map<std::string, std::vector<std::string>> zones_;
 };
-
-void ReadProgramFolder(const std::string& folder, MemoryFiles& files) {
-    for (const std::string file :
-         {"SI.DAt", "S.DAT", "CI.DAT", "C.DAt", "PI.DAT", "P.DAT", "ZI.DAT", "Z.DAT"}) {
-        files.WriteWhole(std::string("/program/Dat/") + file,
-                         BytesOf(ReadText(folder + "/Dat/" + file)));
-    }
-}
-
-std::size_t StepOf(const std::string& text) {
-    const int step = WholeNumber(text);
-    if (step < 1) {
-        throw BoundsFault("the step is 1 or more, not " + text);
-    }
-    return static_cast<std::size_t>(step);
-}
 
 void Compare(char** arguments) {
     ToolPlatform platform;

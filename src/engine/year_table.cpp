@@ -38,12 +38,15 @@ PrayerRow TimesOfRow(std::size_t row) {
     return RowOf(Times, row);
 }
 
-YearInputs PresentInputs() {
-    YearMethod method = MethodOf(Settings, IshaAngle);
-    const MomentRules& rules = RuledYear.rules.moments;
+YearMethod MethodUnder(const MomentRules& rules, YearMethod method) {
     method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
     method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
-    return {CurrentYear, PresentPlace(), method};
+    return method;
+}
+
+YearInputs PresentInputs() {
+    return {CurrentYear, PresentPlace(),
+            MethodUnder(RuledYear.rules.moments, MethodOf(Settings, IshaAngle))};
 }
 
 void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const ProgressReport& report) {

@@ -16,7 +16,8 @@ namespace horavex {
 /// program folder is "/program" and holds an empty text table.
 class ToolPlatform {
 public:
-    ToolPlatform() {
+    ToolPlatform() : ToolPlatform(NoZones()) {}
+    explicit ToolPlatform(const ZoneRules& zoneRules) : zoneRules_(zoneRules) {
         files.WriteWhole("/program/Dat/T.DAT", {});
         files.WriteWhole("/program/Dat/TI.DAT", {});
         InstallPlatform(&platform_);
@@ -28,6 +29,11 @@ public:
     MemoryFiles files;
 
 private:
+    static const ZoneRules& NoZones() {
+        static const FixedZoneRules none;
+        return none;
+    }
+
     ManualClock clock_;
     ScriptedEventLoop loop_{clock_};
     ProgramFolder folder_{files, "/program", "/program"};
@@ -43,7 +49,7 @@ private:
     AbsentFace athanFace_;
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
-    FixedZoneRules zoneRules_;  // none
+    const ZoneRules& zoneRules_;
     Platform platform_{clock_,    loop_,          files,      folder_,      formats_,  dialogs_,
                        registry_, instanceGuard_, face_,      windows_,     tray_,     shell_,
                        network_,  athanFace_,     audioFile_, audioPlayer_, zoneRules_};
