@@ -98,6 +98,7 @@ void TakeUsual(Date day) {
         TakeZone(zone, day);
     }
     ChosenOptions.highLatitude = UsualHighLatitudeRule(StoredCoord(Location.City.Latitude));
+    ChosenOptions.sunOfTheDay = true;
 }
 
 /// The method by hand, or else the one that is usual in the country of a city.

@@ -85,6 +85,7 @@ YearOptions ReadRuleOptions() {
     }
     options.hijri = ReadOption(option::kHijriCalendar);
     options.hijriAdjustment = ReadOption(option::kHijriAdjustment);
+    options.sunOfTheDay = ReadOption(option::kSunOfTheDay) == 1;
     return options;
 }
 
@@ -115,6 +116,7 @@ void TakeAuthority(const Authority& authority, YearOptions& options) {
 
 YearRules RulesOfYear(const YearOptions& options, std::int16_t year) {
     YearRules rules;
+    rules.moments.start = options.sunOfTheDay ? YearStart::kCalendar : YearStart::kRounded;
     rules.moments.highLatitude = options.highLatitude;
     rules.moments.ishaInterval = options.ishaInterval;
     rules.moments.ishaIntervalRamadan = options.ishaIntervalRamadan;

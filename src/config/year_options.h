@@ -20,6 +20,7 @@ struct YearOptions {
     std::array<int, kPrayerCount> offsets{};  // minutes
     HijriSource hijri = HijriSource::kArithmetic;
     int hijriAdjustment = 0;  // days
+    bool sunOfTheDay = false;
 
     bool operator==(const YearOptions&) const = default;
 };

@@ -138,7 +138,7 @@ void RecalculateYear() {
     // the table: their own order shows nowhere, that they all stand before the table does.
     TakePlace(Location.City, CityText);
     LeapYearFlag();
-    ComputeYearConstants(CurrentYear);
+    ComputeYearConstants(CurrentYear, rules.moments.start);
     RuledYear.rules = std::move(rules);
     RuledYear.inputs = PresentInputs();  // a tick comes in with the first report
     ComputeYearTimes(0, AddInt16(365, LeapFlag),

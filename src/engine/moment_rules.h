@@ -20,6 +20,7 @@ struct ZoneSpan {
 
 /// What the options ask of a year's moments beyond its table. By default nothing.
 struct MomentRules {
+    YearStart start = YearStart::kRounded;
     HighLatitudeRule highLatitude = HighLatitudeRule::kNone;
     int ishaInterval = 0;                     // minutes after Maghrib; 0 leaves Isha to its angle
     int ishaIntervalRamadan = 0;              // the same in Ramadan; 0 makes no difference

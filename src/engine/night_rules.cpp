@@ -49,7 +49,7 @@ std::int16_t DayOfYear(std::size_t row) {
 /// Where the shadow has its length beyond that of noon.
 double AsrZenith(const YearSource& year, std::size_t row) {
     double gap = 0.0;
-    SolarTransit(YearConstantsOf(year.inputs.year), year.inputs.place, DayOfYear(row), gap);
+    SolarTransit(ConstantsOf(year.inputs), year.inputs.place, DayOfYear(row), gap);
     return std::atan(std::tan(gap) + year.inputs.method.asrRatio);
 }
 
@@ -73,8 +73,8 @@ DayHalf HalfOf(Prayer prayer) {
 
 double Beside(const YearSource& year, std::size_t row, double zenith, DayHalf half) {
     const double transit = StandardRow(year, row)[kZuhr];
-    return EventBeside(YearConstantsOf(year.inputs.year), year.inputs.place, DayOfYear(row), zenith,
-                       transit, half);
+    return EventBeside(ConstantsOf(year.inputs), year.inputs.place, DayOfYear(row), zenith, transit,
+                       half);
 }
 
 /// An event of the sun: the table's own number where it is one. The table folds what passes

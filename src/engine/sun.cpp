@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/date.h"
 #include "base/program_state.h"
 #include "base/rounding.h"
 #include "engine/angle.h"
@@ -20,8 +21,13 @@ const ProgramStateReset reset([] { CurrentYearConstants = {}; });
 // next day: transit differs by up to half a minute, sunset at 50 degrees by two minutes around an
 // equinox. Kept, with YearConstantsOf.DayNumberIsRoundedToTheNearestEven: another rounding would
 // put the limits that stop a year, and data/angles.csv with them, on other days.
-double DayNumber(std::int16_t year) {
+double RoundedDayNumber(std::int16_t year) {
     return RoundHalfEven(365.0 * (year - 1900) + (year - 1901) / 4.0);
+}
+
+/// The same of the calendar.
+double CalendarDayNumber(std::int16_t year) {
+    return DateSerial(year, 1, 1) - DateSerial(1900, 1, 1);
 }
 
 // Newcomb's obliquity without its terms in T squared (-0.0059") and T cubed (0.00181").
@@ -67,8 +73,10 @@ void ComputeCenter(double T, YearConstants& constants) {
 
 }  // namespace
 
-YearConstants YearConstantsOf(std::int16_t year) {
-    const double T = (DayNumber(year) - 0.5) / 36525.0;  // Julian centuries
+YearConstants YearConstantsOf(std::int16_t year, YearStart start) {
+    const double dayNumber =
+        start == YearStart::kCalendar ? CalendarDayNumber(year) : RoundedDayNumber(year);
+    const double T = (dayNumber - 0.5) / 36525.0;  // Julian centuries
     YearConstants constants;
     ComputeObliquity(T, constants);
     ComputePerigee(T, constants);
@@ -78,8 +86,8 @@ YearConstants YearConstantsOf(std::int16_t year) {
     return constants;
 }
 
-void ComputeYearConstants(std::int16_t year) {
-    CurrentYearConstants = YearConstantsOf(year);
+void ComputeYearConstants(std::int16_t year, YearStart start) {
+    CurrentYearConstants = YearConstantsOf(year, start);
 }
 
 SunPosition SunAt(const YearConstants& constants, double t) {

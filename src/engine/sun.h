@@ -12,8 +12,9 @@ namespace horavex {
 //
 // Against PyEphem 4.1.4 at noon of the years 1950 to 2050 the right ascension stays within 6
 // seconds of time, the declination within 0.4 minutes of arc, the hour of transit within 5 seconds;
-// 1900 to 2100 are no worse. In the years whose day number is one late (DayNumber, sun.cpp) the sun
-// is that of the next day: up to 270 seconds, 24.1 minutes of arc and 32 seconds.
+// 1900 to 2100 are no worse. In the years whose day number is one late (RoundedDayNumber, sun.cpp)
+// the sun is that of the next day: up to 270 seconds, 24.1 minutes of arc and 32 seconds. The
+// calendar's own day number gives all years the first figures; an option takes it.
 
 /// What the series needs of one calendar year.
 struct YearConstants {
@@ -30,12 +31,18 @@ struct YearConstants {
     bool operator==(const YearConstants&) const = default;
 };
 
+/// Where the series has a year begin.
+enum class YearStart {
+    kRounded,   // at a day number that is one late in some years
+    kCalendar,  // on the first of January
+};
+
 /// The constants of a Gregorian year.
-YearConstants YearConstantsOf(std::int16_t year);
+YearConstants YearConstantsOf(std::int16_t year, YearStart start = YearStart::kRounded);
 
 /// Those of the program's table. ComputeYearConstants alone writes them.
 extern YearConstants CurrentYearConstants;
-void ComputeYearConstants(std::int16_t year);
+void ComputeYearConstants(std::int16_t year, YearStart start = YearStart::kRounded);
 
 struct SunPosition {
     double rightAscension;  // hours, 0 to 24

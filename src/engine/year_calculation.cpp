@@ -182,14 +182,13 @@ std::optional<YearFailure> FillYear(const YearConstants& constants, const YearIn
 YearTable CalculateYear(const YearInputs& inputs) {
     YearTable table;
     const YearRows rows = {0, AddInt16(365, LeapFlagOf(inputs.year))};
-    table.failure =
-        FillYear(YearConstantsOf(inputs.year), inputs, rows, ProgressReport(), table.times);
+    table.failure = FillYear(ConstantsOf(inputs), inputs, rows, ProgressReport(), table.times);
     return table;
 }
 
 DayTimes CalculateDay(const YearInputs& inputs, std::int16_t row) {
     const YearMethod& method = inputs.method;
-    const YearConstants constants = YearConstantsOf(inputs.year);
+    const YearConstants constants = ConstantsOf(inputs);
     const std::int16_t day = AddInt16(row, 1);
     Run run = StartRun(constants, inputs);
     SolveDay(run, row);

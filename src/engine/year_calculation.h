@@ -55,7 +55,13 @@ struct YearInputs {
     std::int16_t year = 0;  // Gregorian, 1 to 9999
     YearPlace place;
     YearMethod method;
+    YearStart start = YearStart::kRounded;
 };
+
+/// What the series needs of the year.
+inline YearConstants ConstantsOf(const YearInputs& inputs) {
+    return YearConstantsOf(inputs.year, inputs.start);
+}
 
 /// Why a calculation gave up, and on which row.
 struct YearFailure {

@@ -46,7 +46,8 @@ YearMethod MethodUnder(const MomentRules& rules, YearMethod method) {
 
 YearInputs PresentInputs() {
     return {CurrentYear, PresentPlace(),
-            MethodUnder(RuledYear.rules.moments, MethodOf(Settings, IshaAngle))};
+            MethodUnder(RuledYear.rules.moments, MethodOf(Settings, IshaAngle)),
+            RuledYear.rules.moments.start};
 }
 
 void ComputeYearTimes(std::int16_t firstDay, std::int16_t endDay, const ProgressReport& report) {

@@ -5,6 +5,7 @@
 #include "base/int16.h"
 #include "engine/angle.h"
 #include "engine/place.h"
+#include "engine/ruled_year.h"
 #include "engine/sun.h"
 #include "engine/year_table.h"
 #include "store/settings_record.h"
@@ -31,7 +32,8 @@ Moment MomentOf(Date now) {
 std::optional<double> SunBearing(Date now) {
     const Moment moment = MomentOf(now);
     const double t = moment.day + moment.hours / 24.0;
-    const YearConstants constants = YearConstantsOf(ToInt16(CivilFromDate(now).year));
+    const YearConstants constants =
+        YearConstantsOf(ToInt16(CivilFromDate(now).year), RuledYear.rules.moments.start);
     const SunPosition sun = SunAt(constants, t);
     const double lonH = LongitudeWestRad * kHoursPerRadian;
     const double H = (moment.hours - lonH - sun.rightAscension + constants.SiderealRate * t +

@@ -81,6 +81,9 @@ inline constexpr ChoiceOption<HijriSource, 2> kHijriCalendar = {"Hijri Calendar"
 /// Days added to the Hijri date.
 inline constexpr WholeOption kHijriAdjustment = {"Hijri Adjustment", -2, 2, 0};
 
+/// 1: every year has the sun of its own days; without it some have that of the next day.
+inline constexpr WholeOption kSunOfTheDay = {"Sun Of The Day", 0, 1, 0};
+
 /// 0: the daily alarm neither shows nor beeps.
 inline constexpr WholeOption kAlarm = {"Alarm", 0, 1, 1};
 

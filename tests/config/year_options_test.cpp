@@ -39,6 +39,7 @@ TEST_F(YearOptionsTest, EachStoredOptionArrives) {
     SaveOption(option::kOffsets[kAsr], -3);
     SaveOption(option::kHijriCalendar, HijriSource::kUmmAlQura);
     SaveOption(option::kHijriAdjustment, -1);
+    SaveOption(option::kSunOfTheDay, 1);
     const YearOptions options = ReadYearOptions(kMeccaCityIndex);
     EXPECT_EQ(options.highLatitude, HighLatitudeRule::kSeventh);
     EXPECT_EQ(options.ishaInterval, 90);
@@ -47,12 +48,14 @@ TEST_F(YearOptionsTest, EachStoredOptionArrives) {
     EXPECT_EQ(options.offsets[kAsr], -3);
     EXPECT_EQ(options.hijri, HijriSource::kUmmAlQura);
     EXPECT_EQ(options.hijriAdjustment, -1);
+    EXPECT_TRUE(options.sunOfTheDay);
     const MomentRules moments = RulesOfYear(options, 2026).moments;
     EXPECT_EQ(moments.highLatitude, HighLatitudeRule::kSeventh);
     EXPECT_EQ(moments.ishaInterval, 90);
     EXPECT_EQ(moments.ishaIntervalRamadan, 120);
     EXPECT_EQ(moments.maghribAngle, 4.5);
     EXPECT_EQ(moments.offsets[kAsr], -3);
+    EXPECT_EQ(moments.start, YearStart::kCalendar);
 }
 
 TEST_F(YearOptionsTest, ZoneIsTheCitysUnlessAnotherIsNamed) {

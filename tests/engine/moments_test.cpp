@@ -187,6 +187,32 @@ TEST(MomentsOf, RecordThatIsAWholeDayOffShowsTheSameClock) {
     }
 }
 
+// Berlin, 20 March 2024 (almanac): sunrise 6:10, sunset 18:19; without the option those of the
+// 21st.
+TEST(MomentsOf, SunOfTheDayItselfCountsInAYearWhoseDayNumberIsLate) {
+    Case berlin(52.52, 13.41, 1.0, 12.0);
+    berlin.inputs.year = 2024;
+    const std::size_t row = 79;
+    berlin.Calculate();
+    const double late = berlin.table.times[kMaghrib][row];
+    berlin.inputs.start = berlin.rules.start = YearStart::kCalendar;
+    berlin.Calculate();
+    const DayMoments day = MomentsOf({berlin.inputs, berlin.table.times, berlin.rules}, row);
+    EXPECT_EQ(day[kMaghrib].hours, berlin.table.times[kMaghrib][row]);
+    EXPECT_NEAR((late - day[kMaghrib].hours) * 60.0, 1.7, 0.2);
+}
+
+// An evening's twilight by its own equation takes the same sun as the table.
+TEST(MomentsOf, AngleOfMaghribTakesTheSunOfTheDayToo) {
+    Case cairo = Cairo();
+    cairo.inputs.year = 2024;
+    cairo.inputs.method.ishaAngle = cairo.rules.maghribAngle = 9.0;
+    cairo.inputs.start = cairo.rules.start = YearStart::kCalendar;
+    cairo.Calculate();
+    const DayMoments day = MomentsOf({cairo.inputs, cairo.table.times, cairo.rules}, 79);
+    EXPECT_NEAR(day[kMaghrib].hours, day[kIsha].hours, 2.0 / 3600.0);
+}
+
 TEST(HighLatitude, RuleChangesNothingWhereItsPortionIsNotReached) {
     Case cairo = Cairo();
     const DayMoments plain = cairo.On(6, 21);

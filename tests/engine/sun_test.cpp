@@ -40,6 +40,18 @@ TEST(YearConstantsOf, DayNumberIsRoundedToTheNearestEven) {
     EXPECT_NEAR(DayNumberOf(2027), 46386, 1e-3);  // 46386.5 goes to the even 46386
 }
 
+TEST(YearConstantsOf, CalendarsOwnDayNumberDropsTheQuarters) {
+    const auto isSame = [](std::int16_t year) {
+        return YearConstantsOf(year, YearStart::kCalendar) == YearConstantsOf(year);
+    };
+    EXPECT_TRUE(isSame(2025));
+    EXPECT_TRUE(isSame(2026));
+    EXPECT_TRUE(isSame(2027));
+    EXPECT_FALSE(isSame(2028));
+    EXPECT_FALSE(isSame(2023));
+    EXPECT_FALSE(isSame(2101));  // a common 2100 lies before it
+}
+
 TEST(ComputeYearConstants, WritesThoseOfTheProgram) {
     ComputeYearConstants(2024);
     EXPECT_EQ(CurrentYearConstants, YearConstantsOf(2024));
@@ -70,10 +82,11 @@ struct Deviation {
     double transit = 0.0;         // seconds of time
 };
 
-Deviation LargestDeviation(std::span<const AlmanacPlace> places) {
+Deviation LargestDeviation(std::span<const AlmanacPlace> places,
+                           YearStart start = YearStart::kRounded) {
     Deviation largest;
     for (const AlmanacPlace& place : places) {
-        const YearConstants constants = YearConstantsOf(place.year);
+        const YearConstants constants = YearConstantsOf(place.year, start);
         const double t = place.day + 0.5;
         const SunPosition sun = SunAt(constants, t);
         const double transit = FloatMod(
@@ -110,6 +123,10 @@ TEST(SunAt, RunsADayAheadInAYearWhoseDayNumberIsLate) {
     EXPECT_NEAR(largest.rightAscension, 267.0, 3.0);
     EXPECT_NEAR(largest.declination, 23.7, 0.4);
     EXPECT_NEAR(largest.transit, 30.0, 2.0);
+    const Deviation calendar = LargestDeviation(kPlaces, YearStart::kCalendar);
+    EXPECT_LT(calendar.rightAscension, 6.0);
+    EXPECT_LT(calendar.declination, 0.4);
+    EXPECT_LT(calendar.transit, 5.0);
 }
 
 TEST(SunAt, RightAscensionGoesRoundTheDial) {

@@ -1,6 +1,7 @@
 #include "geo/sun_bearing.h"
 
 #include "engine/angle.h"
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/sun.h"
 #include "store/settings_record.h"
@@ -47,6 +48,15 @@ TEST_F(SunBearingTest, YearOfTheTableDoesNotMatter) {
     const double bearing = DegreesAt(3, 21, 9.0);
     ComputeYearConstants(2024);
     EXPECT_EQ(DegreesAt(3, 21, 9.0), bearing);
+}
+
+// The sun moves by four minutes of time from day to day, a twentieth of a degree of bearing at
+// least.
+TEST_F(SunBearingTest, SunIsThatOfTheDayItselfWhereTheYearsIs) {
+    const Date moment = DateSerial(2028, 3, 21) + 9.0 / 24.0;
+    const double nextDays = SunBearing(moment).value();
+    RuledYear.rules.moments.start = YearStart::kCalendar;
+    EXPECT_GT(std::fabs(RadToDeg(SunBearing(moment).value() - nextDays)), 0.05);
 }
 
 TEST_F(SunBearingTest, SunIsNowhereAtNight) {

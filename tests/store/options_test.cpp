@@ -26,9 +26,9 @@ protected:
 
 /// Rows of the table that hold whole numbers.
 std::vector<WholeOption> WholeOptions() {
-    std::vector<WholeOption> options = {option::kAutomaticZone, option::kIshaInterval,
+    std::vector<WholeOption> options = {option::kAutomaticZone,       option::kIshaInterval,
                                         option::kIshaIntervalRamadan, option::kHijriAdjustment,
-                                        option::kAlarm};
+                                        option::kSunOfTheDay,         option::kAlarm};
     options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }
@@ -45,6 +45,7 @@ TEST_F(OptionsTest, AbsentValuesGiveTheBase) {
     }
     EXPECT_EQ(ReadOption(option::kHijriCalendar), HijriSource::kArithmetic);
     EXPECT_EQ(ReadOption(option::kHijriAdjustment), 0);
+    EXPECT_EQ(ReadOption(option::kSunOfTheDay), 0);
     EXPECT_EQ(ReadOption(option::kAlarm), 1);
     EXPECT_EQ(Stored("Alarm"), "nothing") << "reading writes nothing";
 }
