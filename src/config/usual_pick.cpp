@@ -82,6 +82,7 @@ void Propose(bool isFirst) {
     TakeUsual(Location, options);
     if (isFirst) {
         options.hijri = HijriSource::kUmmAlQura;
+        options.sunOfTheDay = true;
     }
     ChooseOptions(options);
     const PreviewHold preview;

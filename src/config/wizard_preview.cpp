@@ -63,9 +63,9 @@ PreviewInput PresentInput() {
 YearInputs InputsUnder(const MomentRules& rules) {
     YearInputs inputs = PresentInputs();
     inputs.place = PlaceOf(Location.City, Settings.TimeZone);
+    inputs.start = rules.start;
     YearMethod& method = inputs.method;
-    method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
-    method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
+    method = MethodUnder(rules, method);
     method.dstEnabled = rules.zone.empty() ? method.dstEnabled : std::int16_t{0};
     return inputs;
 }

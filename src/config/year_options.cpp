@@ -105,6 +105,7 @@ void SaveYearOptions(const YearOptions& options) {
     }
     SaveChange(option::kHijriCalendar, options.hijri);
     SaveChange(option::kHijriAdjustment, options.hijriAdjustment);
+    SaveChange(option::kSunOfTheDay, options.sunOfTheDay ? 1 : 0);
 }
 
 void TakeAuthority(const Authority& authority, YearOptions& options) {

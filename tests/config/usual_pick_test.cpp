@@ -70,6 +70,7 @@ TEST_F(UsualPickTest, FinishStoresAllOfThem) {
     EXPECT_EQ(stored.ishaIntervalRamadan, 120);
     EXPECT_EQ(stored.highLatitude, HighLatitudeRule::kMiddle);
     EXPECT_EQ(stored.hijri, HijriSource::kUmmAlQura);
+    EXPECT_TRUE(stored.sunOfTheDay);
     EXPECT_FALSE(OptionsAreChosen());
     EXPECT_EQ(ShownDay.moments[kIsha].by, MomentBy::kInterval);
 }

@@ -212,9 +212,19 @@ INSTANTIATE_TEST_SUITE_P(Files, OversizedFiles,
                                          Damage{"Dat/ZI.DAT", "Dat/ZI.DAT: not one zone"},
                                          Damage{"Dat/Z.DAT", "Dat/Z.DAT: the last line"},
                                          Damage{"Dat/N.DAT", "Dat/N.DAT: the last line"},
-                                         Damage{"Dat/A.dat", "Dat/A.dat: record 20: "},
-                                         Damage{"Dat/TI.DAT", "Dat/TI.DAT: record 607: "},
-                                         Damage{"Dat/T.DAT", "Dat/TI.DAT: record 606: "}));
+                                         Damage{"Dat/A.dat", "Dat/A.dat: record 20: "}));
+
+/// Where the numbered texts end, whose number grows with every new one.
+TEST(CtlValidate, OversizedTextFilesAreNamed) {
+    const DamagedFolder folder;
+    const std::size_t last = folder.SizeOf("Dat/TI.DAT") / 2;
+    folder.Append("Dat/T.DAT", 3000, 0);
+    EXPECT_THAT(ProblemsOf(folder),
+                Contains(StartsWith("Dat/TI.DAT: record " + std::to_string(last) + ": ")));
+    folder.Append("Dat/TI.DAT", 3000, 0);
+    EXPECT_THAT(ProblemsOf(folder),
+                Contains(StartsWith("Dat/TI.DAT: record " + std::to_string(last + 1) + ": ")));
+}
 
 struct LostRecord {
     const char* file;
