@@ -56,13 +56,8 @@ Json LocalJson(Date day, double hours) {
     if (std::fabs(hours) >= NoEvent) {
         return nullptr;
     }
-    const double seconds = RoundHalfEven(hours * kSecondsPerHour);
-    const Date local = day + seconds / kSecondsPerDay;
-    const ClockTime clock = ClockTimeOf(local);
-    const double date = day + std::floor(seconds / kSecondsPerDay);
-    char text[32];
-    std::snprintf(text, sizeof text, "T%02d:%02d:%02d", clock.hour, clock.minute, clock.second);
-    return IsoDate(CivilFromDate(date)) + text + OffsetText(OffsetAt(local, day));
+    const Date local = day + RoundHalfEven(hours * kSecondsPerHour) / kSecondsPerDay;
+    return IsoMoment(day, hours, OffsetAt(local, day).seconds / kSecondsPerHour);
 }
 
 Json YearMomentsJson() {
@@ -73,8 +68,6 @@ Json YearMomentsJson() {
     }
     return days;
 }
-
-constexpr const char* kBy[] = {"sun", "rule", "interval"};
 
 }  // namespace
 
@@ -104,7 +97,7 @@ Json MomentsJson(Date day, const DayMoments& moments) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         array.push_back({{"prayer", kPrayerKeys[prayer]},
                          {"local", LocalJson(day, moments[prayer].hours)},
-                         {"by", kBy[static_cast<std::size_t>(moments[prayer].by)]}});
+                         {"by", WordOf(moments[prayer].by)}});
     }
     return array;
 }

@@ -69,7 +69,9 @@ double ConsoleHost::QiblaBearing() {
 }
 
 YearRules ConsoleHost::RulesOf(std::int16_t year) {
-    return RulesOfYear(ChosenOptions, year);
+    YearRules rules = RulesOfYear(ChosenOptions, year);
+    rules.method = ChosenMethod == nullptr ? "" : ChosenMethod->name;
+    return rules;
 }
 
 ConsolePlatform::ConsolePlatform()

@@ -8,7 +8,7 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "platform/platform.h"
+#include "engine/moment_text.h"
 
 namespace horavex {
 
@@ -21,6 +21,7 @@ constexpr double kTextSize = 9.0;
 constexpr double kLineHeight = 1.45;  // of the size of the text
 constexpr double kTallestRow = 19.0;
 constexpr double kCellPadding = 3.0;
+constexpr double kFootLines = 5.0;
 
 constexpr int kFriday = 5;
 constexpr int kColumns = 2 + static_cast<int>(kPrayerCount);
@@ -68,7 +69,7 @@ public:
     void Draw() {
         DrawHead();
         DrawColumnHeads();
-        const double room = area_.bottom() - top_ - 3.0 * LineHeight(kTextSize);
+        const double room = area_.bottom() - top_ - kFootLines * LineHeight(kTextSize);
         const double rowHeight =
             std::min(kTallestRow * point_, room / static_cast<double>(days_.size()));
         for (const TimetableDay& day : days_) {
@@ -146,7 +147,7 @@ private:
         WriteLine(Text(table.place), kPlaceSize, true);
         WriteLine(Joined({Fact(Words().latitude, Degrees(table.latitude)),
                           Fact(Words().longitude, Degrees(table.longitude)),
-                          Fact(Words().zone, Text("GMT " + SignedFixedText(table.timeZone)))}),
+                          Fact(Words().zone, Text(ZoneText(table)))}),
                   kTextSize, false);
         WriteLine(Joined({Fact(Words().fajrAngle, Degrees(table.fajrAngle)),
                           Fact(Words().ishaAngle, Degrees(table.ishaAngle)),
@@ -212,8 +213,8 @@ private:
               QString::number(number) + QChar(u' ') + Text(Words().WeekdayOf(day.date)) + mark);
         Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
         for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
-            if (const auto& hours = day.hours.at(static_cast<std::size_t>(prayer))) {
-                Write(Cell(2 + prayer, height), Text(Ports().formats.MediumTime(*hours / 24.0)));
+            if (const auto& moment = day.moments.at(static_cast<std::size_t>(prayer))) {
+                Write(Cell(2 + prayer, height), Text(MomentCell(*moment)));
             }
         }
     }
@@ -228,6 +229,9 @@ private:
                               Text(begins ? Words().daylightBegins : Words().daylightEnds),
                           kTextSize, false);
             }
+        }
+        for (const std::string& note : NotesOfDays(year_.table, days_)) {
+            WriteLine(Text(note), kTextSize, false);
         }
     }
 

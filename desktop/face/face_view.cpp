@@ -184,6 +184,11 @@ void FaceView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next)
     times_->ShowTimes(rows, next);
 }
 
+void FaceView::ExplainTimes(const QString& note) {
+    times_->setToolTip(note);
+    times_->setAccessibleDescription(note);
+}
+
 void FaceView::ShowBearing() {
     compass_->ShowBearing(ReadBearing(Value("_root.icompassAngle")));
 }

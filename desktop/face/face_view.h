@@ -37,6 +37,9 @@ public:
     /// The six times of the day, and which of them comes next.
     void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
+    /// What the marks beside the times mean, for whoever points at them; empty without marks.
+    void ExplainTimes(const QString& note);
+
     /// What the user asks for.
     std::function<void(const std::string& command)> onCommand;
 

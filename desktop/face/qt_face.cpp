@@ -2,7 +2,8 @@
 
 #include "desktop/face/times_view.h"
 #include "engine/day_view.h"
-#include "platform/platform.h"
+#include "engine/moment_text.h"
+#include "engine/ruled_year.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -14,7 +15,7 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
     std::vector<PrayerEntry> rows;
     for (std::size_t prayer = 0; prayer < moments.size(); ++prayer) {
         const std::string name = frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption();
-        const std::string time = Ports().formats.MediumTime(moments[prayer].hours / 24.0);
+        const std::string time = MomentText(moments[prayer]);
         rows.push_back({QString::fromStdString(name), QString::fromStdString(time)});
     }
     return rows;
@@ -25,6 +26,8 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {
         view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
+        view->ExplainTimes(
+            QString::fromStdString(RuleNote(day.moments, RuledYear.rules.moments.highLatitude)));
     }
 }
 

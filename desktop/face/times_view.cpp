@@ -1,6 +1,8 @@
 #include "desktop/face/times_view.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
@@ -12,7 +14,19 @@ namespace {
 constexpr std::size_t kRows = 6;
 constexpr int kTypeSize = 15;      // pixels
 constexpr double kPadding = 10.0;  // beside a row's texts, pixels
-constexpr double kNamePart = 0.5;  // of a row's width
+constexpr double kNamePart = 0.5;  // of a row's width, or less for a time that needs more
+constexpr double kGap = 8.0;       // between name and time, pixels
+
+double WidthOf(const QFont& font, const QString& text) {
+    return QFontMetricsF(font).horizontalAdvance(text);
+}
+
+/// The width of the name in a row of that width.
+double NameWidth(const PrayerEntry& entry, const QFont& font, double width) {
+    const double half = width * kNamePart;
+    const double left = width - kGap - WidthOf(font, entry.time);
+    return std::clamp(left, std::min(half, WidthOf(font, entry.name)), half);
+}
 
 QString SpokenRows(const std::vector<PrayerEntry>& rows) {
     QStringList spoken;
@@ -58,12 +72,12 @@ void TimesView::PaintRow(QPainter& painter, std::size_t row) const {
     }
     QRectF name = area.adjusted(kPadding, 0.0, -kPadding, 0.0);
     QRectF time = name;
-    const double cut = name.width() * kNamePart;
+    const QFont font = FaceFont(kTypeSize, isNext);
+    const double cut = NameWidth(entry, font, name.width());
     const bool nameIsRight = DirectionOf(entry.name) == Qt::RightToLeft;
     nameIsRight ? name.setLeft(name.right() - cut) : name.setRight(name.left() + cut);
     nameIsRight ? time.setRight(name.left()) : time.setLeft(name.right());
     painter.setPen(isNext ? kGold : kCream);
-    const QFont font = FaceFont(kTypeSize, isNext);
     DrawFitted(painter, name, Qt::AlignLeading | Qt::AlignVCenter, font, entry.name);
     const Qt::Alignment side = nameIsRight ? Qt::AlignLeft : Qt::AlignRight;
     DrawFitted(painter, time, side | Qt::AlignAbsolute | Qt::AlignVCenter, font, entry.time);

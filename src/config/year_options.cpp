@@ -1,5 +1,7 @@
 #include "config/year_options.h"
 
+#include <algorithm>
+
 #include "calendar/umm_al_qura.h"
 #include "config/city_clock.h"
 #include "config/unusable_file.h"
@@ -50,18 +52,30 @@ Date UniversalDate(UtcSeconds moment) {
     return DateSerial(1970, 1, 1) + static_cast<double>(moment) / kSecondsPerDay;
 }
 
+/// Some zones call their winter the exception. What is ahead is daylight saving everywhere, as long
+/// as the zone's data mark one of both.
+void NameDaylight(std::vector<ZoneSpan>& spans) {
+    const bool marked = std::ranges::any_of(spans, &ZoneSpan::daylight);
+    const double lowest = std::ranges::min(spans, {}, &ZoneSpan::hours).hours;
+    for (ZoneSpan& span : spans) {
+        span.daylight = marked && span.hours > lowest;
+    }
+}
+
 /// The zone's clock over the year and the days beside it.
 std::vector<ZoneSpan> SpansOfYear(const std::string& zone, std::int16_t year) {
     const ZoneRules& rules = Ports().zoneRules;
     const UtcSeconds from = MomentOf(rules, zone, DateSerial(year, 1, 1) - 2.0);
     const UtcSeconds end = MomentOf(rules, zone, DateSerial(year + 1, 1, 1) + 2.0);
-    const auto span = [](UtcSeconds moment, const ZoneOffset& offset) {
-        return ZoneSpan{UniversalDate(moment), offset.seconds / 3600.0};
+    std::vector<ZoneSpan> spans;
+    const auto add = [&](UtcSeconds moment, const ZoneOffset& offset) {
+        spans.push_back({UniversalDate(moment), offset.seconds / 3600.0, offset.daylight});
     };
-    std::vector<ZoneSpan> spans = {span(from, rules.OffsetAt(zone, from))};
+    add(from, rules.OffsetAt(zone, from));
     for (const ZoneChange& change : rules.ChangesBetween(zone, from, end)) {
-        spans.push_back(span(change.moment, change.after));
+        add(change.moment, change.after);
     }
+    NameDaylight(spans);
     return spans;
 }
 
@@ -125,6 +139,7 @@ YearRules RulesOfYear(const YearOptions& options, std::int16_t year) {
     rules.moments.offsets = options.offsets;
     if (!options.zone.empty()) {
         rules.moments.zone = SpansOfYear(options.zone, year);
+        rules.zoneName = options.zone;
     }
     if (options.ishaIntervalRamadan > 0 && options.ishaIntervalRamadan != options.ishaInterval) {
         rules.moments.ramadan =

@@ -13,6 +13,12 @@ enum class MomentBy {
     kInterval,  // so long after another moment
 };
 
+/// The word of files and of the command line: "sun".
+inline const char* WordOf(MomentBy by) {
+    constexpr const char* kWords[] = {"sun", "rule", "interval"};
+    return kWords[static_cast<std::size_t>(by)];
+}
+
 /// A time of prayer of one day.
 struct Moment {
     double hours = 0.0;  // of the local clock from the midnight that begins the day; NoEvent

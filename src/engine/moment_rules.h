@@ -14,6 +14,7 @@ namespace horavex {
 struct ZoneSpan {
     Date from = 0.0;     // Universal Time
     double hours = 0.0;  // east of Greenwich, daylight hour and all
+    bool daylight = false;
 
     bool operator==(const ZoneSpan&) const = default;
 };

@@ -9,8 +9,6 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kDagger = "\u2020";
-
 std::string Word(const char* key, const char* english) {
     return GetLangString("moments", key, english);
 }
@@ -41,24 +39,24 @@ std::string RuleName(HighLatitudeRule rule) {
     }
 }
 
-template <class Has>
-void AddNote(std::vector<std::string>& notes, std::span<const Moment> moments, Has has,
-             const std::string& note) {
-    if (std::ranges::any_of(moments, has)) {
-        notes.push_back(note);
-    }
+bool IsOnNextDay(const Moment& moment) {
+    return moment.dayShift > 0;
+}
+
+bool IsOnPreviousDay(const Moment& moment) {
+    return moment.dayShift < 0;
 }
 
 }  // namespace
 
 std::string WithMarks(const std::string& clock, const Moment& moment) {
     std::string text = clock;
-    if (moment.dayShift > 0) {
+    if (IsOnNextDay(moment)) {
         text = Filled(Word("NextDay", "{time}, next day"), "{time}", clock);
-    } else if (moment.dayShift < 0) {
+    } else if (IsOnPreviousDay(moment)) {
         text = Filled(Word("PreviousDay", "{time}, previous day"), "{time}", clock);
     }
-    return text + (HasDagger(moment) ? std::string(" ") + kDagger : "");
+    return text + (HasDagger(moment) ? std::string(" ") + kRuleMark : "");
 }
 
 std::string MomentText(const Moment& moment) {
@@ -66,27 +64,30 @@ std::string MomentText(const Moment& moment) {
 }
 
 std::string MomentCell(const Moment& moment) {
-    const char* shift = moment.dayShift > 0 ? "+1" : moment.dayShift < 0 ? "-1" : "";
-    return ClockText(moment) + shift + (HasDagger(moment) ? kDagger : "");
+    const char* shift = IsOnNextDay(moment) ? "+1" : IsOnPreviousDay(moment) ? "-1" : "";
+    return ClockText(moment) + shift + (HasDagger(moment) ? kRuleMark : "");
 }
 
 std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule) {
+    if (std::ranges::none_of(moments, HasDagger)) {
+        return "";
+    }
     const char* english =
         "Times marked \u2020 follow the high latitude rule \"{rule}\" instead of the sun's angle.";
-    return std::ranges::any_of(moments, HasDagger)
-               ? Filled(Word("RuleNote", english), "{rule}", RuleName(rule))
-               : "";
+    return Filled(Word("RuleNote", english), "{rule}", RuleName(rule));
 }
 
 std::vector<std::string> ColumnNotes(std::span<const Moment> moments, HighLatitudeRule rule) {
     std::vector<std::string> notes;
-    AddNote(
-        notes, moments, [](const Moment& moment) { return moment.dayShift > 0; },
-        Word("NextDayNote", "+1: on the next day"));
-    AddNote(
-        notes, moments, [](const Moment& moment) { return moment.dayShift < 0; },
-        Word("PreviousDayNote", "-1: on the previous day"));
-    AddNote(notes, moments, HasDagger, RuleNote(moments, rule));
+    if (std::ranges::any_of(moments, IsOnNextDay)) {
+        notes.push_back(Word("NextDayNote", "+1: on the next day"));
+    }
+    if (std::ranges::any_of(moments, IsOnPreviousDay)) {
+        notes.push_back(Word("PreviousDayNote", "-1: on the previous day"));
+    }
+    if (std::ranges::any_of(moments, HasDagger)) {
+        notes.push_back(RuleNote(moments, rule));
+    }
     return notes;
 }
 

@@ -12,6 +12,9 @@ namespace horavex {
 // Moments in the words of the current pack. Beside the clock stand the day, where it is not the
 // moment's own, and a dagger where a rule of high latitudes made the moment.
 
+/// The dagger.
+inline constexpr const char* kRuleMark = "\u2020";
+
 /// Sets both beside a text of the moment's clock: "12:14 AM, next day †".
 std::string WithMarks(const std::string& clock, const Moment& moment);
 

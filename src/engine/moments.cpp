@@ -1,12 +1,12 @@
 #include "engine/moments.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "base/rounding.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
+#include "engine/zone_spans.h"
 
 namespace horavex {
 
@@ -14,19 +14,13 @@ namespace {
 
 constexpr double kMinutesPerHour = 60.0;
 
-/// The zone's offset at an instant of Universal Time. The first span holds before it, too.
-double OffsetAt(const std::vector<ZoneSpan>& zone, Date instant) {
-    const auto after = std::ranges::upper_bound(zone, instant, {}, &ZoneSpan::from);
-    return after == zone.begin() ? zone.front().hours : std::prev(after)->hours;
-}
-
 /// An hour of the record's standard time on the clock of the city's own zone. The record may hold
 /// an offset that is a whole day off.
 double InZone(const std::vector<ZoneSpan>& zone, Date day, double hours, double recordZone) {
-    const double usual = OffsetAt(zone, day + (12.0 - recordZone) / 24.0);
+    const double usual = SpanAt(zone, day + (12.0 - recordZone) / 24.0).hours;
     const double standard = recordZone + 24.0 * std::round((usual - recordZone) / 24.0);
     const double universal = hours - standard;
-    return universal + OffsetAt(zone, day + universal / 24.0);
+    return universal + SpanAt(zone, day + universal / 24.0).hours;
 }
 
 int DayShiftOf(double hours) {

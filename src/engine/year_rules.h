@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "calendar/hijri_calendar.h"
@@ -11,6 +12,8 @@ namespace horavex {
 struct YearRules {
     MomentRules moments;
     std::vector<HijriDate> hijri;  // by row; empty for the arithmetic calendar
+    std::string zoneName;          // of moments.zone
+    std::string method;            // its English name; empty for angles of one's own
 };
 
 }  // namespace horavex

@@ -4,7 +4,7 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "platform/platform.h"
+#include "engine/moment_text.h"
 
 namespace horavex {
 
@@ -75,8 +75,7 @@ std::string Degrees(double degrees) {
 
 std::string Facts(const Timetable& table, const TimetableWords& words) {
     return "<dl>\n" + Fact(words.latitude, Degrees(table.latitude)) +
-           Fact(words.longitude, Degrees(table.longitude)) +
-           Fact(words.zone, "GMT " + SignedFixedText(table.timeZone)) +
+           Fact(words.longitude, Degrees(table.longitude)) + Fact(words.zone, ZoneText(table)) +
            Fact(words.fajrAngle, Degrees(table.fajrAngle)) +
            Fact(words.ishaAngle, Degrees(table.ishaAngle)) +
            Fact(words.asrRatio, NumberToText(table.asrRatio) + ":1") +
@@ -109,13 +108,13 @@ std::string TableHead(const TimetableWords& words) {
     return "<thead><tr>" + cells + "</tr></thead>\n";
 }
 
-std::string TimeCell(const TimetableDay& day, const std::optional<double>& hours) {
-    if (!hours) {
+std::string TimeCell(const TimetableDay& day, const std::optional<Moment>& moment) {
+    if (!moment) {
         return "<td></td>";
     }
-    const DayMinute at = MinuteOf(day.date, *hours);
+    const DayMinute at = MinuteOf(day.date, moment->hours);
     return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
-           "\" dir=\"auto\">" + Escaped(Ports().formats.MediumTime(*hours / 24.0)) + "</time></td>";
+           "\" dir=\"auto\">" + Escaped(MomentCell(*moment)) + "</time></td>";
 }
 
 std::string RowAttributes(const TimetableDay& day, Date today) {
@@ -129,13 +128,14 @@ std::string Row(const TimetableDay& day, const TimetableWords& words, Date today
     const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
     std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
                         mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
-    for (const auto& hours : day.hours) {
-        cells += TimeCell(day, hours);
+    for (const auto& moment : day.moments) {
+        cells += TimeCell(day, moment);
     }
     return "<tr" + RowAttributes(day, today) + ">" + cells + "</tr>\n";
 }
 
-std::string Footnotes(const std::vector<TimetableDay>& days, const TimetableWords& words) {
+std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& days,
+                      const TimetableWords& words) {
     std::string notes;
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
@@ -143,6 +143,9 @@ std::string Footnotes(const std::vector<TimetableDay>& days, const TimetableWord
             notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + ": " +
                      Escaped(begins ? words.daylightBegins : words.daylightEnds) + "</p>\n";
         }
+    }
+    for (const std::string& note : NotesOfDays(table, days)) {
+        notes += "<p>" + Escaped(note) + "</p>\n";
     }
     return notes;
 }
@@ -156,7 +159,7 @@ std::string Month(const Timetable& table, const TimetableWords& words, int month
     }
     return "<section id=\"" + MonthId(month) + "\">\n<div class=\"wide\"><table>\n<caption>" +
            title + "</caption>\n" + TableHead(words) + "<tbody>\n" + rows +
-           "</tbody></table></div>\n" + Footnotes(days, words) + "</section>\n";
+           "</tbody></table></div>\n" + Footnotes(table, days, words) + "</section>\n";
 }
 
 }  // namespace

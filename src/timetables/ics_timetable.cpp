@@ -8,6 +8,7 @@
 #include "base/rounding.h"
 #include "base/text.h"
 #include "base/utf8.h"
+#include "engine/moment_text.h"
 
 namespace horavex {
 
@@ -79,7 +80,7 @@ std::string PlaceId(const Timetable& table) {
     return Hundredths(table.latitude) + Hundredths(table.longitude);
 }
 
-double OffsetOf(const Timetable& table, bool daylight) {
+double HoursOf(const Timetable& table, bool daylight) {
     return table.timeZone + (daylight ? 1.0 : 0.0);
 }
 
@@ -87,7 +88,7 @@ double OffsetOf(const Timetable& table, bool daylight) {
 /// offset on the first of January and the days on which it changes.
 std::string ZoneId(const Timetable& table) {
     std::string id = "Horavex/" + std::to_string(table.year) + "/" +
-                     OffsetText(OffsetOf(table, table.days.front().daylight));
+                     OffsetText(HoursOf(table, table.days.front().daylight));
     for (const TimetableDay& day : table.days) {
         if (day.change != DaylightChange::kNone) {
             id += "/" + CompactDate(day.date).substr(4);
@@ -102,8 +103,8 @@ std::string Observance(const Timetable& table, Date day, bool before, bool after
     const char* kind = after ? "DAYLIGHT" : "STANDARD";
     const int onset = before && !after ? 3600 : 0;  // told by the clock that ends
     return Line(std::string("BEGIN:") + kind) + Line("DTSTART:" + CompactMoment(day, onset)) +
-           Line("TZOFFSETFROM:" + OffsetText(OffsetOf(table, before))) +
-           Line("TZOFFSETTO:" + OffsetText(OffsetOf(table, after))) +
+           Line("TZOFFSETFROM:" + OffsetText(HoursOf(table, before))) +
+           Line("TZOFFSETTO:" + OffsetText(HoursOf(table, after))) +
            Line(std::string("END:") + kind);
 }
 
@@ -131,36 +132,54 @@ struct EventContext {
     const Timetable& table;
     const TimetableWords& words;
     std::string stampLine;
-    std::string startPrefix;
     std::string placeLines;
     std::string idSuffix;
 };
 
 EventContext MakeContext(const Timetable& table, const TimetableWords& words, Date stamp) {
-    return {table,
-            words,
+    return {table, words,
             Line("DTSTAMP:" + CompactMoment(std::floor(stamp), SecondOfDay(stamp)) + "Z"),
-            "DTSTART;TZID=" + ZoneId(table) + ":",
             Line("LOCATION:" + EscapedText(table.place)) +
                 Line("GEO:" + PlainNumber(table.latitude) + ";" + PlainNumber(table.longitude)),
             PlaceId(table) + "@horavex.invalid"};
 }
 
+/// The settings' clock stands in the file. An event by a zone of its own is told in Universal Time,
+/// which no reader's zones can get wrong.
+std::string StartLine(const Timetable& table, const TimetableDay& day, const DayMinute& start) {
+    if (table.zone.empty()) {
+        return Line("DTSTART;TZID=" + ZoneId(table) + ":" +
+                    CompactMoment(start.day, start.minute * 60));
+    }
+    const double offset = OffsetOf(table, day, start.day + start.minute / 1440.0);
+    const DayMinute universal = MinuteOf(start.day, start.minute / 60.0 - offset);
+    return Line("DTSTART:" + CompactMoment(universal.day, universal.minute * 60) + "Z");
+}
+
+/// The name with its mark, and what that means.
+std::string SummaryLines(const std::string& name, const Moment& moment, HighLatitudeRule rule) {
+    const std::string note = RuleNote({&moment, 1}, rule);
+    return note.empty() ? Line("SUMMARY:" + EscapedText(name))
+                        : Line("SUMMARY:" + EscapedText(name) + " " + kRuleMark) +
+                              Line("DESCRIPTION:" + EscapedText(note));
+}
+
 std::string Event(const EventContext& context, const TimetableDay& day, std::size_t prayer) {
-    const DayMinute start = MinuteOf(day.date, *day.hours[prayer]);
+    const Moment& moment = *day.moments[prayer];
     const std::string& name = context.words.prayers[prayer];
     const std::string id = CompactDate(day.date) + "-" + AsciiLower(kPrayerKeys[prayer]);
     return Line("BEGIN:VEVENT") + Line("UID:" + id + context.idSuffix) + context.stampLine +
-           Line(context.startPrefix + CompactMoment(start.day, start.minute * 60)) +
-           Line("SUMMARY:" + EscapedText(name)) + context.placeLines + Line("TRANSP:TRANSPARENT") +
-           (prayer == kShurooq ? "" : Alarm(name)) + Line("END:VEVENT");
+           StartLine(context.table, day, MinuteOf(day.date, moment.hours)) +
+           SummaryLines(name, moment, context.table.highLatitude) + context.placeLines +
+           Line("TRANSP:TRANSPARENT") + (prayer == kShurooq ? "" : Alarm(name)) +
+           Line("END:VEVENT");
 }
 
 std::string Events(const EventContext& context) {
     std::string events;
     for (const TimetableDay& day : context.table.days) {
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-            events += day.hours[prayer] ? Event(context, day, prayer) : "";
+            events += day.moments[prayer] ? Event(context, day, prayer) : "";
         }
     }
     return events;
@@ -172,7 +191,8 @@ std::string IcsTimetable(const Timetable& table, const TimetableWords& words, Da
     const std::string name = words.title + ", " + table.place;
     return Line("BEGIN:VCALENDAR") + Line("VERSION:2.0") +
            Line("PRODID:-//Horavex//Prayer times//EN") + Line("CALSCALE:GREGORIAN") +
-           Line("X-WR-CALNAME:" + EscapedText(name)) + ZoneComponent(table) +
+           Line("X-WR-CALNAME:" + EscapedText(name)) +
+           (table.zone.empty() ? ZoneComponent(table) : "") +
            Events(MakeContext(table, words, stamp)) + Line("END:VCALENDAR");
 }
 

@@ -31,16 +31,38 @@ std::string Member(std::string_view key, const std::string& value) {
     return Quoted(key) + ":" + value;
 }
 
+std::string Boolean(bool value) {
+    return value ? "true" : "false";
+}
+
+/// The hours of the settings. A zone of its own stands by its name, with the offset of the year's
+/// first day.
+std::string ZoneValue(const Timetable& table) {
+    if (table.zoneName.empty()) {
+        return PlainNumber(table.timeZone);
+    }
+    const TimetableDay& first = table.days.front();
+    return "{" + Member("name", Quoted(table.zoneName)) + "," +
+           Member("offset", PlainNumber(first.offset)) + "," +
+           Member("daylight", Boolean(first.daylight)) + "}";
+}
+
+std::string RuleWord(HighLatitudeRule rule) {
+    return option::kHighLatitudeRule.words[static_cast<std::size_t>(rule)];
+}
+
 std::string HeadMembers(const Timetable& table) {
     return Member("year", std::to_string(table.year)) + ",\n" +
            Member("place", Quoted(table.place)) + ",\n" +
            Member("latitude", PlainNumber(table.latitude)) + ",\n" +
            Member("longitude", PlainNumber(table.longitude)) + ",\n" +
-           Member("timeZone", PlainNumber(table.timeZone)) + ",\n" +
+           Member("timeZone", ZoneValue(table)) + ",\n" +
            Member("fajrAngle", PlainNumber(table.fajrAngle)) + ",\n" +
            Member("ishaAngle", PlainNumber(table.ishaAngle)) + ",\n" +
            Member("asrRatio", PlainNumber(table.asrRatio)) + ",\n" +
-           Member("qibla", PlainNumber(table.qiblaDegrees)) + ",\n";
+           Member("qibla", PlainNumber(table.qiblaDegrees)) + ",\n" +
+           Member("method", table.method.empty() ? "null" : Quoted(table.method)) + ",\n" +
+           Member("highLatitudeRule", Quoted(RuleWord(table.highLatitude))) + ",\n";
 }
 
 std::string HijriObject(const HijriDate& hijri) {
@@ -52,10 +74,11 @@ std::string HijriObject(const HijriDate& hijri) {
 std::string TimesObject(const TimetableDay& day) {
     std::string members;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        const auto& hours = day.hours[prayer];
-        members += (prayer == 0 ? "" : ",") +
-                   Member(kPrayerKeys[prayer],
-                          hours ? Quoted(IsoTime(MinuteOf(day.date, *hours).minute)) : "null");
+        const auto& moment = day.moments[prayer];
+        members +=
+            (prayer == 0 ? "" : ",") +
+            Member(kPrayerKeys[prayer],
+                   moment ? Quoted(IsoTime(MinuteOf(day.date, moment->hours).minute)) : "null");
     }
     return "{" + members + "}";
 }
@@ -63,17 +86,38 @@ std::string TimesObject(const TimetableDay& day) {
 std::string HoursArray(const TimetableDay& day) {
     std::string items;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        const auto& hours = day.hours[prayer];
-        items += (prayer == 0 ? "" : ",") + (hours ? PlainNumber(*hours) : "null");
+        const auto& moment = day.moments[prayer];
+        items += (prayer == 0 ? "" : ",") + (moment ? PlainNumber(moment->hours) : "null");
     }
     return "[" + items + "]";
 }
 
-std::string DayObject(const TimetableDay& day) {
+std::string LocalValue(const Timetable& table, const TimetableDay& day,
+                       const std::optional<Moment>& moment) {
+    if (!moment) {
+        return "null";
+    }
+    const double offset = OffsetOf(table, day, day.date + moment->hours / 24.0);
+    return Quoted(IsoMoment(day.date, moment->hours, offset));
+}
+
+std::string MomentsArray(const Timetable& table, const TimetableDay& day) {
+    std::string items;
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        const auto& moment = day.moments[prayer];
+        items += (prayer == 0 ? "{" : ",{") + Member("prayer", Quoted(kPrayerKeys[prayer])) + "," +
+                 Member("local", LocalValue(table, day, moment)) + "," +
+                 Member("by", Quoted(WordOf(moment.value_or(Moment{}).by))) + "}";
+    }
+    return "[" + items + "]";
+}
+
+std::string DayObject(const Timetable& table, const TimetableDay& day) {
     return "{" + Member("date", Quoted(IsoDate(CivilFromDate(day.date)))) + "," +
            Member("hijri", HijriObject(day.hijri)) + "," +
-           Member("daylight", day.daylight ? "true" : "false") + "," +
-           Member("times", TimesObject(day)) + "," + Member("hours", HoursArray(day)) + "}";
+           Member("daylight", Boolean(day.daylight)) + "," + Member("times", TimesObject(day)) +
+           "," + Member("hours", HoursArray(day)) + "," +
+           Member("moments", MomentsArray(table, day)) + "}";
 }
 
 }  // namespace
@@ -81,7 +125,7 @@ std::string DayObject(const TimetableDay& day) {
 std::string JsonTimetable(const Timetable& table) {
     std::string days;
     for (const TimetableDay& day : table.days) {
-        days += (days.empty() ? "" : ",\n") + DayObject(day);
+        days += (days.empty() ? "" : ",\n") + DayObject(table, day);
     }
     return "{" + HeadMembers(table) + Member("days", "[\n" + days + "\n]") + "}\n";
 }

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "engine/center_on_screen.h"
+#include "engine/moment_text.h"
 #include "forms/drawing_svg.h"
 #include "lang/form_language.h"
 #include "platform/platform.h"
@@ -44,8 +45,8 @@ PrintedYear ToPrint() {
     return {shown->table, shown->words, Ports().clock.Today()};
 }
 
-std::string TimeText(const std::optional<double>& hours) {
-    return hours ? Ports().formats.MediumTime(*hours / 24.0) : "";
+std::string TimeText(const std::optional<Moment>& moment) {
+    return moment ? MomentCell(*moment) : "";
 }
 
 std::string DayText(const TimetableDay& day) {
@@ -57,22 +58,27 @@ Grid::Row RowOf(const TimetableDay& day) {
     Grid::Row row = {{DayText(day) + mark, shown->words.HijriText(day.hijri)},
                      Weekday(day.date) == kFriday,
                      day.date == Ports().clock.Today()};
-    for (const auto& hours : day.hours) {
-        row.cells.push_back(TimeText(hours));
+    for (const auto& moment : day.moments) {
+        row.cells.push_back(TimeText(moment));
     }
     return row;
 }
 
 std::string Footnotes(const std::vector<TimetableDay>& days) {
-    std::string notes;
+    std::vector<std::string> notes;
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
-            notes += (notes.empty() ? "* " : "; * ") + DayText(day) + ": " +
-                     (begins ? shown->words.daylightBegins : shown->words.daylightEnds);
+            notes.push_back("* " + DayText(day) + ": " +
+                            (begins ? shown->words.daylightBegins : shown->words.daylightEnds));
         }
     }
-    return notes;
+    std::ranges::copy(NotesOfDays(shown->table, days), std::back_inserter(notes));
+    std::string line;
+    for (const std::string& note : notes) {
+        line += (line.empty() ? "" : "; ") + note;
+    }
+    return line;
 }
 
 void FillGrid(const std::vector<TimetableDay>& days) {
@@ -122,15 +128,15 @@ YearChart Chart() {
 }
 
 /// A time inside a line of words, which keeps its own order where these run from right to left.
-std::string TimeInLine(const std::optional<double>& hours) {
+std::string TimeInLine(const std::optional<Moment>& moment) {
     constexpr char32_t kIsolate = 0x2068;  // begins a text with a direction of its own
     constexpr char32_t kEndIsolate = 0x2069;
     if (!shown->words.rightToLeft) {
-        return TimeText(hours);
+        return TimeText(moment);
     }
     std::string text;
     AppendUtf8(text, kIsolate);
-    text += TimeText(hours);
+    text += TimeText(moment);
     AppendUtf8(text, kEndIsolate);
     return text;
 }
@@ -142,7 +148,7 @@ void TellDay(std::size_t row) {
     std::string line = DayText(day) + " " + shown->words.MonthTitle(date.year, date.month) + ", " +
                        shown->words.HijriText(day.hijri);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        line += "   " + shown->words.prayers.at(prayer) + " " + TimeInLine(day.hours.at(prayer));
+        line += "   " + shown->words.prayers.at(prayer) + " " + TimeInLine(day.moments.at(prayer));
     }
     frmMonth->lblPointer.SetCaption(line);
 }

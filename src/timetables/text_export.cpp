@@ -2,9 +2,11 @@
 
 #include "base/number_text.h"
 #include "base/prayers.h"
+#include "base/text.h"
 #include "base/utf8.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/moment_text.h"
 #include "engine/moments.h"
 #include "engine/progress_window.h"
 #include "engine/ruled_year.h"
@@ -15,6 +17,7 @@
 #include "store/location_text.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
+#include "timetables/timetable.h"
 
 namespace horavex {
 
@@ -49,9 +52,10 @@ std::string PlaceLines() {
            FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
 }
 
-std::string ZoneLine() {
+std::string ZoneLine(const Timetable& table) {
     return Text(TextEntry::kTimeZone) + ": " + Text(TextEntry::kGmt) + " " +
-           SignedFixedText(ActiveSettings.TimeZone, Ports().formats.DecimalMark()) + Crlf;
+           SignedFixedText(table.timeZone, Ports().formats.DecimalMark()) +
+           (table.zoneName.empty() ? "" : ", " + table.zoneName) + Crlf;
 }
 
 std::string QiblaLine() {
@@ -71,8 +75,8 @@ std::string ColumnLines() {
 }
 
 /// The block at the head of every month.
-std::string Header() {
-    return PlaceLines() + ZoneLine() + QiblaLine() + Rule() + ColumnLines() + Rule();
+std::string Header(const Timetable& table) {
+    return PlaceLines() + ZoneLine(table) + QiblaLine() + Rule() + ColumnLines() + Rule();
 }
 
 std::string MonthTitle(Date date) {
@@ -88,23 +92,32 @@ struct ExportedYear {
     YearTimes times = Times;
     YearBasis basis = RuledYear;
     SettingsRecord settings = ActiveSettings;
+    Timetable table = TakeTimetable();
 };
 
-/// The mark before a day on which daylight saving changes; it leaves its footnote pending. day:
-/// 1-based day of the year.
-std::string DaylightMark(const SettingsRecord& settings, int day, DaylightNote& flag) {
+/// The change of a day of the settings. day: 1-based day of the year.
+DaylightChange ChangeInSettings(const SettingsRecord& settings, int day) {
     if (settings.DstEnabled != 1) {
+        return DaylightChange::kNone;
+    }
+    return day == settings.DstStart ? DaylightChange::kBegins
+           : day == settings.DstEnd ? DaylightChange::kEnds
+                                    : DaylightChange::kNone;
+}
+
+/// The same of the zone that counts, which may hold what the settings cannot.
+DaylightChange ChangeOn(const ExportedYear& year, int day) {
+    return year.table.zone.empty() ? ChangeInSettings(year.settings, day)
+                                   : year.table.days.at(static_cast<std::size_t>(day) - 1).change;
+}
+
+/// The mark before a day on which daylight saving changes; it leaves its footnote pending.
+std::string DaylightMark(DaylightChange change, DaylightNote& flag) {
+    if (change == DaylightChange::kNone) {
         return " ";
     }
-    if (day == settings.DstStart) {
-        flag = kBegins;
-        return "*";
-    }
-    if (day == settings.DstEnd) {
-        flag = kFinishes;
-        return "*";
-    }
-    return " ";
+    flag = change == DaylightChange::kBegins ? kBegins : kFinishes;
+    return "*";
 }
 
 /// day: 1-based day of the year.
@@ -112,7 +125,7 @@ std::string DayCells(const ExportedYear& year, int day, int dayOfMonth) {
     std::string cells = CenterText(std::to_string(dayOfMonth), kDayWidth);
     const YearSource source = {year.basis.inputs, year.times, year.basis.rules.moments};
     for (const Moment& moment : MomentsOf(source, static_cast<std::size_t>(day) - 1)) {
-        cells += Cell(Ports().formats.MediumTime(moment.hours / 24.0));
+        cells += Cell(MomentCell(moment));
     }
     return cells + Crlf;
 }
@@ -126,6 +139,28 @@ std::string Footnote(const DaylightNote& flag) {
     return "* " + Text(TextEntry::kNote) + " : " +
            Text(flag == kBegins ? TextEntry::kStartOf : TextEntry::kEndOf) + " " +
            Text(TextEntry::kOfDaylightSaving) + "." + Crlf;
+}
+
+/// A text as lines that keep to the page.
+std::string Wrapped(std::string_view text) {
+    std::string lines;
+    std::size_t length = 0;
+    for (const std::string& word : Split(text, ' ')) {
+        const std::size_t width = Utf8Length(word);
+        const bool fits = length == 0 || length + 1 + width <= kPageWidth;
+        lines += (length == 0 ? "" : fits ? " " : Crlf) + word;
+        length = fits && length > 0 ? length + 1 + width : width;
+    }
+    return lines + Crlf;
+}
+
+/// What the marks beside the times of a month mean; nothing without marks.
+std::string MarkLines(const Timetable& table, int month) {
+    std::string lines;
+    for (const std::string& note : NotesOfDays(table, DaysOfMonth(table, month))) {
+        lines += Wrapped(note);
+    }
+    return lines;
 }
 
 }  // namespace
@@ -152,7 +187,7 @@ void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& 
 
 void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) {
     const ExportedYear year;
-    const std::string header = Header();
+    const std::string header = Header(year.table);
     std::string page;
     DaylightNote flag = kNoNote;
     int monthIndex = 0;
@@ -162,18 +197,20 @@ void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) 
         if (civil.day == 1) {
             if (n > 1) {
                 monthIndex = civil.month - 1;
+                page += MarkLines(year.table, monthIndex);
                 sub0529(flag, monthIndex, page, file);
                 page = kFormFeed;
             }
             page += MonthTitle(date) + header;
         }
-        page += DaylightMark(year.settings, n, flag) + DayCells(year, n, civil.day);
+        page += DaylightMark(ChangeOn(year, n), flag) + DayCells(year, n, civil.day);
         page += EndsGroup(civil.day) ? Crlf : "";
         if (isCancelled()) {
             break;
         }
         Ports().eventLoop.Pump();
     }
+    page += MarkLines(year.table, monthIndex + 1);
     // The count of months stands where the last turn left it: the bar never fills.
     sub0529(flag, monthIndex, page, file);
 }

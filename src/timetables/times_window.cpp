@@ -3,7 +3,9 @@
 #include "base/fault.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
+#include "engine/moment_text.h"
 #include "engine/moments.h"
+#include "engine/ruled_year.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
@@ -16,19 +18,25 @@ namespace horavex {
 
 namespace {
 
-/// The time of a prayer on a day of the table, as a fraction of a day.
-double FractionOf(int prayer, double day) {
+/// The moments of a day of the table, 0-based.
+DayMoments MomentsOn(double day) {
     if (day < 0.0 || day >= static_cast<double>(kYearRows)) {
         throw BoundsFault("the day lies outside the year of the table");
     }
-    const DayMoments moments = MomentsOfRow(static_cast<std::size_t>(day));
-    return moments.at(static_cast<std::size_t>(prayer)).hours / 24.0;
+    return MomentsOfRow(static_cast<std::size_t>(day));
 }
 
 void ShowTime(int prayer, double day) {
-    const double time = FractionOf(prayer, day);
-    frmTimes->lblTime(prayer).SetCaption(Ports().formats.MediumTime(time));
-    TodayTimes.at(static_cast<std::size_t>(prayer)) = time;
+    const Moment moment = MomentsOn(day).at(static_cast<std::size_t>(prayer));
+    frmTimes->lblTime(prayer).SetCaption(MomentText(moment));
+    TodayTimes.at(static_cast<std::size_t>(prayer)) = moment.hours / 24.0;
+}
+
+/// What the dagger means, on a day that has one.
+void ShowNote(double day) {
+    const std::string note = RuleNote(MomentsOn(day), RuledYear.rules.moments.highLatitude);
+    frmTimes->lblTimesNote.SetCaption(note);
+    frmTimes->lblTimesNote.SetVisible(!note.empty());
 }
 
 void ShowDay(Date date) {
@@ -86,6 +94,7 @@ void SetTimes(Date date) {
     for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
         RunStep([&] { ShowTime(prayer, day); });
     }
+    RunStep([&] { ShowNote(day); });
     frmTimes->lblDate.SetCaption(Ports().formats.LongDate(date));
     frmTimes->lblCurrTime.SetCaption(Ports().formats.TwelveHourTime(Ports().clock.Now()));
 }

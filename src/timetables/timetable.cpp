@@ -4,14 +4,18 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 
+#include "base/number_text.h"
 #include "base/rounding.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/moment_text.h"
 #include "engine/moments.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
+#include "engine/zone_spans.h"
 #include "geo/qibla.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
@@ -21,15 +25,26 @@ namespace horavex {
 
 namespace {
 
+/// The clock of a day at its noon.
+ZoneSpan ClockOf(Date date) {
+    const std::vector<ZoneSpan>& zone = RuledYear.rules.moments.zone;
+    if (!zone.empty()) {
+        return SpanOfLocal(zone, date + 0.5);
+    }
+    const bool daylight = IsDaylightDay(date, ActiveSettings);
+    return {date, ActiveSettings.TimeZone + (daylight ? 1.0 : 0.0), daylight};
+}
+
 TimetableDay TakeDay(std::size_t row) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
-    TimetableDay day = {
-        date, RuledHijriDate(date), IsDaylightDay(date, ActiveSettings), DaylightChange::kNone, {}};
+    const ZoneSpan clock = ClockOf(date);
+    TimetableDay day = {date,           RuledHijriDate(date),  clock.hours,
+                        clock.daylight, DaylightChange::kNone, {}};
     const DayMoments moments = MomentsOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         // What is no time of any day, a damaged zone's, has no text either.
         if (std::fabs(moments[prayer].hours) < NoEvent) {
-            day.hours[prayer] = moments[prayer].hours;
+            day.moments[prayer] = moments[prayer];
         }
     }
     return day;
@@ -47,6 +62,12 @@ void MarkChanges(std::vector<TimetableDay>& days) {
     }
 }
 
+/// The clock without daylight saving.
+double StandardHours(const std::vector<TimetableDay>& days) {
+    const auto standard = std::ranges::find(days, false, &TimetableDay::daylight);
+    return standard == days.end() ? days.front().offset : standard->offset;
+}
+
 std::string IsoDate(int year, int month, int day) {
     char text[40];
     std::snprintf(text, sizeof text, "%04d-%02d-%02d", year, month, day);
@@ -56,22 +77,50 @@ std::string IsoDate(int year, int month, int day) {
 }  // namespace
 
 Timetable TakeTimetable() {
-    Timetable table = {CurrentYear,
-                       ActiveCityText,
-                       StoredCoord(ActiveLocation.City.Latitude),
-                       StoredCoord(ActiveLocation.City.Longitude),
-                       ActiveSettings.TimeZone,
-                       ActiveSettings.FajrAngle,
-                       ActiveIshaAngle,
-                       ActiveSettings.AsrRatio,
-                       QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
-                       {}};
+    const YearRules& rules = RuledYear.rules;
+    Timetable table = {.year = CurrentYear,
+                       .place = ActiveCityText,
+                       .latitude = StoredCoord(ActiveLocation.City.Latitude),
+                       .longitude = StoredCoord(ActiveLocation.City.Longitude),
+                       .timeZone = ActiveSettings.TimeZone,
+                       .zone = rules.moments.zone,
+                       .zoneName = rules.zoneName,
+                       .method = rules.method,
+                       .highLatitude = rules.moments.highLatitude,
+                       .fajrAngle = ActiveSettings.FajrAngle,
+                       .ishaAngle = ActiveIshaAngle,
+                       .asrRatio = ActiveSettings.AsrRatio,
+                       .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
+                       .days = {}};
     const std::size_t count = LeapFlag == 1 ? 366 : 365;
     for (std::size_t row = 0; row < count; ++row) {
         table.days.push_back(TakeDay(row));
     }
     MarkChanges(table.days);
+    if (!table.zone.empty()) {
+        table.timeZone = StandardHours(table.days);
+    }
     return table;
+}
+
+double OffsetOf(const Timetable& table, const TimetableDay& day, Date local) {
+    return table.zone.empty() ? day.offset : SpanOfLocal(table.zone, local).hours;
+}
+
+std::vector<std::string> NotesOfDays(const Timetable& table,
+                                     const std::vector<TimetableDay>& days) {
+    std::vector<Moment> moments;
+    for (const TimetableDay& day : days) {
+        for (const auto& moment : day.moments) {
+            moments.push_back(moment.value_or(Moment{}));
+        }
+    }
+    return ColumnNotes(moments, table.highLatitude);
+}
+
+std::string ZoneText(const Timetable& table) {
+    return "GMT " + SignedFixedText(table.timeZone) +
+           (table.zoneName.empty() ? "" : ", " + table.zoneName);
 }
 
 std::vector<TimetableDay> DaysOfMonth(const Timetable& table, int month) {
@@ -94,6 +143,17 @@ std::string IsoDate(const CivilDate& date) {
 
 std::string IsoDate(const HijriDate& date) {
     return IsoDate(date.year, date.month, date.day);
+}
+
+std::string IsoMoment(Date day, double hours, double offset) {
+    const double seconds = RoundHalfEven(hours * 3600.0);
+    const double days = std::floor(seconds / kSecondsPerDay);
+    const int second = NearestInt(seconds - days * kSecondsPerDay);
+    const int zone = std::abs(NearestInt(offset * 60.0));
+    char text[32];
+    std::snprintf(text, sizeof text, "T%02d:%02d:%02d%c%02d:%02d", second / 3600, second / 60 % 60,
+                  second % 60, offset < 0.0 ? '-' : '+', zone / 60, zone % 60);
+    return IsoDate(CivilFromDate(day + days)) + text;
 }
 
 std::string IsoTime(int minuteOfDay) {

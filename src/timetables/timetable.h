@@ -7,6 +7,8 @@
 
 #include "base/date.h"
 #include "calendar/hijri_calendar.h"
+#include "engine/moment.h"
+#include "engine/moment_rules.h"
 #include "engine/year_table.h"
 
 namespace horavex {
@@ -18,20 +20,25 @@ enum class DaylightChange {
 };
 
 struct TimetableDay {
-    Date date;                                              // midnight that begins it
-    HijriDate hijri;                                        // by the calendar of the face
-    bool daylight;                                          // its times carry the daylight hour
-    DaylightChange change;                                  // a day that is both begins
-    std::array<std::optional<double>, kPrayerCount> hours;  // local clock; none for NoEvent
+    Date date;              // midnight that begins it
+    HijriDate hijri;        // by the calendar of the face
+    double offset;          // of its clock at noon, hours east of Greenwich
+    bool daylight;          // that clock is the one of daylight saving
+    DaylightChange change;  // a day that is both begins
+    std::array<std::optional<Moment>, kPrayerCount> moments;  // none for NoEvent
 };
 
 /// The year's table with its place and method, as all writers of files and all pictures take it.
 struct Timetable {
-    int year;                        // Gregorian
-    std::string place;               // display text
-    double latitude;                 // degrees, north positive
-    double longitude;                // degrees, east positive
-    double timeZone;                 // hours east of Greenwich, without the daylight hour
+    int year;                    // Gregorian
+    std::string place;           // display text
+    double latitude;             // degrees, north positive
+    double longitude;            // degrees, east positive
+    double timeZone;             // hours east of Greenwich, without daylight saving
+    std::vector<ZoneSpan> zone;  // of the city's own clock; empty for the settings' zone
+    std::string zoneName;        // of that zone
+    std::string method;          // its English name; empty for angles of one's own
+    HighLatitudeRule highLatitude;
     double fajrAngle;                // degrees of depression
     double ishaAngle;                // degrees of depression
     double asrRatio;                 // shadow factor
@@ -45,6 +52,16 @@ Timetable TakeTimetable();
 /// The days of a month, 1 to 12.
 std::vector<TimetableDay> DaysOfMonth(const Timetable& table, int month);
 
+/// Hours that the clock which shows a local time is ahead of Greenwich. day: the one whose moment
+/// it is.
+double OffsetOf(const Timetable& table, const TimetableDay& day, Date local);
+
+/// What the marks beside the times of some days mean, a line each.
+std::vector<std::string> NotesOfDays(const Timetable& table, const std::vector<TimetableDay>& days);
+
+/// The hours of the zone, and its name where it has one: "GMT +1.00, Europe/Oslo".
+std::string ZoneText(const Timetable& table);
+
 /// The hour of a prayer in whole minutes, as every display shows it: rounded to the second, the
 /// seconds then dropped. An hour of 24 or more lies on the day after.
 struct DayMinute {
@@ -56,6 +73,9 @@ DayMinute MinuteOf(Date day, double hours);
 /// "2026-11-21".
 std::string IsoDate(const CivilDate& date);
 std::string IsoDate(const HijriDate& date);
+
+/// "2026-06-21T23:14:05+03:00", rounded to the second. offset: hours east of Greenwich.
+std::string IsoMoment(Date day, double hours, double offset);
 
 /// "05:31", by 24 hours.
 std::string IsoTime(int minuteOfDay);

@@ -93,14 +93,14 @@ void YearChart::DrawBand(Drawing& drawing, std::size_t from, std::size_t to, Col
         lower.clear();
     };
     for (std::size_t row = 0; row < table_.days.size(); ++row) {
-        const auto& hours = table_.days[row].hours;
-        if (!hours[from] || !hours[to]) {
+        const auto& moments = table_.days[row].moments;
+        if (!moments[from] || !moments[to]) {
             finish();
             continue;
         }
         for (const double x : {X(static_cast<double>(row)), X(static_cast<double>(row) + 1.0)}) {
-            upper.push_back({x, Y(*hours[from])});
-            lower.push_back({x, Y(*hours[to])});
+            upper.push_back({x, Y(moments[from]->hours)});
+            lower.push_back({x, Y(moments[to]->hours)});
         }
     }
     finish();
@@ -130,9 +130,9 @@ void YearChart::DrawMonths(Drawing& drawing) const {
 /// A name stands below the time that it names.
 void YearChart::DrawNames(Drawing& drawing) const {
     const auto name = [&](std::size_t prayer, Colour ink) {
-        if (const auto& hours = table_.days.at(kNameRow).hours[prayer]) {
+        if (const auto& moment = table_.days.at(kNameRow).moments[prayer]) {
             drawing.push_back(
-                TextStep{{X(kNameRow), Y(*hours) + 15.0}, words_.prayers.at(prayer), ink});
+                TextStep{{X(kNameRow), Y(moment->hours) + 15.0}, words_.prayers.at(prayer), ink});
         }
     };
     for (const Band& band : kBands) {

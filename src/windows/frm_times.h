@@ -20,6 +20,10 @@ public:
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
+
+    /// What the marks beside the times mean; hidden on a day without one.
+    Label lblTimesNote{*this, "lblTimesNote", {.visible = false}};
+
     ControlArray<Label> lblZoritNameArabic{*this, "lblZoritNameArabic",
                                            PrayerLabels(kDayBrowserNames)};
     ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};

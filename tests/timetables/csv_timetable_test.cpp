@@ -38,10 +38,18 @@ TEST_F(CsvTimetableTest, ReadsBackToTheSameTable) {
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
             EXPECT_EQ(
                 std::stoi(fields[2 + prayer]) + std::stoi(fields[2 + prayer].substr(3)) / 60.0,
-                *day.hours[prayer]);
+                day.moments[prayer]->hours);
         }
         EXPECT_EQ(fields[8], day.daylight ? "1" : "0");
     }
+}
+
+TEST_F(CsvTimetableTest, MarksHaveAColumnInAYearThatHasSome) {
+    Oslo();
+    const auto lines = Split(CsvTimetable(TakeTimetable()), '\n');
+    EXPECT_THAT(lines.at(0), EndsWith(",Daylight,Marks\r"));
+    EXPECT_THAT(lines.at(1), EndsWith(",0,\r"));
+    EXPECT_THAT(lines.at(172), EndsWith(",0,Fajr:rule Isha:rule Isha:+1\r"));
 }
 
 TEST_F(CsvTimetableTest, TimeThatDoesNotExistIsAnEmptyField) {

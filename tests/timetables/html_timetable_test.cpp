@@ -51,6 +51,14 @@ TEST_F(HtmlTimetableTest, RowTellsTheDayInBothCalendarsAndTheTimesInTheUsersForm
                   "<td><time datetime=\"2026-01-01T05:00\" dir=\"auto\">05:00 AM</time></td>"));
 }
 
+TEST_F(HtmlTimetableTest, MarksStandBesideTheTimesAndAreExplainedBelowTheTables) {
+    Oslo();
+    const std::string page = Page();
+    EXPECT_TRUE(page.find("\"2026-06-22T01:18\" dir=\"auto\">01:18 AM+1\u2020</time>") !=
+                std::string::npos);
+    EXPECT_EQ(CountOf(page, "<p>+1: on the next day</p>\n<p>Times marked \u2020"), 5);
+}
+
 TEST_F(HtmlTimetableTest, FridaysAreSetOffAndTodayIsMarked) {
     const std::string page = Page();
     EXPECT_EQ(CountOf(page, " class=\"friday\""), 52);

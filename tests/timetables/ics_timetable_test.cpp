@@ -150,6 +150,24 @@ TEST_F(IcsTimetableTest, SouthernSummerBeginsTheYearWithDaylightSaving) {
     EXPECT_EQ(zone[11], "DTSTART:20261001T000000");
 }
 
+TEST_F(IcsTimetableTest, EventsByAZoneOfItsOwnAreToldInUniversalTime) {
+    LordHowe();
+    const std::string calendar = Calendar();
+    EXPECT_THAT(calendar, Not(HasSubstr("VTIMEZONE")));
+    EXPECT_THAT(calendar, Not(HasSubstr("TZID")));
+    EXPECT_THAT(LinesWith("DTSTART:202601"), Contains("DTSTART:20260101T013000Z"));
+    EXPECT_THAT(calendar, HasSubstr("UID:20260701-zuhr+3005+3125@horavex.invalid\r\n"
+                                    "DTSTAMP:20261121T123456Z\r\nDTSTART:20260701T013000Z\r\n"));
+}
+
+TEST_F(IcsTimetableTest, TimeByARuleIsMarkedAndExplained) {
+    Oslo();
+    const auto lines = Lines(Calendar());
+    EXPECT_THAT(lines, Contains("SUMMARY:Isha \u2020"));
+    EXPECT_THAT(lines, Contains(StartsWith("DESCRIPTION:Times marked \u2020")));
+    EXPECT_THAT(lines, Contains("SUMMARY:Maghrib"));
+}
+
 TEST_F(IcsTimetableTest, ZonesOfPartsOfAnHourAndWestOfGreenwich) {
     ActiveSettings.TimeZone = 5.75;
     EXPECT_THAT(Zone(), Contains("TZOFFSETTO:+0545"));

@@ -2,6 +2,8 @@
 
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
+#include "engine/ruled_year.h"
+#include "engine/year_table.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "timetables/document_tools.h"
@@ -107,6 +109,16 @@ TEST_F(MonthWindowTest, ChangeOfDaylightSavingIsMarkedAndTold) {
     EXPECT_TRUE(frmMonth->lblNote.Visible());
     frmMonth->cmdNext.UserClick();
     EXPECT_FALSE(frmMonth->lblNote.Visible());
+}
+
+TEST_F(MonthWindowTest, MarksOfTheTimesAreToldBelowTheTable) {
+    frmMonth->Unload();
+    RuledYear.inputs = PresentInputs();
+    RuledYear.rules.moments.ishaInterval = 8 * 60;
+    ShowMonthWindow();
+    EXPECT_THAT(frmMonth->grdMonth.rows.at(0).cells.at(7), testing::EndsWith("AM+1"));
+    EXPECT_EQ(frmMonth->lblNote.Caption(), "+1: on the next day");
+    EXPECT_TRUE(frmMonth->lblNote.Visible());
 }
 
 TEST_F(MonthWindowTest, TableStaysAsItWasAtTheOpening) {

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/angle.h"
 #include "engine/current_year.h"
+#include "engine/ruled_year.h"
+#include "engine/year_calculation.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "store/location_record.h"
@@ -47,6 +50,38 @@ struct TimetableTest : testing::Test {
         ActiveSettings.DstEnabled = 1;
         ActiveSettings.DstStart = start;
         ActiveSettings.DstEnd = end;
+    }
+
+    /// The zone of Lord Howe in 2026: half an hour of daylight saving until 5 April, local time
+    /// 02:00, and from 4 October on.
+    static void LordHowe() {
+        ActiveSettings.TimeZone = 10.5;
+        RuledYear.inputs = PresentInputs();
+        RuledYear.inputs.place.timeZone = 10.5;
+        RuledYear.rules.zoneName = "Australia/Lord_Howe";
+        RuledYear.rules.moments.zone = {
+            {DateSerial(2025, 12, 30), 11.0, true},
+            {DateSerial(2026, 4, 4) + TimeSerial(15, 0, 0), 10.5, false},
+            {DateSerial(2026, 10, 3) + TimeSerial(15, 30, 0), 11.0, true}};
+    }
+
+    /// A clock that is set back for a month: ahead of that from the beginning and to the end.
+    static void Casablanca() {
+        LordHowe();
+        ActiveSettings.TimeZone = RuledYear.inputs.place.timeZone = 0.0;
+        RuledYear.rules.zoneName = "Africa/Casablanca";
+        RuledYear.rules.moments.zone = {{DateSerial(2025, 12, 30), 1.0, true},
+                                        {DateSerial(2026, 2, 15) + TimeSerial(2, 0, 0), 0.0, false},
+                                        {DateSerial(2026, 3, 22) + TimeSerial(2, 0, 0), 1.0, true}};
+    }
+
+    /// The year of Oslo by the clock of Cairo: Fajr and Isha meet in the middle of a summer's
+    /// night, behind midnight.
+    static void Oslo() {
+        const YearMethod method = {18.0, 18.0, 1.0, 0, 0, 0, false, false};
+        RuledYear.inputs = {2026, {DegToRad(59.91), -DegToRad(10.75), 2.0}, method};
+        RuledYear.rules.moments.highLatitude = HighLatitudeRule::kMiddle;
+        Times = CalculateYear(RuledYear.inputs).times;
     }
 
     void WriteTexts() {

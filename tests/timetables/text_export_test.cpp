@@ -13,6 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
@@ -138,6 +139,26 @@ TEST_F(TextPagesTest, RowsAreThoseOfTheTable) {
     const auto pages = Pages();
     EXPECT_THAT(Rows(pages.at(1)).at(0), StartsWith("   1    04:30 AM "));
     EXPECT_THAT(Rows(pages.at(11)).at(30), EndsWith("    08:01 PM  \r"));
+}
+
+TEST_F(TextPagesTest, MarksAreExplainedBelowTheirMonthWithinThePage) {
+    Oslo();
+    const auto pages = Pages();
+    EXPECT_THAT(pages.at(5),
+                HasSubstr("\u2020\r\n+1: on the next day\r\nTimes marked \u2020 follow "
+                          "the high latitude rule \"middle of the night\" instead "
+                          "of\r\nthe sun's angle.\r\n-----"));
+    EXPECT_THAT(pages.at(0), Not(HasSubstr("Times marked")));
+}
+
+TEST_F(TextPagesTest, ZoneOfItsOwnMarksItsChangesAndIsNamed) {
+    Daylight(10, 20);
+    LordHowe();
+    const auto pages = Pages();
+    EXPECT_THAT(Starred(pages.at(0)), IsEmpty());
+    EXPECT_THAT(Starred(pages.at(3)), ElementsAre("4"));
+    EXPECT_THAT(Starred(pages.at(9)), ElementsAre("4"));
+    EXPECT_THAT(pages.at(3), HasSubstr("Time Zone: GMT +10.50, Australia/Lord_Howe\r\n"));
 }
 
 TEST_F(TextPagesTest, RulesOfTheYearCountInTheRows) {

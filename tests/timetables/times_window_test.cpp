@@ -74,6 +74,17 @@ TEST_F(TimesWindowTest, RulesOfTheYearCountInIt) {
     EXPECT_EQ(ShownTimes()[3], platform.formats.MediumTime(TodayTimes[kAsr]));
 }
 
+TEST_F(TimesWindowTest, MarksAreToldOnADayThatHasThem) {
+    EXPECT_FALSE(frmTimes->lblTimesNote.Visible());
+    RuledYear.inputs = PresentInputs();
+    RuledYear.rules.moments.highLatitude = HighLatitudeRule::kMiddle;
+    RuledYear.rules.moments.ishaInterval = 8 * 60;  // the night's middle stops it
+    frmTimes->cmdToday.UserClick();
+    EXPECT_THAT(ShownTimes()[5], testing::EndsWith(", next day \u2020"));
+    EXPECT_TRUE(frmTimes->lblTimesNote.Visible());
+    EXPECT_THAT(frmTimes->lblTimesNote.Caption(), testing::HasSubstr("\"middle of the night\""));
+}
+
 TEST_F(TimesWindowTest, CaptionIsTheDefinitionsUntilAPackReplacesIt) {
     EXPECT_EQ(TimesForm().Caption(), "Paryer Times");
     EXPECT_EQ(frmTimes->Caption(), "Prayer Times");

@@ -59,8 +59,8 @@ TEST_F(TimetableModelTest, DaysHaveTheHijriDateOfTheFace) {
 TEST_F(TimetableModelTest, TimeThatDoesNotExistIsNone) {
     Times[kIsha][4] = NoEvent;
     const Timetable table = TakeTimetable();
-    EXPECT_FALSE(table.days.at(4).hours[kIsha]);
-    EXPECT_EQ(table.days.at(4).hours[kMaghrib], 18.0);
+    EXPECT_FALSE(table.days.at(4).moments[kIsha]);
+    EXPECT_EQ(table.days.at(4).moments[kMaghrib]->hours, 18.0);
 }
 
 TEST_F(TimetableModelTest, DaylightSavingIsMarkedAtItsFirstAndItsLastDay) {
@@ -95,6 +95,41 @@ TEST_F(TimetableModelTest, FollowsTheAcceptedDaylightSavingAndNotTheOneBeingEdit
     EXPECT_FALSE(TakeTimetable().days.at(100).daylight);
 }
 
+// The settings' record cannot hold either zone.
+TEST_F(TimetableModelTest, DaylightSavingIsThatOfTheZoneThatCounts) {
+    LordHowe();
+    EXPECT_THAT(DaysThat(DaylightChange::kEnds), ElementsAre(94));
+    EXPECT_THAT(DaysThat(DaylightChange::kBegins), ElementsAre(277));
+    const Timetable table = TakeTimetable();
+    EXPECT_TRUE(table.days.front().daylight);
+    EXPECT_EQ(table.days.front().offset, 11.0);
+    EXPECT_EQ(table.timeZone, 10.5);
+    EXPECT_EQ(ZoneText(table), "GMT +10.50, Australia/Lord_Howe");
+}
+
+TEST_F(TimetableModelTest, ZoneMayHaveTwoSpansOfDaylightSaving) {
+    Casablanca();
+    EXPECT_THAT(DaysThat(DaylightChange::kEnds), ElementsAre(45));
+    EXPECT_THAT(DaysThat(DaylightChange::kBegins), ElementsAre(81));
+    EXPECT_EQ(TakeTimetable().timeZone, 0.0);
+}
+
+TEST_F(TimetableModelTest, MomentHasTheOffsetOfItsOwnTime) {
+    LordHowe();
+    const Timetable table = TakeTimetable();
+    const TimetableDay& day = table.days.at(94);  // 5 April
+    EXPECT_EQ(OffsetOf(table, day, day.date + TimeSerial(1, 0, 0)), 11.0);
+    EXPECT_EQ(OffsetOf(table, day, day.date + TimeSerial(4, 0, 0)), 10.5);
+}
+
+TEST_F(TimetableModelTest, NotesTellTheMarksOfTheirDays) {
+    EXPECT_THAT(NotesOfDays(TakeTimetable(), DaysOfMonth(TakeTimetable(), 6)), IsEmpty());
+    Oslo();
+    const Timetable table = TakeTimetable();
+    EXPECT_THAT(NotesOfDays(table, DaysOfMonth(table, 6)),
+                ElementsAre("+1: on the next day", testing::HasSubstr("\"middle of the night\"")));
+}
+
 TEST(MinuteOf, RoundsToTheSecondAndDropsIt) {
     const Date day = DateSerial(2026, 6, 1);
     EXPECT_EQ(MinuteOf(day, 5.5).minute, 330);
@@ -115,6 +150,9 @@ TEST(MinuteOf, HourBeyondTheDayLiesOnTheNextOne) {
 TEST(TimetableTexts, FormsOfTheFileFormats) {
     EXPECT_EQ(IsoDate(CivilDate{2026, 3, 9}), "2026-03-09");
     EXPECT_EQ(IsoDate(HijriDate{1448, 12, 30}), "1448-12-30");
+    const Date midsummer = DateSerial(2026, 6, 21);
+    EXPECT_EQ(IsoMoment(midsummer, 24.5, -3.5), "2026-06-22T00:30:00-03:30");
+    EXPECT_EQ(IsoMoment(midsummer, -0.25, 5.75), "2026-06-20T23:45:00+05:45");
     EXPECT_EQ(IsoTime(0), "00:00");
     EXPECT_EQ(IsoTime(1439), "23:59");
     EXPECT_EQ(PlainNumber(0.1), "0.1");

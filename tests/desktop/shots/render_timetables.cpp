@@ -34,8 +34,11 @@ public:
     void ReportProgress(double) override {}
     void ComputeQibla() override { horavex::ComputeQibla(); }
     double QiblaBearing() override { return QiblaDegrees; }
+    YearRules RulesOf(std::int16_t /*year*/) override { return rules; }
     void RunSetAction() override {}
     void SetFlashVariables() override {}
+
+    YearRules rules;
 };
 
 QString folder;
@@ -77,6 +80,26 @@ void TakeCairo(TestPlatform& platform, bool arabic) {
     RecalculateYear();
 }
 
+/// Oslo around midsummer, whose nights a rule divides.
+void TakeOslo(TestPlatform& platform, SilentHost& host, HighLatitudeRule rule) {
+    platform.clock.Set(DateSerial(2026, 6, 21) + TimeSerial(15, 4, 5));
+    Location.City.Latitude = 5991;
+    Location.City.Longitude = 1075;
+    ActiveLocation = Location;
+    ActiveCityText = "Oslo - Norway";
+    Settings.TimeZone = 1.0;
+    Settings.FajrAngle = 18.0;
+    Settings.DstStart = 88;
+    Settings.DstEnd = 297;
+    ActiveSettings = Settings;
+    host.rules.moments.highLatitude = rule;
+    host.rules.zoneName = "Europe/Oslo";
+    host.rules.moments.zone = {{DateSerial(2025, 12, 30), 1.0, false},
+                               {DateSerial(2026, 3, 29) + TimeSerial(1, 0, 0), 2.0, true},
+                               {DateSerial(2026, 10, 25) + TimeSerial(1, 0, 0), 1.0, false}};
+    RecalculateYear();
+}
+
 /// The chart on view as the month window saves it.
 void SaveChart(TestPlatform& platform, const QString& name) {
     PosixFiles disk;
@@ -88,15 +111,20 @@ void SaveChart(TestPlatform& platform, const QString& name) {
     }
 }
 
+void RenderWindows(const FormWindows& windows, const QString& name) {
+    frmTimes->Load();
+    frmTimes->Show();
+    frmTimes->cmdToday.UserClick();
+    Save(windows, *frmTimes, "times-" + name);
+    frmMonth->Load();
+    frmMonth->Show();
+    Save(windows, *frmMonth, "month-" + name);
+}
+
 void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     TakeCairo(platform, arabic);
-    frmTimes->Load();
-    frmTimes->Show();
-    Save(windows, *frmTimes, "times-" + language);
-    frmMonth->Load();
-    frmMonth->Show();
-    Save(windows, *frmMonth, "month-" + language);
+    RenderWindows(windows, language);
     frmMonth->grdMonth.UserPage(-1);
     Save(windows, *frmMonth, "month-change-" + language);
     QTimer::singleShot(0, [&language] { SavePreview("preview-" + language); });
@@ -106,6 +134,27 @@ void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool a
     SaveChart(platform, "year-" + language);
     frmMonth->Unload();
     frmTimes->Unload();
+}
+
+void RenderOslo(TestPlatform& platform, const FormWindows& windows, SilentHost& host, bool arabic) {
+    const Date now = platform.clock.Now();
+    TakeCairo(platform, arabic);
+    const std::pair<const char*, HighLatitudeRule> rules[] = {
+        {"middle", HighLatitudeRule::kMiddle},
+        {"seventh", HighLatitudeRule::kSeventh},
+        {"angle", HighLatitudeRule::kAngle},
+        {"nearest", HighLatitudeRule::kNearest}};
+    for (const auto& [word, rule] : rules) {
+        const QString name = QString("oslo-") + word + (arabic ? "-arabic" : "-english");
+        TakeOslo(platform, host, rule);
+        RenderWindows(windows, name);
+        QTimer::singleShot(0, [&name] { SavePreview("preview-" + name); });
+        frmMonth->cmdPreview.UserClick();
+        frmMonth->Unload();
+        frmTimes->Unload();
+    }
+    host.rules = {};
+    platform.clock.Set(now);
 }
 
 /// Light texts on dark ground, as a desktop at night has them.
@@ -134,5 +183,7 @@ int main(int argc, char** argv) {
     InstallDesktopDocuments();
     RenderTimetables(platform, windows, false);
     RenderTimetables(platform, windows, true);
+    RenderOslo(platform, windows, host, false);
+    RenderOslo(platform, windows, host, true);
     return 0;
 }
