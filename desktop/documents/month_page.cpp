@@ -1,5 +1,6 @@
 #include "desktop/documents/month_page.h"
 
+#include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPaintEngine>
 #include <QPainterPath>
@@ -115,6 +116,19 @@ private:
         Draw(layout, {place.left(), place.center().y() - line.height() / 2.0}, colour);
     }
 
+    /// In smaller type where it is too wide.
+    void WriteFitted(const QRectF& box, const QString& text) {
+        const QFont font = painter_.font();
+        const double width = QFontMetricsF(font).horizontalAdvance(text);
+        if (width > box.width()) {
+            QFont smaller = font;
+            smaller.setPixelSize(static_cast<int>(font.pixelSize() * box.width() / width));
+            painter_.setFont(smaller);
+        }
+        Write(box, text);
+        painter_.setFont(font);
+    }
+
     void Draw(const QTextLayout& layout, const QPointF& at, const QColor& colour) {
         painter_.setPen(colour);
         if (painter_.paintEngine()->type() == QPaintEngine::Picture) {
@@ -214,7 +228,7 @@ private:
         Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
         for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
             if (const auto& moment = day.moments.at(static_cast<std::size_t>(prayer))) {
-                Write(Cell(2 + prayer, height), Text(MomentCell(*moment)));
+                WriteFitted(Cell(2 + prayer, height), Text(MomentCell(*moment)));
             }
         }
     }

@@ -68,6 +68,16 @@ TEST_F(DocumentsTest, ChangeOfDaylightSavingIsMarkedAndTold) {
     EXPECT_GT(Ink(Page(0.0), 0, 600), Ink(before, 0, 600));
 }
 
+TEST_F(DocumentsTest, MarkedTimesKeepToTheirColumn) {
+    Oslo();
+    const QImage page = Page(0.0);
+    int dark = 0;
+    for (int y = 0; y < page.height(); ++y) {
+        dark += qGray(page.pixel(599, y)) < 120 ? 1 : 0;
+    }
+    EXPECT_LE(dark, 2) << "but for the rule below the heads";
+}
+
 TEST_F(DocumentsTest, LanguageFromRightToLeftBeginsAtTheRight) {
     const QImage ltr = Page(0.0);
     words.rightToLeft = true;

@@ -10,6 +10,7 @@
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
+#include "engine/ruled_year.h"
 #include "support/test_platform.h"
 
 namespace horavex {
@@ -98,6 +99,19 @@ TEST_F(FaceTest, RowOfTheNextPrayerIsMarkedWhateverTheSentenceSays) {
     const QImage first = times.grab().toImage();
     times.ShowTimes({{"Fajr", "04:56 AM"}, {"Shurooq", "06:24 AM"}}, 1);
     EXPECT_NE(times.grab().toImage(), first);
+}
+
+TEST_F(FaceTest, MarkedTimesAreExplainedToWhoeverPointsAtThem) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    auto& times = *window.findChild<TimesView*>("times");
+    EXPECT_EQ(times.toolTip(), "");
+    RuledYear.rules.moments.highLatitude = HighLatitudeRule::kSeventh;
+    DayView day;
+    day.moments[kIsha] = {24.25, MomentBy::kRule, 1};
+    face.ShowDay(day);
+    EXPECT_TRUE(times.accessibleName().endsWith("Isha 12:15 AM, next day \u2020"));
+    EXPECT_TRUE(times.toolTip().contains("seventh of the night"));
 }
 
 TEST_F(FaceTest, DayBeforeTheLoadIsDropped) {
