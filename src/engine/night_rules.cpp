@@ -78,17 +78,20 @@ double Beside(const YearSource& year, std::size_t row, double zenith, DayHalf ha
 }
 
 /// An event of the sun: the table's own number where it is one. The table folds what passes
-/// midnight back onto its day and may then go on in the other half of the night, or miss an event
-/// whose sun of yesterday's hour does not get there; what differs is worked out anew. Without a
-/// rule such a year has given up before.
+/// midnight back onto its day and may then go on in the other half of the night, take an Asr before
+/// 12 o'clock for one before noon, or miss an event whose sun of yesterday's hour does not get
+/// there; what differs is worked out anew. Without a rule such a year has given up before.
 double EventOf(const YearSource& year, std::size_t row, Prayer prayer) {
     constexpr double kSame = 0.1;  // hours; the table takes the sun of yesterday's answer
-    const double told = StandardRow(year, row)[prayer];
+    const PrayerRow hours = StandardRow(year, row);
+    const double told = hours[prayer];
     if (year.rules.highLatitude == HighLatitudeRule::kNone) {
         return IsEvent(told) ? told : NoEvent;
     }
-    const double own = Beside(year, row, ZenithOf(year, row, prayer), HalfOf(prayer));
-    return std::fabs(told - own) < kSame ? told : own;
+    const DayHalf half = HalfOf(prayer);
+    const double own = Beside(year, row, ZenithOf(year, row, prayer), half);
+    const bool isOnItsSide = (told > hours[kZuhr]) == (half == DayHalf::kEvening);
+    return isOnItsSide && std::fabs(told - own) < kSame ? told : own;
 }
 
 /// A day that has Shurooq, Asr and Maghrib. On the first and last days of a polar night the sun's

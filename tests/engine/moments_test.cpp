@@ -349,6 +349,15 @@ TEST(HighLatitude, MaghribByAnAngleHasItsPartOfIshasPortion) {
                 (plain[kIsha].hours - plain[kMaghrib].hours) * 4.5 / 18.0, 1e-9);
 }
 
+// Noon is at 11:47 and the sun a degree high: Asr comes two minutes later, before 12 o'clock.
+TEST(HighLatitude, AsrOfAShortDayComesBehindNoon) {
+    Case kiruna = Case(67.86, 20.23, 1.0, 18.0).Rule(HighLatitudeRule::kSeventh);
+    const DayMoments day = kiruna.On(1, 11);
+    EXPECT_EQ(day[kAsr].by, MomentBy::kSun);
+    EXPECT_LT(day[kAsr].hours, 12.0);
+    EXPECT_GT(day[kAsr].hours, day[kZuhr].hours);
+}
+
 // A winter without sun goes over the turn of the year, and so does what it borrows.
 TEST(HighLatitude, NewYearBorrowsTheSameDayAsItsEve) {
     Case tromso = Tromso().Rule(HighLatitudeRule::kSeventh);
