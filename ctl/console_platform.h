@@ -10,6 +10,7 @@
 #include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
+#include "platform/fixed_whereabouts.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -92,9 +93,11 @@ private:
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
     ZoneDatabase zoneRules_;
-    Platform platform_{clock,     eventLoop_,    files,      folder_,      formats_,  dialogs_,
-                       registry_, instanceLock_, face_,      windows_,     tray_,     shell_,
-                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_};
+    FixedWhereabouts whereabouts_;  // none
+    Platform platform_{clock,        eventLoop_, files,         folder_,    formats_,
+                       dialogs_,     registry_,  instanceLock_, face_,      windows_,
+                       tray_,        shell_,     network_,      athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_};
 };
 
 }  // namespace horavex

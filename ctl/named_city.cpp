@@ -9,9 +9,9 @@
 #include "base/text.h"
 #include "ctl/command.h"
 #include "ctl/plain_text.h"
-#include "engine/angle.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
+#include "store/nearest_city.h"
 
 namespace horavex {
 
@@ -114,17 +114,6 @@ std::string SayingOf(const ListedCity& city) {
     RefuseUsage("\"" + text + "\" may be " + std::to_string(hits.size()) + " cities" + rest);
 }
 
-/// A point of the sphere as a unit vector's three parts.
-std::array<double, 3> OnSphere(double latitude, double longitude) {
-    const double north = DegToRad(latitude);
-    const double east = DegToRad(longitude);
-    return {std::cos(north) * std::cos(east), std::cos(north) * std::sin(east), std::sin(north)};
-}
-
-double Apart(const std::array<double, 3>& a, const std::array<double, 3>& b) {
-    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
-}
-
 [[noreturn]] void RefusePoint(const std::string& point) {
     RefuseUsage("--near wants degrees such as 51.5,-0.12, not \"" + point + "\"");
 }
@@ -170,15 +159,12 @@ std::int16_t CityNear(const std::string& point) {
     if (parts.size() != 2) {
         RefusePoint(point);
     }
-    const auto here = OnSphere(DegreesOf(parts[0], 90.0, point), DegreesOf(parts[1], 180.0, point));
-    const auto cities = ListCities();
-    const auto nearest = std::ranges::min_element(cities, {}, [&](const ListedCity& city) {
-        return Apart(here, OnSphere(StoredCoord(city.latitude), StoredCoord(city.longitude)));
-    });
-    if (nearest == cities.end()) {
+    const auto nearest =
+        NearestCity(DegreesOf(parts[0], 90.0, point), DegreesOf(parts[1], 180.0, point));
+    if (!nearest) {
         RefuseUsage("there is no city near \"" + point + "\"");
     }
-    return nearest->cityIndex;
+    return *nearest;
 }
 
 }  // namespace horavex

@@ -36,11 +36,12 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
         RefuseUsage("there is no folder \"" + path + "\"");
     }
     const ProgramFolder folder(session.platform.files, path, path);
-    const Platform ports{former.clock,    former.eventLoop, former.files,     folder,
-                         former.formats,  former.dialogs,   former.registry,  former.instanceGuard,
-                         former.face,     former.windows,   former.tray,      former.shell,
-                         former.network,  former.athanFace, former.audioFile, former.audioPlayer,
-                         former.zoneRules};
+    const Platform ports{
+        former.clock,     former.eventLoop,  former.files,     folder,
+        former.formats,   former.dialogs,    former.registry,  former.instanceGuard,
+        former.face,      former.windows,    former.tray,      former.shell,
+        former.network,   former.athanFace,  former.audioFile, former.audioPlayer,
+        former.zoneRules, former.whereabouts};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

@@ -10,6 +10,7 @@
 #include "desktop/ports/qt_network.h"
 #include "desktop/ports/qt_shell.h"
 #include "desktop/ports/qt_tray.h"
+#include "desktop/ports/qt_whereabouts.h"
 #include "desktop/ports/qt_windows.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
@@ -53,9 +54,11 @@ private:
     SoundFile audioFile_;
     PulsePlayer audioPlayer_;
     ZoneDatabase zoneRules_;
-    Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,  dialogs_,
-                       registry_, instanceLock_, face_,      windows_,     tray_,     shell_,
-                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_};
+    QtWhereabouts whereabouts_;
+    Platform platform_{clock_,       eventLoop_, files_,        folder_,    formats_,
+                       dialogs_,     registry_,  instanceLock_, face_,      windows_,
+                       tray_,        shell_,     network_,      athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_};
 };
 
 }  // namespace horavex

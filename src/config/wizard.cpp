@@ -10,6 +10,7 @@
 #include "config/computer_zone.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
+#include "config/wizard_city.h"
 #include "config/wizard_controls.h"
 #include "config/wizard_place.h"
 #include "config/wizard_preview.h"
@@ -25,7 +26,6 @@
 #include "store/location_record.h"
 #include "store/options.h"
 #include "store/settings_record.h"
-#include "windows/f_country.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -146,6 +146,7 @@ void frmWizard_Load() {
     ProposeDaylightDays();
     FollowCity();
     ShowCityZone();
+    OfferCities();
     CenterOnScreen(*frmWizard);
 }
 
@@ -228,20 +229,6 @@ void cmdPrev_Click() {
     }
 }
 
-void cmdSetCity_Click() {
-    if (LoadCityPicker()) {
-        fCountry->ShowModal(&*frmWizard);
-    }
-    ShowNewLocation();
-    RunStep(ShowDay);
-    const PreviewHold hold;
-    const ZoneHold zone;
-    frmWizard->txtTimeZone.SetText(HoravexMainForm->txtTimeZone.Text());
-    MoveSliders(Settings.FajrAngle, frmWizard->hsDepr, frmWizard->hsDepr1);
-    ShowCityOnWizard();
-    ShowCityZone();
-}
-
 void chkAutomaticZone_Click() {
     HoravexMainForm->chkAutomaticZone.SetValue(frmWizard->chkAutomaticZone.Value());
     const PreviewHold hold;
@@ -268,6 +255,17 @@ void ShowWizard() {
         SetDepressionLimits(Location.City.Latitude);
     }
     frmWizard->Show(&*frmMain);
+}
+
+void ShowPickOnWizard() {
+    ShowNewLocation();
+    RunStep(ShowDay);
+    const PreviewHold hold;
+    const ZoneHold zone;
+    frmWizard->txtTimeZone.SetText(HoravexMainForm->txtTimeZone.Text());
+    MoveSliders(Settings.FajrAngle, frmWizard->hsDepr, frmWizard->hsDepr1);
+    ShowCityOnWizard();
+    ShowCityZone();
 }
 
 void ShowCityOnWizard() {
@@ -300,12 +298,13 @@ void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted) {
 
 void BindWizard() {
     BindWizardControls();
+    BindWizardCity();
     WizardForm& form = *frmWizard;
     form.onLoad = frmWizard_Load;
     form.onCloseRequest = frmWizard_QueryUnload;
+    form.onUnload = StopLocating;
     form.cmdNext.onClick = cmdNext_Click;
     form.cmdPrev.onClick = cmdPrev_Click;
-    form.cmdSetCity.onClick = cmdSetCity_Click;
     form.cmdComputerZone.onClick = cmdComputerZone_Click;
     form.chkAutomaticZone.onClick = chkAutomaticZone_Click;
     form.Command3.onClick = Cancel;

@@ -16,6 +16,9 @@ void ShowWizard();
 /// saving as the settings window has them.
 void ShowCityOnWizard();
 
+/// Behind a pick: the face shows the day, and the wizard what the settings window now has.
+void ShowPickOnWizard();
+
 /// Takes a number from -12 to 11 as the zone of the working settings; anything else is refused
 /// with a message. The settings window goes up to 12. accepted: a flag.
 void CheckWizardTimeZone(const std::string& text, std::int16_t& accepted);

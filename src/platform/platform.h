@@ -14,6 +14,7 @@
 #include "platform/registry_store.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
+#include "platform/whereabouts.h"
 #include "platform/windows.h"
 #include "platform/zone_rules.h"
 
@@ -39,6 +40,7 @@ struct Platform {
     AudioFile& audioFile;
     AudioPlayer& audioPlayer;
     const ZoneRules& zoneRules;
+    Whereabouts& whereabouts;
 };
 
 /// Installs the ports; nullptr takes them away again.

@@ -65,11 +65,48 @@ public:
         {.caption = "Follow this wizard to correctly configure Horavex times", .visible = false}};
     Label lblCity{Frame2(1), "lblCity"};
     CommandButton cmdSetCity{Frame2(1), "cmdSetCity", {.caption = "&Set City"}};
+    /// The largest city of the computer's zone, and the place that the desktop's service tells.
+    CommandButton cmdMyCity{Frame2(1),
+                            "cmdMyCity",
+                            {.caption = "M&y city:",
+                             .toolTipText = "The largest city of this computer's time zone",
+                             .visible = false}};
+    CommandButton cmdLocate{
+        Frame2(1),
+        "cmdLocate",
+        {.caption = "&Locate me",
+         .toolTipText = "Asks the desktop's location service once and takes the nearest city",
+         .visible = false}};
+    Label lblLocating{
+        Frame2(1), "lblLocating", {.caption = "Asking the location service…", .visible = false}};
+    Label lblNotLocated{
+        Frame2(1),
+        "lblNotLocated",
+        {.caption = "The location service did not tell the position.", .visible = false}};
     CheckBox chkAutomaticZone{
         Frame2(1), "chkAutomaticZone", {.caption = "Time zone and daylight saving of the city"}};
     /// What was picked and is not accepted yet.
     Label lblPicked{Frame2(1), "lblPicked", {.caption = "Picked city:", .visible = false}};
     Label lblPickedCity{Frame2(1), "lblPickedCity", {.caption = "City", .visible = false}};
+
+    /// What is usual at the place, and what counts besides the angles.
+    Label lblUsual{Frame2(1), "lblUsual", {.caption = "Usual in"}};
+    Label lblNoUsual{
+        Frame2(1), "lblNoUsual", {.caption = "No usual method is known for", .visible = false}};
+    Label lblRuleMiddle{Frame2(1),
+                        "lblRuleMiddle",
+                        {.caption = "Fajr and Isha keep to their half of the night, also where the "
+                                    "sun does not sink to the angle.",
+                         .visible = false}};
+    Label lblRuleSeventh{
+        Frame2(1),
+        "lblRuleSeventh",
+        {.caption = "Beyond 48 degrees of latitude it may not get dark on summer nights: Fajr then "
+                    "comes in the last seventh of the night, Isha in the first.",
+         .visible = false}};
+    Label lblHijri{Frame2(1),
+                   "lblHijri",
+                   {.caption = "Hijri dates by the Umm al-Qura calendar.", .visible = false}};
 
     Label lblCity2{Frame2(2), "lblCity2", {.caption = "City"}};
     Label lblLocationLat{Frame2(2), "lblLocationLat"};
@@ -91,11 +128,6 @@ public:
     ScrollBar hsEnd{Frame2(3), "hsEnd", {.max = 364}};
     Label lblEnd{Frame2(3), "lblEnd"};
 
-    /// What is usual at the place, and what counts besides the angles.
-    Label lblUsual{Frame2(4), "lblUsual", {.caption = "Usual in"}};
-    Label lblNoUsual{
-        Frame2(4), "lblNoUsual", {.caption = "No usual method is known for", .visible = false}};
-
     Label lblMethod{Frame2(4), "lblMethod", {.caption = "&Method"}};
     ComboBox cboMethod{Frame2(4), "cboMethod", {.typed = false}};
     Label lblFajrAngle{Frame2(4), "lblFajrAngle", {.caption = "Fajr angle"}};
@@ -112,20 +144,6 @@ public:
     Label lblDepr1{Frame2(4), "lblDepr1"};
     Label lblInterval{
         Frame2(4), "lblInterval", {.caption = "Isha minutes after Maghrib:", .visible = false}};
-    Label lblRuleMiddle{Frame2(4),
-                        "lblRuleMiddle",
-                        {.caption = "Fajr and Isha keep to their half of the night, also where the "
-                                    "sun does not sink to the angle.",
-                         .visible = false}};
-    Label lblRuleSeventh{
-        Frame2(4),
-        "lblRuleSeventh",
-        {.caption = "Beyond 48 degrees of latitude it may not get dark on summer nights: Fajr then "
-                    "comes in the last seventh of the night, Isha in the first.",
-         .visible = false}};
-    Label lblHijri{Frame2(4),
-                   "lblHijri",
-                   {.caption = "Hijri dates by the Umm al-Qura calendar.", .visible = false}};
     ControlArray<OptionButton> optAsrRatio{
         Frame2(4),
         "optAsrRatio",

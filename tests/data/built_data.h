@@ -9,6 +9,7 @@
 #include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
+#include "platform/fixed_whereabouts.h"
 #include "platform/manual_clock.h"
 #include "platform/memory_registry.h"
 #include "platform/platform.h"
@@ -62,9 +63,11 @@ private:
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
     ZoneDatabase zoneRules_;
-    Platform platform_{clock_,    loop_,          files,      folder,       formats_,  dialogs,
-                       registry_, instanceGuard_, face_,      windows_,     tray_,     shell_,
-                       network_,  athanFace_,     audioFile_, audioPlayer_, zoneRules_};
+    FixedWhereabouts whereabouts_;  // none
+    Platform platform_{clock_,       loop_,      files,          folder,     formats_,
+                       dialogs,      registry_,  instanceGuard_, face_,      windows_,
+                       tray_,        shell_,     network_,       athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_};
 };
 
 }  // namespace horavex

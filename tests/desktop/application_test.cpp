@@ -53,11 +53,11 @@ public:
 TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
     FaultingDialogs dialogs;
     const Platform& ports = Ports();
-    const Platform faulting{ports.clock,    ports.eventLoop, ports.files,     ports.programFolder,
-                            ports.formats,  dialogs,         ports.registry,  ports.instanceGuard,
-                            ports.face,     ports.windows,   ports.tray,      ports.shell,
-                            ports.network,  ports.athanFace, ports.audioFile, ports.audioPlayer,
-                            ports.zoneRules};
+    const Platform faulting{ports.clock,     ports.eventLoop,  ports.files,     ports.programFolder,
+                            ports.formats,   dialogs,          ports.registry,  ports.instanceGuard,
+                            ports.face,      ports.windows,    ports.tray,      ports.shell,
+                            ports.network,   ports.athanFace,  ports.audioFile, ports.audioPlayer,
+                            ports.zoneRules, ports.whereabouts};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));

@@ -83,6 +83,16 @@ protected:
         WaitUntilGone(program, wizard);
     }
 
+    /// The way through by the button of the computer's own city: five presses.
+    void TakeOfferedCity(const ChildProcess& program) const {
+        const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
+        Press(wizard, {"alt+y"});
+        desktop.SaveScreen("first-run-my-city");
+        Press(wizard, {"alt+n", "alt+n", "alt+n", "alt+f"});
+        WaitForCommit();
+        WaitUntilGone(program, wizard);
+    }
+
     /// The six times on the face, as a picture's sum.
     std::string TimesOnFace(const std::string& face) const {
         const std::string picture = desktop / "times.png";
@@ -161,6 +171,29 @@ TEST_F(FirstRunTest, CityInIndonesiaWithTheComputersZone) {
     EXPECT_EQ(Stored("AI.DAT").TimeZone, 7.0);
     EXPECT_EQ(Stored("AI.DAT").DstEnabled, 0);
 }
+
+class FirstRunAtHome : public FirstRunTest,
+                       public testing::WithParamInterface<std::array<const char*, 3>> {};
+
+TEST_P(FirstRunAtHome, IsFivePressesWithTheCityOfTheComputersZone) {
+    const auto& [zone, locale, city] = GetParam();
+    LiveIn(zone);
+    desktop.variables["LC_ALL"] = locale;
+    ChildProcess program = StartProgram();
+    const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+    TakeOfferedCity(program);
+    EXPECT_EQ(TimesToday({}), TimesToday({"--city", city}));
+    EXPECT_THAT(StoredValues(), HasSubstr("Automatic Zone=1"));
+    desktop.Use({"xdotool", "windowactivate", "--sync", face});
+    LetSecondsPass(2);
+    ExpectSameAfterRestart(program, TimesOnFace(face));
+}
+
+INSTANTIATE_TEST_SUITE_P(Homes, FirstRunAtHome,
+                         testing::Values(std::array{"America/New_York", "en_US.UTF-8",
+                                                    "New York City, New York"},
+                                         std::array{"Europe/Oslo", "nb_NO.UTF-8", "Oslo, Oslo"}),
+                         [](const auto& home) { return std::string(home.param[1], 5); });
 
 TEST_F(FirstRunTest, MouseGoesThroughTheWizardToo) {
     LiveIn("EET-2EEST,M4.5.5/0,M10.5.4/24");

@@ -201,7 +201,8 @@ struct OrderTest : ProgramTest {
                          platform.athanFace,
                          platform.audioFile,
                          platform.audioPlayer,
-                         platform.zoneRules};
+                         platform.zoneRules,
+                         platform.whereabouts};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };

@@ -72,7 +72,8 @@ struct PlayerOnAServer : testing::Test {
                          former.athanFace,
                          file,
                          player,
-                         former.zoneRules};
+                         former.zoneRules,
+                         former.whereabouts};
 };
 
 TEST_F(PlayerOnAServer, WholeFileIsHeardAsItIs) {

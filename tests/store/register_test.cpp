@@ -222,7 +222,8 @@ TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
                          platform.athanFace,
                          platform.audioFile,
                          platform.audioPlayer,
-                         platform.zoneRules};
+                         platform.zoneRules,
+                         platform.whereabouts};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

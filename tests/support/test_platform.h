@@ -2,6 +2,7 @@
 
 #include "platform/failing_files.h"
 #include "platform/fixed_formats.h"
+#include "platform/fixed_whereabouts.h"
 #include "platform/fixed_zone_rules.h"
 #include "platform/manual_clock.h"
 #include "platform/memory_audio.h"
@@ -44,11 +45,12 @@ public:
     MemoryAudioFile audioFile{desktop};
     MemoryAudioPlayer audioPlayer;
     FixedZoneRules zoneRules;
+    FixedWhereabouts whereabouts;
 
 private:
-    Platform platform_{clock,    loop,          failingFiles, folder,      formats,  dialogs,
-                       registry, instanceGuard, face,         windows,     tray,     shell,
-                       network,  athanFace,     audioFile,    audioPlayer, zoneRules};
+    Platform platform_{clock,    loop,          failingFiles, folder,      formats,   dialogs,
+                       registry, instanceGuard, face,         windows,     tray,      shell,
+                       network,  athanFace,     audioFile,    audioPlayer, zoneRules, whereabouts};
 };
 
 }  // namespace horavex

@@ -144,10 +144,11 @@ TEST_F(UpdateCheckTest, AnswerIsToldBeforeLabelAndBarGo) {
         }
     } dialogs;
     const Platform& own = Ports();
-    const Platform ports{
-        own.clock,    own.eventLoop,     own.files,     own.programFolder, own.formats,  dialogs,
-        own.registry, own.instanceGuard, own.face,      own.windows,       own.tray,     own.shell,
-        own.network,  own.athanFace,     own.audioFile, own.audioPlayer,   own.zoneRules};
+    const Platform ports{own.clock,     own.eventLoop,  own.files,     own.programFolder,
+                         own.formats,   dialogs,        own.registry,  own.instanceGuard,
+                         own.face,      own.windows,    own.tray,      own.shell,
+                         own.network,   own.athanFace,  own.audioFile, own.audioPlayer,
+                         own.zoneRules, own.whereabouts};
     InstallPlatform(&ports);
     Publish("5");
     CheckForUpdate();

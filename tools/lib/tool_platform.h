@@ -2,6 +2,7 @@
 
 #include "platform/absent_desktop.h"
 #include "platform/fixed_formats.h"
+#include "platform/fixed_whereabouts.h"
 #include "platform/fixed_zone_rules.h"
 #include "platform/manual_clock.h"
 #include "platform/memory_files.h"
@@ -50,9 +51,11 @@ private:
     AbsentAudioFile audioFile_;
     AbsentAudioPlayer audioPlayer_;
     const ZoneRules& zoneRules_;
-    Platform platform_{clock_,    loop_,          files,      folder_,      formats_,  dialogs_,
-                       registry_, instanceGuard_, face_,      windows_,     tray_,     shell_,
-                       network_,  athanFace_,     audioFile_, audioPlayer_, zoneRules_};
+    FixedWhereabouts whereabouts_;  // none
+    Platform platform_{clock_,       loop_,      files,          folder_,    formats_,
+                       dialogs_,     registry_,  instanceGuard_, face_,      windows_,
+                       tray_,        shell_,     network_,       athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_};
 };
 
 }  // namespace horavex
