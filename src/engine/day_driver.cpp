@@ -20,6 +20,7 @@
 #include "engine/sun.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
+#include "engine/zone_spans.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
@@ -125,6 +126,12 @@ std::size_t RowBefore(std::size_t row) {
     return row > 0 ? row - 1 : row;
 }
 
+/// Hours that the city's clock is ahead of Greenwich, where a zone's clock counts.
+double OffsetNow(Date now) {
+    const std::vector<ZoneSpan>& zone = RuledYear.rules.moments.zone;
+    return zone.empty() ? 0.0 : SpanOfLocal(zone, now).hours;
+}
+
 }  // namespace
 
 void InstallDayHost(DayHost* newHost) {
@@ -174,9 +181,10 @@ std::optional<DayView> TakeDayView(Date now) {
     if (!row) {
         return std::nullopt;
     }
-    return MakeDayView({YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
-                        MomentsOfRow(RowBefore(*row)), RuledHijriDate(now), host->QiblaBearing()},
-                       now);
+    return MakeDayView(
+        {YearCityText, MomentsOfRow(*row), MomentsOfRow(RowAfter(*row)),
+         MomentsOfRow(RowBefore(*row)), RuledHijriDate(now), host->QiblaBearing(), OffsetNow(now)},
+        now);
 }
 
 void ShowDay() {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "base/rounding.h"
+
 namespace horavex {
 
 namespace {
@@ -30,33 +32,42 @@ std::int16_t FirstAhead(const DayMoments& day, int second) {
     return static_cast<std::int16_t>(prayer);
 }
 
-double RestOf(const Moment& moment, int second) {
-    return static_cast<double>((SecondOfMoment(moment) - second + kDay) % kDay);
+/// Now: second of the day, and offset of the clock.
+struct ClockNow {
+    int second;
+    double offset;
+};
+
+/// A clock that is put forward or back meanwhile does not count.
+double RestOf(const Moment& moment, const ClockNow& now) {
+    const int turned = NearestInt((moment.offset - now.offset) * 3600.0);
+    return static_cast<double>((SecondOfMoment(moment) - turned - now.second + kDay) % kDay);
 }
 
 /// Tomorrow's Fajr, unless it comes before midnight and is over, too.
-NextMoment TomorrowsFirst(const DayMoments& tomorrow, int second) {
-    const bool fajrIsOver = SecondOfMoment(tomorrow[kFajr]) + kDay <= second;
+NextMoment TomorrowsFirst(const DayMoments& tomorrow, const ClockNow& now) {
+    const bool fajrIsOver = SecondOfMoment(tomorrow[kFajr]) + kDay <= now.second;
     const Prayer prayer = fajrIsOver ? kZuhr : kFajr;
     NextMoment next = {static_cast<std::int16_t>(prayer), true, tomorrow[prayer],
-                       RestOf(tomorrow[prayer], second)};
+                       RestOf(tomorrow[prayer], now)};
     next.moment.dayShift = 0;  // before midnight it is still today's clock
     return next;
 }
 
 NextMoment NextOf(const DaySource& source, const std::vector<PrayerMoment>& late, Date now) {
     const int second = SecondOfDay(now);
+    const ClockNow clock = {second, source.offset};
     for (const auto& [prayer, moment] : late) {
         if (SecondOfMoment(moment) > second) {
-            return {static_cast<std::int16_t>(prayer), false, moment, RestOf(moment, second)};
+            return {static_cast<std::int16_t>(prayer), false, moment, RestOf(moment, clock)};
         }
     }
     const std::int16_t found = FirstAhead(source.today, second);
     if (found == kNoPrayerLeft) {
-        return TomorrowsFirst(source.tomorrow, second);
+        return TomorrowsFirst(source.tomorrow, clock);
     }
     const Moment& moment = source.today[static_cast<std::size_t>(found)];
-    return {found, false, moment, RestOf(moment, second)};
+    return {found, false, moment, RestOf(moment, clock)};
 }
 
 /// The moments of a neighbouring day that fall on this one, in its hours; sunrise is none.

@@ -51,6 +51,7 @@ struct DaySource {
     DayMoments yesterday;
     HijriDate hijri{};
     double qiblaDegrees = 0.0;
+    double offset = 0.0;  // of the clock now, as that of the moments
 };
 
 DayView MakeDayView(const DaySource& source, Date now);

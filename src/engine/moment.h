@@ -24,6 +24,7 @@ struct Moment {
     double hours = 0.0;  // of the local clock from the midnight that begins the day; NoEvent
     MomentBy by = MomentBy::kSun;
     int dayShift = 0;  // days from the day that it is told on to that of its clock; 0 without rules
+    double offset = 0.0;  // hours that its clock is ahead of Greenwich, where a zone's clock counts
 
     bool operator==(const Moment&) const = default;
 };

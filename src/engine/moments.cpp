@@ -14,13 +14,14 @@ namespace {
 
 constexpr double kMinutesPerHour = 60.0;
 
-/// An hour of the record's standard time on the clock of the city's own zone. The record may hold
-/// an offset that is a whole day off.
-double InZone(const std::vector<ZoneSpan>& zone, Date day, double hours, double recordZone) {
+/// Puts an hour of the record's standard time on the clock of the city's own zone. The record may
+/// hold an offset that is a whole day off.
+void PutInZone(const std::vector<ZoneSpan>& zone, Date day, double recordZone, Moment& moment) {
     const double usual = SpanAt(zone, day + (12.0 - recordZone) / 24.0).hours;
     const double standard = recordZone + 24.0 * std::round((usual - recordZone) / 24.0);
-    const double universal = hours - standard;
-    return universal + SpanAt(zone, day + universal / 24.0).hours;
+    const double universal = moment.hours - standard;
+    moment.offset = SpanAt(zone, day + universal / 24.0).hours;
+    moment.hours = universal + moment.offset;
 }
 
 int DayShiftOf(double hours) {
@@ -39,11 +40,12 @@ public:
         day[kZuhr] = {sun_.hours[kZuhr]};
         day[kAsr] = FromSun(kAsr);
         day[kMaghrib] = Maghrib();
-        day[kFajr] = Fajr(day[kShurooq]);
+        day[kFajr] = FajrOf(year_, row_);
         day[kIsha] = Isha(day[kMaghrib]);
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
             PutOnClock(day[prayer], rules_.offsets[prayer]);
         }
+        KeepOrder(day);
         return day;
     }
 
@@ -62,19 +64,19 @@ private:
         return isBehind ? moment : sunset;
     }
 
-    /// A twilight of an earlier day may lie beyond a sun that stays up longer.
-    Moment Fajr(const Moment& shurooq) const {
-        const Moment fajr = FajrOf(year_, row_);
-        const bool isLate =
-            fajr.by == MomentBy::kRule && IsEvent(shurooq.hours) && fajr.hours > shurooq.hours;
-        return isLate ? Moment{shurooq.hours, MomentBy::kRule} : fajr;
-    }
-
-    /// The same at the other end of the night.
-    Moment IshaByAngle(const Moment& maghrib) const {
-        const Moment isha = IshaOf(year_, row_);
-        const bool isEarly = isha.by == MomentBy::kRule && isha.hours < maghrib.hours;
-        return isEarly ? Moment{maghrib.hours, MomentBy::kRule} : isha;
+    /// Twilights of an earlier day, or what is added to a time, may lie beyond the sun's own day.
+    void KeepOrder(DayMoments& day) const {
+        if (rules_.highLatitude == HighLatitudeRule::kNone) {
+            return;
+        }
+        if (IsEvent(day[kFajr].hours) && day[kFajr].hours > day[kShurooq].hours) {
+            day[kFajr] = day[kShurooq];
+            day[kFajr].by = MomentBy::kRule;
+        }
+        if (day[kIsha].hours < day[kMaghrib].hours && IsEvent(day[kMaghrib].hours)) {
+            day[kIsha] = day[kMaghrib];
+            day[kIsha].by = MomentBy::kRule;
+        }
     }
 
     int IshaMinutes() const {
@@ -85,7 +87,7 @@ private:
     Moment Isha(const Moment& maghrib) const {
         const int minutes = IshaMinutes();
         if (minutes == 0) {
-            return IshaByAngle(maghrib);
+            return IshaOf(year_, row_);
         }
         const double hours = maghrib.hours + minutes / kMinutesPerHour;
         if (rules_.highLatitude == HighLatitudeRule::kNone) {
@@ -104,7 +106,7 @@ private:
         const YearInputs& inputs = year_.inputs;
         if (!rules_.zone.empty()) {
             const Date day = DateSerial(inputs.year, 1, 1) + static_cast<double>(row_);
-            moment.hours = InZone(rules_.zone, day, moment.hours, inputs.place.timeZone);
+            PutInZone(rules_.zone, day, inputs.place.timeZone, moment);
         } else if (HasDaylightHour(inputs.method, row_)) {
             moment.hours += 1.0;
         }

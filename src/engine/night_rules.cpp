@@ -107,12 +107,14 @@ std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
     return hours;
 }
 
-/// The night before a day's sunrise, or the one after its sunset.
+/// The night before a day's sunrise, or the one after its sunset; NoEvent in a year without days.
 double NightLength(const YearSource& year, std::size_t row, DayHalf half) {
     const bool isBefore = half == DayHalf::kMorning;
     const std::size_t evening = isBefore && row > 0 ? row - 1 : row;
     const std::size_t morning = isBefore ? row : std::min(row + 1, RowCount(year) - 1);
-    return SunOfDay(year, morning).hours[kShurooq] + 24.0 - SunOfDay(year, evening).hours[kMaghrib];
+    const double sunrise = SunOfDay(year, morning).hours[kShurooq];
+    const double sunset = SunOfDay(year, evening).hours[kMaghrib];
+    return IsEvent(sunrise) && IsEvent(sunset) ? sunrise + 24.0 - sunset : NoEvent;
 }
 
 double PortionOfNight(HighLatitudeRule rule, double angle) {
@@ -135,8 +137,12 @@ struct Twilight {
 
 /// The hour that a rule of portions allows at the earliest for Fajr, at the latest for the others.
 double LimitOf(const YearSource& year, std::size_t row, const Twilight& twilight) {
-    const double part = twilight.share * PortionOfNight(year.rules.highLatitude, twilight.angle) *
-                        NightLength(year, row, twilight.half);
+    const double night = NightLength(year, row, twilight.half);
+    if (!IsEvent(night)) {
+        return NoEvent;
+    }
+    const double part =
+        twilight.share * PortionOfNight(year.rules.highLatitude, twilight.angle) * night;
     const PrayerRow hours = SunOfDay(year, row).hours;
     return twilight.half == DayHalf::kMorning ? hours[kShurooq] - part : hours[kMaghrib] + part;
 }
@@ -204,7 +210,8 @@ SunDay SunOfDay(const YearSource& year, std::size_t row) {
 }
 
 double MiddleOfNight(const YearSource& year, std::size_t row) {
-    return SunOfDay(year, row).hours[kMaghrib] + NightLength(year, row, DayHalf::kEvening) / 2.0;
+    const double night = NightLength(year, row, DayHalf::kEvening);
+    return IsEvent(night) ? SunOfDay(year, row).hours[kMaghrib] + night / 2.0 : NoEvent;
 }
 
 Moment FajrOf(const YearSource& year, std::size_t row) {

@@ -37,7 +37,7 @@ SunDay SunOfDay(const YearSource& year, std::size_t row);
 
 Moment FajrOf(const YearSource& year, std::size_t row);
 
-/// The middle of the night behind a day, which no Isha passes.
+/// The middle of the night behind a day, which no Isha passes; NoEvent in a year without days.
 double MiddleOfNight(const YearSource& year, std::size_t row);
 
 /// Isha by its angle, whatever the intervals say.

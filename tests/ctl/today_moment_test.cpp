@@ -56,6 +56,14 @@ TEST(CtlTodayAt, MidnightCountsTheWholeTimeToFajr) {
     ExpectNext(At(kDay, 0), kFajr, "Fajr at " + LongTime(fajr), fajr);
 }
 
+// London's clock goes from 1:00 to 2:00 in that night.
+TEST(CtlTodayAt, HourThatIsLeftOutBeforeFajrIsNotWaitedFor) {
+    const Json next = JsonOf(Ctl(), "today --city London --at 2026-03-28T23:00:00")["next"];
+    const Json day = JsonOf(Ctl(), "today --city London --at 2026-03-29T12:00:00");
+    const int fajr = SecondOfDay(day["hours"][0].get<double>() / 24.0);
+    EXPECT_EQ(next["remainingSeconds"], fajr) << "an hour before midnight, an hour less behind it";
+}
+
 TEST(CtlTodayAt, DateAloneIsItsMidnight) {
     EXPECT_EQ(JsonOf(Ctl(), "today --at 2026-11-21"), At(kDay, 0));
 }

@@ -93,6 +93,14 @@ TEST(MakeDayView, OnlyMomentsThatCrossMidnightFallOnTheDayBeside) {
     EXPECT_TRUE(day.early.empty());
 }
 
+// The clock is put forward an hour at 1:00.
+TEST(MakeDayView, ClockThatIsTurnedBeforeTheMomentIsNoTimeToWait) {
+    DayMoments tomorrow = Moments();
+    tomorrow[kFajr] = {6.0, MomentBy::kSun, 0, 1.0};
+    const DaySource source = {"London", Moments(), tomorrow, Moments(), {}, 0.0, 0.0};
+    EXPECT_EQ(MakeDayView(source, At(23, 0, 0)).next.remainingSeconds, 6.0 * 3600.0);
+}
+
 /// A summer of high latitudes: Isha a quarter past midnight, every day alike.
 DayView ShortNightAt(int hour, int minute) {
     DayMoments moments = Moments();

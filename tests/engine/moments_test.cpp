@@ -468,6 +468,31 @@ TEST(HighLatitude, IshaBehindMidnightGoesOnInItsOwnHalfOfTheNight) {
     }
 }
 
+// At 89.5 degrees no day of the year has a sunrise and a sunset, and no portion of a night.
+TEST(HighLatitude, YearWithoutAWholeDayHasNoPortionOfItsNights) {
+    Case far = Case(89.5, 10.0, 1.0, 18.0).Rule(HighLatitudeRule::kMiddle);
+    far.rules.ishaInterval = 90;
+    const DayMoments day = far.On(6, 21);
+    EXPECT_EQ(day[kFajr].hours, NoEvent);
+    EXPECT_EQ(day[kIsha].hours, NoEvent);
+}
+
+// The margin of Maghrib alone goes beyond an Isha by a seventh of a night of a quarter of an hour.
+TEST(HighLatitude, MarginOfMaghribTakesIshaAlong) {
+    Case place = Case(65.9, 22.0, 1.0, 18.0).Rule(HighLatitudeRule::kSeventh);
+    place.rules.offsets[kMaghrib] = 7;
+    const DayMoments day = place.On(6, 13);
+    EXPECT_LE(day[kMaghrib].hours, day[kIsha].hours);
+}
+
+// 14 degrees are reached on a day without sunset, before the sunset that the day borrows.
+TEST(HighLatitude, IshaOfThePolarNightKeepsBehindABorrowedMaghrib) {
+    Case place = Case(78.2, 15.6, 1.0, 14.0).Rule(HighLatitudeRule::kMiddle);
+    place.rules.maghribAngle = 4.5;
+    const DayMoments day = place.On(1, 1);
+    EXPECT_LE(day[kMaghrib].hours, day[kIsha].hours);
+}
+
 TEST(HighLatitude, PoleItselfHasNoMomentsButZuhr) {
     Case pole = Case(90.0, 0.0, 0.0, 18.0).Rule(HighLatitudeRule::kMiddle);
     const DayMoments day = pole.On(6, 21);
