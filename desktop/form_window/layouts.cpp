@@ -9,6 +9,7 @@
 #include "ui_fMessage.h"
 #include "ui_fQibla.h"
 #include "ui_frmAbout.h"
+#include "ui_frmAdjust.h"
 #include "ui_frmAthan.h"
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
@@ -62,6 +63,7 @@ Layouts DrawnLayouts() {
         {"frmRamadan", Fill<Ui::frmRamadan>},
         {"frmWizard", Fill<Ui::frmWizard>},
         {"frmAbout", Fill<Ui::frmAbout>},
+        {"frmAdjust", Fill<Ui::frmAdjust>},
         {"frmTimes", Fill<Ui::frmTimes>},
         {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},

@@ -11,9 +11,12 @@ constexpr std::int16_t kSmallest = 4;  // degrees
 
 }  // namespace
 
+AngleLimits AngleRangeUnder(HighLatitudeRule rule, const AngleLimits& band) {
+    return rule == HighLatitudeRule::kNone ? band : AngleLimits{kLargest, band.middle, kSmallest};
+}
+
 AngleLimits AngleRange() {
-    const bool hasRule = WorkingRule() != HighLatitudeRule::kNone;
-    return hasRule ? AngleLimits{kLargest, AngleBand.middle, kSmallest} : AngleBand;
+    return AngleRangeUnder(WorkingRule(), AngleBand);
 }
 
 }  // namespace horavex

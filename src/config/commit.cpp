@@ -5,8 +5,10 @@
 #include "base/fault.h"
 #include "base/number_text.h"
 #include "base/program_state.h"
+#include "config/adjustments.h"
 #include "config/automatic_zone.h"
 #include "config/city_clock.h"
+#include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/working_options.h"
 #include "config/zone_box.h"
@@ -23,6 +25,7 @@
 #include "store/stored_values.h"
 #include "store/text_table.h"
 #include "windows/f_country.h"
+#include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -56,6 +59,7 @@ private:
         HoravexMainForm->SetEnabled(enabled);
         frmWizard->SetEnabled(enabled);
         fCountry->SetEnabled(enabled);
+        frmAdjust->SetEnabled(enabled);
     }
 
     const ZoneHold zone_;
@@ -199,6 +203,36 @@ void CommitWithOptions() {
     }
 }
 
+/// A commit behind the settings window, which keeps what it shows.
+template <class Action>
+void BehindSettingsWindow(Action commit) {
+    SettingsForm& form = *HoravexMainForm;
+    const bool wasOpen = form.Visible();
+    const std::string zone = form.txtTimeZone.Text();
+    commit();
+    form.txtTimeZone.SetText(zone);
+    form.SetVisible(wasOpen);
+}
+
+void TakeAngles(const Adjustments& adjustments) {
+    Settings.FajrAngle = adjustments.fajrAngle;
+    IshaAngle = adjustments.ishaAngle;
+}
+
+/// Refused ones give way to the accepted ones, on disk too.
+void CommitAdjustments(const Adjustments& tried) {
+    const YearOptions former = ReadRuleOptions();
+    TakeAngles(tried);
+    SaveYearOptions(tried.options);
+    Commit();
+    if (CalcFailed != 0) {
+        SaveYearOptions(former);
+        Settings.FajrAngle = ActiveSettings.FajrAngle;
+        IshaAngle = ActiveIshaAngle;
+        Store();
+    }
+}
+
 }  // namespace
 
 // An athan opens the window to the user while a commit waits, and its button stays without effect.
@@ -227,12 +261,24 @@ void SetAcceptedAgain() {
     }
     const ShutWindows shut;
     const AcceptedValues accepted;
-    SettingsForm& form = *HoravexMainForm;
-    const bool wasOpen = form.Visible();
-    const std::string zone = form.txtTimeZone.Text();
-    Commit();
-    form.txtTimeZone.SetText(zone);
-    form.SetVisible(wasOpen);
+    BehindSettingsWindow(Commit);
+}
+
+bool SetAdjustments(const Adjustments& adjustments) {
+    if (CommitIsRunning()) {
+        return false;
+    }
+    const ShutWindows shut;
+    {
+        const AcceptedValues accepted;
+        BehindSettingsWindow([&] { CommitAdjustments(adjustments); });
+    }
+    if (CalcFailed == 0) {
+        ChosenOptionsAreAccepted();
+        TakeAngles(adjustments);
+        ShowWorkingValues();
+    }
+    return CalcFailed == 0;
 }
 
 void RefreshAcceptedYear() {

@@ -1,6 +1,7 @@
 #include "config/config_room.h"
 
 #include "config/about_window.h"
+#include "config/adjustments_window.h"
 #include "config/city_choice.h"
 #include "config/help.h"
 #include "config/settings_window.h"
@@ -13,6 +14,7 @@ void BindConfigRoom() {
     BindSettingsWindow();
     BindWizard();
     BindAboutWindow();
+    BindAdjustmentsWindow();
     BindHelp();
     frmMain->mnumSettings.onClick = OpenSettings;
     frmMain->mnuChangeCity.onClick = cmdChangeCity_Click;  // shut by its definition

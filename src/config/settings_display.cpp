@@ -135,6 +135,7 @@ void TranslateSettingsWindow(std::int16_t language) {
         {&form.chkAutomaticZone, TextEntry::kZoneOfCity},
         {&form.lblMethod, TextEntry::kMethodCaption},
         {&form.fraAngles, TextEntry::kDepressionAngles},
+        {&form.cmdAdjustments, TextEntry::kAdjustments},
         {&form.chkAddToStartup, TextEntry::kStartWithSession},
         {&form.cmdDefault, TextEntry::kDefault},
         {&form.SettingsSet, TextEntry::kSet},

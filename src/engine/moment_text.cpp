@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -13,30 +14,12 @@ std::string Word(const char* key, const char* english) {
     return GetLangString("moments", key, english);
 }
 
-std::string Filled(std::string text, const std::string& place, const std::string& value) {
-    const std::size_t at = text.find(place);
-    return at == std::string::npos ? text : text.replace(at, place.size(), value);
-}
-
 bool HasDagger(const Moment& moment) {
     return moment.by == MomentBy::kRule;
 }
 
 std::string ClockText(const Moment& moment) {
     return Ports().formats.MediumTime(moment.hours / 24.0);
-}
-
-std::string RuleName(HighLatitudeRule rule) {
-    switch (rule) {
-        case HighLatitudeRule::kMiddle:
-            return Word("RuleMiddle", "middle of the night");
-        case HighLatitudeRule::kSeventh:
-            return Word("RuleSeventh", "seventh of the night");
-        case HighLatitudeRule::kAngle:
-            return Word("RuleAngle", "angle/60 of the night");
-        default:
-            return Word("RuleNearest", "nearest day");
-    }
 }
 
 bool IsOnNextDay(const Moment& moment) {
@@ -52,9 +35,9 @@ bool IsOnPreviousDay(const Moment& moment) {
 std::string WithMarks(const std::string& clock, const Moment& moment) {
     std::string text = clock;
     if (IsOnNextDay(moment)) {
-        text = Filled(Word("NextDay", "{time}, next day"), "{time}", clock);
+        text = FilledText(Word("NextDay", "{time}, next day"), "{time}", clock);
     } else if (IsOnPreviousDay(moment)) {
-        text = Filled(Word("PreviousDay", "{time}, previous day"), "{time}", clock);
+        text = FilledText(Word("PreviousDay", "{time}, previous day"), "{time}", clock);
     }
     return text + (HasDagger(moment) ? std::string(" ") + kRuleMark : "");
 }
@@ -68,13 +51,28 @@ std::string MomentCell(const Moment& moment) {
     return ClockText(moment) + shift + (HasDagger(moment) ? kRuleMark : "");
 }
 
+std::string RuleName(HighLatitudeRule rule) {
+    switch (rule) {
+        case HighLatitudeRule::kNone:
+            return Word("RuleNone", "none");
+        case HighLatitudeRule::kMiddle:
+            return Word("RuleMiddle", "middle of the night");
+        case HighLatitudeRule::kSeventh:
+            return Word("RuleSeventh", "seventh of the night");
+        case HighLatitudeRule::kAngle:
+            return Word("RuleAngle", "angle/60 of the night");
+        default:
+            return Word("RuleNearest", "nearest day");
+    }
+}
+
 std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule) {
     if (std::ranges::none_of(moments, HasDagger)) {
         return "";
     }
     const char* english =
         "Times marked \u2020 follow the high latitude rule \"{rule}\" instead of the sun's angle.";
-    return Filled(Word("RuleNote", english), "{rule}", RuleName(rule));
+    return FilledText(Word("RuleNote", english), "{rule}", RuleName(rule));
 }
 
 std::vector<std::string> ColumnNotes(std::span<const Moment> moments, HighLatitudeRule rule) {

@@ -24,6 +24,8 @@ std::string MomentText(const Moment& moment);
 /// The same in short, for columns: "12:14 AM+1†".
 std::string MomentCell(const Moment& moment);
 
+std::string RuleName(HighLatitudeRule rule);
+
 /// What the dagger means; empty where none of the moments has it.
 std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule);
 

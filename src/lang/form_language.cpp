@@ -23,7 +23,7 @@ constexpr MenuTitle kTitles[] = {{"_root.azan", "mnuAthan"},
                                  {"_root.tools", "mnuTools"},
                                  {"_root.help", "mnuHelp"}};
 
-constexpr std::string_view kRuntimePrefixes[] = {"mnuL", "lblTime"};
+constexpr std::string_view kRuntimePrefixes[] = {"mnuL", "lblTime", "lblShown"};
 
 constexpr std::string_view kRuntimeNames[] = {
     "lblLocationLat", "lblCity",  "lblLocationLon", "lblTimeZone", "lblQibla",

@@ -6,6 +6,7 @@
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
 #include "windows/frm_about.h"
+#include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
@@ -79,8 +80,17 @@ const std::vector<PackSection>& PackVocabularies() {
          {"NoTray", "BareSamples", "HelpTitle", "HelpContents", "HelpBack", "HelpForward"}},
         {"timetables", TimetableKeys()},
         {"moments",
-         {"NextDay", "PreviousDay", "NextDayNote", "PreviousDayNote", "RuleNote", "RuleMiddle",
-          "RuleSeventh", "RuleAngle", "RuleNearest"}}};
+         {"NextDay", "PreviousDay", "NextDayNote", "PreviousDayNote", "RuleNote", "RuleNone",
+          "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest"}},
+        {"adjustments",
+         {"Custom", "UsualIn", "ByAngle", "AsOtherwise", "AtSunset", "Minutes", "Arithmetic",
+          "UmmAlQura", "RuleNone", "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest",
+          "OutOfRange", "Impossible"}},
+        {"methods",
+         {"algeria",      "brunei",    "canada", "dubai",   "egypt",   "france",     "gulf",
+          "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
+          "moonsighting", "morocco",   "mwl",    "oman",    "paris",   "portugal",   "qatar",
+          "russia",       "singapore", "tehran", "tunisia", "turkey",  "umm-al-qura"}}};
     return sections;
 }
 
@@ -112,7 +122,7 @@ std::vector<PackSection> PackSections() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm, TimesForm, MonthForm>();
+                AboutForm, TimesForm, MonthForm, AdjustForm>();
 }
 
 }  // namespace horavex

@@ -20,17 +20,22 @@ AngleLimits DecodeLimits(ByteView record) {
 
 }  // namespace
 
-void LoadAngleBand(std::int16_t latitude) {
+AngleLimits BandOf(std::int16_t latitude, AngleLimits former) {
     const int distance = std::abs(int{latitude});
     const RecordFile file("Dat\\A.dat", 5);
     const std::int64_t count = file.Count();
     for (std::int64_t number = 1; number <= count; ++number) {
         const Bytes record = file.Read(number);
         if (distance <= GetInt16(record, 0)) {
-            return;
+            break;
         }
-        AngleBand = DecodeLimits(record);
+        former = DecodeLimits(record);
     }
+    return former;
+}
+
+void LoadAngleBand(std::int16_t latitude) {
+    AngleBand = BandOf(latitude, AngleBand);
 }
 
 }  // namespace horavex

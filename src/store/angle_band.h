@@ -21,8 +21,11 @@ extern AngleLimits AngleBand;
 
 /// Walks "Dat/A.dat" for a latitude in hundredths of a degree, either sign. The band is the last
 /// record whose limit lies below the latitude, not the one that covers it: a latitude of exactly
-/// a limit belongs to the band before. Below the first limit AngleBand keeps its value. Throws
+/// a limit belongs to the band before. Below the first limit the former band stays. Throws
 /// FileFault for a missing file.
+AngleLimits BandOf(std::int16_t latitude, AngleLimits former);
+
+/// Makes the band of a latitude the present one. Throws as above.
 void LoadAngleBand(std::int16_t latitude);
 
 }  // namespace horavex

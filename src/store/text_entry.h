@@ -113,10 +113,11 @@ enum class TextEntry : std::uint16_t {
     kZoneNotInDatabase = 100,
     kThisComputersClock = 101,
     kUnusableFile = 102,
+    kAdjustments = 103,
 };
 
 #pragma GCC diagnostic pop
 
-inline constexpr std::uint16_t kTextEntries = 102;
+inline constexpr std::uint16_t kTextEntries = 103;
 
 }  // namespace horavex

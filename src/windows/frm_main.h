@@ -51,6 +51,8 @@ public:
     MenuItem mnuChangeLanguage{mnuSettings, "mnuChangeLanguage", {.caption = "Language"}};
     ControlArray<MenuItem> mnuL{mnuChangeLanguage, "mnuL", {{0, {.caption = "-"}}}};
     MenuItem mnuWizard{mnuSettings, "mnuWizard", {.caption = "Configuration Wizard"}};
+    MenuItem mnuLine1{mnuSettings, "mnuLine1", {.caption = "-"}};
+    MenuItem mnuAdjustments{mnuSettings, "mnuAdjustments", {.caption = "Adjustments"}};
 
     MenuItem mnuTools{*this, "mnuTools", {.caption = "Tools"}};
     MenuItem mnuDateConversion{mnuTools, "mnuDateConversion", {.caption = "Date Conversion"}};
@@ -74,6 +76,8 @@ public:
     MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
     MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
     MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
+    MenuItem mnuLine2{mnuPopup, "mnuLine2", {.caption = "-"}};
+    MenuItem mnuPopAdjustments{mnuPopup, "mnuPopAdjustments", {.caption = "Ad&justments"}};
 };
 
 inline const FormInstance<FrmMain> frmMain;

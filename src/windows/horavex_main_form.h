@@ -56,6 +56,7 @@ public:
     Label Label6{fraAngles, "Label6"};
     Slider hsDepr21{fraAngles, "hsDepr21", {.max = 4}};
     Label lblDepr1{fraAngles, "lblDepr1"};
+    CommandButton cmdAdjustments{fraAngles, "cmdAdjustments", {.caption = "Ad&justments"}};
 
     horavex::Frame fraAsr{*this, "fraAsr", {.caption = "Asr ratio"}};
     ControlArray<OptionButton> optAsrRatio{

@@ -13,6 +13,7 @@
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
 #include "windows/frm_about.h"
+#include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_azan.h"
 #include "windows/frm_date_convert.h"
@@ -107,7 +108,8 @@ INSTANTIATE_TEST_SUITE_P(
                     []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
                     []() -> Form* { return &*NewCoordinates; },
                     []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
-                    []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; }),
+                    []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
+                    []() -> Form* { return &*frmAdjust; }),
     [](const auto& form) { return form.param()->Name(); });
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {

@@ -46,8 +46,9 @@ TEST_F(MenuTest, EntriesComeInOrderWithTheirKeysAndState) {
     frmMain->mnuPopShow.SetChecked(true);
     frmMain->mnuPopHelp.SetVisible(false);
     FillMenu(menu, frmMain->mnuPopup);
-    EXPECT_EQ(Texts(menu), (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla",
-                                        "E&xport", "&Visit Our Site", "&Email Us", "&Exit"}));
+    EXPECT_EQ(Texts(menu),
+              (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla", "E&xport",
+                           "&Visit Our Site", "&Email Us", "&Exit", "", "Ad&justments"}));
     EXPECT_FALSE(menu.actions().at(0)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isChecked());

@@ -26,6 +26,7 @@
 #include "windows/f_message.h"
 #include "windows/f_qibla.h"
 #include "windows/frm_about.h"
+#include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
@@ -120,7 +121,8 @@ private:
                 {*frmDistance, By(frmMain->mnuDistance)},
                 {*Moon_Phases, By(frmMain->mnuMoonPhases)},
                 {*frmRamadan, ShowRamadanHelp},
-                {*frmAbout, By(frmMain->mnuAbout)}};
+                {*frmAbout, By(frmMain->mnuAbout)},
+                {*frmAdjust, By(frmMain->mnuAdjustments)}};
     }
 
     static Layouts AllLayouts(QtFace& face, AzanFace& athanFace) {

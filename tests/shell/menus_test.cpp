@@ -48,14 +48,14 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuAthan), ElementsAre("mnuThanNow", "mnuExport", "mnuExit"));
     EXPECT_THAT(NamesIn(frmMain->mnuSettings),
                 ElementsAre("mnumSettings", "mnuChangeCity", "mnuAthanSettings", "mnuPrayerTimes",
-                            "mnuChangeLanguage", "mnuWizard"));
+                            "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
-    EXPECT_THAT(
-        NamesIn(frmMain->mnuPopup),
-        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
-                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopExit"));
+    EXPECT_THAT(NamesIn(frmMain->mnuPopup),
+                ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",
+                            "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS",
+                            "mnuPopExit", "mnuLine2", "mnuPopAdjustments"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {

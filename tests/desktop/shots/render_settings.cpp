@@ -1,5 +1,5 @@
-// Renders the settings window, the wizard's pages and the city picker of the whole program into
-// PNG files, to be looked at by the people who draw them:
+// Renders the settings window, the adjustments, the wizard's pages and the city picker of the whole
+// program into PNG files, to be looked at by the people who draw them:
 //
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_settings FOLDER
 //
@@ -16,11 +16,15 @@
 #include "geo/city_picker.h"
 #include "lang/language_pack.h"
 #include "shell/wiring.h"
+#include "store/city_search.h"
+#include "store/location_files.h"
+#include "store/location_record.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
 #include "windows/f_country.h"
+#include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -58,6 +62,7 @@ public:
         RenderSettings();
         RenderPicker();
         RenderWizard();
+        RenderAdjustments();
         NewCoordinates->Show();
         Save(*NewCoordinates, "coordinates");
     }
@@ -105,6 +110,22 @@ private:
                 frmWizard->cmdNext.UserClick();
             }
         }
+    }
+
+    /// In Mecca, and in a summer night of the north by a rule.
+    void RenderAdjustments() {
+        frmAdjust->Show();
+        Save(*frmAdjust, "adjustments");
+        frmAdjust->Unload();
+        platform_.clock.Set(DateSerial(2026, 6, 21) + 0.5);
+        ActiveSettings.TimeZone = 2.0;
+        ActiveSettings.CityIndex = SearchCities(ListCities(), "oslo").at(0).city->cityIndex;
+        ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
+        frmAdjust->Show();
+        frmAdjust->cboRule.UserSelect(2);
+        frmAdjust->cboMethod.UserSelect(1);
+        frmAdjust->hsOffset(5).UserSlide(5);
+        Save(*frmAdjust, "adjustments-oslo");
     }
 
     static Layouts AllLayouts(QtFace& face) {

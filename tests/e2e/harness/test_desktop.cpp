@@ -160,10 +160,9 @@ void TestDesktop::PressKey(const std::string& key) const {
     Use({"xdotool", "key", key});
 }
 
-void TestDesktop::ChooseLastEntry(const std::string& menu) const {
+void TestDesktop::ChooseEntry(const std::string& menu, int aboveTheLowerEdge) const {
     constexpr int kAcross = 30;
-    constexpr int kAboveTheLowerEdge = 12;
-    Click(menu, kAcross, PlaceOf(menu).height - kAboveTheLowerEdge);
+    Click(menu, kAcross, PlaceOf(menu).height - aboveTheLowerEdge);
 }
 
 void TestDesktop::SaveScreen(const std::string& name) const {
