@@ -44,11 +44,6 @@ bool AcceptedIsUsual() {
     return stored == usual && AcceptedAnglesAreUsual();
 }
 
-/// In the wizard of a first run, as long as nothing was accepted.
-bool IsFirstChoice() {
-    return firstRun != kFalse && frmWizard->IsLoaded() && !AnythingWasAccepted();
-}
-
 template <class Window>
 void MoveAngles(Window& form, double fajrAngle, double ishaAngle) {
     MoveSliders(fajrAngle, form.hsDepr, form.hsDepr1);
@@ -89,13 +84,19 @@ void Propose(bool isFirst) {
     SetDepressionLimits(Location.City.Latitude);
     const Authority& authority = UsualAuthority(Location.Country);
     TakeAngles(authority);
-    TakeAsrRatio(authority);
+    if (isFirst) {
+        TakeAsrRatio(authority);
+    }
     if (frmWizard->IsLoaded()) {
         SetTodayPrayerTimes();
     }
 }
 
 }  // namespace
+
+bool IsFirstChoice() {
+    return firstRun != kFalse && frmWizard->IsLoaded() && !AnythingWasAccepted();
+}
 
 void FollowUsualChoices() {
     const bool isFirst = IsFirstChoice();

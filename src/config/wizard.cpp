@@ -1,5 +1,7 @@
 #include "config/wizard.h"
 
+#include <optional>
+
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
@@ -10,6 +12,7 @@
 #include "config/computer_zone.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
+#include "config/usual_pick.h"
 #include "config/wizard_city.h"
 #include "config/wizard_controls.h"
 #include "config/wizard_place.h"
@@ -24,7 +27,6 @@
 #include "platform/platform.h"
 #include "store/angle_band.h"
 #include "store/location_record.h"
-#include "store/options.h"
 #include "store/settings_record.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
@@ -36,7 +38,18 @@ std::int16_t firstRun = kFalse;
 
 namespace {
 
-const ProgramStateReset reset([] { firstRun = kFalse; });
+/// What waited before the wizard came up.
+struct FormerChoices {
+    std::optional<YearOptions> options;
+    bool followsCity = false;
+};
+
+FormerChoices former;
+
+const ProgramStateReset reset([] {
+    firstRun = kFalse;
+    former = {};
+});
 
 constexpr std::int16_t kZonePage = 2;
 constexpr std::int16_t kLastPage = 4;
@@ -125,10 +138,26 @@ void StartOnFirstPage() {
     frmWizard->cmdPrev.SetEnabled(false);
 }
 
+void KeepFormerChoices() {
+    former = {WaitingOptions(), AutomaticZoneIsOn()};
+}
+
+/// A new user's zone follows the city. One who has picked before, or who lives by the clock of the
+/// city that stands there, need not press for what is usual.
+void ProposeOnFirstRun() {
+    if (IsFirstChoice()) {
+        ShowAutomaticZone(true);
+        if (Settings.CityIndex != ActiveSettings.CityIndex || KeepsComputersZone()) {
+            FollowUsualChoices();
+        }
+    }
+}
+
 void frmWizard_Load() {
     const PreviewHold hold;
     const ZoneHold zone;
     ForgetPreview();
+    KeepFormerChoices();
     TranslateOnLoad(*frmWizard);
     CopyLimits();
     frmWizard->label5.SetVisible(firstRun != kFalse);
@@ -144,6 +173,7 @@ void frmWizard_Load() {
     ShowCityOnWizard();
     frmWizard->lblDepr1.SetCaption(HoravexMainForm->lblDepr1.Caption());
     ProposeDaylightDays();
+    ProposeOnFirstRun();
     FollowCity();
     ShowCityZone();
     OfferCities();
@@ -168,9 +198,9 @@ void CopyAutomaticZone() {
 
 /// The proposals of a wizard that was cancelled are gone; its edits of the working settings stay.
 void GiveUpChoices() {
-    DropChosenOptions();
+    BringOptionsBack(former.options);
     SetDepressionLimits(Location.City.Latitude);
-    ShowAutomaticZone(ReadOption(option::kAutomaticZone) == 1);
+    ShowAutomaticZone(former.followsCity);
 }
 
 void Cancel() {

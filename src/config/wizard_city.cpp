@@ -1,6 +1,8 @@
 #include "config/wizard_city.h"
 
+#include <algorithm>
 #include <optional>
+#include <string>
 
 #include "base/fault.h"
 #include "base/program_state.h"
@@ -11,9 +13,11 @@
 #include "geo/city_picker.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "store/city_zones.h"
 #include "store/location_files.h"
 #include "store/location_record.h"
 #include "store/nearest_city.h"
+#include "store/settings_record.h"
 #include "windows/f_country.h"
 #include "windows/frm_wizard.h"
 
@@ -90,6 +94,13 @@ void OfferCityOfZone() {
 void OfferCities() {
     OfferCityOfZone();
     frmWizard->cmdLocate.SetVisible(Ports().whereabouts.CanLocate());
+}
+
+bool KeepsComputersZone() {
+    std::string zone;
+    RunStep([&] { zone = CityZones().Of(Settings.CityIndex); });
+    const auto names = Ports().whereabouts.ZoneNames();
+    return std::ranges::find(names, zone) != names.end();
 }
 
 void StopLocating() {

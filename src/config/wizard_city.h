@@ -8,6 +8,9 @@ namespace horavex {
 /// At the wizard's load: shows the buttons of those that there are.
 void OfferCities();
 
+/// Whether the computer goes by the zone of the working city.
+bool KeepsComputersZone();
+
 /// A question for the position that is open comes to nothing.
 void StopLocating();
 

@@ -45,6 +45,14 @@ bool OptionsAreChosen() {
     return chosen.has_value();
 }
 
+std::optional<YearOptions> WaitingOptions() {
+    return chosen;
+}
+
+void BringOptionsBack(const std::optional<YearOptions>& options) {
+    chosen = options;
+}
+
 void DropChosenOptions() {
     chosen.reset();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "config/year_options.h"
 
 namespace horavex {
@@ -20,6 +22,10 @@ void ChooseOptions(const YearOptions& options);
 
 /// True while chosen options wait.
 bool OptionsAreChosen();
+
+/// Those that wait, and their return.
+std::optional<YearOptions> WaitingOptions();
+void BringOptionsBack(const std::optional<YearOptions>& options);
 
 /// Gives up what was chosen: the stored options count again.
 void DropChosenOptions();

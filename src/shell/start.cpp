@@ -46,7 +46,6 @@ void FrmMain_Load() {
     }
     TranslateOnLoad(*frmMain);
     if (firstRun != kFalse) {
-        ShowAutomaticZone(true);  // what serves a new user
         ShowWizard();
     }
     // A second line of defence behind the settings window's own test.

@@ -160,6 +160,53 @@ TEST_F(UsualPickTest, CancelLeavesNothingChosenAndNothingTicked) {
     EXPECT_FALSE(AnyOptionIsStored()) << "the settings window knows nothing of them";
 }
 
+TEST_F(UsualPickTest, CancelledWizardThatComesUpAgainProposesForThePickedCity) {
+    Start();
+    PickInWizard("riyadh");
+    wizard.Command3.UserClick();
+    ShowWizard();
+    EXPECT_EQ(wizard.chkAutomaticZone.Value(), 1);
+    EXPECT_EQ(WorkingRules().ishaInterval, 90);
+    EXPECT_EQ(WorkingRules().hijri, HijriSource::kUmmAlQura);
+}
+
+TEST_F(UsualPickTest, CancelLeavesTheChoicesOfTheSettingsWindow) {
+    Start();
+    PickInWizard("new york");
+    Finish();
+    PickInSettings("riyadh");
+    ASSERT_EQ(WorkingRules().ishaInterval, 90);
+    ASSERT_EQ(form.chkAutomaticZone.Value(), 1);
+    ShowWizard();
+    wizard.Command3.UserClick();
+    EXPECT_EQ(WorkingRules().ishaInterval, 90);
+    EXPECT_EQ(form.chkAutomaticZone.Value(), 1);
+}
+
+TEST_F(UsualPickTest, CityThatStandsThereIsAsGoodAsPickedWhereTheComputerKeepsItsZone) {
+    platform.whereabouts.zoneNames = {"Asia/Riyadh"};
+    Start();
+    EXPECT_EQ(WorkingRules().ishaInterval, 90);
+    Finish();
+    EXPECT_EQ(ReadRuleOptions().ishaInterval, 90);
+}
+
+TEST_F(UsualPickTest, ElsewhereNothingIsProposedWithoutAPick) {
+    platform.whereabouts.zoneNames = {"Europe/London"};
+    Start();
+    EXPECT_FALSE(OptionsAreChosen());
+}
+
+TEST_F(UsualPickTest, LaterCityLeavesTheSchoolOfAsr) {
+    Start();
+    PickInWizard("karachi");
+    Finish();
+    form.optAsrRatio(1).UserClick();
+    form.SettingsSet.UserClick();
+    PickInSettings("lahore");
+    EXPECT_EQ(Settings.AsrRatio, 1.0);
+}
+
 TEST_F(UsualPickTest, CloseBoxCancelsToo) {
     Start();
     PickInWizard("oslo");
