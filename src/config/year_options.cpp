@@ -7,6 +7,7 @@
 #include "config/unusable_file.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
+#include "store/register.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -79,8 +80,17 @@ std::vector<ZoneSpan> SpansOfYear(const std::string& zone, std::int16_t year) {
     return spans;
 }
 
+/// What changes nothing is no value of the user's; one in its place is needed only in front of a
+/// machine-wide value.
 template <class Option, class Value>
-void SaveChange(const Option& option, const Value& value) {
+void SaveChange(const Option& option, const Value& value, const Value& none) {
+    if (value == ReadOption(option)) {
+        return;
+    }
+    if (value == none) {
+        std::int32_t result = 0;
+        CRegister().REGDeleteSetting(kLocalMachine, kOptionsKey, option.name, result);
+    }
     if (value != ReadOption(option)) {
         SaveOption(option, value);
     }
@@ -110,16 +120,17 @@ YearOptions ReadYearOptions(std::int16_t cityIndex) {
 }
 
 void SaveYearOptions(const YearOptions& options) {
-    SaveChange(option::kHighLatitudeRule, options.highLatitude);
-    SaveChange(option::kIshaInterval, options.ishaInterval);
-    SaveChange(option::kIshaIntervalRamadan, options.ishaIntervalRamadan);
-    SaveChange(option::kMaghribAngle, options.maghribAngle);
+    const YearOptions none;
+    SaveChange(option::kHighLatitudeRule, options.highLatitude, none.highLatitude);
+    SaveChange(option::kIshaInterval, options.ishaInterval, none.ishaInterval);
+    SaveChange(option::kIshaIntervalRamadan, options.ishaIntervalRamadan, none.ishaIntervalRamadan);
+    SaveChange(option::kMaghribAngle, options.maghribAngle, none.maghribAngle);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        SaveChange(option::kOffsets[prayer], options.offsets[prayer]);
+        SaveChange(option::kOffsets[prayer], options.offsets[prayer], none.offsets[prayer]);
     }
-    SaveChange(option::kHijriCalendar, options.hijri);
-    SaveChange(option::kHijriAdjustment, options.hijriAdjustment);
-    SaveChange(option::kSunOfTheDay, options.sunOfTheDay ? 1 : 0);
+    SaveChange(option::kHijriCalendar, options.hijri, none.hijri);
+    SaveChange(option::kHijriAdjustment, options.hijriAdjustment, none.hijriAdjustment);
+    SaveChange(option::kSunOfTheDay, options.sunOfTheDay ? 1 : 0, 0);
 }
 
 void TakeAuthority(const Authority& authority, YearOptions& options) {

@@ -32,8 +32,8 @@ YearOptions ReadRuleOptions();
 /// zones cannot be used that is told, and the record's zone counts.
 YearOptions ReadYearOptions(std::int16_t cityIndex);
 
-/// Stores them, the zone apart. Where nothing changes nothing is written: an absent value stays
-/// absent.
+/// Stores them, the zone apart. Where nothing changes nothing is written, and what changes nothing
+/// by itself becomes absent.
 void SaveYearOptions(const YearOptions& options);
 
 /// Puts what a method asks beyond its angles of Fajr and Isha in the place of the options: the

@@ -325,6 +325,8 @@ TEST_F(AdjustmentsTest, ResetLeavesNoOptionAndBothAngles) {
     EXPECT_EQ(form.lblShownFajrAngle.Caption(), "17°");
     form.cmdOK.UserClick();
     EXPECT_EQ(ReadRuleOptions(), YearOptions{});
+    EXPECT_EQ(StoredOption("Isha Interval"), "absent");
+    EXPECT_EQ(StoredOption("Offset Asr"), "absent");
 }
 
 struct RefusedAdjustmentsTest : AdjustmentsTest {
