@@ -4,7 +4,6 @@
 #include <array>
 
 #include "config/angle_range.h"
-#include "config/authorities.h"
 
 namespace horavex {
 
@@ -12,7 +11,7 @@ namespace {
 
 Method Listed(TextEntry name, const char* key) {
     const Authority& authority = *AuthorityOfKey(key);
-    return {name, authority.fajrAngle, authority.ishaAngle};
+    return {name, authority.fajrAngle, authority.ishaAngle, &authority};
 }
 
 }  // namespace

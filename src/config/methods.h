@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "config/authorities.h"
 #include "store/text_entry.h"
 
 namespace horavex {
@@ -11,6 +12,7 @@ struct Method {
     TextEntry name;
     double fajrAngle;  // degrees, in quarters
     double ishaAngle;  // likewise
+    const Authority* authority = nullptr;
 };
 
 /// The conventions in the order of the list, with the angles of their authorities. Those that

@@ -1,5 +1,6 @@
 #include "config/wizard.h"
 
+#include <cmath>
 #include <optional>
 
 #include "base/fault.h"
@@ -93,13 +94,22 @@ void SetEgyptianPresets() {
     frmWizard->txtTimeZone.SetText("+2.00");
 }
 
+/// The angle that stood before the sliders were moved to their nearest quarter.
+double Unrounded(double before, double now) {
+    return std::fabs(before - now) < 0.125 ? before : now;
+}
+
 void CopyAnglesAndZone() {
     WizardForm& form = *frmWizard;
     const SettingsForm& settings = *HoravexMainForm;
+    const double fajrAngle = Settings.FajrAngle;
+    const double ishaAngle = IshaAngle;
     form.hsDepr2.SetValue(settings.hsDepr2.Value());
     form.hsDepr21.SetValue(settings.hsDepr21.Value());
     form.hsDepr.SetValue(settings.hsDepr.Value());
     form.hsDepr1.SetValue(settings.hsDepr1.Value());
+    Settings.FajrAngle = Unrounded(fajrAngle, Settings.FajrAngle);
+    IshaAngle = Unrounded(ishaAngle, IshaAngle);
     form.txtTimeZone.SetText(settings.txtTimeZone.Text());
 }
 

@@ -29,12 +29,13 @@ std::optional<std::int16_t> offered;
 
 const ProgramStateReset reset([] { offered.reset(); });
 
-/// A pick without the picker.
+/// A pick without the picker. The keyboard goes on to the next page.
 void Take(std::int16_t cityIndex) {
     TakePickedCity(cityIndex);
     SetEgyptianAngles();
     FollowUsualChoices();
     ShowPickOnWizard();
+    frmWizard->cmdNext.SetFocus();
 }
 
 void cmdSetCity_Click() {

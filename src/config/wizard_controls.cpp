@@ -7,7 +7,9 @@
 #include "config/angle_controls.h"
 #include "config/automatic_zone.h"
 #include "config/settings_display.h"
+#include "config/wizard_place.h"
 #include "config/wizard_preview.h"
+#include "config/working_options.h"
 #include "config/zone_box.h"
 #include "store/settings_record.h"
 #include "windows/frm_wizard.h"
@@ -59,6 +61,26 @@ void txtTimeZone_KeyUp() {
     GuardZone(frmWizard->txtTimeZone, frmWizard->lastTimeZoneText);
 }
 
+/// While choices of a first run wait, another convention takes the place of the whole method.
+void TakeWholeMethod(int row) {
+    if (row > 0 && OptionsAreChosen()) {
+        YearOptions options = WorkingRules();
+        TakeAuthority(*Methods()[static_cast<std::size_t>(row - 1)].authority, options);
+        ChooseOptions(options);
+        ShowPlaceOnWizard();
+    }
+}
+
+void cboMethod_Choose() {
+    const PreviewHold hold;
+    const bool isUsers = frmWizard->cboMethod.ListIndex() != RowOfSliders(*frmWizard);
+    cboMethod_Click(*frmWizard);
+    if (isUsers) {
+        TakeWholeMethod(frmWizard->cboMethod.ListIndex());
+        SetTodayPrayerTimes();
+    }
+}
+
 /// A handler of the open wizard.
 Handler WhileOpen(Handler handler) {
     return [handler = std::move(handler)] {
@@ -93,10 +115,7 @@ void BindWizardControls() {
     BindRange(form.hsEnd, hsEnd_Change);
     BindAsrRatio();
     form.chkDayLT.onClick = WhileOpen(chkDayLT_Click);
-    form.cboMethod.onClick = WhileOpen([] {
-        const PreviewHold hold;
-        cboMethod_Click(*frmWizard);
-    });
+    form.cboMethod.onClick = WhileOpen(cboMethod_Choose);
     form.txtTimeZone.onChange = WhileOpen(txtTimeZone_Change);
     form.txtTimeZone.onGotFocus = txtTimeZone_GotFocus;
     form.txtTimeZone.onKeyUp = txtTimeZone_KeyUp;

@@ -18,10 +18,14 @@ using testing::IsEmpty;
 struct UsualPickTest : CityPickTest {
     UsualPickTest() { AddZone("Europe/Oslo", kHour); }
 
-    void Finish() {
+    void GoToAngles() {
         while (wizard.currentPage < 4) {
             wizard.cmdNext.UserClick();
         }
+    }
+
+    void Finish() {
+        GoToAngles();
         wizard.cmdNext.UserClick();
         EXPECT_THAT(platform.dialogs.messages, IsEmpty());
         EXPECT_EQ(CalcFailed, 0);
@@ -89,6 +93,22 @@ TEST_F(UsualPickTest, AnglesBetweenTheQuartersCountAsTheyAre) {
     Finish();
     EXPECT_EQ(ActiveSettings.FajrAngle, 17.7);
     EXPECT_EQ(ReadRuleOptions().maghribAngle, 4.5);
+    ShowWizard();
+    EXPECT_EQ(Settings.FajrAngle, 17.7);
+    EXPECT_EQ(wizard.lblDepr.Caption(), "degrees 17.7");
+}
+
+TEST_F(UsualPickTest, ConventionOfTheListTakesThePlaceOfTheWholeMethod) {
+    Start();
+    PickInWizard("riyadh");
+    GoToAngles();
+    wizard.cboMethod.UserSelect(2);
+    EXPECT_EQ(Settings.FajrAngle, 19.5);
+    EXPECT_EQ(IshaAngle, 17.5);
+    EXPECT_EQ(WorkingRules().ishaInterval, 0);
+    EXPECT_FALSE(wizard.lblInterval.Visible());
+    EXPECT_TRUE(wizard.hsDepr2.Enabled());
+    EXPECT_EQ(WorkingRule(), HighLatitudeRule::kMiddle) << "which is no part of a method";
 }
 
 TEST_F(UsualPickTest, SchoolOfAsrComesWithTheCountryAndGoesWithIt) {
@@ -219,9 +239,7 @@ TEST_F(UsualPickTest, CloseBoxCancelsToo) {
 TEST_F(UsualPickTest, RefusedFinishKeepsTheChoicesForAnotherTry) {
     Start();
     PickInWizard("riyadh");
-    while (wizard.currentPage < 4) {
-        wizard.cmdNext.UserClick();
-    }
+    GoToAngles();
     Settings.DstEnabled = 1;
     Settings.DstStart = 1;
     Settings.DstEnd = 900;  // no day of the year

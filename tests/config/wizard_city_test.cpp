@@ -131,6 +131,7 @@ TEST_P(FiveClicksTest, LeadToTheRightFace) {
     Start();
     EXPECT_EQ(wizard.cmdMyCity.Caption(), std::string("M&y city: ") + GetParam().city);
     wizard.cmdMyCity.UserClick();
+    EXPECT_TRUE(wizard.cmdNext.HasFocus());
     for (int click = 0; click < 4; ++click) {
         wizard.cmdNext.UserClick();
     }
