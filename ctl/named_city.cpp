@@ -8,6 +8,7 @@
 #include "base/int16.h"
 #include "base/text.h"
 #include "ctl/command.h"
+#include "ctl/country_codes.h"
 #include "ctl/plain_text.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
@@ -40,13 +41,15 @@ CityWords WordsOf(std::string text) {
     return words;
 }
 
-/// True for a city whose province or country each of the areas is, or begins.
+/// True for a city whose province or country each of the areas is, or begins; wholly a country's
+/// code counts, too.
 bool LiesIn(const ListedCity& city, const std::vector<std::string>& areas, bool wholly) {
     const std::string names[] = {FoldForSearch(city.province), FoldForSearch(city.country)};
     return std::ranges::all_of(areas, [&](const std::string& area) {
-        return std::ranges::any_of(names, [&](const std::string& name) {
-            return wholly ? name == area : name.starts_with(area);
-        });
+        return (wholly && CountryOfCode(area) == city.country) ||
+               std::ranges::any_of(names, [&](const std::string& name) {
+                   return wholly ? name == area : name.starts_with(area);
+               });
     });
 }
 
@@ -96,6 +99,15 @@ std::vector<CityHit> EquallyGood(const std::vector<CityHit>& hits, const std::st
     return equal;
 }
 
+/// True where the best known of them alone is written as typed, accents and all: Apia in Samoa
+/// stands before Apía in Colombia.
+bool FirstIsMeant(const std::vector<CityHit>& equal, const std::string& name) {
+    const auto isAsTyped = [&](const CityHit& hit) {
+        return EqualsIgnoringCase(hit.city->name, name);
+    };
+    return isAsTyped(equal.front()) && std::ranges::count_if(equal, isAsTyped) == 1;
+}
+
 std::string SayingOf(const ListedCity& city) {
     const std::string province = city.province.empty() ? "" : ", " + city.province;
     return "  --city \"" + city.name + province + ", " + city.country + "\" or --city-index " +
@@ -137,7 +149,7 @@ std::int16_t CityOfText(const std::string& text) {
         RefuseUsage("no city matches \"" + text + "\"");
     }
     const auto equal = EquallyGood(hits, words.name);
-    if (equal.size() > 1) {
+    if (equal.size() > 1 && !FirstIsMeant(equal, words.name)) {
         RefuseShared(text, equal);
     }
     return equal.front().city->cityIndex;

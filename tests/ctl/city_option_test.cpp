@@ -1,6 +1,8 @@
 #include <algorithm>
 
+#include "base/text.h"
 #include "ctl/ctl_json.h"
+#include "support/build_folder.h"
 
 namespace horavex {
 namespace {
@@ -42,6 +44,33 @@ TEST(CtlCity, ClockIsItsOwnNow) {
     EXPECT_EQ(east["timeZone"]["offset"].get<double>() - west["timeZone"]["offset"].get<double>(),
               24.0);
     EXPECT_NE(east["date"], west["date"]);
+}
+
+TEST(CtlCity, BestKnownIsMeantWhereItAloneIsWrittenAsTyped) {
+    EXPECT_THAT(JsonOf(Ctl(), "today --city Apia")["city"].get<std::string>(),
+                testing::EndsWith("Samoa"));
+    EXPECT_EQ(Ctl().Run("today --city Merida").status, 2) << "in Mexico, Venezuela, Spain";
+}
+
+TEST(CtlCity, CountryMayBeSaidByItsCodeOrAUsualAbbreviation) {
+    const auto cityOf = [](const std::string& text) {
+        return JsonOf(Ctl(), "today --city", {text})["city"].get<std::string>();
+    };
+    EXPECT_THAT(cityOf("Birmingham, UK"), testing::EndsWith("United Kingdom"));
+    EXPECT_THAT(cityOf("Birmingham, us"), testing::EndsWith("United States"));
+    EXPECT_THAT(cityOf("Birmingham, Alabama, USA"), testing::EndsWith("United States"));
+    EXPECT_THAT(cityOf("Paris, FR"), testing::EndsWith("France"));
+}
+
+TEST(CtlCity, CodesAreThoseOfTheGazetteer) {
+    const std::string codes = ContentOf(SourcePath("ctl/country_codes.cpp"));
+    const auto rows = Split(ContentOf(SourcePath("data/gazetteer/countries.tsv")), '\n');
+    ASSERT_GT(rows.size(), 200U);
+    for (std::size_t row = 1; row + 1 < rows.size(); ++row) {
+        const auto fields = Split(rows[row], '\t');
+        EXPECT_NE(codes.find("{\"" + fields[0] + "\", \"" + fields[1] + "\"}"), std::string::npos)
+            << rows[row];
+    }
 }
 
 TEST(CtlCity, WhatIsGivenByHandReplacesJustThat) {
