@@ -20,15 +20,17 @@ namespace {
 // so that their buttons stand close together above that line.
 constexpr QRect kFace(0, 0, 420, 420);
 constexpr QRect kClock(20, 12, 84, 84);
-constexpr QRect kDay(116, 12, 234, 32);
-constexpr QRect kDate(116, 44, 234, 24);
-constexpr QRect kHijriDate(116, 68, 234, 24);
+constexpr QRect kDay(116, 6, 234, 28);
+constexpr QRect kDate(116, 34, 234, 22);
+constexpr QRect kHijriDate(116, 56, 234, 22);
+constexpr QRect kPlace(116, 78, 234, 22);
 constexpr QRect kMinimise(356, 10, 26, 26);
 constexpr QRect kClose(384, 10, 26, 26);
 constexpr QRect kMenuBand(1, 104, 418, 31);
 constexpr QRect kMenu(50, 105, 350, 29);
-constexpr QRect kNext(28, 146, 364, 24);
-constexpr QRect kRemaining(28, 170, 364, 32);
+constexpr QRect kNext(28, 139, 364, 24);
+constexpr QRect kRemaining(28, 163, 364, 28);
+constexpr QRect kClocks(28, 191, 364, 18);
 constexpr QRect kTimesCard(16, 212, 240, 194);
 constexpr QRect kTimes(22, 218, 228, 150);
 constexpr QRect kAllTimes(26, 372, 220, 28);
@@ -42,6 +44,8 @@ constexpr const char* kNextPrayer = "_root.sNextPrayer";
 constexpr const char* kRemainingTime = "_root.sNextRemaining";
 
 const TextLine::Look kDateLook{15, kCream, Qt::AlignCenter};
+const TextLine::Look kPlaceLook{13, kGold, Qt::AlignCenter};
+const TextLine::Look kClocksLook{12, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kNextLook{16, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kRemainingLook{24, kGold, Qt::AlignLeading | Qt::AlignVCenter};
 
@@ -97,8 +101,10 @@ void FaceView::MakeButtons() {
 void FaceView::MakeTexts() {
     date_ = Place(new TextLine(this, kDateLook), kDate);
     hijriDate_ = Place(new TextLine(this, kDateLook), kHijriDate);
+    place_ = Place(new TextLine(this, kPlaceLook), kPlace);
     next_ = Place(new TextLine(this, kNextLook), kNext);
     remaining_ = Place(new TextLine(this, kRemainingLook), kRemaining);
+    clocks_ = Place(new TextLine(this, kClocksLook), kClocks);
     times_ = Place(new TimesView(this), kTimes);
     times_->setObjectName(QStringLiteral("times"));
     compass_ = Place(new Compass(this), kCompass);
@@ -182,6 +188,11 @@ void FaceView::ShowRemaining() {
 
 void FaceView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next) {
     times_->ShowTimes(rows, next);
+}
+
+void FaceView::ShowPlace(const QString& place, const QString& clocks) {
+    place_->ShowText(place);
+    clocks_->ShowText(clocks);
 }
 
 void FaceView::ExplainTimes(const QString& note) {

@@ -37,6 +37,9 @@ public:
     /// The six times of the day, and which of them comes next.
     void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
+    /// The place of the day, and a line on the clocks where two are told.
+    void ShowPlace(const QString& place, const QString& clocks);
+
     /// What the marks beside the times mean, for whoever points at them; empty without marks.
     void ExplainTimes(const QString& note);
 
@@ -92,8 +95,10 @@ private:
 
     TextLine* date_;
     TextLine* hijriDate_;
+    TextLine* place_;
     TextLine* next_;
     TextLine* remaining_;
+    TextLine* clocks_;
     TimesView* times_;
     Compass* compass_;
 };

@@ -26,6 +26,7 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {
         view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
+        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(day.clocks));
         view->ExplainTimes(
             QString::fromStdString(RuleNote(day.moments, RuledYear.rules.moments.highLatitude)));
     }

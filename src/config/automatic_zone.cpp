@@ -5,6 +5,7 @@
 
 #include "base/program_state.h"
 #include "base/rounding.h"
+#include "base/script.h"
 #include "config/city_clock.h"
 #include "config/zone_controls.h"
 #include "platform/platform.h"
@@ -39,11 +40,7 @@ std::string ClockNote() {
     const Date today = Ports().clock.Today();
     const auto city = AutomaticZoneIsOn() ? CityHoursOn(Settings.CityIndex, today) : std::nullopt;
     const double here = Ports().clock.OffsetOn(today).hours;
-    if (!city || *city == here) {
-        return {};
-    }
-    return TextItem(TextEntry::kThisComputersClock, Settings.Language) + ": " +
-           UtcOffsetText(here) + "; " + Location.City.Name + ": " + UtcOffsetText(*city);
+    return city ? ClocksText(here, *city, Location.City.Name, Settings.Language) : "";
 }
 
 void ShowClocks() {
@@ -75,6 +72,15 @@ std::string UtcOffsetText(double hours) {
     text += std::to_string(minutes / 60);
     const int rest = minutes % 60;
     return rest == 0 ? text : text + (rest < 10 ? ":0" : ":") + std::to_string(rest);
+}
+
+std::string ClocksText(double here, double there, const std::string& city, std::int16_t language) {
+    if (here == there) {
+        return {};
+    }
+    const std::string words = TextItem(TextEntry::kThisComputersClock, language);
+    return words + ": " + KeptTogether(UtcOffsetText(here), words) + "; " +
+           KeptTogether(city + ": " + UtcOffsetText(there), words);
 }
 
 bool AutomaticZoneIsOn() {

@@ -36,6 +36,10 @@ public:
 /// "UTC-5", "UTC+5:45". hours: ahead of Greenwich.
 std::string UtcOffsetText(double hours);
 
+/// Both offsets in one line: "This computer's clock: UTC-5; Cairo: UTC+2". Empty where they are the
+/// same. language: of the text table.
+std::string ClocksText(double here, double there, const std::string& city, std::int16_t language);
+
 /// Binds the box of the settings window.
 void BindAutomaticZone();
 

@@ -38,6 +38,8 @@ struct DayView {
     NextMoment next;            // from now on
     double qiblaDegrees = 0.0;  // from north, positive to the east
 
+    std::string clocks;  // both offsets in words where this computer's clock is another
+
     // Moments of the days beside it that the clock reaches on this one, in its own hours, in order.
     std::vector<PrayerMoment> late;   // of the day before, past midnight
     std::vector<PrayerMoment> early;  // of the day after, before midnight

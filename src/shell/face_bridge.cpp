@@ -8,6 +8,7 @@
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "shell/close_face.h"
+#include "shell/face_place.h"
 #include "shell/menus.h"
 #include "windows/frm_main.h"
 
@@ -82,7 +83,10 @@ void SetFlashVariables() {
     }
     const CalendarScope gregorian(kGregorianCalendar);
     SetGregorianDate();
-    Ports().face.ShowDay(ShownDay);
+    DayView day = ShownDay;
+    day.place = PlaceOfFace();
+    day.clocks = ClocksOfFace();
+    Ports().face.ShowDay(day);
 }
 
 void OnFaceCommand(const std::string& command) {

@@ -8,8 +8,8 @@ namespace horavex {
 // variables and commands are a wire format; what renders them is nobody's business here.
 
 /// Hands the face its eleven values, in order: the Hijri date, the next prayer, the remaining
-/// time, all times, the compass, the Gregorian date. Once a tick; nothing is compared with what
-/// was sent before.
+/// time, all times, the compass, the Gregorian date; then the day as a value. Once a
+/// tick; nothing is compared with what was sent before.
 void SetFlashVariables();
 
 /// Does what a command of the face asks for; its case counts, and an unknown one is ignored.

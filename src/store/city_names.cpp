@@ -3,6 +3,7 @@
 #include "base/fault.h"
 #include "platform/platform.h"
 #include "store/line_file.h"
+#include "store/location_files.h"
 
 namespace horavex {
 
@@ -21,6 +22,13 @@ std::vector<std::string> ReadOtherNames(std::int64_t cityCount) {
         throw BoundsFault(std::string(kNames) + ": not one line for each city");
     }
     return lines;
+}
+
+std::string OtherNamesOf(std::int16_t cityIndex) {
+    OpenCityFiles();
+    const std::int64_t count = CityCount();
+    CloseCityFiles();
+    return ReadOtherNames(count).at(static_cast<std::size_t>(cityIndex - kFirstCityIndex));
 }
 
 }  // namespace horavex

@@ -12,4 +12,7 @@ namespace horavex {
 /// of cityCount cities.
 std::vector<std::string> ReadOtherNames(std::int64_t cityCount);
 
+/// Those of one city, which is in the files. Throws as the above and as the readers of these.
+std::string OtherNamesOf(std::int16_t cityIndex);
+
 }  // namespace horavex

@@ -80,8 +80,8 @@ TEST_F(FaceTest, VariablesBeforeTheLoadAreDropped) {
 TEST_F(FaceTest, EachVariableShows) {
     face.LoadMovie(0, "");
     TellEnglish(face);
-    EXPECT_EQ(Lines(), (QStringList{"21 November 2026", "11 Jamad Thani 1448",
-                                    "Next Athan: Asr at 2:36:00 PM", "Remaining: 2:36:0"}));
+    EXPECT_EQ(Lines(), (QStringList{"21 November 2026", "11 Jamad Thani 1448", "",
+                                    "Next Athan: Asr at 2:36:00 PM", "Remaining: 2:36:0", ""}));
     EXPECT_EQ(Button("IDC_FS_Day").text(), "Saturday");
     EXPECT_EQ(window.findChild<QWidget*>("compass")->accessibleName(), "136°");
     EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith(
@@ -112,6 +112,16 @@ TEST_F(FaceTest, MarkedTimesAreExplainedToWhoeverPointsAtThem) {
     face.ShowDay(day);
     EXPECT_TRUE(times.accessibleName().endsWith("Isha 12:15 AM, next day \u2020"));
     EXPECT_TRUE(times.toolTip().contains("seventh of the night"));
+}
+
+TEST_F(FaceTest, PlaceAndClocksHaveTheirLines) {
+    face.LoadMovie(0, "");
+    DayView day;
+    day.place = "Oslo - Norway";
+    day.clocks = "This computer's clock: UTC-5; Oslo: UTC+2";
+    face.ShowDay(day);
+    EXPECT_EQ(Lines().at(2), "Oslo - Norway");
+    EXPECT_EQ(Lines().at(5), "This computer's clock: UTC-5; Oslo: UTC+2");
 }
 
 TEST_F(FaceTest, DayBeforeTheLoadIsDropped) {

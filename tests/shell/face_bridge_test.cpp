@@ -1,7 +1,9 @@
 #include "shell/face_bridge.h"
 
+#include "base/script.h"
 #include "calendar/current_calendar.h"
 #include "engine/day_driver.h"
+#include "engine/ruled_year.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "store/location_record.h"
@@ -47,6 +49,29 @@ TEST_F(FaceBridgeTest, DayFollowsTheVariablesAsAValue) {
     };
     ShowDay();
     EXPECT_THAT(variablesBefore, ElementsAre(11U));
+}
+
+TEST_F(FaceBridgeTest, PlaceHasItsOwnNameInTheScriptOfThePackAndClocksAreToldWhereTheyDiffer) {
+    DayView day;
+    platform.face.onShowDay = [&](const DayView& shown) { day = shown; };
+    SetFlashVariables();
+    EXPECT_EQ(day.place, ActiveCityText);
+    EXPECT_EQ(day.clocks, "");
+    currentLanguage = "Arabic";
+    RuledYear.rules.moments.zone = {{DateSerial(2025, 12, 30), 9.5, false}};
+    SetFlashVariables();
+    EXPECT_THAT(day.place, testing::EndsWith(" \u00b7 " + ActiveCityText));
+    EXPECT_EQ(ScriptOf(day.place), ScriptOf("\u0645"));
+    EXPECT_THAT(day.clocks, testing::EndsWith(ActiveLocation.City.Name + ": UTC+9:30"));
+}
+
+TEST_F(FaceBridgeTest, PlaceByCoordinatesHasNoOtherName) {
+    DayView day;
+    platform.face.onShowDay = [&](const DayView& shown) { day = shown; };
+    currentLanguage = "Arabic";
+    ActiveCityText = ActiveLocation.City.Name = "My house";
+    SetFlashVariables();
+    EXPECT_EQ(day.place, "My house");
 }
 
 TEST_F(FaceBridgeTest, CalendarIsAsItWasAfterwards) {
