@@ -6,9 +6,11 @@
 #include "base/rounding.h"
 #include "ctl/place_options.h"
 #include "engine/current_year.h"
+#include "engine/moment_text.h"
 #include "engine/moments.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
+#include "store/around_options.h"
 #include "store/settings_record.h"
 #include "timetables/timetable.h"
 
@@ -100,6 +102,19 @@ Json MomentsJson(Date day, const DayMoments& moments) {
                          {"by", WordOf(moments[prayer].by)}});
     }
     return array;
+}
+
+void AddAround(Json& object, Date day) {
+    if (ReadOption(option::kAroundTheDay) == 0) {
+        return;
+    }
+    const auto row = static_cast<std::size_t>(day - DateSerial(CurrentYear, 1, 1));
+    const AroundMoments around = AroundOfRow(row);
+    object["around"] = Json::array();
+    for (std::size_t time = 0; time < kAroundCount; ++time) {
+        object["around"].push_back(
+            {{"time", kAroundKeys[time]}, {"local", LocalJson(day, around[time].hours)}});
+    }
 }
 
 void AddYearBasis(Json& object) {

@@ -18,6 +18,9 @@ std::string BasisText(Date now);
 /// The moments of a day, each with the date and the offset that its clock shows then.
 Json MomentsJson(Date day, const DayMoments& moments);
 
+/// "around" with the times around a day of the calculated year, where an option asks for them.
+void AddAround(Json& object, Date day);
+
 /// AddBasis at the first day of the calculated year, and "moments" with those of every day; null
 /// for a year that gave up.
 void AddYearBasis(Json& object);

@@ -88,6 +88,7 @@ Json DayJson(const DayView& day) {
                  {"failure", FailureJson()}};
     AddBasis(json, day.now);
     json["moments"] = MomentsJson(day.date, day.moments);
+    AddAround(json, day.date);
     return json;
 }
 

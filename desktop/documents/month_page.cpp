@@ -25,10 +25,9 @@ constexpr double kCellPadding = 3.0;
 constexpr double kFootLines = 5.0;
 
 constexpr int kFriday = 5;
-constexpr int kColumns = 2 + static_cast<int>(kPrayerCount);
-
-// Shares of the width: the day, the Hijri date, the six times.
-constexpr double kShares[kColumns] = {1.5, 2.0, 1.0, 1.0, 1.0, 1.0, 1.0, 1.0};
+// Shares of the width: the day and the Hijri date, beside 1 for each of the six times.
+constexpr double kDates[] = {1.5, 2.0};
+constexpr double kUsualColumns = 8.0;
 
 const QColor kInk(0x1a, 0x1f, 0x26);
 const QColor kAccent(0x1e, 0x48, 0x76);
@@ -117,7 +116,7 @@ private:
     }
 
     /// In smaller type where it is too wide.
-    void WriteFitted(const QRectF& box, const QString& text) {
+    void WriteFitted(const QRectF& box, const QString& text, const QColor& colour = kInk) {
         const QFont font = painter_.font();
         const double width = QFontMetricsF(font).horizontalAdvance(text);
         if (width > box.width()) {
@@ -125,7 +124,7 @@ private:
             smaller.setPixelSize(static_cast<int>(font.pixelSize() * box.width() / width));
             painter_.setFont(smaller);
         }
-        Write(box, text);
+        Write(box, text, colour);
         painter_.setFont(font);
     }
 
@@ -172,16 +171,21 @@ private:
         top_ += LineHeight(kTextSize) / 2.0;
     }
 
+    /// Dates keep their part of the page where more times share the rest.
+    double ShareOf(int column) const {
+        return column < 2 ? kDates[column] * columns_ / kUsualColumns : 1.0;
+    }
+
     QRectF Cell(int column, double height) const {
         double before = 0.0;
         double all = 0.0;
-        for (int i = 0; i < kColumns; ++i) {
-            before += i < column ? kShares[i] : 0.0;
-            all += kShares[i];
+        for (int i = 0; i < columns_; ++i) {
+            before += i < column ? ShareOf(i) : 0.0;
+            all += ShareOf(i);
         }
         const double padding = kCellPadding * point_;
         return {area_.left() + area_.width() * before / all + padding, top_,
-                area_.width() * kShares[column] / all - padding, height};
+                area_.width() * ShareOf(column) / all - padding, height};
     }
 
     void DrawRule(const QColor& colour, double width) {
@@ -194,9 +198,9 @@ private:
         const double height = LineHeight(kTextSize) * 1.2;
         Write(Cell(0, height), Text(Words().day), kAccent);
         Write(Cell(1, height), Text(Words().hijri), kAccent);
-        for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
-            Write(Cell(2 + prayer, height),
-                  Text(Words().prayers.at(static_cast<std::size_t>(prayer))), kAccent);
+        int column = 2;
+        for (const std::string& name : Words().Heads(days_.front())) {
+            WriteFitted(Cell(column++, height), Text(name), kAccent);
         }
         top_ += height;
         DrawRule(kAccent, 1.0);
@@ -226,10 +230,9 @@ private:
         Write(Cell(0, height),
               QString::number(number) + QChar(u' ') + Text(Words().WeekdayOf(day.date)) + mark);
         Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
-        for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
-            if (const auto& moment = day.moments.at(static_cast<std::size_t>(prayer))) {
-                WriteFitted(Cell(2 + prayer, height), Text(MomentCell(*moment)));
-            }
+        int column = 2;
+        for (const auto& moment : day.Columns()) {
+            WriteFitted(Cell(column++, height), moment ? Text(MomentCell(*moment)) : QString());
         }
     }
 
@@ -255,6 +258,7 @@ private:
     const PrintedYear& year_;
     int month_;
     std::vector<TimetableDay> days_;
+    int columns_ = 2 + static_cast<int>(days_.front().Columns().size());
     double top_ = area_.top();  // where the next line begins
 };
 

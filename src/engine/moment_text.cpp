@@ -66,6 +66,11 @@ std::string RuleName(HighLatitudeRule rule) {
     }
 }
 
+std::string AroundName(std::size_t time) {
+    constexpr const char* kEnglish[] = {"Imsak", "Duha", "Mid-night", "Last third"};
+    return Word(kAroundKeys.at(time), kEnglish[time]);
+}
+
 std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule) {
     if (std::ranges::none_of(moments, HasDagger)) {
         return "";

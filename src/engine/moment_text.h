@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "engine/around_day.h"
 #include "engine/moment.h"
 #include "store/options.h"
 
@@ -25,6 +27,13 @@ std::string MomentText(const Moment& moment);
 std::string MomentCell(const Moment& moment);
 
 std::string RuleName(HighLatitudeRule rule);
+
+/// The keys of the times around a day, by AroundTime, for packs and files.
+inline constexpr std::array<const char*, kAroundCount> kAroundKeys = {"Imsak", "Duha",
+                                                                      "MiddleOfNight", "LastThird"};
+
+/// The name of such a time.
+std::string AroundName(std::size_t time);
 
 /// What the dagger means; empty where none of the moments has it.
 std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule);

@@ -3,16 +3,20 @@
 #include <cmath>
 
 #include "base/rounding.h"
+#include "engine/around_day.h"
+#include "engine/current_year.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
 #include "engine/zone_spans.h"
+#include "store/around_options.h"
 
 namespace horavex {
 
 namespace {
 
 constexpr double kMinutesPerHour = 60.0;
+constexpr double kDuhaDelay = 0.25;  // hours
 
 /// Puts an hour of the record's standard time on the clock of the city's own zone. The record may
 /// hold an offset that is a whole day off.
@@ -35,13 +39,7 @@ public:
         : year_(year), rules_(year.rules), row_(row), sun_(SunOfDay(year, row)) {}
 
     DayMoments Make() const {
-        DayMoments day{};
-        day[kShurooq] = FromSun(kShurooq);
-        day[kZuhr] = {sun_.hours[kZuhr]};
-        day[kAsr] = FromSun(kAsr);
-        day[kMaghrib] = Maghrib();
-        day[kFajr] = FajrOf(year_, row_);
-        day[kIsha] = Isha(day[kMaghrib]);
+        DayMoments day = Standard();
         for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
             PutOnClock(day[prayer], rules_.offsets[prayer]);
         }
@@ -49,7 +47,43 @@ public:
         return day;
     }
 
+    /// night: the length of the one behind the day, hours.
+    AroundMoments Around(double night, int imsakMinutes) const {
+        const DayMoments day = Standard();
+        AroundMoments around = {
+            Behind(day, kFajr, -imsakMinutes / kMinutesPerHour), Behind(day, kShurooq, kDuhaDelay),
+            Behind(day, kMaghrib, night / 2.0), Behind(day, kMaghrib, night * 2.0 / 3.0)};
+        for (Moment& moment : around) {
+            PutOnClock(moment, 0);
+        }
+        return around;
+    }
+
+    /// An hour with the minutes that the rules add, of the record's standard time.
+    double StandardHour(Prayer prayer) const {
+        return Standard()[prayer].hours + rules_.offsets[prayer] / kMinutesPerHour;
+    }
+
 private:
+    /// Of the record's standard time, without the minutes that the rules add.
+    DayMoments Standard() const {
+        DayMoments day{};
+        day[kShurooq] = FromSun(kShurooq);
+        day[kZuhr] = {sun_.hours[kZuhr]};
+        day[kAsr] = FromSun(kAsr);
+        day[kMaghrib] = Maghrib();
+        day[kFajr] = FajrOf(year_, row_);
+        day[kIsha] = Isha(day[kMaghrib]);
+        return day;
+    }
+
+    Moment Behind(const DayMoments& day, Prayer prayer, double hours) const {
+        const Moment& start = day[prayer];
+        const bool isByRule = start.by == MomentBy::kRule;
+        return {start.hours + rules_.offsets[prayer] / kMinutesPerHour + hours,
+                isByRule ? MomentBy::kRule : MomentBy::kInterval};
+    }
+
     Moment FromSun(Prayer prayer) const {
         return {sun_.hours[prayer], sun_.borrowed ? MomentBy::kRule : MomentBy::kSun};
     }
@@ -135,6 +169,19 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row) {
         return TableMoments(RowOf(year.times, row));
     }
     return DayMaker(year, row).Make();
+}
+
+AroundMoments AroundOf(const YearSource& year, std::size_t row, int imsakMinutes) {
+    const std::size_t last = 364U + static_cast<std::size_t>(LeapFlagOf(year.inputs.year));
+    const std::size_t evening = row < last ? row : row - 1;
+    const double night = DayMaker(year, evening + 1).StandardHour(kFajr) + 24.0 -
+                         DayMaker(year, evening).StandardHour(kMaghrib);
+    return DayMaker(year, row).Around(night, imsakMinutes);
+}
+
+AroundMoments AroundOfRow(std::size_t row) {
+    return AroundOf({RuledYear.inputs, Times, RuledYear.rules.moments}, row,
+                    ReadOption(option::kImsakMinutes));
 }
 
 DayMoments MomentsOfRow(std::size_t row) {

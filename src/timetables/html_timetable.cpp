@@ -100,10 +100,10 @@ std::string HeadCell(const std::string& text) {
     return "<th scope=\"col\">" + Escaped(text) + "</th>";
 }
 
-std::string TableHead(const TimetableWords& words) {
+std::string TableHead(const TimetableDay& day, const TimetableWords& words) {
     std::string cells = HeadCell(words.day) + HeadCell(words.hijri);
-    for (const std::string& prayer : words.prayers) {
-        cells += HeadCell(prayer);
+    for (const std::string& name : words.Heads(day)) {
+        cells += HeadCell(name);
     }
     return "<thead><tr>" + cells + "</tr></thead>\n";
 }
@@ -128,7 +128,7 @@ std::string Row(const TimetableDay& day, const TimetableWords& words, Date today
     const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
     std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
                         mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
-    for (const auto& moment : day.moments) {
+    for (const auto& moment : day.Columns()) {
         cells += TimeCell(day, moment);
     }
     return "<tr" + RowAttributes(day, today) + ">" + cells + "</tr>\n";
@@ -158,7 +158,7 @@ std::string Month(const Timetable& table, const TimetableWords& words, int month
         rows += Row(day, words, today);
     }
     return "<section id=\"" + MonthId(month) + "\">\n<div class=\"wide\"><table>\n<caption>" +
-           title + "</caption>\n" + TableHead(words) + "<tbody>\n" + rows +
+           title + "</caption>\n" + TableHead(days.front(), words) + "<tbody>\n" + rows +
            "</tbody></table></div>\n" + Footnotes(table, days, words) + "</section>\n";
 }
 

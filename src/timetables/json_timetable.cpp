@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <string_view>
 
+#include "engine/moment_text.h"
+
 namespace horavex {
 
 namespace {
@@ -112,12 +114,23 @@ std::string MomentsArray(const Timetable& table, const TimetableDay& day) {
     return "[" + items + "]";
 }
 
+std::string AroundArray(const Timetable& table, const TimetableDay& day) {
+    std::string items;
+    for (std::size_t time = 0; time < day.around.size(); ++time) {
+        const auto& moment = day.around[time];
+        items += (time == 0 ? "{" : ",{") + Member("time", Quoted(kAroundKeys[time])) + "," +
+                 Member("local", LocalValue(table, day, moment)) + "}";
+    }
+    return "[" + items + "]";
+}
+
 std::string DayObject(const Timetable& table, const TimetableDay& day) {
     return "{" + Member("date", Quoted(IsoDate(CivilFromDate(day.date)))) + "," +
            Member("hijri", HijriObject(day.hijri)) + "," +
            Member("daylight", Boolean(day.daylight)) + "," + Member("times", TimesObject(day)) +
            "," + Member("hours", HoursArray(day)) + "," +
-           Member("moments", MomentsArray(table, day)) + "}";
+           Member("moments", MomentsArray(table, day)) +
+           (day.around.empty() ? "" : "," + Member("around", AroundArray(table, day))) + "}";
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ Grid::Row RowOf(const TimetableDay& day) {
     Grid::Row row = {{DayText(day) + mark, shown->words.HijriText(day.hijri)},
                      Weekday(day.date) == kFriday,
                      day.date == Ports().clock.Today()};
-    for (const auto& moment : day.moments) {
+    for (const auto& moment : day.Columns()) {
         row.cells.push_back(TimeText(moment));
     }
     return row;
@@ -84,7 +84,7 @@ std::string Footnotes(const std::vector<TimetableDay>& days) {
 void FillGrid(const std::vector<TimetableDay>& days) {
     Grid& grid = frmMonth->grdMonth;
     grid.heads = {shown->words.day, shown->words.hijri};
-    grid.heads.insert(grid.heads.end(), shown->words.prayers.begin(), shown->words.prayers.end());
+    std::ranges::copy(shown->words.Heads(days.front()), std::back_inserter(grid.heads));
     grid.rows.clear();
     std::transform(days.begin(), days.end(), std::back_inserter(grid.rows), RowOf);
     grid.Refresh();

@@ -1,6 +1,7 @@
 #include "timetables/times_window.h"
 
 #include "base/fault.h"
+#include "base/script.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/moment_text.h"
@@ -9,6 +10,7 @@
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "store/around_options.h"
 #include "store/location_record.h"
 #include "timetables/month_window.h"
 #include "windows/frm_main.h"
@@ -37,6 +39,19 @@ void ShowNote(double day) {
     const std::string note = RuleNote(MomentsOn(day), RuledYear.rules.moments.highLatitude);
     frmTimes->lblTimesNote.SetCaption(note);
     frmTimes->lblTimesNote.SetVisible(!note.empty());
+}
+
+/// The times around the day in a line that wraps, where an option asks for them.
+void ShowAround(double day) {
+    const bool shown = ReadOption(option::kAroundTheDay) == 1;
+    std::string line;
+    for (std::size_t time = 0; shown && time < kAroundCount; ++time) {
+        const Moment moment = AroundOfRow(static_cast<std::size_t>(day)).at(time);
+        const std::string name = AroundName(time);
+        line += (line.empty() ? "" : "   ") + name + ": " + KeptTogether(MomentText(moment), name);
+    }
+    frmTimes->lblTimesAround.SetCaption(line);
+    frmTimes->lblTimesAround.SetVisible(shown);
 }
 
 void ShowDay(Date date) {
@@ -95,6 +110,7 @@ void SetTimes(Date date) {
         RunStep([&] { ShowTime(prayer, day); });
     }
     RunStep([&] { ShowNote(day); });
+    RunStep([&] { ShowAround(day); });
     frmTimes->lblDate.SetCaption(Ports().formats.LongDate(date));
     frmTimes->lblCurrTime.SetCaption(Ports().formats.TwelveHourTime(Ports().clock.Now()));
 }

@@ -17,6 +17,7 @@
 #include "engine/solar_event.h"
 #include "engine/zone_spans.h"
 #include "geo/qibla.h"
+#include "store/around_options.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "store/stored_values.h"
@@ -35,17 +36,22 @@ ZoneSpan ClockOf(Date date) {
     return {date, ActiveSettings.TimeZone + (daylight ? 1.0 : 0.0), daylight};
 }
 
+/// What is no time of any day, a damaged zone's, has no text either.
+std::optional<Moment> IfExists(const Moment& moment) {
+    return std::fabs(moment.hours) < NoEvent ? std::optional(moment) : std::nullopt;
+}
+
 TimetableDay TakeDay(std::size_t row) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
     const ZoneSpan clock = ClockOf(date);
-    TimetableDay day = {date,           RuledHijriDate(date),  clock.hours,
-                        clock.daylight, DaylightChange::kNone, {}};
+    TimetableDay day = {
+        date, RuledHijriDate(date), clock.hours, clock.daylight, DaylightChange::kNone, {}, {}};
     const DayMoments moments = MomentsOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        // What is no time of any day, a damaged zone's, has no text either.
-        if (std::fabs(moments[prayer].hours) < NoEvent) {
-            day.moments[prayer] = moments[prayer];
-        }
+        day.moments[prayer] = IfExists(moments[prayer]);
+    }
+    if (ReadOption(option::kAroundTheDay) == 1) {
+        std::ranges::transform(AroundOfRow(row), std::back_inserter(day.around), IfExists);
     }
     return day;
 }
@@ -75,6 +81,12 @@ std::string IsoDate(int year, int month, int day) {
 }
 
 }  // namespace
+
+std::vector<std::optional<Moment>> TimetableDay::Columns() const {
+    std::vector<std::optional<Moment>> columns(moments.begin(), moments.end());
+    columns.insert(columns.end(), around.begin(), around.end());
+    return columns;
+}
 
 Timetable TakeTimetable() {
     const YearRules& rules = RuledYear.rules;
@@ -111,7 +123,7 @@ std::vector<std::string> NotesOfDays(const Timetable& table,
                                      const std::vector<TimetableDay>& days) {
     std::vector<Moment> moments;
     for (const TimetableDay& day : days) {
-        for (const auto& moment : day.moments) {
+        for (const auto& moment : day.Columns()) {
             moments.push_back(moment.value_or(Moment{}));
         }
     }

@@ -26,6 +26,10 @@ struct TimetableDay {
     bool daylight;          // that clock is the one of daylight saving
     DaylightChange change;  // a day that is both begins
     std::array<std::optional<Moment>, kPrayerCount> moments;  // none for NoEvent
+    std::vector<std::optional<Moment>> around;  // by AroundTime; empty unless an option asks
+
+    /// The columns of a table: the moments, then the times around the day.
+    std::vector<std::optional<Moment>> Columns() const;
 };
 
 /// The year's table with its place and method, as all writers of files and all pictures take it.

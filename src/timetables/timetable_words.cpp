@@ -1,8 +1,8 @@
 #include "timetables/timetable_words.h"
 
 #include "calendar/date_words.h"
+#include "engine/moment_text.h"
 #include "lang/language_pack.h"
-#include "timetables/timetable.h"
 
 namespace horavex {
 
@@ -22,6 +22,9 @@ std::string NumberedWord(const char* key, std::size_t number, const std::string&
 void TakeNames(TimetableWords& words) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         words.prayers[prayer] = Word(kPrayerKeys[prayer], kPrayerKeys[prayer]);
+    }
+    for (std::size_t time = 0; time < kAroundCount; ++time) {
+        words.around[time] = AroundName(time);
     }
     for (std::size_t month = 0; month < 12; ++month) {
         const auto number = static_cast<int>(month) + 1;
@@ -47,6 +50,14 @@ std::string TimetableWords::HijriText(const HijriDate& date) const {
 
 const std::string& TimetableWords::WeekdayOf(Date date) const {
     return weekdays.at(static_cast<std::size_t>(Weekday(date)));
+}
+
+std::vector<std::string> TimetableWords::Heads(const TimetableDay& filled) const {
+    std::vector<std::string> heads(prayers.begin(), prayers.end());
+    if (!filled.around.empty()) {
+        heads.insert(heads.end(), around.begin(), around.end());
+    }
+    return heads;
 }
 
 TimetableWords TakeTimetableWords() {

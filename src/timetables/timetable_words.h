@@ -2,10 +2,13 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "base/date.h"
 #include "calendar/hijri_calendar.h"
+#include "engine/around_day.h"
 #include "engine/year_table.h"
+#include "timetables/timetable.h"
 
 namespace horavex {
 
@@ -18,6 +21,7 @@ struct TimetableWords {
     std::string day;
     std::string hijri;
     std::array<std::string, kPrayerCount> prayers;
+    std::array<std::string, kAroundCount> around;
     std::array<std::string, 12> months;       // January first
     std::array<std::string, 7> weekdays;      // Sunday first
     std::array<std::string, 12> hijriMonths;  // Muharram first
@@ -40,6 +44,9 @@ struct TimetableWords {
     std::string HijriText(const HijriDate& date) const;
 
     const std::string& WeekdayOf(Date date) const;
+
+    /// The heads of the columns of times that days like this one fill.
+    std::vector<std::string> Heads(const TimetableDay& filled) const;
 };
 
 TimetableWords TakeTimetableWords();

@@ -24,6 +24,9 @@ public:
     /// What the marks beside the times mean; hidden on a day without one.
     Label lblTimesNote{*this, "lblTimesNote", {.visible = false}};
 
+    /// The times around the day; hidden unless an option asks for them.
+    Label lblTimesAround{*this, "lblTimesAround", {.visible = false}};
+
     ControlArray<Label> lblZoritNameArabic{*this, "lblZoritNameArabic",
                                            PrayerLabels(kDayBrowserNames)};
     ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};

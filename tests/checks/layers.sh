@@ -34,7 +34,7 @@ uses[store]="base/* platform/* forms/* $primitives"
 uses[lang]="${uses[store]} windows/*"
 # Of the store, the engine knows the records, the text tables and the kinds of options; of its own
 # room, everything. The names of the next prayer come from the language pack.
-uses[engine]="${uses[store]} store/*_record.h store/text_*.h store/options.h lang/*"
+uses[engine]="${uses[store]} store/*_record.h store/text_*.h store/options.h store/around_options.h lang/*"
 uses[calendar]="${uses[store]} engine/* store/* lang/*"
 uses[geo]="${uses[calendar]} calendar/*"
 uses[moon]="${uses[geo]} geo/*"

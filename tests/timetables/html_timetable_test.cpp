@@ -2,6 +2,7 @@
 
 #include "engine/solar_event.h"
 #include "lang/language_pack.h"
+#include "store/around_options.h"
 #include "timetables/sample_timetable.h"
 
 namespace horavex {
@@ -57,6 +58,14 @@ TEST_F(HtmlTimetableTest, MarksStandBesideTheTimesAndAreExplainedBelowTheTables)
     EXPECT_TRUE(page.find("\"2026-06-22T01:18\" dir=\"auto\">01:18 AM+1\u2020</time>") !=
                 std::string::npos);
     EXPECT_EQ(CountOf(page, "<p>+1: on the next day</p>\n<p>Times marked \u2020"), 5);
+}
+
+TEST_F(HtmlTimetableTest, TimesAroundTheDayHaveColumns) {
+    RuledYear.inputs = PresentInputs();
+    SaveOption(option::kAroundTheDay, 1);
+    const std::string page = Page();
+    EXPECT_EQ(CountOf(page, "<th scope=\"col\">Last third</th></tr>"), 12);
+    EXPECT_EQ(CountOf(page, ">01:20 AM+1</time></td></tr>"), 365);
 }
 
 TEST_F(HtmlTimetableTest, FridaysAreSetOffAndTodayIsMarked) {

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "engine/solar_event.h"
+#include "store/around_options.h"
 #include "timetables/sample_timetable.h"
 
 namespace horavex {
@@ -55,6 +56,19 @@ TEST_F(JsonTimetableTest, MethodRuleAndWhatMadeAMomentAreTold) {
     EXPECT_THAT(text, HasSubstr("\"method\":\"Umm al-Qura\",\n\"highLatitudeRule\":\"middle\""));
     EXPECT_THAT(text, HasSubstr("\"local\":\"2026-06-22T01:18:"));
     EXPECT_THAT(text, HasSubstr("\"by\":\"rule\""));
+}
+
+TEST_F(JsonTimetableTest, TimesAroundTheDayAreToldWhereAnOptionAsksForThem) {
+    EXPECT_THAT(JsonTimetable(TakeTimetable()), testing::Not(HasSubstr("around")));
+    RuledYear.inputs = PresentInputs();
+    SaveOption(option::kAroundTheDay, 1);
+    SaveOption(option::kImsakMinutes, 15);
+    const std::string text = JsonTimetable(TakeTimetable());
+    EXPECT_THAT(
+        text, HasSubstr("\"around\":[{\"time\":\"Imsak\",\"local\":\"2026-01-01T04:45:00+02:00\"},"
+                        "{\"time\":\"Duha\",\"local\":\"2026-01-01T06:45:00+02:00\"},"
+                        "{\"time\":\"MiddleOfNight\",\"local\":\"2026-01-01T23:30:00+02:00\"},"
+                        "{\"time\":\"LastThird\",\"local\":\"2026-01-02T01:20:00+02:00\"}]}"));
 }
 
 TEST_F(JsonTimetableTest, TextsAreEscaped) {

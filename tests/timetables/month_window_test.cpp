@@ -5,6 +5,7 @@
 #include "engine/ruled_year.h"
 #include "engine/year_table.h"
 #include "lang/language_pack.h"
+#include "store/around_options.h"
 #include "support/program_test.h"
 #include "timetables/document_tools.h"
 #include "timetables/times_window.h"
@@ -119,6 +120,16 @@ TEST_F(MonthWindowTest, MarksOfTheTimesAreToldBelowTheTable) {
     EXPECT_THAT(frmMonth->grdMonth.rows.at(0).cells.at(7), testing::EndsWith("AM+1"));
     EXPECT_EQ(frmMonth->lblNote.Caption(), "+1: on the next day");
     EXPECT_TRUE(frmMonth->lblNote.Visible());
+}
+
+TEST_F(MonthWindowTest, TimesAroundTheDayHaveColumnsWhereAnOptionAsksForThem) {
+    EXPECT_EQ(frmMonth->grdMonth.heads.size(), 8U);
+    frmMonth->Unload();
+    SaveOption(option::kAroundTheDay, 1);
+    ShowMonthWindow();
+    EXPECT_EQ(frmMonth->grdMonth.heads.size(), 12U);
+    EXPECT_EQ(frmMonth->grdMonth.heads.back(), "Last third");
+    EXPECT_EQ(frmMonth->grdMonth.rows.at(0).cells.size(), 12U);
 }
 
 TEST_F(MonthWindowTest, TableStaysAsItWasAtTheOpening) {

@@ -5,6 +5,7 @@
 #include "engine/ruled_year.h"
 #include "engine/year_table.h"
 #include "shell/tick.h"
+#include "store/around_options.h"
 #include "support/program_test.h"
 #include "windows/frm_times.h"
 
@@ -83,6 +84,16 @@ TEST_F(TimesWindowTest, MarksAreToldOnADayThatHasThem) {
     EXPECT_THAT(ShownTimes()[5], testing::EndsWith(", next day \u2020"));
     EXPECT_TRUE(frmTimes->lblTimesNote.Visible());
     EXPECT_THAT(frmTimes->lblTimesNote.Caption(), testing::HasSubstr("\"middle of the night\""));
+}
+
+TEST_F(TimesWindowTest, TimesAroundTheDayAreToldWhereAnOptionAsksForThem) {
+    EXPECT_FALSE(frmTimes->lblTimesAround.Visible());
+    SaveOption(option::kAroundTheDay, 1);
+    frmTimes->cmdToday.UserClick();
+    EXPECT_TRUE(frmTimes->lblTimesAround.Visible());
+    EXPECT_THAT(frmTimes->lblTimesAround.Caption(),
+                testing::MatchesRegex("Imsak: .* AM   Duha: .* AM   Mid-night: .* PM   "
+                                      "Last third: .* AM, next day"));
 }
 
 TEST_F(TimesWindowTest, CaptionIsTheDefinitionsUntilAPackReplacesIt) {

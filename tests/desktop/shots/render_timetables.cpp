@@ -14,6 +14,7 @@
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
 #include "linux/posix_files.h"
+#include "store/around_options.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "store/stored_values.h"
@@ -121,6 +122,17 @@ void RenderWindows(const FormWindows& windows, const QString& name) {
     Save(windows, *frmMonth, "month-" + name);
 }
 
+void RenderAround(const FormWindows& windows, const QString& language) {
+    const QString name = "around-" + language;
+    SaveOption(option::kAroundTheDay, 1);
+    RenderWindows(windows, name);
+    QTimer::singleShot(0, [&name] { SavePreview("preview-" + name); });
+    frmMonth->cmdPreview.UserClick();
+    frmMonth->Unload();
+    frmTimes->Unload();
+    SaveOption(option::kAroundTheDay, 0);
+}
+
 void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool arabic) {
     const QString language = arabic ? "arabic" : "english";
     TakeCairo(platform, arabic);
@@ -134,6 +146,7 @@ void RenderTimetables(TestPlatform& platform, const FormWindows& windows, bool a
     SaveChart(platform, "year-" + language);
     frmMonth->Unload();
     frmTimes->Unload();
+    RenderAround(windows, language);
 }
 
 void RenderOslo(TestPlatform& platform, const FormWindows& windows, SilentHost& host, bool arabic) {
