@@ -75,9 +75,8 @@ public:
     MenuItem mnuPopHelp{mnuPopup, "mnuPopHelp", {.caption = "&Help"}};
     MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
     MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
-    MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
-    MenuItem mnuLine2{mnuPopup, "mnuLine2", {.caption = "-"}};
     MenuItem mnuPopAdjustments{mnuPopup, "mnuPopAdjustments", {.caption = "Ad&justments"}};
+    MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
 };
 
 inline const FormInstance<FrmMain> frmMain;

@@ -73,9 +73,7 @@ protected:
         desktop.Click(icon, 8, 8, 3);
         const std::string menu = desktop.WaitForMenu(program, windows);
         desktop.SaveScreen("tray-menu-exit");
-        constexpr int kExit =
-            40;  // pixels above the lower edge: behind it come a line and an entry
-        desktop.ChooseEntry(menu, kExit);
+        desktop.ChooseLastEntry(menu);
         EXPECT_EQ(program.Wait(), 0);
     }
 };

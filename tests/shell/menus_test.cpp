@@ -55,7 +55,7 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuPopup),
                 ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",
                             "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS",
-                            "mnuPopExit", "mnuLine2", "mnuPopAdjustments"));
+                            "mnuPopAdjustments", "mnuPopExit"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {

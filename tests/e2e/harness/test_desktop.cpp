@@ -160,9 +160,10 @@ void TestDesktop::PressKey(const std::string& key) const {
     Use({"xdotool", "key", key});
 }
 
-void TestDesktop::ChooseEntry(const std::string& menu, int aboveTheLowerEdge) const {
+void TestDesktop::ChooseLastEntry(const std::string& menu) const {
     constexpr int kAcross = 30;
-    Click(menu, kAcross, PlaceOf(menu).height - aboveTheLowerEdge);
+    constexpr int kAboveTheLowerEdge = 12;
+    Click(menu, kAcross, PlaceOf(menu).height - kAboveTheLowerEdge);
 }
 
 void TestDesktop::SaveScreen(const std::string& name) const {

@@ -63,9 +63,8 @@ public:
     /// A click at a place of the window, in dots from its upper left corner.
     void Click(const std::string& window, int x, int y, int button = 1) const;
     void PressKey(const std::string& key) const;
-    /// Clicks the entry of a menu that lies so many pixels above its lower edge, by default the
-    /// last one. A key could come before the menu has the keyboard.
-    void ChooseEntry(const std::string& menu, int aboveTheLowerEdge = 12) const;
+    /// Clicks the last entry of a menu. A key could come before the menu has the keyboard.
+    void ChooseLastEntry(const std::string& menu) const;
 
     /// A picture of the whole screen in the build's folder "screenshots", for people to look at.
     void SaveScreen(const std::string& name) const;
