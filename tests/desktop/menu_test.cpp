@@ -48,7 +48,7 @@ TEST_F(MenuTest, EntriesComeInOrderWithTheirKeysAndState) {
     FillMenu(menu, frmMain->mnuPopup);
     EXPECT_EQ(Texts(menu),
               (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla", "E&xport",
-                           "&Visit Our Site", "&Email Us", "&Exit", "", "Ad&justments"}));
+                           "&Visit Our Site", "&Email Us", "Ad&justments", "&Exit"}));
     EXPECT_FALSE(menu.actions().at(0)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isChecked());

@@ -368,11 +368,12 @@ TEST_F(AthanProgramTest, AthanCanBeStoppedWhileAFileDialogueIsOpenAndTheClockRun
     EXPECT_TRUE(desktop.IsOnView(program, dialogue));
 }
 
-long ProportionalKilobytes(const ChildProcess& program) {
+/// Memory of the program's own. What it shares with others would change as they come and go.
+long AnonymousKilobytes(const ChildProcess& program) {
     std::ifstream in("/proc/" + std::to_string(program.Id()) + "/smaps_rollup");
     for (std::string line; std::getline(in, line);) {
-        if (line.starts_with("Pss:")) {
-            return std::stol(line.substr(4));
+        if (line.starts_with("Anonymous:")) {
+            return std::stol(line.substr(10));
         }
     }
     return 0;
@@ -384,11 +385,11 @@ TEST_F(AthanProgramTest, HourOfSoundTakesNoMoreMemoryThanSeconds) {
         SetClock(12 * 3600);
         const SinkRecording recording(*sound);
         const ChildProcess program = Start();
-        const long before = ProportionalKilobytes(program);
+        const long before = AnonymousKilobytes(program);
         GoTo(3);
         recording.WaitForSound();
         recording.Continue(4.0);
-        return ProportionalKilobytes(program) - before;
+        return AnonymousKilobytes(program) - before;
     };
     Samples hour;
     hour.reserve(std::size_t{3600} * kWavRate);
