@@ -155,6 +155,7 @@ private:
 
     void DrawHead() {
         const Timetable& table = year_.table;
+        const auto [ishaName, ishaValue] = IshaFact(table, Words());
         WriteLine(Text(Words().title + " - " + Words().MonthTitle(table.year, month_)), kTitleSize,
                   true, kAccent);
         WriteLine(Text(table.place), kPlaceSize, true);
@@ -163,7 +164,7 @@ private:
                           Fact(Words().zone, Text(ZoneText(table)))}),
                   kTextSize, false);
         WriteLine(Joined({Fact(Words().fajrAngle, Degrees(table.fajrAngle)),
-                          Fact(Words().ishaAngle, Degrees(table.ishaAngle)),
+                          Fact(ishaName, Text(ishaValue)),
                           Fact(Words().asrRatio, Text(NumberToText(table.asrRatio) + ":1"))}),
                   kTextSize, false);
         WriteLine(Fact(Words().qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))), kTextSize,

@@ -76,7 +76,7 @@ std::string RuleNote(std::span<const Moment> moments, HighLatitudeRule rule) {
         return "";
     }
     const char* english =
-        "Times marked \u2020 follow the high latitude rule \"{rule}\" instead of the sun's angle.";
+        "Times marked \u2020 follow the high latitude rule \"{rule}\" instead of the sun.";
     return FilledText(Word("RuleNote", english), "{rule}", RuleName(rule));
 }
 

@@ -74,10 +74,10 @@ std::string Degrees(double degrees) {
 }
 
 std::string Facts(const Timetable& table, const TimetableWords& words) {
+    const auto [ishaName, ishaValue] = IshaFact(table, words);
     return "<dl>\n" + Fact(words.latitude, Degrees(table.latitude)) +
            Fact(words.longitude, Degrees(table.longitude)) + Fact(words.zone, ZoneText(table)) +
-           Fact(words.fajrAngle, Degrees(table.fajrAngle)) +
-           Fact(words.ishaAngle, Degrees(table.ishaAngle)) +
+           Fact(words.fajrAngle, Degrees(table.fajrAngle)) + Fact(ishaName, ishaValue) +
            Fact(words.asrRatio, NumberToText(table.asrRatio) + ":1") +
            Fact(words.qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))) + "</dl>\n";
 }

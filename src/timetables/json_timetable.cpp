@@ -53,6 +53,13 @@ std::string RuleWord(HighLatitudeRule rule) {
     return option::kHighLatitudeRule.words[static_cast<std::size_t>(rule)];
 }
 
+/// Where it counts instead of the angle.
+std::string IshaInterval(const Timetable& table) {
+    return table.ishaInterval == 0
+               ? ""
+               : Member("ishaInterval", std::to_string(table.ishaInterval)) + ",\n";
+}
+
 std::string HeadMembers(const Timetable& table) {
     return Member("year", std::to_string(table.year)) + ",\n" +
            Member("place", Quoted(table.place)) + ",\n" +
@@ -60,7 +67,7 @@ std::string HeadMembers(const Timetable& table) {
            Member("longitude", PlainNumber(table.longitude)) + ",\n" +
            Member("timeZone", ZoneValue(table)) + ",\n" +
            Member("fajrAngle", PlainNumber(table.fajrAngle)) + ",\n" +
-           Member("ishaAngle", PlainNumber(table.ishaAngle)) + ",\n" +
+           Member("ishaAngle", PlainNumber(table.ishaAngle)) + ",\n" + IshaInterval(table) +
            Member("asrRatio", PlainNumber(table.asrRatio)) + ",\n" +
            Member("qibla", PlainNumber(table.qiblaDegrees)) + ",\n" +
            Member("method", table.method.empty() ? "null" : Quoted(table.method)) + ",\n" +

@@ -101,6 +101,7 @@ Timetable TakeTimetable() {
                        .highLatitude = rules.moments.highLatitude,
                        .fajrAngle = ActiveSettings.FajrAngle,
                        .ishaAngle = ActiveIshaAngle,
+                       .ishaInterval = rules.moments.ishaInterval,
                        .asrRatio = ActiveSettings.AsrRatio,
                        .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        .days = {}};

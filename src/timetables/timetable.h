@@ -45,6 +45,7 @@ struct Timetable {
     HighLatitudeRule highLatitude;
     double fajrAngle;                // degrees of depression
     double ishaAngle;                // degrees of depression
+    int ishaInterval;                // minutes after Maghrib, where they count instead; 0
     double asrRatio;                 // shadow factor
     double qiblaDegrees;             // clockwise from north, [0, 360)
     std::vector<TimetableDay> days;  // 365 or 366, from the first of January on

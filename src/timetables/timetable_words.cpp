@@ -1,5 +1,6 @@
 #include "timetables/timetable_words.h"
 
+#include "base/number_text.h"
 #include "calendar/date_words.h"
 #include "engine/moment_text.h"
 #include "lang/language_pack.h"
@@ -80,6 +81,14 @@ TimetableWords TakeTimetableWords() {
     words.yearPage = Word("YearPage", "Year");
     TakeNames(words);
     return words;
+}
+
+std::pair<std::string, std::string> IshaFact(const Timetable& table, const TimetableWords& words) {
+    if (table.ishaInterval > 0) {
+        return {words.prayers[kIsha],
+                words.prayers[kMaghrib] + " + " + std::to_string(table.ishaInterval) + " min"};
+    }
+    return {words.ishaAngle, NumberToText(table.ishaAngle) + "°"};
 }
 
 }  // namespace horavex

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/date.h"
@@ -50,5 +51,8 @@ struct TimetableWords {
 };
 
 TimetableWords TakeTimetableWords();
+
+/// What Isha goes by, as name and value: "Isha angle", "17.5°"; "Isha", "Maghrib + 90 min".
+std::pair<std::string, std::string> IshaFact(const Timetable& table, const TimetableWords& words);
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #include "timetables/html_timetable.h"
 
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "lang/language_pack.h"
 #include "store/around_options.h"
@@ -50,6 +51,14 @@ TEST_F(HtmlTimetableTest, RowTellsTheDayInBothCalendarsAndTheTimesInTheUsersForm
         Page(),
         HasSubstr("<tr><th scope=\"row\">1 Thursday</th><td>12  1447</td>"
                   "<td><time datetime=\"2026-01-01T05:00\" dir=\"auto\">05:00 AM</time></td>"));
+}
+
+TEST_F(HtmlTimetableTest, IntervalIsToldInThePlaceOfTheAngleThatDoesNotCount) {
+    EXPECT_THAT(Page(), HasSubstr("<dt>Isha angle</dt>"));
+    RuledYear.rules.moments.ishaInterval = 90;
+    const std::string page = Page();
+    EXPECT_THAT(page, Not(HasSubstr("Isha angle")));
+    EXPECT_THAT(page, HasSubstr("<dt>Isha</dt><dd dir=\"ltr\">Maghrib + 90 min</dd>"));
 }
 
 TEST_F(HtmlTimetableTest, MarksStandBesideTheTimesAndAreExplainedBelowTheTables) {

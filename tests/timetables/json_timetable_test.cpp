@@ -1,6 +1,7 @@
 #include "timetables/json_timetable.h"
 
 #include "base/text.h"
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "store/around_options.h"
 #include "timetables/sample_timetable.h"
@@ -75,6 +76,12 @@ TEST_F(JsonTimetableTest, TextsAreEscaped) {
     ActiveCityText = "a \"b\" \\ c\n\x01 é";
     EXPECT_THAT(JsonTimetable(TakeTimetable()),
                 HasSubstr("\"place\":\"a \\\"b\\\" \\\\ c\\u000a\\u0001 é\","));
+}
+
+TEST_F(JsonTimetableTest, IntervalOfIshaIsToldWhereItCounts) {
+    EXPECT_THAT(JsonTimetable(TakeTimetable()), testing::Not(testing::HasSubstr("ishaInterval")));
+    RuledYear.rules.moments.ishaInterval = 90;
+    EXPECT_THAT(JsonTimetable(TakeTimetable()), testing::HasSubstr("\"ishaInterval\":90,\n"));
 }
 
 }  // namespace

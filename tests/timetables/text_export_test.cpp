@@ -147,7 +147,7 @@ TEST_F(TextPagesTest, MarksAreExplainedBelowTheirMonthWithinThePage) {
     EXPECT_THAT(pages.at(5),
                 HasSubstr("\u2020\r\n+1: on the next day\r\nTimes marked \u2020 follow "
                           "the high latitude rule \"middle of the night\" instead "
-                          "of\r\nthe sun's angle.\r\n-----"));
+                          "of\r\nthe sun.\r\n-----"));
     EXPECT_THAT(pages.at(0), Not(HasSubstr("Times marked")));
 }
 
