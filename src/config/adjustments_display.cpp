@@ -161,6 +161,7 @@ void ShowMethodOptions(const YearOptions& options) {
         form.lblShownMaghribAngle.SetCaption(Word("AtSunset", "at sunset"));
     }
     form.chkSunOfTheDay.SetValue(options.sunOfTheDay ? 1 : 0);
+    form.chkAroundTheDay.SetValue(options.aroundTheDay ? 1 : 0);
 }
 
 void ShowOffsets(const YearOptions& options) {

@@ -96,6 +96,8 @@ void BindControls() {
     form.cboMethod.onClick = Editing(ChooseMethod);
     form.chkSunOfTheDay.onClick =
         Editing([] { edited.options.sunOfTheDay = frmAdjust->chkSunOfTheDay.Value() == 1; });
+    form.chkAroundTheDay.onClick =
+        Editing([] { edited.options.aroundTheDay = frmAdjust->chkAroundTheDay.Value() == 1; });
     form.cboRule.onClick = Editing(ChooseRule);
     form.cboCalendar.onClick = Editing(ChooseCalendar);
     form.cboDays.onClick = Editing(ChooseCalendar);

@@ -7,6 +7,7 @@
 #include "config/unusable_file.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
+#include "store/around_options.h"
 #include "store/register.h"
 #include "store/settings_record.h"
 
@@ -110,6 +111,7 @@ YearOptions ReadRuleOptions() {
     options.hijri = ReadOption(option::kHijriCalendar);
     options.hijriAdjustment = ReadOption(option::kHijriAdjustment);
     options.sunOfTheDay = ReadOption(option::kSunOfTheDay) == 1;
+    options.aroundTheDay = ReadOption(option::kAroundTheDay) == 1;
     return options;
 }
 
@@ -131,6 +133,7 @@ void SaveYearOptions(const YearOptions& options) {
     SaveChange(option::kHijriCalendar, options.hijri, none.hijri);
     SaveChange(option::kHijriAdjustment, options.hijriAdjustment, none.hijriAdjustment);
     SaveChange(option::kSunOfTheDay, options.sunOfTheDay ? 1 : 0, 0);
+    SaveChange(option::kAroundTheDay, options.aroundTheDay ? 1 : 0, 0);
 }
 
 void TakeAuthority(const Authority& authority, YearOptions& options) {

@@ -21,6 +21,7 @@ struct YearOptions {
     HijriSource hijri = HijriSource::kArithmetic;
     int hijriAdjustment = 0;  // days
     bool sunOfTheDay = false;
+    bool aroundTheDay = false;  // tables tell imsak, Duha and the parts of the night
 
     bool operator==(const YearOptions&) const = default;
 };

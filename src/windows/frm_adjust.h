@@ -64,6 +64,11 @@ public:
 
     /// What the mark beside a time means, or why there are no times.
     Label lblShownNote{fraToday, "lblShownNote"};
+    CheckBox chkAroundTheDay{
+        fraToday,
+        "chkAroundTheDay",
+        {.caption = "Imsak, Duha and the parts of the night in the tables",
+         .toolTipText = "Day browser, month, pages and files tell these times too"}};
 
     horavex::Frame fraHijri{*this, "fraHijri", {.caption = "Hijri date"}};
     Label lblCalendar{fraHijri, "lblCalendar", {.caption = "Calendar"}};

@@ -239,6 +239,17 @@ TEST_F(AdjustmentsTest, SunOfTheDayShowsAndIsStored) {
     EXPECT_NE(TodayTimes, face);
 }
 
+TEST_F(AdjustmentsTest, TimesAroundTheDayAreSwitchedByABox) {
+    Open();
+    form.chkAroundTheDay.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(StoredOption("Around The Day"), "1");
+    Open();
+    EXPECT_EQ(form.chkAroundTheDay.Value(), 1);
+    form.cmdReset.UserClick();
+    EXPECT_EQ(form.chkAroundTheDay.Value(), 0);
+}
+
 TEST_F(AdjustmentsTest, HijriDateFollowsItsControls) {
     Open();
     EXPECT_EQ(form.lblShownHijri.Caption(), "10 Jamad Thani 1448");
