@@ -1,5 +1,7 @@
 #include "config/adjustments.h"
 
+#include <algorithm>
+
 #include "base/fault.h"
 #include "config/angle_range.h"
 #include "store/location_record.h"
@@ -32,6 +34,17 @@ bool IsMethod(const Authority& authority, const Adjustments& adjustments) {
     Adjustments byMethod = adjustments;
     TakeMethod(authority, byMethod);
     return byMethod == adjustments;
+}
+
+const Authority* MethodOf(const Adjustments& adjustments, const std::string& country) {
+    const Authority* usual = AuthorityOfCountry(country);
+    if (usual != nullptr && IsMethod(*usual, adjustments)) {
+        return usual;
+    }
+    const auto all = Authorities();
+    const auto fits = [&](const Authority& method) { return IsMethod(method, adjustments); };
+    const auto found = std::ranges::find_if(all, fits);
+    return std::ranges::count_if(all, fits) == 1 ? &*found : nullptr;
 }
 
 AngleLimits AcceptedAngleRange(HighLatitudeRule rule) {

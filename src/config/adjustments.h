@@ -26,6 +26,10 @@ void TakeMethod(const Authority& authority, Adjustments& adjustments);
 /// True where the method would change nothing.
 bool IsMethod(const Authority& authority, const Adjustments& adjustments);
 
+/// The method in force: the one that is usual in a country, else the only one that has all these
+/// figures; null for figures of one's own.
+const Authority* MethodOf(const Adjustments& adjustments, const std::string& country);
+
 /// Within which both angles move at the accepted place under a rule.
 AngleLimits AcceptedAngleRange(HighLatitudeRule rule);
 

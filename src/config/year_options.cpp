@@ -3,11 +3,13 @@
 #include <algorithm>
 
 #include "calendar/umm_al_qura.h"
+#include "config/adjustments.h"
 #include "config/city_clock.h"
 #include "config/unusable_file.h"
 #include "engine/current_year.h"
 #include "platform/platform.h"
 #include "store/around_options.h"
+#include "store/location_record.h"
 #include "store/register.h"
 #include "store/settings_record.h"
 
@@ -175,7 +177,12 @@ YearRules PossibleRulesOfYear(YearOptions options, std::int16_t year) {
 }
 
 YearRules StoredRulesOfYear(std::int16_t year) {
-    return PossibleRulesOfYear(ReadYearOptions(Settings.CityIndex), year);
+    const YearOptions options = ReadYearOptions(Settings.CityIndex);
+    YearRules rules = PossibleRulesOfYear(options, year);
+    const Adjustments adjustments = {Settings.FajrAngle, IshaAngle, options};
+    const Authority* method = MethodOf(adjustments, Location.Country);
+    rules.method = method == nullptr ? "" : method->name;
+    return rules;
 }
 
 }  // namespace horavex

@@ -3,6 +3,7 @@
 #include "engine/current_year.h"
 #include "engine/ruled_year.h"
 #include "store/location_files.h"
+#include "store/location_record.h"
 #include "store/settings_record.h"
 #include "support/data_folder.h"
 #include "support/program_copy.h"
@@ -56,6 +57,17 @@ TEST_F(YearOptionsTest, EachStoredOptionArrives) {
     EXPECT_EQ(moments.maghribAngle, 4.5);
     EXPECT_EQ(moments.offsets[kAsr], -3);
     EXPECT_EQ(moments.start, YearStart::kCalendar);
+}
+
+TEST_F(YearOptionsTest, MethodIsTheCountrysOrTheOnlyOneWithAllFigures) {
+    Location.Country = "Saudi Arabia";
+    Settings.FajrAngle = 18.5;
+    EXPECT_EQ(StoredRulesOfYear(2026).method, "") << "Isha by an angle";
+    SaveOption(option::kIshaInterval, 90);
+    SaveOption(option::kIshaIntervalRamadan, 120);
+    EXPECT_EQ(StoredRulesOfYear(2026).method, AuthorityOfCountry("Saudi Arabia")->name);
+    SaveOption(option::kOffsets[kFajr], 1);
+    EXPECT_EQ(StoredRulesOfYear(2026).method, "");
 }
 
 TEST_F(YearOptionsTest, ZoneIsTheCitysUnlessAnotherIsNamed) {
