@@ -3,9 +3,11 @@
 #include "base/program_state.h"
 #include "config/adjustments_display.h"
 #include "config/commit.h"
+#include "config/wizard.h"
 #include "lang/form_language.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
+#include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -108,8 +110,11 @@ void BindControls() {
 
 }  // namespace
 
+/// A wizard that is open has choices of its own waiting: it comes up instead.
 void OpenAdjustments(Form& owner) {
-    if (!CommitIsRunning()) {
+    if (frmWizard->IsLoaded()) {
+        ShowWizard();
+    } else if (!CommitIsRunning()) {
         frmAdjust->ShowModal(&owner);
     }
 }

@@ -182,12 +182,6 @@ void Commit() {
     Store();
 }
 
-void SaveZoneOption(int value) {
-    if (value != ReadOption(option::kAutomaticZone)) {
-        SaveOption(option::kAutomaticZone, value);
-    }
-}
-
 /// The calculation goes by the options that are tried; refused ones give way to the accepted ones.
 void CommitWithOptions() {
     const int acceptedZone = ReadOption(option::kAutomaticZone);

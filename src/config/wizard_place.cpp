@@ -44,7 +44,7 @@ void ShowUsualMethod() {
     form.lblNoUsual.SetVisible(usual == nullptr);
     if (usual != nullptr) {
         form.lblUsual.SetCaption(Beginning("lblUsual", "Usual in") + Location.Country + ": " +
-                                 usual->name);
+                                 GetLangString("methods", usual->key, usual->name));
     } else {
         form.lblNoUsual.SetCaption(Beginning("lblNoUsual", "No usual method is known for") +
                                    Location.Country);

@@ -138,6 +138,10 @@ void SaveYearOptions(const YearOptions& options) {
     SaveChange(option::kAroundTheDay, options.aroundTheDay ? 1 : 0, 0);
 }
 
+void SaveZoneOption(int value) {
+    SaveChange(option::kAutomaticZone, value, 0);
+}
+
 void TakeAuthority(const Authority& authority, YearOptions& options) {
     options.ishaInterval = authority.ishaInterval;
     options.ishaIntervalRamadan = authority.ishaIntervalRamadan;

@@ -37,6 +37,9 @@ YearOptions ReadYearOptions(std::int16_t cityIndex);
 /// by itself becomes absent.
 void SaveYearOptions(const YearOptions& options);
 
+/// Stores whether the zone follows the city: 1, or 0, which is absent.
+void SaveZoneOption(int value);
+
 /// Puts what a method asks beyond its angles of Fajr and Isha in the place of the options: the
 /// intervals, the angle of Maghrib, the margins as offsets.
 void TakeAuthority(const Authority& authority, YearOptions& options);

@@ -174,9 +174,10 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row) {
 AroundMoments AroundOf(const YearSource& year, std::size_t row, int imsakMinutes) {
     const std::size_t last = 364U + static_cast<std::size_t>(LeapFlagOf(year.inputs.year));
     const std::size_t evening = row < last ? row : row - 1;
-    const double night = DayMaker(year, evening + 1).StandardHour(kFajr) + 24.0 -
-                         DayMaker(year, evening).StandardHour(kMaghrib);
-    return DayMaker(year, row).Around(night, imsakMinutes);
+    const double fajr = DayMaker(year, evening + 1).StandardHour(kFajr);
+    const double maghrib = DayMaker(year, evening).StandardHour(kMaghrib);
+    const bool isNight = IsEvent(fajr) && IsEvent(maghrib);
+    return DayMaker(year, row).Around(isNight ? fajr + 24.0 - maghrib : NoEvent, imsakMinutes);
 }
 
 AroundMoments AroundOfRow(std::size_t row) {

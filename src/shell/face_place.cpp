@@ -1,11 +1,13 @@
 #include "shell/face_place.h"
 
+#include <algorithm>
 #include <tuple>
 
 #include "base/fault.h"
 #include "base/program_state.h"
 #include "base/script.h"
 #include "base/text.h"
+#include "base/utf8.h"
 #include "config/automatic_zone.h"
 #include "engine/ruled_year.h"
 #include "engine/zone_spans.h"
@@ -39,10 +41,21 @@ bool IsListed(std::int16_t cityIndex) {
            std::tie(city.Name, city.Latitude, city.Longitude);
 }
 
-/// The best known of a city's other names in a script; empty where none is.
+/// Letters of the Arabic language alone. The names do not tell their language, and Persian, Urdu
+/// and Uyghur have the same script and letters besides.
+bool IsArabic(const std::string& name) {
+    const auto letters = DecodeUtf8(name);
+    return letters && std::ranges::all_of(*letters, [](char32_t letter) {
+               return (letter >= 0x621 && letter <= 0x63A) ||
+                      (letter >= 0x641 && letter <= 0x64A) || letter == U' ' || letter == U'-';
+           });
+}
+
+/// The first of a city's other names in a script; empty where none is.
 std::string NameInScript(std::int16_t cityIndex, Script script) {
+    static const Script arabic = ScriptOf("\u0627");
     for (const std::string& name : Split(OtherNamesOf(cityIndex), ',')) {
-        if (ScriptOf(name) == script) {
+        if (ScriptOf(name) == script && (script != arabic || IsArabic(name))) {
             return name;
         }
     }

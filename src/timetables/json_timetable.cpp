@@ -57,7 +57,9 @@ std::string RuleWord(HighLatitudeRule rule) {
 std::string IshaInterval(const Timetable& table) {
     return table.ishaInterval == 0
                ? ""
-               : Member("ishaInterval", std::to_string(table.ishaInterval)) + ",\n";
+               : Member("ishaInterval", std::to_string(table.ishaInterval)) + ",\n" +
+                     Member("ishaIntervalRamadan", std::to_string(table.ishaIntervalRamadan)) +
+                     ",\n";
 }
 
 std::string HeadMembers(const Timetable& table) {

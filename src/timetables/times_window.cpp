@@ -20,12 +20,16 @@ namespace horavex {
 
 namespace {
 
-/// The moments of a day of the table, 0-based.
-DayMoments MomentsOn(double day) {
+/// The row of a day of the table, 0-based.
+std::size_t RowOfDay(double day) {
     if (day < 0.0 || day >= static_cast<double>(kYearRows)) {
         throw BoundsFault("the day lies outside the year of the table");
     }
-    return MomentsOfRow(static_cast<std::size_t>(day));
+    return static_cast<std::size_t>(day);
+}
+
+DayMoments MomentsOn(double day) {
+    return MomentsOfRow(RowOfDay(day));
 }
 
 void ShowTime(int prayer, double day) {
@@ -44,9 +48,10 @@ void ShowNote(double day) {
 /// The times around the day in a line that wraps, where an option asks for them.
 void ShowAround(double day) {
     const bool shown = ReadOption(option::kAroundTheDay) == 1;
+    const AroundMoments moments = shown ? AroundOfRow(RowOfDay(day)) : AroundMoments();
     std::string line;
     for (std::size_t time = 0; shown && time < kAroundCount; ++time) {
-        const Moment moment = AroundOfRow(static_cast<std::size_t>(day)).at(time);
+        const Moment& moment = moments.at(time);
         const std::string name = AroundName(time);
         line += (line.empty() ? "" : "   ") + name + ": " + KeptTogether(MomentText(moment), name);
     }

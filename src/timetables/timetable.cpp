@@ -102,6 +102,7 @@ Timetable TakeTimetable() {
                        .fajrAngle = ActiveSettings.FajrAngle,
                        .ishaAngle = ActiveIshaAngle,
                        .ishaInterval = rules.moments.ishaInterval,
+                       .ishaIntervalRamadan = rules.moments.ishaIntervalRamadan,
                        .asrRatio = ActiveSettings.AsrRatio,
                        .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        .days = {}};

@@ -46,6 +46,7 @@ struct Timetable {
     double fajrAngle;                // degrees of depression
     double ishaAngle;                // degrees of depression
     int ishaInterval;                // minutes after Maghrib, where they count instead; 0
+    int ishaIntervalRamadan;         // those of Ramadan, where they are others; 0
     double asrRatio;                 // shadow factor
     double qiblaDegrees;             // clockwise from north, [0, 360)
     std::vector<TimetableDay> days;  // 365 or 366, from the first of January on

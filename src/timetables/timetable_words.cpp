@@ -85,8 +85,13 @@ TimetableWords TakeTimetableWords() {
 
 std::pair<std::string, std::string> IshaFact(const Timetable& table, const TimetableWords& words) {
     if (table.ishaInterval > 0) {
-        return {words.prayers[kIsha],
-                words.prayers[kMaghrib] + " + " + std::to_string(table.ishaInterval) + " min"};
+        const bool differs = table.ishaIntervalRamadan > 0;
+        const std::string ramadan = differs
+                                        ? " (" + words.hijriMonths[8] + ": " +
+                                              std::to_string(table.ishaIntervalRamadan) + " min)"
+                                        : "";
+        return {words.prayers[kIsha], words.prayers[kMaghrib] + " + " +
+                                          std::to_string(table.ishaInterval) + " min" + ramadan};
     }
     return {words.ishaAngle, NumberToText(table.ishaAngle) + "°"};
 }

@@ -59,6 +59,8 @@ TEST_F(HtmlTimetableTest, IntervalIsToldInThePlaceOfTheAngleThatDoesNotCount) {
     const std::string page = Page();
     EXPECT_THAT(page, Not(HasSubstr("Isha angle")));
     EXPECT_THAT(page, HasSubstr("<dt>Isha</dt><dd dir=\"ltr\">Maghrib + 90 min</dd>"));
+    RuledYear.rules.moments.ishaIntervalRamadan = 120;
+    EXPECT_THAT(Page(), testing::ContainsRegex("Maghrib [+] 90 min [(].*: 120 min[)]"));
 }
 
 TEST_F(HtmlTimetableTest, MarksStandBesideTheTimesAndAreExplainedBelowTheTables) {

@@ -96,6 +96,15 @@ TEST_F(TimesWindowTest, TimesAroundTheDayAreToldWhereAnOptionAsksForThem) {
                                       "Last third: .* AM, next day"));
 }
 
+// A window that is open over New Year still shows a day of the year before.
+TEST_F(TimesWindowTest, DayOutsideTheTableHasNoTimesAroundItEither) {
+    SaveOption(option::kAroundTheDay, 1);
+    frmTimes->shownDay = DateSerial(CurrentYear, 1, 1) - 1.0;
+    const std::string former = frmTimes->lblTimesAround.Caption();
+    frmTimes->cmdPrev.UserClick();
+    EXPECT_EQ(frmTimes->lblTimesAround.Caption(), former);
+}
+
 TEST_F(TimesWindowTest, CaptionIsTheDefinitionsUntilAPackReplacesIt) {
     EXPECT_EQ(TimesForm().Caption(), "Paryer Times");
     EXPECT_EQ(frmTimes->Caption(), "Prayer Times");
