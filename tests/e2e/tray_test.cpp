@@ -32,11 +32,6 @@ protected:
             .value();
     }
 
-    void CloseFace(const ChildProcess& program, const std::string& face) {
-        desktop.Click(face, 397, 23);
-        WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); });
-    }
-
     /// Does it over and over with time to work in between, until the test is true: a face that has
     /// just come up may still be moved, or not be active yet, while the user's doing is on its way.
     static bool DoUntil(const std::string& what, const std::function<void()>& act,
@@ -48,6 +43,21 @@ protected:
             }
             return test();
         });
+    }
+
+    /// Presses the face's button, which lies where it was once the face no longer moves.
+    void CloseFace(const std::string& face, const std::function<bool()>& isClosed) {
+        DoUntil(
+            "a closed face",
+            [&] {
+                desktop.Use({"xdotool", "mousemove", "--window", face, "100", "300"});
+                desktop.Click(face, 397, 23);
+            },
+            isClosed);
+    }
+
+    void HideFace(const ChildProcess& program, const std::string& face) {
+        CloseFace(face, [&] { return !desktop.IsOnView(program, face); });
     }
 
     /// A modal window.
@@ -85,7 +95,7 @@ TEST_F(TrayTest, ClosedFaceComesBackByADoubleClick) {
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     LetSecondsPass(1);
     desktop.SaveScreen("tray");
-    CloseFace(program, face);
+    HideFace(program, face);
     desktop.Use({"xdotool", "mousemove", "--window", icon, "8", "8", "click", "--repeat", "2",
                  "--delay", "60", "1"});
     EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.IsOnView(program, face); }));
@@ -199,7 +209,7 @@ TEST_F(TrayTest, HiddenFaceComesBackMinimisedWhenThePanelGoes) {
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     WaitForIcon(program);
     LetSecondsPass(1);
-    CloseFace(program, face);
+    HideFace(program, face);
     host.reset();
     EXPECT_TRUE(WaitUntil("a minimised face", [&] {
         return desktop.Use({"xprop", "-id", face, "WM_STATE"}).find("Iconic") != std::string::npos;
@@ -222,15 +232,14 @@ TEST_F(TrayTest, WithoutAPanelClosingMinimisesAndSaysSoOnce) {
         }
         return std::nullopt;
     };
-    desktop.Click(face, 397, 23);
-    const std::string box = WaitUntil("the message", message).value();
+    CloseFace(face, [&] { return message().has_value(); });
+    const std::string box = message().value();
     desktop.SaveScreen("no-tray");
     desktop.Use({"xdotool", "windowactivate", "--sync", box, "key", "Return"});
     EXPECT_TRUE(WaitUntil("a minimised face", isMinimised));
     EXPECT_FALSE(message());
     desktop.Use({"xdotool", "windowactivate", "--sync", face});
-    desktop.Click(face, 397, 23);
-    EXPECT_TRUE(WaitUntil("a minimised face", isMinimised));
+    CloseFace(face, isMinimised);
     EXPECT_FALSE(message());
     EXPECT_TRUE(program.IsRunning());
 }
