@@ -91,20 +91,23 @@ std::vector<std::string> TestDesktop::WindowsOf(const ChildProcess& program) con
                        .out);
 }
 
+// An icon in a panel is a window with the program's title, too.
 std::string TestDesktop::WaitForWindow(const ChildProcess& program,
                                        const std::string& title) const {
-    return WaitUntil("the window " + title,
-                     [&]() -> std::optional<std::string> {
-                         for (const std::string& window : WindowsOf(program)) {
-                             if (TitleOf(window) == title) {
-                                 return window;
-                             }
-                         }
-                         if (!program.IsRunning()) {
-                             throw std::runtime_error("the program ended before " + title);
-                         }
-                         return std::nullopt;
-                     })
+    constexpr int kHigherThanAnIcon = 60;
+    return WaitUntil(
+               "the window " + title,
+               [&]() -> std::optional<std::string> {
+                   for (const std::string& window : WindowsOf(program)) {
+                       if (TitleOf(window) == title && PlaceOf(window).height > kHigherThanAnIcon) {
+                           return window;
+                       }
+                   }
+                   if (!program.IsRunning()) {
+                       throw std::runtime_error("the program ended before " + title);
+                   }
+                   return std::nullopt;
+               })
         .value();
 }
 
