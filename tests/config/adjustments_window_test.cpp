@@ -5,6 +5,7 @@
 #include "config/authorities.h"
 #include "config/commit.h"
 #include "config/settings_window.h"
+#include "config/wizard.h"
 #include "config/year_options.h"
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
@@ -17,6 +18,7 @@
 #include "store/stored_values.h"
 #include "support/program_test.h"
 #include "windows/frm_adjust.h"
+#include "windows/frm_wizard.h"
 
 namespace horavex {
 namespace {
@@ -237,6 +239,13 @@ TEST_F(AdjustmentsTest, SunOfTheDayShowsAndIsStored) {
     form.cmdOK.UserClick();
     EXPECT_EQ(StoredOption("Sun Of The Day"), "1");
     EXPECT_NE(TodayTimes, face);
+}
+
+TEST_F(AdjustmentsTest, WizardThatIsOpenComesUpInTheirPlace) {
+    ShowWizard();
+    frmMain->mnuAdjustments.UserClick();
+    EXPECT_FALSE(form.IsLoaded());
+    EXPECT_TRUE(frmWizard->IsLoaded());
 }
 
 TEST_F(AdjustmentsTest, TimesAroundTheDayAreSwitchedByABox) {
