@@ -70,14 +70,6 @@ YearInputs InputsUnder(const MomentRules& rules) {
     return inputs;
 }
 
-DayMoments ByTheSun(const PrayerRow& hours) {
-    DayMoments moments;
-    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        moments[prayer].hours = hours[prayer];
-    }
-    return moments;
-}
-
 /// The year that rules draw on never gives up here: a day that does has told so already.
 DayMoments ByRules(YearInputs inputs, const MomentRules& rules, Date today) {
     inputs.method.needsFajr = inputs.method.needsIsha = false;
@@ -91,7 +83,7 @@ DayMoments MomentsOfPreview(const PreviewInput& input) {
     const MomentRules rules = PossibleRulesOfYear(input.options, CurrentYear).moments;
     const YearInputs inputs = InputsUnder(rules);
     const PrayerRow bare = ComputeTodayTimes(inputs, input.today);
-    return rules == MomentRules{} ? ByTheSun(bare) : ByRules(inputs, rules, input.today);
+    return rules == MomentRules{} ? TableMoments(bare) : ByRules(inputs, rules, input.today);
 }
 
 /// A time that does not come has no text.

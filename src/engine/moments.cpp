@@ -154,6 +154,8 @@ private:
     SunDay sun_;
 };
 
+}  // namespace
+
 DayMoments TableMoments(const PrayerRow& hours) {
     DayMoments moments;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
@@ -161,8 +163,6 @@ DayMoments TableMoments(const PrayerRow& hours) {
     }
     return moments;
 }
-
-}  // namespace
 
 DayMoments MomentsOf(const YearSource& year, std::size_t row) {
     if (year.rules == MomentRules{}) {

@@ -10,6 +10,9 @@ namespace horavex {
 // A year's moments are made from its table and from what the options ask for. With no option they
 // are the table's own numbers.
 
+/// Those of a row as it stands: by the sun, without a rule.
+DayMoments TableMoments(const PrayerRow& hours);
+
 /// The moments of a day. row: 0 to 365. With rules Isha may lie beyond 24 and Fajr below 0 hours.
 DayMoments MomentsOf(const YearSource& year, std::size_t row);
 

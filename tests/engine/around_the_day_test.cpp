@@ -92,5 +92,14 @@ TEST(AroundTheDay, StandingOnAPrayerByARuleTheyAreByARule) {
     EXPECT_EQ(around[kDuha].by, MomentBy::kInterval);
 }
 
+// Many days there have a Fajr, and few a sunset.
+TEST(AroundTheDay, NightWithoutASunsetHasNoParts) {
+    const Place far = {89.5, 10.0, 1.0, HighLatitudeRule::kNearest};
+    for (std::size_t row = 0; row < 365; row += 7) {
+        const double hours = far.Around(row)[kLastThird].hours;
+        EXPECT_TRUE(hours == NoEvent || hours < 36.0) << row << " " << hours;
+    }
+}
+
 }  // namespace
 }  // namespace horavex

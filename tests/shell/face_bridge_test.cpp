@@ -6,6 +6,8 @@
 #include "engine/ruled_year.h"
 #include "geo/qibla.h"
 #include "lang/language_pack.h"
+#include "store/city_search.h"
+#include "store/location_files.h"
 #include "store/location_record.h"
 #include "support/program_test.h"
 
@@ -63,6 +65,18 @@ TEST_F(FaceBridgeTest, PlaceHasItsOwnNameInTheScriptOfThePackAndClocksAreToldWhe
     EXPECT_THAT(day.place, testing::EndsWith(" \u00b7 " + ActiveCityText));
     EXPECT_EQ(ScriptOf(day.place), ScriptOf("\u0645"));
     EXPECT_THAT(day.clocks, testing::EndsWith(ActiveLocation.City.Name + ": UTC+9:30"));
+}
+
+// The first of the city's names in the script has a letter of Urdu.
+TEST_F(FaceBridgeTest, NameInTheArabicScriptIsOneOfTheArabicLanguage) {
+    DayView day;
+    platform.face.onShowDay = [&](const DayView& shown) { day = shown; };
+    currentLanguage = "Arabic";
+    const auto cities = ListCities();
+    ActiveSettings.CityIndex = SearchCities(cities, "dubai").at(0).city->cityIndex;
+    ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
+    SetFlashVariables();
+    EXPECT_THAT(day.place, testing::StartsWith("\u062f\u0628\u0649 \u00b7 "));
 }
 
 TEST_F(FaceBridgeTest, PlaceByCoordinatesHasNoOtherName) {
