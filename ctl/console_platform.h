@@ -94,10 +94,13 @@ private:
     AbsentAudioPlayer audioPlayer_;
     ZoneDatabase zoneRules_;
     FixedWhereabouts whereabouts_;  // none
-    Platform platform_{clock,        eventLoop_, files,         folder_,    formats_,
-                       dialogs_,     registry_,  instanceLock_, face_,      windows_,
-                       tray_,        shell_,     network_,      athanFace_, audioFile_,
-                       audioPlayer_, zoneRules_, whereabouts_};
+    AbsentNotices notices_;
+    AbsentMediaPlayers mediaPlayers_;
+    AbsentSession session_;
+    Platform platform_{clock,     eventLoop_,    files,      folder_,      formats_,   dialogs_,
+                       registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
+                       notices_,  mediaPlayers_, session_};
 };
 
 }  // namespace horavex

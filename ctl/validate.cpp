@@ -37,11 +37,12 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
     }
     const ProgramFolder folder(session.platform.files, path, path);
     const Platform ports{
-        former.clock,     former.eventLoop,  former.files,     folder,
-        former.formats,   former.dialogs,    former.registry,  former.instanceGuard,
-        former.face,      former.windows,    former.tray,      former.shell,
-        former.network,   former.athanFace,  former.audioFile, former.audioPlayer,
-        former.zoneRules, former.whereabouts};
+        former.clock,     former.eventLoop,   former.files,     folder,
+        former.formats,   former.dialogs,     former.registry,  former.instanceGuard,
+        former.face,      former.windows,     former.tray,      former.shell,
+        former.network,   former.athanFace,   former.audioFile, former.audioPlayer,
+        former.zoneRules, former.whereabouts, former.notices,   former.mediaPlayers,
+        former.session};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

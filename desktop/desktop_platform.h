@@ -20,6 +20,7 @@
 #include "linux/sound/sound_file.h"
 #include "linux/system_clock.h"
 #include "linux/zone_database.h"
+#include "platform/absent_desktop.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -55,10 +56,13 @@ private:
     PulsePlayer audioPlayer_;
     ZoneDatabase zoneRules_;
     QtWhereabouts whereabouts_;
-    Platform platform_{clock_,       eventLoop_, files_,        folder_,    formats_,
-                       dialogs_,     registry_,  instanceLock_, face_,      windows_,
-                       tray_,        shell_,     network_,      athanFace_, audioFile_,
-                       audioPlayer_, zoneRules_, whereabouts_};
+    AbsentNotices notices_;
+    AbsentMediaPlayers mediaPlayers_;
+    AbsentSession session_;
+    Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,   dialogs_,
+                       registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
+                       network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
+                       notices_,  mediaPlayers_, session_};
 };
 
 }  // namespace horavex

@@ -23,6 +23,7 @@ public:
     void Add(const std::string& tip) override;
     void Remove() override;
     void SetTip(const std::string& tip) override;
+    void SetQuiet(bool) override {}
     bool HasHost() override { return area_.Present() != AreaKind::kNone; }
 
 protected:

@@ -28,9 +28,9 @@ public:
     void Pause() override;
     void Stop() override;
     std::int64_t Position() override;
-
-    /// No server or no device could be reached after a start.
-    std::function<void()> onUnreachable;
+    std::vector<SoundDevice> Devices() override { return {}; }
+    void UseDevice(const std::string&) override {}
+    std::string Trouble() override { return {}; }
 
 private:
     void BlockTaken();

@@ -10,7 +10,7 @@
 #include "platform/platform.h"
 #include "store/around_options.h"
 #include "store/location_record.h"
-#include "store/register.h"
+#include "store/save_change.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -81,22 +81,6 @@ std::vector<ZoneSpan> SpansOfYear(const std::string& zone, std::int16_t year) {
     }
     NameDaylight(spans);
     return spans;
-}
-
-/// What changes nothing is no value of the user's; one in its place is needed only in front of a
-/// machine-wide value.
-template <class Option, class Value>
-void SaveChange(const Option& option, const Value& value, const Value& none) {
-    if (value == ReadOption(option)) {
-        return;
-    }
-    if (value == none) {
-        std::int32_t result = 0;
-        CRegister().REGDeleteSetting(kLocalMachine, kOptionsKey, option.name, result);
-    }
-    if (value != ReadOption(option)) {
-        SaveOption(option, value);
-    }
 }
 
 }  // namespace

@@ -2,8 +2,11 @@
 
 #include "platform/audio_file.h"
 #include "platform/audio_player.h"
+#include "platform/desktop_session.h"
 #include "platform/face.h"
+#include "platform/media_players.h"
 #include "platform/network.h"
+#include "platform/notices.h"
 #include "platform/shell.h"
 #include "platform/tray.h"
 #include "platform/windows.h"
@@ -39,6 +42,7 @@ public:
     void Remove() override {}
     void SetTip(const std::string&) override {}
     bool HasHost() override { return false; }
+    void SetQuiet(bool) override {}
 };
 
 class AbsentShell : public Shell {
@@ -83,6 +87,27 @@ public:
     void Pause() override {}
     void Stop() override {}
     std::int64_t Position() override { return 0; }
+    std::vector<SoundDevice> Devices() override { return {}; }
+    void UseDevice(const std::string&) override {}
+    std::string Trouble() override { return {}; }
+};
+
+class AbsentNotices : public Notices {
+public:
+    bool HasService() override { return false; }
+    void Show(NoticeKind, const Notice&) override {}
+    void Withdraw(NoticeKind) override {}
+};
+
+class AbsentMediaPlayers : public MediaPlayers {
+public:
+    void PauseAll() override {}
+    void GoOn() override {}
+};
+
+class AbsentSession : public DesktopSession {
+public:
+    bool IsBusy() override { return false; }
 };
 
 }  // namespace horavex

@@ -2,11 +2,21 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "base/bytes.h"
 #include "platform/audio_file.h"
 
 namespace horavex {
+
+/// Something that sound can come out of.
+struct SoundDevice {
+    std::string id;    // the sound server's own name, the same at every start
+    std::string name;  // for people
+
+    bool operator==(const SoundDevice&) const = default;
+};
 
 /// Where sound goes: blocks of samples, queued and played one behind the other. Nothing throws and
 /// nothing waits for a device. The events come on the program's thread, out of the event loop.
@@ -38,6 +48,16 @@ public:
     /// Bytes that have been heard since the start.
     virtual std::int64_t Position() = 0;
 
+    /// What there is now; empty where no sound server is reached.
+    virtual std::vector<SoundDevice> Devices() = 0;
+
+    /// The device of every start from now on, by its id; empty for the default one, which plays in
+    /// place of a device that is gone, too.
+    virtual void UseDevice(const std::string& id) = 0;
+
+    /// Why the last start was silent, in words for the user; empty where it was not.
+    virtual std::string Trouble() = 0;
+
     /// The device has taken a queued block in.
     std::function<void()> onEndArrayPlay;
 
@@ -46,6 +66,9 @@ public:
 
     /// All that was queued has been heard, or the device is gone. Once a start.
     std::function<void()> onEndPlay;
+
+    /// No device could be reached after a start; Trouble() tells why.
+    std::function<void()> onUnreachable;
 };
 
 }  // namespace horavex

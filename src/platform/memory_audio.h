@@ -57,6 +57,9 @@ public:
     void Pause() override;
     void Stop() override;
     std::int64_t Position() override { return position_; }
+    std::vector<SoundDevice> Devices() override { return devices; }
+    void UseDevice(const std::string& id) override { device = id; }
+    std::string Trouble() override { return starts == 0 || hasDevice ? "" : "no device"; }
 
     /// The first block is over. Nothing while nothing plays.
     void FinishBlock();
@@ -78,6 +81,8 @@ public:
     std::size_t mostQueued = 0;  // blocks
     int starts = 0;
     bool hasDevice = true;
+    std::vector<SoundDevice> devices;
+    std::string device;  // that was asked for
 
 private:
     void End();

@@ -3,12 +3,15 @@
 #include "platform/audio_file.h"
 #include "platform/audio_player.h"
 #include "platform/clock.h"
+#include "platform/desktop_session.h"
 #include "platform/dialogs.h"
 #include "platform/event_loop.h"
 #include "platform/face.h"
 #include "platform/files.h"
 #include "platform/instance_guard.h"
+#include "platform/media_players.h"
 #include "platform/network.h"
+#include "platform/notices.h"
 #include "platform/program_folder.h"
 #include "platform/regional_formats.h"
 #include "platform/registry_store.h"
@@ -41,6 +44,9 @@ struct Platform {
     AudioPlayer& audioPlayer;
     const ZoneRules& zoneRules;
     Whereabouts& whereabouts;
+    Notices& notices;
+    MediaPlayers& mediaPlayers;
+    DesktopSession& session;
 };
 
 /// Installs the ports; nullptr takes them away again.

@@ -95,9 +95,11 @@ public:
     void Add(const std::string& tip) override { log_.Note("TrayAdd " + tip); }
     void Remove() override { log_.Note("TrayRemove"); }
     void SetTip(const std::string& tip) override { log_.Note("TraySetTip " + tip); }
+    void SetQuiet(bool quiet) override { isQuiet = quiet; }
     bool HasHost() override { return hasHost; }
 
     bool hasHost = true;
+    bool isQuiet = false;
 
 private:
     DesktopLog& log_;

@@ -21,6 +21,9 @@ public:
     /// False while the desktop has no notification area.
     virtual bool HasHost() = 0;
 
+    /// Whether the icon shows that athans are silenced.
+    virtual void SetQuiet(bool quiet) = 0;
+
     /// Set once by the program. A desktop that draws the menu of the icon itself sends no kRightUp.
     std::function<void(TrayMessage)> onMessage;
 };

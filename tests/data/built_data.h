@@ -64,10 +64,13 @@ private:
     AbsentAudioPlayer audioPlayer_;
     ZoneDatabase zoneRules_;
     FixedWhereabouts whereabouts_;  // none
-    Platform platform_{clock_,       loop_,      files,          folder,     formats_,
-                       dialogs,      registry_,  instanceGuard_, face_,      windows_,
-                       tray_,        shell_,     network_,       athanFace_, audioFile_,
-                       audioPlayer_, zoneRules_, whereabouts_};
+    AbsentNotices notices_;
+    AbsentMediaPlayers mediaPlayers_;
+    AbsentSession session_;
+    Platform platform_{
+        clock_,         loop_,        files,      folder,       formats_, dialogs,       registry_,
+        instanceGuard_, face_,        windows_,   tray_,        shell_,   network_,      athanFace_,
+        audioFile_,     audioPlayer_, zoneRules_, whereabouts_, notices_, mediaPlayers_, session_};
 };
 
 }  // namespace horavex

@@ -57,7 +57,7 @@ TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
                             ports.formats,   dialogs,          ports.registry,  ports.instanceGuard,
                             ports.face,      ports.windows,    ports.tray,      ports.shell,
                             ports.network,   ports.athanFace,  ports.audioFile, ports.audioPlayer,
-                            ports.zoneRules, ports.whereabouts};
+                            ports.zoneRules, ports.whereabouts, ports.notices, ports.mediaPlayers, ports.session};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));

@@ -21,11 +21,12 @@ protected:
     TestPlatform platform;
     const ProgramFolder folder{files, disk.Path(), disk.Path()};
     const Platform& own = Ports();
-    const Platform ports{own.clock,     own.eventLoop,  own.files,     folder,
-                         own.formats,   own.dialogs,    own.registry,  own.instanceGuard,
-                         own.face,      own.windows,    own.tray,      own.shell,
-                         own.network,   own.athanFace,  own.audioFile, own.audioPlayer,
-                         own.zoneRules, own.whereabouts};
+    const Platform ports{own.clock,     own.eventLoop,   own.files,     folder,
+                         own.formats,   own.dialogs,     own.registry,  own.instanceGuard,
+                         own.face,      own.windows,     own.tray,      own.shell,
+                         own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
+                         own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
+                         own.session};
 };
 
 TEST_F(PictureFileTest, PictureOfTheProgramFolderIsReadWhateverTheCaseOfItsName) {

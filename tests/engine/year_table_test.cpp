@@ -226,11 +226,12 @@ struct FlagDialogs : RecordingDialogs {
 TEST_F(YearTableTest, MessageComesBeforeTheFlag) {
     FlagDialogs dialogs;
     const Platform& ports = Ports();
-    const Platform watched{ports.clock,     ports.eventLoop,  ports.files,     ports.programFolder,
-                           ports.formats,   dialogs,          ports.registry,  ports.instanceGuard,
-                           ports.face,      ports.windows,    ports.tray,      ports.shell,
-                           ports.network,   ports.athanFace,  ports.audioFile, ports.audioPlayer,
-                           ports.zoneRules, ports.whereabouts};
+    const Platform watched{ports.clock,     ports.eventLoop,   ports.files,     ports.programFolder,
+                           ports.formats,   dialogs,           ports.registry,  ports.instanceGuard,
+                           ports.face,      ports.windows,     ports.tray,      ports.shell,
+                           ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
+                           ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
+                           ports.session};
     InstallPlatform(&watched);
     London(18.0, 17.0);
     Calculate(2001);

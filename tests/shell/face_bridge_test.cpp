@@ -135,11 +135,12 @@ TEST_F(FaceBridgeTest, CompassIsNotRoundedAndHasTheDecimalMarkOfTheUser) {
         char DecimalMark() const override { return ','; }
     } comma;
     const Platform& own = Ports();
-    const Platform ports{own.clock,     own.eventLoop,  own.files,     own.programFolder,
-                         comma,         own.dialogs,    own.registry,  own.instanceGuard,
-                         own.face,      own.windows,    own.tray,      own.shell,
-                         own.network,   own.athanFace,  own.audioFile, own.audioPlayer,
-                         own.zoneRules, own.whereabouts};
+    const Platform ports{own.clock,     own.eventLoop,   own.files,     own.programFolder,
+                         comma,         own.dialogs,     own.registry,  own.instanceGuard,
+                         own.face,      own.windows,     own.tray,      own.shell,
+                         own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
+                         own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
+                         own.session};
     InstallPlatform(&ports);
     QiblaDegrees = 58.4817263540912;
     SetFlashVariables();

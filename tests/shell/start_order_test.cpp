@@ -202,7 +202,10 @@ struct OrderTest : ProgramTest {
                          platform.audioFile,
                          platform.audioPlayer,
                          platform.zoneRules,
-                         platform.whereabouts};
+                         platform.whereabouts,
+                         platform.notices,
+                         platform.mediaPlayers,
+                         platform.session};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };

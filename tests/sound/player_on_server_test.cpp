@@ -73,7 +73,10 @@ struct PlayerOnAServer : testing::Test {
                          file,
                          player,
                          former.zoneRules,
-                         former.whereabouts};
+                         former.whereabouts,
+                         former.notices,
+                         former.mediaPlayers,
+                         former.session};
 };
 
 TEST_F(PlayerOnAServer, WholeFileIsHeardAsItIs) {

@@ -223,7 +223,10 @@ TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
                          platform.audioFile,
                          platform.audioPlayer,
                          platform.zoneRules,
-                         platform.whereabouts};
+                         platform.whereabouts,
+                         platform.notices,
+                         platform.mediaPlayers,
+                         platform.session};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

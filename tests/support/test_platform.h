@@ -12,6 +12,7 @@
 #include "platform/recording_desktop.h"
 #include "platform/scripted_event_loop.h"
 #include "platform/scripted_network.h"
+#include "platform/scripted_session.h"
 
 namespace horavex {
 
@@ -46,11 +47,15 @@ public:
     MemoryAudioPlayer audioPlayer;
     FixedZoneRules zoneRules;
     FixedWhereabouts whereabouts;
+    RecordingNotices notices;
+    RecordingMediaPlayers mediaPlayers;
+    ScriptedSession session;
 
 private:
     Platform platform_{clock,    loop,          failingFiles, folder,      formats,   dialogs,
                        registry, instanceGuard, face,         windows,     tray,      shell,
-                       network,  athanFace,     audioFile,    audioPlayer, zoneRules, whereabouts};
+                       network,  athanFace,     audioFile,    audioPlayer, zoneRules, whereabouts,
+                       notices,  mediaPlayers,  session};
 };
 
 }  // namespace horavex

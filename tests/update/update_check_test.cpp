@@ -144,11 +144,12 @@ TEST_F(UpdateCheckTest, AnswerIsToldBeforeLabelAndBarGo) {
         }
     } dialogs;
     const Platform& own = Ports();
-    const Platform ports{own.clock,     own.eventLoop,  own.files,     own.programFolder,
-                         own.formats,   dialogs,        own.registry,  own.instanceGuard,
-                         own.face,      own.windows,    own.tray,      own.shell,
-                         own.network,   own.athanFace,  own.audioFile, own.audioPlayer,
-                         own.zoneRules, own.whereabouts};
+    const Platform ports{own.clock,     own.eventLoop,   own.files,     own.programFolder,
+                         own.formats,   dialogs,         own.registry,  own.instanceGuard,
+                         own.face,      own.windows,     own.tray,      own.shell,
+                         own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
+                         own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
+                         own.session};
     InstallPlatform(&ports);
     Publish("5");
     CheckForUpdate();
