@@ -12,8 +12,9 @@ enum class NoticeKind {
     kMissed   // a prayer that came while the computer slept
 };
 
-/// What the user does with a notice.
-enum class NoticeAction { kStop, kOpen };
+/// What the user does with a notice: presses one of its buttons or the text (kOpen), or puts it
+/// away.
+enum class NoticeAction { kStop, kOpen, kDismiss };
 
 /// A text for the desktop to show beside what the user does.
 struct Notice {
