@@ -3,18 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QElapsedTimer>
-#include <filesystem>
 
-#include "support/child_process.h"
-#include "support/run_program.h"
-#include "support/temporary_folder.h"
+#include "desktop/private_bus.h"
 
 namespace horavex {
 namespace {
@@ -76,30 +71,8 @@ private:
     QDBusConnection bus_;
 };
 
-class QtWhereaboutsTest : public testing::Test {
+class QtWhereaboutsTest : public PrivateBus {
 protected:
-    QtWhereaboutsTest() : bus_(StartBus()) {}
-
-    ~QtWhereaboutsTest() override {
-        for (const char* name : {"client", "service"}) {
-            QDBusConnection::disconnectFromBus(QLatin1String(name));
-        }
-    }
-
-    QDBusConnection Connect(const char* name) const {
-        return QDBusConnection::connectToBus(Address(), QLatin1String(name));
-    }
-
-    /// Runs the event loop until something is so, within a limit.
-    static bool Until(const std::function<bool()>& isSo) {
-        QElapsedTimer watch;
-        watch.start();
-        while (!isSo() && watch.elapsed() < 10000) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        }
-        return isSo();
-    }
-
     void Ask(QtWhereabouts& whereabouts) {
         whereabouts.Locate([this](const std::optional<EarthPosition>& point) {
             ++answers;
@@ -109,20 +82,6 @@ protected:
 
     int answers = 0;
     std::optional<EarthPosition> answer;
-
-private:
-    QString Address() const { return QString::fromStdString("unix:path=" + folder_ / "bus"); }
-
-    ChildProcess StartBus() const {
-        ChildProcess bus(
-            {"dbus-daemon", "--session", "--nofork", "--address=" + Address().toStdString()}, {},
-            folder_ / "out", folder_ / "err");
-        EXPECT_TRUE(Until([this] { return std::filesystem::exists(folder_ / "bus"); }));
-        return bus;
-    }
-
-    TemporaryFolder folder_;
-    ChildProcess bus_;
 };
 
 TEST_F(QtWhereaboutsTest, ServiceIsThereOnlyIfTheBusKnowsIt) {

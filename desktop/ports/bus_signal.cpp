@@ -1,0 +1,11 @@
+#include "desktop/ports/bus_signal.h"
+
+#include "desktop/fault_box.h"
+
+namespace horavex {
+
+void BusSignal::Arrive(const QDBusMessage& message) {
+    RunGuarded([&] { take_(message); });
+}
+
+}  // namespace horavex

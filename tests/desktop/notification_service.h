@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QStringList>
+#include <QVariantMap>
+#include <vector>
+
+namespace horavex {
+
+/// What a notification service was asked to show.
+struct ShownNotice {
+    uint replaced;
+    std::string title;
+    std::string text;
+    QStringList actions;
+    QVariantMap hints;
+    int milliseconds;
+};
+
+/// A notification service on a bus of the test, which keeps what it is asked for.
+class NotificationService : public QDBusVirtualObject {
+public:
+    explicit NotificationService(QDBusConnection bus) : bus_(std::move(bus)) {
+        bus_.registerVirtualObject(kPath, this);
+        bus_.registerService(kName);
+    }
+
+    ~NotificationService() override {
+        bus_.unregisterService(kName);
+        bus_.unregisterObject(kPath);
+    }
+
+    QString introspect(const QString&) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        const QString method = message.member();
+        if (method == QLatin1String("Notify")) {
+            notifies.push_back(message);
+            shown.push_back(ToShow(message.arguments()));
+            if (!isSlow) {
+                AnswerNotify();
+            }
+        } else if (method == QLatin1String("CloseNotification")) {
+            closed.push_back(message.arguments().value(0).toUInt());
+            bus.send(message.createReply());
+        } else if (method == QLatin1String("GetCapabilities")) {
+            ++questions;
+            bus.send(message.createReply(QVariantList{abilities}));
+        } else {
+            bus.send(message.createErrorReply(QDBusError::UnknownMethod, method));
+        }
+        return true;
+    }
+
+    /// Tells the number of the last notice.
+    void AnswerNotify() {
+        const uint replaced = shown.back().replaced;
+        number = replaced != 0 ? replaced : ++newest_;
+        bus_.send(notifies.back().createReply(number));
+    }
+
+    void Signal(const char* name, const QVariantList& arguments) {
+        QDBusMessage signal = QDBusMessage::createSignal(kPath, kName, QLatin1String(name));
+        signal.setArguments(arguments);
+        bus_.send(signal);
+    }
+
+    std::vector<ShownNotice> shown;
+    std::vector<uint> closed;
+    std::vector<QDBusMessage> notifies;
+    QStringList abilities = {"actions", "body", "body-markup"};
+    int questions = 0;    // for the abilities
+    uint number = 0;      // that was told last
+    bool isSlow = false;  // a test tells the numbers
+
+private:
+    static ShownNotice ToShow(const QVariantList& arguments) {
+        return {arguments.at(1).toUInt(),
+                arguments.at(3).toString().toStdString(),
+                arguments.at(4).toString().toStdString(),
+                arguments.at(5).toStringList(),
+                qdbus_cast<QVariantMap>(arguments.at(6)),
+                arguments.at(7).toInt()};
+    }
+
+    inline static const QString kName = QStringLiteral("org.freedesktop.Notifications");
+    inline static const QString kPath = QStringLiteral("/org/freedesktop/Notifications");
+
+    QDBusConnection bus_;
+    uint newest_ = 6;
+};
+
+}  // namespace horavex
