@@ -38,7 +38,8 @@ void PostToProgramThread(std::function<void()> event) {
 }  // namespace
 
 DesktopPlatform::DesktopPlatform()
-    : folder_(FindProgramFolder(files_)),
+    : eventLoop_([this] { LeaveSession(); }),
+      folder_(FindProgramFolder(files_)),
       beep_(PostToProgramThread, QApplication::beep),
       dialogs_([this] { beep_.Sound(); }),
       registry_(FindRegistry(files_)),
@@ -54,6 +55,14 @@ DesktopPlatform::DesktopPlatform()
 
 DesktopPlatform::~DesktopPlatform() {
     InstallPlatform(nullptr);
+}
+
+/// The process is about to end: nothing of it stays on view, and nobody waits for it any more.
+void DesktopPlatform::LeaveSession() {
+    notices_.Withdraw(NoticeKind::kPrayer);
+    notices_.Withdraw(NoticeKind::kMissed);
+    mediaPlayers_.GoOnAtOnce();
+    Flush(QDBusConnection::sessionBus());
 }
 
 Layouts DesktopPlatform::AllLayouts() {

@@ -7,7 +7,9 @@
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/ports/qt_formats.h"
+#include "desktop/ports/qt_media_players.h"
 #include "desktop/ports/qt_network.h"
+#include "desktop/ports/qt_notices.h"
 #include "desktop/ports/qt_shell.h"
 #include "desktop/ports/qt_tray.h"
 #include "desktop/ports/qt_whereabouts.h"
@@ -35,6 +37,7 @@ public:
 
 private:
     Layouts AllLayouts();
+    void LeaveSession();
 
     SystemClock clock_;
     QtEventLoop eventLoop_;
@@ -56,8 +59,8 @@ private:
     PulsePlayer audioPlayer_;
     ZoneDatabase zoneRules_;
     QtWhereabouts whereabouts_;
-    AbsentNotices notices_;
-    AbsentMediaPlayers mediaPlayers_;
+    QtNotices notices_;
+    QtMediaPlayers mediaPlayers_;
     AbsentSession session_;
     Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,   dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,

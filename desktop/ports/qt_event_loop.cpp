@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <chrono>
 #include <thread>
+#include <utility>
 
 namespace horavex {
 
@@ -14,7 +15,7 @@ constexpr qint64 kShortestGap = 5;  // milliseconds
 
 }  // namespace
 
-QtEventLoop::QtEventLoop() {
+QtEventLoop::QtEventLoop(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {
     wakeUp_.setSingleShot(true);
     wakeUp_.setTimerType(Qt::PreciseTimer);
 }
@@ -40,6 +41,7 @@ void QtEventLoop::Sleep(int milliseconds) {
 }
 
 void QtEventLoop::EndProcess() {
+    onEnd_();
     ::_exit(0);
 }
 

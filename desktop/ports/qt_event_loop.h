@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <QTimer>
+#include <functional>
 
 #include "platform/event_loop.h"
 
@@ -10,7 +11,8 @@ namespace horavex {
 /// The loop of the toolkit. Both waits deliver input, timers and repaints alike.
 class QtEventLoop : public EventLoop {
 public:
-    QtEventLoop();
+    /// onEnd comes right before the end of the process.
+    explicit QtEventLoop(std::function<void()> onEnd = [] {});
 
     /// Of pumps in quick succession, one in five milliseconds delivers.
     void Pump() override;
@@ -21,6 +23,7 @@ public:
     [[noreturn]] void EndProcess() override;
 
 private:
+    const std::function<void()> onEnd_;
     QTimer wakeUp_;  // an event of its own when no other comes
     QElapsedTimer sincePump_;
 };

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <cstdio>
 
 namespace horavex {
 namespace {
@@ -79,6 +80,12 @@ TEST(QtEventLoopDeathTest, EndOfTheProcessRunsNoDestructor) {
             QtEventLoop().EndProcess();
         },
         testing::ExitedWithCode(0), "");
+}
+
+TEST(QtEventLoopDeathTest, EndOfTheProcessIsToldBeforeIt) {
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    EXPECT_EXIT(QtEventLoop([] { std::fputs("farewell", stderr); }).EndProcess(),
+                testing::ExitedWithCode(0), "farewell");
 }
 
 }  // namespace
