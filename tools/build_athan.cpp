@@ -10,6 +10,8 @@
 
 #include "base/fault.h"
 #include "lib/data_writer.h"
+#include "lib/instruments.h"
+#include "lib/mastering.h"
 #include "lib/room.h"
 
 namespace {
@@ -56,7 +58,9 @@ void WriteSound(const std::string& path, const StereoSound& sound) {
 }
 
 void Build(char** arguments) {
-    const StereoSound sound = PlayInRoom(PlayScore(ReadScore(arguments[0])));
+    const Score score = ReadScore(arguments[0]);
+    const StereoSound sound =
+        Master(PlayInRoom(PlayScore(score), score.tail), LengthOf(score) + score.tail, score.tail);
     WriteSound(arguments[1], sound);
     std::cout << sound.left.size() / kPlayedRate << " seconds\n";
 }

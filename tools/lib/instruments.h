@@ -1,22 +1,25 @@
 #pragma once
 
-#include <vector>
+#include <span>
 
 #include "lib/score.h"
+#include "lib/waves.h"
 
 namespace horavex {
 
-/// Moments a second of all that is played here.
-inline constexpr int kPlayedRate = 44100;
+/// The sound of notes that one breath or one stroke holds, from the start of the first on, with
+/// what rings on behind them. It begins and ends at silence, and the same notes always sound alike.
+Sound PlayFlute(std::span<const Note> breath);
+Sound PlayChoir(std::span<const Note> breath);
+Sound PlayDrone(std::span<const Note> breath);
+Sound PlayOud(const Note& note);
+Sound PlaySantur(const Note& note);
+Sound PlayBell(const Note& note);
 
-/// One channel of sound, full scale at 1.
-using Sound = std::vector<double>;
+/// What an instrument plays, its notes starting anywhere: from the beginning of the first.
+Sound PlayNotes(Instrument instrument, std::span<const Note> notes);
 
-/// The sound of one note from its start on, with what rings on behind its length. It begins and
-/// ends at silence, and the same note always sounds alike.
-Sound PlayNote(Instrument instrument, const Note& note);
-
-/// All voices together, as loud as they come.
-Sound PlayScore(const Score& score);
+/// All voices together, each at its place, as loud as they come.
+StereoSound PlayScore(const Score& score);
 
 }  // namespace horavex

@@ -1,18 +1,10 @@
 #pragma once
 
-#include "lib/instruments.h"
+#include "lib/waves.h"
 
 namespace horavex {
 
-/// Two channels of one length.
-struct StereoSound {
-    Sound left;
-    Sound right;
-};
-
-/// The sound in a large, soft room, which answers a little differently from either side, faded at
-/// both ends; its loudest moment at kLoudest of full scale.
-StereoSound PlayInRoom(const Sound& dry);
-inline constexpr double kLoudest = 0.7;
+/// The sound in a large, soft room, which goes on answering for the tail, in seconds.
+StereoSound PlayInRoom(const StereoSound& dry, double tail);
 
 }  // namespace horavex
