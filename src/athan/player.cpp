@@ -19,6 +19,8 @@ std::int16_t fileOpen = kFalse;
 std::int16_t playing = kFalse;  // a pause included
 std::int32_t blockBytes = 0;    // one second of the open file, the size of one read
 std::int32_t playedBytes = 0;   // where a pause has stopped, from the beginning of the file
+std::int64_t readBytes = 0;     // where the next block begins, likewise
+Gain gain;                      // of the open file
 
 const ProgramStateReset reset([] {
     fileOpen = kFalse;
@@ -26,6 +28,8 @@ const ProgramStateReset reset([] {
     Paused = kFalse;
     blockBytes = 0;
     playedBytes = 0;
+    readBytes = 0;
+    gain = {};
 });
 
 constexpr int kBlockMs = 1000;
@@ -41,6 +45,17 @@ std::int32_t ToPosition(std::int64_t bytes) {
 bool OpenSound(const std::string& path) {
     AudioFile& file = Ports().audioFile;
     return !path.empty() && file.Open(path) == 0 && file.HasAudio();
+}
+
+/// Leaves a file without a rise untouched: what tells its length is a walk to its end.
+Gain GainOfOpenFile(const Loudness& loudness) {
+    AudioFile& file = Ports().audioFile;
+    std::int64_t length = 0;
+    if (loudness.fadeSeconds > 0) {
+        length = file.Seek(std::numeric_limits<std::int64_t>::max());
+        file.Seek(0);
+    }
+    return {loudness, file.SampleRate(), file.Format(), length};
 }
 
 void RemoveAthanWindow() {
@@ -60,6 +75,7 @@ void Resume() {
     Paused = kFalse;
     if (fileOpen != kFalse) {
         playedBytes = ToPosition(Ports().audioFile.Seek(playedBytes));
+        readBytes = playedBytes;
     }
     FeedAudio();
     FeedAudio();
@@ -78,7 +94,7 @@ bool IsPlaying() {
     return playing != kFalse;
 }
 
-void OpenFileForPlay(const std::string& path) {
+void OpenFileForPlay(const std::string& path, const Loudness& loudness) {
     StopPlay();
     CloseFile();
     if (!OpenSound(path)) {
@@ -88,6 +104,8 @@ void OpenFileForPlay(const std::string& path) {
     player.SetFormat(Ports().audioFile.SampleRate(), Ports().audioFile.Format());
     blockBytes = player.BytesFor(kBlockMs);
     fileOpen = kTrue;
+    readBytes = 0;
+    gain = GainOfOpenFile(loudness);
     StartPlay();
 }
 
@@ -114,9 +132,11 @@ void FeedAudio() {
     if (fileOpen == kFalse) {
         return;
     }
-    const Bytes block = Ports().audioFile.Read(blockBytes);
+    Bytes block = Ports().audioFile.Read(blockBytes);
     // Behind the last block the player's own end of play comes.
     if (block.size() >= kShortestBlock) {
+        gain.Apply(block, readBytes);
+        readBytes += static_cast<std::int64_t>(block.size());
         Ports().audioPlayer.Write(block);
     }
 }
@@ -139,6 +159,7 @@ void StopPlay() {
     playedBytes = 0;
     if (fileOpen != kFalse) {
         Ports().audioFile.Seek(0);
+        readBytes = 0;
     }
 }
 

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "athan/loudness.h"
+
 namespace horavex {
 
 /// The player of the one sound that can play at a time. It is closed; or open and playing, paused,
@@ -17,7 +19,8 @@ bool IsPlaying();
 
 /// Plays the file of that real path from its beginning, in place of what plays. A file that is
 /// missing, unreadable, of an unknown format or without audio leaves nothing playing, in silence.
-void OpenFileForPlay(const std::string& path);
+/// The loudness is of this file, however often it is started, and of no other.
+void OpenFileForPlay(const std::string& path, const Loudness& loudness = {});
 
 /// Starts the open file, or resumes it.
 void StartPlay();

@@ -41,10 +41,14 @@ std::string FullPath(const std::string& relativePath) {
 }
 
 void PlayFile(const std::string& path) {
+    PlayFileAt(path, {});
+}
+
+void PlayFileAt(const std::string& path, const Loudness& loudness) {
     if (Paused != kFalse) {
         PausePlay();
     } else {
-        OpenFileForPlay(path);
+        OpenFileForPlay(path, loudness);
     }
 }
 

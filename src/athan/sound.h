@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "athan/loudness.h"
+
 namespace horavex {
 
 /// What all sound buttons share.
@@ -11,6 +13,9 @@ std::string FullPath(const std::string& relativePath);
 
 /// Plays a file by its real path. While a sound pauses this resumes it instead, whatever the path.
 void PlayFile(const std::string& path);
+
+/// The same in a loudness, which a sound that is resumed keeps as it was.
+void PlayFileAt(const std::string& path, const Loudness& loudness);
 
 void StopSound();
 
