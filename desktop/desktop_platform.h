@@ -14,6 +14,7 @@
 #include "desktop/ports/qt_tray.h"
 #include "desktop/ports/qt_whereabouts.h"
 #include "desktop/ports/qt_windows.h"
+#include "desktop/ports/session_watch.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
@@ -22,7 +23,6 @@
 #include "linux/sound/sound_file.h"
 #include "linux/system_clock.h"
 #include "linux/zone_database.h"
-#include "platform/absent_desktop.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -61,7 +61,7 @@ private:
     QtWhereabouts whereabouts_;
     QtNotices notices_;
     QtMediaPlayers mediaPlayers_;
-    AbsentSession session_;
+    SessionWatch session_;
     Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,   dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,

@@ -1,13 +1,10 @@
 #include "desktop/ports/notification_area.h"
 
-#include <xcb/xcb.h>
-
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QGuiApplication>
-#include <cstdlib>
-#include <memory>
 #include <utility>
+
+#include "desktop/ports/display.h"
 
 namespace horavex {
 
@@ -21,26 +18,15 @@ bool HasStatusNotifier() {
            bus.interface()->isServiceRegistered(QStringLiteral("org.kde.StatusNotifierWatcher"));
 }
 
-template <class Reply>
-std::unique_ptr<Reply, decltype(&std::free)> Owned(Reply* reply) {
-    return {reply, &std::free};
-}
-
 // The host of icons owns this selection of the display.
 bool HasXEmbedHost() {
-    const auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* display = x11 == nullptr ? nullptr : x11->connection();
-    if (display == nullptr) {  // the platform without a screen knows of displays and has none
-        return false;
-    }
-    constexpr std::string_view kSelection = "_NET_SYSTEM_TRAY_S0";
-    const auto atom = Owned(xcb_intern_atom_reply(
-        display, xcb_intern_atom(display, 0, kSelection.size(), kSelection.data()), nullptr));
-    if (!atom) {
+    xcb_connection_t* display = Display();
+    if (display == nullptr) {
         return false;
     }
     const auto owner = Owned(xcb_get_selection_owner_reply(
-        display, xcb_get_selection_owner(display, atom->atom), nullptr));
+        display, xcb_get_selection_owner(display, AtomOf(display, "_NET_SYSTEM_TRAY_S0")),
+        nullptr));
     return owner && owner->owner != XCB_NONE;
 }
 

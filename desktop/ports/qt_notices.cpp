@@ -11,6 +11,9 @@ namespace {
 constexpr const char* kService = "org.freedesktop.Notifications";
 constexpr const char* kPath = "/org/freedesktop/Notifications";
 
+// The reason of a notice's end that means the user.
+constexpr uint kDismissed = 2;
+
 // What the toolkit takes an activation from.
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
 
@@ -78,6 +81,7 @@ void QtNotices::Send(NoticeKind kind) {
     Place& place = places_[kind];
     place.isSent = true;
     place.isAwaited = true;
+    place.isPressed = false;
     service_.Ask(context_, "Notify",
                  NotifyArguments(kind, *place.wanted, place.number, *abilities_),
                  [this, kind, &place](const QDBusMessage& answer) {
@@ -108,18 +112,32 @@ void QtNotices::Act(const QDBusMessage& signal) {
     if (!kind || !onAction) {
         return;
     }
+    places_[*kind].isPressed = true;
     if (key == QLatin1String(kStopKey)) {
         onAction(*kind, NoticeAction::kStop);
     } else if (key == QLatin1String(kOpenKey) || key == QLatin1String(kClickKey)) {
-        qputenv(kTokenVariable, token.toUtf8());
-        onAction(*kind, NoticeAction::kOpen);
-        qunsetenv(kTokenVariable);
+        Open(*kind, token);
     }
 }
 
+void QtNotices::Open(NoticeKind kind, const QString& token) const {
+    qputenv(kTokenVariable, token.toUtf8());
+    onAction(kind, NoticeAction::kOpen);
+    qunsetenv(kTokenVariable);
+}
+
+// Some services put a notice away behind a press of its buttons, which is not the user's doing; nor
+// has the user seen the text that is on its way.
 void QtNotices::Close(const QDBusMessage& signal) {
-    if (const std::optional<NoticeKind> kind = KindOf(signal)) {
-        places_[*kind].number = 0;
+    const std::optional<NoticeKind> kind = KindOf(signal);
+    if (!kind) {
+        return;
+    }
+    Place& place = places_[*kind];
+    place.number = 0;
+    const bool isUsers = signal.arguments().value(1).toUInt() == kDismissed;
+    if (isUsers && !place.isPressed && !place.isAwaited && onAction) {
+        onAction(*kind, NoticeAction::kDismiss);
     }
 }
 

@@ -29,6 +29,7 @@ private:
         bool isSent = false;     // what is wanted
         bool isAwaited = false;  // the service has not yet told the number
         uint number = 0;         // of the one on view
+        bool isPressed = false;  // the user has pressed a button of it
     };
 
     void Look(const QDBusConnection& bus);
@@ -37,6 +38,7 @@ private:
     void Send(NoticeKind kind);
     void AskAbilities();
     void Act(const QDBusMessage& signal);
+    void Open(NoticeKind kind, const QString& token) const;
     void Close(const QDBusMessage& signal);
 
     /// The kind of the notice that a signal is about; none for those of others.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QStringList>
 #include <QVariantMap>
+#include <optional>
 #include <vector>
 
 namespace horavex {
@@ -48,6 +51,9 @@ public:
         } else if (method == QLatin1String("GetCapabilities")) {
             ++questions;
             bus.send(message.createReply(QVariantList{abilities}));
+        } else if (method == QLatin1String("Get") && inhibited) {
+            ++looks;
+            bus.send(message.createReply(QVariant::fromValue(QDBusVariant(*inhibited))));
         } else {
             bus.send(message.createErrorReply(QDBusError::UnknownMethod, method));
         }
@@ -61,19 +67,31 @@ public:
         bus_.send(notifies.back().createReply(number));
     }
 
-    void Signal(const char* name, const QVariantList& arguments) {
-        QDBusMessage signal = QDBusMessage::createSignal(kPath, kName, QLatin1String(name));
+    void Signal(const char* name, const QVariantList& arguments, const QString& interface = kName) {
+        QDBusMessage signal = QDBusMessage::createSignal(kPath, interface, QLatin1String(name));
         signal.setArguments(arguments);
         bus_.send(signal);
+    }
+
+    /// The user turns "Do Not Disturb" on or off, which is told with the value or without.
+    void Inhibit(bool wish, bool tellsValue = true) {
+        inhibited = wish;
+        const QVariantMap values = {{"Inhibited", wish}};
+        Signal("PropertiesChanged",
+               {kName, tellsValue ? values : QVariantMap(),
+                tellsValue ? QStringList() : QStringList("Inhibited")},
+               QStringLiteral("org.freedesktop.DBus.Properties"));
     }
 
     std::vector<ShownNotice> shown;
     std::vector<uint> closed;
     std::vector<QDBusMessage> notifies;
     QStringList abilities = {"actions", "body", "body-markup"};
-    int questions = 0;    // for the abilities
-    uint number = 0;      // that was told last
-    bool isSlow = false;  // a test tells the numbers
+    int questions = 0;              // for the abilities
+    std::optional<bool> inhibited;  // the property; none for a service without it
+    int looks = 0;                  // at the property
+    uint number = 0;                // that was told last
+    bool isSlow = false;            // a test tells the numbers
 
 private:
     static ShownNotice ToShow(const QVariantList& arguments) {

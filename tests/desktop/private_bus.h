@@ -9,52 +9,80 @@
 #include <functional>
 #include <set>
 
+#include "desktop/ports/bus_object.h"
 #include "support/child_process.h"
 #include "support/run_program.h"
 #include "support/temporary_folder.h"
 
 namespace horavex {
 
-/// A bus of the test's own, and the event loop that its messages come by.
-class PrivateBus : public testing::Test {
-protected:
-    ~PrivateBus() override {
+/// Runs the event loop until something is so, within a limit.
+inline bool Until(const std::function<bool()>& isSo) {
+    QElapsedTimer watch;
+    watch.start();
+    while (!isSo() && watch.elapsed() < 10000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    return isSo();
+}
+
+/// A bus of a test, which ends with it.
+class TestBus {
+    TemporaryFolder folder_;
+    ChildProcess daemon_;
+    std::set<QString> names_;
+
+public:
+    TestBus()
+        : daemon_({"dbus-daemon", "--session", "--nofork", "--address=" + Address()}, {},
+                  folder_ / "out", folder_ / "err") {
+        EXPECT_TRUE(Until([this] { return std::filesystem::exists(folder_ / "bus"); }));
+    }
+
+    ~TestBus() {
         for (const QString& name : names_) {
             QDBusConnection::disconnectFromBus(name);
         }
     }
 
-    /// Connects under a name, which tells the test's connections apart.
+    TestBus(const TestBus&) = delete;
+    TestBus& operator=(const TestBus&) = delete;
+
+    /// Connects under a name, which tells the process's connections apart.
     QDBusConnection Connect(const char* name) {
         names_.insert(QLatin1String(name));
-        return QDBusConnection::connectToBus(Address(), QLatin1String(name));
+        return QDBusConnection::connectToBus(QString::fromStdString(Address()),
+                                             QLatin1String(name));
     }
 
-    /// Runs the event loop until something is so, within a limit.
-    static bool Until(const std::function<bool()>& isSo) {
-        QElapsedTimer watch;
-        watch.start();
-        while (!isSo() && watch.elapsed() < 10000) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    /// Everything that was sent has arrived, and so has what it was answered with. A round takes
+    /// each message where it goes: onto the bus, off it, and to whom it is for.
+    void Settle() {
+        constexpr int kRounds = 8;
+        for (int round = 0; round < kRounds; ++round) {
+            FlushAll();
+            FlushAll();
+            QCoreApplication::processEvents();
         }
-        return isSo();
     }
-
-    TemporaryFolder folder;
 
 private:
-    QString Address() const { return QString::fromStdString("unix:path=" + folder / "bus"); }
-
-    ChildProcess StartBus() const {
-        ChildProcess bus(
-            {"dbus-daemon", "--session", "--nofork", "--address=" + Address().toStdString()}, {},
-            folder / "out", folder / "err");
-        EXPECT_TRUE(Until([this] { return std::filesystem::exists(folder / "bus"); }));
-        return bus;
+    void FlushAll() const {
+        for (const QString& name : names_) {
+            Flush(QDBusConnection(name));
+        }
     }
 
-    ChildProcess bus_ = StartBus();
-    std::set<QString> names_;
+    std::string Address() const { return "unix:path=" + folder_ / "bus"; }
+};
+
+class PrivateBus : public testing::Test {
+protected:
+    QDBusConnection Connect(const char* name) { return bus_.Connect(name); }
+    void Settle() { bus_.Settle(); }
+
+private:
+    TestBus bus_;
 };
 
 }  // namespace horavex

@@ -15,16 +15,6 @@ using testing::Not;
 
 class QtMediaPlayersTest : public PrivateBus {
 protected:
-    /// Runs the event loop until all that was sent, and what it was answered with, has arrived.
-    void Settle() {
-        for (int round = 0; round < 3; ++round) {
-            for (const char* name : {"client", "music", "film", "radio"}) {
-                Flush(Connect(name));
-                QCoreApplication::processEvents();
-            }
-        }
-    }
-
     void PauseAll() {
         players.PauseAll();
         Settle();
@@ -82,10 +72,8 @@ TEST_F(QtMediaPlayersTest, EndBeforeAllAnswersLeavesNobodyPaused) {
 }
 
 TEST_F(QtMediaPlayersTest, OneThatHasNotYetPausedGoesOnRightBehindThePause) {
-    players.PauseAll();
-    ASSERT_TRUE(Until([&] { return music.calls.size() == 1; }));
-    music.isDead = true;
-    Settle();
+    music.diesBehind = "Get";
+    PauseAll();
     ASSERT_THAT(music.calls, ElementsAre("Get", "Pause"));
     GoOn();
     music.ComeAlive();
@@ -112,10 +100,8 @@ TEST_F(QtMediaPlayersTest, OneThatTheUserHasStartedAndPausedAgainStaysPaused) {
 }
 
 TEST_F(QtMediaPlayersTest, WhatAPlayerTellsBeforeItPausesIsNotTheUsersDoing) {
-    players.PauseAll();
-    ASSERT_TRUE(Until([&] { return music.calls.size() == 1; }));
-    music.isDead = true;
-    Settle();
+    music.diesBehind = "Get";
+    PauseAll();
     music.Become("Playing");
     music.ComeAlive();
     Settle();
@@ -128,13 +114,11 @@ TEST_F(QtMediaPlayersTest, OneThatIsGoneIsForgotten) {
     {
         ScriptedPlayer game(Connect("game"), "game", "Playing");
         PauseAll();
-        ASSERT_TRUE(Until([&] { return game.status == "Paused"; }));
+        ASSERT_EQ(game.status, "Paused");
         QDBusConnection::disconnectFromBus(QStringLiteral("game"));
     }
     ScriptedPlayer game(Connect("game 2"), "game", "Paused");
     GoOn();
-    Flush(Connect("game 2"));
-    QCoreApplication::processEvents();
     EXPECT_THAT(game.calls, testing::IsEmpty());
     EXPECT_EQ(music.status, "Playing");
 }
@@ -170,8 +154,6 @@ TEST_F(QtMediaPlayersTest, OneOfTwoNamesIsPausedOnce) {
 TEST_F(QtMediaPlayersTest, OneThatSpeaksForOthersIsNoPlayer) {
     ScriptedPlayer deputy(Connect("deputy"), "playerctld", "Playing");
     PauseAll();
-    Flush(Connect("deputy"));
-    QCoreApplication::processEvents();
     EXPECT_THAT(deputy.calls, testing::IsEmpty());
 }
 
@@ -181,7 +163,8 @@ TEST_F(QtMediaPlayersTest, EndOfTheProgramWaitsForNoAnswer) {
     Settle();
     players.GoOn();
     players.GoOnAtOnce();
-    ASSERT_TRUE(Until([&] { return music.status == "Playing"; }));
+    Settle();
+    EXPECT_EQ(music.status, "Playing");
     EXPECT_EQ(film.status, "Stopped");
     EXPECT_THAT(radio.calls, ElementsAre("Get"));
 }

@@ -41,15 +41,6 @@ protected:
         Settle();
     }
 
-    /// What was sent before has been handled: the bus keeps the order.
-    void Settle() {
-        for (const char* name : {"client", "service", "service", "client"}) {
-            Flush(Connect(name));
-            QCoreApplication::processEvents();
-            QCoreApplication::sendPostedEvents();
-        }
-    }
-
     void Signal(const char* name, const QVariantList& arguments) {
         service->Signal(name, arguments);
         Settle();
@@ -187,7 +178,7 @@ TEST_F(QtNoticesTest, ActionsOnOthersNoticesAreNotOurs) {
     Signal("ActionInvoked", {0U, "stop"});
     Show(kAthan);
     Signal("ActionInvoked", {service->number + 1, "stop"});
-    Signal("NotificationClosed", {service->number, 2U});
+    Signal("NotificationClosed", {service->number, 1U});
     Signal("ActionInvoked", {service->number, "stop"});
     Signal("ActionInvoked", {0U, "stop"});
     Signal("ActionInvoked", {});
@@ -202,6 +193,35 @@ TEST_F(QtNoticesTest, ClosedOneIsNotReplacedAndNotClosedAgain) {
     Show(kAthan);
     EXPECT_EQ(service->shown.back().replaced, 0U);
     EXPECT_THAT(service->closed, IsEmpty());
+}
+
+TEST_F(QtNoticesTest, OneThatTheUserPutsAwayTellsSo) {
+    MakeNotices();
+    Show(kAthan);
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kPrayer, NoticeAction::kDismiss)));
+}
+
+TEST_F(QtNoticesTest, OneThatGoesByItselfOrBehindAPressOfItsButtonIsNotPutAwayByTheUser) {
+    MakeNotices();
+    Show(kReminder);
+    Signal("NotificationClosed", {service->number, 1U});
+    Show(kAthan);
+    Signal("ActionInvoked", {service->number, "open"});
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kPrayer, NoticeAction::kOpen)));
+    Show(kReminder);
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_EQ(actions.back().second, NoticeAction::kDismiss);
+}
+
+TEST_F(QtNoticesTest, PuttingAwayAReminderIsNoWordOnTheAthanThatIsOnItsWay) {
+    MakeNotices();
+    Show(kReminder);
+    service->isSlow = true;
+    Show(kAthan);
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_THAT(actions, IsEmpty());
 }
 
 TEST_F(QtNoticesTest, WindowsThatAnActionOpensMayComeToTheFront) {

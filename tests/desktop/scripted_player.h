@@ -29,6 +29,7 @@ public:
             held.push_back(message);
         } else {
             Answer(message);
+            isDead = message.member() == diesBehind;
         }
         return true;
     }
@@ -36,6 +37,7 @@ public:
     /// Answers what it has held back, in order, and lives on.
     void ComeAlive() {
         isDead = false;
+        diesBehind.clear();
         for (const QDBusMessage& message : std::exchange(held, {})) {
             Answer(message);
         }
@@ -54,6 +56,7 @@ public:
 
     QString status;
     bool isDead = false;             // answers nothing
+    QString diesBehind;              // the method that it answers last
     std::vector<std::string> calls;  // "Get" for a question
     std::vector<QDBusMessage> held;
 
