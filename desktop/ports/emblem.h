@@ -8,4 +8,7 @@ namespace horavex {
 /// notification areas and window managers ask for.
 QIcon Emblem();
 
+/// The same while athans are silenced: grey like a thing at rest, and struck out.
+QIcon QuietEmblem();
+
 }  // namespace horavex

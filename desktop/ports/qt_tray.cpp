@@ -54,9 +54,15 @@ void QtTray::SetTip(const std::string& tip) {
     }
 }
 
+void QtTray::SetQuiet(bool quiet) {
+    if (std::exchange(isQuiet_, quiet) != quiet && icon_) {
+        icon_->setIcon(quiet ? QuietEmblem() : Emblem());
+    }
+}
+
 void QtTray::Appear(AreaKind kind) {
     kind_ = kind;
-    icon_ = std::make_unique<QSystemTrayIcon>(Emblem());
+    icon_ = std::make_unique<QSystemTrayIcon>(isQuiet_ ? QuietEmblem() : Emblem());
     icon_->setToolTip(tip_);
     connect(icon_.get(), &QSystemTrayIcon::activated, this, &QtTray::Activated);
     if (kind == AreaKind::kStatusNotifier) {

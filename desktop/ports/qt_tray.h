@@ -23,7 +23,7 @@ public:
     void Add(const std::string& tip) override;
     void Remove() override;
     void SetTip(const std::string& tip) override;
-    void SetQuiet(bool) override {}
+    void SetQuiet(bool quiet) override;
     bool HasHost() override { return area_.Present() != AreaKind::kNone; }
 
 protected:
@@ -45,6 +45,7 @@ private:
     QString tip_;
     QElapsedTimer sinceClick_;
     bool awaitsRightUp_ = false;
+    bool isQuiet_ = false;
     QMenu menu_;
     // Made when there is an area to show it: the toolkit settles on a kind of area for good.
     std::unique_ptr<QSystemTrayIcon> icon_;
