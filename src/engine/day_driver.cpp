@@ -1,6 +1,5 @@
 #include "engine/day_driver.h"
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -18,6 +17,7 @@
 #include "engine/progress_window.h"
 #include "engine/ruled_year.h"
 #include "engine/sun.h"
+#include "engine/table_row.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
 #include "engine/zone_spans.h"
@@ -93,14 +93,6 @@ void RefreshAfterGap() {
     }
 }
 
-/// None where the year has turned since the table was made.
-std::optional<std::size_t> RowOf(Date day) {
-    if (CivilFromDate(day).year != CurrentYear) {
-        return std::nullopt;
-    }
-    return static_cast<std::size_t>(day - DateSerial(CurrentYear, 1, 1));
-}
-
 void TakeTimes(const DayMoments& moments) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         TodayTimes[prayer] = moments[prayer].hours / 24.0;
@@ -111,19 +103,6 @@ void TakeNextPrayer(const NextMoment& next) {
     if (NextPrayer == -1) {
         NextPrayer = next.isTomorrows ? kNoPrayerLeft : next.prayer;
     }
-}
-
-/// The row of the next day. Row 365 has no next one and serves itself. Without rules a common
-/// year's last day looks at row 365, which holds what a leap year before has left there.
-std::size_t RowAfter(std::size_t row) {
-    const bool isBare = RuledYear.rules.moments == MomentRules{};
-    const std::size_t last = isBare || LeapFlag == 1 ? kYearRows - 1 : kYearRows - 2;
-    return std::min(row + 1, last);
-}
-
-/// The first day of the year serves as its own yesterday.
-std::size_t RowBefore(std::size_t row) {
-    return row > 0 ? row - 1 : row;
 }
 
 /// Hours that the city's clock is ahead of Greenwich, where a zone's clock counts.

@@ -40,6 +40,8 @@ struct DayView {
 
     std::string clocks;  // both offsets in words where this computer's clock is another
 
+    std::string iqama;  // the countdown to an iqama that is ahead, in words
+
     // Moments of the days beside it that the clock reaches on this one, in its own hours, in order.
     std::vector<PrayerMoment> late;   // of the day before, past midnight
     std::vector<PrayerMoment> early;  // of the day after, before midnight
