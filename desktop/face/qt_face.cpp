@@ -26,7 +26,8 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {
         view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
-        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(day.clocks));
+        const std::string& line = day.iqama.empty() ? day.clocks : day.iqama;
+        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(line));
         view->ExplainTimes(
             QString::fromStdString(RuleNote(day.moments, RuledYear.rules.moments.highLatitude)));
     }

@@ -1,8 +1,12 @@
 #include "athan/athan_alert.h"
 
+#include "athan/arrivals.h"
+#include "athan/athan_notice.h"
 #include "athan/athan_state.h"
+#include "athan/athan_watch.h"
 #include "athan/azan_window.h"
-#include "athan/sound.h"
+#include "athan/player.h"
+#include "athan/prayer_sound.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
@@ -81,7 +85,7 @@ void SoundAlarm(double start) {
     fMessage->Unload();
 }
 
-void BringAthanWindowUp(Alert alert) {
+void BringWindowUp(Alert alert) {
     frmAzan->Load();
     frmAzan->prayerIndex = alert;
     if (alert != Alert::kAthanNow) {
@@ -90,20 +94,31 @@ void BringAthanWindowUp(Alert alert) {
     ShowMe();
 }
 
+/// An athan that the user asks for has its window alone, whatever shows that of a prayer.
+void BringAthanUp(Alert alert) {
+    const bool isAskedFor = alert == Alert::kAthanNow;
+    const bool hasWindow = isAskedFor || AthanHasWindow();
+    StopTone();
+    if (!isAskedFor && AthanHasNotice()) {
+        ShowAthanNotice(static_cast<Prayer>(alert), LastAthanMoment(), !hasWindow);
+    }
+    if (hasWindow) {
+        BringWindowUp(alert);
+    } else {
+        athanActive = kTrue;
+    }
+}
+
 /// Only an athan of sound that has been accepted is heard; a buzzer is as silent as mute.
 void PlayAthan(Alert alert) {
-    if (ActiveSettings.AthanType != kSoundAthan || Settings.AthanType != kSoundAthan) {
-        return;
-    }
-    if (alert == Alert::kFajr) {
-        Fagr_Athan_Sound_Click();
-    } else {
-        Athan_Sound_Click();
+    if (ActiveSettings.AthanType == kSoundAthan && Settings.AthanType == kSoundAthan) {
+        PauseOtherPlayers();
+        PlayPrayerSound(alert);
     }
 }
 
 void SoundAthan(Alert alert, double start) {
-    BringAthanWindowUp(alert);
+    BringAthanUp(alert);
     soundDue = start + kBeforeSound + kTick;
     WaitUntil(start, kBeforeSound);
     soundDue = 0.0;

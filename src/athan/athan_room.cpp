@@ -5,6 +5,7 @@
 #include "athan/azan_window.h"
 #include "athan/message_window.h"
 #include "athan/player.h"
+#include "athan/quiet.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
@@ -16,6 +17,7 @@ void BindAthanRoom() {
     BindAzanWindow();
     BindMessageWindow();
     BindAthanSettingsWindow();
+    BindQuiet();
     frmMain->mnuThanNow.onClick = [] { sub04F9(Alert::kAthanNow); };
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };
     HoravexMainForm->cmdAthan.onClick = [] { frmAthan->ShowModal(&*HoravexMainForm); };

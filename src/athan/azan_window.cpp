@@ -41,14 +41,6 @@ void Timer1_Timer() {
     }
 }
 
-void StopAthan() {
-    athanActive = kFalse;
-    frmAzan->Timer1.SetEnabled(false);
-    frmAzan->SetTop(-Ports().windows.WorkArea().bottom);
-    Ports().windows.SetTopMost(frmAzan->Name(), false);
-    StopPlay();
-}
-
 void OnCommand(const std::string& command, const std::string&) {
     if (command == "IDC_FS_Stop") {
         StopAthan();
@@ -80,6 +72,14 @@ void ShowMe() {
     RunStep(PlaceBelowScreen);
     frmAzan->Timer1.SetEnabled(true);
     Ports().athanFace.Play();
+}
+
+void StopAthan() {
+    athanActive = kFalse;
+    frmAzan->Timer1.SetEnabled(false);
+    frmAzan->SetTop(-Ports().windows.WorkArea().bottom);
+    Ports().windows.SetTopMost(frmAzan->Name(), false);
+    StopPlay();
 }
 
 void BindAzanWindow() {

@@ -9,6 +9,10 @@ void SetAzanText();
 /// Brings the athan window up, from below the screen, and returns at once. It rises by itself.
 void ShowMe();
 
+/// What the button of the face does: the athan is over, its sound stops, and its window goes above
+/// the screen.
+void StopAthan();
+
 /// Binds the handlers of frmAzan. Its face has one command, to stop: the window then goes above
 /// the screen and stays loaded, until a sound has come to its end.
 void BindAzanWindow();

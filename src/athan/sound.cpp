@@ -60,12 +60,16 @@ void PauseSound() {
     PausePlay();
 }
 
+std::string ProgramAthanPath(bool isFajr) {
+    return FullPath((isFajr ? kFajrAthan : kOtherPrayers).played);
+}
+
 void Athan_Sound_Click() {
-    PlayFile(FullPath(kOtherPrayers.played));
+    PlayFile(ProgramAthanPath(false));
 }
 
 void Fagr_Athan_Sound_Click() {
-    PlayFile(FullPath(kFajrAthan.played));
+    PlayFile(ProgramAthanPath(true));
 }
 
 void CheckAthanFiles() {

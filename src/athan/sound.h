@@ -22,6 +22,9 @@ void StopSound();
 /// Pauses the sound, or resumes it.
 void PauseSound();
 
+/// The working copy of the sound of Fajr, or of the other prayers.
+std::string ProgramAthanPath(bool isFajr);
+
 /// Plays the sound of Zuhr, Asr, Maghrib and Isha.
 void Athan_Sound_Click();
 

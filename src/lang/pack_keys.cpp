@@ -83,6 +83,8 @@ const std::vector<PackSection>& PackVocabularies() {
          {"NextDay", "PreviousDay", "NextDayNote", "PreviousDayNote", "RuleNote", "RuleNone",
           "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest", "Imsak", "Duha", "MiddleOfNight",
           "LastThird"}},
+        {"notices",
+         {"PrayerAt", "InMinutes", "Iqama", "IqamaIn", "Missed", "Stop", "Open", "QuietUntil"}},
         {"adjustments",
          {"Custom", "UsualIn", "ByAngle", "AsOtherwise", "AtSunset", "Minutes", "Arithmetic",
           "UmmAlQura", "RuleNone", "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest",

@@ -1,5 +1,6 @@
 #include "shell/face_bridge.h"
 
+#include "athan/signals.h"
 #include "base/number_text.h"
 #include "calendar/current_calendar.h"
 #include "calendar/date_words.h"
@@ -86,6 +87,7 @@ void SetFlashVariables() {
     DayView day = ShownDay;
     day.place = PlaceOfFace();
     day.clocks = ClocksOfFace();
+    day.iqama = IqamaAhead(day.now);
     Ports().face.ShowDay(day);
 }
 

@@ -1,5 +1,6 @@
 #include "shell/menus.h"
 
+#include "athan/athan_watch.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
@@ -19,6 +20,7 @@ void PopUpAtPointer(const MenuItem& menu) {
 void mnuExit_Click() {
     SaveStoredLanguage(currentLanguage);
     TrayRemove();
+    LeaveSession();
     Ports().eventLoop.EndProcess();
 }
 

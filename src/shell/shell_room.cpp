@@ -1,5 +1,6 @@
 #include "shell/shell_room.h"
 
+#include "athan/athan_notice.h"
 #include "platform/platform.h"
 #include "shell/face_bridge.h"
 #include "shell/menus.h"
@@ -15,6 +16,12 @@ void BindShellRoom() {
     BindMenus();
     frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
     Ports().tray.onMessage = traypic_MouseMove;
+    Ports().session.onResume = [] {
+        if (frmMain->tmrUpdate.Enabled()) {
+            tmrUpdate_Timer();
+        }
+    };
+    BindNotices(BringFaceBack);
     Ports().face.onFSCommand = [](const std::string& command, const std::string&) {
         OnFaceCommand(command);
     };

@@ -2,8 +2,13 @@
 
 #include <optional>
 
+#include "athan/arrivals.h"
 #include "athan/athan_alert.h"
 #include "athan/athan_state.h"
+#include "athan/athan_watch.h"
+#include "athan/missed.h"
+#include "athan/quiet.h"
+#include "athan/signals.h"
 #include "base/int16.h"
 #include "base/rounding.h"
 #include "config/commit.h"
@@ -36,37 +41,41 @@ void FollowCalendar(const TickActions& actions) {
     }
 }
 
+/// A prayer within its ten seconds, with its moment in today's hours.
+struct Arrival {
+    Prayer prayer;
+    double hours;
+};
+
 /// Of moments whose own day is a neighbour of this one.
-std::optional<Alert> ArrivedOf(const std::vector<PrayerMoment>& moments) {
+std::optional<Arrival> ArrivedOf(const std::vector<PrayerMoment>& moments) {
     for (const auto& [prayer, moment] : moments) {
         if (HasArrived(moment.hours / 24.0)) {
-            return static_cast<Alert>(prayer);
+            return Arrival{prayer, moment.hours};
         }
     }
     return std::nullopt;
 }
 
 /// The first prayer that has arrived; of two within the window only the earlier one fires.
-std::optional<Alert> ArrivedPrayer() {
+std::optional<Arrival> ArrivedPrayer() {
     if (const auto late = ArrivedOf(ShownDay.late)) {
         return late;
     }
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
-            return static_cast<Alert>(prayer);
+            return Arrival{static_cast<Prayer>(prayer), TodayTimes[prayer] * 24.0};
         }
     }
     return ArrivedOf(ShownDay.early);
 }
 
 void TestPrayers(const TickActions& actions) {
-    const auto prayer = ArrivedPrayer();
-    if (!prayer) {
+    const auto arrival = ArrivedPrayer();
+    if (!arrival) {
         return;
     }
-    if (*prayer != Alert::kShurooq && athanActive == kFalse) {
-        actions.alert(*prayer);
-    }
+    ReceivePrayer(arrival->prayer, Ports().clock.Today() + arrival->hours / 24.0, actions.alert);
     // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
     ++NextPrayer;
 }
@@ -81,6 +90,15 @@ void TestAlarm(const TickActions& actions) {
     }
 }
 
+/// What goes with the prayers, by the time that it is behind them: an alert takes its seconds.
+void FollowAthan() {
+    WatchAthan();
+    const Date now = Ports().clock.Now();
+    TellSignals(now);
+    TellMissedPrayer(now);
+    ShowQuiet();
+}
+
 }  // namespace
 
 TickActions DefaultTickActions() {
@@ -91,6 +109,7 @@ void RunTick(const TickActions& actions) {
     FollowCalendar(actions);
     TestPrayers(actions);
     TestAlarm(actions);
+    FollowAthan();
     actions.showDay();
 }
 

@@ -1,5 +1,6 @@
 #include "shell/tray_icon.h"
 
+#include "athan/quiet.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
 #include "lang/language_pack.h"
@@ -15,6 +16,13 @@ std::string shownTip;
 
 const ProgramStateReset reset([] { shownTip.clear(); });
 
+void OpenTrayMenu() {
+    Ports().windows.SetForeground(frmMain->Name());
+    PopUpAtPointer(frmMain->mnuPopup);
+}
+
+}  // namespace
+
 void BringFaceBack() {
     frmMain->Show();
     frmMain->SetWindowState(WindowState::kNormal);
@@ -23,13 +31,6 @@ void BringFaceBack() {
         frmMain->SetWindowState(WindowState::kNormal);
     }
 }
-
-void OpenTrayMenu() {
-    Ports().windows.SetForeground(frmMain->Name());
-    PopUpAtPointer(frmMain->mnuPopup);
-}
-
-}  // namespace
 
 void TrayAdd() {
     shownTip = kProgramTitle;
@@ -45,10 +46,15 @@ void TraySetTip(const std::string& text) {
     Ports().tray.SetTip(text);
 }
 
-std::string TrayTip() {
+std::string PrayerTip() {
     const std::string next = frmMain->Label1.Caption() + frmMain->lblNextAthan.Caption();
     const std::string remaining = frmMain->Label3.Caption() + frmMain->lblRemaining.Caption();
     return IsArabicPack() ? remaining + next : next + " " + remaining;
+}
+
+std::string TrayTip() {
+    const std::string quiet = QuietText();
+    return quiet.empty() ? PrayerTip() : PrayerTip() + "\n" + quiet;
 }
 
 void RefreshTrayTip() {

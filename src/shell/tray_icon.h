@@ -11,6 +11,9 @@ void TrayAdd();
 
 void TrayRemove();
 
+/// Shows the face again, as a double click at the icon does.
+void BringFaceBack();
+
 void TraySetTip(const std::string& text);
 
 /// The next prayer and the time that remains, as the tip tells them: the remaining time first and

@@ -76,6 +76,10 @@ public:
     MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
     MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
     MenuItem mnuPopAdjustments{mnuPopup, "mnuPopAdjustments", {.caption = "Ad&justments"}};
+    MenuItem mnuPopQuietNext{
+        mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &next prayer"}};
+    MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &today"}};
+    MenuItem mnuPopQuietHours{mnuPopup, "mnuPopQuietHours", {.caption = "Quiet h&ours"}};
     MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
 };
 

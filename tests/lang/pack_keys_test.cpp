@@ -23,16 +23,18 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies, AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsAndAdjustments) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(8));
+TEST(PackVocabularies,
+     AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAndAdjustments) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(9));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
     EXPECT_EQ(Section(3).name, "desktop");
     EXPECT_EQ(Section(4).name, "timetables");
     EXPECT_EQ(Section(5).name, "moments");
-    EXPECT_EQ(Section(6).name, "adjustments");
-    EXPECT_EQ(Section(7).name, "methods");
+    EXPECT_EQ(Section(6).name, "notices");
+    EXPECT_EQ(Section(7).name, "adjustments");
+    EXPECT_EQ(Section(8).name, "methods");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -107,12 +109,12 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(
-        names,
-        ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "adjustments",
-                    "methods", "frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
-                    "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla", "frmDistance",
-                    "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes", "frmMonth", "frmAdjust"));
+    EXPECT_THAT(names,
+                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "notices",
+                            "adjustments", "methods", "frmMain", "HoravexMainForm", "fMessage",
+                            "frmAthan", "fCountry", "NewCoordinates", "frmWizard", "frmDateConvert",
+                            "fQibla", "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
+                            "frmTimes", "frmMonth", "frmAdjust"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
@@ -123,7 +125,7 @@ TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[8].keys;
+    const auto keys = PackSections()[9].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

@@ -52,10 +52,11 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
-    EXPECT_THAT(NamesIn(frmMain->mnuPopup),
-                ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",
-                            "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS",
-                            "mnuPopAdjustments", "mnuPopExit"));
+    EXPECT_THAT(
+        NamesIn(frmMain->mnuPopup),
+        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
+                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopAdjustments",
+                    "mnuPopQuietNext", "mnuPopQuietToday", "mnuPopQuietHours", "mnuPopExit"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {

@@ -1,0 +1,86 @@
+#include "athan/athan_watch.h"
+
+#include <optional>
+
+#include "athan/athan_alert.h"
+#include "athan/athan_notice.h"
+#include "athan/athan_state.h"
+#include "athan/azan_window.h"
+#include "athan/prayer_sound.h"
+#include "base/int16.h"
+#include "base/program_state.h"
+#include "platform/platform.h"
+#include "store/athan_options.h"
+
+namespace horavex {
+
+namespace {
+
+std::optional<double> silentSince;  // steady seconds; none while an athan is heard, or none is up
+bool othersPause = false;
+
+const ProgramStateReset reset([] {
+    silentSince.reset();
+    othersPause = false;
+});
+
+void LetOthersGoOn() {
+    if (othersPause) {
+        othersPause = false;
+        Ports().mediaPlayers.GoOn();
+    }
+}
+
+/// Counts the silence of an athan that is up.
+void TimeSilence() {
+    if (athanActive == kFalse || IsHeard()) {
+        silentSince.reset();
+    } else if (!silentSince) {
+        silentSince = Ports().clock.SteadySeconds();
+    }
+}
+
+/// A notice holds nothing up that is not heard.
+void EndSilentNotice() {
+    if (athanActive != kFalse && AthanIsNoticeAlone() && !IsHeard() && !AthanAwaitsItsSound()) {
+        SilenceAthanNotice();
+        StopAthan();
+    }
+}
+
+void EndSilentAthan() {
+    const int minutes = ReadOption(option::kSilentMinutes);
+    if (minutes > 0 && silentSince &&
+        Ports().clock.SteadySeconds() - *silentSince >= minutes * 60.0) {
+        silentSince.reset();
+        StopAthan();
+    }
+}
+
+}  // namespace
+
+void WatchAthan() {
+    TimeSilence();
+    EndSilentAthan();
+    EndSilentNotice();
+    if (athanActive == kFalse) {
+        WithdrawAthanNotice();
+    }
+    if (!IsHeard()) {
+        LetOthersGoOn();
+    }
+}
+
+void PauseOtherPlayers() {
+    if (ReadOption(option::kPausePlayers) == 1) {
+        othersPause = true;
+        Ports().mediaPlayers.PauseAll();
+    }
+}
+
+void LeaveSession() {
+    LetOthersGoOn();
+    WithdrawAthanNotice();
+}
+
+}  // namespace horavex

@@ -1,0 +1,144 @@
+#include "athan/quiet.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "athan/athan_choices.h"
+#include "athan/athan_state.h"
+#include "athan/azan_window.h"
+#include "athan/sound.h"
+#include "base/int16.h"
+#include "base/program_state.h"
+#include "base/stamp.h"
+#include "engine/day_driver.h"
+#include "lang/filled_text.h"
+#include "lang/language_pack.h"
+#include "platform/platform.h"
+#include "store/save_change.h"
+#include "windows/frm_main.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kMinutesPerDay = 1440.0;
+constexpr double kOver = 1e-9;  // days; what is left of a quiet that is over
+
+bool isShown = false;  // on the icon
+
+const ProgramStateReset reset([] { isShown = false; });
+
+Date Now() {
+    return Ports().clock.Now();
+}
+
+/// A moment of the user's; one that is over counts no more.
+std::optional<Date> ChosenEnd(Date now) {
+    const std::optional<Date> end = DateOfStamp(ReadOption(option::kQuietUntil));
+    return end && *end - now > kOver ? end : std::nullopt;
+}
+
+/// The end of the hours of the day that hold a moment, over midnight where they go over it.
+std::optional<Date> EndOfHours(Date now) {
+    const QuietHours hours = ReadQuietHours();
+    if (!hours.on || hours.from == hours.to) {
+        return std::nullopt;
+    }
+    const Date today = std::floor(now);
+    for (const Date day : {today - 1.0, today}) {
+        const Date from = day + hours.from / kMinutesPerDay;
+        const Date to = day + hours.to / kMinutesPerDay + (hours.to < hours.from ? 1.0 : 0.0);
+        if (now - from > -kOver && to - now > kOver) {
+            return to;
+        }
+    }
+    return std::nullopt;
+}
+
+Date NextPrayerMoment() {
+    const NextMoment& next = ShownDay.next;
+    return ShownDay.date + (next.isTomorrows ? 1.0 : 0.0) + next.moment.hours / 24.0;
+}
+
+Date EndOfDay() {
+    return Ports().clock.Today() + 1.0;
+}
+
+bool IsChosen(Date end) {
+    return ReadOption(option::kQuietUntil) == StampOf(end);
+}
+
+void FallSilent() {
+    if (athanActive != kFalse) {
+        StopAthan();
+    } else {
+        StopSound();
+    }
+}
+
+void ChooseUntil(Date end) {
+    const bool isTakenBack = IsChosen(end);
+    SaveChange(option::kQuietUntil, isTakenBack ? std::string() : StampOf(end), std::string());
+    if (!isTakenBack) {
+        FallSilent();
+    }
+    ShowQuiet();
+}
+
+void CheckEntries(Date now) {
+    const bool isChosen = ChosenEnd(now).has_value();
+    const bool isToday = isChosen && IsChosen(EndOfDay());
+    frmMain->mnuPopQuietToday.SetChecked(isToday);
+    frmMain->mnuPopQuietNext.SetChecked(isChosen && !isToday);
+    frmMain->mnuPopQuietHours.SetChecked(ReadQuietHours().on);
+}
+
+}  // namespace
+
+std::optional<Date> QuietEnd(Date now) {
+    const std::optional<Date> chosen = ChosenEnd(now);
+    const std::optional<Date> hours = EndOfHours(now);
+    return chosen && hours ? std::max(*chosen, *hours) : chosen ? chosen : hours;
+}
+
+bool IsQuiet() {
+    return QuietEnd(Now()).has_value();
+}
+
+void ChooseQuietUntilNextPrayer() {
+    ChooseUntil(NextPrayerMoment());
+}
+
+void ChooseQuietToday() {
+    ChooseUntil(EndOfDay());
+}
+
+void ChooseQuietHours() {
+    SaveChange(option::kQuietHours, ReadQuietHours().on ? 0 : 1, 0);
+    ShowQuiet();
+}
+
+std::string QuietText() {
+    const std::optional<Date> end = QuietEnd(Now());
+    return end ? FilledText(GetLangString("notices", "QuietUntil", "Quiet until {time}"), "{time}",
+                            Ports().formats.MediumTime(*end))
+               : "";
+}
+
+void ShowQuiet() {
+    const Date now = Now();
+    CheckEntries(now);
+    const bool isQuiet = QuietEnd(now).has_value();
+    if (isQuiet != isShown) {
+        isShown = isQuiet;
+        Ports().tray.SetQuiet(isQuiet);
+    }
+}
+
+void BindQuiet() {
+    frmMain->mnuPopQuietNext.onClick = ChooseQuietUntilNextPrayer;
+    frmMain->mnuPopQuietToday.onClick = ChooseQuietToday;
+    frmMain->mnuPopQuietHours.onClick = ChooseQuietHours;
+}
+
+}  // namespace horavex

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "base/date.h"
+
+namespace horavex {
+
+// Reminders before the prayers and before sunrise, and iqamas after the prayers. Each is told once,
+// in the ten seconds from its moment on.
+
+/// Tells those that are due. Called by the clock.
+void TellSignals(Date now);
+
+/// The countdown to the iqama that is ahead while its prayer is over, in words; else empty.
+std::string IqamaAhead(Date now);
+
+}  // namespace horavex
