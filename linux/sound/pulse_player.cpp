@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "linux/sound/pulse_devices.h"
 #include "linux/sound/pulse_stream.h"
 #include "linux/sound/sample_spec.h"
+#include "platform/sound_trouble.h"
 
 namespace horavex {
 
@@ -36,7 +38,9 @@ void PulsePlayer::Start() {
     std::vector<Bytes> blocks = std::exchange(waiting_, {});
     Disconnect();
     position_ = 0;
+    trouble_.clear();
     if (!IsPlayable(sampleRate_, format_)) {
+        trouble_ = sound_trouble::kFormat;
         return;
     }
     start_ = std::make_shared<const bool>();
@@ -45,7 +49,8 @@ void PulsePlayer::Start() {
     events.taken = Posted(&PulsePlayer::BlockTaken);
     events.ended = Posted(&PulsePlayer::Ended);
     events.unreachable = Posted(&PulsePlayer::Unreachable);
-    stream_ = std::make_unique<PulseStream>(SpecOf(sampleRate_, format_), std::move(events));
+    stream_ =
+        std::make_unique<PulseStream>(SpecOf(sampleRate_, format_), device_, std::move(events));
     for (Bytes& block : blocks) {
         stream_->Queue(std::move(block));
     }
@@ -83,8 +88,21 @@ std::int64_t PulsePlayer::Position() {
     return stream_ != nullptr ? stream_->Position() : position_;
 }
 
+std::vector<SoundDevice> PulsePlayer::Devices() {
+    return PulseDevices();
+}
+
+void PulsePlayer::UseDevice(const std::string& id) {
+    device_ = id;
+}
+
+std::string PulsePlayer::Trouble() {
+    return stream_ != nullptr ? stream_->Trouble() : trouble_;
+}
+
 void PulsePlayer::Disconnect() {
     position_ = Position();
+    trouble_ = Trouble();
     start_.reset();
     stream_.reset();
     waiting_.clear();

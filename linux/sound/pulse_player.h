@@ -28,9 +28,9 @@ public:
     void Pause() override;
     void Stop() override;
     std::int64_t Position() override;
-    std::vector<SoundDevice> Devices() override { return {}; }
-    void UseDevice(const std::string&) override {}
-    std::string Trouble() override { return {}; }
+    std::vector<SoundDevice> Devices() override;
+    void UseDevice(const std::string& id) override;
+    std::string Trouble() override;
 
 private:
     void BlockTaken();
@@ -43,10 +43,12 @@ private:
     Post post_;
     int sampleRate_ = 0;
     SampleFormat format_{0};
+    std::string device_;
     std::vector<Bytes> waiting_;  // blocks, written before the start
     std::unique_ptr<PulseStream> stream_;
     std::shared_ptr<const bool> start_;  // lives from a start to the end of its play
     std::int64_t position_ = 0;          // of the stream that is gone
+    std::string trouble_;                // likewise
 };
 
 }  // namespace horavex

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "linux/sound/pulse_devices.h"
+#include "platform/sound_trouble.h"
+
 namespace horavex {
 
 namespace {
@@ -21,6 +24,13 @@ pa_buffer_attr Buffering(const pa_sample_spec& format) {
             .fragsize = kServersChoice};
 }
 
+/// Its answer comes without it.
+void Forget(pa_operation* operation) {
+    if (operation != nullptr) {
+        ::pa_operation_unref(operation);
+    }
+}
+
 }  // namespace
 
 class PulseStream::Lock {
@@ -36,8 +46,11 @@ private:
     pa_threaded_mainloop* loop_;
 };
 
-PulseStream::PulseStream(const pa_sample_spec& format, Events events)
-    : format_(format), events_(std::move(events)), loop_(::pa_threaded_mainloop_new()) {
+PulseStream::PulseStream(const pa_sample_spec& format, std::string device, Events events)
+    : format_(format),
+      events_(std::move(events)),
+      loop_(::pa_threaded_mainloop_new()),
+      device_(std::move(device)) {
     ::pa_threaded_mainloop_start(loop_.get());
     const Lock lock(*this);
     Connect();
@@ -65,7 +78,7 @@ void PulseStream::Connect() {
         context_.get(),
         [](pa_context*, void* self) { static_cast<PulseStream*>(self)->ContextChanged(); }, this);
     if (::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
-        Fail();
+        Fail(sound_trouble::kNoServer);
     }
 }
 
@@ -74,14 +87,14 @@ void PulseStream::ContextChanged() {
     if (state == PA_CONTEXT_READY) {
         OpenStream();
     } else if (!PA_CONTEXT_IS_GOOD(state)) {
-        Fail();
+        Fail(sound_trouble::kNoServer);
     }
 }
 
 void PulseStream::OpenStream() {
     stream_.reset(::pa_stream_new(context_.get(), kName, &format_, nullptr));
     if (stream_ == nullptr) {
-        Fail();
+        Fail(sound_trouble::kFormat);
         return;
     }
     ::pa_stream_set_state_callback(
@@ -93,9 +106,10 @@ void PulseStream::OpenStream() {
     const pa_buffer_attr buffering = Buffering(format_);
     constexpr auto kFlags = static_cast<pa_stream_flags_t>(
         PA_STREAM_ADJUST_LATENCY | PA_STREAM_AUTO_TIMING_UPDATE | PA_STREAM_INTERPOLATE_TIMING);
-    if (::pa_stream_connect_playback(stream_.get(), nullptr, &buffering, kFlags, nullptr, nullptr) <
+    const char* const device = device_.empty() ? nullptr : device_.c_str();
+    if (::pa_stream_connect_playback(stream_.get(), device, &buffering, kFlags, nullptr, nullptr) <
         0) {
-        Fail();
+        FailStream();
     }
 }
 
@@ -103,13 +117,38 @@ void PulseStream::StreamChanged() {
     const pa_stream_state_t state = ::pa_stream_get_state(stream_.get());
     if (state == PA_STREAM_READY) {
         ready_ = true;
+        Listen();
         if (queue_.empty()) {
             events_.empty();
         }
         Feed();
     } else if (!PA_STREAM_IS_GOOD(state)) {
-        Fail();
+        FailStream();
     }
+}
+
+/// Asks whether what plays can be heard.
+void PulseStream::Listen() {
+    if (::pa_stream_get_device_name(stream_.get()) == std::string_view(kDummyDevice)) {
+        trouble_ = sound_trouble::kNoDevice;
+        return;
+    }
+    Forget(::pa_context_get_sink_info_by_index(
+        context_.get(), ::pa_stream_get_device_index(stream_.get()),
+        [](pa_context*, const pa_sink_info* sink, int end, void* self) {
+            if (end == 0 && (sink->mute != 0 || ::pa_cvolume_is_muted(&sink->volume) != 0)) {
+                static_cast<PulseStream*>(self)->trouble_ = sound_trouble::kMutedDevice;
+            }
+        },
+        this));
+    Forget(::pa_context_get_sink_input_info(
+        context_.get(), ::pa_stream_get_index(stream_.get()),
+        [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
+            if (end == 0 && (input->mute != 0 || ::pa_cvolume_is_muted(&input->volume) != 0)) {
+                static_cast<PulseStream*>(self)->trouble_ = sound_trouble::kMutedProgram;
+            }
+        },
+        this));
 }
 
 void PulseStream::Feed() {
@@ -155,9 +194,8 @@ void PulseStream::Drain() {
         this);
     if (operation == nullptr) {
         TellOnce(events_.ended);
-    } else {
-        ::pa_operation_unref(operation);
     }
+    Forget(operation);
 }
 
 std::int64_t PulseStream::Position() {
@@ -169,7 +207,25 @@ std::int64_t PulseStream::Position() {
     return static_cast<std::int64_t>(::pa_usec_to_bytes(heard, &format_));
 }
 
-void PulseStream::Fail() {
+std::string PulseStream::Trouble() {
+    const Lock lock(*this);
+    return trouble_;
+}
+
+// A device of choice that is gone, or that refuses, leaves the default one.
+void PulseStream::FailStream() {
+    if (ready_ || device_.empty()) {
+        Fail(sound_trouble::kNoDevice);
+    } else {
+        device_.clear();
+        OpenStream();
+    }
+}
+
+void PulseStream::Fail(const char* trouble) {
+    if (!ready_) {
+        trouble_ = trouble;
+    }
     TellOnce(ready_ ? events_.ended : events_.unreachable);
     ready_ = false;
     queue_.clear();

@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "base/bytes.h"
 
@@ -23,8 +24,9 @@ public:
         std::function<void()> unreachable;  // it never became ready
     };
 
-    /// Events come from the making on.
-    PulseStream(const pa_sample_spec& format, Events events);
+    /// On a device of that name; on the default one where the name is empty or there is no such
+    /// device. Events come from the making on.
+    PulseStream(const pa_sample_spec& format, std::string device, Events events);
     ~PulseStream();
     PulseStream(const PulseStream&) = delete;
     PulseStream& operator=(const PulseStream&) = delete;
@@ -39,6 +41,9 @@ public:
 
     /// Bytes that have been heard.
     std::int64_t Position();
+
+    /// Why nothing is heard, as AudioPlayer::Trouble has it.
+    std::string Trouble();
 
 private:
     class Lock;
@@ -58,7 +63,9 @@ private:
     void OpenStream();
     void StreamChanged();
     void Feed();
-    void Fail();
+    void Listen();
+    void FailStream();
+    void Fail(const char* trouble);
     void TellOnce(const std::function<void()>& event);
 
     const pa_sample_spec format_;
@@ -68,6 +75,8 @@ private:
     std::unique_ptr<pa_threaded_mainloop, LoopFree> loop_;
     std::unique_ptr<pa_context, ContextFree> context_;
     std::unique_ptr<pa_stream, StreamFree> stream_;
+    std::string device_;
+    std::string trouble_;
     std::deque<Bytes> queue_;
     std::size_t taken_ = 0;  // bytes of the first block
     bool ready_ = false;

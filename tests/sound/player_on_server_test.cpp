@@ -1,83 +1,14 @@
 // The athan's player with real files on a real sound server, and what is heard of it.
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "player_on_server.h"
 
 #include <fstream>
-#include <optional>
 
 #include "athan/athan_state.h"
-#include "athan/player.h"
-#include "athan/sound.h"
-#include "e2e/harness/sink_recording.h"
-#include "e2e/harness/sound_server.h"
-#include "linux/sound/pulse_player.h"
-#include "linux/sound/sound_file.h"
-#include "sound/posted_events.h"
-#include "support/scoped_variable.h"
-#include "support/temporary_folder.h"
-#include "support/test_platform.h"
 #include "windows/frm_azan.h"
 
 namespace horavex {
 namespace {
-
-struct PlayerOnAServer : testing::Test {
-    PlayerOnAServer() {
-        Environment variables;
-        server.InstallIn(variables);
-        variable.emplace("PULSE_SERVER", variables.at("PULSE_SERVER").c_str());
-        InstallPlatform(&ports);
-        Ports().audioFile.SetMode(kSampleBytes);
-        BindPlayer();
-    }
-    ~PlayerOnAServer() override { InstallPlatform(&former); }
-
-    std::string Write(const std::string& name, const Samples& samples) {
-        WriteWav(folder / name, samples);
-        return folder / name;
-    }
-
-    void RunUntil(const std::function<bool()>& test) { ASSERT_TRUE(events.RunUntil(test)); }
-
-    /// Plays on until the recording has grown by that much.
-    void RunFor(double seconds) {
-        const std::size_t wanted =
-            recording.Taken().size() + static_cast<std::size_t>(seconds * kWavRate);
-        events.RunWhile([&] { return recording.Taken().size() < wanted; });
-    }
-
-    TestPlatform platform;
-    SoundServer server;
-    std::optional<ScopedVariable> variable;
-    SinkRecording recording{server};
-    TemporaryFolder folder;
-    PostedEvents events;
-    SoundFile file;
-    PulsePlayer player{events.Post()};
-    const Platform& former = Ports();
-    const Platform ports{former.clock,
-                         former.eventLoop,
-                         former.files,
-                         former.programFolder,
-                         former.formats,
-                         former.dialogs,
-                         former.registry,
-                         former.instanceGuard,
-                         former.face,
-                         former.windows,
-                         former.tray,
-                         former.shell,
-                         former.network,
-                         former.athanFace,
-                         file,
-                         player,
-                         former.zoneRules,
-                         former.whereabouts,
-                         former.notices,
-                         former.mediaPlayers,
-                         former.session};
-};
 
 TEST_F(PlayerOnAServer, WholeFileIsHeardAsItIs) {
     const Samples sound = Glide(2.5, 300.0, 900.0);

@@ -61,9 +61,9 @@ double LikenessAt(const Samples& recorded, std::size_t at, const Samples& sound,
 
 }  // namespace
 
-SinkRecording::SinkRecording(const SoundServer& server)
-    : service_({"parec", "-d", "nul.monitor", "--latency-msec=20", "--channels=1", "--rate=44100",
-                "--format=s16le", "--raw"},
+SinkRecording::SinkRecording(const SoundServer& server, const std::string& device)
+    : service_({"parec", "-d", device + ".monitor", "--latency-msec=20", "--channels=1",
+                "--rate=44100", "--format=s16le", "--raw"},
                RecordersVariables(server)) {
     Continue(0.1);
 }
@@ -110,6 +110,14 @@ std::vector<Stretch> SoundsIn(const Samples& recorded) {
         sounds.push_back({at, EndOfSound(recorded, at, 2 * kTenth)});
     }
     return sounds;
+}
+
+double RootMeanSquare(const Samples& recorded, std::size_t at, std::size_t count) {
+    double sum = 0.0;
+    for (std::size_t i = at; i < at + count; ++i) {
+        sum += static_cast<double>(recorded.at(i)) * recorded.at(i);
+    }
+    return std::sqrt(sum / static_cast<double>(count));
 }
 
 double Likeness(const Samples& recorded, std::size_t at, const Samples& sound, std::size_t from,

@@ -14,10 +14,11 @@ struct Stretch {
     double Seconds() const { return static_cast<double>(to - from) / kWavRate; }
 };
 
-/// What the sound server's device plays, from the making of the object on.
+/// What a device of the sound server plays, its first one unless told, from the making of the
+/// object on.
 class SinkRecording {
 public:
-    explicit SinkRecording(const SoundServer& server);
+    explicit SinkRecording(const SoundServer& server, const std::string& device = "nul");
 
     Samples Taken() const;
 
@@ -36,6 +37,9 @@ private:
 
 /// Stretches that are not silent; pauses of less than a fifth of a second do not part them.
 std::vector<Stretch> SoundsIn(const Samples& recorded);
+
+/// How loud it is from a place on, over so many samples.
+double RootMeanSquare(const Samples& recorded, std::size_t at, std::size_t count);
 
 /// How much the recording from that place on is the sound from another place on, over so many
 /// samples: 1 for the same, whatever its loudness, and near 0 for another. A few samples of

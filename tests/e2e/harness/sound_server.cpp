@@ -1,6 +1,7 @@
 #include "e2e/harness/sound_server.h"
 
 #include <cstdlib>
+#include <sstream>
 #include <stdexcept>
 
 #include "e2e/harness/wait_until.h"
@@ -43,6 +44,20 @@ std::string SoundServer::Use(const std::vector<std::string>& words) const {
         throw std::runtime_error(words[0] + " failed: " + run.err);
     }
     return run.out;
+}
+
+void SoundServer::AddDevice(const std::string& id, const std::string& name) const {
+    Use({"pactl", "load-module", "module-null-sink", "sink_name=" + id, "rate=44100", "norewinds=1",
+         "sink_properties=\"device.description='" + name + "'\""});
+}
+
+void SoundServer::RemoveDevice(const std::string& id) const {
+    std::istringstream lines(Use({"pactl", "list", "short", "modules"}));
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find("sink_name=" + id + " ") != std::string::npos) {
+            Use({"pactl", "unload-module", line.substr(0, line.find('\t'))});
+        }
+    }
 }
 
 void SoundServer::InstallIn(Environment& variables) const {

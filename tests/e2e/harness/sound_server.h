@@ -18,6 +18,12 @@ public:
     /// Runs a tool on the server and returns what it prints. Throws where the tool fails.
     std::string Use(const std::vector<std::string>& words) const;
 
+    /// Adds a device that nobody hears either, with a name for people.
+    void AddDevice(const std::string& id, const std::string& name) const;
+
+    /// Takes a device away.
+    void RemoveDevice(const std::string& id) const;
+
     pid_t Id() const { return server_.Id(); }
 
 private:
