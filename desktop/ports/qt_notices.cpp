@@ -114,6 +114,7 @@ void QtNotices::Act(const QDBusMessage& signal) {
     }
     places_[*kind].isPressed = true;
     if (key == QLatin1String(kStopKey)) {
+        Withdraw(*kind);  // a service may leave what stands, buttons pressed or not
         onAction(*kind, NoticeAction::kStop);
     } else if (key == QLatin1String(kOpenKey) || key == QLatin1String(kClickKey)) {
         Open(*kind, token);

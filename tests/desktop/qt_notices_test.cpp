@@ -166,11 +166,20 @@ TEST_F(QtNoticesTest, ButtonsAndAClickOnTheNoticeAreTheUsersActions) {
     Show(kAthan);
     Show(kReminder, NoticeKind::kMissed);
     Signal("ActionInvoked", {service->number, "default"});
-    Signal("ActionInvoked", {service->number - 1, "stop"});
     Signal("ActionInvoked", {service->number - 1, "open"});
+    Signal("ActionInvoked", {service->number - 1, "stop"});
     EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kMissed, NoticeAction::kOpen),
-                                     Pair(NoticeKind::kPrayer, NoticeAction::kStop),
-                                     Pair(NoticeKind::kPrayer, NoticeAction::kOpen)));
+                                     Pair(NoticeKind::kPrayer, NoticeAction::kOpen),
+                                     Pair(NoticeKind::kPrayer, NoticeAction::kStop)));
+}
+
+TEST_F(QtNoticesTest, StoppedOneGoesAndAnOpenedOneStays) {
+    MakeNotices();
+    Show(kAthan);
+    Signal("ActionInvoked", {service->number, "open"});
+    EXPECT_THAT(service->closed, IsEmpty());
+    Signal("ActionInvoked", {service->number, "stop"});
+    EXPECT_THAT(service->closed, ElementsAre(service->number));
 }
 
 TEST_F(QtNoticesTest, ActionsOnOthersNoticesAreNotOurs) {
