@@ -4,20 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <iomanip>
 #include <iostream>
-#include <optional>
-#include <sstream>
 
-#include "e2e/harness/faked_clock.h"
+#include "e2e/harness/athan_fixture.h"
 #include "e2e/harness/sink_recording.h"
-#include "e2e/harness/test_desktop.h"
 #include "e2e/harness/wait_until.h"
-#include "linux/replace_file.h"
-#include "store/settings_record.h"
 #include "support/build_folder.h"
 
 namespace horavex {
@@ -25,121 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kFaceTitle = "Horavex";
-constexpr const char* kAthanTitle = "Athan";
 constexpr const char* kAlarmTitle = "Horavex Prayer Time Software ";
 constexpr int kAlarmTime = 150;  // 12:30
-constexpr int kNoAlarm = 0;      // midnight
-
-class AthanProgramTest : public testing::Test {
-protected:
-    AthanProgramTest() {
-        desktop.StoreRegistryValue("Isha Dep Angle", "18");  // no first run
-        clock.InstallIn(programVariables);
-        sound->InstallIn(programVariables);
-        fs::create_directories(desktop / "data/horavex/Athan");
-        SetSound("athan", others);
-        SetSound("fagr_athan", fajr);
-        StoreSettings(3, kNoAlarm);
-    }
-
-    void SetSound(const std::string& name, const Samples& samples) const {
-        WriteWav(desktop / ("data/horavex/Athan/" + name + ".mp3"), samples);
-    }
-
-    void StoreSettings(std::int16_t athanType, int alarmTime) const {
-        const std::string installed = BuiltProgramFolder() + "/Dat/AI.DAT";
-        SettingsBytes bytes{};
-        const std::string content = ContentOf(installed);
-        std::copy(content.begin(), content.end(), bytes.begin());
-        SettingsRecord record = DecodeSettings(bytes);
-        record.AthanType = athanType;
-        record.AlarmTime = static_cast<std::int16_t>(alarmTime);
-        bytes = EncodeSettings(record);
-        fs::create_directories(desktop / "data/horavex/Dat");
-        for (const std::string name : {"AI.DAT", "Settings.DAT"}) {
-            ReplaceFile(desktop / ("data/horavex/Dat/" + name), Bytes(bytes.begin(), bytes.end()));
-        }
-    }
-
-    /// Starts the program at noon and waits for its face.
-    ChildProcess Start() {
-        Environment former = desktop.variables;
-        desktop.variables.insert(programVariables.begin(), programVariables.end());
-        ChildProcess program = desktop.Start("horavex");
-        desktop.variables = std::move(former);
-        face = desktop.WaitForWindow(program, kFaceTitle);
-        return program;
-    }
-
-    /// When a prayer of the day comes, in seconds of the day.
-    int SecondOf(std::size_t prayer) const {
-        const std::string json =
-            RunProgram("horavexctl", {"today", "--json", "--at", "2026-11-21T00:00:00"},
-                       desktop.variables)
-                .out;
-        std::istringstream in(json.substr(json.find('[', json.find("\"hours\"")) + 1));
-        double hours = 0.0;
-        for (std::size_t i = 0; i <= prayer; ++i) {
-            in >> hours;
-            in.ignore(1);
-        }
-        return static_cast<int>(std::ceil(hours * 3600.0));
-    }
-
-    void SetClock(int second) const {
-        std::ostringstream moment;
-        moment << "2026-11-21 " << std::setfill('0') << std::setw(2) << second / 3600 << ':'
-               << std::setw(2) << second / 60 % 60 << ':' << std::setw(2) << second % 60;
-        clock.Set(moment.str());
-    }
-
-    /// A second before a prayer's time.
-    void GoTo(std::size_t prayer) const { SetClock(SecondOf(prayer) - 1); }
-
-    /// Waits until the athan window has risen, and returns it.
-    std::string WaitForAthan(const ChildProcess& program) const {
-        const std::string window = desktop.WaitForWindow(program, kAthanTitle);
-        WaitUntil("a window that stands", [&] { return IsTopMost(window); });
-        return window;
-    }
-
-    bool IsTopMost(const std::string& window) const {
-        return desktop.Use({"xprop", "-id", window, "_NET_WM_STATE"}).find("_STATE_ABOVE") !=
-               std::string::npos;
-    }
-
-    /// The tool waits in vain for a pointer that is there already.
-    void Click(const std::string& window, int x, int y) const {
-        desktop.Use({"xdotool", "mousemove", "0", "0"});
-        desktop.Click(window, x, y);
-    }
-
-    void PressStop(const std::string& window) const { Click(window, 180, 161); }
-
-    bool IsOnView(const ChildProcess& program) const {
-        for (const std::string& window : desktop.WindowsOf(program)) {
-            if (desktop.TitleOf(window) == kAthanTitle) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    /// The face shows another second: the program runs on.
-    void ExpectTicks() const {
-        const std::string before = desktop.Fingerprint();
-        EXPECT_TRUE(WaitUntil("another picture", [&] { return desktop.Fingerprint() != before; }));
-    }
-
-    const Samples others = Glide(20.0, 300.0, 900.0);
-    const Samples fajr = Glide(20.0, 1500.0, 1000.0);
-    TestDesktop desktop;
-    std::optional<SoundServer> sound{std::in_place};
-    FakedClock clock{"2026-11-21 12:00:00"};
-    Environment programVariables;
-    std::string face;
-};
 
 /// The beginning of a sound is that of the recording's at that place.
 void ExpectHeard(const SinkRecording& recording, std::size_t at, const Samples& sound) {

@@ -1,4 +1,5 @@
-// A window with nothing but a second hand's worth of repainting: what the toolkit alone costs.
+// A window with nothing but a second hand's worth of repainting: what the toolkit alone costs. With
+// an argument it fills the screen.
 #include <QApplication>
 #include <QPainter>
 #include <QTimer>
@@ -11,7 +12,7 @@ public:
     BareWindow() {
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
         setWindowTitle(QStringLiteral("bare"));
-        setFixedSize(420, 420);
+        resize(420, 420);
     }
 
 protected:
@@ -33,6 +34,6 @@ int main(int argc, char** argv) {
     QTimer second;
     second.callOnTimeout([&window] { window.update(); });
     second.start(1000);
-    window.show();
+    argc > 1 ? window.showFullScreen() : window.show();
     return QApplication::exec();
 }
