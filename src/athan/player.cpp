@@ -47,15 +47,18 @@ bool OpenSound(const std::string& path) {
     return !path.empty() && file.Open(path) == 0 && file.HasAudio();
 }
 
-/// Leaves a file without a rise untouched: what tells its length is a walk to its end.
+/// Leaves a file without a rise untouched: what tells its length is a walk to its end, which may
+/// cost the file where somebody takes it away meanwhile.
 Gain GainOfOpenFile(const Loudness& loudness) {
     AudioFile& file = Ports().audioFile;
+    const int rate = file.SampleRate();
+    const SampleFormat format = file.Format();
     std::int64_t length = 0;
     if (loudness.fadeSeconds > 0) {
         length = file.Seek(std::numeric_limits<std::int64_t>::max());
         file.Seek(0);
     }
-    return {loudness, file.SampleRate(), file.Format(), length};
+    return {loudness, rate, format, length};
 }
 
 void RemoveAthanWindow() {

@@ -96,8 +96,10 @@ constexpr Singer kSingers[] = {
 
 void Sing(const Singer& singer, const Breath& breath, Sound& sound) {
     constexpr double kLoudness = 0.22;
-    constexpr double kAttack = 0.28;  // seconds
-    constexpr double kDepth = 22.0;   // cents
+    constexpr double kAttack = 0.28;   // seconds
+    constexpr double kDepth = 22.0;    // cents
+    constexpr double kMouth = 0.23;    // hertz, at which a mouth opens and closes a little
+    constexpr double kOpening = 0.14;  // of the way from the closed vowel to the open one
     const double length = TimeOf(sound.size());
     Noise throat(static_cast<std::uint32_t>(singer.vibrato * 1000.0));
     Softener calm(2.0);
@@ -108,7 +110,8 @@ void Sing(const Singer& singer, const Breath& breath, Sound& sound) {
         const double wander = 60.0 * calm(throat.Next());
         const double pitch = Above(breath.pitch[i], singer.cents + kDepth * vibrato + wander);
         if (i % kLook == 0) {
-            overtones.Aim(SungStrengths(pitch, breath.strength[i]));
+            const double mouth = std::sin(kTurn * kMouth * t + 10.0 * singer.vibrato);
+            overtones.Aim(SungStrengths(pitch, breath.strength[i] + kOpening * mouth));
         }
         sound[i] += kLoudness * breath.strength[i] * overtones.Next(pitch) *
                     Swell(t - singer.late, kAttack) * Swell(length - t, kRelease);
