@@ -31,6 +31,12 @@ void Forget(pa_operation* operation) {
     }
 }
 
+/// By its switch or at no volume: a device or a program.
+template <typename Information>
+bool IsMuted(const Information& information) {
+    return information.mute != 0 || ::pa_cvolume_is_muted(&information.volume) != 0;
+}
+
 }  // namespace
 
 class PulseStream::Lock {
@@ -67,6 +73,7 @@ PulseStream::~PulseStream() {
     stream_.reset();
     if (context_ != nullptr) {
         ::pa_context_set_state_callback(context_.get(), nullptr, nullptr);
+        ::pa_context_set_subscribe_callback(context_.get(), nullptr, nullptr);
         ::pa_context_disconnect(context_.get());
     }
     context_.reset();
@@ -127,25 +134,36 @@ void PulseStream::StreamChanged() {
     }
 }
 
-/// Asks whether what plays can be heard.
+/// Hears of all that may mute it from now on.
 void PulseStream::Listen() {
-    if (::pa_stream_get_device_name(stream_.get()) == std::string_view(kDummyDevice)) {
-        trouble_ = sound_trouble::kNoDevice;
-        return;
-    }
+    ::pa_context_set_subscribe_callback(
+        context_.get(),
+        [](pa_context*, pa_subscription_event_type_t, std::uint32_t, void* self) {
+            static_cast<PulseStream*>(self)->AskIfHeard();
+        },
+        this);
+    constexpr auto kMixer = static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SINK |
+                                                                PA_SUBSCRIPTION_MASK_SINK_INPUT);
+    Forget(::pa_context_subscribe(context_.get(), kMixer, nullptr, nullptr));
+    AskIfHeard();
+}
+
+void PulseStream::AskIfHeard() {
+    const char* const device = ::pa_stream_get_device_name(stream_.get());
+    dummy_ = device != nullptr && device == std::string_view(kDummyDevice);
     Forget(::pa_context_get_sink_info_by_index(
         context_.get(), ::pa_stream_get_device_index(stream_.get()),
         [](pa_context*, const pa_sink_info* sink, int end, void* self) {
-            if (end == 0 && (sink->mute != 0 || ::pa_cvolume_is_muted(&sink->volume) != 0)) {
-                static_cast<PulseStream*>(self)->trouble_ = sound_trouble::kMutedDevice;
+            if (end == 0) {
+                static_cast<PulseStream*>(self)->deviceMuted_ = IsMuted(*sink);
             }
         },
         this));
     Forget(::pa_context_get_sink_input_info(
         context_.get(), ::pa_stream_get_index(stream_.get()),
         [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
-            if (end == 0 && (input->mute != 0 || ::pa_cvolume_is_muted(&input->volume) != 0)) {
-                static_cast<PulseStream*>(self)->trouble_ = sound_trouble::kMutedProgram;
+            if (end == 0) {
+                static_cast<PulseStream*>(self)->programMuted_ = IsMuted(*input);
             }
         },
         this));
@@ -209,7 +227,13 @@ std::int64_t PulseStream::Position() {
 
 std::string PulseStream::Trouble() {
     const Lock lock(*this);
-    return trouble_;
+    if (dummy_) {
+        return sound_trouble::kNoDevice;
+    }
+    if (deviceMuted_) {
+        return sound_trouble::kMutedDevice;
+    }
+    return programMuted_ ? sound_trouble::kMutedProgram : trouble_;
 }
 
 // A device of choice that is gone, or that refuses, leaves the default one.

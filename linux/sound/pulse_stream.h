@@ -64,6 +64,7 @@ private:
     void StreamChanged();
     void Feed();
     void Listen();
+    void AskIfHeard();
     void FailStream();
     void Fail(const char* trouble);
     void TellOnce(const std::function<void()>& event);
@@ -76,7 +77,10 @@ private:
     std::unique_ptr<pa_context, ContextFree> context_;
     std::unique_ptr<pa_stream, StreamFree> stream_;
     std::string device_;
-    std::string trouble_;
+    std::string trouble_;  // it could not be made
+    bool dummy_ = false;   // it goes where no output is
+    bool deviceMuted_ = false;
+    bool programMuted_ = false;
     std::deque<Bytes> queue_;
     std::size_t taken_ = 0;  // bytes of the first block
     bool ready_ = false;

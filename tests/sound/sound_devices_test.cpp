@@ -117,6 +117,22 @@ TEST_F(TroubleWithSound, DeviceAtNoVolumeIsTold) {
     EXPECT_EQ(player.Trouble(), sound_trouble::kMutedDevice);
 }
 
+TEST_F(TroubleWithSound, MutingAndItsEndAreHeardOfInMidPlay) {
+    OpenFileForPlay(Sound(20.0));
+    const auto waitFor = [&](const std::string& trouble) {
+        RunFor(0.3);
+        events.RunWhile([&] { return IsPlaying() && player.Trouble() != trouble; });
+        EXPECT_EQ(player.Trouble(), trouble);
+    };
+    waitFor("");
+    server.Use({"pactl", "set-sink-mute", "nul", "1"});
+    waitFor(sound_trouble::kMutedDevice);
+    server.Use({"pactl", "set-sink-mute", "nul", "0"});
+    waitFor("");
+    server.Use({"pactl", "set-sink-input-mute", "0", "1"});
+    waitFor(sound_trouble::kMutedProgram);
+}
+
 // Mixers remember of a program that it was muted.
 TEST_F(TroubleWithSound, ProgramThatTheMixerMutesIsTold) {
     server.Use({"pactl", "load-module", "module-stream-restore"});
