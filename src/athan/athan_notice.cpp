@@ -135,9 +135,11 @@ void ShowIqama(Prayer prayer, Date at) {
     Ports().notices.Show(NoticeKind::kPrayer, notice);
 }
 
-void ShowMissedPrayer(Prayer prayer, Date at) {
+void ShowMissedPrayers(const std::vector<DatedMoment>& prayers) {
     Notice notice;
-    notice.title = PrayerAt(prayer, at);
+    for (const auto& [prayer, at, moment] : prayers) {
+        notice.title += (notice.title.empty() ? "" : " \u00b7 ") + PrayerAt(prayer, at);
+    }
     notice.text = Word("Missed", "It came while the computer was asleep.");
     Ports().notices.Show(NoticeKind::kMissed, notice);
 }

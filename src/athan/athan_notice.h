@@ -1,9 +1,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/date.h"
 #include "base/prayers.h"
+#include "engine/moments_around.h"
 
 namespace horavex {
 
@@ -33,8 +35,8 @@ void ShowSilentPrayer(Prayer prayer, Date at);
 void ShowReminder(Prayer prayer, Date at, int minutes);
 void ShowIqama(Prayer prayer, Date at);
 
-/// A prayer that came while the computer slept.
-void ShowMissedPrayer(Prayer prayer, Date at);
+/// Prayers that came while the computer slept, one at least.
+void ShowMissedPrayers(const std::vector<DatedMoment>& prayers);
 
 /// The iqama's countdown: "Iqama of Asr in 9:32".
 std::string IqamaCountdown(Prayer prayer, double seconds);

@@ -1,7 +1,7 @@
 #include "athan/missed.h"
 
-#include <optional>
 #include <utility>
+#include <vector>
 
 #include "athan/athan_notice.h"
 #include "athan/calls.h"
@@ -20,30 +20,31 @@ Date lastTick = 0.0;  // 0 before the first one
 
 const ProgramStateReset reset([] { lastTick = 0.0; });
 
-/// The last prayer that arrived and went by between two ticks.
-std::optional<Call> MissedBetween(Date from, Date now) {
-    std::optional<Call> missed;
-    for (const DatedMoment& moment : MomentsAround(now)) {
-        const Call call = {CallKind::kPrayer, moment.prayer, moment.at};
+/// The prayers that arrived and went by between two ticks, in order.
+std::vector<DatedMoment> MissedBetween(Date from, Date now) {
+    std::vector<DatedMoment> missed = MomentsAround(now);
+    std::erase_if(missed, [&](const DatedMoment& moment) {
         const bool wentBy =
             moment.at > from && moment.at <= now - kWindow && moment.at >= now - kLongAgo;
-        if (wentBy && moment.prayer != kShurooq && !WasCalled(call)) {
-            missed = call;
-        }
-    }
+        return !wentBy || moment.prayer == kShurooq ||
+               WasCalled({CallKind::kPrayer, moment.prayer, moment.at});
+    });
     return missed;
 }
 
 }  // namespace
 
-void TellMissedPrayer(Date now) {
+void TellMissedPrayers(Date now) {
     const Date from = std::exchange(lastTick, now);
     if (from == 0.0 || now - from <= kWindow || ReadOption(option::kTellMissed) == 0) {
         return;
     }
-    if (const auto missed = MissedBetween(from, now)) {
-        NoteCall(*missed);
-        ShowMissedPrayer(missed->prayer, missed->at);
+    const std::vector<DatedMoment> missed = MissedBetween(from, now);
+    for (const DatedMoment& moment : missed) {
+        NoteCall({CallKind::kPrayer, moment.prayer, moment.at});
+    }
+    if (!missed.empty()) {
+        ShowMissedPrayers(missed);
     }
 }
 

@@ -95,7 +95,7 @@ void FollowAthan() {
     WatchAthan();
     const Date now = Ports().clock.Now();
     TellSignals(now);
-    TellMissedPrayer(now);
+    TellMissedPrayers(now);
     ShowQuiet();
 }
 

@@ -15,18 +15,21 @@
 
 namespace horavex {
 
-/// A day of the whole program whose clock a test moves second by second. The desktop has a service
-/// for notifications; every sound lasts half a minute, the tone a second.
-struct PrayerDay : ProgramTest {
+/// The whole program, not yet begun, whose clock a test moves second by second. The desktop has a
+/// service for notifications; every sound lasts half a minute, the tone a second.
+struct PrayerClock : ProgramTest {
     static constexpr int kSecondOfSound = 200;  // bytes
 
-    PrayerDay() {
+    PrayerClock() {
         for (const std::string name :
              {"athan", "fagr_athan", "athan1", "athan2", "athan3", "fagr_athan1", "fagr_athan2"}) {
             AddSound(SoundPath(name), 30);
         }
         AddSound(SoundPath("tone"), 1);
         platform.notices.hasService = true;
+    }
+
+    void Begin() {
         StartAgain();
         SetAthanType(kSoundAthan);
         ActiveSettings.AlarmTime = 0;
@@ -90,6 +93,11 @@ struct PrayerDay : ProgramTest {
     const Notice& LastNotice() const { return platform.notices.shown.back().second; }
 
     void PressStop() { platform.athanFace.onFSCommand("IDC_FS_Stop", ""); }
+};
+
+/// The same with its start behind it.
+struct PrayerDay : PrayerClock {
+    PrayerDay() { Begin(); }
 };
 
 }  // namespace horavex
