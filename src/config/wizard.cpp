@@ -9,6 +9,7 @@
 #include "base/rounding.h"
 #include "config/angle_controls.h"
 #include "config/automatic_zone.h"
+#include "config/calm_athan.h"
 #include "config/commit.h"
 #include "config/computer_zone.h"
 #include "config/settings_controls.h"
@@ -184,6 +185,7 @@ void frmWizard_Load() {
     frmWizard->lblDepr1.SetCaption(HoravexMainForm->lblDepr1.Caption());
     ProposeDaylightDays();
     ProposeOnFirstRun();
+    OfferCalmAthan();
     FollowCity();
     ShowCityZone();
     OfferCities();
@@ -226,6 +228,7 @@ void frmWizard_QueryUnload(const CloseRequest& request) {
 
 void Finish() {
     RunStep(SetSettings);
+    SaveCalmAthan();
     frmWizard->Unload();
 }
 

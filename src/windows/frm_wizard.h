@@ -107,6 +107,13 @@ public:
     Label lblHijri{Frame2(1),
                    "lblHijri",
                    {.caption = "Hijri dates by the Umm al-Qura calendar.", .visible = false}};
+    CheckBox chkCalmAthan{
+        Frame2(1),
+        "chkCalmAthan",
+        {.caption = "Each athan sounds once and ends by itself; no daily alarm",
+         .toolTipText = "A window without a sound closes after 10 minutes. \"Athan and Reminders\" "
+                        "has all of this, too",
+         .visible = false}};
 
     Label lblCity2{Frame2(2), "lblCity2", {.caption = "City"}};
     Label lblLocationLat{Frame2(2), "lblLocationLat"};

@@ -8,6 +8,7 @@
 #include "config/wizard_preview.h"
 #include "config/working_options.h"
 #include "engine/day_driver.h"
+#include "store/athan_options.h"
 #include "store/stored_values.h"
 
 namespace horavex {
@@ -60,6 +61,35 @@ TEST_F(UsualPickTest, FirstRunsPickTakesTheMethodOfTheCountry) {
     EXPECT_TRUE(wizard.lblRuleMiddle.Visible());
     EXPECT_FALSE(wizard.lblRuleSeventh.Visible());
     EXPECT_FALSE(AnyOptionIsStored());
+}
+
+TEST_F(UsualPickTest, FirstRunProposesAnAthanThatEndsByItself) {
+    Start();
+    PickInWizard("new york");
+    EXPECT_TRUE(wizard.chkCalmAthan.Visible());
+    EXPECT_EQ(ReadOption(option::kSilentMinutes), 0) << "until it is accepted";
+    Finish();
+    EXPECT_EQ(ReadOption(option::kSilentMinutes), 10);
+    EXPECT_EQ(ReadOption(option::kAthanOnce), 1);
+    EXPECT_EQ(ReadOption(option::kAlarm), 0);
+}
+
+TEST_F(UsualPickTest, UntickedTheBoxOfAFirstRunChangesNothing) {
+    Start();
+    PickInWizard("new york");
+    wizard.chkCalmAthan.UserClick();
+    Finish();
+    EXPECT_EQ(ReadOption(option::kSilentMinutes), 0);
+    EXPECT_EQ(ReadOption(option::kAthanOnce), 0);
+    EXPECT_EQ(ReadOption(option::kAlarm), 1);
+}
+
+TEST_F(UsualPickTest, LaterWizardLeavesTheAthanAlone) {
+    StartAgain();
+    ShowWizard();
+    EXPECT_FALSE(wizard.chkCalmAthan.Visible());
+    Finish();
+    EXPECT_EQ(ReadOption(option::kAlarm), 1);
 }
 
 TEST_F(UsualPickTest, FinishStoresAllOfThem) {
