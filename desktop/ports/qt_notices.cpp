@@ -91,13 +91,14 @@ void QtNotices::Send(NoticeKind kind) {
                  });
 }
 
-// A service that does not tell counts as one without any.
+// A service that does not tell counts as one without any, and as one that cannot be started.
 void QtNotices::AskAbilities() {
     if (std::exchange(areAbilitiesAsked_, true)) {
         return;
     }
     service_.Ask(context_, "GetCapabilities", {}, [this](const QDBusMessage& answer) {
         areAbilitiesAsked_ = false;
+        isStartable_ = isStartable_ && answer.type() != QDBusMessage::ErrorMessage;
         abilities_ = ValueOf(answer).toStringList();
         for (const auto& [kind, place] : places_) {
             Settle(kind);

@@ -12,8 +12,8 @@
 namespace horavex {
 
 /// The notification service of the desktop, org.freedesktop.Notifications. A service that can be
-/// started counts as there; one that starts anew has forgotten what it showed. A notice that is
-/// stopped goes, one whose other button is pressed stays.
+/// started counts as there, until its start fails; one that starts anew has forgotten what it
+/// showed. A notice that is stopped goes, one whose other button is pressed stays.
 class QtNotices : public Notices {
 public:
     /// bus: where the service is.

@@ -6,10 +6,12 @@
 #include <QDBusConnection>
 #include <QElapsedTimer>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <set>
 
 #include "desktop/ports/bus_object.h"
+#include "support/bus_configuration.h"
 #include "support/child_process.h"
 #include "support/run_program.h"
 #include "support/temporary_folder.h"
@@ -34,8 +36,9 @@ class TestBus {
 
 public:
     TestBus()
-        : daemon_({"dbus-daemon", "--session", "--nofork", "--address=" + Address()}, {},
-                  folder_ / "out", folder_ / "err") {
+        : daemon_(
+              {"dbus-daemon", "--nofork", "--config-file=" + WriteBusConfiguration(folder_.Path())},
+              {}, folder_ / "out", folder_ / "err") {
         EXPECT_TRUE(Until([this] { return std::filesystem::exists(folder_ / "bus"); }));
     }
 
@@ -53,6 +56,16 @@ public:
         names_.insert(QLatin1String(name));
         return QDBusConnection::connectToBus(QString::fromStdString(Address()),
                                              QLatin1String(name));
+    }
+
+    /// Makes a name one that can be started, by a program and its arguments.
+    void AddStartable(const char* name, const char* command) {
+        std::ofstream(folder_ / (std::string("services/") + name + ".service"))
+            << "[D-BUS Service]\nName=" << name << "\nExec=" << command << '\n';
+        const QString daemon = QStringLiteral("org.freedesktop.DBus");
+        Connect("loader").call(
+            QDBusMessage::createMethodCall(daemon, QStringLiteral("/org/freedesktop/DBus"), daemon,
+                                           QStringLiteral("ReloadConfig")));
     }
 
     /// Everything that was sent has arrived, and so has what it was answered with. A round takes
@@ -80,6 +93,7 @@ class PrivateBus : public testing::Test {
 protected:
     QDBusConnection Connect(const char* name) { return bus_.Connect(name); }
     void Settle() { bus_.Settle(); }
+    void AddStartable(const char* name, const char* command) { bus_.AddStartable(name, command); }
 
 private:
     TestBus bus_;

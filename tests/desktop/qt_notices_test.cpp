@@ -61,6 +61,17 @@ TEST_F(QtNoticesTest, ServiceIsThereAsLongAsItsNameIsOwned) {
     EXPECT_TRUE(Until([&] { return notices->HasService(); }));
 }
 
+TEST_F(QtNoticesTest, ServiceThatCanBeStartedCountsAsThereUntilItsStartFails) {
+    service.reset();
+    AddStartable("org.freedesktop.Notifications", "/bin/false");
+    MakeNotices();
+    ASSERT_TRUE(Until([&] { return notices->HasService(); }));
+    notices->Show(NoticeKind::kPrayer, kAthan);
+    EXPECT_TRUE(Until([&] { return !notices->HasService(); }));
+    StartService();
+    EXPECT_TRUE(Until([&] { return notices->HasService(); }));
+}
+
 TEST_F(QtNoticesTest, WithoutABusThereIsNoneAndNothingShows) {
     QtNotices alone{QDBusConnection(QStringLiteral("none"))};
     alone.Show(NoticeKind::kPrayer, kAthan);

@@ -6,6 +6,7 @@
 
 #include "e2e/harness/wait_until.h"
 #include "support/build_folder.h"
+#include "support/bus_configuration.h"
 
 namespace horavex {
 
@@ -28,7 +29,8 @@ std::string NumberIn(const std::string& line) {
 
 SessionServices::SessionServices(TestDesktop& desktop)
     : desktop_(desktop),
-      system_({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"},
+      system_({"dbus-daemon", "--nofork", "--print-address=1",
+               "--config-file=" + WriteBusConfiguration(folder_.Path())},
               desktop.variables),
       services_({BuildPath("bin/session_services")}, WithSystemBus(desktop, system_)) {
     services_.FirstLine();

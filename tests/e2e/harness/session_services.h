@@ -39,6 +39,7 @@ private:
     void Call(const std::string& method, const std::vector<std::string>& arguments) const;
 
     TestDesktop& desktop_;
+    TemporaryFolder folder_;
     Service system_;
     Service services_;
 };

@@ -9,6 +9,7 @@
 
 #include "e2e/harness/wait_until.h"
 #include "support/build_folder.h"
+#include "support/bus_configuration.h"
 #include "support/registry_values.h"
 
 namespace horavex {
@@ -57,10 +58,10 @@ TestDesktop::TestDesktop() : variables(UsersVariables(home_)) {
                                  "-nolisten", "tcp", "-noreset"},
         variables);
     variables["DISPLAY"] = ":" + display_->FirstLine();
-    bus_ =
-        std::make_unique<Service>(std::vector<std::string>{"dbus-daemon", "--session", "--nofork",
-                                                           "--nopidfile", "--print-address=1"},
-                                  variables);
+    bus_ = std::make_unique<Service>(
+        std::vector<std::string>{"dbus-daemon", "--nofork", "--print-address=1",
+                                 "--config-file=" + WriteBusConfiguration(home_ / "run")},
+        variables);
     variables["DBUS_SESSION_BUS_ADDRESS"] = bus_->FirstLine();
     manager_ = std::make_unique<Service>(std::vector<std::string>{"openbox"}, variables);
     WaitUntil("a window manager", [this] { return HasManager(*this); });
