@@ -4,6 +4,7 @@
 #include "config/adjustments_display.h"
 #include "config/commit.h"
 #include "config/wizard.h"
+#include "forms/edited_values.h"
 #include "lang/form_language.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
@@ -14,48 +15,23 @@ namespace horavex {
 
 namespace {
 
-Adjustments edited;    // what the window shows
-bool showing = false;  // the program itself moves the controls
+Adjustments edited;  // what the window shows
+EditedValues values([] { ShowAdjustments(edited); });
 
 const ProgramStateReset reset([] {
     edited = {};
-    showing = false;
+    values.Reset();
 });
-
-void Show() {
-    showing = true;
-    ShowAdjustments(edited);
-    showing = false;
-}
-
-/// A handler of a control: what the user does with it changes the adjustments.
-template <class Change>
-Handler Editing(Change change) {
-    return [change] {
-        if (!showing) {
-            change();
-            Show();
-        }
-    };
-}
-
-/// A bar writes a value while its thumb is dragged, too.
-template <class Value>
-void BindBar(ScrollBar& bar, Value& value, double stepsPerUnit = 1.0) {
-    bar.onChange = Editing(
-        [&bar, &value, stepsPerUnit] { value = static_cast<Value>(bar.Value() / stepsPerUnit); });
-    bar.onScroll = bar.onChange;
-}
 
 void BindBars() {
     AdjustForm& form = *frmAdjust;
-    BindBar(form.hsFajrAngle, edited.fajrAngle, kStepsPerDegree);
-    BindBar(form.hsIshaAngle, edited.ishaAngle, kStepsPerDegree);
-    BindBar(form.hsMaghribAngle, edited.options.maghribAngle, kStepsPerDegree);
-    BindBar(form.hsIshaInterval, edited.options.ishaInterval);
-    BindBar(form.hsIshaRamadan, edited.options.ishaIntervalRamadan);
+    values.BindBar(form.hsFajrAngle, edited.fajrAngle, kStepsPerDegree);
+    values.BindBar(form.hsIshaAngle, edited.ishaAngle, kStepsPerDegree);
+    values.BindBar(form.hsMaghribAngle, edited.options.maghribAngle, kStepsPerDegree);
+    values.BindBar(form.hsIshaInterval, edited.options.ishaInterval);
+    values.BindBar(form.hsIshaRamadan, edited.options.ishaIntervalRamadan);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        BindBar(form.hsOffset(static_cast<int>(prayer)), edited.options.offsets[prayer]);
+        values.BindBar(form.hsOffset(static_cast<int>(prayer)), edited.options.offsets[prayer]);
     }
 }
 
@@ -63,10 +39,6 @@ void ChooseMethod() {
     if (const Authority* method = MethodInRow(frmAdjust->cboMethod.ListIndex())) {
         TakeMethod(*method, edited);
     }
-}
-
-void ChooseRule() {
-    edited.options.highLatitude = static_cast<HighLatitudeRule>(frmAdjust->cboRule.ListIndex());
 }
 
 void ChooseCalendar() {
@@ -78,7 +50,7 @@ void frmAdjust_Load() {
     TranslateOnLoad(*frmAdjust);
     FillAdjustmentLists();
     edited = AcceptedAdjustments();
-    Show();
+    values.Show();
 }
 
 void cmdOK_Click() {
@@ -95,15 +67,13 @@ void frmAdjust_QueryUnload(CloseRequest& request) {
 void BindControls() {
     AdjustForm& form = *frmAdjust;
     BindBars();
-    form.cboMethod.onClick = Editing(ChooseMethod);
-    form.chkSunOfTheDay.onClick =
-        Editing([] { edited.options.sunOfTheDay = frmAdjust->chkSunOfTheDay.Value() == 1; });
-    form.chkAroundTheDay.onClick =
-        Editing([] { edited.options.aroundTheDay = frmAdjust->chkAroundTheDay.Value() == 1; });
-    form.cboRule.onClick = Editing(ChooseRule);
-    form.cboCalendar.onClick = Editing(ChooseCalendar);
-    form.cboDays.onClick = Editing(ChooseCalendar);
-    form.cmdReset.onClick = Editing([] { edited.options = {}; });
+    form.cboMethod.onClick = values.Editing(ChooseMethod);
+    values.BindCheck(form.chkSunOfTheDay, edited.options.sunOfTheDay);
+    values.BindCheck(form.chkAroundTheDay, edited.options.aroundTheDay);
+    values.BindChoice(form.cboRule, edited.options.highLatitude);
+    form.cboCalendar.onClick = values.Editing(ChooseCalendar);
+    form.cboDays.onClick = values.Editing(ChooseCalendar);
+    form.cmdReset.onClick = values.Editing([] { edited.options = {}; });
     form.cmdOK.onClick = cmdOK_Click;
     form.cmdCancel.onClick = [] { frmAdjust->Unload(); };
 }
