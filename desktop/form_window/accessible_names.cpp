@@ -1,23 +1,38 @@
 #include "desktop/form_window/accessible_names.h"
 
+#include <QStringList>
 #include <QVariant>
 
 namespace horavex {
 
 namespace {
 
-QString NameOfOther(const QWidget& window, const QWidget& widget, const char* property) {
-    const QString name = widget.property(property).toString();
-    const QWidget* other = name.isEmpty() ? nullptr : window.findChild<QWidget*>(name);
-    return other == nullptr ? QString() : other->accessibleName();
+constexpr const char* kOwnName = "ownName";
+
+/// The names of all widgets whose object names the property holds, one behind the other.
+QString NamesOfOthers(const QWidget& window, const QWidget& widget, const char* property) {
+    QStringList names;
+    for (const QString& other : widget.property(property).toString().split(' ')) {
+        const auto* named = other.isEmpty() ? nullptr : window.findChild<QWidget*>(other);
+        if (named != nullptr) {
+            names << named->property(kOwnName).toString();
+        }
+    }
+    const bool fromRight = window.layoutDirection() == Qt::RightToLeft;
+    return names.join(fromRight ? QStringLiteral("\u060c ") : QStringLiteral(", "));
 }
 
 }  // namespace
 
+void SetOwnName(QWidget& widget, const QString& name) {
+    widget.setProperty(kOwnName, name);
+    widget.setAccessibleName(name);
+}
+
 void NameWidgets(const QWidget& window) {
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        const QString name = NameOfOther(window, *widget, "namedBy");
-        const QString description = NameOfOther(window, *widget, "describedBy");
+        const QString name = NamesOfOthers(window, *widget, "namedBy");
+        const QString description = NamesOfOthers(window, *widget, "describedBy");
         if (widget->accessibleName() != name && !name.isEmpty()) {
             widget->setAccessibleName(name);
         }

@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/caption_text.h"
 #include "forms/focusable.h"
 
@@ -28,7 +29,7 @@ void Binder::Refresh() {
         widget_.setToolTip(QString::fromStdString(control_.ToolTipText()));
     }
     if (control_.Has(Property::kCaption)) {
-        widget_.setAccessibleName(SpokenText(QString::fromStdString(control_.Caption())));
+        SetOwnName(widget_, SpokenText(QString::fromStdString(control_.Caption())));
     }
     Show();
     widget_.setVisible(control_.Visible());

@@ -4,6 +4,7 @@
 #include <QStandardItemModel>
 #include <QStringList>
 
+#include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/caption_text.h"
 
 namespace horavex {
@@ -147,7 +148,7 @@ void TabStripBinder::Show() {
         widget.setTabText(page, captions[page]);
     }
     widget.setCurrentIndex(control.ListIndex());
-    widget.setAccessibleName(captions.value(control.ListIndex()));
+    SetOwnName(widget, captions.value(control.ListIndex()));
 }
 
 }  // namespace horavex

@@ -376,6 +376,16 @@ TEST_F(BinderTest, CaptionsAreTheNamesForAssistiveTools) {
     EXPECT_EQ(Find<QLineEdit>("text").accessibleName(), "Another");
 }
 
+TEST_F(BinderTest, NameOfSeveralCaptionsFollowsEachOfThem) {
+    EXPECT_EQ(Find<QCheckBox>("check").accessibleName(), "Check, A label");
+    form.label.SetCaption("Another");
+    Settle();
+    EXPECT_EQ(Find<QCheckBox>("check").accessibleName(), "Check, Another");
+    form.check.SetCaption("&Tick");
+    Settle();
+    EXPECT_EQ(Find<QCheckBox>("check").accessibleName(), "Tick, Another");
+}
+
 TEST_F(BinderTest, ArabicCaptionsTurnTheWindowRound) {
     EXPECT_EQ(Window().layoutDirection(), Qt::LeftToRight);
     for (Control* control : form.Controls()) {

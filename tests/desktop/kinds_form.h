@@ -79,7 +79,7 @@ inline void FillKinds(QWidget& window) {
     AddWidget<QLabel>(window, "label");
     AddWidget<QLabel>(window, "skinLabel");
     AddWidget<QPushButton>(window, "button");
-    AddWidget<QCheckBox>(window, "check");
+    AddWidget<QCheckBox>(window, "check")->setProperty("namedBy", "check label");
     AddWidget<QLineEdit>(window, "text")->setProperty("namedBy", "label");
     AddWidget<QListWidget>(window, "list");
     AddWidget<QComboBox>(window, "combo")->setEditable(true);
