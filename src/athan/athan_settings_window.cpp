@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "athan/bare_samples.h"
 #include "athan/sound.h"
 #include "athan/sound_tools.h"
 #include "base/fault.h"
@@ -169,22 +170,6 @@ void SaveCustom(const Group& group) {
     SaveValue(group.typeValue, group.CustomType());
 }
 
-void Tell(const std::string& text) {
-    Ports().dialogs.ShowMessage(text, "", MessageIcon::kExclamation);
-}
-
-/// Samples without a header can neither be tried nor saved; the user is told what to do.
-bool RefusesBareSamples(const Group& group) {
-    if (KindOfSound(CustomFile(group)) != SoundKind::kBareSamples) {
-        return false;
-    }
-    Tell(GetLangString(
-        "desktop", "BareSamples",
-        "This file holds bare samples whose rate and format nothing tells. Convert it "
-        "to WAV, FLAC, Ogg or MP3 with a sound editor, and choose that file."));
-    return true;
-}
-
 /// False, with a message, where the custom file is to be taken and there is none or none that
 /// plays.
 bool Save(const Group& group) {
@@ -197,10 +182,11 @@ bool Save(const Group& group) {
         return true;
     }
     if (group.customPath->Caption().empty()) {
-        Tell(GetLangString("msg", "23", "No custom file selected"));
+        Ports().dialogs.ShowMessage(GetLangString("msg", "23", "No custom file selected"), "",
+                                    MessageIcon::kExclamation);
         return false;
     }
-    if (RefusesBareSamples(group)) {
+    if (RefusesBareSamples(CustomFile(group))) {
         return false;
     }
     SaveCustom(group);
@@ -222,7 +208,7 @@ void Listen(const Group& group) {
             return;
         }
     }
-    if (!RefusesBareSamples(group)) {
+    if (!RefusesBareSamples(CustomFile(group))) {
         PlayFile(CustomFile(group));
     }
 }
