@@ -15,6 +15,7 @@
 #include "ui_frmDistance.h"
 #include "ui_frmMonth.h"
 #include "ui_frmRamadan.h"
+#include "ui_frmReminders.h"
 #include "ui_frmTimes.h"
 #include "ui_frmWizard.h"
 
@@ -64,6 +65,7 @@ Layouts DrawnLayouts() {
         {"frmWizard", Fill<Ui::frmWizard>},
         {"frmAbout", Fill<Ui::frmAbout>},
         {"frmAdjust", Fill<Ui::frmAdjust>},
+        {"frmReminders", Fill<Ui::frmReminders>},
         {"frmTimes", Fill<Ui::frmTimes>},
         {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},

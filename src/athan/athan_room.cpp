@@ -6,6 +6,7 @@
 #include "athan/message_window.h"
 #include "athan/player.h"
 #include "athan/quiet.h"
+#include "athan/reminders_window.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
@@ -17,6 +18,7 @@ void BindAthanRoom() {
     BindAzanWindow();
     BindMessageWindow();
     BindAthanSettingsWindow();
+    BindRemindersWindow();
     BindQuiet();
     frmMain->mnuThanNow.onClick = [] { sub04F9(Alert::kAthanNow); };
     frmMain->mnuAthanSettings.onClick = [] { frmAthan->ShowModal(&*frmMain); };

@@ -1,11 +1,9 @@
 #include "athan/prayer_sound.h"
 
-#include <array>
-#include <string>
-
 #include "athan/athan_alert.h"
 #include "athan/athan_choices.h"
 #include "athan/athan_state.h"
+#include "athan/chosen_sound.h"
 #include "athan/player.h"
 #include "athan/sound.h"
 #include "base/int16.h"
@@ -16,34 +14,9 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kToneFile = "Athan\\tone.mp3";
-
 bool toneIsOn = false;  // what plays, if anything does, is the tone
 
 const ProgramStateReset reset([] { toneIsOn = false; });
-
-/// By AthanSound; empty for what is no file of the program.
-constexpr std::array<const char*, 9> kProgramFiles = {"",
-                                                      "Athan\\athan1.mp3",
-                                                      "Athan\\athan2.mp3",
-                                                      "Athan\\athan3.mp3",
-                                                      "Athan\\fagr_athan1.mp3",
-                                                      "Athan\\fagr_athan2.mp3",
-                                                      "",
-                                                      kToneFile,
-                                                      ""};
-
-/// Empty for the program's own sound.
-std::string ChosenPath(const PrayerChoices& choices) {
-    const std::string name = kProgramFiles.at(static_cast<std::size_t>(choices.sound));
-    const std::string path = name.empty() ? choices.file : FullPath(name);
-    const bool isFile = choices.sound != AthanSound::kProgram && Ports().files.Exists(path);
-    return isFile ? path : std::string();
-}
-
-int PercentOf(int volume) {
-    return ReadOption(option::kAthanVolume) * volume / 100;
-}
 
 void UseChosenDevice() {
     Ports().audioPlayer.UseDevice(ReadOption(option::kSoundDevice));
@@ -62,13 +35,9 @@ void PlayPrayerSound(Alert alert) {
         return;
     }
     UseChosenDevice();
-    const std::string path = ChosenPath(choices);
-    const Loudness loudness = {PercentOf(choices.volume), ReadOption(option::kAthanFade)};
-    if (path.empty()) {
-        PlayFileAt(ProgramAthanPath(alert == Alert::kFajr), loudness);
-    } else {
-        PlayFileAt(path, loudness);
-    }
+    PlayFileAt(
+        PathOfSound(choices, alert == Alert::kFajr),
+        LoudnessOf(choices, ReadOption(option::kAthanVolume), ReadOption(option::kAthanFade)));
 }
 
 bool PlayTone() {
@@ -76,7 +45,7 @@ bool PlayTone() {
         return false;
     }
     UseChosenDevice();
-    PlayFileAt(FullPath(kToneFile), {PercentOf(100), 0});
+    PlayFileAt(FullPath(kShortTone), {.percent = ReadOption(option::kAthanVolume)});
     toneIsOn = IsPlaying();
     return toneIsOn;
 }

@@ -13,6 +13,7 @@
 #include "windows/frm_main.h"
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_reminders.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -89,6 +90,40 @@ const std::vector<PackSection>& PackVocabularies() {
          {"Custom", "UsualIn", "ByAngle", "AsOtherwise", "AtSunset", "Minutes", "Arithmetic",
           "UmmAlQura", "RuleNone", "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest",
           "OutOfRange", "Impossible"}},
+        {"reminders",
+         {"Percent",
+          "Seconds",
+          "AtOnce",
+          "SilentMinutes",
+          "None",
+          "Never",
+          "AsInSettings",
+          "Athan1",
+          "Athan2",
+          "Athan3",
+          "FajrAthan1",
+          "FajrAthan2",
+          "OwnFile",
+          "Tone",
+          "NoSound",
+          "Muted",
+          "Notification",
+          "ShortTone",
+          "Both",
+          "Nothing",
+          "Window",
+          "WindowAndNotification",
+          "NotificationWhileBusy",
+          "BusyHint",
+          "NotificationAlone",
+          "DefaultDevice",
+          "NotConnected",
+          "ToneSounds",
+          "Trouble",
+          "CannotBePlayed",
+          "ChooseSound",
+          "SoundFiles",
+          "AllFiles"}},
         {"methods",
          {"algeria",      "brunei",    "canada", "dubai",   "egypt",   "france",     "gulf",
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
@@ -125,7 +160,7 @@ std::vector<PackSection> PackSections() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm, TimesForm, MonthForm, AdjustForm>();
+                AboutForm, TimesForm, MonthForm, AdjustForm, RemindersForm>();
 }
 
 }  // namespace horavex

@@ -44,6 +44,11 @@ public:
          {5, {.caption = "Pause", .toolTipText = "Pause athan"}},
          {6, {.caption = "Stop", .toolTipText = "Stop athan"}}}};
 
+    CommandButton cmdReminders{
+        *this,
+        "cmdReminders",
+        {.caption = "Athan and &Reminders\u2026",
+         .toolTipText = "A sound and a volume for each prayer, reminders, iqama and quiet hours"}};
     CommandButton cmdClose{*this, "cmdClose", {.caption = "&Close"}};
     CommandButton AthanSettingSet{
         *this, "AthanSettingSet", {.caption = "&Save", .toolTipText = "Save the Athan setting"}};

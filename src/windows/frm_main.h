@@ -53,6 +53,7 @@ public:
     MenuItem mnuWizard{mnuSettings, "mnuWizard", {.caption = "Configuration Wizard"}};
     MenuItem mnuLine1{mnuSettings, "mnuLine1", {.caption = "-"}};
     MenuItem mnuAdjustments{mnuSettings, "mnuAdjustments", {.caption = "Adjustments"}};
+    MenuItem mnuReminders{mnuSettings, "mnuReminders", {.caption = "Athan and Reminders"}};
 
     MenuItem mnuTools{*this, "mnuTools", {.caption = "Tools"}};
     MenuItem mnuDateConversion{mnuTools, "mnuDateConversion", {.caption = "Date Conversion"}};
@@ -76,6 +77,7 @@ public:
     MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
     MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
     MenuItem mnuPopAdjustments{mnuPopup, "mnuPopAdjustments", {.caption = "Ad&justments"}};
+    MenuItem mnuPopReminders{mnuPopup, "mnuPopReminders", {.caption = "Athan and &Reminders"}};
     MenuItem mnuPopQuietNext{
         mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &next prayer"}};
     MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &today"}};

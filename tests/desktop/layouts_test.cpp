@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTabBar>
+#include <set>
 
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
@@ -21,6 +22,7 @@
 #include "windows/frm_main.h"
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_reminders.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -100,17 +102,36 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(
     DrawnForms, LayoutsTest,
-    testing::Values([]() -> Form* { return &*fMessage; },
-                    []() -> Form* { return &*HoravexMainForm; },
-                    []() -> Form* { return &*frmAbout; }, []() -> Form* { return &*frmAthan; },
-                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
-                    []() -> Form* { return &*frmDistance; },
-                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
-                    []() -> Form* { return &*NewCoordinates; },
-                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
-                    []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
-                    []() -> Form* { return &*frmAdjust; }),
+    testing::Values(
+        []() -> Form* { return &*fMessage; }, []() -> Form* { return &*HoravexMainForm; },
+        []() -> Form* { return &*frmAbout; }, []() -> Form* { return &*frmAthan; },
+        []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
+        []() -> Form* { return &*frmDistance; }, []() -> Form* { return &*Moon_Phases; },
+        []() -> Form* { return &*frmRamadan; }, []() -> Form* { return &*NewCoordinates; },
+        []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
+        []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
+        []() -> Form* { return &*frmAdjust; }, []() -> Form* { return &*frmReminders; }),
     [](const auto& form) { return form.param()->Name(); });
+
+TEST(RemindersLayout, NamesTellThePrayerOfEachRow) {
+    const TestPlatform platform;
+    const FormWindows windows{DrawnLayouts()};
+    frmReminders->Load();
+    FormWindow& window = *windows.Find(&*frmReminders);
+    window.Flush();
+    std::set<QString> names;
+    for (Control* control : frmReminders->Controls()) {
+        const auto* widget = window.findChild<QWidget*>(WidgetNameOf(*control));
+        if (dynamic_cast<Focusable*>(control) != nullptr) {
+            EXPECT_TRUE(names.insert(widget->accessibleName()).second)
+                << widget->accessibleName().toStdString();
+        }
+    }
+    for (const char* name : {"Athan, Fajr", "Sound, Zuhr", "Volume, Asr", "Listen, Maghrib",
+                             "Reminder before, Shurooq", "Iqama after, Isha", "Quiet hours, To"}) {
+        EXPECT_TRUE(names.contains(name)) << name;
+    }
+}
 
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;

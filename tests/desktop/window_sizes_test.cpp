@@ -33,6 +33,7 @@
 #include "windows/frm_main.h"
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_reminders.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -122,7 +123,8 @@ private:
                 {*Moon_Phases, By(frmMain->mnuMoonPhases)},
                 {*frmRamadan, ShowRamadanHelp},
                 {*frmAbout, By(frmMain->mnuAbout)},
-                {*frmAdjust, By(frmMain->mnuAdjustments)}};
+                {*frmAdjust, By(frmMain->mnuAdjustments)},
+                {*frmReminders, By(frmMain->mnuReminders)}};
     }
 
     static Layouts AllLayouts(QtFace& face, AzanFace& athanFace) {

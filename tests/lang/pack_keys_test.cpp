@@ -24,8 +24,8 @@ const PackSection& Section(std::size_t index) {
 }
 
 TEST(PackVocabularies,
-     AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAndAdjustments) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(9));
+     AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAdjustmentsAndReminders) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(10));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
@@ -34,7 +34,8 @@ TEST(PackVocabularies,
     EXPECT_EQ(Section(5).name, "moments");
     EXPECT_EQ(Section(6).name, "notices");
     EXPECT_EQ(Section(7).name, "adjustments");
-    EXPECT_EQ(Section(8).name, "methods");
+    EXPECT_EQ(Section(8).name, "reminders");
+    EXPECT_EQ(Section(9).name, "methods");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -101,7 +102,7 @@ TEST_F(PackSectionsTest, FormsStandAsDefined) {
     EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
                                    "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
                                    "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
-                                   "frmTimes", "frmMonth", "frmAdjust"));
+                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -111,10 +112,10 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     }
     EXPECT_THAT(names,
                 ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "notices",
-                            "adjustments", "methods", "frmMain", "HoravexMainForm", "fMessage",
-                            "frmAthan", "fCountry", "NewCoordinates", "frmWizard", "frmDateConvert",
-                            "fQibla", "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
-                            "frmTimes", "frmMonth", "frmAdjust"));
+                            "adjustments", "reminders", "methods", "frmMain", "HoravexMainForm",
+                            "fMessage", "frmAthan", "fCountry", "NewCoordinates", "frmWizard",
+                            "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases", "frmRamadan",
+                            "frmAbout", "frmTimes", "frmMonth", "frmAdjust", "frmReminders"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
@@ -125,7 +126,7 @@ TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[9].keys;
+    const auto keys = PackSections()[10].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

@@ -48,15 +48,16 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuAthan), ElementsAre("mnuThanNow", "mnuExport", "mnuExit"));
     EXPECT_THAT(NamesIn(frmMain->mnuSettings),
                 ElementsAre("mnumSettings", "mnuChangeCity", "mnuAthanSettings", "mnuPrayerTimes",
-                            "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments"));
+                            "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments",
+                            "mnuReminders"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
-    EXPECT_THAT(
-        NamesIn(frmMain->mnuPopup),
-        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
-                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopAdjustments",
-                    "mnuPopQuietNext", "mnuPopQuietToday", "mnuPopQuietHours", "mnuPopExit"));
+    EXPECT_THAT(NamesIn(frmMain->mnuPopup),
+                ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",
+                            "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS",
+                            "mnuPopAdjustments", "mnuPopReminders", "mnuPopQuietNext",
+                            "mnuPopQuietToday", "mnuPopQuietHours", "mnuPopExit"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {

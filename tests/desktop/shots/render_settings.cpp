@@ -1,5 +1,5 @@
-// Renders the settings window, the adjustments, the wizard's pages and the city picker of the whole
-// program into PNG files, to be looked at by the people who draw them:
+// Renders the settings window, the adjustments, athan and reminders, the wizard's pages and the
+// city picker of the whole program into PNG files, to be looked at by the people who draw them:
 //
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_settings FOLDER
 //
@@ -25,7 +25,9 @@
 #include "support/test_platform.h"
 #include "windows/f_country.h"
 #include "windows/frm_adjust.h"
+#include "windows/frm_athan.h"
 #include "windows/frm_main.h"
+#include "windows/frm_reminders.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
 #include "windows/new_coordinates.h"
@@ -63,6 +65,7 @@ public:
         RenderPicker();
         RenderWizard();
         RenderAdjustments();
+        RenderReminders();
         NewCoordinates->Show();
         Save(*NewCoordinates, "coordinates");
     }
@@ -128,6 +131,39 @@ private:
         Save(*frmAdjust, "adjustments-oslo");
     }
 
+    /// As nothing is chosen, and with much chosen and no device for the sound.
+    void RenderReminders() {
+        frmAthan->Show();
+        Save(*frmAthan, "athan");
+        frmAthan->Unload();
+        ActiveSettings.AthanType = kSoundAthan;
+        platform_.audioPlayer.devices = {{"speakers", "Built-in Audio Analog Stereo"}};
+        frmReminders->Show();
+        Save(*frmReminders, "reminders");
+        frmReminders->Unload();
+        ActiveSettings.AthanType = 0;
+        frmReminders->Show();
+        platform_.dialogs.chosenFile = "/home/user/Music/A muezzin of Cairo, 1952.ogg";
+        platform_.audioPlayer.hasDevice = false;
+        ChooseMuch(*frmReminders);
+        Save(*frmReminders, "reminders-chosen");
+        frmReminders->Unload();
+    }
+
+    static void ChooseMuch(RemindersForm& form) {
+        form.cboSound(kFajr).UserSelect(6);
+        form.hsVolume(kFajr).UserSlide(40);
+        form.chkAthan(kZuhr).UserClick();
+        form.cboSound(kIsha).UserSelect(8);
+        form.hsReminder(kShurooq).UserSlide(30);
+        form.hsIqama(kMaghrib).UserSlide(10);
+        form.hsFade.UserSlide(45);
+        form.hsSilent.UserSlide(120);
+        form.chkQuiet.UserClick();
+        form.cboShow.UserSelect(2);
+        form.cmdTestTone.UserClick();
+    }
+
     static Layouts AllLayouts(QtFace& face) {
         Layouts layouts = DrawnLayouts();
         layouts["frmMain"] = [&face](QWidget& window) { face.Fill(window); };
@@ -146,7 +182,8 @@ private:
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     for (const Language& language :
-         {Language{"English", 1}, Language{"German", 3}, Language{"Arabic", 4}}) {
+         {Language{"English", 1}, Language{"French", 2}, Language{"German", 3},
+          Language{"Arabic", 4}, Language{"Spanish", 5}}) {
         Rendering(QString::fromLocal8Bit(argv[1]), language).All();
     }
     return 0;

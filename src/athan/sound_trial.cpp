@@ -1,0 +1,92 @@
+#include "athan/sound_trial.h"
+
+#include <optional>
+
+#include "athan/athan_state.h"
+#include "athan/chosen_sound.h"
+#include "athan/player.h"
+#include "athan/reminders_display.h"
+#include "athan/sound.h"
+#include "base/int16.h"
+#include "base/program_state.h"
+#include "platform/platform.h"
+
+namespace horavex {
+
+namespace {
+
+/// What was tried last.
+struct Trial {
+    std::optional<Prayer> prayer;       // none for the tone
+    std::int16_t athanBehind = kFalse;  // an athan was up when it began
+
+    /// It plays still, and no athan has come in its place.
+    bool Plays() const { return IsPlaying() && athanActive == athanBehind; }
+};
+
+std::optional<Trial> trial;
+
+const ProgramStateReset reset([] { trial.reset(); });
+
+void ShowHowItGoes() {
+    const std::string trouble = Ports().audioPlayer.Trouble();
+    if (!IsPlaying()) {
+        ShowTrouble(CannotBePlayed());
+    } else if (!trouble.empty()) {
+        StopSound();
+        ShowTrouble(trouble);
+    } else if (!trial->prayer) {
+        ShowToneSounds();
+    } else {
+        ShowNothingTried();
+    }
+}
+
+/// What pauses is over: a file would resume it.
+void Try(std::optional<Prayer> prayer, const std::string& path, const Loudness& loudness,
+         const std::string& device) {
+    StopSound();
+    trial = Trial{prayer, athanActive};
+    Ports().audioPlayer.UseDevice(device);
+    PlayFileAt(path, loudness);
+    ShowHowItGoes();
+}
+
+}  // namespace
+
+void ListenTo(Prayer prayer, const AthanChoices& choices) {
+    if (trial && trial->prayer == prayer && trial->Plays()) {
+        StopSound();
+    } else {
+        const PrayerChoices& chosen = choices.prayers[prayer];
+        Try(prayer, PathOfSound(chosen, prayer == kFajr),
+            LoudnessOf(chosen, choices.volume, choices.fadeSeconds), choices.device);
+    }
+}
+
+void TestTone(const AthanChoices& choices) {
+    Try(std::nullopt, FullPath(kShortTone), {.percent = choices.volume}, choices.device);
+}
+
+void StopTrial() {
+    StopSound();
+    ShowNothingTried();
+}
+
+void EndTrial() {
+    if (trial && trial->Plays()) {
+        StopSound();
+    }
+    trial.reset();
+    Ports().audioPlayer.UseDevice(ReadOption(option::kSoundDevice));
+}
+
+void BindSoundTrial() {
+    Ports().audioPlayer.onUnreachable = [] {
+        if (trial) {
+            ShowHowItGoes();
+        }
+    };
+}
+
+}  // namespace horavex
