@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QElapsedTimer>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <set>
@@ -36,10 +35,11 @@ class TestBus {
 
 public:
     TestBus()
-        : daemon_(
-              {"dbus-daemon", "--nofork", "--config-file=" + WriteBusConfiguration(folder_.Path())},
-              {}, folder_ / "out", folder_ / "err") {
-        EXPECT_TRUE(Until([this] { return std::filesystem::exists(folder_ / "bus"); }));
+        : daemon_({"dbus-daemon", "--nofork", "--print-address=1",
+                   "--config-file=" + WriteBusConfiguration(folder_.Path())},
+                  {}, folder_ / "out", folder_ / "err") {
+        // It prints the address once it listens there.
+        EXPECT_TRUE(Until([this] { return ContentOf(folder_ / "out").ends_with('\n'); }));
     }
 
     ~TestBus() {
