@@ -7,6 +7,7 @@
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "platform/sound_trouble.h"
 #include "store/settings_record.h"
 #include "windows/frm_reminders.h"
 
@@ -53,6 +54,29 @@ std::string SilenceText(int minutes) {
 
 std::string ClockText(int minuteOfDay) {
     return Ports().formats.MediumTime(minuteOfDay / kMinutesPerDay);
+}
+
+// Reasons for silence.
+
+struct Reason {
+    const char* said;  // by the player
+    const char* key;
+};
+
+constexpr Reason kReasons[] = {{sound_trouble::kNoServer, "NoServer"},
+                               {sound_trouble::kNoDevice, "NoDevice"},
+                               {sound_trouble::kMutedDevice, "MutedDevice"},
+                               {sound_trouble::kMutedProgram, "MutedProgram"},
+                               {sound_trouble::kFormat, "NoFormat"}};
+
+/// In the pack's language.
+std::string InWords(const std::string& reason) {
+    for (const auto& [said, key] : kReasons) {
+        if (reason == said) {
+            return Word(key, said);
+        }
+    }
+    return reason;
 }
 
 // Sounds.
@@ -273,7 +297,7 @@ void ShowToneSounds() {
 
 void ShowTrouble(const std::string& reason) {
     frmReminders->lblShownSound.SetCaption(
-        FilledText(Word("Trouble", "No sound: {reason}"), "{reason}", reason));
+        FilledText(Word("Trouble", "No sound: {reason}"), "{reason}", InWords(reason)));
 }
 
 std::string CannotBePlayed() {

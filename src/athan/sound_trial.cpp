@@ -68,6 +68,12 @@ void TestTone(const AthanChoices& choices) {
     Try(std::nullopt, FullPath(kShortTone), {.percent = choices.volume}, choices.device);
 }
 
+void WatchTrial() {
+    if (trial && trial->Plays() && !Ports().audioPlayer.Trouble().empty()) {
+        ShowHowItGoes();
+    }
+}
+
 void StopTrial() {
     StopSound();
     ShowNothingTried();

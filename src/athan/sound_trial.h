@@ -13,6 +13,10 @@ void ListenTo(Prayer prayer, const AthanChoices& choices);
 /// Plays the short tone at the volume over all.
 void TestTone(const AthanChoices& choices);
 
+/// Says so where what is tried turns out not to be heard, because it is muted for one. At every
+/// tick.
+void WatchTrial();
+
 /// Stops what plays.
 void StopTrial();
 

@@ -9,6 +9,7 @@
 #include "athan/missed.h"
 #include "athan/quiet.h"
 #include "athan/signals.h"
+#include "athan/sound_trial.h"
 #include "base/int16.h"
 #include "base/rounding.h"
 #include "config/commit.h"
@@ -93,6 +94,7 @@ void TestAlarm(const TickActions& actions) {
 /// What goes with the prayers, by the time that it is behind them: an alert takes its seconds.
 void FollowAthan() {
     WatchAthan();
+    WatchTrial();
     const Date now = Ports().clock.Now();
     TellSignals(now);
     TellMissedPrayers(now);

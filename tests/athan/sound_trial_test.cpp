@@ -3,9 +3,13 @@
 #include "athan/athan_state.h"
 #include "athan/chosen_sound.h"
 #include "athan/player.h"
+#include "athan/reminders_display.h"
 #include "athan/reminders_test.h"
 #include "athan/sound.h"
 #include "base/int16.h"
+#include "lang/language_pack.h"
+#include "platform/sound_trouble.h"
+#include "shell/tick.h"
 
 namespace horavex {
 namespace {
@@ -119,6 +123,37 @@ TEST_F(SoundTrialTest, TroubleThatComesLaterIsSaidInPlaceOfTheTone) {
     platform.audioPlayer.hasDevice = false;
     platform.audioPlayer.onUnreachable();
     EXPECT_EQ(Said(), "No sound: no device");
+}
+
+TEST_F(SoundTrialTest, NextTickSaysThatTheToneIsNotHeard) {
+    Open();
+    form.cmdTestTone.UserClick();
+    tmrUpdate_Timer();
+    EXPECT_EQ(Said(), "You should hear a tone now.");
+    platform.audioPlayer.hasDevice = false;
+    tmrUpdate_Timer();
+    EXPECT_EQ(Said(), "No sound: no device");
+    EXPECT_FALSE(IsPlaying());
+}
+
+TEST_F(SoundTrialTest, AthanThatIsNotHeardSaysNothingHere) {
+    Open();
+    Athan_Sound_Click();
+    platform.audioPlayer.hasDevice = false;
+    tmrUpdate_Timer();
+    EXPECT_EQ(Said(), "");
+    EXPECT_TRUE(IsPlaying());
+}
+
+TEST_F(SoundTrialTest, ReasonsAreInTheLanguageOfThePack) {
+    currentLanguage = "German";
+    platform.files.WriteWhole("/program/lang/German.ini",
+                              BytesOf("[reminders]\nNoServer=Kein Tonserver\n"));
+    Open();
+    ShowTrouble(sound_trouble::kNoServer);
+    EXPECT_EQ(Said(), "No sound: Kein Tonserver");
+    ShowTrouble(sound_trouble::kMutedDevice);
+    EXPECT_EQ(Said(), "No sound: the output device is muted");
 }
 
 TEST_F(SoundTrialTest, AthanWithoutADeviceSaysNothingHere) {
