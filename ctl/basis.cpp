@@ -112,8 +112,9 @@ void AddAround(Json& object, Date day) {
     const AroundMoments around = AroundOfRow(row);
     object["around"] = Json::array();
     for (std::size_t time = 0; time < kAroundCount; ++time) {
-        object["around"].push_back(
-            {{"time", kAroundKeys[time]}, {"local", LocalJson(day, around[time].hours)}});
+        object["around"].push_back({{"time", kAroundKeys[time]},
+                                    {"local", LocalJson(day, around[time].hours)},
+                                    {"by", WordOf(around[time].by)}});
     }
 }
 

@@ -32,6 +32,12 @@ int DayShiftOf(double hours) {
     return NearestInt(std::floor(RoundHalfEven(hours * 3600.0) / kSecondsPerDay));
 }
 
+/// From Maghrib to the next Fajr.
+struct Night {
+    double hours = NoEvent;
+    bool endsByRule = false;
+};
+
 /// Makes the moments of one day.
 class DayMaker {
 public:
@@ -47,21 +53,27 @@ public:
         return day;
     }
 
-    /// night: the length of the one behind the day, hours.
-    AroundMoments Around(double night, int imsakMinutes) const {
+    /// night: the one behind the day.
+    AroundMoments Around(const Night& night, int imsakMinutes) const {
         const DayMoments day = Standard();
-        AroundMoments around = {
-            Behind(day, kFajr, -imsakMinutes / kMinutesPerHour), Behind(day, kShurooq, kDuhaDelay),
-            Behind(day, kMaghrib, night / 2.0), Behind(day, kMaghrib, night * 2.0 / 3.0)};
+        AroundMoments around = {Behind(day, kFajr, -imsakMinutes / kMinutesPerHour),
+                                Behind(day, kShurooq, kDuhaDelay),
+                                Behind(day, kMaghrib, night.hours / 2.0),
+                                Behind(day, kMaghrib, night.hours * 2.0 / 3.0)};
+        if (night.endsByRule) {
+            around[kMiddleOfNight].by = around[kLastThird].by = MomentBy::kRule;
+        }
         for (Moment& moment : around) {
             PutOnClock(moment, 0);
         }
         return around;
     }
 
-    /// An hour with the minutes that the rules add, of the record's standard time.
-    double StandardHour(Prayer prayer) const {
-        return Standard()[prayer].hours + rules_.offsets[prayer] / kMinutesPerHour;
+    /// With the minutes that the rules add, of the record's standard time.
+    Moment StandardMoment(Prayer prayer) const {
+        Moment moment = Standard()[prayer];
+        moment.hours += rules_.offsets[prayer] / kMinutesPerHour;
+        return moment;
     }
 
 private:
@@ -174,10 +186,12 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row) {
 AroundMoments AroundOf(const YearSource& year, std::size_t row, int imsakMinutes) {
     const std::size_t last = 364U + static_cast<std::size_t>(LeapFlagOf(year.inputs.year));
     const std::size_t evening = row < last ? row : row - 1;
-    const double fajr = DayMaker(year, evening + 1).StandardHour(kFajr);
-    const double maghrib = DayMaker(year, evening).StandardHour(kMaghrib);
-    const bool isNight = IsEvent(fajr) && IsEvent(maghrib);
-    return DayMaker(year, row).Around(isNight ? fajr + 24.0 - maghrib : NoEvent, imsakMinutes);
+    const Moment fajr = DayMaker(year, evening + 1).StandardMoment(kFajr);
+    const Moment maghrib = DayMaker(year, evening).StandardMoment(kMaghrib);
+    const bool isNight = IsEvent(fajr.hours) && IsEvent(maghrib.hours);
+    const Night night = {isNight ? fajr.hours + 24.0 - maghrib.hours : NoEvent,
+                         fajr.by == MomentBy::kRule};
+    return DayMaker(year, row).Around(night, imsakMinutes);
 }
 
 AroundMoments AroundOfRow(std::size_t row) {

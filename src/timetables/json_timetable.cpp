@@ -128,7 +128,8 @@ std::string AroundArray(const Timetable& table, const TimetableDay& day) {
     for (std::size_t time = 0; time < day.around.size(); ++time) {
         const auto& moment = day.around[time];
         items += (time == 0 ? "{" : ",{") + Member("time", Quoted(kAroundKeys[time])) + "," +
-                 Member("local", LocalValue(table, day, moment)) + "}";
+                 Member("local", LocalValue(table, day, moment)) + "," +
+                 Member("by", Quoted(WordOf(moment.value_or(Moment{}).by))) + "}";
     }
     return "[" + items + "]";
 }

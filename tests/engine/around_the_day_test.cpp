@@ -90,6 +90,9 @@ TEST(AroundTheDay, StandingOnAPrayerByARuleTheyAreByARule) {
     const AroundMoments around = Oslo().Around(171);
     EXPECT_EQ(around[kImsak].by, MomentBy::kRule);
     EXPECT_EQ(around[kDuha].by, MomentBy::kInterval);
+    EXPECT_EQ(around[kMiddleOfNight].by, MomentBy::kRule) << "the next Fajr ends the night";
+    EXPECT_EQ(around[kLastThird].by, MomentBy::kRule);
+    EXPECT_EQ(Oslo().Around(0)[kLastThird].by, MomentBy::kInterval);
 }
 
 // Many days there have a Fajr, and few a sunset.

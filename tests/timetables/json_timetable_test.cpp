@@ -66,10 +66,14 @@ TEST_F(JsonTimetableTest, TimesAroundTheDayAreToldWhereAnOptionAsksForThem) {
     SaveOption(option::kImsakMinutes, 15);
     const std::string text = JsonTimetable(TakeTimetable());
     EXPECT_THAT(
-        text, HasSubstr("\"around\":[{\"time\":\"Imsak\",\"local\":\"2026-01-01T04:45:00+02:00\"},"
-                        "{\"time\":\"Duha\",\"local\":\"2026-01-01T06:45:00+02:00\"},"
-                        "{\"time\":\"MiddleOfNight\",\"local\":\"2026-01-01T23:30:00+02:00\"},"
-                        "{\"time\":\"LastThird\",\"local\":\"2026-01-02T01:20:00+02:00\"}]}"));
+        text,
+        HasSubstr("\"around\":[{\"time\":\"Imsak\",\"local\":\"2026-01-01T04:45:00+02:00\",\"by\":"
+                  "\"interval\"},"
+                  "{\"time\":\"Duha\",\"local\":\"2026-01-01T06:45:00+02:00\",\"by\":\"interval\"},"
+                  "{\"time\":\"MiddleOfNight\",\"local\":\"2026-01-01T23:30:00+02:00\",\"by\":"
+                  "\"interval\"},"
+                  "{\"time\":\"LastThird\",\"local\":\"2026-01-02T01:20:00+02:00\",\"by\":"
+                  "\"interval\"}]}"));
 }
 
 TEST_F(JsonTimetableTest, TextsAreEscaped) {
