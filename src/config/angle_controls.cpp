@@ -4,6 +4,7 @@
 
 #include "base/rounding.h"
 #include "config/angle_range.h"
+#include "config/working_options.h"
 #include "store/text_table.h"
 
 namespace horavex {
@@ -51,6 +52,41 @@ int RowOfAngles(double fajrAngle, double ishaAngle) {
         ++row;
     }
     return 0;
+}
+
+namespace {
+
+/// Of the convention in a row, beside what the working options hold otherwise.
+YearOptions OptionsOfRow(int row) {
+    YearOptions options = WorkingRules();
+    TakeAuthority(*Methods()[static_cast<std::size_t>(row - 1)].authority, options);
+    return options;
+}
+
+/// What a method can ask beyond its two angles.
+bool HoldsMoreThanAngles(const YearOptions& options) {
+    const YearOptions none;
+    return options.ishaInterval != none.ishaInterval ||
+           options.ishaIntervalRamadan != none.ishaIntervalRamadan ||
+           options.maghribAngle != none.maghribAngle || options.offsets != none.offsets;
+}
+
+}  // namespace
+
+int RowInForce(int row) {
+    const YearOptions options = WorkingRules();
+    const bool isWhole = row == 0 || !HoldsMoreThanAngles(options) || OptionsOfRow(row) == options;
+    return isWhole ? row : 0;
+}
+
+void TakeWholeMethod(int row) {
+    if (OptionsAreChosen() || HoldsMoreThanAngles(WorkingRules())) {
+        ChooseOptions(OptionsOfRow(row));
+    }
+}
+
+bool IshaIsByAngle() {
+    return WorkingRules().ishaInterval == 0;
 }
 
 }  // namespace horavex

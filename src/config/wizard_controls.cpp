@@ -61,22 +61,10 @@ void txtTimeZone_KeyUp() {
     GuardZone(frmWizard->txtTimeZone, frmWizard->lastTimeZoneText);
 }
 
-/// While choices of a first run wait, another convention takes the place of the whole method.
-void TakeWholeMethod(int row) {
-    if (row > 0 && OptionsAreChosen()) {
-        YearOptions options = WorkingRules();
-        TakeAuthority(*Methods()[static_cast<std::size_t>(row - 1)].authority, options);
-        ChooseOptions(options);
-        ShowPlaceOnWizard();
-    }
-}
-
 void cboMethod_Choose() {
     const PreviewHold hold;
-    const bool isUsers = frmWizard->cboMethod.ListIndex() != RowOfSliders(*frmWizard);
-    cboMethod_Click(*frmWizard);
-    if (isUsers) {
-        TakeWholeMethod(frmWizard->cboMethod.ListIndex());
+    if (cboMethod_Click(*frmWizard)) {
+        ShowPlaceOnWizard();
         SetTodayPrayerTimes();
     }
 }

@@ -56,14 +56,11 @@ void ShowRule(HighLatitudeRule rule) {
     frmWizard->lblRuleSeventh.SetVisible(rule == HighLatitudeRule::kSeventh);
 }
 
-/// Where Isha goes by the clock its angle counts for nothing.
 void ShowInterval(int minutes) {
     WizardForm& form = *frmWizard;
     form.lblInterval.SetCaption(Beginning("lblInterval", "Isha minutes after Maghrib:") +
                                 std::to_string(minutes));
     form.lblInterval.SetVisible(minutes > 0);
-    form.hsDepr2.SetEnabled(minutes == 0);
-    form.hsDepr21.SetEnabled(minutes == 0);
 }
 
 }  // namespace

@@ -141,6 +141,36 @@ TEST_F(UsualPickTest, ConventionOfTheListTakesThePlaceOfTheWholeMethod) {
     EXPECT_EQ(WorkingRule(), HighLatitudeRule::kMiddle) << "which is no part of a method";
 }
 
+TEST_F(UsualPickTest, ConventionWhoseMarginsDoNotCountIsNotTheOneInForce) {
+    AddZone("Europe/Istanbul", 3 * kHour);
+    Start();
+    PickInWizard("istanbul");
+    GoToAngles();
+    EXPECT_EQ(wizard.cboMethod.ListIndex(), 0) << "the angles alone are those of another";
+    Finish();
+    const auto margins = ReadRuleOptions().offsets;
+    EXPECT_NE(margins[kMaghrib], 0);
+    frmMain->mnumSettings.UserClick();
+    EXPECT_EQ(form.cboMethod.ListIndex(), 0);
+    form.cboMethod.UserSelect(1);
+    EXPECT_EQ(form.cboMethod.ListIndex(), 1);
+    EXPECT_EQ(ReadRuleOptions().offsets, margins) << "until it is set";
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(ReadRuleOptions().offsets, YearOptions().offsets);
+}
+
+TEST_F(UsualPickTest, UnderAnIntervalTheSettingsWindowLeavesTheAngleOfIshaAlone) {
+    Start();
+    PickInWizard("riyadh");
+    Finish();
+    frmMain->mnumSettings.UserClick();
+    EXPECT_FALSE(form.hsDepr2.Enabled());
+    EXPECT_FALSE(form.hsDepr21.Enabled());
+    form.cboMethod.UserSelect(2);
+    EXPECT_TRUE(form.hsDepr2.Enabled());
+    EXPECT_EQ(WorkingRules().ishaInterval, 0);
+}
+
 TEST_F(UsualPickTest, SchoolOfAsrComesWithTheCountryAndGoesWithIt) {
     Start();
     PickInWizard("karachi");
