@@ -16,10 +16,10 @@ class EditedValues {
 public:
     explicit EditedValues(std::function<void()> show) : show_(std::move(show)) {}
 
+    /// A fault on the way leaves the controls to the user again.
     void Show() {
-        showing_ = true;
+        const Showing scope(showing_);
         show_();
-        showing_ = false;
     }
 
     /// In a fresh process.
@@ -56,6 +56,12 @@ public:
     }
 
 private:
+    struct Showing {
+        explicit Showing(bool& flag) : flag_(flag) { flag_ = true; }
+        ~Showing() { flag_ = false; }
+        bool& flag_;
+    };
+
     std::function<void()> show_;
     bool showing_ = false;  // the program itself moves the controls
 };
