@@ -88,11 +88,7 @@ void EndTrial() {
 }
 
 void BindSoundTrial() {
-    Ports().audioPlayer.onUnreachable = [] {
-        if (trial) {
-            ShowHowItGoes();
-        }
-    };
+    Ports().audioPlayer.onUnreachable = WatchTrial;
 }
 
 }  // namespace horavex

@@ -157,11 +157,14 @@ TEST_F(SoundTrialTest, ReasonsAreInTheLanguageOfThePack) {
 }
 
 TEST_F(SoundTrialTest, AthanWithoutADeviceSaysNothingHere) {
-    platform.audioPlayer.hasDevice = false;
     Open();
+    form.cmdListen(kIsha).UserClick();
+    athanActive = kTrue;
     Athan_Sound_Click();
+    platform.audioPlayer.hasDevice = false;
     platform.audioPlayer.onUnreachable();
     EXPECT_EQ(Said(), "");
+    EXPECT_TRUE(IsPlaying());
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // Renders the settings window, the adjustments, athan and reminders, the wizard's pages and the
 // city picker of the whole program into PNG files, to be looked at by the people who draw them:
 //
-//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_settings FOLDER
+//     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_settings FOLDER [dark]
 //
 // The folder HORAVEX_TEST_BINARY_DIR is where the program was built.
 #include <QApplication>
@@ -13,6 +13,7 @@
 #include "config/wizard.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/shots/dark_palette.h"
 #include "geo/city_picker.h"
 #include "lang/language_pack.h"
 #include "shell/wiring.h"
@@ -181,6 +182,9 @@ private:
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
+    if (argc > 2) {
+        QApplication::setPalette(DarkPalette());
+    }
     for (const Language& language :
          {Language{"English", 1}, Language{"French", 2}, Language{"German", 3},
           Language{"Arabic", 4}, Language{"Spanish", 5}}) {

@@ -3,12 +3,12 @@
 //     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=2 render_timetables FOLDER [dark]
 #include <QApplication>
 #include <QDialog>
-#include <QPalette>
 #include <QTimer>
 
 #include "base/int16.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/printing/document_desk.h"
+#include "desktop/shots/dark_palette.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "geo/qibla.h"
@@ -170,21 +170,12 @@ void RenderOslo(TestPlatform& platform, const FormWindows& windows, SilentHost& 
     platform.clock.Set(now);
 }
 
-/// Light texts on dark ground, as a desktop at night has them.
-QPalette Dark() {
-    QPalette palette(QColor(45, 48, 53));
-    palette.setColor(QPalette::Base, QColor(30, 32, 36));
-    palette.setColor(QPalette::AlternateBase, QColor(52, 56, 62));
-    palette.setColor(QPalette::Highlight, QColor(42, 118, 188));
-    return palette;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     if (argc > 2) {
-        QApplication::setPalette(Dark());
+        QApplication::setPalette(DarkPalette());
     }
     TestPlatform platform;
     folder = QString::fromLocal8Bit(argv[1]);
