@@ -50,7 +50,10 @@ public:
             bus.send(message.createReply());
         } else if (method == QLatin1String("GetCapabilities")) {
             ++questions;
-            bus.send(message.createReply(QVariantList{abilities}));
+            question = message;
+            if (!isMute) {
+                AnswerAbilities();
+            }
         } else if (method == QLatin1String("Get") && inhibited) {
             ++looks;
             bus.send(message.createReply(QVariant::fromValue(QDBusVariant(*inhibited))));
@@ -59,6 +62,8 @@ public:
         }
         return true;
     }
+
+    void AnswerAbilities() { bus_.send(question.createReply(QVariantList{abilities})); }
 
     /// Tells the number of the last notice.
     void AnswerNotify() {
@@ -87,6 +92,8 @@ public:
     std::vector<uint> closed;
     std::vector<QDBusMessage> notifies;
     QStringList abilities = {"actions", "body", "body-markup"};
+    QDBusMessage question;
+    bool isMute = false;            // a test tells the abilities
     int questions = 0;              // for the abilities
     std::optional<bool> inhibited;  // the property; none for a service without it
     int looks = 0;                  // at the property

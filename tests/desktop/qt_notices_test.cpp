@@ -277,6 +277,23 @@ TEST_F(QtNoticesTest, AbilitiesAreAskedOnceForAllThatWaits) {
     EXPECT_EQ(service->questions, 1);
 }
 
+TEST_F(QtNoticesTest, ServiceThatHangsHoldsNobodyUpAndGetsOnlyWhatIsStillWanted) {
+    service->isMute = true;
+    MakeNotices();
+    notices->Show(NoticeKind::kMissed, kReminder);
+    notices->Show(NoticeKind::kPrayer, kReminder);
+    Settle();
+    EXPECT_TRUE(notices->HasService());
+    notices->Withdraw(NoticeKind::kMissed);
+    notices->Show(NoticeKind::kPrayer, kAthan);
+    Settle();
+    service->AnswerAbilities();
+    Settle();
+    ASSERT_EQ(service->shown.size(), 1U);
+    EXPECT_EQ(service->shown[0].text, kAthan.text);
+    EXPECT_THAT(service->closed, IsEmpty());
+}
+
 TEST_F(QtNoticesTest, MarksAreSetOffWhereTheServiceReadsThem) {
     MakeNotices();
     const Notice marked = {"Asr <1>", "Fish & <b>chips</b>", true, "", ""};

@@ -12,6 +12,7 @@
 #include "e2e/harness/session_services.h"
 #include "e2e/harness/sink_recording.h"
 #include "e2e/harness/status_notifier_host.h"
+#include "e2e/harness/tray_host.h"
 #include "e2e/harness/wait_until.h"
 #include "support/build_folder.h"
 
@@ -156,6 +157,60 @@ TEST_F(AthanOptionsTest, PrayerInAQuietHourIsASilentNotificationAndTheIconShowsT
     EXPECT_FALSE(IsOnView(program));
     SetClock(960 * 60 + 1);
     EXPECT_TRUE(WaitUntil("the icon as before", [&] { return PictureOf(host) == awake; }));
+}
+
+TEST_F(AthanOptionsTest, QuietThatIsChosenInTheIconsMenuSilencesTheAthanThatSoundsAndTheNextOne) {
+    const SinkRecording recording(*sound);
+    StatusNotifierHost host(desktop);
+    const ChildProcess program = Start();
+    host.AwaitIcon();
+    GoTo(kZuhr);
+    WaitForAthan(program);
+    const std::size_t start = recording.WaitForSound();
+    SetClock(SecondOf(kZuhr) + 60);
+    ExpectTicks();
+    host.Choose("Quiet _today");
+    recording.WaitForSilence(start);
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+    const std::size_t silent = recording.Taken().size();
+    LetArrive(kAsr, "quiet");
+    recording.Continue(1.0);
+    const Samples taken = recording.Taken();
+    EXPECT_THAT(SoundsIn({taken.begin() + static_cast<std::ptrdiff_t>(silent), taken.end()}),
+                IsEmpty());
+    EXPECT_TRUE(WaitUntil("a tip that tells it", [&] {
+        return host.PropertyOf("ToolTip").find("Quiet until") != std::string::npos;
+    }));
+}
+
+TEST_F(AthanOptionsTest, IconInAPanelThatEmbedsItShowsTheQuiet) {
+    StoreOptions({{"Quiet Hours", "1"}, {"Quiet From", "720"}, {"Quiet To", "780"}});
+    const TrayHost host(desktop.variables);
+    const ChildProcess program = Start();
+    // The bar that strikes the emblem out is redder than all else there.
+    const auto isStruckOut = [&] {
+        return std::stod(desktop.Use({"import", "-window", "root", "-crop", "60x26+1220+934",
+                                      "-format", "%[fx:maxima.r]", "info:"})) > 0.93;
+    };
+    EXPECT_TRUE(WaitUntil("a quiet icon", isStruckOut));
+    desktop.SaveScreen("tray-quiet");
+    SetClock(780 * 60);
+    EXPECT_TRUE(WaitUntil("the icon as ever", [&] { return !isStruckOut(); }));
+}
+
+TEST_F(AthanOptionsTest, WindowAndNotificationGoTogether) {
+    StoreOptions({{"Athan Shown", "both"}});
+    const ChildProcess program = Start();
+    LetArrive(kAsr, "standing");
+    PressStop(WaitForAthan(program));
+    services.WaitFor("withdrawn");
+    WaitUntil("no window", [&] { return !IsOnView(program); });
+    GoTo(4);
+    WaitForAthan(program);
+    EXPECT_TRUE(WaitUntil("another", [&] { return services.LinesOf("standing").size() == 2; }));
+    SetClock(SecondOf(4) + 60);
+    services.Press(services.LinesOf("standing").back(), "stop");
+    EXPECT_TRUE(WaitUntil("no window", [&] { return !IsOnView(program); }));
 }
 
 TEST_F(AthanOptionsTest, ReminderComesBeforeAndTheIqamaBehindThePrayer) {
