@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <csignal>
 
@@ -67,6 +68,23 @@ TEST_F(AthanOptionsTest, NotificationThatIsPutAwayTakesTheAthanAlong) {
     recording.WaitForSilence(start);
 }
 
+TEST_F(AthanOptionsTest, NotificationBringsTheHiddenFaceBackAndTheAthanGoesOn) {
+    StoreOptions({{"Athan Shown", "notification"}});
+    const SinkRecording recording(*sound);
+    StatusNotifierHost host(desktop);
+    const ChildProcess program = Start();
+    host.AwaitIcon();
+    ExpectTicks();
+    Click(face, 397, 23);
+    WaitUntil("a hidden face", [&] { return !desktop.IsOnView(program, face); });
+    LetArrive(kAsr, "standing");
+    recording.WaitForSound();
+    services.Press(told, "open");
+    EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.IsOnView(program, face); }));
+    EXPECT_THAT(services.LinesOf("withdrawn"), IsEmpty());
+    recording.WaitForSound(recording.Taken().size());
+}
+
 TEST_F(AthanProgramTest, WithoutANotificationServiceTheWindowRisesAsEver) {
     StoreOptions({{"Athan Shown", "notification"}});
     const ChildProcess program = Start();
@@ -114,6 +132,23 @@ TEST_F(AthanOptionsTest, EndOfTheProgramLeavesNoPlayerPausedAndNoNotificationOnV
     EXPECT_EQ(program.Wait(), 0);
     services.WaitFor("music Playing");
     services.WaitFor("withdrawn");
+}
+
+TEST_F(AthanOptionsTest, ServicesThatHangHoldNeitherTheAthanUpNorTheClockNorTheEnd) {
+    StoreOptions({{"Athan Shown", "both"}, {"Pause Players", "1"}, {"Tell Missed", "1"}});
+    const SinkRecording recording(*sound);
+    ChildProcess program = Start();
+    ExpectTicks();
+    services.Hang();
+    GoTo(kAsr);
+    WaitForAthan(program);
+    recording.WaitForSound();
+    ExpectTicks();
+    ExpectTicks();
+    const auto asked = std::chrono::steady_clock::now();
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - asked, std::chrono::seconds(5));
 }
 
 TEST_F(AthanOptionsTest, PrayerThatCameInASleepIsToldOnceAndItsAthanNeverSoundsLate) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,9 @@ public:
 
     /// Waits for a line that begins so, and returns it.
     std::string WaitFor(const std::string& beginning) const;
+
+    /// They hear no more, answer nothing and are still there.
+    void Hang() const { ::kill(services_.Id(), SIGSTOP); }
 
     /// What the user does with the notice that a line tells of.
     void Press(const std::string& line, const std::string& button) const;
