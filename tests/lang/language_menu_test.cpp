@@ -261,10 +261,12 @@ TEST(LanguageMenuOfTwoFolders, MergesBothWithTheUsersPacksInFront) {
     const ProgramFolder merged(platform.files, "/user", "/installed");
     const Platform& ports = Ports();
     const Platform mergedPorts{
-        ports.clock,       ports.eventLoop, ports.files,         merged,          ports.formats,
-        ports.dialogs,     ports.registry,  ports.instanceGuard, ports.face,      ports.windows,
-        ports.tray,        ports.shell,     ports.network,       ports.athanFace, ports.audioFile,
-        ports.audioPlayer, ports.zoneRules, ports.whereabouts, ports.notices, ports.mediaPlayers, ports.session};
+        ports.clock,     ports.eventLoop,   ports.files,     merged,
+        ports.formats,   ports.dialogs,     ports.registry,  ports.instanceGuard,
+        ports.face,      ports.windows,     ports.tray,      ports.shell,
+        ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
+        ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
+        ports.session};
     InstallPlatform(&mergedPorts);
     platform.files.WriteWhole("/installed/lang/Arabic.ini", BytesOf("[frmMain]\nfrmMain=old"));
     platform.files.WriteWhole("/installed/lang/English.ini", BytesOf("[frmMain]\nfrmMain=new"));
