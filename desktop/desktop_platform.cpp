@@ -38,7 +38,7 @@ void PostToProgramThread(std::function<void()> event) {
 }  // namespace
 
 DesktopPlatform::DesktopPlatform()
-    : eventLoop_([this] { LeaveSession(); }),
+    : eventLoop_([this] { LeaveBuses(); }),
       folder_(FindProgramFolder(files_)),
       beep_(PostToProgramThread, QApplication::beep),
       dialogs_([this] { beep_.Sound(); }),
@@ -58,7 +58,7 @@ DesktopPlatform::~DesktopPlatform() {
 }
 
 /// The process is about to end: nothing of it stays on view, and nobody waits for it any more.
-void DesktopPlatform::LeaveSession() {
+void DesktopPlatform::LeaveBuses() {
     notices_.Withdraw(NoticeKind::kPrayer);
     notices_.Withdraw(NoticeKind::kMissed);
     mediaPlayers_.GoOnAtOnce();

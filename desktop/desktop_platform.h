@@ -37,7 +37,7 @@ public:
 
 private:
     Layouts AllLayouts();
-    void LeaveSession();
+    void LeaveBuses();
 
     SystemClock clock_;
     QtEventLoop eventLoop_;
