@@ -38,6 +38,7 @@ uses[engine]="${uses[store]} store/*_record.h store/text_*.h store/options.h sto
 uses[calendar]="${uses[store]} engine/* store/* lang/*"
 uses[geo]="${uses[calendar]} calendar/*"
 uses[moon]="${uses[geo]} geo/*"
+uses[sky]="${uses[moon]} moon/*"
 uses[athan]="${uses[moon]} moon/* windows/*"
 # The export shares its cancel with the alarm.
 uses[timetables]="${uses[athan]} athan/*"

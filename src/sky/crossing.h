@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "base/date.h"
+
+namespace horavex {
+
+/// A quantity of the sky at an instant; an angle is in degrees.
+using SkyQuantity = std::function<double(Date)>;
+
+/// An instant at which a quantity passes through zero.
+struct Crossing {
+    Date instant;
+    bool rising;  // from below to above
+};
+
+/// All passages from one instant up to, not including, another, in their order, each to a tenth of
+/// a second. The quantity is looked at in steps of so many days: two passages within one are not
+/// seen. An angle that turns over from 180 to -180 degrees passes through no zero.
+std::vector<Crossing> CrossingsOf(const SkyQuantity& quantity, Date from, Date end, double step);
+
+}  // namespace horavex

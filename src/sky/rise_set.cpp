@@ -1,0 +1,59 @@
+#include "sky/rise_set.h"
+
+#include "sky/crossing.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kStep = 10.0 / (24.0 * 60.0);  // days
+constexpr double kRefraction = 34.0 / 60.0;     // degrees at the horizon
+
+using OverHorizon = HorizonPlace (*)(const Almanac& almanac, const Observer& observer,
+                                     Date universal);
+using PlaceAt = CelestialPlace (Almanac::*)(Date universal) const;
+
+std::optional<Date> First(const std::vector<Crossing>& crossings, bool rising) {
+    for (const Crossing& crossing : crossings) {
+        if (crossing.rising == rising) {
+            return crossing.instant;
+        }
+    }
+    return std::nullopt;
+}
+
+DayArc ArcOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+             OverHorizon over, PlaceAt placeAt) {
+    const SkyQuantity upperLimb = [&](Date universal) {
+        const HorizonPlace place = over(almanac, observer, universal);
+        return place.altitude + place.semidiameter + kRefraction;
+    };
+    const SkyQuantity pastMeridian = [&](Date universal) {
+        return HourAngle(almanac, observer, (almanac.*placeAt)(universal), universal);
+    };
+    const auto limb = CrossingsOf(upperLimb, span.from, span.end, kStep);
+    const auto meridian = CrossingsOf(pastMeridian, span.from, span.end, kStep);
+    return {First(limb, true), First(meridian, true), First(limb, false),
+            upperLimb(span.from) >= 0.0};
+}
+
+}  // namespace
+
+DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
+    return ArcOf(almanac, observer, span, SunOver, &Almanac::SunAt);
+}
+
+DayArc MoonArc(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
+    return ArcOf(almanac, observer, span, MoonOver, &Almanac::MoonAt);
+}
+
+Twilight TwilightOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+                    double depth) {
+    const SkyQuantity aboveDepth = [&](Date universal) {
+        return SunOver(almanac, observer, universal).altitude + depth;
+    };
+    const auto crossings = CrossingsOf(aboveDepth, span.from, span.end, kStep);
+    return {First(crossings, true), First(crossings, false)};
+}
+
+}  // namespace horavex

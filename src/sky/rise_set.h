@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+
+#include "sky/horizon.h"
+
+namespace horavex {
+
+/// Instants of a span of the clock of Greenwich, which is a day where somebody lives: from its
+/// first up to, not including, its last.
+struct SkySpan {
+    Date from;
+    Date end;
+};
+
+/// What a body does in a span; nothing where it does not. Its upper limb rises and sets on the
+/// level horizon with 34 minutes of arc of refraction.
+struct DayArc {
+    std::optional<Date> rise;
+    std::optional<Date> transit;  // the upper one
+    std::optional<Date> set;
+    bool upAtBegin = false;  // and for the whole span where it neither rises nor sets
+};
+
+/// Instants at which the centre of the sun, without refraction, passes a depth below the horizon.
+struct Twilight {
+    std::optional<Date> dawn;
+    std::optional<Date> dusk;
+};
+
+inline constexpr double kCivilTwilight = 6.0;  // degrees below the horizon
+inline constexpr double kNauticalTwilight = 12.0;
+inline constexpr double kAstronomicalTwilight = 18.0;
+
+// The arcs are searched in steps of ten minutes: in the far north and south a body that shows for
+// less is passed over. The first of each kind counts.
+
+DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
+DayArc MoonArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
+Twilight TwilightOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+                    double depth);
+
+}  // namespace horavex
