@@ -40,29 +40,54 @@ MeridianVector PlaceOf(double latitude) {
     return {curve * c, 0.0, curve * polar * s};
 }
 
-HorizonPlace Over(const Almanac& almanac, const Observer& observer, const CelestialPlace& body,
-                  double radius, Date universal) {
-    const double latitude = DegToRad(observer.latitude);
-    const MeridianVector centre =
-        FromEarthCentre(body, HourAngle(almanac, observer, body, universal));
-    const MeridianVector here = PlaceOf(latitude);
-    const double out = centre.out - here.out;
-    const double axis = centre.north - here.north;
+constexpr MeridianVector kCentre{0.0, 0.0, 0.0};
+
+HorizonPlace Seen(const MeridianVector& body, const MeridianVector& from, double latitude,
+                  double radius) {
+    const double out = body.out - from.out;
+    const double axis = body.north - from.north;
     const double up = out * std::cos(latitude) + axis * std::sin(latitude);
     const double north = axis * std::cos(latitude) - out * std::sin(latitude);
-    const double level = std::hypot(north, centre.east);
-    return {RadToDeg(std::atan2(up, level)), Normalize360(RadToDeg(std::atan2(centre.east, north))),
+    const double level = std::hypot(north, body.east);
+    return {RadToDeg(std::atan2(up, level)), Normalize360(RadToDeg(std::atan2(body.east, north))),
             RadToDeg(std::asin(radius / std::hypot(up, level)))};
 }
+
+/// An observer at an instant.
+struct Watch {
+    const Almanac& almanac;
+    const Observer& observer;
+    Date universal;
+
+    double Latitude() const { return DegToRad(observer.latitude); }
+
+    MeridianVector Towards(const CelestialPlace& body) const {
+        return FromEarthCentre(body, HourAngle(almanac, observer, body, universal));
+    }
+    HorizonPlace FromHere(const CelestialPlace& body, double radius) const {
+        return Seen(Towards(body), PlaceOf(Latitude()), Latitude(), radius);
+    }
+    HorizonPlace FromCentre(const CelestialPlace& body, double radius) const {
+        return Seen(Towards(body), kCentre, Latitude(), radius);
+    }
+};
 
 }  // namespace
 
 HorizonPlace SunOver(const Almanac& almanac, const Observer& observer, Date universal) {
-    return Over(almanac, observer, almanac.SunAt(universal), kSunRadius, universal);
+    return Watch{almanac, observer, universal}.FromHere(almanac.SunAt(universal), kSunRadius);
 }
 
 HorizonPlace MoonOver(const Almanac& almanac, const Observer& observer, Date universal) {
-    return Over(almanac, observer, almanac.MoonAt(universal), kMoonRadius, universal);
+    return Watch{almanac, observer, universal}.FromHere(almanac.MoonAt(universal), kMoonRadius);
+}
+
+HorizonPlace SunFromCentre(const Almanac& almanac, const Observer& observer, Date universal) {
+    return Watch{almanac, observer, universal}.FromCentre(almanac.SunAt(universal), kSunRadius);
+}
+
+HorizonPlace MoonFromCentre(const Almanac& almanac, const Observer& observer, Date universal) {
+    return Watch{almanac, observer, universal}.FromCentre(almanac.MoonAt(universal), kMoonRadius);
 }
 
 double HourAngle(const Almanac& almanac, const Observer& observer, const CelestialPlace& body,

@@ -20,6 +20,10 @@ struct HorizonPlace {
 HorizonPlace SunOver(const Almanac& almanac, const Observer& observer, Date universal);
 HorizonPlace MoonOver(const Almanac& almanac, const Observer& observer, Date universal);
 
+// The same as the centre of the Earth sees it over the observer's horizon.
+HorizonPlace SunFromCentre(const Almanac& almanac, const Observer& observer, Date universal);
+HorizonPlace MoonFromCentre(const Almanac& almanac, const Observer& observer, Date universal);
+
 /// How far a body is past the meridian: degrees, west positive, from -180 up to 180.
 double HourAngle(const Almanac& almanac, const Observer& observer, const CelestialPlace& body,
                  Date universal);

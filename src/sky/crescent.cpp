@@ -1,0 +1,75 @@
+#include "sky/crescent.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/angle.h"
+#include "sky/rise_set.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kHours = 24.0;          // a day
+constexpr double kMinutesOfArc = 60.0;   // a degree
+constexpr double kBestPart = 4.0 / 9.0;  // of the lag
+
+/// Degrees between two places, well told for small and large ones alike.
+double Between(const HorizonPlace& one, const HorizonPlace& other) {
+    const double bearing = DegToRad(other.bearing - one.bearing);
+    const double from = DegToRad(one.altitude);
+    const double to = DegToRad(other.altitude);
+    const double across = std::cos(to) * std::sin(bearing);
+    const double beside =
+        std::cos(from) * std::sin(to) - std::sin(from) * std::cos(to) * std::cos(bearing);
+    const double along =
+        std::sin(from) * std::sin(to) + std::cos(from) * std::cos(to) * std::cos(bearing);
+    return RadToDeg(std::atan2(std::hypot(across, beside), along));
+}
+
+CrescentArcs ArcsOf(const HorizonPlace& sun, const HorizonPlace& moon, double semidiameter) {
+    const double light = Between(sun, moon);
+    return {light, moon.altitude - sun.altitude, SignedDegrees(moon.bearing - sun.bearing),
+            semidiameter * kMinutesOfArc * (1.0 - std::cos(DegToRad(light)))};
+}
+
+/// The moonset that ends the evening, or the last one before the sunset.
+std::optional<Date> MoonsetAround(const Almanac& almanac, const Observer& observer, Date sunset) {
+    const DayArc after = MoonArc(almanac, observer, {sunset, sunset + 1.0});
+    return after.upAtBegin ? after.set : MoonArc(almanac, observer, {sunset - 1.0, sunset}).set;
+}
+
+Date BestTime(Date sunset, const std::optional<Date>& moonset) {
+    return sunset + kBestPart * std::max(moonset.value_or(sunset) - sunset, 0.0);
+}
+
+}  // namespace
+
+std::optional<double> CrescentEvening::Lag() const {
+    return moonset ? std::optional(*moonset - sunset) : std::nullopt;
+}
+
+std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Observer& observer,
+                                             Date noon, Date newMoon) {
+    const std::optional<Date> sunset = SunArc(almanac, observer, {noon, noon + 1.0}).set;
+    if (!sunset) {
+        return std::nullopt;
+    }
+    const std::optional<Date> moonset = MoonsetAround(almanac, observer, *sunset);
+    const Date best = BestTime(*sunset, moonset);
+    const HorizonPlace moon = MoonOver(almanac, observer, best);
+    const CrescentArcs seen = ArcsOf(SunOver(almanac, observer, best), moon, moon.semidiameter);
+    const CrescentArcs central = ArcsOf(SunFromCentre(almanac, observer, best),
+                                        MoonFromCentre(almanac, observer, best), moon.semidiameter);
+    return CrescentEvening{*sunset,
+                           moonset,
+                           best,
+                           (best - newMoon) * kHours,
+                           moon.altitude,
+                           central,
+                           seen,
+                           YallopVerdict(central.vision, central.width),
+                           OdehVerdict(seen.vision, seen.width)};
+}
+
+}  // namespace horavex

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+
+#include "sky/horizon.h"
+#include "sky/visibility.h"
+
+namespace horavex {
+
+/// How the moon stands to the sun over a horizon; degrees but for the width.
+struct CrescentArcs {
+    double light;    // between the centres: the elongation
+    double vision;   // the moon's altitude less the sun's
+    double azimuth;  // the moon's bearing less the sun's
+    double width;    // minutes of arc, of the crescent at its middle
+};
+
+/// The moon on an evening. All but the times of setting is at the best time to look for it, 4/9 of
+/// the way from sunset to moonset (Yallop), or at sunset where the moon has set by then.
+struct CrescentEvening {
+    Date sunset;                  // Universal Time, as the others
+    std::optional<Date> moonset;  // the one before the sunset where the moon sets first
+    Date best;
+    double age;               // hours since the new moon, negative before it
+    double moonAltitude;      // degrees, without refraction
+    CrescentArcs geocentric;  // from the centre of the Earth, with the width that the observer sees
+    CrescentArcs topocentric;  // as the observer would see them without air
+    Verdict yallop;
+    Verdict odeh;
+
+    /// Days from sunset to moonset, negative where the moon sets first.
+    std::optional<double> Lag() const;
+};
+
+/// The evening whose sunset is the first within a day of an instant, of noon for one; nothing where
+/// the sun does not set.
+std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Observer& observer,
+                                             Date noon, Date newMoon);
+
+}  // namespace horavex

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "sky/crescent.h"
+
+namespace horavex {
+
+/// An evening on the calendar.
+struct DatedEvening {
+    Date day;                                 // midnight that begins it on the local calendar
+    std::optional<CrescentEvening> crescent;  // nothing where the sun does not set
+};
+
+/// The evenings among which the crescent of a month comes into sight.
+struct MonthEvenings {
+    Date newMoon;                        // Universal Time
+    std::vector<DatedEvening> evenings;  // from the day before the new moon's own on, four
+};
+
+/// Where somebody looks for the moon, and the instant at which a time of the clock there is. The
+/// local time is a date with its time of day; the answer is Universal Time.
+struct Lookout {
+    Observer observer;
+    std::function<Date(Date local)> universalOf;
+    std::function<Date(Date universal)> localOf;
+};
+
+/// The evenings around the new moon that is nearest to the beginning of a month of the arithmetic
+/// Hijri calendar. month: 1 to 12.
+MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, int year, int month);
+
+/// The day behind the first evening on which a verdict is good enough: the first of the month for
+/// who sees it so. Nothing where none of the evenings is. worst: the last letter that will do.
+std::optional<Date> FirstDay(const MonthEvenings& month, Verdict CrescentEvening::*verdict,
+                             char worst);
+
+}  // namespace horavex

@@ -1,0 +1,64 @@
+#include "sky/month_evenings.h"
+
+#include <gtest/gtest.h>
+
+#include "calendar/hijri_calendar.h"
+#include "linux/erfa_almanac.h"
+
+namespace horavex {
+namespace {
+
+constexpr double kThreeHours = 3.0 / 24.0;
+
+/// On the clock of Mecca.
+const Lookout kMecca{{21.4225, 39.8262},
+                     [](Date local) { return local - kThreeHours; },
+                     [](Date universal) { return universal + kThreeHours; }};
+
+TEST(EveningsOfMonth, StandAroundItsNewMoon) {
+    const MonthEvenings ramadan = EveningsOfMonth(ErfaAlmanac(), kMecca, 1447, 9);
+    EXPECT_NEAR(ramadan.newMoon, DateSerial(2026, 2, 17) + TimeSerial(12, 1, 0), 1.0 / 1440.0);
+    ASSERT_EQ(ramadan.evenings.size(), 4U);
+    EXPECT_EQ(ramadan.evenings[0].day, DateSerial(2026, 2, 16));
+    EXPECT_LT(ramadan.evenings[0].crescent->age, 0.0);
+    EXPECT_EQ(ramadan.evenings[3].day, DateSerial(2026, 2, 19));
+}
+
+TEST(EveningsOfMonth, GoByTheCalendarOfThePlace) {
+    const Lookout kiribati{{1.87, -157.4},
+                           [](Date local) { return local - 14.0 / 24.0; },
+                           [](Date universal) { return universal + 14.0 / 24.0; }};
+    const MonthEvenings ramadan = EveningsOfMonth(ErfaAlmanac(), kiribati, 1447, 9);
+    EXPECT_EQ(ramadan.evenings[1].day, DateSerial(2026, 2, 18));  // the new moon is on its 2 a.m.
+    EXPECT_NEAR(ramadan.evenings[1].crescent->sunset, DateSerial(2026, 2, 18) + 4.6 / 24.0,
+                1.0 / 24.0);
+}
+
+TEST(EveningsOfMonth, HaveANewMoonNearTheBeginningOfEveryMonth) {
+    for (int month = 1; month <= 12; ++month) {
+        const MonthEvenings found = EveningsOfMonth(ErfaAlmanac(), kMecca, 1448, month);
+        const Date arithmetic = DateFromHijri({1448, month, 1});
+        EXPECT_NEAR(arithmetic - found.newMoon, 1.5, 1.6) << month;
+    }
+}
+
+TEST(FirstDay, FollowsTheFirstEveningThatIsGoodEnough) {
+    MonthEvenings month{0.0, {}};
+    CrescentEvening evening{};
+    for (const char letter : {'F', 'D', 'B', 'A'}) {
+        evening.yallop.letter = letter;
+        month.evenings.push_back({100.0 + static_cast<double>(month.evenings.size()), evening});
+    }
+    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'B'), 103.0);
+    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'D'), 102.0);
+    month.evenings.resize(2);
+    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'B'), std::nullopt);
+}
+
+TEST(FirstDay, PassesOverAnEveningWithoutASunset) {
+    const MonthEvenings month{0.0, {{100.0, std::nullopt}}};
+    EXPECT_EQ(FirstDay(month, &CrescentEvening::odeh, 'D'), std::nullopt);
+}
+
+}  // namespace
+}  // namespace horavex
