@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "desktop/fault_box.h"
+#include "linux/file_status.h"
 #include "linux/folders.h"
 #include "linux/left_overs.h"
 #include "shell/close_face.h"
@@ -20,7 +21,7 @@ ProgramFolder FindProgramFolder(Files& files) {
 
 RegistryFile FindRegistry(Files& files) {
     const RegistryFiles paths = FindRegistryFiles();
-    return {files, paths.user, paths.machine};
+    return {files, paths.user, paths.machine, StampOfFile};
 }
 
 // The folders that the program writes into.
@@ -59,6 +60,7 @@ DesktopPlatform::~DesktopPlatform() {
 
 /// The process is about to end: nothing of it stays on view, and nobody waits for it any more.
 void DesktopPlatform::LeaveBuses() {
+    notices_.Withdraw(NoticeKind::kAthan);
     notices_.Withdraw(NoticeKind::kPrayer);
     notices_.Withdraw(NoticeKind::kMissed);
     mediaPlayers_.GoOnAtOnce();

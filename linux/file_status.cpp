@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 
+#include <cstdint>
+
 #include "linux/system_call.h"
 
 namespace horavex {
@@ -26,6 +28,22 @@ std::optional<struct stat> StatusBehind(const std::string& path) {
         ThrowFileFault(path, file.IsOpen() ? errno : error);
     }
     return status;
+}
+
+std::string StampOfFile(const std::string& path) {
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0) {
+        return errno == ENOENT ? "none" : "";
+    }
+    std::string stamp;
+    for (const auto number :
+         {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
+          std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
+          std::int64_t{status.st_mtim.tv_nsec}, std::int64_t{status.st_ctim.tv_sec},
+          std::int64_t{status.st_ctim.tv_nsec}}) {
+        stamp += std::to_string(number) + " ";
+    }
+    return stamp;
 }
 
 void RefuseSpecial(const struct stat& status, const std::string& path) {

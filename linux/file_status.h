@@ -12,6 +12,10 @@ namespace horavex {
 /// that leads nowhere. Nothing is opened: a pipe is not waited for and a device does nothing.
 std::optional<struct stat> StatusBehind(const std::string& path);
 
+/// What changes whenever a file is written or replaced: its number, its length and its times. The
+/// same for all names that are free; empty where nothing is told.
+std::string StampOfFile(const std::string& path);
+
 /// Throws FileFault for a folder, a pipe, a device or a socket.
 void RefuseSpecial(const struct stat& status, const std::string& path);
 

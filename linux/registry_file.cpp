@@ -16,8 +16,12 @@ std::int32_t CodeBehindUser(bool isInMachine) {
 
 }  // namespace
 
-RegistryFile::RegistryFile(Files& files, std::string userPath, std::string machinePath)
-    : files_(files), userPath_(std::move(userPath)), machinePath_(std::move(machinePath)) {}
+RegistryFile::RegistryFile(Files& files, std::string userPath, std::string machinePath,
+                           StampOfFile stampOf)
+    : files_(files),
+      userPath_(std::move(userPath)),
+      machinePath_(std::move(machinePath)),
+      stampOf_(std::move(stampOf)) {}
 
 std::int32_t RegistryFile::OpenKey(const std::string& key, std::int32_t /*access*/) {
     const auto user = Load(userPath_);
@@ -84,7 +88,24 @@ std::int32_t RegistryFile::DeleteKey(const std::string& key) {
     });
 }
 
+// The stamp is taken first: a file that changes meanwhile has another one at the next call.
 std::optional<RegistryText> RegistryFile::Load(const std::string& path) const {
+    const std::string stamp = stampOf_ ? stampOf_(path) : "";
+    if (stamp.empty()) {
+        return Read(path);
+    }
+    const auto known = known_.find(path);
+    if (known != known_.end() && known->second.stamp == stamp) {
+        return known->second.text;
+    }
+    auto text = Read(path);
+    if (text) {
+        known_.insert_or_assign(path, Known{stamp, *text});
+    }
+    return text;
+}
+
+std::optional<RegistryText> RegistryFile::Read(const std::string& path) const {
     try {
         return WithMemoryFaults([&] {
             return RegistryText(
@@ -115,6 +136,7 @@ std::int32_t RegistryFile::Save(const RegistryText& user) {
     if (std::ssize(text) > kLargestText) {
         return kRegistryWriteFault;
     }
+    known_.erase(userPath_);
     try {
         files_.WriteWhole(userPath_, BytesOf(text));
         return kRegistrySuccess;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -11,14 +12,20 @@
 namespace horavex {
 
 /// The key-value store in two files: the user's, in front of the machine-wide defaults. Only the
-/// user's file is written, whole each time; each call reads anew, so that a change from outside
-/// counts. A missing file is empty. Where the user's file cannot be read every call returns
+/// user's file is written, whole each time; a change from outside counts from the next call on. A
+/// missing file is empty. Where the user's file cannot be read every call returns
 /// kRegistryAccessDenied, and nothing is written over it; where the machine-wide one cannot be
 /// read it counts as empty. A failed write returns kRegistryWriteFault; the old file or the new
 /// one is then there, never a mixture.
 class RegistryFile : public RegistryStore {
 public:
-    RegistryFile(Files& files, std::string userPath, std::string machinePath);
+    /// Tells one state of a file from any other; empty where that is not known.
+    using StampOfFile = std::function<std::string(const std::string& path)>;
+
+    /// With a stamp a file is read again only where it has another one. Without it each call reads
+    /// anew.
+    RegistryFile(Files& files, std::string userPath, std::string machinePath,
+                 StampOfFile stampOf = {});
 
     /// Both masks are granted wherever the key is: the user's file takes the writes.
     std::int32_t OpenKey(const std::string& key, std::int32_t access) override;
@@ -38,7 +45,14 @@ public:
 private:
     using Edit = std::function<std::int32_t(RegistryText& user, const RegistryText& machine)>;
 
+    /// What was read of a file last.
+    struct Known {
+        std::string stamp;
+        RegistryText text;
+    };
+
     std::optional<RegistryText> Load(const std::string& path) const;
+    std::optional<RegistryText> Read(const std::string& path) const;
     RegistryText LoadMachine() const;
     std::int32_t Change(const Edit& edit);
     std::int32_t Save(const RegistryText& user);
@@ -46,6 +60,8 @@ private:
     Files& files_;
     std::string userPath_;
     std::string machinePath_;
+    StampOfFile stampOf_;
+    mutable std::map<std::string, Known> known_;  // by path
 };
 
 }  // namespace horavex

@@ -25,8 +25,12 @@ std::int32_t SaveText(const char* name, const std::string& text) {
 }
 
 std::optional<double> ReadNumber(const char* name) {
+    const std::string text = ReadText(name);
+    if (text.empty()) {
+        return std::nullopt;
+    }
     try {
-        return TextToNumber(ReadText(name));
+        return TextToNumber(text);
     } catch (const Fault&) {
         return std::nullopt;
     }

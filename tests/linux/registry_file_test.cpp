@@ -1,5 +1,6 @@
 #include "linux/registry_file.h"
 
+#include "linux/file_status.h"
 #include "linux/posix_files.h"
 #include "platform/failing_files.h"
 #include "platform/memory_files.h"
@@ -232,6 +233,47 @@ TEST(RegistryFileOnDisk, FolderThatCannotBeMadeIsAWriteFault) {
     RegistryFile registry(files, folder / "config/registry.ini", folder / "none.ini");
     EXPECT_EQ(registry.CreateKey(kKey), kRegistryWriteFault);
     EXPECT_EQ(registry.OpenKey(kKey, kRegistryRead), kRegistryNotFound);
+}
+
+TEST(RegistryFileOnDisk, UnchangedFileIsReadOnceAndAChangedOneAnew) {
+    const TemporaryFolder folder;
+    PosixFiles disk;
+    FailingFiles files(disk);
+    const std::string path = folder / "registry.ini";
+    RegistryFile registry(files, path, folder / "none.ini", StampOfFile);
+    const auto query = [&](const char* name) {
+        std::string value = "nothing";
+        registry.QueryValue(kKey, name, value);
+        return value;
+    };
+    registry.CreateKey(kKey);
+    registry.SetValue(kKey, "a", "1");
+    EXPECT_EQ(query("a"), "1");
+    const int calls = files.Calls();
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(query("a"), "1");
+        EXPECT_EQ(query("b"), "nothing");
+    }
+    EXPECT_EQ(files.Calls(), calls);
+    PosixFiles outside;
+    RegistryFile(outside, path, folder / "none.ini").SetValue(kKey, "a", "2");
+    EXPECT_EQ(query("a"), "2");
+    registry.SetValue(kKey, "a", "3");
+    EXPECT_EQ(query("a"), "3");
+    disk.Delete(path);
+    EXPECT_EQ(query("a"), "nothing");
+}
+
+TEST(StampOfFileTest, ChangesWithTheFileAndIsTheSameForNamesThatAreFree) {
+    const TemporaryFolder folder;
+    PosixFiles files;
+    EXPECT_EQ(StampOfFile(folder / "a"), StampOfFile(folder / "b"));
+    files.WriteWhole(folder / "a", BytesOf("1"));
+    const std::string first = StampOfFile(folder / "a");
+    EXPECT_NE(first, StampOfFile(folder / "b"));
+    EXPECT_EQ(first, StampOfFile(folder / "a"));
+    files.WriteWhole(folder / "a", BytesOf("2"));
+    EXPECT_NE(first, StampOfFile(folder / "a"));
 }
 
 TEST_F(RegistryFileTest, FileOfMoreThanAMegabyteIsNoneAndNoneIsWritten) {
