@@ -41,7 +41,7 @@ QVariant Picture() {
 QVariantMap Hints(NoticeKind kind, bool isQuiet) {
     QVariantMap hints = {
         {"urgency", QVariant::fromValue(isQuiet ? kLow : kCritical)},
-        {"category", kind == NoticeKind::kPrayer ? "x-horavex.prayer" : "x-horavex.missed"},
+        {"category", kind == NoticeKind::kMissed ? "x-horavex.missed" : "x-horavex.prayer"},
         {"desktop-entry", QGuiApplication::desktopFileName()},
         {"image-data", Picture()}};
     hints.insert(isQuiet ? QStringLiteral("suppress-sound") : QStringLiteral("resident"), true);

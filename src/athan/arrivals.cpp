@@ -15,27 +15,25 @@ namespace horavex {
 
 namespace {
 
-Date lastAthan = 0.0;
+Call lastAthan;  // that began
 
-const ProgramStateReset reset([] { lastAthan = 0.0; });
+const ProgramStateReset reset([] { lastAthan = {}; });
 
 enum class Reception { kNothing, kAthan, kNotice };
-
-/// Without it an athan that ends within its ten seconds comes again; one that is chosen short would
-/// do so every time.
-bool ComesOnce(Prayer prayer) {
-    return ReadOption(option::kAthanOnce) == 1 ||
-           ReadOption(option::kAthanSounds[prayer]) != AthanSound::kProgram ||
-           ReadOption(option::kAthanShown) != AthanShown::kWindow;
-}
 
 bool IsSilenced(Prayer prayer) {
     return ReadOption(option::kAthans[prayer]) == 0 || IsQuiet();
 }
 
-/// An earlier athan is still up: heard it is left alone, silent it gives way where such end.
+/// One that was chosen to be silent, or short, keeps no other away.
+bool SilentOneGivesWay() {
+    return ReadOption(option::kSilentMinutes) > 0 ||
+           ReadOption(option::kAthanSounds[lastAthan.prayer]) != AthanSound::kProgram;
+}
+
+/// An earlier athan is still up: heard it is left alone.
 Reception BesideEarlierAthan() {
-    if (ReadOption(option::kSilentMinutes) > 0 && !IsHeard() && !AthanAwaitsItsSound()) {
+    if (SilentOneGivesWay() && !IsHeard() && !AthanAwaitsItsSound()) {
         return Reception::kAthan;
     }
     return ReadOption(option::kAthanOnce) == 1 ? Reception::kNotice : Reception::kNothing;
@@ -46,7 +44,7 @@ Reception ReceptionOf(const Call& call) {
     if (IsSilenced(call.prayer)) {
         return wasCalled ? Reception::kNothing : Reception::kNotice;
     }
-    if (wasCalled && (athanActive != kFalse || ComesOnce(call.prayer))) {
+    if (wasCalled && (athanActive != kFalse || AthanEndsForGood(call.prayer))) {
         return Reception::kNothing;
     }
     return athanActive == kFalse ? Reception::kAthan : BesideEarlierAthan();
@@ -56,7 +54,7 @@ void SoundPrayer(const Call& call, const std::function<void(Alert)>& alert) {
     if (athanActive != kFalse) {
         StopAthan();
     }
-    lastAthan = call.at;
+    lastAthan = call;
     alert(static_cast<Alert>(call.prayer));
 }
 
@@ -76,7 +74,14 @@ void ReceivePrayer(Prayer prayer, Date at, const std::function<void(Alert)>& ale
     }
 }
 
-Date LastAthanMoment() {
+/// Without an option it comes again; one that is chosen short would do so every time.
+bool AthanEndsForGood(Prayer prayer) {
+    return ReadOption(option::kAthanOnce) == 1 ||
+           ReadOption(option::kAthanSounds[prayer]) != AthanSound::kProgram ||
+           ReadOption(option::kAthanShown) != AthanShown::kWindow;
+}
+
+const Call& LastAthan() {
     return lastAthan;
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "athan/calls.h"
 #include "base/date.h"
 #include "base/prayers.h"
 
@@ -12,7 +13,10 @@ namespace horavex {
 /// quiet time, is told once, silently. at: its local date and time. Sunrise has no athan.
 void ReceivePrayer(Prayer prayer, Date at, const std::function<void(Alert)>& alert);
 
-/// The moment of the athan that sounded last.
-Date LastAthanMoment();
+/// Whether a prayer's athan that has ended in its ten seconds stays so.
+bool AthanEndsForGood(Prayer prayer);
+
+/// The prayer whose athan began last.
+const Call& LastAthan();
 
 }  // namespace horavex

@@ -1,5 +1,7 @@
 #include "athan/athan_alert.h"
 
+#include <cstdint>
+
 #include "athan/arrivals.h"
 #include "athan/athan_notice.h"
 #include "athan/athan_state.h"
@@ -7,16 +9,17 @@
 #include "athan/azan_window.h"
 #include "athan/player.h"
 #include "athan/prayer_sound.h"
+#include "athan/quiet.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "base/program_version.h"
 #include "engine/wait.h"
 #include "engine/year_table.h"
 #include "platform/platform.h"
+#include "store/athan_options.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
 #include "windows/f_message.h"
-#include "windows/frm_azan.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -29,9 +32,13 @@ constexpr double kHold = 12.504;      // seconds; 20 beeps and 20 holds make abo
 constexpr double kTick = 1.0;         // seconds; one may come in the last rest of a wait
 constexpr int kRepeats = 20;
 
-double soundDue = 0.0;  // steady seconds; 0 for no athan that waits
+double soundDue = 0.0;     // steady seconds; 0 for no athan that waits
+std::uint64_t athans = 0;  // that have begun
 
-const ProgramStateReset reset([] { soundDue = 0.0; });
+const ProgramStateReset reset([] {
+    soundDue = 0.0;
+    athans = 0;
+});
 
 void WaitUntil(double start, double seconds) {
     WaitSeconds((seconds - (Ports().clock.SteadySeconds() - start)) / kSecondsPerDay);
@@ -85,25 +92,17 @@ void SoundAlarm(double start) {
     fMessage->Unload();
 }
 
-void BringWindowUp(Alert alert) {
-    frmAzan->Load();
-    frmAzan->prayerIndex = alert;
-    if (alert != Alert::kAthanNow) {
-        SetAzanText();
-    }
-    ShowMe();
-}
-
 /// An athan that the user asks for has its window alone, whatever shows that of a prayer.
 void BringAthanUp(Alert alert) {
     const bool isAskedFor = alert == Alert::kAthanNow;
     const bool hasWindow = isAskedFor || AthanHasWindow();
     StopTone();
+    BeginAthan();
     if (!isAskedFor && AthanHasNotice()) {
-        ShowAthanNotice(static_cast<Prayer>(alert), LastAthanMoment(), !hasWindow);
+        ShowAthanNotice(static_cast<Prayer>(alert), LastAthan().at, !hasWindow);
     }
     if (hasWindow) {
-        BringWindowUp(alert);
+        BringAthanWindowUp(alert);
     } else {
         athanActive = kTrue;
     }
@@ -117,12 +116,29 @@ void PlayAthan(Alert alert) {
     }
 }
 
+/// Whatever has become of its window meanwhile an athan sounds. Only where it does not come back by
+/// itself is it over for good: stopped, in a quiet time, or with another one in its place.
+bool IsStillWanted(Alert alert, std::uint64_t number) {
+    const bool comesBack =
+        alert == Alert::kAthanNow || (!AthanEndsForGood(static_cast<Prayer>(alert)) &&
+                                      ReadOption(option::kTellMissed) == 0 && !IsQuiet());
+    if (comesBack) {
+        return true;
+    }
+    return athanActive != kFalse && number == athans && !IsQuiet();
+}
+
 void SoundAthan(Alert alert, double start) {
+    const std::uint64_t number = ++athans;
     BringAthanUp(alert);
     soundDue = start + kBeforeSound + kTick;
     WaitUntil(start, kBeforeSound);
-    soundDue = 0.0;
-    PlayAthan(alert);
+    if (number == athans) {
+        soundDue = 0.0;
+    }
+    if (IsStillWanted(alert, number)) {
+        PlayAthan(alert);
+    }
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ void OnNoticeAction(NoticeKind kind, NoticeAction action, void (*open)()) {
         open();
         return;
     }
-    if (kind != NoticeKind::kPrayer || !athanNotice.stands) {
+    if (kind != NoticeKind::kAthan || !athanNotice.stands) {
         return;
     }
     const bool wasAlone = std::exchange(athanNotice, {}).alone;
@@ -97,7 +97,8 @@ void ShowAthanNotice(Prayer prayer, Date at, bool alone) {
     notice.quiet = false;
     notice.stopCaption = Word("Stop", "Stop");
     notice.openCaption = Word("Open", "Open Horavex");
-    Ports().notices.Show(NoticeKind::kPrayer, notice);
+    Ports().notices.Withdraw(NoticeKind::kPrayer);  // its reminder, or what else stands there
+    Ports().notices.Show(NoticeKind::kAthan, notice);
     athanNotice = {true, alone, prayer, at};
 }
 
@@ -105,14 +106,19 @@ bool AthanIsNoticeAlone() {
     return athanNotice.stands && athanNotice.alone;
 }
 
+Prayer PrayerOfAthanNotice() {
+    return athanNotice.prayer;
+}
+
 void SilenceAthanNotice() {
-    const AthanNotice former = std::exchange(athanNotice, {});
+    const AthanNotice former = athanNotice;
+    WithdrawAthanNotice();
     ShowSilentPrayer(former.prayer, former.at);
 }
 
 void WithdrawAthanNotice() {
     if (std::exchange(athanNotice, {}).stands) {
-        Ports().notices.Withdraw(NoticeKind::kPrayer);
+        Ports().notices.Withdraw(NoticeKind::kAthan);
     }
 }
 
@@ -140,7 +146,7 @@ void ShowMissedPrayers(const std::vector<DatedMoment>& prayers) {
     for (const auto& [prayer, at, moment] : prayers) {
         notice.title += (notice.title.empty() ? "" : " \u00b7 ") + PrayerAt(prayer, at);
     }
-    notice.text = Word("Missed", "It came while the computer was asleep.");
+    notice.text = Word("Missed", "The computer was asleep then.");
     Ports().notices.Show(NoticeKind::kMissed, notice);
 }
 

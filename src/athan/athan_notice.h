@@ -25,6 +25,7 @@ void WithdrawAthanNotice();
 
 /// Whether such a notice is all that shows of the athan that is up.
 bool AthanIsNoticeAlone();
+Prayer PrayerOfAthanNotice();
 
 /// Nothing is heard of that athan: its notice becomes one of a silent prayer.
 void SilenceAthanNotice();

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "athan/bare_samples.h"
+#include "athan/prayer_sound.h"
 #include "athan/sound.h"
 #include "athan/sound_tools.h"
 #include "base/fault.h"
@@ -202,6 +203,7 @@ void AthanSettingSet_Click() {
 // Trying the sounds.
 
 void Listen(const Group& group) {
+    UseChosenDevice();
     for (const Reciter& reciter : group.reciters) {
         if (reciter.option->Value()) {
             PlayFile(FullPath(reciter.heard));

@@ -50,16 +50,37 @@ void EndSilentNotice() {
 
 void EndSilentAthan() {
     const int minutes = ReadOption(option::kSilentMinutes);
-    if (minutes > 0 && silentSince &&
+    if (minutes > 0 && silentSince && !AthanAwaitsItsSound() &&
         Ports().clock.SteadySeconds() - *silentSince >= minutes * 60.0) {
         silentSince.reset();
         StopAthan();
     }
 }
 
+/// Without a service its athan would have nothing that stops it.
+void ReplaceNoticeByWindow() {
+    if (athanActive != kFalse && AthanIsNoticeAlone() && !Ports().notices.HasService()) {
+        BringAthanWindowUp(static_cast<Alert>(PrayerOfAthanNotice()));
+        WithdrawAthanNotice();
+    }
+}
+
+/// One that is heard again after it was muted, too.
+void PauseOthersWhileHeard() {
+    if (athanActive != kFalse && IsHeard()) {
+        PauseOtherPlayers();
+    }
+}
+
 }  // namespace
 
+void BeginAthan() {
+    silentSince.reset();
+}
+
 void WatchAthan() {
+    WatchTone();
+    ReplaceNoticeByWindow();
     TimeSilence();
     EndSilentAthan();
     EndSilentNotice();
@@ -69,10 +90,11 @@ void WatchAthan() {
     if (!IsHeard()) {
         LetOthersGoOn();
     }
+    PauseOthersWhileHeard();
 }
 
 void PauseOtherPlayers() {
-    if (ReadOption(option::kPausePlayers) == 1) {
+    if (!othersPause && ReadOption(option::kPausePlayers) == 1) {
         othersPause = true;
         Ports().mediaPlayers.PauseAll();
     }

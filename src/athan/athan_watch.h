@@ -7,6 +7,9 @@ namespace horavex {
 /// other players go on.
 void WatchAthan();
 
+/// An athan begins, whatever has been up before it.
+void BeginAthan();
+
 /// Other players pause, where the option asks for it, until the athan is over.
 void PauseOtherPlayers();
 

@@ -82,6 +82,15 @@ void StopAthan() {
     StopPlay();
 }
 
+void BringAthanWindowUp(Alert alert) {
+    frmAzan->Load();
+    frmAzan->prayerIndex = alert;
+    if (alert != Alert::kAthanNow) {
+        SetAzanText();
+    }
+    ShowMe();
+}
+
 void BindAzanWindow() {
     frmAzan->onLoad = frmAzan_Load;
     frmAzan->onUnload = StopSound;

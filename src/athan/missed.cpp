@@ -3,8 +3,13 @@
 #include <utility>
 #include <vector>
 
+#include "athan/arrivals.h"
+#include "athan/athan_alert.h"
 #include "athan/athan_notice.h"
+#include "athan/athan_state.h"
+#include "athan/azan_window.h"
 #include "athan/calls.h"
+#include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/moments_around.h"
 #include "store/athan_options.h"
@@ -32,6 +37,17 @@ std::vector<DatedMoment> MissedBetween(Date from, Date now) {
     return missed;
 }
 
+/// An athan does not go on behind a sleep. One that was not heard yet has been missed, too.
+void EndAthanOfBefore(std::vector<DatedMoment>& missed, Date now) {
+    if (athanActive == kFalse || now - LastAthan().at <= kWindow) {
+        return;
+    }
+    if (AthanAwaitsItsSound() && LastAthan().at >= now - kLongAgo) {
+        missed.insert(missed.begin(), {LastAthan().prayer, LastAthan().at, {}});
+    }
+    StopAthan();
+}
+
 }  // namespace
 
 void TellMissedPrayers(Date now) {
@@ -39,7 +55,8 @@ void TellMissedPrayers(Date now) {
     if (from == 0.0 || now - from <= kWindow || ReadOption(option::kTellMissed) == 0) {
         return;
     }
-    const std::vector<DatedMoment> missed = MissedBetween(from, now);
+    std::vector<DatedMoment> missed = MissedBetween(from, now);
+    EndAthanOfBefore(missed, now);
     for (const DatedMoment& moment : missed) {
         NoteCall({CallKind::kPrayer, moment.prayer, moment.at});
     }

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "athan/athan_state.h"
+#include "athan/prayer_sound.h"
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
@@ -17,15 +18,17 @@ namespace {
 
 std::int16_t fileOpen = kFalse;
 std::int16_t playing = kFalse;  // a pause included
-std::int32_t blockBytes = 0;    // one second of the open file, the size of one read
-std::int32_t playedBytes = 0;   // where a pause has stopped, from the beginning of the file
-std::int64_t readBytes = 0;     // where the next block begins, likewise
-Gain gain;                      // of the open file
+std::uint64_t plays = 0;
+std::int32_t blockBytes = 0;   // one second of the open file, the size of one read
+std::int32_t playedBytes = 0;  // where a pause has stopped, from the beginning of the file
+std::int64_t readBytes = 0;    // where the next block begins, likewise
+Gain gain;                     // of the open file
 
 const ProgramStateReset reset([] {
     fileOpen = kFalse;
     playing = kFalse;
     Paused = kFalse;
+    plays = 0;
     blockBytes = 0;
     playedBytes = 0;
     readBytes = 0;
@@ -85,9 +88,12 @@ void Resume() {
     Ports().audioPlayer.Start();
 }
 
-/// An athan and a sound that is only tried end alike.
+/// An athan and a sound that is only tried end alike. A window would be gone with a short tone
+/// before it can be read.
 void AudioPlayer_EndPlay() {
-    RemoveAthanWindow();
+    if (!EndsBeforeItsAthan()) {
+        RemoveAthanWindow();
+    }
     StopPlay();
 }
 
@@ -97,7 +103,12 @@ bool IsPlaying() {
     return playing != kFalse;
 }
 
+std::uint64_t PlayNumber() {
+    return plays;
+}
+
 void OpenFileForPlay(const std::string& path, const Loudness& loudness) {
+    ++plays;
     StopPlay();
     CloseFile();
     if (!OpenSound(path)) {

@@ -17,6 +17,9 @@ extern std::int16_t Paused;
 /// Whether a sound plays, a pause included.
 bool IsPlaying();
 
+/// Counts the sounds that were to be played: another number is another sound.
+std::uint64_t PlayNumber();
+
 /// Plays the file of that real path from its beginning, in place of what plays. A file that is
 /// missing, unreadable, of an unknown format or without audio leaves nothing playing, in silence.
 /// The loudness is of this file, however often it is started, and of no other.

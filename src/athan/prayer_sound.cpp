@@ -1,5 +1,9 @@
 #include "athan/prayer_sound.h"
 
+#include <cstdint>
+#include <optional>
+#include <utility>
+
 #include "athan/athan_alert.h"
 #include "athan/athan_choices.h"
 #include "athan/athan_state.h"
@@ -14,13 +18,21 @@ namespace horavex {
 
 namespace {
 
-bool toneIsOn = false;  // what plays, if anything does, is the tone
+/// A tone that was played last.
+struct Tone {
+    std::uint64_t play;  // which of the player's sounds it is
+    std::function<void()> unheard;
 
-const ProgramStateReset reset([] { toneIsOn = false; });
+    bool IsOn() const { return IsPlaying() && PlayNumber() == play; }
+};
+std::optional<Tone> tone;
 
-void UseChosenDevice() {
-    Ports().audioPlayer.UseDevice(ReadOption(option::kSoundDevice));
-}
+std::uint64_t shortAthan = 0;  // the player's number of the last athan by the short tone
+
+const ProgramStateReset reset([] {
+    tone.reset();
+    shortAthan = 0;
+});
 
 PrayerChoices ChoicesOf(Alert alert) {
     return alert == Alert::kAthanNow ? PrayerChoices()
@@ -38,23 +50,52 @@ void PlayPrayerSound(Alert alert) {
     PlayFileAt(
         PathOfSound(choices, alert == Alert::kFajr),
         LoudnessOf(choices, ReadOption(option::kAthanVolume), ReadOption(option::kAthanFade)));
+    if (choices.sound == AthanSound::kTone) {
+        shortAthan = PlayNumber();
+    }
 }
 
-bool PlayTone() {
+bool EndsBeforeItsAthan() {
+    return shortAthan != 0 && shortAthan == PlayNumber();
+}
+
+void UseChosenDevice() {
+    Ports().audioPlayer.UseDevice(ReadOption(option::kSoundDevice));
+}
+
+void PlayTone(std::function<void()> unheard) {
     if (IsPlaying() || athanActive != kFalse || AthanAwaitsItsSound()) {
-        return false;
+        unheard();
+        return;
     }
     UseChosenDevice();
     PlayFileAt(FullPath(kShortTone), {.percent = ReadOption(option::kAthanVolume)});
-    toneIsOn = IsPlaying();
-    return toneIsOn;
+    if (!IsPlaying()) {
+        unheard();
+        return;
+    }
+    tone = Tone{PlayNumber(), std::move(unheard)};
+    WatchTone();
+}
+
+void WatchTone() {
+    if (!tone) {
+        return;
+    }
+    if (tone->IsOn() && !Ports().audioPlayer.Trouble().empty()) {
+        const Tone silent = *std::exchange(tone, std::nullopt);
+        StopSound();
+        silent.unheard();
+    } else if (!tone->IsOn()) {
+        tone.reset();
+    }
 }
 
 void StopTone() {
-    if (toneIsOn) {
-        toneIsOn = false;
+    if (tone && tone->IsOn()) {
         StopSound();
     }
+    tone.reset();
 }
 
 bool IsHeard() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "athan/athan_choices.h"
 #include "athan/athan_state.h"
@@ -11,6 +12,7 @@
 #include "base/program_state.h"
 #include "base/stamp.h"
 #include "engine/day_driver.h"
+#include "engine/moments_around.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
@@ -22,7 +24,8 @@ namespace horavex {
 namespace {
 
 constexpr double kMinutesPerDay = 1440.0;
-constexpr double kOver = 1e-9;  // days; what is left of a quiet that is over
+constexpr double kArrival = 10.0 / kSecondsPerDay;  // in which a prayer arrives
+constexpr double kOver = 1e-9;                      // days; what is left of a quiet that is over
 
 bool isShown = false;  // on the icon
 
@@ -55,13 +58,20 @@ std::optional<Date> EndOfHours(Date now) {
     return std::nullopt;
 }
 
-Date NextPrayerMoment() {
-    const NextMoment& next = ShownDay.next;
-    return ShownDay.date + (next.isTomorrows ? 1.0 : 0.0) + next.moment.hours / 24.0;
+/// Midnight, and today's Isha where it comes behind that.
+Date EndOfDay() {
+    const Date midnight = Ports().clock.Today() + 1.0;
+    const Moment& isha = ShownDay.moments[kIsha];
+    return isha.dayShift > 0 ? ShownDay.date + isha.hours / 24.0 + kArrival : midnight;
 }
 
-Date EndOfDay() {
-    return Ports().clock.Today() + 1.0;
+Date NextPrayerMoment() {
+    const Date now = Now();
+    const std::vector<DatedMoment> around = MomentsAround(now);
+    const auto next = std::ranges::find_if(around, [&](const DatedMoment& moment) {
+        return moment.prayer != kShurooq && moment.at > now;
+    });
+    return next == around.end() ? EndOfDay() : next->at;
 }
 
 bool IsChosen(Date end) {
@@ -115,6 +125,9 @@ void ChooseQuietToday() {
 
 void ChooseQuietHours() {
     SaveChange(option::kQuietHours, ReadQuietHours().on ? 0 : 1, 0);
+    if (IsQuiet()) {
+        FallSilent();
+    }
     ShowQuiet();
 }
 

@@ -8,7 +8,6 @@
 #include "athan/calls.h"
 #include "athan/prayer_sound.h"
 #include "athan/quiet.h"
-#include "base/rounding.h"
 #include "engine/moments_around.h"
 #include "platform/platform.h"
 
@@ -16,8 +15,7 @@ namespace horavex {
 
 namespace {
 
-constexpr double kMinute = 1.0 / 1440.0;  // days
-constexpr double kWindow = 10.0;          // seconds in which a signal is due
+constexpr double kWindow = 10.0;  // seconds in which a signal is due
 
 using MinutesOf = std::array<WholeOption, kPrayerCount>;
 
@@ -25,23 +23,29 @@ bool AnySet(const MinutesOf& minutes) {
     return std::ranges::any_of(minutes, [](const auto& one) { return ReadOption(one) > 0; });
 }
 
-/// Seconds since a moment, to the microsecond.
-double Since(Date at, Date now) {
-    return RoundToPlaces((now - at) * kSecondsPerDay, 6);
+/// Seconds since so many minutes behind a prayer, before it if negative.
+double SinceMinutes(const DatedMoment& prayer, int minutes, Date now) {
+    return SecondsSince(prayer, now) - minutes * 60.0;
 }
 
-bool IsDue(Date at, Date now) {
-    const double elapsed = Since(at, now);
+bool IsDue(const DatedMoment& prayer, int minutes, Date now) {
+    const double elapsed = SinceMinutes(prayer, minutes, now);
     return elapsed >= 0.0 && elapsed < kWindow;
 }
 
 /// In a quiet time the tone is left out; where it cannot be heard the notification stands in for
-/// it.
+/// it. A desktop that shows no notifications gets the tone instead.
 void Tell(Signal signal, const std::function<void()>& showNotice) {
-    const bool hasTone = signal == Signal::kTone || signal == Signal::kBoth;
-    const bool isHeard = hasTone && !IsQuiet() && PlayTone();
-    if (signal == Signal::kNotification || signal == Signal::kBoth || (hasTone && !isHeard)) {
+    const bool isQuiet = IsQuiet();
+    const bool wantsTone = signal == Signal::kTone || signal == Signal::kBoth;
+    const bool wantsNotice =
+        signal == Signal::kNotification || signal == Signal::kBoth || (wantsTone && isQuiet);
+    if (wantsNotice) {
         showNotice();
+    }
+    const bool hasTone = wantsTone || (wantsNotice && !Ports().notices.HasService());
+    if (hasTone && !isQuiet) {
+        PlayTone(wantsNotice ? [] {} : showNotice);
     }
 }
 
@@ -55,10 +59,10 @@ void TellOnce(CallKind kind, const DatedMoment& prayer, const std::function<void
 
 void TellReminder(const DatedMoment& prayer, Date now) {
     const int minutes = ReadOption(option::kReminders[prayer.prayer]);
-    if (minutes > 0 && IsDue(prayer.at - minutes * kMinute, now)) {
+    if (minutes > 0 && IsDue(prayer, -minutes, now)) {
         TellOnce(CallKind::kReminder, prayer, [&] {
             Tell(ReadOption(option::kReminderSignal),
-                 [&] { ShowReminder(prayer.prayer, prayer.at, minutes); });
+                 [prayer, minutes] { ShowReminder(prayer.prayer, prayer.at, minutes); });
         });
     }
 }
@@ -70,10 +74,10 @@ int IqamaMinutes(Prayer prayer) {
 
 void TellIqama(const DatedMoment& prayer, Date now) {
     const int minutes = IqamaMinutes(prayer.prayer);
-    const Date iqama = prayer.at + minutes * kMinute;
-    if (minutes > 0 && IsDue(iqama, now)) {
+    if (minutes > 0 && IsDue(prayer, minutes, now)) {
         TellOnce(CallKind::kIqama, prayer, [&] {
-            Tell(ReadOption(option::kIqamaSignal), [&] { ShowIqama(prayer.prayer, iqama); });
+            Tell(ReadOption(option::kIqamaSignal),
+                 [which = prayer.prayer, now] { ShowIqama(which, now); });
         });
     }
 }
@@ -96,8 +100,8 @@ std::string IqamaAhead(Date now) {
     }
     std::string text;
     for (const DatedMoment& prayer : MomentsAround(now)) {
-        const double left = -Since(prayer.at + IqamaMinutes(prayer.prayer) * kMinute, now);
-        if (left > 0.0 && Since(prayer.at, now) >= 0.0) {
+        const double left = -SinceMinutes(prayer, IqamaMinutes(prayer.prayer), now);
+        if (left > 0.0 && SecondsSince(prayer, now) >= 0.0) {
             text = IqamaCountdown(prayer.prayer, left);
         }
     }

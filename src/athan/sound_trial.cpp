@@ -1,13 +1,12 @@
 #include "athan/sound_trial.h"
 
+#include <cstdint>
 #include <optional>
 
-#include "athan/athan_state.h"
 #include "athan/chosen_sound.h"
 #include "athan/player.h"
 #include "athan/reminders_display.h"
 #include "athan/sound.h"
-#include "base/int16.h"
 #include "base/program_state.h"
 #include "platform/platform.h"
 
@@ -17,11 +16,11 @@ namespace {
 
 /// What was tried last.
 struct Trial {
-    std::optional<Prayer> prayer;       // none for the tone
-    std::int16_t athanBehind = kFalse;  // an athan was up when it began
+    std::optional<Prayer> prayer;  // none for the tone
+    std::uint64_t play = 0;        // which of the player's sounds it is
 
-    /// It plays still, and no athan has come in its place.
-    bool Plays() const { return IsPlaying() && athanActive == athanBehind; }
+    /// It plays still, and nothing has come in its place.
+    bool Plays() const { return IsPlaying() && PlayNumber() == play; }
 };
 
 std::optional<Trial> trial;
@@ -46,9 +45,9 @@ void ShowHowItGoes() {
 void Try(std::optional<Prayer> prayer, const std::string& path, const Loudness& loudness,
          const std::string& device) {
     StopSound();
-    trial = Trial{prayer, athanActive};
     Ports().audioPlayer.UseDevice(device);
     PlayFileAt(path, loudness);
+    trial = Trial{prayer, PlayNumber()};
     ShowHowItGoes();
 }
 

@@ -1,9 +1,14 @@
 #include "engine/moments_around.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "base/rounding.h"
+#include "engine/current_year.h"
 #include "engine/moments.h"
+#include "engine/ruled_year.h"
 #include "engine/table_row.h"
+#include "engine/zone_spans.h"
 
 namespace horavex {
 
@@ -17,7 +22,21 @@ void Append(std::vector<DatedMoment>& all, std::size_t row, Date day) {
     }
 }
 
+std::size_t LastRow() {
+    return static_cast<std::size_t>(364 + LeapFlag);
+}
+
+/// Seconds by which the city's clock has been put forward since a moment, back if negative.
+double TurnedSince(const Moment& moment, Date now) {
+    const std::vector<ZoneSpan>& zone = RuledYear.rules.moments.zone;
+    return zone.empty() ? 0.0 : (SpanOfLocal(zone, now).hours - moment.offset) * 3600.0;
+}
+
 }  // namespace
+
+double SecondsSince(const DatedMoment& moment, Date now) {
+    return RoundToPlaces((now - moment.at) * kSecondsPerDay - TurnedSince(moment.moment, now), 6);
+}
 
 std::vector<DatedMoment> MomentsAround(Date now) {
     std::vector<DatedMoment> all;
@@ -25,7 +44,7 @@ std::vector<DatedMoment> MomentsAround(Date now) {
     if (const auto row = RowOf(today)) {
         Append(all, RowBefore(*row), today - 1.0);
         Append(all, *row, today);
-        Append(all, RowAfter(*row), today + 1.0);
+        Append(all, std::min(*row + 1, LastRow()), today + 1.0);
     }
     return all;
 }

@@ -18,4 +18,8 @@ struct DatedMoment {
 /// outside the table. Over New Year the day itself stands in for the one that the table lacks.
 std::vector<DatedMoment> MomentsAround(Date now);
 
+/// Seconds from a moment to now, to the microsecond; negative before it. A clock that is put
+/// forward or back meanwhile does not count.
+double SecondsSince(const DatedMoment& moment, Date now);
+
 }  // namespace horavex

@@ -8,7 +8,8 @@ namespace horavex {
 /// What a notice is about. There is one of a kind at a time: a new one takes the place of the
 /// former.
 enum class NoticeKind {
-    kPrayer,  // a reminder, the athan and the iqama in turn
+    kAthan,   // an athan that is up
+    kPrayer,  // a reminder, a prayer without a sound and the iqama in turn
     kMissed   // a prayer that came while the computer slept
 };
 

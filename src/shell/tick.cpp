@@ -1,6 +1,6 @@
 #include "shell/tick.h"
 
-#include <optional>
+#include <vector>
 
 #include "athan/arrivals.h"
 #include "athan/athan_alert.h"
@@ -17,7 +17,7 @@
 #include "engine/day_driver.h"
 #include "platform/platform.h"
 #include "shell/tray_icon.h"
-#include "store/options.h"
+#include "store/athan_options.h"
 #include "store/settings_record.h"
 
 namespace horavex {
@@ -49,34 +49,41 @@ struct Arrival {
 };
 
 /// Of moments whose own day is a neighbour of this one.
-std::optional<Arrival> ArrivedOf(const std::vector<PrayerMoment>& moments) {
+void AddArrived(std::vector<Arrival>& arrived, const std::vector<PrayerMoment>& moments) {
     for (const auto& [prayer, moment] : moments) {
         if (HasArrived(moment.hours / 24.0)) {
-            return Arrival{prayer, moment.hours};
+            arrived.push_back({prayer, moment.hours});
         }
     }
-    return std::nullopt;
 }
 
-/// The first prayer that has arrived; of two within the window only the earlier one fires.
-std::optional<Arrival> ArrivedPrayer() {
-    if (const auto late = ArrivedOf(ShownDay.late)) {
-        return late;
-    }
+/// The prayers within their ten seconds, in order.
+std::vector<Arrival> ArrivedPrayers() {
+    std::vector<Arrival> arrived;
+    AddArrived(arrived, ShownDay.late);
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
-            return Arrival{static_cast<Prayer>(prayer), TodayTimes[prayer] * 24.0};
+            arrived.push_back({static_cast<Prayer>(prayer), TodayTimes[prayer] * 24.0});
         }
     }
-    return ArrivedOf(ShownDay.early);
+    AddArrived(arrived, ShownDay.early);
+    return arrived;
 }
 
+/// Of two within the window only the earlier one fires; the option that calls each prayer once has
+/// the later one told.
 void TestPrayers(const TickActions& actions) {
-    const auto arrival = ArrivedPrayer();
-    if (!arrival) {
+    std::vector<Arrival> arrived = ArrivedPrayers();
+    if (arrived.empty()) {
         return;
     }
-    ReceivePrayer(arrival->prayer, Ports().clock.Today() + arrival->hours / 24.0, actions.alert);
+    if (ReadOption(option::kAthanOnce) == 0) {
+        arrived.resize(1);
+    }
+    const Date today = Ports().clock.Today();
+    for (const Arrival& arrival : arrived) {
+        ReceivePrayer(arrival.prayer, today + arrival.hours / 24.0, actions.alert);
+    }
     // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
     ++NextPrayer;
 }

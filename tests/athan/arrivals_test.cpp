@@ -1,5 +1,7 @@
 #include "athan/arrivals.h"
 
+#include "athan/athan_alert.h"
+#include "athan/azan_window.h"
 #include "athan/prayer_day.h"
 #include "athan/prayer_sound.h"
 
@@ -153,11 +155,49 @@ TEST_F(ArrivalsTest, ToneInThePrayersWayGivesWay) {
     AddSound(SoundPath("tone"), 5);
     SaveOption(option::kAthanOnce, 1);
     platform.clock.Set(Arrival(kAsr) - Seconds(2));
-    ASSERT_TRUE(PlayTone());
+    PlayTone([] { ADD_FAILURE() << "unheard"; });
+    ASSERT_TRUE(IsPlaying());
     Run(14);
     EXPECT_EQ(Sounded("athan"), 1);
     EXPECT_EQ(athanActive, kTrue);
     EXPECT_TRUE(frmAzan->Visible()) << "the end of the tone is not that of the athan";
+}
+
+TEST_F(ArrivalsTest, WindowOfAShortToneStaysToBeRead) {
+    SaveOption(option::kAthanSounds[kAsr], AthanSound::kTone);
+    RunThrough(kAsr);
+    EXPECT_FALSE(IsPlaying());
+    EXPECT_TRUE(frmAzan->Visible());
+    RunThrough(kMaghrib);
+    EXPECT_EQ(Sounded("athan"), 1) << "and keeps no other away";
+}
+
+TEST_F(ArrivalsTest, QuietThatIsChosenBeforeTheSoundKeepsIt) {
+    platform.loop.After(1.0, [] { frmMain->mnuPopQuietToday.UserClick(); });
+    RunFrom(Arrival(kAsr), 11);
+    EXPECT_EQ(Sounded("athan"), 0);
+    EXPECT_EQ(athanActive, kFalse);
+}
+
+TEST_F(ArrivalsTest, AthanThatAnotherHasReplacedInItsWaitIsNotHeardInItsPlace) {
+    SaveOption(option::kAthanOnce, 1);
+    platform.loop.After(1.0, [&] {
+        StopAthan();
+        sub04F9(Alert::kMaghrib);
+    });
+    ReceivePrayer(kAsr, Arrival(kAsr), sub04F9);
+    EXPECT_EQ(Sounded("athan"), 1) << "that of the later one";
+    EXPECT_EQ(frmAzan->prayerIndex, Alert::kMaghrib);
+}
+
+TEST_F(ArrivalsTest, OfTwoPrayersInTheSameSecondsTheLaterIsToldWhereEachIsCalledOnce) {
+    SaveOption(option::kAthanOnce, 1);
+    TodayTimes[kIsha] = TodayTimes[kMaghrib] + 2.0 / kSecondsPerDay;
+    platform.clock.Set(Arrival(kMaghrib) + Seconds(3));
+    RunTick({[] {}, [] {}, sub04F9});
+    EXPECT_EQ(Sounded("athan"), 1);
+    ASSERT_EQ(NoticeCount(), 1);
+    EXPECT_EQ(LastNotice().text, "It is time for the Isha prayer");
 }
 
 }  // namespace

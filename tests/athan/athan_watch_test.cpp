@@ -1,7 +1,10 @@
 #include "athan/athan_watch.h"
 
+#include "athan/arrivals.h"
+#include "athan/athan_alert.h"
 #include "athan/prayer_day.h"
 #include "athan/sound.h"
+#include "platform/platform.h"
 
 namespace horavex {
 namespace {
@@ -97,6 +100,31 @@ TEST_F(AthanWatchTest, WhereNoDeviceIsTheyGoOnAtOnce) {
     platform.audioPlayer.hasDevice = false;
     RunFrom(Arrival(kAsr), 5);
     EXPECT_EQ(platform.mediaPlayers.pauses, platform.mediaPlayers.goingsOn);
+}
+
+TEST_F(AthanWatchTest, SilenceIsCountedAnewForEachAthan) {
+    SaveOption(option::kSilentMinutes, 30);
+    SetAthanType(1);
+    RunFrom(Arrival(kMaghrib), 3);
+    Run(29 * 60);
+    ReceivePrayer(kIsha, Ports().clock.Now(), sub04F9);
+    Run(20 * 60);
+    EXPECT_EQ(athanActive, kTrue);
+    Run(11 * 60);
+    EXPECT_EQ(athanActive, kFalse);
+}
+
+TEST_F(AthanWatchTest, OthersPauseAgainWithAnAthanThatIsHeardAgain) {
+    SaveOption(option::kPausePlayers, 1);
+    AddSound(SoundPath("athan"), 300);
+    RunFrom(Arrival(kAsr), 12);
+    PauseSound();
+    Run(3);
+    EXPECT_EQ(platform.mediaPlayers.goingsOn, 1);
+    PauseSound();
+    Run(3);
+    EXPECT_EQ(platform.mediaPlayers.pauses, 2);
+    EXPECT_EQ(platform.mediaPlayers.goingsOn, 1);
 }
 
 }  // namespace

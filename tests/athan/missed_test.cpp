@@ -86,5 +86,31 @@ TEST_F(MissedTest, ClockThatIsSetBackMissesNothing) {
     EXPECT_THAT(platform.notices.shown, IsEmpty());
 }
 
+TEST_F(MissedTest, AthanDoesNotGoOnBehindASleep) {
+    SaveOption(option::kTellMissed, 1);
+    AddSound(SoundPath("athan"), 300);
+    const Date asr = Asr();
+    RunFrom(asr, 20);
+    ASSERT_TRUE(IsPlaying());
+    SleepUntil(asr + Minutes(50));
+    EXPECT_FALSE(IsPlaying());
+    EXPECT_EQ(athanActive, kFalse);
+    EXPECT_THAT(platform.notices.shown, IsEmpty()) << "it was heard";
+}
+
+TEST_F(MissedTest, AthanWhoseSoundASleepHasKeptIsMissed) {
+    SaveOption(option::kTellMissed, 1);
+    const Date asr = Asr();
+    RunFrom(asr - Seconds(2), 1);
+    platform.loop.After(2.0, [&] {
+        platform.clock.Set(asr + Minutes(30));
+        platform.session.onResume();
+    });
+    Run(6);
+    EXPECT_EQ(Sounded("athan"), 0);
+    ASSERT_EQ(NoticeCount(), 1);
+    EXPECT_THAT(LastNotice().title, testing::StartsWith("Asr "));
+}
+
 }  // namespace
 }  // namespace horavex

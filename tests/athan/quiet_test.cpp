@@ -115,5 +115,32 @@ TEST_F(QuietTest, StoredTextThatIsNoMomentCountsAsNone) {
     EXPECT_FALSE(IsQuiet());
 }
 
+TEST_F(QuietTest, LaterOfTwoEndsCounts) {
+    SetHours(10, 20);
+    SetClock(2026, 11, 21, 12, 0, 0);
+    SaveOption(option::kQuietUntil, "2026-11-21 15:00:00");
+    EXPECT_EQ(StampOf(*QuietEnd(platform.clock.Now())), "2026-11-21 20:00:00");
+    SaveOption(option::kQuietUntil, "2026-11-21 23:00:00");
+    EXPECT_EQ(StampOf(*QuietEnd(platform.clock.Now())), "2026-11-21 23:00:00");
+}
+
+TEST_F(QuietTest, SwitchingTheHoursOnInsideThemSilencesWhatSounds) {
+    AthanChoices choices;
+    choices.quietHours = {.on = false, .from = 0, .to = 1439};
+    SaveAthanChoices(choices);
+    RunFrom(Arrival(kAsr), 4);
+    ASSERT_TRUE(IsPlaying());
+    frmMain->mnuPopQuietHours.UserClick();
+    EXPECT_FALSE(IsPlaying());
+}
+
+TEST_F(QuietTest, TodayHoldsTodaysIshaBehindMidnightToo) {
+    RunFrom(Arrival(kMaghrib) + Minutes(5), 1);
+    ShownDay.moments[kIsha] = {24.3, MomentBy::kRule, 1, 0.0};
+    ChooseQuietToday();
+    EXPECT_EQ(ReadOption(option::kQuietUntil),
+              StampOf(ShownDay.date + 1.0 + (0.3 * 3600.0 + 10.0) / kSecondsPerDay));
+}
+
 }  // namespace
 }  // namespace horavex

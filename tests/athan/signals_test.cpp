@@ -116,5 +116,37 @@ TEST_F(SignalsTest, WithNoOptionNothingIsToldAndTheFaceHasNoLine) {
     EXPECT_EQ(Line(), "");
 }
 
+TEST_F(SignalsTest, ToneThatCannotBeHeardIsANoticeAndTheNextOneIsTriedAgain) {
+    SaveOption(option::kReminders[kAsr], 15);
+    SaveOption(option::kReminderSignal, Signal::kTone);
+    SaveOption(option::kIqamas[kAsr], 15);
+    SaveOption(option::kIqamaSignal, Signal::kTone);
+    platform.audioPlayer.hasDevice = false;
+    RunFrom(Arrival(kAsr) - Minutes(15), 3);
+    EXPECT_EQ(NoticeCount(), 1);
+    EXPECT_FALSE(IsPlaying());
+    platform.audioPlayer.hasDevice = true;
+    RunFrom(Arrival(kAsr) + Minutes(15), 3);
+    EXPECT_EQ(Sounded("tone"), 2);
+    EXPECT_EQ(NoticeCount(), 1);
+}
+
+TEST_F(SignalsTest, DesktopWithoutNotificationsGetsTheTone) {
+    platform.notices.hasService = false;
+    SaveOption(option::kReminders[kAsr], 15);
+    RunFrom(Arrival(kAsr) - Minutes(15), 3);
+    EXPECT_EQ(Sounded("tone"), 1);
+}
+
+TEST_F(SignalsTest, LastDayOfACommonYearHasNoReminderOfADayThatTheTableLacks) {
+    for (const WholeOption& reminder : option::kReminders) {
+        SaveOption(reminder, 15);
+    }
+    RunFrom(DateSerial(2026, 12, 31) + TimeSerial(23, 0, 0), 3);
+    platform.notices.shown.clear();
+    RunFrom(DateSerial(2026, 12, 31) + TimeSerial(23, 44, 58), 15);
+    EXPECT_THAT(platform.notices.shown, IsEmpty());
+}
+
 }  // namespace
 }  // namespace horavex
