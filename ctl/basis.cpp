@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "base/rounding.h"
+#include "ctl/place_clock.h"
 #include "ctl/place_options.h"
 #include "engine/current_year.h"
 #include "engine/moment_text.h"
@@ -20,20 +21,8 @@ namespace {
 
 constexpr double kSecondsPerHour = 3600.0;
 
-/// That of the working clock at a time that it shows. day: the one whose moment it is, by which the
-/// daylight hour of the record goes.
-ZoneOffset OffsetAt(Date local, Date day) {
-    if (!ChosenOptions.zone.empty()) {
-        const ZoneRules& rules = Ports().zoneRules;
-        return rules.OffsetAt(ChosenOptions.zone, MomentOf(rules, ChosenOptions.zone, local));
-    }
-    const bool daylight = IsDaylightDay(day);
-    const double hours = Settings.TimeZone + (daylight ? 1.0 : 0.0);
-    return {NearestInt(hours * kSecondsPerHour), daylight};
-}
-
 Json ZoneJson(Date now) {
-    const ZoneOffset offset = OffsetAt(now, now);
+    const ZoneOffset offset = WorkingOffset(now, now);
     const std::string& name = ChosenOptions.zone;
     return {{"name", name.empty() ? Json() : Json(name)},
             {"offset", offset.seconds / kSecondsPerHour},
@@ -59,7 +48,7 @@ Json LocalJson(Date day, double hours) {
         return nullptr;
     }
     const Date local = day + RoundHalfEven(hours * kSecondsPerHour) / kSecondsPerDay;
-    return IsoMoment(day, hours, OffsetAt(local, day).seconds / kSecondsPerHour);
+    return IsoMoment(day, hours, WorkingOffset(local, day).seconds / kSecondsPerHour);
 }
 
 Json YearMomentsJson() {
@@ -82,8 +71,8 @@ void AddBasis(Json& object, Date now) {
 std::string BasisText(Date now) {
     std::string text;
     if (!ChosenOptions.zone.empty()) {
-        text +=
-            "Time zone: " + ChosenOptions.zone + ", UTC" + OffsetText(OffsetAt(now, now)) + "\n";
+        text += "Time zone: " + ChosenOptions.zone + ", UTC" + OffsetText(WorkingOffset(now, now)) +
+                "\n";
     }
     if (ChosenMethod != nullptr) {
         text += std::string("Method: ") + ChosenMethod->name + "\n";

@@ -33,6 +33,8 @@ void AddZoneCommands(CLI::App& app, Session& session);
 void AddCitiesCommand(CLI::App& app, Session& session);
 void AddTextCommands(CLI::App& app, Session& session);
 void AddMoonCommands(CLI::App& app, Session& session);
+void AddSkyCommands(CLI::App& app, Session& session);
+void AddCrescentCommand(CLI::App& app, Session& session);
 void AddCalendarCommands(CLI::App& app, Session& session);
 void AddDistanceCommand(CLI::App& app, Session& session);
 void AddExportCommand(CLI::App& app, Session& session);

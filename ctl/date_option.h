@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <string>
 
+#include "base/date.h"
 #include "calendar/date_entry.h"
 
 namespace horavex {
@@ -19,5 +20,9 @@ DateNumbers ParseDateOption(const std::string& text);
 
 /// The numbers of a Gregorian day. Refuses the usage for one that does not exist.
 DateNumbers ParseCivilDateOption(const std::string& text);
+
+/// The moment of --at: "2026-11-21T12:34:56", or the day alone for its midnight. Refuses the usage
+/// for any other text.
+Date ParseMomentOption(const std::string& text);
 
 }  // namespace horavex

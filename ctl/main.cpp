@@ -61,6 +61,8 @@ void AddCommands(CLI::App& app, Session& session) {
     AddCitiesCommand(app, session);
     AddTextCommands(app, session);
     AddMoonCommands(app, session);
+    AddSkyCommands(app, session);
+    AddCrescentCommand(app, session);
     AddCalendarCommands(app, session);
     AddDistanceCommand(app, session);
     AddExportCommand(app, session);

@@ -8,6 +8,7 @@
 #include "calendar/date_words.h"
 #include "ctl/basis.h"
 #include "ctl/calculation.h"
+#include "ctl/date_option.h"
 #include "ctl/day_text.h"
 #include "ctl/place_options.h"
 #include "ctl/watch.h"
@@ -28,27 +29,6 @@ struct TodayOptions {
     std::optional<std::string> at;
     bool watch = false;
 };
-
-/// True for a text with a digit for each 0 of the shape, and else the shape's characters.
-bool HasShape(const std::string& text, const std::string& shape) {
-    return std::equal(text.begin(), text.end(), shape.begin(), shape.end(),
-                      [](char c, char wanted) { return wanted == '0' ? IsDigit(c) : c == wanted; });
-}
-
-/// "2026-11-21T12:34:56", or the day alone for its midnight.
-Date ParseMoment(const std::string& text) {
-    const std::string moment = HasShape(text, "0000-00-00") ? text + "T00:00:00" : text;
-    if (HasShape(moment, "0000-00-00T00:00:00")) {
-        const auto field = [&](std::size_t at) { return std::stoi(moment.substr(at, 2)); };
-        const int year = std::stoi(moment.substr(0, 4));
-        if (IsCivilDate(year, field(5), field(8)) && field(11) < 24 && field(14) < 60 &&
-            field(17) < 60) {
-            return DateSerial(year, field(5), field(8)) +
-                   TimeSerial(field(11), field(14), field(17));
-        }
-    }
-    RefuseUsage("--at wants a moment such as 2026-11-21T12:34:56, not \"" + text + "\"");
-}
 
 Json HoursJson(const DayMoments& moments) {
     Json hours = Json::array();
@@ -123,7 +103,7 @@ void Watch(Session& session) {
 /// by hand, has a clock of its own.
 void SetClock(ConsoleClock& clock, const TodayOptions& options) {
     if (options.at) {
-        clock.StandAt(ParseMoment(*options.at));
+        clock.StandAt(ParseMomentOption(*options.at));
     } else if (NamesPlace(options.place) || options.place.rules.timeZone) {
         clock.RunInWorkingZone();
     }
@@ -131,7 +111,7 @@ void SetClock(ConsoleClock& clock, const TodayOptions& options) {
 
 void RunToday(Session& session, const TodayOptions& options) {
     currentLanguage = ReadStoredLanguage();
-    ApplyPlace(options.place, options.at ? ParseMoment(*options.at) : Ports().clock.Today());
+    ApplyPlace(options.place, options.at ? ParseMomentOption(*options.at) : Ports().clock.Today());
     SetClock(session.platform.clock, options);
     Calculate(session, PresentYear());
     if (options.watch) {

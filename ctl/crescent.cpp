@@ -1,0 +1,178 @@
+#include <cmath>
+#include <cstdio>
+#include <memory>
+
+#include "calendar/hijri_calendar.h"
+#include "calendar/umm_al_qura.h"
+#include "ctl/place_clock.h"
+#include "ctl/place_options.h"
+#include "linux/erfa_almanac.h"
+#include "sky/month_evenings.h"
+#include "store/location_record.h"
+#include "timetables/timetable.h"
+
+namespace horavex {
+
+namespace {
+
+struct CrescentOptions {
+    PlaceOptions place;
+    int month = 0;
+    int year = 0;
+};
+
+// The months whose evenings lie in the almanac's years.
+constexpr int kFirstHijriYear = 1318;
+constexpr int kLastHijriYear = 1523;
+
+// The last classes that a sighting of each kind needs.
+constexpr char kYallopNakedEye = 'B', kYallopAided = 'D';
+constexpr char kOdehNakedEye = 'B', kOdehAided = 'C';
+
+constexpr double kMinutesPerDay = 24.0 * 60.0;
+
+/// The first day of the month by each way; nothing where it has none.
+struct FirstDays {
+    std::optional<Date> yallopNakedEye, yallopAided, odehNakedEye, odehAided;
+    std::optional<Date> ummAlQura;
+    Date arithmetic;
+};
+
+FirstDays FirstDaysOf(const MonthEvenings& month, const HijriDate& first) {
+    return {FirstDay(month, &CrescentEvening::yallop, kYallopNakedEye),
+            FirstDay(month, &CrescentEvening::yallop, kYallopAided),
+            FirstDay(month, &CrescentEvening::odeh, kOdehNakedEye),
+            FirstDay(month, &CrescentEvening::odeh, kOdehAided),
+            UmmAlQura().DateOf(first),
+            DateFromHijri(first)};
+}
+
+Json DayJson(const std::optional<Date>& day) {
+    return day ? Json(IsoDate(CivilFromDate(*day))) : Json();
+}
+
+Json FirstDaysJson(const FirstDays& days) {
+    return {
+        {"yallop",
+         {{"nakedEye", DayJson(days.yallopNakedEye)}, {"opticalAid", DayJson(days.yallopAided)}}},
+        {"odeh",
+         {{"nakedEye", DayJson(days.odehNakedEye)}, {"opticalAid", DayJson(days.odehAided)}}},
+        {"ummAlQura", DayJson(days.ummAlQura)},
+        {"arithmetic", DayJson(days.arithmetic)}};
+}
+
+std::optional<double> LagMinutes(const CrescentEvening& evening) {
+    const auto lag = evening.Lag();
+    return lag ? std::optional(*lag * kMinutesPerDay) : std::nullopt;
+}
+
+Json ArcsJson(const CrescentArcs& arcs) {
+    return {{"elongation", arcs.light},
+            {"arcOfVision", arcs.vision},
+            {"azimuthDifference", arcs.azimuth},
+            {"width", arcs.width}};
+}
+
+Json CrescentJson(const CrescentEvening& evening) {
+    const auto lag = LagMinutes(evening);
+    return {
+        {"sunset", WorkingJson(evening.sunset)},
+        {"moonset", WorkingJson(evening.moonset)},
+        {"lagMinutes", lag ? Json(*lag) : Json()},
+        {"best", WorkingJson(evening.best)},
+        {"ageHours", evening.age},
+        {"moonAltitude", evening.moonAltitude},
+        {"geocentric", ArcsJson(evening.geocentric)},
+        {"topocentric", ArcsJson(evening.topocentric)},
+        {"yallop", {{"q", evening.yallop.value}, {"class", std::string(1, evening.yallop.letter)}}},
+        {"odeh", {{"v", evening.odeh.value}, {"zone", std::string(1, evening.odeh.letter)}}}};
+}
+
+Json EveningsJson(const MonthEvenings& month) {
+    Json evenings = Json::array();
+    for (const DatedEvening& evening : month.evenings) {
+        evenings.push_back(
+            {{"date", DayJson(evening.day)},
+             {"crescent", evening.crescent ? CrescentJson(*evening.crescent) : Json()}});
+    }
+    return evenings;
+}
+
+std::string LagText(const CrescentEvening& evening) {
+    const auto lag = LagMinutes(evening);
+    return lag ? std::to_string(std::lround(*lag)) : "-";
+}
+
+std::string EveningText(const DatedEvening& evening) {
+    const std::string day = IsoDate(CivilFromDate(evening.day));
+    if (!evening.crescent) {
+        return day + "  the sun does not set\n";
+    }
+    const CrescentEvening& crescent = *evening.crescent;
+    char text[160];
+    std::snprintf(
+        text, sizeof text, "%s  %6s  %7s  %4s  %6.1f  %5.1f  %5.1f  %5.2f  %6.2f %c   %6.2f %c\n",
+        day.c_str(), WorkingTimeText(crescent.sunset).c_str(),
+        WorkingTimeText(crescent.moonset).c_str(), LagText(crescent).c_str(), crescent.age,
+        crescent.topocentric.light, crescent.topocentric.vision, crescent.topocentric.width,
+        crescent.yallop.value, crescent.yallop.letter, crescent.odeh.value, crescent.odeh.letter);
+    return text;
+}
+
+std::string DayText(const char* title, const std::optional<Date>& day) {
+    return std::string(title) + (day ? IsoDate(CivilFromDate(*day)) : "on none of these days") +
+           "\n";
+}
+
+std::string FirstDaysText(const FirstDays& days) {
+    return DayText("First day, Yallop, naked eye:    ", days.yallopNakedEye) +
+           DayText("First day, Yallop, optical aid:  ", days.yallopAided) +
+           DayText("First day, Odeh, naked eye:      ", days.odehNakedEye) +
+           DayText("First day, Odeh, optical aid:    ", days.odehAided) +
+           DayText("First day, Umm al-Qura:          ", days.ummAlQura) +
+           DayText("First day, arithmetic:           ", days.arithmetic);
+}
+
+std::string MonthText(const MonthEvenings& month, const FirstDays& days) {
+    std::string text = CityText + "\nNew moon " + WorkingJson(month.newMoon).get<std::string>() +
+                       "\n\nEvening     Sunset  Moonset   Lag   Age h  Elong   ArcV  Width  "
+                       "Yallop q   Odeh V\n";
+    for (const DatedEvening& evening : month.evenings) {
+        text += EveningText(evening);
+    }
+    return text + "\n" + FirstDaysText(days);
+}
+
+void PrintCrescent(Session& session, const CrescentOptions& options) {
+    const HijriDate first{options.year, options.month, 1};
+    ApplyPlace(options.place, DateFromHijri(first));
+    const Lookout lookout{WorkingObserver(), UniversalOfWorking, WorkingOfUniversal};
+    const MonthEvenings month =
+        EveningsOfMonth(ErfaAlmanac(), lookout, options.year, options.month);
+    const FirstDays days = FirstDaysOf(month, first);
+    session.Print({{"city", CityText},
+                   {"month", options.month},
+                   {"year", options.year},
+                   {"newMoon", WorkingJson(month.newMoon)},
+                   {"evenings", EveningsJson(month)},
+                   {"firstDays", FirstDaysJson(days)}},
+                  MonthText(month, days));
+}
+
+}  // namespace
+
+void AddCrescentCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "crescent",
+                               "When the crescent of a Hijri month can be seen from a place");
+    auto options = std::make_shared<CrescentOptions>();
+    AddPlaceAndClockOptions(*command, options->place);
+    command->add_option("--month", options->month, "Hijri month, 1 to 12")
+        ->check(CLI::Range(1, 12))
+        ->required();
+    command->add_option("--year", options->year, "Hijri year")
+        ->check(CLI::Range(kFirstHijriYear, kLastHijriYear))
+        ->required();
+    command->callback([&session, options] { PrintCrescent(session, *options); });
+}
+
+}  // namespace horavex

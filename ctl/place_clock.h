@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "base/date.h"
+#include "ctl/command.h"
+#include "platform/zone_rules.h"
+#include "sky/horizon.h"
+
+namespace horavex {
+
+struct PlaceOptions;
+
+// The working place and its clock, as ApplyPlace has left them, for what counts in Universal Time.
+
+/// How far the clock is ahead of Greenwich at a time that it shows. day: the one whose moment it
+/// is, by which the daylight hour of the record goes.
+ZoneOffset WorkingOffset(Date local, Date day);
+
+Date UniversalOfWorking(Date local);
+Date WorkingOfUniversal(Date universal);
+
+/// "2026-06-21T23:14:05+03:00", or null for nothing.
+Json WorkingJson(const std::optional<Date>& universal);
+
+/// What the clock shows, to the nearest minute.
+Date WorkingMinuteOf(Date universal);
+
+/// The same as "23:14", or "--:--" for nothing.
+std::string WorkingTimeText(const std::optional<Date>& universal);
+
+/// The working place.
+Observer WorkingObserver();
+
+/// The options of a place and of its clock alone: AddWhereOptions, --zone and --time-zone.
+void AddPlaceAndClockOptions(CLI::App& command, PlaceOptions& options);
+
+}  // namespace horavex

@@ -1,0 +1,193 @@
+#include <cmath>
+#include <cstdio>
+#include <memory>
+
+#include "ctl/date_option.h"
+#include "ctl/place_clock.h"
+#include "ctl/place_options.h"
+#include "linux/erfa_almanac.h"
+#include "sky/phases.h"
+#include "sky/rise_set.h"
+#include "store/location_record.h"
+#include "timetables/timetable.h"
+
+namespace horavex {
+
+namespace {
+
+struct SkyOptions {
+    PlaceOptions place;
+    std::optional<std::string> at;
+};
+
+struct PhasesOptions {
+    PlaceOptions place;
+    int year = 0;
+};
+
+struct NamedTwilight {
+    const char* name;
+    double depth;  // degrees
+};
+
+constexpr NamedTwilight kTwilights[] = {{"civil", kCivilTwilight},
+                                        {"nautical", kNauticalTwilight},
+                                        {"astronomical", kAstronomicalTwilight}};
+
+constexpr const char* kPhaseKeys[] = {"newMoon", "firstQuarter", "fullMoon", "lastQuarter"};
+constexpr const char* kPhaseTitles[] = {"New Moon", "First Quarter", "Full Moon", "Last Quarter"};
+
+/// The sky of a moment and of the day around it, all in Universal Time.
+struct SkyView {
+    Date now;
+    SkySpan day;
+    DayArc sunArc, moonArc;
+    HorizonPlace sun, moon;
+    double distance;  // of the moon's centre from that of the Earth, kilometres
+    double lit;       // part of the moon
+    double ahead;     // degrees of the moon before the sun
+};
+
+Date ParseAt(const std::string& text) {
+    const Date local = ParseMomentOption(text);
+    const int year = CivilFromDate(local).year;
+    if (year < kFirstAlmanacYear || year > kLastAlmanacYear) {
+        RefuseUsage("--at: the almanac has the years " + std::to_string(kFirstAlmanacYear) +
+                    " to " + std::to_string(kLastAlmanacYear));
+    }
+    return local;
+}
+
+SkySpan DayAround(Date now) {
+    const Date midnight = std::floor(WorkingOfUniversal(now));
+    return {UniversalOfWorking(midnight), UniversalOfWorking(midnight + 1.0)};
+}
+
+SkyView ViewAt(const Almanac& almanac, Date now) {
+    const Observer here = WorkingObserver();
+    const SkySpan day = DayAround(now);
+    const CelestialPlace moon = almanac.MoonAt(now);
+    return {now,
+            day,
+            SunArc(almanac, here, day),
+            MoonArc(almanac, here, day),
+            SunOver(almanac, here, now),
+            MoonOver(almanac, here, now),
+            moon.distance,
+            LitPart(almanac.SunAt(now), moon),
+            MoonAhead(almanac, now)};
+}
+
+Json BodyJson(const DayArc& arc, const HorizonPlace& place) {
+    return {{"rise", WorkingJson(arc.rise)}, {"transit", WorkingJson(arc.transit)},
+            {"set", WorkingJson(arc.set)},   {"upAtMidnight", arc.upAtBegin},
+            {"altitude", place.altitude},    {"bearing", place.bearing}};
+}
+
+Json TwilightsJson(const Almanac& almanac, const SkySpan& day) {
+    Json json = Json::object();
+    for (const NamedTwilight& row : kTwilights) {
+        const Twilight found = TwilightOf(almanac, WorkingObserver(), day, row.depth);
+        json[row.name] = {{"dawn", WorkingJson(found.dawn)}, {"dusk", WorkingJson(found.dusk)}};
+    }
+    return json;
+}
+
+Json SkyJson(const Almanac& almanac, const SkyView& view) {
+    Json moon = BodyJson(view.moonArc, view.moon);
+    moon["distance"] = view.distance;
+    moon["litPart"] = view.lit;
+    moon["ahead"] = view.ahead;
+    return {{"city", CityText},
+            {"at", WorkingJson(view.now)},
+            {"sun", BodyJson(view.sunArc, view.sun)},
+            {"moon", moon},
+            {"twilight", TwilightsJson(almanac, view.day)}};
+}
+
+std::string BodyText(const char* name, const DayArc& arc, const HorizonPlace& place) {
+    char degrees[80];
+    std::snprintf(degrees, sizeof degrees, "   altitude %.1f, bearing %.1f degrees\n",
+                  place.altitude, place.bearing);
+    return std::string(name) + "rise " + WorkingTimeText(arc.rise) + "   transit " +
+           WorkingTimeText(arc.transit) + "   set " + WorkingTimeText(arc.set) + degrees;
+}
+
+std::string TwilightsText(const Almanac& almanac, const SkySpan& day) {
+    std::string text;
+    for (const NamedTwilight& row : kTwilights) {
+        const Twilight found = TwilightOf(almanac, WorkingObserver(), day, row.depth);
+        text += std::string("Twilight, ") + row.name + ": " + WorkingTimeText(found.dawn) +
+                " and " + WorkingTimeText(found.dusk) + "\n";
+    }
+    return text;
+}
+
+std::string SkyText(const Almanac& almanac, const SkyView& view) {
+    char moon[120];
+    std::snprintf(moon, sizeof moon,
+                  "Moon   %.0f %% lit, %.0f km away, %.0f degrees ahead of the sun\n",
+                  100.0 * view.lit, view.distance, view.ahead);
+    return CityText + "\n" + WorkingJson(view.now).get<std::string>() + "\n" +
+           BodyText("Sun    ", view.sunArc, view.sun) +
+           BodyText("Moon   ", view.moonArc, view.moon) + moon + TwilightsText(almanac, view.day);
+}
+
+void PrintSky(Session& session, const SkyOptions& options) {
+    const std::optional<Date> at = options.at ? std::optional(ParseAt(*options.at)) : std::nullopt;
+    ApplyPlace(options.place, at.value_or(Ports().clock.Today()));
+    const Date now = at ? UniversalOfWorking(*at) : Ports().clock.UniversalNow();
+    const ErfaAlmanac almanac;
+    const SkyView view = ViewAt(almanac, now);
+    session.Print(SkyJson(almanac, view), SkyText(almanac, view));
+}
+
+std::string PhaseLine(const PhaseInstant& found) {
+    char text[80];
+    std::snprintf(text, sizeof text, "%-14s", kPhaseTitles[static_cast<int>(found.phase)]);
+    return text + IsoDate(CivilFromDate(WorkingMinuteOf(found.universal))) + " " +
+           WorkingTimeText(found.universal) + "\n";
+}
+
+void PrintPhases(Session& session, const PhasesOptions& options) {
+    const Date newYear = DateSerial(options.year, 1, 1);
+    ApplyPlace(options.place, newYear);
+    Json phases = Json::array();
+    std::string text;
+    for (const PhaseInstant& found :
+         PhasesBetween(ErfaAlmanac(), UniversalOfWorking(newYear),
+                       UniversalOfWorking(DateSerial(options.year + 1, 1, 1)))) {
+        phases.push_back({{"phase", kPhaseKeys[static_cast<int>(found.phase)]},
+                          {"local", WorkingJson(found.universal)}});
+        text += PhaseLine(found);
+    }
+    session.Print({{"city", CityText}, {"year", options.year}, {"phases", phases}}, text);
+}
+
+void AddSky(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "sky", "Sun and moon as they stand over a place");
+    auto options = std::make_shared<SkyOptions>();
+    AddPlaceAndClockOptions(*command, options->place);
+    command->add_option("--at", options->at, "A moment of the place's clock in place of now");
+    command->callback([&session, options] { PrintSky(session, *options); });
+}
+
+void AddPhases(CLI::App& app, Session& session) {
+    auto* command =
+        AddCommand(app, session, "phases", "The moon's phases of a year as they are in the sky");
+    auto options = std::make_shared<PhasesOptions>();
+    AddPlaceAndClockOptions(*command, options->place);
+    command->add_option("--year", options->year, "Gregorian year")
+        ->check(CLI::Range(kFirstAlmanacYear, kLastAlmanacYear))
+        ->required();
+    command->callback([&session, options] { PrintPhases(session, *options); });
+}
+
+}  // namespace
+
+void AddSkyCommands(CLI::App& app, Session& session) {
+    AddSky(app, session);
+    AddPhases(app, session);
+}
+
+}  // namespace horavex
