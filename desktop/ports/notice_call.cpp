@@ -13,8 +13,9 @@ namespace {
 
 constexpr int kPictureSide = 64;
 
-// Urgencies of the service.
-constexpr uchar kLow = 0;
+// Urgencies of the service. Its lowest is of no use: some desktops show no banner for it, and keep
+// it in no list.
+constexpr uchar kNormal = 1;
 constexpr uchar kCritical = 2;
 
 // Milliseconds on view.
@@ -40,7 +41,7 @@ QVariant Picture() {
 
 QVariantMap Hints(NoticeKind kind, bool isQuiet) {
     QVariantMap hints = {
-        {"urgency", QVariant::fromValue(isQuiet ? kLow : kCritical)},
+        {"urgency", QVariant::fromValue(isQuiet ? kNormal : kCritical)},
         {"category", kind == NoticeKind::kMissed ? "x-horavex.missed" : "x-horavex.prayer"},
         {"desktop-entry", QGuiApplication::desktopFileName()},
         {"image-data", Picture()}};

@@ -1,5 +1,6 @@
 #include "desktop/ports/qt_notices.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "desktop/ports/notice_call.h"
@@ -17,10 +18,21 @@ constexpr uint kDismissed = 2;
 // What the toolkit takes an activation from.
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
 
+// The longest time that a service has to take a notice.
+constexpr std::chrono::seconds kPatience{3};
+
+// A close that comes so soon behind a press is the service's doing.
+constexpr std::chrono::seconds kBehindPress{1};
+
+bool IsError(const QDBusMessage& answer) {
+    return answer.type() == QDBusMessage::ErrorMessage;
+}
+
 }  // namespace
 
-QtNotices::QtNotices(const QDBusConnection& bus)
-    : service_(bus, QLatin1String(kService), QLatin1String(kPath), QLatin1String(kService),
+QtNotices::QtNotices(const QDBusConnection& bus, std::function<Time()> now)
+    : now_(std::move(now)),
+      service_(bus, QLatin1String(kService), QLatin1String(kPath), QLatin1String(kService),
                BusObject::Start::kWhenNeeded),
       owner_(QLatin1String(kService), bus),
       acted_(service_.Hear("ActionInvoked", [this](const auto& signal) { Act(signal); })),
@@ -43,13 +55,39 @@ void QtNotices::Look(const QDBusConnection& bus) {
     });
 }
 
-// A service of a new owner shows nothing of ours.
+// A service of a new owner shows nothing of ours, and has not failed yet.
 void QtNotices::Forget(const QString& owner) {
+    ++owners_;
     isRunning_ = !owner.isEmpty();
+    hasFailed_ = false;
     abilities_.reset();
     for (auto& [kind, place] : places_) {
-        place.number = 0;
+        Renew(place);
     }
+    if (HasService()) {
+        SettleAll();
+    }
+}
+
+// What goes by itself has had its time.
+void QtNotices::Renew(Place& place) const {
+    place.number = 0;
+    place.isSent = place.isSent && (!place.wanted || place.wanted->quiet);
+    if (place.waitsSince) {
+        place.waitsSince = now_();
+    }
+}
+
+bool QtNotices::HasService() {
+    hasFailed_ = hasFailed_ || IsLate();
+    return (isRunning_ || isStartable_) && !hasFailed_;
+}
+
+bool QtNotices::IsLate() const {
+    return std::ranges::any_of(places_, [this](const auto& entry) {
+        const auto& since = entry.second.waitsSince;
+        return since && now_() - *since >= kPatience;
+    });
 }
 
 void QtNotices::Show(NoticeKind kind, const Notice& notice) {
@@ -64,16 +102,28 @@ void QtNotices::Withdraw(NoticeKind kind) {
     Settle(kind);
 }
 
-/// Brings the service to what is wanted; while it owes a number, that has to wait.
+/// Brings the service to what is wanted; while it owes a number, a newer text has to wait. One that
+/// is withdrawn then is closed at once by the number it takes over, should nobody be there to hear
+/// the answer, and once more by the number that the answer tells.
 void QtNotices::Settle(NoticeKind kind) {
     Place& place = places_[kind];
+    if (!place.wanted && place.number != 0) {
+        service_.Tell("CloseNotification", {std::exchange(place.number, 0)});
+    }
     if (place.isAwaited) {
         return;
     }
-    if (!place.wanted && place.number != 0) {
-        service_.Tell("CloseNotification", {std::exchange(place.number, 0)});
-    } else if (place.wanted && !place.isSent) {
-        abilities_ ? Send(kind) : AskAbilities();
+    if (!place.wanted || place.isSent) {
+        place.waitsSince.reset();
+        return;
+    }
+    place.waitsSince = place.waitsSince.value_or(now_());
+    abilities_ ? Send(kind) : AskAbilities();
+}
+
+void QtNotices::SettleAll() {
+    for (const auto& [kind, place] : places_) {
+        Settle(kind);
     }
 }
 
@@ -81,29 +131,38 @@ void QtNotices::Send(NoticeKind kind) {
     Place& place = places_[kind];
     place.isSent = true;
     place.isAwaited = true;
-    place.isPressed = false;
-    service_.Ask(context_, "Notify",
-                 NotifyArguments(kind, *place.wanted, place.number, *abilities_),
-                 [this, kind, &place](const QDBusMessage& answer) {
-                     place.isAwaited = false;
-                     place.number = ValueOf(answer).toUInt();
-                     Settle(kind);
-                 });
+    service_.Ask(
+        context_, "Notify", NotifyArguments(kind, *place.wanted, place.number, *abilities_),
+        [this, kind, owners = owners_](const QDBusMessage& answer) { Take(kind, answer, owners); });
+}
+
+// An error that an owner of the name leaves behind says nothing of the next one.
+void QtNotices::Take(NoticeKind kind, const QDBusMessage& answer, int owners) {
+    Place& place = places_[kind];
+    place.isAwaited = false;
+    place.waitsSince.reset();
+    place.number = ValueOf(answer).toUInt();
+    hasFailed_ = hasFailed_ || (IsError(answer) && owners == owners_);
+    Settle(kind);
+}
+
+void QtNotices::AskAbilities() {
+    if (!std::exchange(areAbilitiesAsked_, true)) {
+        service_.Ask(context_, "GetCapabilities", {},
+                     [this, owners = owners_](const QDBusMessage& answer) {
+                         TakeAbilities(answer, owners);
+                     });
+    }
 }
 
 // A service that does not tell counts as one without any, and as one that cannot be started.
-void QtNotices::AskAbilities() {
-    if (std::exchange(areAbilitiesAsked_, true)) {
-        return;
-    }
-    service_.Ask(context_, "GetCapabilities", {}, [this](const QDBusMessage& answer) {
-        areAbilitiesAsked_ = false;
-        isStartable_ = isStartable_ && answer.type() != QDBusMessage::ErrorMessage;
+void QtNotices::TakeAbilities(const QDBusMessage& answer, int owners) {
+    areAbilitiesAsked_ = false;
+    if (!IsError(answer) || owners == owners_) {
+        isStartable_ = isStartable_ && !IsError(answer);
         abilities_ = ValueOf(answer).toStringList();
-        for (const auto& [kind, place] : places_) {
-            Settle(kind);
-        }
-    });
+    }
+    SettleAll();
 }
 
 void QtNotices::Act(const QDBusMessage& signal) {
@@ -113,7 +172,7 @@ void QtNotices::Act(const QDBusMessage& signal) {
     if (!kind || !onAction) {
         return;
     }
-    places_[*kind].isPressed = true;
+    places_[*kind].pressedAt = now_();
     if (key == QLatin1String(kStopKey)) {
         Withdraw(*kind);  // a service may leave what stands, buttons pressed or not
         onAction(*kind, NoticeAction::kStop);
@@ -128,8 +187,7 @@ void QtNotices::Open(NoticeKind kind, const QString& token) const {
     qunsetenv(kTokenVariable);
 }
 
-// Some services put a notice away behind a press of its buttons, which is not the user's doing; nor
-// has the user seen the text that is on its way.
+// Nobody has put away the text that is on its way.
 void QtNotices::Close(const QDBusMessage& signal) {
     const std::optional<NoticeKind> kind = KindOf(signal);
     if (!kind) {
@@ -137,9 +195,31 @@ void QtNotices::Close(const QDBusMessage& signal) {
     }
     Place& place = places_[*kind];
     place.number = 0;
+    const bool isBehindPress = IsBehindPress(place);
     const bool isUsers = signal.arguments().value(1).toUInt() == kDismissed;
-    if (isUsers && !place.isPressed && !place.isAwaited && onAction) {
+    if (place.isAwaited) {
+        return;
+    }
+    if (isBehindPress) {
+        ShowAgain(*kind);
+    } else if (isUsers && onAction) {
         onAction(*kind, NoticeAction::kDismiss);
+    }
+}
+
+/// Whether a close comes right behind a press, which counts for one close.
+bool QtNotices::IsBehindPress(Place& place) const {
+    const std::optional<Time> pressed = std::exchange(place.pressedAt, std::nullopt);
+    return pressed && now_() - *pressed < kBehindPress;
+}
+
+// Some services put a notice away behind any press of its buttons. One that is to stand comes
+// again: nothing else on view might stop its athan.
+void QtNotices::ShowAgain(NoticeKind kind) {
+    Place& place = places_[kind];
+    if (place.wanted && !place.wanted->quiet) {
+        place.isSent = false;
+        Settle(kind);
     }
 }
 

@@ -42,7 +42,9 @@ public:
         if (method == QLatin1String("Notify")) {
             notifies.push_back(message);
             shown.push_back(ToShow(message.arguments()));
-            if (!isSlow) {
+            if (refuses) {
+                bus.send(message.createErrorReply(QDBusError::LimitsExceeded, method));
+            } else if (!isSlow) {
                 AnswerNotify();
             }
         } else if (method == QLatin1String("CloseNotification")) {
@@ -99,6 +101,7 @@ public:
     int looks = 0;                  // at the property
     uint number = 0;                // that was told last
     bool isSlow = false;            // a test tells the numbers
+    bool refuses = false;           // shows nothing
 
 private:
     static ShownNotice ToShow(const QVariantList& arguments) {

@@ -4,10 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QDBusArgument>
-#include <optional>
 
-#include "desktop/notification_service.h"
-#include "desktop/private_bus.h"
+#include "desktop/notices_fixture.h"
 
 namespace horavex {
 namespace {
@@ -15,70 +13,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
-
-const Notice kAthan = {"Asr", "It is 3:12 PM", false, "Stop", "Open"};
-const Notice kReminder = {"Asr", "in 10 minutes", true, "", "Open"};
-
-class QtNoticesTest : public PrivateBus {
-protected:
-    QtNoticesTest() { StartService(); }
-
-    void StartService() { service.emplace(Connect("service")); }
-
-    void MakeNotices() {
-        notices.emplace(Connect("client"));
-        notices->onAction = [this](NoticeKind kind, NoticeAction action) {
-            actions.emplace_back(kind, action);
-            token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN").toStdString();
-        };
-    }
-
-    /// Shows it, and waits until the service knows it and its number is known.
-    void Show(const Notice& notice, NoticeKind kind = NoticeKind::kPrayer) {
-        const std::size_t before = service->shown.size();
-        notices->Show(kind, notice);
-        ASSERT_TRUE(Until([&] { return service->shown.size() > before; }));
-        Settle();
-    }
-
-    void Signal(const char* name, const QVariantList& arguments) {
-        service->Signal(name, arguments);
-        Settle();
-    }
-
-    std::optional<NotificationService> service;
-    std::optional<QtNotices> notices;
-    std::vector<std::pair<NoticeKind, NoticeAction>> actions;
-    std::string token;  // at the last action
-};
-
-TEST_F(QtNoticesTest, ServiceIsThereAsLongAsItsNameIsOwned) {
-    MakeNotices();
-    EXPECT_TRUE(Until([&] { return notices->HasService(); }));
-    service.reset();
-    EXPECT_TRUE(Until([&] { return !notices->HasService(); }));
-    StartService();
-    EXPECT_TRUE(Until([&] { return notices->HasService(); }));
-}
-
-TEST_F(QtNoticesTest, ServiceThatCanBeStartedCountsAsThereUntilItsStartFails) {
-    service.reset();
-    AddStartable("org.freedesktop.Notifications", "/bin/false");
-    MakeNotices();
-    ASSERT_TRUE(Until([&] { return notices->HasService(); }));
-    notices->Show(NoticeKind::kPrayer, kAthan);
-    EXPECT_TRUE(Until([&] { return !notices->HasService(); }));
-    StartService();
-    EXPECT_TRUE(Until([&] { return notices->HasService(); }));
-}
-
-TEST_F(QtNoticesTest, WithoutABusThereIsNoneAndNothingShows) {
-    QtNotices alone{QDBusConnection(QStringLiteral("none"))};
-    alone.Show(NoticeKind::kPrayer, kAthan);
-    QCoreApplication::processEvents();
-    alone.Withdraw(NoticeKind::kPrayer);
-    EXPECT_FALSE(alone.HasService());
-}
+using testing::SizeIs;
+using namespace std::chrono_literals;
 
 TEST_F(QtNoticesTest, AthanStandsUntilItIsWithdrawn) {
     MakeNotices();
@@ -96,12 +32,12 @@ TEST_F(QtNoticesTest, AthanStandsUntilItIsWithdrawn) {
     EXPECT_TRUE(Until([&] { return service->closed == std::vector<uint>{service->number}; }));
 }
 
-TEST_F(QtNoticesTest, QuietOneGoesByItselfAndMakesNoSound) {
+TEST_F(QtNoticesTest, QuietOneGoesByItselfAndMakesNoSoundButIsSeenOnEveryDesktop) {
     MakeNotices();
     Show(kReminder);
     const ShownNotice& shown = service->shown.back();
     EXPECT_EQ(shown.milliseconds, -1);
-    EXPECT_EQ(shown.hints["urgency"], QVariant::fromValue(uchar{0}));
+    EXPECT_EQ(shown.hints["urgency"], QVariant::fromValue(uchar{1}));
     EXPECT_EQ(shown.hints["suppress-sound"], QVariant(true));
     EXPECT_FALSE(shown.hints.contains("resident"));
     EXPECT_EQ(shown.actions, QStringList({"default", "Open", "open", "Open"}));
@@ -235,6 +171,41 @@ TEST_F(QtNoticesTest, OneThatGoesByItselfOrBehindAPressOfItsButtonIsNotPutAwayBy
     EXPECT_EQ(actions.back().second, NoticeAction::kDismiss);
 }
 
+TEST_F(QtNoticesTest, OneThatIsPutAwayAWhileBehindAPressOfItsButtonTellsSo) {
+    MakeNotices();
+    Show(kAthan);
+    Signal("ActionInvoked", {service->number, "open"});
+    now += 1s;
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_EQ(actions.back().second, NoticeAction::kDismiss);
+    EXPECT_THAT(service->shown, SizeIs(1));
+}
+
+TEST_F(QtNoticesTest, AthanThatTheServicePutsAwayAtAPressOfOpenIsShownAgain) {
+    MakeNotices();
+    Show(kAthan);
+    const uint first = service->number;
+    Signal("ActionInvoked", {first, "open"});
+    Signal("NotificationClosed", {first, 2U});
+    ASSERT_THAT(service->shown, SizeIs(2));
+    EXPECT_EQ(service->shown.back().title, kAthan.title);
+    EXPECT_EQ(service->shown.back().replaced, 0U);
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_THAT(service->shown, SizeIs(2));
+    EXPECT_EQ(actions.back().second, NoticeAction::kDismiss);
+}
+
+TEST_F(QtNoticesTest, NeitherAStoppedAthanNorAQuietNoticeIsShownAgainBehindAPress) {
+    MakeNotices();
+    Show(kAthan);
+    Signal("ActionInvoked", {service->number, "stop"});
+    Signal("NotificationClosed", {service->number, 2U});
+    Show(kReminder);
+    Signal("ActionInvoked", {service->number, "open"});
+    Signal("NotificationClosed", {service->number, 2U});
+    EXPECT_THAT(service->shown, SizeIs(2));
+}
+
 TEST_F(QtNoticesTest, PuttingAwayAReminderIsNoWordOnTheAthanThatIsOnItsWay) {
     MakeNotices();
     Show(kReminder);
@@ -253,45 +224,14 @@ TEST_F(QtNoticesTest, WindowsThatAnActionOpensMayComeToTheFront) {
     EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
-TEST_F(QtNoticesTest, ServiceThatStartsAnewIsAskedAfreshAndKnowsNoNumbers) {
+TEST_F(QtNoticesTest, WithdrawnOneWhoseReplacementIsOnItsWayIsClosedWithoutWaitingForTheAnswer) {
     MakeNotices();
     Show(kAthan);
-    service.reset();
-    ASSERT_TRUE(Until([&] { return !notices->HasService(); }));
-    StartService();
-    service->abilities = QStringList{"body"};
-    ASSERT_TRUE(Until([&] { return notices->HasService(); }));
-    Show(kReminder);
-    EXPECT_EQ(service->questions, 1);
-    EXPECT_EQ(service->shown.back().replaced, 0U);
-    EXPECT_THAT(service->shown.back().actions, IsEmpty());
-}
-
-TEST_F(QtNoticesTest, AbilitiesAreAskedOnceForAllThatWaits) {
-    MakeNotices();
-    notices->Show(NoticeKind::kPrayer, kReminder);
-    notices->Show(NoticeKind::kPrayer, kAthan);
-    notices->Show(NoticeKind::kMissed, kReminder);
-    ASSERT_TRUE(Until([&] { return service->shown.size() == 2; }));
-    EXPECT_EQ(service->shown[0].text, kAthan.text);
-    EXPECT_EQ(service->questions, 1);
-}
-
-TEST_F(QtNoticesTest, ServiceThatHangsHoldsNobodyUpAndGetsOnlyWhatIsStillWanted) {
-    service->isMute = true;
-    MakeNotices();
-    notices->Show(NoticeKind::kMissed, kReminder);
-    notices->Show(NoticeKind::kPrayer, kReminder);
+    service->isSlow = true;
+    Show(kAthan);
+    notices->Withdraw(NoticeKind::kPrayer);
     Settle();
-    EXPECT_TRUE(notices->HasService());
-    notices->Withdraw(NoticeKind::kMissed);
-    notices->Show(NoticeKind::kPrayer, kAthan);
-    Settle();
-    service->AnswerAbilities();
-    Settle();
-    ASSERT_EQ(service->shown.size(), 1U);
-    EXPECT_EQ(service->shown[0].text, kAthan.text);
-    EXPECT_THAT(service->closed, IsEmpty());
+    EXPECT_THAT(service->closed, ElementsAre(service->number));
 }
 
 TEST_F(QtNoticesTest, MarksAreSetOffWhereTheServiceReadsThem) {
