@@ -136,8 +136,10 @@ TEST_F(TroubleWithSound, MutingAndItsEndAreHeardOfInMidPlay) {
 // Mixers remember of a program that it was muted.
 TEST_F(TroubleWithSound, ProgramThatTheMixerMutesIsTold) {
     server.Use({"pactl", "load-module", "module-stream-restore"});
-    OpenFileForPlay(Sound(3.0));
-    RunFor(0.5);
+    OpenFileForPlay(Sound(20.0));
+    events.RunWhile([&] {
+        return IsPlaying() && server.Use({"pactl", "list", "short", "sink-inputs"}).empty();
+    });
     server.Use({"pactl", "set-sink-input-mute", "0", "1"});
     StopPlay();
     PlayToTheEnd(Sound(0.5));
