@@ -111,8 +111,10 @@ void BringAthanUp(Alert alert) {
 /// Only an athan of sound that has been accepted is heard; a buzzer is as silent as mute.
 void PlayAthan(Alert alert) {
     if (ActiveSettings.AthanType == kSoundAthan && Settings.AthanType == kSoundAthan) {
-        PauseOtherPlayers();
         PlayPrayerSound(alert);
+        if (IsPlaying()) {
+            PauseOtherPlayers();
+        }
     }
 }
 

@@ -56,8 +56,15 @@ std::string ItIsTimeFor(Prayer prayer) {
     return GetLangString("Azan", std::to_string(static_cast<int>(prayer)), "");
 }
 
-Notice PrayerNotice(Prayer prayer, Date at) {
+/// Quiet, with the button that every notice has.
+Notice PlainNotice() {
     Notice notice;
+    notice.openCaption = Word("Open", "Open Horavex");
+    return notice;
+}
+
+Notice PrayerNotice(Prayer prayer, Date at) {
+    Notice notice = PlainNotice();
     notice.title = PrayerAt(prayer, at);
     notice.text = ItIsTimeFor(prayer);
     return notice;
@@ -96,7 +103,6 @@ void ShowAthanNotice(Prayer prayer, Date at, bool alone) {
     Notice notice = PrayerNotice(prayer, at);
     notice.quiet = false;
     notice.stopCaption = Word("Stop", "Stop");
-    notice.openCaption = Word("Open", "Open Horavex");
     Ports().notices.Withdraw(NoticeKind::kPrayer);  // its reminder, or what else stands there
     Ports().notices.Show(NoticeKind::kAthan, notice);
     athanNotice = {true, alone, prayer, at};
@@ -127,7 +133,7 @@ void ShowSilentPrayer(Prayer prayer, Date at) {
 }
 
 void ShowReminder(Prayer prayer, Date at, int minutes) {
-    Notice notice;
+    Notice notice = PlainNotice();
     notice.title = PrayerAt(prayer, at);
     notice.text =
         FilledText(Word("InMinutes", "in {minutes} min"), "{minutes}", std::to_string(minutes));
@@ -135,14 +141,14 @@ void ShowReminder(Prayer prayer, Date at, int minutes) {
 }
 
 void ShowIqama(Prayer prayer, Date at) {
-    Notice notice;
+    Notice notice = PlainNotice();
     notice.title = WithPrayer(Word("Iqama", "Iqama of {prayer}"), prayer);
     notice.text = ClockOf(at);
     Ports().notices.Show(NoticeKind::kPrayer, notice);
 }
 
 void ShowMissedPrayers(const std::vector<DatedMoment>& prayers) {
-    Notice notice;
+    Notice notice = PlainNotice();
     for (const auto& [prayer, at, moment] : prayers) {
         notice.title += (notice.title.empty() ? "" : " \u00b7 ") + PrayerAt(prayer, at);
     }

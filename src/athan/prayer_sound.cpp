@@ -47,9 +47,13 @@ void PlayPrayerSound(Alert alert) {
         return;
     }
     UseChosenDevice();
-    PlayFileAt(
-        PathOfSound(choices, alert == Alert::kFajr),
-        LoudnessOf(choices, ReadOption(option::kAthanVolume), ReadOption(option::kAthanFade)));
+    const bool isFajr = alert == Alert::kFajr;
+    const Loudness loudness =
+        LoudnessOf(choices, ReadOption(option::kAthanVolume), ReadOption(option::kAthanFade));
+    PlayFileAt(PathOfSound(choices, isFajr), loudness);
+    if (!IsPlaying() && choices.sound != AthanSound::kProgram) {
+        PlayFileAt(ProgramAthanPath(isFajr), loudness);
+    }
     if (choices.sound == AthanSound::kTone) {
         shortAthan = PlayNumber();
     }

@@ -7,7 +7,8 @@
 namespace horavex {
 
 /// Plays what the user has chosen for a prayer, as loud as chosen, on the chosen device. A file of
-/// the user's that is gone gives way to the program's own sound. "Athan Now" has that one too.
+/// the user's that is gone or cannot be played gives way to the program's own sound. "Athan Now"
+/// has that one too.
 void PlayPrayerSound(Alert alert);
 
 /// The sound that plays is too short to take the athan along with its end.

@@ -104,8 +104,8 @@ std::string SoundName(AthanSound sound) {
     return Word("NoSound", "No sound");
 }
 
-/// The rows of a prayer's list. Behind the built-in sounds stand the file of the user's, if there
-/// is one, and the row that asks for another.
+/// The rows of a prayer's list. Behind the built-in sounds stands the file of the user's, if there
+/// is one. The row that asks for another is the last: arrow keys pass over it on their way nowhere.
 std::vector<std::optional<AthanSound>> SoundRows(std::size_t prayer) {
     std::vector<std::optional<AthanSound>> rows = {
         AthanSound::kProgram, AthanSound::kAthan1,     AthanSound::kAthan2,
@@ -113,7 +113,7 @@ std::vector<std::optional<AthanSound>> SoundRows(std::size_t prayer) {
     if (!ownFiles[prayer].empty()) {
         rows.emplace_back(AthanSound::kFile);
     }
-    rows.insert(rows.end(), {std::nullopt, AthanSound::kTone, AthanSound::kNone});
+    rows.insert(rows.end(), {AthanSound::kTone, AthanSound::kNone, std::nullopt});
     return rows;
 }
 

@@ -3,6 +3,7 @@
 #include "athan/athan_choices.h"
 #include "athan/bare_samples.h"
 #include "athan/reminders_display.h"
+#include "athan/sound_tools.h"
 #include "athan/sound_trial.h"
 #include "base/program_state.h"
 #include "forms/edited_values.h"
@@ -16,13 +17,15 @@ namespace horavex {
 
 namespace {
 
-AthanChoices edited;  // what the window shows
+AthanChoices edited;       // what the window shows
+bool hoursWereOn = false;  // the quiet ones, as it came up
 EditedValues values([] { ShowChoices(edited); });
 
 constexpr int kAllSounds = 1;  // the type of files that the dialogue begins with
 
 const ProgramStateReset reset([] {
     edited = {};
+    hoursWereOn = false;
     values.Reset();
 });
 
@@ -34,7 +37,12 @@ Prayer PrayerOf(const Control& control) {
 void ChooseFile(Prayer prayer) {
     const std::string path =
         Ports().dialogs.OpenFile({ChooseSoundTitle(), SoundFilter(), kAllSounds});
-    if (!path.empty() && !RefusesBareSamples(path)) {
+    if (path.empty() || RefusesBareSamples(path)) {
+        return;
+    }
+    if (KindOfSound(path) == SoundKind::kUnknown) {
+        ShowTrouble(CannotBePlayed());
+    } else {
         ListFile(prayer, path);
         edited.prayers[prayer].sound = AthanSound::kFile;
         edited.prayers[prayer].file = path;
@@ -106,11 +114,17 @@ void BindQuietHours(RemindersForm& form) {
 void frmReminders_Load() {
     TranslateOnLoad(*frmReminders);
     edited = ReadAthanChoices();
+    hoursWereOn = edited.quietHours.on;
     FillReminderLists(edited);
     values.Show();
 }
 
+/// The icon's menu switches the quiet hours, too: that stays unless the window has been told
+/// otherwise.
 void cmdOK_Click() {
+    if (edited.quietHours.on == hoursWereOn) {
+        edited.quietHours.on = ReadQuietHours().on;
+    }
     SaveAthanChoices(edited);
     frmReminders->Unload();
 }

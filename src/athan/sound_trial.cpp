@@ -1,5 +1,6 @@
 #include "athan/sound_trial.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -13,6 +14,8 @@
 namespace horavex {
 
 namespace {
+
+constexpr int kTestVolume = 50;  // percent at least: a test that nobody can hear tells nothing
 
 /// What was tried last.
 struct Trial {
@@ -64,7 +67,8 @@ void ListenTo(Prayer prayer, const AthanChoices& choices) {
 }
 
 void TestTone(const AthanChoices& choices) {
-    Try(std::nullopt, FullPath(kShortTone), {.percent = choices.volume}, choices.device);
+    Try(std::nullopt, FullPath(kShortTone), {.percent = std::max(choices.volume, kTestVolume)},
+        choices.device);
 }
 
 void WatchTrial() {

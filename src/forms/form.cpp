@@ -130,6 +130,10 @@ void Form::Show(Form* owner) {
 }
 
 void Form::ShowModal(Form* owner) {
+    if (Visible() && modal_) {
+        Present(owner_, true);  // it runs already, and ends once
+        return;
+    }
     Present(owner, true);
     if (host != nullptr && Visible()) {
         host->RunModal(*this);

@@ -64,7 +64,8 @@ public:
     /// Loads the form if need be, shows it and makes it active.
     void Show(Form* owner = nullptr);
 
-    /// The same, and returns when the form is hidden again.
+    /// The same, and returns when the form is hidden again. One that is shown so already comes to
+    /// the front, and the call returns at once.
     void ShowModal(Form* owner = nullptr);
     void Hide();
     void SetVisible(bool visible) override;

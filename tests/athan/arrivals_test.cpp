@@ -200,5 +200,14 @@ TEST_F(ArrivalsTest, OfTwoPrayersInTheSameSecondsTheLaterIsToldWhereEachIsCalled
     EXPECT_EQ(LastNotice().text, "It is time for the Isha prayer");
 }
 
+TEST_F(ArrivalsTest, FileThatCannotBePlayedGivesWayToTheProgramsOwn) {
+    platform.files.WriteWhole("/music/call.m4a", Bytes(1));
+    SaveOption(option::kAthanSounds[kAsr], AthanSound::kFile);
+    SaveOption(option::kAthanFiles[kAsr], "/music/call.m4a");
+    PlayPrayerSound(Alert::kAsr);
+    EXPECT_TRUE(IsPlaying());
+    EXPECT_EQ(platform.audioFile.opened.back(), SoundPath("athan"));
+}
+
 }  // namespace
 }  // namespace horavex

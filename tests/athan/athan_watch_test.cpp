@@ -92,7 +92,7 @@ TEST_F(AthanWatchTest, ForASilentAthanNobodyPauses) {
     SaveOption(option::kAthanSounds[kMaghrib], AthanSound::kNone);
     PressStop();
     RunThrough(kMaghrib);
-    EXPECT_EQ(platform.mediaPlayers.pauses, platform.mediaPlayers.goingsOn);
+    EXPECT_EQ(platform.mediaPlayers.pauses, 0);
 }
 
 TEST_F(AthanWatchTest, WhereNoDeviceIsTheyGoOnAtOnce) {

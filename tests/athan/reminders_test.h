@@ -14,9 +14,11 @@ struct RemindersTest : ProgramTest {
     static constexpr const char* kOwn = "/music/cairo.ogg";
 
     // Rows of a list of sounds without a file of the user's.
-    static constexpr int kOwnFileRow = 6;  // asks for one
-    static constexpr int kToneRow = 7;
-    static constexpr int kNoSoundRow = 8;
+    static constexpr int kToneRow = 6;
+    static constexpr int kNoSoundRow = 7;
+
+    // The file of the user's, in a list that has one.
+    static constexpr int kOwnFileRow = 6;
 
     RemindersTest() {
         for (const char* name : {"athan.mp3", "fagr_athan.mp3", "athan1.mp3", "athan2.mp3",

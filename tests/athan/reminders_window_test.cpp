@@ -277,6 +277,36 @@ TEST_F(RemindersTest, BareSamplesAreRefusedWithAMessage) {
     InstallSoundTools({});
 }
 
+TEST_F(RemindersTest, FileThatIsNoSoundIsRefused) {
+    InstallSoundTools({.kindOf = [](const std::string&) { return SoundKind::kUnknown; }});
+    Open();
+    ChooseOwn(kFajr, "/music/film.m4a");
+    EXPECT_EQ(form.cboSound(kFajr).Text(), "As in \"Athan Settings\"");
+    EXPECT_EQ(Said(), "No sound: this file cannot be played");
+    InstallSoundTools({});
+}
+
+TEST_F(RemindersTest, RowThatAsksForAFileIsTheLast) {
+    Open();
+    EXPECT_EQ(form.cboSound(kFajr).Items().back(), "Own file\u2026");
+    ChooseOwn(kFajr, kOwn);
+    EXPECT_EQ(form.cboSound(kFajr).Items().back(), "Own file\u2026");
+}
+
+TEST_F(RemindersTest, QuietHoursThatTheIconsMenuHasSwitchedMeanwhileStay) {
+    Open();
+    frmMain->mnuPopQuietHours.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(ReadOption(option::kQuietHours), 1);
+    Open();
+    frmMain->mnuPopQuietHours.UserClick();
+    form.chkQuiet.UserClick();
+    form.chkQuiet.UserClick();
+    form.chkQuiet.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(ReadOption(option::kQuietHours), 0) << "the window's own word counts";
+}
+
 TEST_F(RemindersTest, StoredFileSoundWithoutAFileSelectsNothing) {
     SaveOption(option::kAthanSounds[kFajr], AthanSound::kFile);
     Open();

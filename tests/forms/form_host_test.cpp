@@ -75,6 +75,20 @@ TEST_F(FormHostTest, ModalShowReturnsWhenTheUserClosed) {
     EXPECT_FALSE(form.IsModal());
 }
 
+TEST_F(FormHostTest, ModalFormThatIsShownOnceMoreComesToTheFrontAndRunsOnce) {
+    SampleForm owner;
+    host.user = [&] {
+        form.ShowModal();
+        EXPECT_EQ(form.Owner(), &owner);
+        form.UserClose();
+    };
+
+    form.ShowModal(&owner);
+
+    EXPECT_THAT(host.log, ElementsAre("loaded", "form", "brought up", "modal begins", "brought up",
+                                      "form", "unloaded", "modal ends"));
+}
+
 TEST_F(FormHostTest, ModalFormThatUnloadsWhenActivatedIsNotRun) {
     form.onActivate = [this] { form.Unload(); };
 

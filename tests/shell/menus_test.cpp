@@ -147,6 +147,7 @@ TEST_F(MenusTest, VisitTellsTheProbesTextOffline) {
 
 TEST_F(MenusTest, PrayerTimesEntryAndTheFacesCommandOpenTheDayBrowserModally) {
     frmMain->mnuPrayerTimes.UserClick();
+    frmTimes->Hide();
     platform.face.onFSCommand("IDC_FS_allTimes", "");
     EXPECT_THAT(platform.desktop.calls,
                 ElementsAre("load frmTimes", "show frmTimes", "modal frmTimes", "show frmTimes",
