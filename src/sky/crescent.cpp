@@ -35,8 +35,8 @@ CrescentArcs ArcsOf(const HorizonPlace& sun, const HorizonPlace& moon, double se
 
 /// The moonset that ends the evening, or the last one before the sunset.
 std::optional<Date> MoonsetAround(const Almanac& almanac, const Observer& observer, Date sunset) {
-    const DayArc after = MoonArc(almanac, observer, {sunset, sunset + 1.0});
-    return after.upAtBegin ? after.set : MoonArc(almanac, observer, {sunset - 1.0, sunset}).set;
+    const Date from = IsMoonUp(almanac, observer, sunset) ? sunset : sunset - 1.0;
+    return FirstMoonset(almanac, observer, {from, from + 1.0});
 }
 
 Date BestTime(Date sunset, const std::optional<Date>& moonset) {
@@ -51,25 +51,27 @@ std::optional<double> CrescentEvening::Lag() const {
 
 std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Observer& observer,
                                              Date noon, Date newMoon) {
-    const std::optional<Date> sunset = SunArc(almanac, observer, {noon, noon + 1.0}).set;
-    if (!sunset) {
-        return std::nullopt;
-    }
-    const std::optional<Date> moonset = MoonsetAround(almanac, observer, *sunset);
-    const Date best = BestTime(*sunset, moonset);
+    const auto sunset = FirstSunset(almanac, observer, {noon, noon + 1.0});
+    return sunset ? std::optional(CrescentAt(almanac, observer, *sunset, newMoon)) : std::nullopt;
+}
+
+CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Date sunset,
+                           Date newMoon) {
+    const std::optional<Date> moonset = MoonsetAround(almanac, observer, sunset);
+    const Date best = BestTime(sunset, moonset);
     const HorizonPlace moon = MoonOver(almanac, observer, best);
     const CrescentArcs seen = ArcsOf(SunOver(almanac, observer, best), moon, moon.semidiameter);
     const CrescentArcs central = ArcsOf(SunFromCentre(almanac, observer, best),
                                         MoonFromCentre(almanac, observer, best), moon.semidiameter);
-    return CrescentEvening{*sunset,
-                           moonset,
-                           best,
-                           (best - newMoon) * kHours,
-                           moon.altitude,
-                           central,
-                           seen,
-                           YallopVerdict(central.vision, central.width),
-                           OdehVerdict(seen.vision, seen.width)};
+    return {sunset,
+            moonset,
+            best,
+            (best - newMoon) * kHours,
+            moon.altitude,
+            central,
+            seen,
+            YallopVerdict(central.vision, central.width),
+            OdehVerdict(seen.vision, seen.width)};
 }
 
 }  // namespace horavex

@@ -37,4 +37,8 @@ struct CrescentEvening {
 std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Observer& observer,
                                              Date noon, Date newMoon);
 
+/// The evening of a sunset that is known.
+CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Date sunset,
+                           Date newMoon);
+
 }  // namespace horavex

@@ -31,20 +31,41 @@ Crossing Refined(const SkyQuantity& quantity, Sample before, Sample after) {
     return {after.instant, after.IsAbove()};
 }
 
-}  // namespace
-
-std::vector<Crossing> CrossingsOf(const SkyQuantity& quantity, Date from, Date end, double step) {
-    std::vector<Crossing> crossings;
+/// Hands over the passages in their order until one of them is what was looked for.
+template <class Found>
+void WalkCrossings(const SkyQuantity& quantity, Date from, Date end, double step, Found isLast) {
     Sample before{from, quantity(from)};
     while (before.instant < end) {
         const Date next = std::min(before.instant + step, end);
         const Sample after{next, quantity(next)};
-        if (PassesZero(before, after)) {
-            crossings.push_back(Refined(quantity, before, after));
+        if (PassesZero(before, after) && isLast(before, after)) {
+            return;
         }
         before = after;
     }
+}
+
+}  // namespace
+
+std::vector<Crossing> CrossingsOf(const SkyQuantity& quantity, Date from, Date end, double step) {
+    std::vector<Crossing> crossings;
+    WalkCrossings(quantity, from, end, step, [&](const Sample& before, const Sample& after) {
+        crossings.push_back(Refined(quantity, before, after));
+        return false;
+    });
     return crossings;
+}
+
+std::optional<Date> FirstCrossing(const SkyQuantity& quantity, Date from, Date end, double step,
+                                  bool rising) {
+    std::optional<Date> first;
+    WalkCrossings(quantity, from, end, step, [&](const Sample& before, const Sample& after) {
+        if (after.IsAbove() == rising) {
+            first = Refined(quantity, before, after).instant;
+        }
+        return first.has_value();
+    });
+    return first;
 }
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "base/date.h"
@@ -20,5 +21,9 @@ struct Crossing {
 /// a second. The quantity is looked at in steps of so many days: two passages within one are not
 /// seen. An angle that turns over from 180 to -180 degrees passes through no zero.
 std::vector<Crossing> CrossingsOf(const SkyQuantity& quantity, Date from, Date end, double step);
+
+/// The first of these passages that goes the asked way; looks no further than it has to.
+std::optional<Date> FirstCrossing(const SkyQuantity& quantity, Date from, Date end, double step,
+                                  bool rising);
 
 }  // namespace horavex

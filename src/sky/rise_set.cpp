@@ -22,11 +22,23 @@ std::optional<Date> First(const std::vector<Crossing>& crossings, bool rising) {
     return std::nullopt;
 }
 
+/// Degrees of the upper limb over the horizon as refraction shows it.
+double UpperLimb(const HorizonPlace& place) {
+    return place.altitude + place.semidiameter + kRefraction;
+}
+
+std::optional<Date> FirstSet(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+                             OverHorizon over) {
+    const SkyQuantity upperLimb = [&](Date universal) {
+        return UpperLimb(over(almanac, observer, universal));
+    };
+    return FirstCrossing(upperLimb, span.from, span.end, kStep, false);
+}
+
 DayArc ArcOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
              OverHorizon over, PlaceAt placeAt) {
     const SkyQuantity upperLimb = [&](Date universal) {
-        const HorizonPlace place = over(almanac, observer, universal);
-        return place.altitude + place.semidiameter + kRefraction;
+        return UpperLimb(over(almanac, observer, universal));
     };
     const SkyQuantity pastMeridian = [&](Date universal) {
         return HourAngle(almanac, observer, (almanac.*placeAt)(universal), universal);
@@ -38,6 +50,20 @@ DayArc ArcOf(const Almanac& almanac, const Observer& observer, const SkySpan& sp
 }
 
 }  // namespace
+
+std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer,
+                                const SkySpan& span) {
+    return FirstSet(almanac, observer, span, SunOver);
+}
+
+std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
+                                 const SkySpan& span) {
+    return FirstSet(almanac, observer, span, MoonOver);
+}
+
+bool IsMoonUp(const Almanac& almanac, const Observer& observer, Date universal) {
+    return UpperLimb(MoonOver(almanac, observer, universal)) >= 0.0;
+}
 
 DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
     return ArcOf(almanac, observer, span, SunOver, &Almanac::SunAt);

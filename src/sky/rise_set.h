@@ -35,6 +35,15 @@ inline constexpr double kAstronomicalTwilight = 18.0;
 // The arcs are searched in steps of ten minutes: in the far north and south a body that shows for
 // less is passed over. The first of each kind counts.
 
+/// The first set of the sun or moon in a span; nothing where it does not set.
+std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer,
+                                const SkySpan& span);
+std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
+                                 const SkySpan& span);
+
+/// Whether any of the moon is over the horizon.
+bool IsMoonUp(const Almanac& almanac, const Observer& observer, Date universal);
+
 DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
 DayArc MoonArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
 Twilight TwilightOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,

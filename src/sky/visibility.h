@@ -5,6 +5,8 @@ namespace horavex {
 // Whether a young crescent can be seen, by two published criteria. Each weighs how high the moon
 // stands over the sun against how wide its crescent is, at the best time to look.
 
+enum class Criterion { kYallop, kOdeh };
+
 /// A criterion's number, and the letter of the class that it falls in: A is seen easily.
 struct Verdict {
     double value;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "sky/horizon.h"
 
 namespace horavex {
@@ -31,6 +33,22 @@ TEST(CrossingsOf, TellsAPassageOnTheSeamOfTwoSpansOnce) {
     const auto found =
         CrossingsOf(Parabola, 0.0, 1.0, 0.3).size() + CrossingsOf(Parabola, 1.0, 2.0, 0.3).size();
     EXPECT_EQ(found, 1U);
+}
+
+TEST(FirstCrossing, IsTheFirstThatGoesTheAskedWay) {
+    EXPECT_NEAR(FirstCrossing(Parabola, 0.0, 4.0, 0.3, false).value(), 1.0, kTenthOfASecond);
+    EXPECT_NEAR(FirstCrossing(Parabola, 0.0, 4.0, 0.3, true).value(), 3.0, kTenthOfASecond);
+    EXPECT_FALSE(FirstCrossing(Parabola, 0.0, 2.9, 0.3, true));
+}
+
+TEST(FirstCrossing, LooksNoFurtherThanItHasTo) {
+    double furthest = 0.0;
+    const SkyQuantity quantity = [&](Date instant) {
+        furthest = std::max(furthest, instant);
+        return Parabola(instant);
+    };
+    FirstCrossing(quantity, 0.0, 4.0, 0.3, false);
+    EXPECT_LT(furthest, 1.3);
 }
 
 TEST(CrossingsOf, PassesOverTheTurnOfAnAngle) {

@@ -77,6 +77,21 @@ TEST(SunArc, IsTwelveHoursAndTheRefractionLongOverAnEvenEquator) {
     EXPECT_NEAR(arc.set.value_or(0), 0.75 + early, 2e-6);
 }
 
+TEST(FirstSet, IsThatOfTheArc) {
+    const ErfaAlmanac almanac;
+    const SkySpan day = DayOf(2026, 2, 18);
+    EXPECT_EQ(FirstSunset(almanac, kMecca, day), SunArc(almanac, kMecca, day).set);
+    EXPECT_EQ(FirstMoonset(almanac, kMecca, day), MoonArc(almanac, kMecca, day).set);
+    EXPECT_FALSE(FirstSunset(almanac, {69.65, 18.96}, DayOf(2026, 6, 21)));
+}
+
+TEST(IsMoonUp, ChangesAsItsUpperLimbSets) {
+    const ErfaAlmanac almanac;
+    const Date set = FirstMoonset(almanac, kMecca, DayOf(2026, 2, 18)).value();
+    EXPECT_TRUE(IsMoonUp(almanac, kMecca, set - 1.0 / kSecondsPerDay));
+    EXPECT_FALSE(IsMoonUp(almanac, kMecca, set + 1.0 / kSecondsPerDay));
+}
+
 TEST(Twilight, BeginsAndEndsAtItsDepth) {
     const ErfaAlmanac almanac;
     const SkySpan day = DayOf(2026, 2, 18);
