@@ -5,7 +5,7 @@
 
 #include "base/date.h"
 #include "ctl/command.h"
-#include "platform/zone_rules.h"
+#include "engine/zone_clock.h"
 #include "sky/horizon.h"
 
 namespace horavex {
@@ -13,6 +13,8 @@ namespace horavex {
 struct PlaceOptions;
 
 // The working place and its clock, as ApplyPlace has left them, for what counts in Universal Time.
+
+ZoneClock WorkingClock();
 
 /// How far the clock is ahead of Greenwich at a time that it shows. day: the one whose moment it
 /// is, by which the daylight hour of the record goes.

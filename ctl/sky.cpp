@@ -7,7 +7,7 @@
 #include "ctl/place_options.h"
 #include "linux/erfa_almanac.h"
 #include "sky/phases.h"
-#include "sky/rise_set.h"
+#include "sky/sky_day.h"
 #include "store/location_record.h"
 #include "timetables/timetable.h"
 
@@ -25,14 +25,7 @@ struct PhasesOptions {
     int year = 0;
 };
 
-struct NamedTwilight {
-    const char* name;
-    double depth;  // degrees
-};
-
-constexpr NamedTwilight kTwilights[] = {{"civil", kCivilTwilight},
-                                        {"nautical", kNauticalTwilight},
-                                        {"astronomical", kAstronomicalTwilight}};
+constexpr const char* kTwilightNames[] = {"civil", "nautical", "astronomical"};
 
 constexpr const char* kPhaseKeys[] = {"newMoon", "firstQuarter", "fullMoon", "lastQuarter"};
 constexpr const char* kPhaseTitles[] = {"New Moon", "First Quarter", "Full Moon", "Last Quarter"};
@@ -40,12 +33,8 @@ constexpr const char* kPhaseTitles[] = {"New Moon", "First Quarter", "Full Moon"
 /// The sky of a moment and of the day around it, all in Universal Time.
 struct SkyView {
     Date now;
-    SkySpan day;
-    DayArc sunArc, moonArc;
-    HorizonPlace sun, moon;
-    double distance;  // of the moon's centre from that of the Earth, kilometres
-    double lit;       // part of the moon
-    double ahead;     // degrees of the moon before the sun
+    SkyDay day;
+    SkyMoment moment;
 };
 
 Date ParseAt(const std::string& text) {
@@ -65,17 +54,7 @@ SkySpan DayAround(Date now) {
 
 SkyView ViewAt(const Almanac& almanac, Date now) {
     const Observer here = WorkingObserver();
-    const SkySpan day = DayAround(now);
-    const CelestialPlace moon = almanac.MoonAt(now);
-    return {now,
-            day,
-            SunArc(almanac, here, day),
-            MoonArc(almanac, here, day),
-            SunOver(almanac, here, now),
-            MoonOver(almanac, here, now),
-            moon.distance,
-            LitPart(almanac.SunAt(now), moon),
-            MoonAhead(almanac, now)};
+    return {now, SkyDayOf(almanac, here, DayAround(now)), SkyMomentAt(almanac, here, now)};
 }
 
 Json BodyJson(const DayArc& arc, const HorizonPlace& place) {
@@ -84,25 +63,25 @@ Json BodyJson(const DayArc& arc, const HorizonPlace& place) {
             {"altitude", place.altitude},    {"bearing", place.bearing}};
 }
 
-Json TwilightsJson(const Almanac& almanac, const SkySpan& day) {
+Json TwilightsJson(const SkyDay& day) {
     Json json = Json::object();
-    for (const NamedTwilight& row : kTwilights) {
-        const Twilight found = TwilightOf(almanac, WorkingObserver(), day, row.depth);
-        json[row.name] = {{"dawn", WorkingJson(found.dawn)}, {"dusk", WorkingJson(found.dusk)}};
+    for (std::size_t i = 0; i < day.twilights.size(); ++i) {
+        const auto& [dawn, dusk] = day.twilights[i];
+        json[kTwilightNames[i]] = {{"dawn", WorkingJson(dawn)}, {"dusk", WorkingJson(dusk)}};
     }
     return json;
 }
 
-Json SkyJson(const Almanac& almanac, const SkyView& view) {
-    Json moon = BodyJson(view.moonArc, view.moon);
-    moon["distance"] = view.distance;
-    moon["litPart"] = view.lit;
-    moon["ahead"] = view.ahead;
+Json SkyJson(const SkyView& view) {
+    Json moon = BodyJson(view.day.moon, view.moment.moon);
+    moon["distance"] = view.moment.moonDistance;
+    moon["litPart"] = view.moment.litPart;
+    moon["ahead"] = view.moment.ahead;
     return {{"city", CityText},
             {"at", WorkingJson(view.now)},
-            {"sun", BodyJson(view.sunArc, view.sun)},
+            {"sun", BodyJson(view.day.sun, view.moment.sun)},
             {"moon", moon},
-            {"twilight", TwilightsJson(almanac, view.day)}};
+            {"twilight", TwilightsJson(view.day)}};
 }
 
 std::string BodyText(const char* name, const DayArc& arc, const HorizonPlace& place) {
@@ -113,33 +92,33 @@ std::string BodyText(const char* name, const DayArc& arc, const HorizonPlace& pl
            WorkingTimeText(arc.transit) + "   set " + WorkingTimeText(arc.set) + degrees;
 }
 
-std::string TwilightsText(const Almanac& almanac, const SkySpan& day) {
+std::string TwilightsText(const SkyDay& day) {
     std::string text;
-    for (const NamedTwilight& row : kTwilights) {
-        const Twilight found = TwilightOf(almanac, WorkingObserver(), day, row.depth);
-        text += std::string("Twilight, ") + row.name + ": " + WorkingTimeText(found.dawn) +
-                " and " + WorkingTimeText(found.dusk) + "\n";
+    for (std::size_t i = 0; i < day.twilights.size(); ++i) {
+        const auto& [dawn, dusk] = day.twilights[i];
+        text += std::string("Twilight, ") + kTwilightNames[i] + ": " + WorkingTimeText(dawn) +
+                " and " + WorkingTimeText(dusk) + "\n";
     }
     return text;
 }
 
-std::string SkyText(const Almanac& almanac, const SkyView& view) {
+std::string SkyText(const SkyView& view) {
+    const SkyMoment& moment = view.moment;
     char moon[120];
     std::snprintf(moon, sizeof moon,
                   "Moon   %.0f %% lit, %.0f km away, %.0f degrees ahead of the sun\n",
-                  100.0 * view.lit, view.distance, view.ahead);
+                  100.0 * moment.litPart, moment.moonDistance, moment.ahead);
     return CityText + "\n" + WorkingJson(view.now).get<std::string>() + "\n" +
-           BodyText("Sun    ", view.sunArc, view.sun) +
-           BodyText("Moon   ", view.moonArc, view.moon) + moon + TwilightsText(almanac, view.day);
+           BodyText("Sun    ", view.day.sun, moment.sun) +
+           BodyText("Moon   ", view.day.moon, moment.moon) + moon + TwilightsText(view.day);
 }
 
 void PrintSky(Session& session, const SkyOptions& options) {
     const std::optional<Date> at = options.at ? std::optional(ParseAt(*options.at)) : std::nullopt;
     ApplyPlace(options.place, at.value_or(Ports().clock.Today()));
     const Date now = at ? UniversalOfWorking(*at) : Ports().clock.UniversalNow();
-    const ErfaAlmanac almanac;
-    const SkyView view = ViewAt(almanac, now);
-    session.Print(SkyJson(almanac, view), SkyText(almanac, view));
+    const SkyView view = ViewAt(ErfaAlmanac(), now);
+    session.Print(SkyJson(view), SkyText(view));
 }
 
 std::string PhaseLine(const PhaseInstant& found) {
