@@ -5,6 +5,7 @@
 
 #include "engine/angle.h"
 #include "sky/rise_set.h"
+#include "sky/separation.h"
 
 namespace horavex {
 
@@ -14,21 +15,8 @@ constexpr double kHours = 24.0;          // a day
 constexpr double kMinutesOfArc = 60.0;   // a degree
 constexpr double kBestPart = 4.0 / 9.0;  // of the lag
 
-/// Degrees between two places, well told for small and large ones alike.
-double Between(const HorizonPlace& one, const HorizonPlace& other) {
-    const double bearing = DegToRad(other.bearing - one.bearing);
-    const double from = DegToRad(one.altitude);
-    const double to = DegToRad(other.altitude);
-    const double across = std::cos(to) * std::sin(bearing);
-    const double beside =
-        std::cos(from) * std::sin(to) - std::sin(from) * std::cos(to) * std::cos(bearing);
-    const double along =
-        std::sin(from) * std::sin(to) + std::cos(from) * std::cos(to) * std::cos(bearing);
-    return RadToDeg(std::atan2(std::hypot(across, beside), along));
-}
-
 CrescentArcs ArcsOf(const HorizonPlace& sun, const HorizonPlace& moon, double semidiameter) {
-    const double light = Between(sun, moon);
+    const double light = Separation({sun.bearing, sun.altitude}, {moon.bearing, moon.altitude});
     return {light, moon.altitude - sun.altitude, SignedDegrees(moon.bearing - sun.bearing),
             semidiameter * kMinutesOfArc * (1.0 - std::cos(DegToRad(light)))};
 }

@@ -11,6 +11,12 @@ namespace horavex {
 /// A quantity of the sky at an instant; an angle is in degrees.
 using SkyQuantity = std::function<double(Date)>;
 
+/// Instants of the clock of Greenwich, from the first up to, not including, the last.
+struct SkySpan {
+    Date from;
+    Date end;
+};
+
 /// An instant at which a quantity passes through zero.
 struct Crossing {
     Date instant;

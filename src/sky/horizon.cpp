@@ -3,19 +3,11 @@
 #include <cmath>
 
 #include "engine/angle.h"
+#include "sky/bodies.h"
 
 namespace horavex {
 
 namespace {
-
-// The Earth as the World Geodetic System 1984 has it.
-constexpr double kEarthRadius = 6378.137;  // kilometres, at the equator
-constexpr double kFlattening = 1.0 / 298.257223563;
-
-// Kilometres. The sun of 959.63 seconds of arc at the mean distance, the moon of 0.2725076 Earth
-// radii: those of the almanacs.
-constexpr double kSunRadius = 695990.0;
-constexpr double kMoonRadius = 0.2725076 * kEarthRadius;
 
 /// Kilometres in the plane of an observer's meridian: out of the equator's plane toward the
 /// meridian, east, and along the axis to the north.

@@ -4,6 +4,7 @@
 
 #include "engine/angle.h"
 #include "sky/crossing.h"
+#include "sky/separation.h"
 
 namespace horavex {
 
@@ -38,15 +39,8 @@ double MoonAhead(const Almanac& almanac, Date universal) {
 }
 
 double Elongation(const CelestialPlace& sun, const CelestialPlace& moon) {
-    const double between = DegToRad(moon.rightAscension - sun.rightAscension);
-    const double sunUp = DegToRad(sun.declination);
-    const double moonUp = DegToRad(moon.declination);
-    const double across = std::cos(moonUp) * std::sin(between);
-    const double beside =
-        std::cos(sunUp) * std::sin(moonUp) - std::sin(sunUp) * std::cos(moonUp) * std::cos(between);
-    const double along =
-        std::sin(sunUp) * std::sin(moonUp) + std::cos(sunUp) * std::cos(moonUp) * std::cos(between);
-    return RadToDeg(std::atan2(std::hypot(across, beside), along));
+    return Separation({sun.rightAscension, sun.declination},
+                      {moon.rightAscension, moon.declination});
 }
 
 double LitPart(const CelestialPlace& sun, const CelestialPlace& moon) {

@@ -1,7 +1,5 @@
 #include "sky/rise_set.h"
 
-#include "sky/crossing.h"
-
 namespace horavex {
 
 namespace {

@@ -2,19 +2,13 @@
 
 #include <optional>
 
+#include "sky/crossing.h"
 #include "sky/horizon.h"
 
 namespace horavex {
 
-/// Instants of a span of the clock of Greenwich, which is a day where somebody lives: from its
-/// first up to, not including, its last.
-struct SkySpan {
-    Date from;
-    Date end;
-};
-
-/// What a body does in a span; nothing where it does not. Its upper limb rises and sets on the
-/// level horizon with 34 minutes of arc of refraction.
+/// What a body does in a span, a day where somebody lives for one; nothing where it does not. Its
+/// upper limb rises and sets on the level horizon with 34 minutes of arc of refraction.
 struct DayArc {
     std::optional<Date> rise;
     std::optional<Date> transit;  // the upper one
