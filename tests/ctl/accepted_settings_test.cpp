@@ -100,7 +100,8 @@ TEST_F(AcceptedSettings, AcceptedLanguageWordsTheQibla) {
     SettingsRecord record = Aibak();
     record.Language = 5;
     Accept(folder, record);
-    EXPECT_EQ(JsonOf(ctl, kNoon)["qibla"]["text"], "Qibla: 113 grados, 27 minutos Oeste del Norte");
+    EXPECT_EQ(JsonOf(ctl, kNoon)["qibla"]["text"],
+              "Alquibla: 113 grados, 27 minutos Oeste del Norte");
 }
 
 TEST_F(AcceptedSettings, StoredPackNamesMonthAndPrayer) {

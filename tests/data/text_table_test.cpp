@@ -108,6 +108,15 @@ TEST_F(TextTable, PiecesOfCoordinatesAndBearingsAreSingleWords) {
     }
 }
 
+TEST_F(TextTable, FrenchMarksStandBehindNoBreakSpacesAndApostrophesAreCurved) {
+    constexpr std::int16_t kFrenchColumn = 2;
+    for (const TextEntry entry : AllEntries()) {
+        for (const char* plain : {" :", " ;", " !", " ?", "'"}) {
+            EXPECT_THAT(TextItem(entry, kFrenchColumn), testing::Not(testing::HasSubstr(plain)));
+        }
+    }
+}
+
 TEST_F(TextTable, PrayerNamesHoldNoColon) {
     for (std::size_t prayer = 0; prayer < 6; ++prayer) {
         for (std::int16_t column = 1; column <= kColumns; ++column) {

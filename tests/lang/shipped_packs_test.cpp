@@ -174,6 +174,32 @@ TEST_F(ShippedPacks, ButtonsOfAWindowShareNoAccessKey) {
     }
 }
 
+TEST_F(ShippedPacks, HaveAccessKeysWhereEnglishHasThem) {
+    const auto english = FormsIn("English");
+    for (const char* language : kLanguages) {
+        const auto translated = FormsIn(language);
+        for (std::size_t form = 0; form < english.size(); ++form) {
+            for (std::size_t control = 0; control < english[form]->Controls().size(); ++control) {
+                const Control& original = *english[form]->Controls()[control];
+                if (TakesPackTexts(original) && !AccessKey(original.Caption()).empty()) {
+                    const Control& same = *translated[form]->Controls()[control];
+                    EXPECT_NE(AccessKey(same.Caption()), "") << language << " " << same.Name();
+                }
+            }
+        }
+    }
+}
+
+// A line must not break in front of a mark that belongs to the word before it.
+TEST_F(ShippedPacks, FrenchMarksStandBehindNoBreakSpacesAndApostrophesAreCurved) {
+    for (const std::string& line : Split(Source("French"), '\n')) {
+        const std::string text = line.starts_with(';') ? "" : line;
+        for (const char* plain : {" :", " ;", " !", " ?", " %", " »", "« ", "'"}) {
+            EXPECT_THAT(text, Not(HasSubstr(plain)));
+        }
+    }
+}
+
 TEST_F(ShippedPacks, PrayersOfTheFaceAreSixNamesWithoutAColon) {
     for (const char* language : kLanguages) {
         std::set<std::string> names;
