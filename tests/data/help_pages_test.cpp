@@ -158,7 +158,7 @@ constexpr Surprise kSurprises[] = {
     {"athan.html", "The dialogue opens on one of the rare types", "يُفتح مربع الحوار على نوع نادر"},
     {"athan.html", "At the prayer it is the copy that plays", "النسخة هي التي تُسمع عند الصلاة"},
     {"dates.html", "The face and the timetables count all their months in that way",
-     "وتُعد أشهر الوجه والجداول كلها بهذا الحساب"},
+     "وتُعد أشهر النافذة الرئيسية والجداول كلها بهذا الحساب"},
     {"index.html", "the button below the compass opens the qibla",
      "والزر الذي تحت البوصلة يفتح القبلة"},
 };
