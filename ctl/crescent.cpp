@@ -4,6 +4,7 @@
 
 #include "calendar/hijri_calendar.h"
 #include "calendar/umm_al_qura.h"
+#include "ctl/crescent_map.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
 #include "linux/erfa_almanac.h"
@@ -19,15 +20,12 @@ struct CrescentOptions {
     PlaceOptions place;
     int month = 0;
     int year = 0;
+    CrescentMapOptions map;
 };
 
 // The months whose evenings lie in the almanac's years.
 constexpr int kFirstHijriYear = 1318;
 constexpr int kLastHijriYear = 1523;
-
-// The last classes that a sighting of each kind needs.
-constexpr char kYallopNakedEye = 'B', kYallopAided = 'D';
-constexpr char kOdehNakedEye = 'B', kOdehAided = 'C';
 
 constexpr double kMinutesPerDay = 24.0 * 60.0;
 
@@ -39,10 +37,10 @@ struct FirstDays {
 };
 
 FirstDays FirstDaysOf(const MonthEvenings& month, const HijriDate& first) {
-    return {FirstDay(month, &CrescentEvening::yallop, kYallopNakedEye),
-            FirstDay(month, &CrescentEvening::yallop, kYallopAided),
-            FirstDay(month, &CrescentEvening::odeh, kOdehNakedEye),
-            FirstDay(month, &CrescentEvening::odeh, kOdehAided),
+    return {FirstDay(month, Criterion::kYallop, Sight::kNakedEye),
+            FirstDay(month, Criterion::kYallop, Sight::kAided),
+            FirstDay(month, Criterion::kOdeh, Sight::kNakedEye),
+            FirstDay(month, Criterion::kOdeh, Sight::kAided),
             UmmAlQura().DateOf(first),
             DateFromHijri(first)};
 }
@@ -147,16 +145,20 @@ void PrintCrescent(Session& session, const CrescentOptions& options) {
     const HijriDate first{options.year, options.month, 1};
     ApplyPlace(options.place, DateFromHijri(first));
     const Lookout lookout{WorkingObserver(), UniversalOfWorking, WorkingOfUniversal};
-    const MonthEvenings month =
-        EveningsOfMonth(ErfaAlmanac(), lookout, options.year, options.month);
+    const ErfaAlmanac almanac;
+    const MonthEvenings month = EveningsOfMonth(almanac, lookout, options.year, options.month);
     const FirstDays days = FirstDaysOf(month, first);
-    session.Print({{"city", CityText},
-                   {"month", options.month},
-                   {"year", options.year},
-                   {"newMoon", WorkingJson(month.newMoon)},
-                   {"evenings", EveningsJson(month)},
-                   {"firstDays", FirstDaysJson(days)}},
-                  MonthText(month, days));
+    const auto map = WriteMap(almanac, month, options.map);
+    Json json = {{"city", CityText},
+                 {"month", options.month},
+                 {"year", options.year},
+                 {"newMoon", WorkingJson(month.newMoon)},
+                 {"evenings", EveningsJson(month)},
+                 {"firstDays", FirstDaysJson(days)}};
+    if (map) {
+        json["map"] = MapJson(*map);
+    }
+    session.Print(json, MonthText(month, days) + (map ? WrittenMapText(*map) : ""));
 }
 
 }  // namespace
@@ -172,6 +174,7 @@ void AddCrescentCommand(CLI::App& app, Session& session) {
     command->add_option("--year", options->year, "Hijri year")
         ->check(CLI::Range(kFirstHijriYear, kLastHijriYear))
         ->required();
+    AddMapOptions(*command, options->map);
     command->callback([&session, options] { PrintCrescent(session, *options); });
 }
 

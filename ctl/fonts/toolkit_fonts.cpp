@@ -2,6 +2,7 @@
 
 #include "ctl/document_fonts.h"
 #include "desktop/documents/pdf_file.h"
+#include "desktop/documents/png_file.h"
 
 namespace horavex {
 
@@ -22,10 +23,17 @@ void StartToolkit() {
 }  // namespace
 
 void InstallDocumentFonts() {
-    InstallDocumentTools({.writePdf = [](const std::string& path, const PrintedYear& year) {
-        StartToolkit();
-        WritePdf(path, year);
-    }});
+    InstallDocumentTools(
+        {.writePdf =
+             [](const std::string& path, const PrintedYear& year) {
+                 StartToolkit();
+                 WritePdf(path, year);
+             },
+         .writePng =
+             [](const std::string& path, const Drawing& drawing, double width, double height) {
+                 StartToolkit();
+                 WritePng(path, drawing, width, height);
+             }});
 }
 
 }  // namespace horavex

@@ -7,11 +7,6 @@
 
 namespace horavex {
 
-/// Draws the steps, stretched so that an area of the given size in twips fills the target, given
-/// in pixels. A picture is looked for in the program folder; a missing one draws nothing.
-void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips,
-               const Drawing& drawing);
-
 /// The widget of a picture control: its picture file and the drawing over it.
 class Canvas : public QWidget {
 public:

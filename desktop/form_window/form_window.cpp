@@ -11,9 +11,9 @@
 #include <QWindow>
 #include <utility>
 
+#include "desktop/documents/drawing_steps.h"
 #include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
-#include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/fit_screen.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "desktop/form_window/caption_text.h"
-#include "desktop/picture_file.h"
+#include "desktop/documents/picture_file.h"
 
 namespace horavex {
 

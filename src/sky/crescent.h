@@ -30,6 +30,10 @@ struct CrescentEvening {
 
     /// Days from sunset to moonset, negative where the moon sets first.
     std::optional<double> Lag() const;
+
+    const Verdict& Of(Criterion criterion) const {
+        return criterion == Criterion::kYallop ? yallop : odeh;
+    }
 };
 
 /// The evening whose sunset is the first within a day of an instant, of noon for one; nothing where

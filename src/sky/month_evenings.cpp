@@ -9,7 +9,6 @@ namespace horavex {
 
 namespace {
 
-constexpr int kEvenings = 4;
 constexpr double kNoon = 0.5;
 
 // The arithmetic month begins a day or two behind its new moon; half a month to either side holds
@@ -28,12 +27,18 @@ Date NewMoonOf(const Almanac& almanac, int year, int month) {
     return nearest;
 }
 
+/// The last letter that will do.
+char Worst(Criterion criterion, Sight sight) {
+    constexpr char kNakedEye = 'B';
+    return sight == Sight::kNakedEye ? kNakedEye : criterion == Criterion::kYallop ? 'D' : 'C';
+}
+
 }  // namespace
 
 MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, int year, int month) {
     MonthEvenings found{NewMoonOf(almanac, year, month), {}};
     const Date first = std::floor(lookout.localOf(found.newMoon)) - 1.0;
-    for (int evening = 0; evening < kEvenings; ++evening) {
+    for (int evening = 0; evening < kMonthEvenings; ++evening) {
         const Date day = first + evening;
         const Date noon = lookout.universalOf(day + kNoon);
         found.evenings.push_back(
@@ -42,10 +47,9 @@ MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, in
     return found;
 }
 
-std::optional<Date> FirstDay(const MonthEvenings& month, Verdict CrescentEvening::*verdict,
-                             char worst) {
+std::optional<Date> FirstDay(const MonthEvenings& month, Criterion criterion, Sight sight) {
     for (const DatedEvening& evening : month.evenings) {
-        if (evening.crescent && ((*evening.crescent).*verdict).letter <= worst) {
+        if (evening.crescent && evening.crescent->Of(criterion).letter <= Worst(criterion, sight)) {
             return evening.day + 1.0;
         }
     }

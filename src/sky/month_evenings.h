@@ -14,10 +14,13 @@ struct DatedEvening {
     std::optional<CrescentEvening> crescent;  // nothing where the sun does not set
 };
 
+inline constexpr int kMonthEvenings = 4;
+
 /// The evenings among which the crescent of a month comes into sight.
 struct MonthEvenings {
-    Date newMoon;                        // Universal Time
-    std::vector<DatedEvening> evenings;  // from the day before the new moon's own on, four
+    Date newMoon;  // Universal Time
+    std::vector<DatedEvening>
+        evenings;  // from the day before the new moon's own on, kMonthEvenings
 };
 
 /// Where somebody looks for the moon, and the instant at which a time of the clock there is. The
@@ -32,9 +35,12 @@ struct Lookout {
 /// Hijri calendar. month: 1 to 12.
 MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, int year, int month);
 
-/// The day behind the first evening on which a verdict is good enough: the first of the month for
-/// who sees it so. Nothing where none of the evenings is. worst: the last letter that will do.
-std::optional<Date> FirstDay(const MonthEvenings& month, Verdict CrescentEvening::*verdict,
-                             char worst);
+/// How somebody looks for the crescent. The naked eye takes the classes A and B of either
+/// criterion; optical aid takes Yallop's to D and Odeh's to C.
+enum class Sight { kNakedEye, kAided };
+
+/// The day behind the first evening on which a criterion lets the crescent be seen: the first of
+/// the month for who sees it so. Nothing where none of the evenings does.
+std::optional<Date> FirstDay(const MonthEvenings& month, Criterion criterion, Sight sight);
 
 }  // namespace horavex

@@ -9,9 +9,9 @@
 #include "base/utf8.h"
 #include "engine/center_on_screen.h"
 #include "engine/moment_text.h"
-#include "forms/drawing_svg.h"
 #include "lang/form_language.h"
 #include "platform/platform.h"
+#include "timetables/drawing_file.h"
 #include "timetables/timetable_file.h"
 #include "timetables/year_chart.h"
 #include "windows/frm_month.h"
@@ -184,13 +184,8 @@ void SaveChart() {
     const FileRequest request = {shown->words.title, "SVG|*.svg|PNG|*.png", 1};
     const std::string path = Ports().dialogs.SaveFile(request, ".svg");
     const Picture& picture = frmMonth->picYear;
-    if (AsciiLower(path).ends_with(".png")) {
-        InstalledDocumentTools().writePng(path, picture.drawing, picture.ScaleWidth(),
-                                          picture.ScaleHeight());
-    } else if (!path.empty()) {
-        WriteChosenFile(
-            Ports().files, path,
-            BytesOf(DrawingSvg(picture.drawing, picture.ScaleWidth(), picture.ScaleHeight())));
+    if (!path.empty()) {
+        WriteDrawing(path, picture.drawing, picture.ScaleWidth(), picture.ScaleHeight());
     }
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/picture_file.h"
+#include "desktop/documents/picture_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

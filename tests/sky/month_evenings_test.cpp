@@ -42,22 +42,30 @@ TEST(EveningsOfMonth, HaveANewMoonNearTheBeginningOfEveryMonth) {
     }
 }
 
-TEST(FirstDay, FollowsTheFirstEveningThatIsGoodEnough) {
+/// Evenings from day 100 on, each with a letter of both criteria.
+MonthEvenings EveningsOf(const std::string& letters) {
     MonthEvenings month{0.0, {}};
     CrescentEvening evening{};
-    for (const char letter : {'F', 'D', 'B', 'A'}) {
-        evening.yallop.letter = letter;
+    for (const char letter : letters) {
+        evening.yallop.letter = evening.odeh.letter = letter;
         month.evenings.push_back({100.0 + static_cast<double>(month.evenings.size()), evening});
     }
-    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'B'), 103.0);
-    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'D'), 102.0);
-    month.evenings.resize(2);
-    EXPECT_EQ(FirstDay(month, &CrescentEvening::yallop, 'B'), std::nullopt);
+    return month;
+}
+
+TEST(FirstDay, FollowsTheFirstEveningThatIsGoodEnough) {
+    const MonthEvenings yallop = EveningsOf("EDCB");
+    EXPECT_EQ(FirstDay(yallop, Criterion::kYallop, Sight::kNakedEye), 104.0);
+    EXPECT_EQ(FirstDay(yallop, Criterion::kYallop, Sight::kAided), 102.0);
+    const MonthEvenings odeh = EveningsOf("DCBA");
+    EXPECT_EQ(FirstDay(odeh, Criterion::kOdeh, Sight::kNakedEye), 103.0);
+    EXPECT_EQ(FirstDay(odeh, Criterion::kOdeh, Sight::kAided), 102.0);
+    EXPECT_EQ(FirstDay(EveningsOf("FE"), Criterion::kYallop, Sight::kAided), std::nullopt);
 }
 
 TEST(FirstDay, PassesOverAnEveningWithoutASunset) {
     const MonthEvenings month{0.0, {{100.0, std::nullopt}}};
-    EXPECT_EQ(FirstDay(month, &CrescentEvening::odeh, 'D'), std::nullopt);
+    EXPECT_EQ(FirstDay(month, Criterion::kOdeh, Sight::kAided), std::nullopt);
 }
 
 }  // namespace

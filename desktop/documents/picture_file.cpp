@@ -1,4 +1,4 @@
-#include "desktop/picture_file.h"
+#include "desktop/documents/picture_file.h"
 
 #include "base/fault.h"
 #include "platform/platform.h"

@@ -1,0 +1,85 @@
+#include "ctl/crescent_map.h"
+
+#include "ctl/document_fonts.h"
+#include "ctl/place_clock.h"
+#include "sky/map_drawing.h"
+#include "timetables/drawing_file.h"
+#include "timetables/timetable.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kUsualEvening = 2;  // counted from 0, where none has a crescent to be seen
+
+const CLI::Validator kDrawingPath(
+    [](const std::string& path) {
+        return IsDrawingPath(path) ? "" : "its name has to end with .svg or .png";
+    },
+    "FILE");
+
+Criterion CriterionOf(const CrescentMapOptions& options) {
+    return options.criterion == "odeh" ? Criterion::kOdeh : Criterion::kYallop;
+}
+
+Date EveningOf(const MonthEvenings& month, const CrescentMapOptions& options) {
+    if (options.evening) {
+        return month.evenings.at(static_cast<std::size_t>(*options.evening - 1)).day;
+    }
+    const auto first = FirstDay(month, CriterionOf(options), Sight::kAided);
+    return first ? *first - 1.0 : month.evenings.at(kUsualEvening).day;
+}
+
+MapText TextOf(const WrittenMap& map, Date newMoon) {
+    const Date minute = std::round(newMoon * 1440.0) / 1440.0;
+    return {"Crescent on the evening of " + IsoDate(CivilFromDate(map.evening)) +
+                ", criterion of " + (map.criterion == "odeh" ? "Odeh" : "Yallop"),
+            "New moon " + IsoDate(CivilFromDate(minute)) + " " + IsoTime(SecondOfDay(minute) / 60) +
+                " Universal Time",
+            {}};
+}
+
+}  // namespace
+
+void AddMapOptions(CLI::App& command, CrescentMapOptions& options) {
+    auto* map =
+        command.add_option("--map", options.file, "A map of the world to write, .svg or .png")
+            ->check(kDrawingPath);
+    command.add_option("--evening", options.evening, "The map's evening, 1 to 4 of those listed")
+        ->check(CLI::Range(1, kMonthEvenings))
+        ->needs(map);
+    command.add_option("--criterion", options.criterion, "The map's criterion, yallop or odeh")
+        ->check(CLI::IsMember({"yallop", "odeh"}))
+        ->needs(map);
+}
+
+std::optional<WrittenMap> WriteMap(const Almanac& almanac, const MonthEvenings& month,
+                                   const CrescentMapOptions& options) {
+    if (options.file.empty()) {
+        return std::nullopt;
+    }
+    const WrittenMap written{options.file, EveningOf(month, options), options.criterion};
+    VisibilityMap map(almanac, written.evening, month.newMoon);
+    while (!map.IsComplete()) {
+        map.ComputeRow();
+    }
+    InstallDocumentFonts();
+    WriteDrawing(
+        written.file,
+        MapDrawing(map, CriterionOf(options), WorkingObserver(), TextOf(written, month.newMoon)),
+        kMapWidth, kMapHeight);
+    return written;
+}
+
+Json MapJson(const WrittenMap& map) {
+    return {{"file", map.file},
+            {"evening", IsoDate(CivilFromDate(map.evening))},
+            {"criterion", map.criterion}};
+}
+
+std::string WrittenMapText(const WrittenMap& map) {
+    return "\nMap of the evening of " + IsoDate(CivilFromDate(map.evening)) + ": " + map.file +
+           "\n";
+}
+
+}  // namespace horavex

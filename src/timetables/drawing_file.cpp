@@ -1,0 +1,33 @@
+#include "timetables/drawing_file.h"
+
+#include "base/fault.h"
+#include "base/text.h"
+#include "forms/drawing_svg.h"
+#include "platform/platform.h"
+#include "timetables/document_tools.h"
+
+namespace horavex {
+
+namespace {
+
+bool EndsWith(const std::string& path, const char* ending) {
+    return AsciiLower(path).ends_with(ending);
+}
+
+}  // namespace
+
+bool IsDrawingPath(const std::string& path) {
+    return EndsWith(path, ".svg") || EndsWith(path, ".png");
+}
+
+void WriteDrawing(const std::string& path, const Drawing& drawing, double width, double height) {
+    if (!EndsWith(path, ".png")) {
+        WriteChosenFile(Ports().files, path, BytesOf(DrawingSvg(drawing, width, height)));
+    } else if (const DocumentTools& tools = InstalledDocumentTools(); tools.writePng) {
+        tools.writePng(path, drawing, width, height);
+    } else {
+        throw Fault("this program was built without the desktop, which draws PNG pictures");
+    }
+}
+
+}  // namespace horavex
