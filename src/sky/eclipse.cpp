@@ -15,13 +15,6 @@ namespace {
 constexpr double kReach = 0.2;       // days from the greatest eclipse, beyond its begin and end
 constexpr double kMostLatitude = 2;  // degrees of the moon, at a phase beyond which is no eclipse
 
-EclipseKind KindOf(const SunCover& cover) {
-    if (cover.InnerGap() >= 0.0) {
-        return EclipseKind::kPartial;
-    }
-    return cover.HidesSun() ? EclipseKind::kTotal : EclipseKind::kAnnular;
-}
-
 /// The axis of the shadow around its greatest eclipse.
 struct Path {
     const Almanac& almanac;
@@ -121,6 +114,13 @@ std::optional<Eclipse> EclipseAt(const Almanac& almanac, const PhaseInstant& fou
 }
 
 }  // namespace
+
+EclipseKind KindOf(const SunCover& cover) {
+    if (cover.InnerGap() >= 0.0) {
+        return EclipseKind::kPartial;
+    }
+    return cover.HidesSun() ? EclipseKind::kTotal : EclipseKind::kAnnular;
+}
 
 std::vector<Eclipse> EclipsesBetween(const Almanac& almanac, Date from, Date end) {
     std::vector<Eclipse> eclipses;

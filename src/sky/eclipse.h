@@ -33,6 +33,11 @@ struct Eclipse {
     std::optional<EclipsePhases> phases{};  // the moon's, the same for all who see it
 };
 
+struct SunCover;
+
+/// What the moon makes of the sun where the two touch: partial, annular or total.
+EclipseKind KindOf(const SunCover& cover);
+
 /// The eclipses that are greatest from one instant up to, not including, another, in their order.
 std::vector<Eclipse> EclipsesBetween(const Almanac& almanac, Date from, Date end);
 

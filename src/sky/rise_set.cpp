@@ -25,19 +25,21 @@ double UpperLimb(const HorizonPlace& place) {
     return place.altitude + place.semidiameter + kRefraction;
 }
 
-std::optional<Date> FirstSet(const Almanac& almanac, const Observer& observer, const SkySpan& span,
-                             OverHorizon over) {
-    const SkyQuantity upperLimb = [&](Date universal) {
+SkyQuantity UpperLimbOf(const Almanac& almanac, const Observer& observer, OverHorizon over) {
+    return [&almanac, &observer, over](Date universal) {
         return UpperLimb(over(almanac, observer, universal));
     };
+}
+
+std::optional<Date> FirstSet(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+                             OverHorizon over) {
+    const SkyQuantity upperLimb = UpperLimbOf(almanac, observer, over);
     return FirstCrossing(upperLimb, span.from, span.end, kStep, false);
 }
 
 DayArc ArcOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
              OverHorizon over, PlaceAt placeAt) {
-    const SkyQuantity upperLimb = [&](Date universal) {
-        return UpperLimb(over(almanac, observer, universal));
-    };
+    const SkyQuantity upperLimb = UpperLimbOf(almanac, observer, over);
     const SkyQuantity pastMeridian = [&](Date universal) {
         return HourAngle(almanac, observer, (almanac.*placeAt)(universal), universal);
     };
@@ -45,6 +47,25 @@ DayArc ArcOf(const Almanac& almanac, const Observer& observer, const SkySpan& sp
     const auto meridian = CrossingsOf(pastMeridian, span.from, span.end, kStep);
     return {First(limb, true), First(meridian, true), First(limb, false),
             upperLimb(span.from) >= 0.0};
+}
+
+std::vector<SkySpan> UpIn(const Almanac& almanac, const Observer& observer, const SkySpan& span,
+                          OverHorizon over) {
+    const SkyQuantity upperLimb = UpperLimbOf(almanac, observer, over);
+    std::vector<SkySpan> up;
+    bool isUp = upperLimb(span.from) >= 0.0;
+    Date since = span.from;
+    for (const Crossing& crossing : CrossingsOf(upperLimb, span.from, span.end, kStep)) {
+        if (isUp) {
+            up.push_back({since, crossing.instant});
+        }
+        isUp = crossing.rising;
+        since = crossing.instant;
+    }
+    if (isUp) {
+        up.push_back({since, span.end});
+    }
+    return up;
 }
 
 }  // namespace
@@ -69,6 +90,14 @@ DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& s
 
 DayArc MoonArc(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
     return ArcOf(almanac, observer, span, MoonOver, &Almanac::MoonAt);
+}
+
+std::vector<SkySpan> SunUp(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
+    return UpIn(almanac, observer, span, SunOver);
+}
+
+std::vector<SkySpan> MoonUp(const Almanac& almanac, const Observer& observer, const SkySpan& span) {
+    return UpIn(almanac, observer, span, MoonOver);
 }
 
 Twilight TwilightOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,

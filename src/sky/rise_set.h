@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "sky/crossing.h"
 #include "sky/horizon.h"
@@ -40,6 +41,11 @@ bool IsMoonUp(const Almanac& almanac, const Observer& observer, Date universal);
 
 DayArc SunArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
 DayArc MoonArc(const Almanac& almanac, const Observer& observer, const SkySpan& span);
+
+/// When any of the body is over the horizon, in a span.
+std::vector<SkySpan> SunUp(const Almanac& almanac, const Observer& observer, const SkySpan& span);
+std::vector<SkySpan> MoonUp(const Almanac& almanac, const Observer& observer, const SkySpan& span);
+
 Twilight TwilightOf(const Almanac& almanac, const Observer& observer, const SkySpan& span,
                     double depth);
 

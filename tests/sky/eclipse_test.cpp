@@ -29,8 +29,9 @@ Date GreatestOf(const Row& row) {
 }
 
 std::vector<Eclipse> EclipsesOfThirtyYears(bool solar) {
-    std::vector<Eclipse> eclipses =
+    static const auto all =
         EclipsesBetween(ErfaAlmanac(), DateSerial(2001, 1, 1), DateSerial(2031, 1, 1));
+    std::vector<Eclipse> eclipses = all;
     std::erase_if(eclipses, [=](const Eclipse& eclipse) { return eclipse.solar != solar; });
     return eclipses;
 }

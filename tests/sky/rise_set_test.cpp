@@ -92,6 +92,24 @@ TEST(IsMoonUp, ChangesAsItsUpperLimbSets) {
     EXPECT_FALSE(IsMoonUp(almanac, kMecca, set + 1.0 / kSecondsPerDay));
 }
 
+TEST(SunUp, HasAPartForEachDay) {
+    const Date midnight = DateSerial(2026, 2, 18);
+    const auto up = SunUp(ErfaAlmanac(), kMecca, {midnight, midnight + 2.0});
+    ASSERT_EQ(up.size(), 2U);
+    ExpectTime(up[0].from, 3, 49, 29);
+    ExpectTime(up[0].end, 15, 19, 56);
+    EXPECT_EQ(std::floor(up[1].end), midnight + 1.0);
+}
+
+TEST(MoonUp, EndsWithTheSpanWhereTheMoonStaysUp) {
+    const Date midnight = DateSerial(2026, 2, 18);
+    const auto up = MoonUp(ErfaAlmanac(), kMecca, {midnight + 0.4, midnight + 0.5});
+    ASSERT_EQ(up.size(), 1U);
+    EXPECT_EQ(up[0].from, midnight + 0.4);
+    EXPECT_EQ(up[0].end, midnight + 0.5);
+    EXPECT_TRUE(MoonUp(ErfaAlmanac(), kMecca, {midnight, midnight + 0.1}).empty());
+}
+
 TEST(Twilight, BeginsAndEndsAtItsDepth) {
     const ErfaAlmanac almanac;
     const SkySpan day = DayOf(2026, 2, 18);
