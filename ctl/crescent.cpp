@@ -2,13 +2,11 @@
 #include <cstdio>
 #include <memory>
 
-#include "calendar/hijri_calendar.h"
-#include "calendar/umm_al_qura.h"
 #include "ctl/crescent_map.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
 #include "linux/erfa_almanac.h"
-#include "sky/month_evenings.h"
+#include "sky/first_days.h"
 #include "store/location_record.h"
 #include "timetables/timetable.h"
 
@@ -23,40 +21,21 @@ struct CrescentOptions {
     CrescentMapOptions map;
 };
 
-// The months whose evenings lie in the almanac's years.
-constexpr int kFirstHijriYear = 1318;
-constexpr int kLastHijriYear = 1523;
-
 constexpr double kMinutesPerDay = 24.0 * 60.0;
-
-/// The first day of the month by each way; nothing where it has none.
-struct FirstDays {
-    std::optional<Date> yallopNakedEye, yallopAided, odehNakedEye, odehAided;
-    std::optional<Date> ummAlQura;
-    Date arithmetic;
-};
-
-FirstDays FirstDaysOf(const MonthEvenings& month, const HijriDate& first) {
-    return {FirstDay(month, Criterion::kYallop, Sight::kNakedEye),
-            FirstDay(month, Criterion::kYallop, Sight::kAided),
-            FirstDay(month, Criterion::kOdeh, Sight::kNakedEye),
-            FirstDay(month, Criterion::kOdeh, Sight::kAided),
-            UmmAlQura().DateOf(first),
-            DateFromHijri(first)};
-}
 
 Json DayJson(const std::optional<Date>& day) {
     return day ? Json(IsoDate(CivilFromDate(*day))) : Json();
 }
 
+Json SightedJson(const SightedDays& days) {
+    return {{"nakedEye", DayJson(days.nakedEye)}, {"opticalAid", DayJson(days.aided)}};
+}
+
 Json FirstDaysJson(const FirstDays& days) {
-    return {
-        {"yallop",
-         {{"nakedEye", DayJson(days.yallopNakedEye)}, {"opticalAid", DayJson(days.yallopAided)}}},
-        {"odeh",
-         {{"nakedEye", DayJson(days.odehNakedEye)}, {"opticalAid", DayJson(days.odehAided)}}},
-        {"ummAlQura", DayJson(days.ummAlQura)},
-        {"arithmetic", DayJson(days.arithmetic)}};
+    return {{"yallop", SightedJson(days.yallop)},
+            {"odeh", SightedJson(days.odeh)},
+            {"ummAlQura", DayJson(days.ummAlQura)},
+            {"arithmetic", DayJson(days.arithmetic)}};
 }
 
 std::optional<double> LagMinutes(const CrescentEvening& evening) {
@@ -123,10 +102,10 @@ std::string DayText(const char* title, const std::optional<Date>& day) {
 }
 
 std::string FirstDaysText(const FirstDays& days) {
-    return DayText("First day, Yallop, naked eye:    ", days.yallopNakedEye) +
-           DayText("First day, Yallop, optical aid:  ", days.yallopAided) +
-           DayText("First day, Odeh, naked eye:      ", days.odehNakedEye) +
-           DayText("First day, Odeh, optical aid:    ", days.odehAided) +
+    return DayText("First day, Yallop, naked eye:    ", days.yallop.nakedEye) +
+           DayText("First day, Yallop, optical aid:  ", days.yallop.aided) +
+           DayText("First day, Odeh, naked eye:      ", days.odeh.nakedEye) +
+           DayText("First day, Odeh, optical aid:    ", days.odeh.aided) +
            DayText("First day, Umm al-Qura:          ", days.ummAlQura) +
            DayText("First day, arithmetic:           ", days.arithmetic);
 }
@@ -172,7 +151,7 @@ void AddCrescentCommand(CLI::App& app, Session& session) {
         ->check(CLI::Range(1, 12))
         ->required();
     command->add_option("--year", options->year, "Hijri year")
-        ->check(CLI::Range(kFirstHijriYear, kLastHijriYear))
+        ->check(CLI::Range(kFirstCrescentYear, kLastCrescentYear))
         ->required();
     AddMapOptions(*command, options->map);
     command->callback([&session, options] { PrintCrescent(session, *options); });

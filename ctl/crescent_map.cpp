@@ -10,8 +10,6 @@ namespace horavex {
 
 namespace {
 
-constexpr int kUsualEvening = 2;  // counted from 0, where none has a crescent to be seen
-
 const CLI::Validator kDrawingPath(
     [](const std::string& path) {
         return IsDrawingPath(path) ? "" : "its name has to end with .svg or .png";
@@ -23,11 +21,9 @@ Criterion CriterionOf(const CrescentMapOptions& options) {
 }
 
 Date EveningOf(const MonthEvenings& month, const CrescentMapOptions& options) {
-    if (options.evening) {
-        return month.evenings.at(static_cast<std::size_t>(*options.evening - 1)).day;
-    }
-    const auto first = FirstDay(month, CriterionOf(options), Sight::kAided);
-    return first ? *first - 1.0 : month.evenings.at(kUsualEvening).day;
+    const std::size_t evening = options.evening ? static_cast<std::size_t>(*options.evening - 1)
+                                                : EveningOfSight(month, CriterionOf(options));
+    return month.evenings.at(evening).day;
 }
 
 MapText TextOf(const WrittenMap& map, Date newMoon) {

@@ -62,4 +62,14 @@ CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Dat
             OdehVerdict(seen.vision, seen.width)};
 }
 
+EveningKind KindOf(const std::optional<CrescentEvening>& evening, Date newMoon) {
+    if (!evening) {
+        return EveningKind::kSunStaysUp;
+    }
+    if (evening->sunset < newMoon) {
+        return EveningKind::kBeforeNewMoon;
+    }
+    return evening->Lag().value_or(0.0) > 0.0 ? EveningKind::kJudged : EveningKind::kMoonSetsFirst;
+}
+
 }  // namespace horavex

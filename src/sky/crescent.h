@@ -15,6 +15,10 @@ struct CrescentArcs {
     double width;    // minutes of arc, of the crescent at its middle
 };
 
+/// What an evening is: before the conjunction there is no new crescent, and where the moon sets
+/// before the sun there is none to look for. No criterion is asked there.
+enum class EveningKind { kJudged, kBeforeNewMoon, kMoonSetsFirst, kSunStaysUp };
+
 /// The moon on an evening. All but the times of setting is at the best time to look for it, 4/9 of
 /// the way from sunset to moonset (Yallop), or at sunset where the moon has set by then.
 struct CrescentEvening {
@@ -44,5 +48,8 @@ std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Obser
 /// The evening of a sunset that is known.
 CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Date sunset,
                            Date newMoon);
+
+/// Nothing is an evening on which the sun does not set.
+EveningKind KindOf(const std::optional<CrescentEvening>& evening, Date newMoon);
 
 }  // namespace horavex

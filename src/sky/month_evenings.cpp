@@ -1,5 +1,6 @@
 #include "sky/month_evenings.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "calendar/hijri_calendar.h"
@@ -9,6 +10,7 @@ namespace horavex {
 
 namespace {
 
+constexpr std::size_t kUsualEvening = 2;  // in most months and places
 constexpr double kNoon = 0.5;
 
 // The arithmetic month begins a day or two behind its new moon; half a month to either side holds
@@ -33,6 +35,14 @@ char Worst(Criterion criterion, Sight sight) {
     return sight == Sight::kNakedEye ? kNakedEye : criterion == Criterion::kYallop ? 'D' : 'C';
 }
 
+/// The first evening on which somebody sees the crescent, or the end.
+auto FirstSight(const MonthEvenings& month, Criterion criterion, Sight sight) {
+    return std::ranges::find_if(month.evenings, [&](const DatedEvening& evening) {
+        return evening.crescent &&
+               evening.crescent->Of(criterion).letter <= Worst(criterion, sight);
+    });
+}
+
 }  // namespace
 
 MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, int year, int month) {
@@ -48,12 +58,14 @@ MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, in
 }
 
 std::optional<Date> FirstDay(const MonthEvenings& month, Criterion criterion, Sight sight) {
-    for (const DatedEvening& evening : month.evenings) {
-        if (evening.crescent && evening.crescent->Of(criterion).letter <= Worst(criterion, sight)) {
-            return evening.day + 1.0;
-        }
-    }
-    return std::nullopt;
+    const auto seen = FirstSight(month, criterion, sight);
+    return seen == month.evenings.end() ? std::nullopt : std::optional(seen->day + 1.0);
+}
+
+std::size_t EveningOfSight(const MonthEvenings& month, Criterion criterion) {
+    const auto seen = FirstSight(month, criterion, Sight::kAided);
+    return seen == month.evenings.end() ? kUsualEvening
+                                        : static_cast<std::size_t>(seen - month.evenings.begin());
 }
 
 }  // namespace horavex

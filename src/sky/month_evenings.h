@@ -16,6 +16,10 @@ struct DatedEvening {
 
 inline constexpr int kMonthEvenings = 4;
 
+/// The Hijri years whose evenings lie in the almanac's years.
+inline constexpr int kFirstCrescentYear = 1318;
+inline constexpr int kLastCrescentYear = 1523;
+
 /// The evenings among which the crescent of a month comes into sight.
 struct MonthEvenings {
     Date newMoon;  // Universal Time
@@ -42,5 +46,9 @@ enum class Sight { kNakedEye, kAided };
 /// The day behind the first evening on which a criterion lets the crescent be seen: the first of
 /// the month for who sees it so. Nothing where none of the evenings does.
 std::optional<Date> FirstDay(const MonthEvenings& month, Criterion criterion, Sight sight);
+
+/// Which of the evenings shows most on a map: the first on which the crescent can be seen from the
+/// place, be it with optical aid. The third where none of them is.
+std::size_t EveningOfSight(const MonthEvenings& month, Criterion criterion);
 
 }  // namespace horavex

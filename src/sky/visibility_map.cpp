@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "sky/crescent.h"
 #include "sky/rise_set.h"
 
 namespace horavex {

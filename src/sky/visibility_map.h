@@ -3,14 +3,10 @@
 #include <optional>
 #include <vector>
 
+#include "sky/crescent.h"
 #include "sky/tabulated_almanac.h"
-#include "sky/visibility.h"
 
 namespace horavex {
-
-/// What an evening is at a point of the map. Before the conjunction there is no new crescent, and
-/// where the moon sets before the sun there is none to look for: no criterion is asked there.
-enum class EveningKind { kJudged, kBeforeNewMoon, kMoonSetsFirst, kSunStaysUp };
 
 /// A point's evening with the letters of its classes, which count where it is judged.
 struct MapCell {

@@ -67,6 +67,18 @@ TEST(CrescentEvening, IsNoneUnderTheMidnightSun) {
     EXPECT_FALSE(EveningOf({69.65, 18.96}, 2026, 6, 15));
 }
 
+TEST(KindOf, TellsEveningsThatAreNotJudged) {
+    CrescentEvening evening{};
+    evening.sunset = 100.0;
+    EXPECT_EQ(KindOf(std::nullopt, 99.0), EveningKind::kSunStaysUp);
+    EXPECT_EQ(KindOf(evening, 100.1), EveningKind::kBeforeNewMoon);
+    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kMoonSetsFirst);
+    evening.moonset = 99.9;
+    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kMoonSetsFirst);
+    evening.moonset = 100.1;
+    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kJudged);
+}
+
 /// A sighting at the edge of what was ever seen, by its published date and place; the classes
 /// allow it to the instrument that it took.
 struct Sighting {

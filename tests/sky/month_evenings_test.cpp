@@ -63,6 +63,12 @@ TEST(FirstDay, FollowsTheFirstEveningThatIsGoodEnough) {
     EXPECT_EQ(FirstDay(EveningsOf("FE"), Criterion::kYallop, Sight::kAided), std::nullopt);
 }
 
+TEST(EveningOfSight, IsTheFirstOnWhichOpticalAidIsEnough) {
+    EXPECT_EQ(EveningOfSight(EveningsOf("EDCB"), Criterion::kYallop), 1U);
+    EXPECT_EQ(EveningOfSight(EveningsOf("DDDB"), Criterion::kOdeh), 3U);
+    EXPECT_EQ(EveningOfSight(EveningsOf("FFFF"), Criterion::kYallop), 2U);
+}
+
 TEST(FirstDay, PassesOverAnEveningWithoutASunset) {
     const MonthEvenings month{0.0, {{100.0, std::nullopt}}};
     EXPECT_EQ(FirstDay(month, Criterion::kOdeh, Sight::kAided), std::nullopt);
