@@ -62,6 +62,26 @@ void SetShadowAndHemisphere(const EclipseGeometry& geometry, Eclipses& eclipses)
                                          : "The Eclipse is visible in the Southern Hemisphere";
 }
 
+/// Whether a lunation gets a row.
+bool IsCandidate(const Lunation& at) {
+    return NearNode(std::sin(at.latitude)) && IsListed(180.0 - at.latitude * 180.0 / kSeriesPi);
+}
+
+double CorrectedLatitude(const Lunation& at) {
+    return at.latitude - 0.02665 * std::sin(at.node);
+}
+
+std::vector<double> ListedDays(const Body& body, std::int16_t year) {
+    std::vector<double> days;
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        const Lunation at = LunationOf(year, static_cast<std::int16_t>(i), body.offset);
+        if (IsCandidate(at)) {
+            days.push_back(InstantOf(body, at, CorrectedLatitude(at)));
+        }
+    }
+    return days;
+}
+
 /// A truth value as a number takes part in a comparison.
 double Truth(bool value) {
     return value ? -1.0 : 0.0;
@@ -96,9 +116,9 @@ struct Listing {
         if (!NearNode(std::sin(at.latitude))) {
             return {};
         }
-        const double latitude = at.latitude - 0.02665 * std::sin(at.node);
+        const double latitude = CorrectedLatitude(at);
         std::string listed;
-        if (IsListed(180.0 - at.latitude * 180.0 / kSeriesPi)) {
+        if (IsCandidate(at)) {
             listed = ListRow(i, InstantOf(body, at, latitude));
         }
         const EclipseGeometry geometry = GeometryOf(at, latitude);
@@ -135,6 +155,14 @@ std::string ListSolarEclipses(Eclipses& eclipses, std::int16_t year, double zone
 
 std::string ListLunarEclipses(Eclipses& eclipses, std::int16_t year, double zone) {
     return List({kMoon, eclipses, year, zone});
+}
+
+std::vector<double> ListedSolarDays(std::int16_t year) {
+    return ListedDays(kSun, year);
+}
+
+std::vector<double> ListedLunarDays(std::int16_t year) {
+    return ListedDays(kMoon, year);
 }
 
 bool NearNode(double sinLatitudeArgument) {

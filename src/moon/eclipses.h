@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 #include "moon/lunation.h"
 #include "moon/moon_date.h"
@@ -44,6 +46,10 @@ void ClearEclipses(Eclipses& eclipses);
 /// Crlf behind it. zone: whole hours, as WholeZone tells them.
 std::string ListSolarEclipses(Eclipses& eclipses, std::int16_t year, double zone);
 std::string ListLunarEclipses(Eclipses& eclipses, std::int16_t year, double zone);
+
+/// The candidates that the lists of a year name, in their order: Julian days, dynamical time.
+std::vector<double> ListedSolarDays(std::int16_t year);
+std::vector<double> ListedLunarDays(std::int16_t year);
 
 // The steps of one lunation.
 

@@ -8,6 +8,8 @@
 namespace horavex {
 namespace {
 
+using testing::DoubleNear;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 
@@ -85,6 +87,15 @@ TEST_F(EclipsesTest, EntriesWithoutACandidateStayButTheFirst) {
 TEST_F(EclipsesTest, ListingTwiceGivesTheSame) {
     const std::string first = ListLunar(2026);
     EXPECT_EQ(ListLunar(2026), first);
+}
+
+TEST_F(EclipsesTest, ListedDaysAreTheRowsOfTheLists) {
+    EXPECT_THAT(ListedSolarDays(2001),
+                ElementsAre(DoubleNear(2451904.2347, 1e-3), DoubleNear(2451934.0333, 1e-3),
+                            DoubleNear(2452082.0037, 1e-3), DoubleNear(2452258.3712, 1e-3)));
+    EXPECT_THAT(ListedLunarDays(2001),
+                ElementsAre(DoubleNear(2451919.3488, 1e-3), DoubleNear(2452096.1231, 1e-3),
+                            DoubleNear(2452244.3814, 1e-3), DoubleNear(2452273.9378, 1e-3)));
 }
 
 TEST_F(EclipsesTest, GammaOnTheLimitIsStillAnEclipse) {
