@@ -8,6 +8,7 @@
 #include "ctl/command.h"
 #include "ctl/coordinate.h"
 #include "ctl/date_option.h"
+#include "ctl/eclipse_list.h"
 #include "ctl/number_range.h"
 #include "ctl/place_options.h"
 #include "engine/angle.h"
@@ -28,6 +29,13 @@ namespace {
 struct PhaseOptions {
     int year = 0;
     std::string zone;
+};
+
+/// The told lists, or with `local` the eclipses over a place.
+struct EclipseOptions {
+    PhaseOptions told;
+    bool local = false;
+    PlaceOptions place;
 };
 
 struct RiseOptions {
@@ -101,6 +109,26 @@ void PrintEclipses(Session& session, const PhaseOptions& options) {
     session.Print({{"solar", {{"text", solar}, {"rows", solarRows}}},
                    {"lunar", {{"text", lunar}, {"rows", eclipses.LunarEclipseRows}}}},
                   WithoutReturns("Solar\n" + solar + "Lunar\n" + lunar));
+}
+
+std::optional<double> HoursOf(const std::string& zone) {
+    if (zone.empty()) {
+        return std::nullopt;
+    }
+    const std::string wrong = NumberFrom(-12.0, 12.0)(zone);
+    if (!wrong.empty()) {
+        RefuseUsage("--zone: " + wrong);
+    }
+    return TextToNumber(zone);
+}
+
+void PrintAnyEclipses(Session& session, EclipseOptions& options) {
+    if (!options.local) {
+        PrintEclipses(session, options.told);
+        return;
+    }
+    options.place.zone = HoursOf(options.told.zone);
+    PrintLocalEclipses(session, options.place, options.told.year);
 }
 
 /// The signed degrees and minutes of a coordinate without seconds.
@@ -192,17 +220,44 @@ void PrintMoonrise(Session& session, const RiseOptions& options) {
     session.Print({{"rise", texts.rise}, {"set", texts.set}}, texts.rise + "\n" + texts.set + "\n");
 }
 
-void AddYearly(CLI::App& app, Session& session, const char* name, const char* description,
-               void (*print)(Session& session, const PhaseOptions& options)) {
-    auto* command = AddCommand(app, session, name, description);
-    auto options = std::make_shared<PhaseOptions>();
-    command->add_option("--year", options->year, "Gregorian year")
+/// --year and --zone; returns the latter.
+CLI::Option* AddYearAndZone(CLI::App& command, PhaseOptions& options) {
+    command.add_option("--year", options.year, "Gregorian year")
         ->check(CLI::Range(1, 9999))
         ->required();
-    command
-        ->add_option("--zone", options->zone, "Hours east of Greenwich as the settings show them")
-        ->required();
-    command->callback([&session, options, print] { print(session, *options); });
+    return command.add_option("--zone", options.zone,
+                              "Hours east of Greenwich as the settings show them");
+}
+
+void AddMoonCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "moon", "The moon's phases in a year");
+    auto options = std::make_shared<PhaseOptions>();
+    AddYearAndZone(*command, *options)->required();
+    command->callback([&session, options] { PrintMoon(session, *options); });
+}
+
+void AddLocalOptions(CLI::App& command, EclipseOptions& options) {
+    auto* local = command.add_flag("--local", options.local,
+                                   "The eclipses that the sky has, and what of them a place sees");
+    AddWhereOptions(command, options.place);
+    AddTimeZoneOption(command, options.place.rules);
+    for (const char* name :
+         {"--city", "--city-index", "--near", "--latitude", "--longitude", "--time-zone"}) {
+        command.get_option(name)->needs(local);
+    }
+}
+
+void AddEclipsesCommand(CLI::App& app, Session& session) {
+    auto* command = AddCommand(app, session, "eclipses", "Possible eclipses of a year");
+    auto options = std::make_shared<EclipseOptions>();
+    const auto* zone = AddYearAndZone(*command, options->told);
+    AddLocalOptions(*command, *options);
+    command->callback([&session, options, zone] {
+        if (!options->local && zone->count() == 0) {
+            throw CLI::RequiredError("--zone");
+        }
+        PrintAnyEclipses(session, *options);
+    });
 }
 
 void AddMoonriseCommand(CLI::App& app, Session& session) {
@@ -221,8 +276,8 @@ void AddMoonriseCommand(CLI::App& app, Session& session) {
 }  // namespace
 
 void AddMoonCommands(CLI::App& app, Session& session) {
-    AddYearly(app, session, "moon", "The moon's phases in a year", PrintMoon);
-    AddYearly(app, session, "eclipses", "Possible eclipses of a year", PrintEclipses);
+    AddMoonCommand(app, session);
+    AddEclipsesCommand(app, session);
     AddMoonriseCommand(app, session);
 }
 
