@@ -150,7 +150,7 @@ void TranslateSettingsWindow(std::int16_t language) {
         control->SetCaption(TextItem(entry, language));
     }
     form.lblCityBanner.SetCaption(TextItem(TextEntry::kCity, language) + ": " + ActiveCityText);
-    form.SetCaption("Horavex " + TextItem(TextEntry::kSettings, language));
+    form.SetCaption(TextItem(TextEntry::kSettingsTitle, language));
     ListMethods(*HoravexMainForm, language);
     ShowNewLocation();
 }

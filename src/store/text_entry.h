@@ -114,10 +114,11 @@ enum class TextEntry : std::uint16_t {
     kThisComputersClock = 101,
     kUnusableFile = 102,
     kAdjustments = 103,
+    kSettingsTitle = 104,
 };
 
 #pragma GCC diagnostic pop
 
-inline constexpr std::uint16_t kTextEntries = 103;
+inline constexpr std::uint16_t kTextEntries = 104;
 
 }  // namespace horavex

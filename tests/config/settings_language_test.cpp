@@ -51,6 +51,10 @@ TEST_P(SettingsLanguageTest, EveryCaptionIsInTheLanguageOfTheTexts) {
     }
 }
 
+TEST_P(SettingsLanguageTest, TitleIsOneTextOfTheTable) {
+    EXPECT_EQ(HoravexMainForm->Caption(), TextItem(TextEntry::kSettingsTitle, GetParam()));
+}
+
 INSTANTIATE_TEST_SUITE_P(All, SettingsLanguageTest, testing::Values(1, 2, 3, 4, 5));
 
 }  // namespace
