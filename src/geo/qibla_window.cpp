@@ -28,20 +28,26 @@ namespace {
 
 struct DirectionNames {
     std::string_view english;  // in small letters
+    TextEntry entry;           // its names in the other columns of the text table
     const char* arabic;
 };
 
-constexpr DirectionNames kSides[] = {{"east", "الشرق"}, {"west", "الغرب"}};
-constexpr DirectionNames kPoles[] = {{"north", "الشمال"}, {"south", "الجنوب"}};
+constexpr DirectionNames kSides[] = {{"east", TextEntry::kEast, "الشرق"},
+                                     {"west", TextEntry::kWest, "الغرب"}};
+constexpr DirectionNames kPoles[] = {{"north", TextEntry::kNorth, "الشمال"},
+                                     {"south", TextEntry::kSouth, "الجنوب"}};
 
 /// Nothing for a word that is none of the two.
 const char* ArabicName(const DirectionNames (&names)[2], const std::string& word) {
-    const auto* found = std::ranges::find(names, AsciiLower(word), &DirectionNames::english);
+    const auto* found = std::ranges::find_if(names, [&word](const DirectionNames& direction) {
+        return AsciiLower(word) == direction.english ||
+               word == TextItem(direction.entry, ActiveSettings.Language);
+    });
     return found == std::end(names) ? nullptr : found->arabic;
 }
 
 // Goes by the places of the words of "Qibla: 136 degrees, 8 minutes East of North". A sentence
-// without English directions there, from another column of the text table, stays as it is.
+// without a known direction there stays as it is.
 std::string InArabic(const std::string& sentence) {
     const auto words = Split(sentence, ' ');
     const char* side = words.size() > 7 ? ArabicName(kSides, words[5]) : nullptr;

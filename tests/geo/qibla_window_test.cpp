@@ -68,7 +68,15 @@ TEST_F(QiblaWindowTest, ArabicKnowsTheSouth) {
     EXPECT_EQ(form.lblQibla.Caption(), "القبلة: 136 درجة و 8 دقيقة الى الشرق من الجنوب");
 }
 
-TEST_F(QiblaWindowTest, ArabicLeavesASentenceWithoutTheEnglishDirections) {
+TEST_F(QiblaWindowTest, ArabicKnowsTheDirectionsOfTheTextsThatAreInUse) {
+    currentLanguage = "Arabic";
+    ActiveSettings.Language = kArabicColumn;
+    From(30.0, 60.0);
+    ShowQibla();
+    EXPECT_THAT(form.lblQibla.Caption(), testing::HasSubstr("دقيقة الى الغرب من الشمال"));
+}
+
+TEST_F(QiblaWindowTest, ArabicLeavesASentenceWithoutDirectionsThatItKnows) {
     currentLanguage = "Arabic";
     for (const char* sentence :
          {"Qibla: 136 Grad, 8 Minuten Ost von Nord", "Qibla: 64 Grad, 51 Minuten West von Nord",
