@@ -3,6 +3,7 @@
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <utility>
 
 #include "desktop/face/clock_dial.h"
@@ -48,6 +49,18 @@ const TextLine::Look kPlaceLook{13, kGold, Qt::AlignCenter};
 const TextLine::Look kClocksLook{12, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kNextLook{16, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kRemainingLook{24, kGold, Qt::AlignLeading | Qt::AlignVCenter};
+
+/// A date without its weekday as a language writes it, in plain digits and with the day in front,
+/// as all dates of the face: "21. November 2026".
+QString Written(const QDate& date, const QLocale& language) {
+    static const QRegularExpression weekday(QStringLiteral("^dddd[^dMy]*"));
+    QString pattern = language.dateFormat(QLocale::LongFormat).remove(weekday);
+    if (!pattern.startsWith(u'd')) {
+        pattern = QStringLiteral("d MMMM yyyy");
+    }
+    const QString month = u'\'' + language.monthName(date.month()) + u'\'';
+    return QLocale::c().toString(date, pattern.replace(QStringLiteral("MMMM"), month));
+}
 
 }  // namespace
 
@@ -149,27 +162,28 @@ QString FaceView::Value(const char* variable) const {
     return found == values_.end() ? QString() : found->second;
 }
 
+QString FaceView::ToldDateText() const {
+    return Value("_root.myNumber") + u' ' + Value("_root.myMonth") + u' ' + Value("_root.myYear");
+}
+
 QDate FaceView::ToldDate() const {
-    return QLocale::c().toDate(
-        Value("_root.myNumber") + u' ' + Value("_root.myMonth") + u' ' + Value("_root.myYear"),
-        QStringLiteral("d MMMM yyyy"));
+    return QLocale::c().toDate(ToldDateText(), QStringLiteral("d MMMM yyyy"));
 }
 
 void FaceView::ShowDate() {
     const QDate date = ToldDate();
     if (names_ && date.isValid()) {
-        ShowDateNamed(names_->dayName(date.dayOfWeek()), names_->monthName(date.month()));
+        ShowDateAs(names_->dayName(date.dayOfWeek()), Written(date, *names_));
     } else {
-        ShowDateNamed(Value("_root.myDay"), Value("_root.myMonth"));
+        ShowDateAs(Value("_root.myDay"), ToldDateText().trimmed());
     }
 }
 
-void FaceView::ShowDateNamed(const QString& day, const QString& month) {
+void FaceView::ShowDateAs(const QString& day, const QString& date) {
     if (day != day_->text()) {
         day_->setText(day);
     }
-    const QString date = Value("_root.myNumber") + u' ' + month + u' ' + Value("_root.myYear");
-    date_->ShowText(date.trimmed());
+    date_->ShowText(date);
 }
 
 void FaceView::ShowHijriDate() {

@@ -72,9 +72,10 @@ private:
     QString Value(const char* variable) const;
     void Tell(const char* command);
 
+    QString ToldDateText() const;
     QDate ToldDate() const;
     void ShowDate();
-    void ShowDateNamed(const QString& day, const QString& month);
+    void ShowDateAs(const QString& day, const QString& date);
     void ShowHijriDate();
     void ShowNext();
     void ShowRemaining();

@@ -19,13 +19,6 @@ double WidthOf(const QFont& font, const QString& text) {
     return QFontMetricsF(font).horizontalAdvance(text);
 }
 
-// In a text that runs from right to left a time keeps its parts together in their own order:
-// "2:36:00 PM" and not "PM 2:36:00".
-QString WithTimesIsolated(QString text) {
-    static const QRegularExpression time(QStringLiteral(R"((\d[\d:.]*(?: [A-Za-z.]+)?))"));
-    return text.replace(time, QStringLiteral("\u2066\\1\u2069"));
-}
-
 QFont Fitted(QFont font, const QString& text, double width) {
     const double wanted = WidthOf(font, text);
     if (wanted > width) {
@@ -36,6 +29,12 @@ QFont Fitted(QFont font, const QString& text, double width) {
 }
 
 }  // namespace
+
+QString WithTimesIsolated(QString text) {
+    static const QRegularExpression time(
+        QStringLiteral(R"(((?:[A-Za-z]+ )*\d[\d:.]*(?: [A-Za-z.]+)?))"));
+    return text.replace(time, QStringLiteral("\u2066\\1\u2069"));
+}
 
 Qt::LayoutDirection DirectionOf(const QString& text) {
     return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;

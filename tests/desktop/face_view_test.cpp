@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 
 #include "desktop/face/compass.h"
+#include "desktop/face/fitted_text.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
@@ -86,6 +87,13 @@ TEST_F(FaceTest, EachVariableShows) {
     EXPECT_EQ(window.findChild<QWidget*>("compass")->accessibleName(), "136°");
     EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith(
         "Fajr 04:56 AM, Shurooq "));
+}
+
+TEST(FaceText, TimeAndTheLatinWordsBeforeItStayTogetherInArabic) {
+    EXPECT_EQ(WithTimesIsolated(QStringLiteral("الأذان التالي: Fajr at 5:18:12 AM")),
+              QStringLiteral("الأذان التالي: \u2066Fajr at 5:18:12 AM\u2069"));
+    EXPECT_EQ(WithTimesIsolated(QStringLiteral("العصر الساعة 2:36:00 PM")),
+              QStringLiteral("العصر الساعة \u20662:36:00 PM\u2069"));
 }
 
 TEST_F(FaceTest, RowOfTheNextPrayerIsMarkedWhateverTheSentenceSays) {
@@ -260,7 +268,18 @@ TEST_F(FaceInAPackTest, NamesFollowThePackThatComesWithNewCaptions) {
     language = QLocale(QStringLiteral("de"));
     face.SetVariable("prayer_time", "Gebetszeiten");
     EXPECT_EQ(Day(), "Samstag");
-    EXPECT_EQ(FirstLine(), "21 November 2026");
+    EXPECT_EQ(FirstLine(), "21. November 2026");
+}
+
+TEST_F(FaceInAPackTest, DateIsWrittenAsTheLanguageWritesItWithTheDayInFront) {
+    TellArabic(face);
+    const std::pair<const char*, const char*> dates[] = {
+        {"es", "21 de noviembre de 2026"}, {"fr", "21 novembre 2026"}, {"en", "21 November 2026"}};
+    for (const auto& [code, date] : dates) {
+        language = QLocale(QString::fromUtf8(code));
+        face.SetVariable("prayer_time", "x");
+        EXPECT_EQ(FirstLine().toStdString(), date);
+    }
 }
 
 TEST_F(FaceInAPackTest, NamesFollowTheDate) {
