@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <memory>
 #include <optional>
 
+#include "base/int16.h"
+#include "base/text.h"
 #include "ctl/basis.h"
 #include "ctl/calculation.h"
 #include "ctl/document_fonts.h"
@@ -11,6 +14,7 @@
 #include "store/settings_record.h"
 #include "store/stored_values.h"
 #include "timetables/timetable_file.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
 
@@ -25,9 +29,21 @@ struct ExportOptions {
     std::optional<std::string> language;
 };
 
+/// The column of the numbered texts, which the text pages speak, by the name of a pack. Nothing for
+/// a pack whose language the texts do not have.
+std::optional<std::int16_t> TextColumnOf(const std::string& pack) {
+    const auto& languages = HoravexMainForm->lstLanguage.Items();
+    const auto found = std::ranges::find_if(
+        languages, [&pack](const std::string& name) { return EqualsIgnoringCase(name, pack); });
+    return found == languages.end()
+               ? std::nullopt
+               : std::optional(ToInt16(static_cast<int>(found - languages.begin()) + 1));
+}
+
 /// What is written is told of the accepted settings.
-void Accept() {
+void Accept(std::int16_t textColumn) {
     ActiveSettings = Settings;
+    ActiveSettings.Language = textColumn;
     ActiveIshaAngle = IshaAngle;
     ActiveLocation = Location;
     ActiveCityText = CityText;
@@ -50,8 +66,10 @@ void RunExport(Session& session, const ExportOptions& options) {
         RefuseUsage("--json and the timetable cannot both go to the standard output");
     }
     currentLanguage = options.language.value_or(ReadStoredLanguage());
+    const auto column = TextColumnOf(options.language.value_or(""));
+    Settings.Language = column.value_or(Settings.Language);
     ApplyPlace(options.place, DateSerial(options.year, 1, 1));
-    Accept();
+    Accept(column.value_or(Settings.Language));
     Calculate(session, options.year);
     if (session.status == kDone) {
         Write(session, options);

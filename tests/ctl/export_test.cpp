@@ -121,6 +121,14 @@ TEST_F(CtlExport, TextIsThePagesOfTheLinePrinter) {
     EXPECT_THAT(pages.at(8), HasSubstr("End of"));
 }
 
+TEST_F(CtlExport, TextSpeaksTheLanguageAskedFor) {
+    const std::string page = Exported("text", " --language french");
+    EXPECT_THAT(page, HasSubstr("Latitude: 30 degrés, 3 minutes Nord\r\n"));
+    EXPECT_THAT(page, HasSubstr("Qibla: 136 degrés, 13 minutes Est du Nord (première méthode)"));
+    EXPECT_THAT(page, HasSubstr("Fuseau horaire: GMT +2.00\r\n"));
+    EXPECT_THAT(Exported("text", " --language Elvish"), HasSubstr("Time Zone: GMT +2.00\r\n"));
+}
+
 TEST_F(CtlExport, HtmlSpeaksTheLanguageAskedFor) {
     EXPECT_THAT(Exported("html", " --language Arabic"),
                 StartsWith("<!DOCTYPE html>\n<html lang=\"ar\" dir=\"rtl\">"));
