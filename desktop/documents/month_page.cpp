@@ -7,9 +7,7 @@
 #include <QRawFont>
 #include <QTextLayout>
 
-#include "base/number_text.h"
 #include "base/rounding.h"
-#include "engine/moment_text.h"
 
 namespace horavex {
 
@@ -36,10 +34,6 @@ const QColor kRule(0xb9, 0xc3, 0xcf);
 
 QString Text(const std::string& text) {
     return QString::fromStdString(text);
-}
-
-QString Degrees(double degrees) {
-    return Text(NumberToText(degrees)) + QChar(0xB0);
 }
 
 /// A line of text as outlines. A painter that records for a preview would lay each piece of it out
@@ -144,11 +138,11 @@ private:
         top_ += height;
     }
 
-    /// A name and a value, which runs from left to right in every language.
-    static QString Fact(const std::string& name, const QString& value) {
-        static const QChar kLeftToRight(0x2066);
-        static const QChar kEnd(0x2069);
-        return Text(name) + QStringLiteral(": ") + kLeftToRight + value + kEnd;
+    /// A name and a value with a direction of its own: from left to right unless it has words.
+    QString Fact(const std::string& name, const std::string& value) const {
+        static const QChar kIsolate(0x2068);
+        static const QChar kEndIsolate(0x2069);
+        return Text(name + Words().colon) + kIsolate + Text(value) + kEndIsolate;
     }
 
     static QString Joined(const QStringList& facts) { return facts.join(QStringLiteral("     ")); }
@@ -159,16 +153,16 @@ private:
         WriteLine(Text(Words().title + " - " + Words().MonthTitle(table.year, month_)), kTitleSize,
                   true, kAccent);
         WriteLine(Text(table.place), kPlaceSize, true);
-        WriteLine(Joined({Fact(Words().latitude, Degrees(table.latitude)),
-                          Fact(Words().longitude, Degrees(table.longitude)),
-                          Fact(Words().zone, Text(ZoneText(table)))}),
+        WriteLine(Joined({Fact(Words().latitude, Words().DegreesIn(table.latitude)),
+                          Fact(Words().longitude, Words().DegreesIn(table.longitude)),
+                          Fact(Words().zone, ZoneFact(table, Words()))}),
                   kTextSize, false);
-        WriteLine(Joined({Fact(Words().fajrAngle, Degrees(table.fajrAngle)),
-                          Fact(ishaName, Text(ishaValue)),
-                          Fact(Words().asrRatio, Text(NumberToText(table.asrRatio) + ":1"))}),
+        WriteLine(Joined({Fact(Words().fajrAngle, Words().DegreesIn(table.fajrAngle)),
+                          Fact(ishaName, ishaValue),
+                          Fact(Words().asrRatio, Words().NumberIn(table.asrRatio) + ":1")}),
                   kTextSize, false);
-        WriteLine(Fact(Words().qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))), kTextSize,
-                  false);
+        WriteLine(Fact(Words().qibla, Words().DegreesIn(RoundToPlaces(table.qiblaDegrees, 1))),
+                  kTextSize, false);
         top_ += LineHeight(kTextSize) / 2.0;
     }
 
@@ -233,7 +227,8 @@ private:
         Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
         int column = 2;
         for (const auto& moment : day.Columns()) {
-            WriteFitted(Cell(column++, height), moment ? Text(MomentCell(*moment)) : QString());
+            WriteFitted(Cell(column++, height),
+                        moment ? Text(Words().TimeIn(day, *moment)) : QString());
         }
     }
 
@@ -243,8 +238,8 @@ private:
             if (day.change != DaylightChange::kNone) {
                 const bool begins = day.change == DaylightChange::kBegins;
                 WriteLine(QStringLiteral("* ") + QString::number(CivilFromDate(day.date).day) +
-                              QStringLiteral(": ") +
-                              Text(begins ? Words().daylightBegins : Words().daylightEnds),
+                              Text(Words().colon +
+                                   (begins ? Words().daylightBegins : Words().daylightEnds)),
                           kTextSize, false);
             }
         }

@@ -53,8 +53,9 @@ void WritePdf(const std::string& path, const PrintedYear& year) {
         writer.setResolution(kDotsPerInch);
         writer.setPageLayout(LayoutOf(year.paper));
         writer.setCreator(QStringLiteral("Horavex"));
-        writer.setTitle(QString::fromStdString(
-            year.words.title + " " + std::to_string(year.table.year) + ", " + year.table.place));
+        writer.setTitle(QString::fromStdString(year.words.title + " " +
+                                               std::to_string(year.table.year) + year.words.comma +
+                                               year.table.place));
         DrawPages(writer, year);
     }
     const QByteArray& bytes = buffer.data();

@@ -46,9 +46,13 @@ std::string MomentText(const Moment& moment) {
     return WithMarks(ClockText(moment), moment);
 }
 
-std::string MomentCell(const Moment& moment) {
+std::string CellWithMarks(const std::string& clock, const Moment& moment) {
     const char* shift = IsOnNextDay(moment) ? "+1" : IsOnPreviousDay(moment) ? "-1" : "";
-    return ClockText(moment) + shift + (HasDagger(moment) ? kRuleMark : "");
+    return clock + shift + (HasDagger(moment) ? kRuleMark : "");
+}
+
+std::string MomentCell(const Moment& moment) {
+    return CellWithMarks(ClockText(moment), moment);
 }
 
 std::string RuleName(HighLatitudeRule rule) {

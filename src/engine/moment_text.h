@@ -24,6 +24,7 @@ std::string WithMarks(const std::string& clock, const Moment& moment);
 std::string MomentText(const Moment& moment);
 
 /// The same in short, for columns: "12:14 AM+1†".
+std::string CellWithMarks(const std::string& clock, const Moment& moment);
 std::string MomentCell(const Moment& moment);
 
 std::string RuleName(HighLatitudeRule rule);

@@ -49,10 +49,11 @@ std::vector<std::string> OtherKeys() {
 
 /// What a written timetable says; its months and weekdays are numbered.
 std::vector<std::string> TimetableKeys() {
-    std::vector<std::string> keys = {"Code",      "Direction", "Title",     "Day",
-                                     "Hijri",     "Latitude",  "Longitude", "Zone",
-                                     "FajrAngle", "IshaAngle", "AsrRatio",  "Qibla",
-                                     "Begins",    "Ends",      "MonthPage", "YearPage"};
+    std::vector<std::string> keys = {
+        "Code",      "Direction", "Title",       "Day",       "Hijri",      "Latitude",
+        "Longitude", "Zone",      "FajrAngle",   "IshaAngle", "AsrRatio",   "Qibla",
+        "Begins",    "Ends",      "MonthPage",   "YearPage",  "MonthTitle", "DayTitle",
+        "Colon",     "Comma",     "DecimalMark", "Clock"};
     keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);

@@ -2,9 +2,7 @@
 
 #include <string_view>
 
-#include "base/number_text.h"
 #include "base/rounding.h"
-#include "engine/moment_text.h"
 
 namespace horavex {
 
@@ -21,7 +19,6 @@ section { margin-top: 1.5rem; }
 caption { color: var(--mark); font-size: 1.2rem; font-weight: 600; text-align: start; }
 dl { display: flex; flex-wrap: wrap; gap: .25rem 1.5rem; margin: 0 0 1rem; }
 dl div { display: flex; gap: .4rem; }
-dt::after { content: ":"; }
 dd { margin: 0; font-weight: 600; }
 nav ol { display: flex; flex-wrap: wrap; gap: .25rem .75rem; list-style: none; padding: 0; }
 .wide { overflow-x: auto; }
@@ -64,22 +61,22 @@ std::string Escaped(std::string_view text) {
     return escaped;
 }
 
-/// Name, value: the value runs from left to right in every language.
-std::string Fact(const std::string& name, const std::string& value) {
-    return "<div><dt>" + Escaped(name) + "</dt><dd dir=\"ltr\">" + Escaped(value) + "</dd></div>\n";
-}
-
-std::string Degrees(double degrees) {
-    return NumberToText(degrees) + "°";
+/// Name, value: a value without words runs from left to right in every language.
+std::string Fact(const TimetableWords& words, const std::string& name, const std::string& value) {
+    return "<div><dt>" + Escaped(name + words.colon) + "</dt><dd dir=\"auto\">" + Escaped(value) +
+           "</dd></div>\n";
 }
 
 std::string Facts(const Timetable& table, const TimetableWords& words) {
     const auto [ishaName, ishaValue] = IshaFact(table, words);
-    return "<dl>\n" + Fact(words.latitude, Degrees(table.latitude)) +
-           Fact(words.longitude, Degrees(table.longitude)) + Fact(words.zone, ZoneText(table)) +
-           Fact(words.fajrAngle, Degrees(table.fajrAngle)) + Fact(ishaName, ishaValue) +
-           Fact(words.asrRatio, NumberToText(table.asrRatio) + ":1") +
-           Fact(words.qibla, Degrees(RoundToPlaces(table.qiblaDegrees, 1))) + "</dl>\n";
+    return "<dl>\n" + Fact(words, words.latitude, words.DegreesIn(table.latitude)) +
+           Fact(words, words.longitude, words.DegreesIn(table.longitude)) +
+           Fact(words, words.zone, ZoneFact(table, words)) +
+           Fact(words, words.fajrAngle, words.DegreesIn(table.fajrAngle)) +
+           Fact(words, ishaName, ishaValue) +
+           Fact(words, words.asrRatio, words.NumberIn(table.asrRatio) + ":1") +
+           Fact(words, words.qibla, words.DegreesIn(RoundToPlaces(table.qiblaDegrees, 1))) +
+           "</dl>\n";
 }
 
 std::string MonthId(int month) {
@@ -89,8 +86,8 @@ std::string MonthId(int month) {
 std::string Contents(const Timetable& table, const TimetableWords& words) {
     std::string items;
     for (int month = 1; month <= 12; ++month) {
-        items += "<li><a href=\"#" + MonthId(month) + "\">" +
-                 Escaped(words.months.at(static_cast<std::size_t>(month) - 1)) + "</a></li>\n";
+        items += "<li><a href=\"#" + MonthId(month) + "\">" + Escaped(words.MonthAlone(month)) +
+                 "</a></li>\n";
     }
     return "<nav aria-label=\"" + std::to_string(table.year) + "\"><ol>\n" + items +
            "</ol></nav>\n";
@@ -108,13 +105,14 @@ std::string TableHead(const TimetableDay& day, const TimetableWords& words) {
     return "<thead><tr>" + cells + "</tr></thead>\n";
 }
 
-std::string TimeCell(const TimetableDay& day, const std::optional<Moment>& moment) {
+std::string TimeCell(const TimetableDay& day, const std::optional<Moment>& moment,
+                     const TimetableWords& words) {
     if (!moment) {
         return "<td></td>";
     }
     const DayMinute at = MinuteOf(day.date, moment->hours);
     return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
-           "\" dir=\"auto\">" + Escaped(MomentCell(*moment)) + "</time></td>";
+           "\" dir=\"auto\">" + Escaped(words.TimeIn(day, *moment)) + "</time></td>";
 }
 
 std::string RowAttributes(const TimetableDay& day, Date today) {
@@ -129,7 +127,7 @@ std::string Row(const TimetableDay& day, const TimetableWords& words, Date today
     std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
                         mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
     for (const auto& moment : day.Columns()) {
-        cells += TimeCell(day, moment);
+        cells += TimeCell(day, moment, words);
     }
     return "<tr" + RowAttributes(day, today) + ">" + cells + "</tr>\n";
 }
@@ -140,7 +138,7 @@ std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& d
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
-            notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + ": " +
+            notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + words.colon +
                      Escaped(begins ? words.daylightBegins : words.daylightEnds) + "</p>\n";
         }
     }
@@ -173,7 +171,7 @@ std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, D
     return "<!DOCTYPE html>\n<html lang=\"" + Escaped(words.code) + "\" dir=\"" +
            (words.rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n" +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           title + ", " + Escaped(table.place) + "</title>\n<style>" + kStyle +
+           title + words.comma + Escaped(table.place) + "</title>\n<style>" + kStyle +
            "</style>\n</head>\n<body>\n<header>\n<h1>" + title + "</h1>\n<p class=\"place\"><bdi>" +
            Escaped(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
            Contents(table, words) + "<main>\n" + months + "</main>\n</body>\n</html>\n";

@@ -188,7 +188,7 @@ std::string Events(const EventContext& context) {
 }  // namespace
 
 std::string IcsTimetable(const Timetable& table, const TimetableWords& words, Date stamp) {
-    const std::string name = words.title + ", " + table.place;
+    const std::string name = words.title + words.comma + table.place;
     return Line("BEGIN:VCALENDAR") + Line("VERSION:2.0") +
            Line("PRODID:-//Horavex//Prayer times//EN") + Line("CALSCALE:GREGORIAN") +
            Line("X-WR-CALNAME:" + EscapedText(name)) +

@@ -69,7 +69,7 @@ std::string Footnotes(const std::vector<TimetableDay>& days) {
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
-            notes.push_back("* " + DayText(day) + ": " +
+            notes.push_back("* " + DayText(day) + shown->words.colon +
                             (begins ? shown->words.daylightBegins : shown->words.daylightEnds));
         }
     }
@@ -144,9 +144,8 @@ std::string TimeInLine(const std::optional<Moment>& moment) {
 /// One day in a line: both dates and all times.
 void TellDay(std::size_t row) {
     const TimetableDay& day = shown->table.days.at(row);
-    const CivilDate date = CivilFromDate(day.date);
-    std::string line = DayText(day) + " " + shown->words.MonthTitle(date.year, date.month) + ", " +
-                       shown->words.HijriText(day.hijri);
+    std::string line =
+        shown->words.DayTitle(day.date) + shown->words.comma + shown->words.HijriText(day.hijri);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         line += "   " + shown->words.prayers.at(prayer) + " " + TimeInLine(day.moments.at(prayer));
     }

@@ -49,11 +49,12 @@ void ShowNote(double day) {
 void ShowAround(double day) {
     const bool shown = ReadOption(option::kAroundTheDay) == 1;
     const AroundMoments moments = shown ? AroundOfRow(RowOfDay(day)) : AroundMoments();
+    const std::string colon = GetLangString("timetables", "Colon", ": ");
     std::string line;
     for (std::size_t time = 0; shown && time < kAroundCount; ++time) {
         const Moment& moment = moments.at(time);
         const std::string name = AroundName(time);
-        line += (line.empty() ? "" : "   ") + name + ": " + KeptTogether(MomentText(moment), name);
+        line += (line.empty() ? "" : "   ") + name + colon + KeptTogether(MomentText(moment), name);
     }
     frmTimes->lblTimesAround.SetCaption(line);
     frmTimes->lblTimesAround.SetVisible(shown);

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "base/number_text.h"
 #include "base/rounding.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
@@ -130,11 +129,6 @@ std::vector<std::string> NotesOfDays(const Timetable& table,
         }
     }
     return ColumnNotes(moments, table.highLatitude);
-}
-
-std::string ZoneText(const Timetable& table) {
-    return "GMT " + SignedFixedText(table.timeZone) +
-           (table.zoneName.empty() ? "" : ", " + table.zoneName);
 }
 
 std::vector<TimetableDay> DaysOfMonth(const Timetable& table, int month) {

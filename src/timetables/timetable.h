@@ -65,9 +65,6 @@ double OffsetOf(const Timetable& table, const TimetableDay& day, Date local);
 /// What the marks beside the times of some days mean, a line each.
 std::vector<std::string> NotesOfDays(const Timetable& table, const std::vector<TimetableDay>& days);
 
-/// The hours of the zone, and its name where it has one: "GMT +1.00, Europe/Oslo".
-std::string ZoneText(const Timetable& table);
-
 /// The hour of a prayer in whole minutes, as every display shows it: rounded to the second, the
 /// seconds then dropped. An hour of 24 or more lies on the day after.
 struct DayMinute {

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "calendar/date_words.h"
 #include "engine/moment_text.h"
+#include "lang/filled_text.h"
 #include "lang/language_pack.h"
 
 namespace horavex {
@@ -37,10 +38,44 @@ void TakeNames(TimetableWords& words) {
     }
 }
 
+void TakeForms(TimetableWords& words) {
+    words.monthPattern = Word("MonthTitle", "{month} {year}");
+    words.dayPattern = Word("DayTitle", "{weekday}, {day} {month} {year}");
+    words.minutesPattern = GetLangString("adjustments", "Minutes", "{minutes} min");
+    words.colon = Word("Colon", ": ");
+    words.comma = Word("Comma", ", ");
+    words.decimalMark = Word("DecimalMark", ".") == "," ? ',' : '.';
+    words.hasClockOf24Hours = Word("Clock", "12") == "24";
+}
+
+/// Languages that write their months small begin them with a letter of ASCII.
+std::string WithCapital(std::string text) {
+    if (!text.empty() && text.front() >= 'a' && text.front() <= 'z') {
+        text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    }
+    return text;
+}
+
+std::string MonthIn(const std::string& pattern, const std::string& month, int year) {
+    return FilledText(FilledText(pattern, "{month}", month), "{year}", std::to_string(year));
+}
+
 }  // namespace
 
+std::string TimetableWords::MonthAlone(int month) const {
+    return WithCapital(months.at(static_cast<std::size_t>(month) - 1));
+}
+
 std::string TimetableWords::MonthTitle(int year, int month) const {
-    return months.at(static_cast<std::size_t>(month) - 1) + " " + std::to_string(year);
+    return MonthIn(monthPattern, MonthAlone(month), year);
+}
+
+std::string TimetableWords::DayTitle(Date date) const {
+    const CivilDate civil = CivilFromDate(date);
+    const std::string& month = months.at(static_cast<std::size_t>(civil.month) - 1);
+    const std::string line =
+        FilledText(MonthIn(dayPattern, month, civil.year), "{day}", std::to_string(civil.day));
+    return WithCapital(FilledText(line, "{weekday}", WeekdayOf(date)));
 }
 
 std::string TimetableWords::HijriText(const HijriDate& date) const {
@@ -59,6 +94,20 @@ std::vector<std::string> TimetableWords::Heads(const TimetableDay& filled) const
         heads.insert(heads.end(), around.begin(), around.end());
     }
     return heads;
+}
+
+std::string TimetableWords::NumberIn(double value) const {
+    return NumberToText(value, decimalMark);
+}
+
+std::string TimetableWords::DegreesIn(double degrees) const {
+    return NumberIn(degrees) + "°";
+}
+
+std::string TimetableWords::TimeIn(const TimetableDay& timesOf, const Moment& moment) const {
+    return hasClockOf24Hours
+               ? CellWithMarks(IsoTime(MinuteOf(timesOf.date, moment.hours).minute), moment)
+               : MomentCell(moment);
 }
 
 TimetableWords TakeTimetableWords() {
@@ -80,20 +129,28 @@ TimetableWords TakeTimetableWords() {
     words.monthPage = Word("MonthPage", "Month");
     words.yearPage = Word("YearPage", "Year");
     TakeNames(words);
+    TakeForms(words);
     return words;
 }
 
+std::string ZoneFact(const Timetable& table, const TimetableWords& words) {
+    return "GMT " + SignedFixedText(table.timeZone, words.decimalMark) +
+           (table.zoneName.empty() ? "" : ", " + table.zoneName);
+}
+
 std::pair<std::string, std::string> IshaFact(const Timetable& table, const TimetableWords& words) {
-    if (table.ishaInterval > 0) {
-        const bool differs = table.ishaIntervalRamadan > 0;
-        const std::string ramadan = differs
-                                        ? " (" + words.hijriMonths[8] + ": " +
-                                              std::to_string(table.ishaIntervalRamadan) + " min)"
-                                        : "";
-        return {words.prayers[kIsha], words.prayers[kMaghrib] + " + " +
-                                          std::to_string(table.ishaInterval) + " min" + ramadan};
+    if (table.ishaInterval == 0) {
+        return {words.ishaAngle, words.DegreesIn(table.ishaAngle)};
     }
-    return {words.ishaAngle, NumberToText(table.ishaAngle) + "°"};
+    const auto minutes = [&words](int count) {
+        return FilledText(words.minutesPattern, "{minutes}", std::to_string(count));
+    };
+    const std::string ramadan =
+        table.ishaIntervalRamadan > 0
+            ? " (" + words.hijriMonths[8] + words.colon + minutes(table.ishaIntervalRamadan) + ")"
+            : "";
+    return {words.prayers[kIsha],
+            words.prayers[kMaghrib] + " + " + minutes(table.ishaInterval) + ramadan};
 }
 
 }  // namespace horavex

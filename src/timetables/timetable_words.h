@@ -37,9 +37,22 @@ struct TimetableWords {
     std::string daylightEnds;
     std::string monthPage;  // pages of the month window
     std::string yearPage;
+    std::string monthPattern;    // "{month} {year}"
+    std::string dayPattern;      // "{weekday}, {day} {month} {year}"
+    std::string minutesPattern;  // "{minutes} min"
+    std::string colon;           // with the blanks around it
+    std::string comma;           // the same
+    char decimalMark;
+    bool hasClockOf24Hours;  // documents do; otherwise they take the user's form of a time
+
+    /// A month by itself, with a capital: "November".
+    std::string MonthAlone(int month) const;
 
     /// "November 2026".
     std::string MonthTitle(int year, int month) const;
+
+    /// "Saturday, 21 November 2026".
+    std::string DayTitle(Date date) const;
 
     /// "11 Jamad Thani 1448".
     std::string HijriText(const HijriDate& date) const;
@@ -48,9 +61,21 @@ struct TimetableWords {
 
     /// The heads of the columns of times that days like this one fill.
     std::vector<std::string> Heads(const TimetableDay& filled) const;
+
+    /// "30.05", with the mark of the language.
+    std::string NumberIn(double value) const;
+
+    /// "30.05°".
+    std::string DegreesIn(double degrees) const;
+
+    /// A time of a day in a document: "05:31 AM+1†", "05:31+1†".
+    std::string TimeIn(const TimetableDay& timesOf, const Moment& moment) const;
 };
 
 TimetableWords TakeTimetableWords();
+
+/// The hours of the zone, and its name where it has one: "GMT +1.00, Europe/Oslo".
+std::string ZoneFact(const Timetable& table, const TimetableWords& words);
 
 /// What Isha goes by, as name and value: "Isha angle", "17.5°"; "Isha", "Maghrib + 90 min".
 std::pair<std::string, std::string> IshaFact(const Timetable& table, const TimetableWords& words);

@@ -120,9 +120,8 @@ void YearChart::DrawMonths(Drawing& drawing) const {
         if (date.day == 1) {
             const double x = X(static_cast<double>(row));
             drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, {kGrid}});
-            drawing.push_back(TextStep{{x + 30.0, Y(24.0) + 90.0},
-                                       words_.months.at(static_cast<std::size_t>(date.month) - 1),
-                                       kInk});
+            drawing.push_back(
+                TextStep{{x + 30.0, Y(24.0) + 90.0}, words_.MonthAlone(date.month), kInk});
         }
     }
 }

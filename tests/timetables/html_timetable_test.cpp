@@ -54,11 +54,11 @@ TEST_F(HtmlTimetableTest, RowTellsTheDayInBothCalendarsAndTheTimesInTheUsersForm
 }
 
 TEST_F(HtmlTimetableTest, IntervalIsToldInThePlaceOfTheAngleThatDoesNotCount) {
-    EXPECT_THAT(Page(), HasSubstr("<dt>Isha angle</dt>"));
+    EXPECT_THAT(Page(), HasSubstr("<dt>Isha angle: </dt>"));
     RuledYear.rules.moments.ishaInterval = 90;
     const std::string page = Page();
     EXPECT_THAT(page, Not(HasSubstr("Isha angle")));
-    EXPECT_THAT(page, HasSubstr("<dt>Isha</dt><dd dir=\"ltr\">Maghrib + 90 min</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>Isha: </dt><dd dir=\"auto\">Maghrib + 90 min</dd>"));
     RuledYear.rules.moments.ishaIntervalRamadan = 120;
     EXPECT_THAT(Page(), testing::ContainsRegex("Maghrib [+] 90 min [(].*: 120 min[)]"));
 }
@@ -105,11 +105,11 @@ TEST_F(HtmlTimetableTest, HeadTellsPlaceMethodAndQibla) {
     EXPECT_THAT(
         page,
         HasSubstr("<h1>Prayer times 2026</h1>\n<p class=\"place\"><bdi>Cairo - Egypt</bdi></p>"));
-    EXPECT_THAT(page, HasSubstr("<dt>Latitude</dt><dd dir=\"ltr\">30.05°</dd>"));
-    EXPECT_THAT(page, HasSubstr("<dt>Time zone</dt><dd dir=\"ltr\">GMT +2.00</dd>"));
-    EXPECT_THAT(page, HasSubstr("<dt>Fajr angle</dt><dd dir=\"ltr\">19.5°</dd>"));
-    EXPECT_THAT(page, HasSubstr("<dt>Asr ratio</dt><dd dir=\"ltr\">1:1</dd>"));
-    EXPECT_THAT(page, HasSubstr("<dd dir=\"ltr\">136.1°</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>Latitude: </dt><dd dir=\"auto\">30.05°</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>Time zone: </dt><dd dir=\"auto\">GMT +2.00</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>Fajr angle: </dt><dd dir=\"auto\">19.5°</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>Asr ratio: </dt><dd dir=\"auto\">1:1</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dd dir=\"auto\">136.1°</dd>"));
 }
 
 TEST_F(HtmlTimetableTest, SpeaksTheLanguageOfThePackInItsDirection) {
@@ -120,6 +120,23 @@ TEST_F(HtmlTimetableTest, SpeaksTheLanguageOfThePackInItsDirection) {
     EXPECT_THAT(page, HasSubstr("<html lang=\"ar\" dir=\"rtl\">"));
     EXPECT_THAT(page, HasSubstr("<caption>يناير 2026</caption>"));
     EXPECT_THAT(page, HasSubstr("<th scope=\"col\">الفجر</th>"));
+}
+
+TEST_F(HtmlTimetableTest, NumbersTimesAndMarksAreWrittenAsThePackWritesThem) {
+    data.Write("lang/French.ini",
+               "[timetables]\nMonth1=janvier\nColon=\"\u00A0: \"\nComma=\" / \"\n"
+               "DecimalMark=,\nClock=24\n[adjustments]\nMinutes={minutes} minutes\n");
+    currentLanguage = "French";
+    RuledYear.rules.moments.ishaInterval = 90;
+    const std::string page = Page();
+    EXPECT_THAT(page, HasSubstr("<dt>Latitude\u00A0: </dt><dd dir=\"auto\">30,05°</dd>"));
+    EXPECT_THAT(page, HasSubstr("GMT +2,00</dd>"));
+    EXPECT_THAT(page, HasSubstr("Maghrib + 90 minutes</dd>"));
+    EXPECT_THAT(page, HasSubstr("<title>Prayer times 2026 / Cairo - Egypt</title>"));
+    EXPECT_THAT(page, HasSubstr(">18:00</time>"));
+    EXPECT_THAT(page, Not(HasSubstr(" PM")));
+    EXPECT_THAT(page, HasSubstr("<a href=\"#month-1\">Janvier</a>"));
+    EXPECT_THAT(page, HasSubstr("<caption>Janvier 2026</caption>"));
 }
 
 TEST_F(HtmlTimetableTest, TextsAreEscapedAndATimeThatDoesNotExistIsAnEmptyCell) {

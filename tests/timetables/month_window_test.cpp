@@ -1,5 +1,7 @@
 #include "timetables/month_window.h"
 
+#include <map>
+
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/ruled_year.h"
@@ -162,14 +164,29 @@ TEST_F(MonthWindowTest, SecondPageIsTheChartWithoutTheMonthsControls) {
 TEST_F(MonthWindowTest, ChartTellsTodayAndThenTheDayUnderThePointer) {
     frmMonth->tabPages.UserSelect(1);
     EXPECT_THAT(frmMonth->lblPointer.Caption(),
-                StartsWith("21 Saturday November 2026, 10 Jamad Thani 1448   Fajr "));
+                StartsWith("Saturday, 21 November 2026, 10 Jamad Thani 1448   Fajr "));
     const Picture& chart = frmMonth->picYear;
     frmMonth->picYear.UserMouseMove({chart.ScaleWidth() - 160.0, chart.ScaleHeight() / 2.0});
-    EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("31 Thursday December 2026, "));
+    EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("Thursday, 31 December 2026, "));
     EXPECT_THAT(frmMonth->lblPointer.Caption(),
                 HasSubstr("   Isha " + platform.formats.MediumTime(Times[kIsha][364] / 24.0)));
     frmMonth->picYear.UserMouseMove({0.0, 0.0});
-    EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("31 Thursday December 2026, "));
+    EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("Thursday, 31 December 2026, "));
+}
+
+TEST_F(MonthWindowTest, DayAndMonthAreWrittenAsTheLanguageWritesThem) {
+    const std::map<std::string, std::pair<std::string, std::string>> titles = {
+        {"French", {"Novembre 2026 - ", "Samedi 21 novembre 2026, "}},
+        {"German", {"November 2026 - ", "Samstag, 21. November 2026, "}},
+        {"Spanish", {"Noviembre de 2026 - ", "Sábado, 21 de noviembre de 2026, "}},
+        {"Arabic", {"نوفمبر 2026 - ", "السبت 21 نوفمبر 2026، "}}};
+    for (const auto& [language, title] : titles) {
+        frmMonth->Unload();
+        currentLanguage = language;
+        ShowMonthWindow();
+        EXPECT_THAT(frmMonth->lblMonth.Caption(), StartsWith(title.first));
+        EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith(title.second));
+    }
 }
 
 TEST_F(MonthWindowTest, TimesKeepTheirOrderInALineThatRunsFromRightToLeft) {

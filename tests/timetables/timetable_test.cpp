@@ -2,6 +2,7 @@
 
 #include "engine/solar_event.h"
 #include "timetables/sample_timetable.h"
+#include "timetables/timetable_words.h"
 
 namespace horavex {
 namespace {
@@ -104,7 +105,7 @@ TEST_F(TimetableModelTest, DaylightSavingIsThatOfTheZoneThatCounts) {
     EXPECT_TRUE(table.days.front().daylight);
     EXPECT_EQ(table.days.front().offset, 11.0);
     EXPECT_EQ(table.timeZone, 10.5);
-    EXPECT_EQ(ZoneText(table), "GMT +10.50, Australia/Lord_Howe");
+    EXPECT_EQ(ZoneFact(table, TakeTimetableWords()), "GMT +10.50, Australia/Lord_Howe");
 }
 
 TEST_F(TimetableModelTest, ZoneMayHaveTwoSpansOfDaylightSaving) {
