@@ -111,23 +111,27 @@ void PrintEclipses(Session& session, const PhaseOptions& options) {
                   WithoutReturns("Solar\n" + solar + "Lunar\n" + lunar));
 }
 
-std::optional<double> HoursOf(const std::string& zone) {
-    if (zone.empty()) {
-        return std::nullopt;
-    }
+/// Hours of a zone by hand, as the other commands take them.
+double HoursOf(const std::string& zone) {
     const std::string wrong = NumberFrom(-12.0, 12.0)(zone);
     if (!wrong.empty()) {
         RefuseUsage("--zone: " + wrong);
     }
-    return TextToNumber(zone);
+    return std::stod(zone);
 }
 
-void PrintAnyEclipses(Session& session, EclipseOptions& options) {
+/// zoned: there is a --zone, which the told lists need.
+void PrintAnyEclipses(Session& session, EclipseOptions& options, bool zoned) {
+    if (!options.local && !zoned) {
+        throw CLI::RequiredError("--zone");
+    }
     if (!options.local) {
         PrintEclipses(session, options.told);
         return;
     }
-    options.place.zone = HoursOf(options.told.zone);
+    if (zoned) {
+        options.place.zone = HoursOf(options.told.zone);
+    }
     PrintLocalEclipses(session, options.place, options.told.year);
 }
 
@@ -252,12 +256,8 @@ void AddEclipsesCommand(CLI::App& app, Session& session) {
     auto options = std::make_shared<EclipseOptions>();
     const auto* zone = AddYearAndZone(*command, options->told);
     AddLocalOptions(*command, *options);
-    command->callback([&session, options, zone] {
-        if (!options->local && zone->count() == 0) {
-            throw CLI::RequiredError("--zone");
-        }
-        PrintAnyEclipses(session, *options);
-    });
+    command->callback(
+        [&session, options, zone] { PrintAnyEclipses(session, *options, zone->count() > 0); });
 }
 
 void AddMoonriseCommand(CLI::App& app, Session& session) {

@@ -104,6 +104,7 @@ constexpr BadCall kRanges[] = {
     {"eclipses --local --year 2101", "1900 to 2100"},
     {"eclipses --local --year 2026 --zone 13", "--zone"},
     {"eclipses --local --year 2026 --zone x", "--zone"},
+    {"eclipses --local --year 2026 --zone ''", "--zone"},
     {"eclipses --local --year 2026 --city Nowhereville", "Nowhereville"},
     {"eclipses --local --year 2026 --zone 3 --time-zone Asia/Riyadh", "--time-zone"},
     {"eclipses --year 2026 --zone 3 --city Mecca", "--local"},
