@@ -39,7 +39,8 @@ TEST_P(HelpAngles, TableOfLatitudesTellsTheLargestAngles) {
     }
 }
 
-constexpr const char* kFromTheLeft = "<td>([0-9]+) to ([0-9]+)</td><td>[^<]+</td><td>([0-9]+)</td>";
+constexpr const char* kFromTheLeft =
+    "<td>([0-9]+)[^0-9<]+([0-9]+)</td><td>[^<]+</td><td>([0-9]+)</td>";
 constexpr const char* kFromTheRight = "<td>([0-9]+)</td><td>[^<]+</td><td>([0-9]+) – ([0-9]+)</td>";
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpAngles,

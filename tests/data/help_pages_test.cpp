@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <map>
 #include <regex>
 #include <set>
 
@@ -38,6 +39,13 @@ class HelpPagesTest : public testing::TestWithParam<std::string> {
 protected:
     static std::string Folder() { return BuiltProgramFolder() + "/help/" + GetParam(); }
     static std::string Text(const std::string& page) { return ContentOf(Folder() + "/" + page); }
+
+    /// What the pack of the language says of its pages.
+    static std::string PackValue(const std::string& key) {
+        const std::string pack = ContentOf(BuiltProgramFolder() + "/lang/" + GetParam() + ".ini");
+        const auto line = Matches(pack, "\n" + key + "=([^\n]*)");
+        return line.empty() ? "" : line[0][1].str();
+    }
 };
 
 TEST(HelpFileTest, KnowsTheNumbersThatButtonsAndWindowsAskFor) {
@@ -94,13 +102,13 @@ TEST_P(HelpPagesTest, IndexLinksToEveryOtherPage) {
 }
 
 TEST_P(HelpPagesTest, PagesAreUtf8SayTheirLanguageAndHaveOneTitle) {
-    const bool isArabic = GetParam() == "Arabic";
+    const std::string start =
+        "<html lang=\"" + PackValue("Code") + "\" dir=\"" + PackValue("Direction") + "\">";
     std::set<std::string> titles;
     for (const std::string& page : Topics().Pages()) {
         const std::string text = Text(page);
         EXPECT_TRUE(IsUtf8(text)) << page;
-        EXPECT_THAT(text, HasSubstr(isArabic ? "<html lang=\"ar\" dir=\"rtl\">"
-                                             : "<html lang=\"en\" dir=\"ltr\">"));
+        EXPECT_THAT(text, HasSubstr(start)) << page;
         EXPECT_THAT(text, HasSubstr("<meta charset=\"utf-8\">"));
         const auto title = Matches(text, "<title>([^<]+)</title>");
         const auto heading = Matches(text, "<h1>([^<]+)</h1>");
@@ -139,49 +147,65 @@ TEST_P(HelpPagesTest, NothingComesFromTheNetwork) {
 /// What users would not expect of the program, in each language's own words.
 struct Surprise {
     const char* page;
-    const char* english;
-    const char* arabic;
+    std::map<std::string, const char*> words;
 };
 
-constexpr Surprise kSurprises[] = {
-    {"settings.html", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound",
-     "<b>صامت</b> و<b>رنين</b>: تظهر النافذة بلا صوت"},
-    {"settings.html", "It comes every day, whether the box is ticked or not",
-     "ويأتي كل يوم سواء أكان المربع معلَّمًا أم لا"},
-    {"settings.html", "the Isha angle and the language stay", "وتبقى زاوية العشاء واللغة كما هما"},
-    {"athan.html", "Without a sound it stays until you press <b>Stop</b>",
-     "وإن لم يكن لها صوت بقيت حتى تضغط زر الإيقاف"},
-    {"athan.html", "when a message or a progress window closes",
-     "حين تُغلق نافذة رسالة أو نافذة تقدم"},
-    {"athan.html", "The third reciter of the other prayers can be listened to and no more",
-     "أما المؤذن الثالث للصلوات الأخرى فيُستمع إليه فقط"},
-    {"athan.html", "The dialogue opens on one of the rare types", "يُفتح مربع الحوار على نوع نادر"},
-    {"athan.html", "At the prayer it is the copy that plays", "النسخة هي التي تُسمع عند الصلاة"},
-    {"dates.html", "The face and the timetables count all their months in that way",
-     "وتُعد أشهر النافذة الرئيسية والجداول كلها بهذا الحساب"},
-    {"index.html", "the button below the compass opens the qibla",
-     "والزر الذي تحت البوصلة يفتح القبلة"},
+const Surprise kSurprises[] = {
+    {"settings.html",
+     {{"Arabic", "<b>صامت</b> و<b>رنين</b>: تظهر النافذة بلا صوت"},
+      {"English", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound"}}},
+    {"settings.html",
+     {{"Arabic", "ويأتي كل يوم سواء أكان المربع معلَّمًا أم لا"},
+      {"English", "It comes every day, whether the box is ticked or not"}}},
+    {"settings.html",
+     {{"Arabic", "وتبقى زاوية العشاء واللغة كما هما"},
+      {"English", "the Isha angle and the language stay"}}},
+    {"athan.html",
+     {{"Arabic", "وإن لم يكن لها صوت بقيت حتى تضغط زر الإيقاف"},
+      {"English", "Without a sound it stays until you press <b>Stop</b>"}}},
+    {"athan.html",
+     {{"Arabic", "حين تُغلق نافذة رسالة أو نافذة تقدم"},
+      {"English", "when a message or a progress window closes"}}},
+    {"athan.html",
+     {{"Arabic", "أما المؤذن الثالث للصلوات الأخرى فيُستمع إليه فقط"},
+      {"English", "The third reciter of the other prayers can be listened to and no more"}}},
+    {"athan.html",
+     {{"Arabic", "يُفتح مربع الحوار على نوع نادر"},
+      {"English", "The dialogue opens on one of the rare types"}}},
+    {"athan.html",
+     {{"Arabic", "النسخة هي التي تُسمع عند الصلاة"},
+      {"English", "At the prayer it is the copy that plays"}}},
+    {"dates.html",
+     {{"Arabic", "وتُعد أشهر النافذة الرئيسية والجداول كلها بهذا الحساب"},
+      {"English", "The face and the timetables count all their months in that way"}}},
+    {"index.html",
+     {{"Arabic", "والزر الذي تحت البوصلة يفتح القبلة"},
+      {"English", "the button below the compass opens the qibla"}}},
 };
 
 TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
     for (const Surprise& surprise : kSurprises) {
         const std::string text = std::regex_replace(Text(surprise.page), std::regex("\\s+"), " ");
-        EXPECT_THAT(text, HasSubstr(GetParam() == "Arabic" ? surprise.arabic : surprise.english));
+        EXPECT_THAT(text, HasSubstr(surprise.words.at(GetParam())));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::Values("Arabic", "English"),
+const std::vector<std::string> kLanguages = {"Arabic", "English"};
+
+INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::ValuesIn(kLanguages),
                          [](const auto& language) { return language.param; });
 
 TEST(HelpLanguagesTest, HaveTheSameShape) {
     for (const std::string& page : Topics().Pages()) {
-        std::vector<std::size_t> counts;
-        for (const char* language : {"Arabic", "English"}) {
+        std::map<std::string, std::size_t> counts;
+        for (const std::string& language : kLanguages) {
             const std::string text =
                 ContentOf(BuiltProgramFolder() + "/help/" + language + "/" + page);
-            counts.push_back(Matches(text, "<(h2|li|tr)>").size());
+            counts[language] = Matches(text, "<(h2|li|tr)>").size();
         }
-        EXPECT_EQ(counts[0], counts[1]) << page;
+        for (const std::string& language : kLanguages) {
+            EXPECT_EQ(counts[language], counts["English"]) << language << " " << page;
+        }
     }
 }
 
