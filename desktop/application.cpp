@@ -10,6 +10,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setDesktopFileName(QStringLiteral("horavex"));
     setWindowIcon(Emblem());
     setQuitOnLastWindowClosed(false);
+    setLayoutDirection(Qt::LeftToRight);  // each window takes its own from its captions
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -3,7 +3,6 @@
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
-#include "desktop/ports/pack_locale.h"
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/ports/qt_formats.h"
@@ -15,6 +14,7 @@
 #include "desktop/ports/qt_whereabouts.h"
 #include "desktop/ports/qt_windows.h"
 #include "desktop/ports/session_watch.h"
+#include "desktop/ports/toolkit_language.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
@@ -48,7 +48,7 @@ private:
     QtDialogs dialogs_;
     RegistryFile registry_;
     InstanceLock instanceLock_;
-    QtFace face_{PackLocale};
+    QtFace face_{SpeakLanguageOfPack};
     FormWindows formWindows_;
     QtWindows windows_;
     QtTray tray_;

@@ -40,7 +40,9 @@ QStringList FiltersOf(const QString& filter) {
 /// The path that the user chooses; empty for none.
 std::string Ask(QFileDialog& dialog, const FileRequest& request) {
     const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
-    dialog.setWindowTitle(QString::fromStdString(request.title));
+    const QString title = QString::fromStdString(request.title);
+    dialog.setWindowTitle(title);
+    dialog.setLayoutDirection(title.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(request.filterIndex - 1));
