@@ -119,7 +119,7 @@ TEST_F(AthanNoticeTest, SpeaksTheLanguageOfThePack) {
     currentLanguage = "German";
     SaveOption(option::kAthanShown, AthanShown::kBoth);
     RunThrough(kAsr);
-    EXPECT_EQ(LastNotice().stopCaption, "Anhalten");
+    EXPECT_EQ(LastNotice().stopCaption, "Stopp");
 }
 
 TEST_F(AthanNoticeTest, CountdownIsInMinutesAndSeconds) {

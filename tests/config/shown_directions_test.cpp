@@ -97,12 +97,12 @@ TEST_F(ShownDirectionsTest, ArabicPackRewritesTheEnglishTexts) {
     EXPECT_EQ(ShownQibla(), "القبلة: 64 درجة و 51 دقيقة الى الغرب من الشمال");
 }
 
-TEST_F(ShownDirectionsTest, ArabicPackKeepsTheArabicTexts) {
+TEST_F(ShownDirectionsTest, ArabicPackKeepsArabicCoordinatesAndGivesDirectionsTheirArticle) {
     currentLanguage = "Arabic";
     Show(3005, 3125, 4);
     EXPECT_EQ(form.lblLocationLat.Caption(), "العرض: 30 درجة, 3 دقيقة شمال");
     EXPECT_EQ(form.lblLocationLon.Caption(), "الطول: 31 درجة, 15 دقيقة شرق");
-    EXPECT_EQ(ShownQibla(), "القبلة: 136 درجة, 13 دقيقة شرق من شمال");
+    EXPECT_EQ(ShownQibla(), "القبلة: 136 درجة و 13 دقيقة الى الشرق من الشمال");
 }
 
 /// The settings window after another language of the texts was chosen in Buenos Aires.

@@ -281,7 +281,7 @@ TEST_F(StartOrderTest, SecondInstanceEndsBehindTheReadsWithItsMessage) {
     LastRefreshDate = 0.0;
     NextPrayer = 5;
     EXPECT_THROW(Start(), ProcessEnded);
-    EXPECT_EQ(Calls(), kReads + "message Horavex est déjà en cours d'exécution.\n");
+    EXPECT_EQ(Calls(), kReads + "message Horavex est déjà en cours d’exécution.\n");
     EXPECT_EQ(LastRefreshDate, platform.clock.Today());
     EXPECT_EQ(NextPrayer, -1);
 }
