@@ -153,34 +153,44 @@ struct Surprise {
 const Surprise kSurprises[] = {
     {"settings.html",
      {{"Arabic", "<b>صامت</b> و<b>رنين</b>: تظهر النافذة بلا صوت"},
-      {"English", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound"}}},
+      {"English", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound"},
+      {"Spanish", "<b>Silencio</b> y <b>Zumbador</b> muestran ambos la ventana sin sonido"}}},
     {"settings.html",
      {{"Arabic", "ويأتي كل يوم سواء أكان المربع معلَّمًا أم لا"},
-      {"English", "It comes every day, whether the box is ticked or not"}}},
+      {"English", "It comes every day, whether the box is ticked or not"},
+      {"Spanish", "Llega todos los días, esté o no marcada la casilla"}}},
     {"settings.html",
      {{"Arabic", "وتبقى زاوية العشاء واللغة كما هما"},
-      {"English", "the Isha angle and the language stay"}}},
+      {"English", "the Isha angle and the language stay"},
+      {"Spanish", "el ángulo del Isha y el idioma se conservan"}}},
     {"athan.html",
      {{"Arabic", "وإن لم يكن لها صوت بقيت حتى تضغط زر الإيقاف"},
-      {"English", "Without a sound it stays until you press <b>Stop</b>"}}},
+      {"English", "Without a sound it stays until you press <b>Stop</b>"},
+      {"Spanish", "Sin sonido, permanece hasta que usted pulsa el botón de detener"}}},
     {"athan.html",
      {{"Arabic", "حين تُغلق نافذة رسالة أو نافذة تقدم"},
-      {"English", "when a message or a progress window closes"}}},
+      {"English", "when a message or a progress window closes"},
+      {"Spanish", "cuando se cierra un mensaje o una ventana de progreso"}}},
     {"athan.html",
      {{"Arabic", "أما المؤذن الثالث للصلوات الأخرى فيُستمع إليه فقط"},
-      {"English", "The third reciter of the other prayers can be listened to and no more"}}},
+      {"English", "The third reciter of the other prayers can be listened to and no more"},
+      {"Spanish", "El tercer almuédano de las demás oraciones solo se puede escuchar"}}},
     {"athan.html",
      {{"Arabic", "يُفتح مربع الحوار على نوع نادر"},
-      {"English", "The dialogue opens on one of the rare types"}}},
+      {"English", "The dialogue opens on one of the rare types"},
+      {"Spanish", "El cuadro de diálogo se abre con uno de los tipos poco comunes"}}},
     {"athan.html",
      {{"Arabic", "النسخة هي التي تُسمع عند الصلاة"},
-      {"English", "At the prayer it is the copy that plays"}}},
+      {"English", "At the prayer it is the copy that plays"},
+      {"Spanish", "En la oración suena la copia"}}},
     {"dates.html",
      {{"Arabic", "وتُعد أشهر النافذة الرئيسية والجداول كلها بهذا الحساب"},
-      {"English", "The face and the timetables count all their months in that way"}}},
+      {"English", "The face and the timetables count all their months in that way"},
+      {"Spanish", "La ventana principal y los horarios calculan todos sus meses de ese modo"}}},
     {"index.html",
      {{"Arabic", "والزر الذي تحت البوصلة يفتح القبلة"},
-      {"English", "the button below the compass opens the qibla"}}},
+      {"English", "the button below the compass opens the qibla"},
+      {"Spanish", "el botón situado bajo la brújula abre la alquibla"}}},
 };
 
 TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
@@ -190,7 +200,7 @@ TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
     }
 }
 
-const std::vector<std::string> kLanguages = {"Arabic", "English"};
+const std::vector<std::string> kLanguages = {"Arabic", "English", "Spanish"};
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::ValuesIn(kLanguages),
                          [](const auto& language) { return language.param; });
