@@ -3,13 +3,13 @@
 #include <functional>
 
 #include "ctl/console_files.h"
+#include "ctl/console_formats.h"
 #include "engine/day_driver.h"
 #include "linux/instance_lock.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
 #include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
-#include "platform/fixed_formats.h"
 #include "platform/fixed_whereabouts.h"
 #include "platform/platform.h"
 
@@ -64,8 +64,7 @@ public:
     void SetFlashVariables() override {}
 };
 
-/// The ports of the command line over the real system, installed as long as it lives. The forms
-/// of dates and times are fixed, so that scripts can rely on them.
+/// The ports of the command line over the real system, installed as long as it lives.
 class ConsolePlatform {
 public:
     ConsolePlatform();
@@ -75,6 +74,7 @@ public:
 
     ConsoleClock clock;
     ConsoleFiles files;
+    ConsoleFormats formats;
 
 private:
     ProgramFolder folder_;
@@ -82,7 +82,6 @@ private:
     InstanceLock instanceLock_;
     ConsoleEventLoop eventLoop_;
     ConsoleDialogs dialogs_;
-    FixedFormats formats_;
     ConsoleHost host_;
     AbsentFace face_;
     AbsentWindows windows_;
@@ -97,7 +96,7 @@ private:
     AbsentNotices notices_;
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
-    Platform platform_{clock,     eventLoop_,    files,      folder_,      formats_,   dialogs_,
+    Platform platform_{clock,     eventLoop_,    files,      folder_,      formats,    dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
                        notices_,  mediaPlayers_, session_};

@@ -70,6 +70,9 @@ void RunExport(Session& session, const ExportOptions& options) {
     Settings.Language = column.value_or(Settings.Language);
     ApplyPlace(options.place, DateSerial(options.year, 1, 1));
     Accept(column.value_or(Settings.Language));
+    if (column && options.format == "text") {
+        session.platform.formats.FollowPack();
+    }
     Calculate(session, options.year);
     if (session.status == kDone) {
         Write(session, options);

@@ -66,8 +66,12 @@ std::string TimetableWords::MonthAlone(int month) const {
     return WithCapital(months.at(static_cast<std::size_t>(month) - 1));
 }
 
+std::string TimetableWords::MonthInLine(int year, int month) const {
+    return MonthIn(monthPattern, months.at(static_cast<std::size_t>(month) - 1), year);
+}
+
 std::string TimetableWords::MonthTitle(int year, int month) const {
-    return MonthIn(monthPattern, MonthAlone(month), year);
+    return WithCapital(MonthInLine(year, month));
 }
 
 std::string TimetableWords::DayTitle(Date date) const {

@@ -48,6 +48,9 @@ struct TimetableWords {
     /// A month by itself, with a capital: "November".
     std::string MonthAlone(int month) const;
 
+    /// A month inside a line of words: "november 2026" where the language writes it small.
+    std::string MonthInLine(int year, int month) const;
+
     /// "November 2026".
     std::string MonthTitle(int year, int month) const;
 

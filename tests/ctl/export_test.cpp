@@ -14,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
@@ -125,7 +126,10 @@ TEST_F(CtlExport, TextSpeaksTheLanguageAskedFor) {
     const std::string page = Exported("text", " --language french");
     EXPECT_THAT(page, HasSubstr("Latitude: 30 degrés, 3 minutes Nord\r\n"));
     EXPECT_THAT(page, HasSubstr("Qibla: 136 degrés, 13 minutes Est du Nord (première méthode)"));
-    EXPECT_THAT(page, HasSubstr("Fuseau horaire: GMT +2.00\r\n"));
+    EXPECT_THAT(page, HasSubstr("Fuseau horaire: GMT +2,00\r\n"));
+    EXPECT_THAT(page, HasSubstr("Horaires de prière pour janvier 2026."));
+    EXPECT_THAT(page, HasSubstr("   11:59   "));
+    EXPECT_THAT(page, Not(HasSubstr("AM")));
     EXPECT_THAT(Exported("text", " --language Elvish"), HasSubstr("Time Zone: GMT +2.00\r\n"));
 }
 
