@@ -1,5 +1,6 @@
 // What the help sets in bold is what windows show: a caption, a text or a part of one.
 
+#include <ostream>
 #include <regex>
 #include <set>
 
@@ -15,6 +16,8 @@ namespace {
 struct HelpLanguage {
     std::string name;
     std::int16_t column;  // of the text table
+
+    friend void PrintTo(const HelpLanguage& language, std::ostream* out) { *out << language.name; }
 };
 
 struct HelpCaptions : BuiltData, testing::WithParamInterface<HelpLanguage> {
