@@ -1,6 +1,15 @@
 #include "desktop/face/azan_face.h"
 
+#include "lang/language_pack.h"
+
 namespace horavex {
+
+void AzanFace::SetVariable(const std::string& name, const std::string& value) {
+    PaintedFace::SetVariable(name, value);
+    if (AzanView* view = LoadedView()) {
+        view->NameStop(QString::fromStdString(GetLangString("notices", "Stop", "Stop")));
+    }
+}
 
 void AzanFace::Fill(QWidget& window) {
     window.setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);

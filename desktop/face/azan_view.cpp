@@ -31,9 +31,7 @@ const TextLine::Look kTextLook{20, kCream, Qt::AlignCenter};
 /// The square that means stop in every language.
 class StopButton : public FaceButton {
 public:
-    explicit StopButton(QWidget* parent) : FaceButton(parent) {
-        setAccessibleName(QStringLiteral("Stop"));
-    }
+    explicit StopButton(QWidget* parent) : FaceButton(parent) {}
 
 protected:
     void PaintFace(QPainter& painter) override {
@@ -70,14 +68,14 @@ void DrawRays(QPainter& painter) {
 
 }  // namespace
 
-AzanView::AzanView() : text_(new TextLine(this, kTextLook)) {
+AzanView::AzanView() : text_(new TextLine(this, kTextLook)), stop_(new StopButton(this)) {
     setFixedSize(kFace.size());
     setContextMenuPolicy(Qt::PreventContextMenu);
     text_->setGeometry(kText);
-    auto* stop = new StopButton(this);
-    stop->setObjectName(QStringLiteral("IDC_FS_Stop"));
-    stop->setGeometry(kStop);
-    connect(stop, &QAbstractButton::clicked, this, [this] {
+    NameStop(QStringLiteral("Stop"));
+    stop_->setObjectName(QStringLiteral("IDC_FS_Stop"));
+    stop_->setGeometry(kStop);
+    connect(stop_, &QAbstractButton::clicked, this, [this] {
         if (onCommand) {
             onCommand("IDC_FS_Stop");
         }
@@ -88,6 +86,11 @@ void AzanView::SetVariable(const std::string& name, const QString& value) {
     if (name == "_root.character_textField") {
         text_->ShowText(value);
     }
+}
+
+void AzanView::NameStop(const QString& name) {
+    stop_->setAccessibleName(name);
+    stop_->setToolTip(name);
 }
 
 void AzanView::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -17,6 +18,9 @@ public:
     /// Takes a value over; a variable that the face does not have is ignored.
     void SetVariable(const std::string& name, const QString& value);
 
+    /// Names the button to stop, for assistive tools and whoever points at it.
+    void NameStop(const QString& name);
+
     /// What the user asks for.
     std::function<void(const std::string& command)> onCommand;
 
@@ -25,6 +29,7 @@ protected:
 
 private:
     TextLine* text_;
+    QAbstractButton* stop_;
 };
 
 }  // namespace horavex

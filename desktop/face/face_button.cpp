@@ -82,9 +82,7 @@ void CaptionButton::PaintFace(QPainter& painter) {
                Type(), text());
 }
 
-SignButton::SignButton(QWidget* parent, Sign sign) : FaceButton(parent), sign_(sign) {
-    setAccessibleName(sign == Sign::kClose ? QStringLiteral("Close") : QStringLiteral("Minimize"));
-}
+SignButton::SignButton(QWidget* parent, Sign sign) : FaceButton(parent), sign_(sign) {}
 
 void SignButton::PaintFace(QPainter& painter) {
     const QRectF sign = QRectF(rect()).adjusted(8.0, 8.0, -8.0, -8.0);

@@ -107,8 +107,9 @@ void FaceView::MakeButtons() {
          {"_root.help", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_help")}}};
     allTimes_ = Place(new CaptionButton(this, Look::kOutlined), kAllTimes, "IDC_FS_allTimes");
     qibla_ = Place(new CaptionButton(this, Look::kOutlined), kQibla, "IDC_FS_Qibla");
-    Place(new SignButton(this, SignButton::Sign::kMinimise), kMinimise, "IDC_FS_minimize");
-    Place(new SignButton(this, SignButton::Sign::kClose), kClose, "IDC_FS_close");
+    minimise_ =
+        Place(new SignButton(this, SignButton::Sign::kMinimise), kMinimise, "IDC_FS_minimize");
+    close_ = Place(new SignButton(this, SignButton::Sign::kClose), kClose, "IDC_FS_close");
 }
 
 void FaceView::MakeTexts() {
@@ -146,6 +147,7 @@ void FaceView::ShowDefaults() {
     SetVariable("_root.help", QStringLiteral("Help"));
     SetVariable("qibla", QStringLiteral("Qibla"));
     SetVariable("prayer_time", QStringLiteral("Prayer Times"));
+    NameSigns(QStringLiteral("Minimize"), QStringLiteral("Close"));
     clock_->ShowTime(now_());
 }
 
@@ -212,6 +214,13 @@ void FaceView::ShowPlace(const QString& place, const QString& clocks) {
 void FaceView::ExplainTimes(const QString& note) {
     times_->setToolTip(note);
     times_->setAccessibleDescription(note);
+}
+
+void FaceView::NameSigns(const QString& minimise, const QString& close) {
+    for (const auto& [button, name] : {std::pair(minimise_, minimise), std::pair(close_, close)}) {
+        button->setAccessibleName(name);
+        button->setToolTip(name);
+    }
 }
 
 void FaceView::ShowBearing() {

@@ -16,6 +16,7 @@ namespace horavex {
 class CaptionButton;
 class ClockDial;
 class Compass;
+class SignButton;
 class TextLine;
 class TimesView;
 struct PrayerEntry;
@@ -42,6 +43,9 @@ public:
 
     /// What the marks beside the times mean, for whoever points at them; empty without marks.
     void ExplainTimes(const QString& note);
+
+    /// Names the two buttons that bear signs, for assistive tools and whoever points at them.
+    void NameSigns(const QString& minimise, const QString& close);
 
     /// What the user asks for.
     std::function<void(const std::string& command)> onCommand;
@@ -93,6 +97,8 @@ private:
     std::array<MenuButton, 4> menu_;
     CaptionButton* allTimes_;
     CaptionButton* qibla_;
+    SignButton* minimise_;
+    SignButton* close_;
 
     TextLine* date_;
     TextLine* hijriDate_;

@@ -4,6 +4,7 @@
 #include "engine/day_view.h"
 #include "engine/moment_text.h"
 #include "engine/ruled_year.h"
+#include "lang/language_pack.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -21,7 +22,21 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
     return rows;
 }
 
+/// A word of the pack; the key is the English one.
+QString Word(const char* key) {
+    return QString::fromStdString(GetLangString("desktop", key, key));
+}
+
 }  // namespace
+
+// With the last of the captions another language may have come.
+void QtFace::SetVariable(const std::string& name, const std::string& value) {
+    PaintedFace::SetVariable(name, value);
+    FaceView* view = LoadedView();
+    if (view != nullptr && name == "prayer_time") {
+        view->NameSigns(Word("Minimize"), Word("Close"));
+    }
+}
 
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {

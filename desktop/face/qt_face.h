@@ -12,6 +12,7 @@ class QtFace : public PaintedFace<FaceView> {
 public:
     explicit QtFace(FaceView::Language language = {}) : language_(std::move(language)) {}
 
+    void SetVariable(const std::string& name, const std::string& value) override;
     void ShowDay(const DayView& day) override;
 
     /// The layout of its window: frameless, the face alone.

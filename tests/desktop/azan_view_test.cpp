@@ -6,6 +6,7 @@
 
 #include "desktop/face/azan_face.h"
 #include "desktop/form_window_fixture.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
 namespace {
@@ -17,6 +18,7 @@ struct AzanFaceTest : testing::Test {
 
     QString Shown() const { return window.findChild<QLabel*>()->text(); }
 
+    TestPlatform platform;
     QWidget window;
     AzanFace face;
 };
@@ -29,6 +31,14 @@ TEST_F(AzanFaceTest, ShowsTheTextOfItsVariable) {
     EXPECT_EQ(Shown(), "It is time");
     face.SetVariable(kText, "");
     EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(AzanFaceTest, ItsButtonIsNamedInTheLanguageOfThePack) {
+    platform.files.WriteWhole("/program/lang/German.ini", BytesOf("[notices]\nStop=Stopp\n"));
+    currentLanguage = "German";
+    face.LoadMovie(0, "");
+    face.SetVariable(kText, "Es ist Zeit");
+    EXPECT_EQ(window.findChild<QAbstractButton*>("IDC_FS_Stop")->accessibleName(), "Stopp");
 }
 
 TEST_F(AzanFaceTest, DropsWhatIsSetBeforeItIsUp) {

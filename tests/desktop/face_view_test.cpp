@@ -12,6 +12,7 @@
 #include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
 #include "engine/ruled_year.h"
+#include "lang/language_pack.h"
 #include "support/test_platform.h"
 
 namespace horavex {
@@ -280,6 +281,20 @@ TEST_F(FaceInAPackTest, DateIsWrittenAsTheLanguageWritesItWithTheDayInFront) {
         face.SetVariable("prayer_time", "x");
         EXPECT_EQ(FirstLine().toStdString(), date);
     }
+}
+
+TEST_F(FaceInAPackTest, ButtonsWithSignsAreNamedInTheLanguageOfThePack) {
+    const auto name = [this](const char* button) {
+        return view->findChild<QAbstractButton*>(button)->accessibleName().toStdString();
+    };
+    EXPECT_EQ(name("IDC_FS_minimize"), "Minimize");
+    platform.files.WriteWhole("/program/lang/French.ini",
+                              BytesOf("[desktop]\nMinimize=Réduire\nClose=Fermer\n"));
+    currentLanguage = "French";
+    face.SetVariable("prayer_time", "x");
+    EXPECT_EQ(name("IDC_FS_minimize"), "Réduire");
+    EXPECT_EQ(name("IDC_FS_close"), "Fermer");
+    EXPECT_EQ(view->findChild<QAbstractButton*>("IDC_FS_close")->toolTip(), "Fermer");
 }
 
 TEST_F(FaceInAPackTest, NamesFollowTheDate) {
