@@ -8,6 +8,7 @@
 #include "config/city_clock.h"
 #include "config/working_options.h"
 #include "engine/year_table.h"
+#include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -18,9 +19,8 @@ namespace horavex {
 
 namespace {
 
-/// The pack's words of a label that goes on with what the program knows.
-std::string Beginning(const char* label, const char* english) {
-    return GetLangString("frmWizard", label, english) + " ";
+std::string Words(const char* label, const char* english) {
+    return GetLangString("frmWizard", label, english);
 }
 
 /// What the record says of a day.
@@ -43,11 +43,14 @@ void ShowUsualMethod() {
     form.lblUsual.SetVisible(usual != nullptr);
     form.lblNoUsual.SetVisible(usual == nullptr);
     if (usual != nullptr) {
-        form.lblUsual.SetCaption(Beginning("lblUsual", "Usual in") + Location.Country + ": " +
-                                 GetLangString("methods", usual->key, usual->name));
+        const std::string line = FilledText(Words("lblUsual", "Usual in {country}: {method}"),
+                                            "{country}", Location.Country);
+        form.lblUsual.SetCaption(
+            FilledText(line, "{method}", GetLangString("methods", usual->key, usual->name)));
     } else {
-        form.lblNoUsual.SetCaption(Beginning("lblNoUsual", "No usual method is known for") +
-                                   Location.Country);
+        form.lblNoUsual.SetCaption(
+            FilledText(Words("lblNoUsual", "No usual method is known for {country}"), "{country}",
+                       Location.Country));
     }
 }
 
@@ -58,8 +61,9 @@ void ShowRule(HighLatitudeRule rule) {
 
 void ShowInterval(int minutes) {
     WizardForm& form = *frmWizard;
-    form.lblInterval.SetCaption(Beginning("lblInterval", "Isha minutes after Maghrib:") +
-                                std::to_string(minutes));
+    form.lblInterval.SetCaption(
+        FilledText(Words("lblInterval", "Isha {minutes} minutes after Maghrib"), "{minutes}",
+                   std::to_string(minutes)));
     form.lblInterval.SetVisible(minutes > 0);
 }
 

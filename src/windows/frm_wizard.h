@@ -90,9 +90,10 @@ public:
     Label lblPickedCity{Frame2(1), "lblPickedCity", {.caption = "City", .visible = false}};
 
     /// What is usual at the place, and what counts besides the angles.
-    Label lblUsual{Frame2(1), "lblUsual", {.caption = "Usual in"}};
-    Label lblNoUsual{
-        Frame2(1), "lblNoUsual", {.caption = "No usual method is known for", .visible = false}};
+    Label lblUsual{Frame2(1), "lblUsual", {.caption = "Usual in {country}: {method}"}};
+    Label lblNoUsual{Frame2(1),
+                     "lblNoUsual",
+                     {.caption = "No usual method is known for {country}", .visible = false}};
     Label lblRuleMiddle{Frame2(1),
                         "lblRuleMiddle",
                         {.caption = "Fajr and Isha keep to their half of the night, also where the "
@@ -149,8 +150,9 @@ public:
     Label Label6{Frame2(4), "Label6", {.caption = "Max."}};
     Slider hsDepr21{Frame2(4), "hsDepr21", {.max = 4}};
     Label lblDepr1{Frame2(4), "lblDepr1"};
-    Label lblInterval{
-        Frame2(4), "lblInterval", {.caption = "Isha minutes after Maghrib:", .visible = false}};
+    Label lblInterval{Frame2(4),
+                      "lblInterval",
+                      {.caption = "Isha {minutes} minutes after Maghrib", .visible = false}};
     ControlArray<OptionButton> optAsrRatio{
         Frame2(4),
         "optAsrRatio",

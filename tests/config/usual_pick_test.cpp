@@ -95,7 +95,7 @@ TEST_F(UsualPickTest, LaterWizardLeavesTheAthanAlone) {
 TEST_F(UsualPickTest, FinishStoresAllOfThem) {
     Start();
     PickInWizard("riyadh");
-    EXPECT_EQ(wizard.lblInterval.Caption(), "Isha minutes after Maghrib: 90");
+    EXPECT_EQ(wizard.lblInterval.Caption(), "Isha 90 minutes after Maghrib");
     EXPECT_FALSE(wizard.hsDepr2.Enabled());
     Finish();
     EXPECT_EQ(ActiveSettings.FajrAngle, 18.5);

@@ -1,7 +1,9 @@
 // The packs that are shipped, as they lie in the source folder.
 
 #include <map>
+#include <regex>
 #include <set>
+#include <span>
 
 #include "base/text.h"
 #include "base/utf8.h"
@@ -67,6 +69,17 @@ std::string AccessKey(const std::string& caption) {
     return AsciiLower(key);
 }
 
+/// What is filled in: "{time}", "{rule}".
+std::multiset<std::string> MarksOf(const std::string& text) {
+    static const std::regex mark("\\{[a-z]+\\}");
+    std::multiset<std::string> marks;
+    for (std::sregex_iterator at(text.begin(), text.end(), mark); at != std::sregex_iterator();
+         ++at) {
+        marks.insert(at->str());
+    }
+    return marks;
+}
+
 TEST_F(ShippedPacks, AreFiveAndTheMenuNamesThem) {
     BuildLanguageMenu("English");
     std::vector<std::string> captions;
@@ -100,6 +113,19 @@ TEST_F(ShippedPacks, LeaveTheAddressOfTheServerToTheSettings) {
         EXPECT_THAT(Text(language, "msg", "18"), HasSubstr("{address} ")) << language;
         EXPECT_THAT(Text(language, "msg", "20"), HasSubstr("{address}")) << language;
         EXPECT_THAT(Source(language), Not(HasSubstr("://"))) << language;
+    }
+}
+
+TEST_F(ShippedPacks, PatternsHaveTheMarksOfTheEnglishOnes) {
+    std::string section;
+    for (const std::string& line : Split(Source("English"), '\n')) {
+        section = line.starts_with('[') ? line.substr(1, line.size() - 2) : section;
+        const auto marks = MarksOf(line);
+        for (const char* language : marks.empty() ? std::span<const char* const>() : kLanguages) {
+            const std::string key = line.substr(0, line.find('='));
+            EXPECT_EQ(MarksOf(Text(language, section, key)), marks)
+                << language << " [" << section << "] " << key;
+        }
     }
 }
 
