@@ -5,6 +5,7 @@
 #include "ctl/console_files.h"
 #include "ctl/console_formats.h"
 #include "engine/day_driver.h"
+#include "linux/erfa_almanac.h"
 #include "linux/instance_lock.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
@@ -96,10 +97,11 @@ private:
     AbsentNotices notices_;
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
+    ErfaAlmanac almanac_;
     Platform platform_{clock,     eventLoop_,    files,      folder_,      formats,    dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
-                       notices_,  mediaPlayers_, session_};
+                       notices_,  mediaPlayers_, session_,   almanac_};
 };
 
 }  // namespace horavex

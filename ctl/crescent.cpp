@@ -5,7 +5,6 @@
 #include "ctl/crescent_map.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
-#include "linux/erfa_almanac.h"
 #include "sky/first_days.h"
 #include "store/location_record.h"
 #include "timetables/timetable.h"
@@ -124,7 +123,7 @@ void PrintCrescent(Session& session, const CrescentOptions& options) {
     const HijriDate first{options.year, options.month, 1};
     ApplyPlace(options.place, DateFromHijri(first));
     const Lookout lookout{WorkingObserver(), UniversalOfWorking, WorkingOfUniversal};
-    const ErfaAlmanac almanac;
+    const Almanac& almanac = Ports().almanac;
     const MonthEvenings month = EveningsOfMonth(almanac, lookout, options.year, options.month);
     const FirstDays days = FirstDaysOf(month, first);
     const auto map = WriteMap(almanac, month, options.map);

@@ -5,6 +5,7 @@
 #include "ctl/number_range.h"
 #include "ctl/place_options.h"
 #include "engine/angle.h"
+#include "geo/qibla.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
 #include "timetables/timetable.h"
@@ -56,6 +57,13 @@ std::string WorkingTimeText(const std::optional<Date>& universal) {
 
 Observer WorkingObserver() {
     return {StoredCoord(Location.City.Latitude), StoredCoord(Location.City.Longitude)};
+}
+
+double WorkingQibla() {
+    const Observer place = WorkingObserver();
+    const double degrees =
+        RadToDeg(BearingOfMecca(DegToRad(place.latitude), -DegToRad(place.longitude)));
+    return degrees < 0.0 ? degrees + 360.0 : degrees;
 }
 
 void AddPlaceAndClockOptions(CLI::App& command, PlaceOptions& options) {

@@ -35,6 +35,9 @@ std::string WorkingTimeText(const std::optional<Date>& universal);
 /// The working place.
 Observer WorkingObserver();
 
+/// The direction of Mecca from there: degrees from north by east, 0 up to 360.
+double WorkingQibla();
+
 /// The options of a place and of its clock alone: AddWhereOptions, --zone and --time-zone.
 void AddPlaceAndClockOptions(CLI::App& command, PlaceOptions& options);
 

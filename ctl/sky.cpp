@@ -5,8 +5,8 @@
 #include "ctl/date_option.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
-#include "linux/erfa_almanac.h"
 #include "sky/phases.h"
+#include "sky/qibla_by_sun.h"
 #include "sky/sky_day.h"
 #include "store/location_record.h"
 #include "timetables/timetable.h"
@@ -35,6 +35,9 @@ struct SkyView {
     Date now;
     SkyDay day;
     SkyMoment moment;
+    double qibla;  // degrees from north by east
+    DirectionBySun qiblaBySun;
+    std::vector<Date> noonsOverMecca;  // of the year that the place's clock shows
 };
 
 Date ParseAt(const std::string& text) {
@@ -54,7 +57,14 @@ SkySpan DayAround(Date now) {
 
 SkyView ViewAt(const Almanac& almanac, Date now) {
     const Observer here = WorkingObserver();
-    return {now, SkyDayOf(almanac, here, DayAround(now)), SkyMomentAt(almanac, here, now)};
+    const SkySpan day = DayAround(now);
+    const double qibla = WorkingQibla();
+    return {now,
+            SkyDayOf(almanac, here, day),
+            SkyMomentAt(almanac, here, now),
+            qibla,
+            ShownBySun(almanac, here, day, qibla),
+            SunOverMecca(almanac, CivilFromDate(WorkingOfUniversal(now)).year)};
 }
 
 Json BodyJson(const DayArc& arc, const HorizonPlace& place) {
@@ -72,6 +82,21 @@ Json TwilightsJson(const SkyDay& day) {
     return json;
 }
 
+Json InstantsJson(const std::vector<Date>& instants) {
+    Json json = Json::array();
+    for (const Date instant : instants) {
+        json.push_back(WorkingJson(instant));
+    }
+    return json;
+}
+
+Json QiblaJson(const SkyView& view) {
+    return {{"bearing", view.qibla},
+            {"sun", InstantsJson(view.qiblaBySun.sun)},
+            {"shadow", InstantsJson(view.qiblaBySun.shadow)},
+            {"sunOverMecca", InstantsJson(view.noonsOverMecca)}};
+}
+
 Json SkyJson(const SkyView& view) {
     Json moon = BodyJson(view.day.moon, view.moment.moon);
     moon["distance"] = view.moment.moonDistance;
@@ -81,7 +106,8 @@ Json SkyJson(const SkyView& view) {
             {"at", WorkingJson(view.now)},
             {"sun", BodyJson(view.day.sun, view.moment.sun)},
             {"moon", moon},
-            {"twilight", TwilightsJson(view.day)}};
+            {"twilight", TwilightsJson(view.day)},
+            {"qibla", QiblaJson(view)}};
 }
 
 std::string BodyText(const char* name, const DayArc& arc, const HorizonPlace& place) {
@@ -102,6 +128,25 @@ std::string TwilightsText(const SkyDay& day) {
     return text;
 }
 
+std::string TimesText(const std::vector<Date>& instants) {
+    std::string text;
+    for (const Date instant : instants) {
+        text += " " + WorkingTimeText(instant);
+    }
+    return text.empty() ? " --:--" : text;
+}
+
+std::string QiblaBySunText(const SkyView& view) {
+    char degrees[80];
+    std::snprintf(degrees, sizeof degrees, "Qibla  %.1f degrees   sun there", view.qibla);
+    std::string text = degrees + TimesText(view.qiblaBySun.sun) + "   its shadow" +
+                       TimesText(view.qiblaBySun.shadow) + "\nSun over Mecca";
+    for (const Date noon : view.noonsOverMecca) {
+        text += " " + IsoDate(CivilFromDate(WorkingMinuteOf(noon))) + " " + WorkingTimeText(noon);
+    }
+    return text + "\n";
+}
+
 std::string SkyText(const SkyView& view) {
     const SkyMoment& moment = view.moment;
     char moon[120];
@@ -110,14 +155,15 @@ std::string SkyText(const SkyView& view) {
                   100.0 * moment.litPart, moment.moonDistance, moment.ahead);
     return CityText + "\n" + WorkingJson(view.now).get<std::string>() + "\n" +
            BodyText("Sun    ", view.day.sun, moment.sun) +
-           BodyText("Moon   ", view.day.moon, moment.moon) + moon + TwilightsText(view.day);
+           BodyText("Moon   ", view.day.moon, moment.moon) + moon + TwilightsText(view.day) +
+           QiblaBySunText(view);
 }
 
 void PrintSky(Session& session, const SkyOptions& options) {
     const std::optional<Date> at = options.at ? std::optional(ParseAt(*options.at)) : std::nullopt;
     ApplyPlace(options.place, at.value_or(Ports().clock.Today()));
     const Date now = at ? UniversalOfWorking(*at) : Ports().clock.UniversalNow();
-    const SkyView view = ViewAt(ErfaAlmanac(), now);
+    const SkyView view = ViewAt(Ports().almanac, now);
     session.Print(SkyJson(view), SkyText(view));
 }
 
@@ -134,7 +180,7 @@ void PrintPhases(Session& session, const PhasesOptions& options) {
     Json phases = Json::array();
     std::string text;
     for (const PhaseInstant& found :
-         PhasesBetween(ErfaAlmanac(), UniversalOfWorking(newYear),
+         PhasesBetween(Ports().almanac, UniversalOfWorking(newYear),
                        UniversalOfWorking(DateSerial(options.year + 1, 1, 1)))) {
         phases.push_back({{"phase", kPhaseKeys[static_cast<int>(found.phase)]},
                           {"local", WorkingJson(found.universal)}});

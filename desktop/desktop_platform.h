@@ -15,6 +15,7 @@
 #include "desktop/ports/qt_windows.h"
 #include "desktop/ports/session_watch.h"
 #include "desktop/ports/toolkit_language.h"
+#include "linux/erfa_almanac.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
@@ -62,10 +63,11 @@ private:
     QtNotices notices_;
     QtMediaPlayers mediaPlayers_;
     SessionWatch session_;
+    ErfaAlmanac almanac_;
     Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,   dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
-                       notices_,  mediaPlayers_, session_};
+                       notices_,  mediaPlayers_, session_,   almanac_};
 };
 
 }  // namespace horavex

@@ -27,16 +27,6 @@ const ProgramStateReset reset([] {
 constexpr double kMeccaLatitude = 0.3739077;         // radians
 constexpr double kMeccaLongitudeWest = -0.69504828;  // radians, west positive
 
-// Both methods that the settings offer are this great circle; the option is kept and has no
-// effect on the number.
-double GreatCircleBearing() {
-    const double D = LongitudeWestRad - kMeccaLongitudeWest;
-    const double y = std::sin(D);
-    const double x =
-        std::tan(kMeccaLatitude) * std::cos(LatitudeRad) - std::cos(D) * std::sin(LatitudeRad);
-    return Atan2Checked(y, x);
-}
-
 std::string BearingSentence(double degrees, std::int16_t language) {
     const auto text = [language](TextEntry entry) { return TextItem(entry, language); };
     const DegreesMinutes split = SplitDegrees(degrees);
@@ -49,9 +39,19 @@ std::string BearingSentence(double degrees, std::int16_t language) {
 
 }  // namespace
 
+// Both methods that the settings offer are this great circle; the option is kept and has no
+// effect on the number.
+double BearingOfMecca(double latitude, double longitudeWest) {
+    const double D = longitudeWest - kMeccaLongitudeWest;
+    const double y = std::sin(D);
+    const double x =
+        std::tan(kMeccaLatitude) * std::cos(latitude) - std::cos(D) * std::sin(latitude);
+    return Atan2Checked(y, x);
+}
+
 void ComputeQibla() {
     if (Settings.QiblaMethod == 1 || Settings.QiblaMethod == 2) {
-        QiblaRad = GreatCircleBearing();
+        QiblaRad = BearingOfMecca(LatitudeRad, LongitudeWestRad);
         QiblaDegrees = RadToDeg(QiblaRad);
     }
     QiblaText = BearingSentence(QiblaDegrees, ActiveSettings.Language);

@@ -18,6 +18,9 @@ extern double QiblaRad;        // radians from north, positive to the east, [-Pi
 extern double QiblaDegrees;    // the same in degrees
 extern std::string QiblaText;  // the sentence, in the language of the accepted settings
 
+/// The bearing from a point, both in radians, north and west positive: radians as QiblaRad.
+double BearingOfMecca(double latitude, double longitudeWest);
+
 /// Works the three values out for the engine's place. A QiblaMethod other than 1 and 2 keeps the
 /// bearing and words it anew.
 void ComputeQibla();

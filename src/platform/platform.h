@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/almanac.h"
 #include "platform/audio_file.h"
 #include "platform/audio_player.h"
 #include "platform/clock.h"
@@ -47,6 +48,7 @@ struct Platform {
     Notices& notices;
     MediaPlayers& mediaPlayers;
     DesktopSession& session;
+    const Almanac& almanac;
 };
 
 /// Installs the ports; nullptr takes them away again.

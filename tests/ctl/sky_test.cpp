@@ -13,7 +13,8 @@ constexpr const char* kPoint = " --latitude 21.42 --longitude 39.83";
 
 TEST(CtlSky, ObjectHasTheAgreedKeys) {
     const Json sky = JsonOf(Ctl(), "sky --city Mecca --at 2026-02-18T18:00:00");
-    EXPECT_THAT(KeysOf(sky), ElementsAre("city", "at", "sun", "moon", "twilight"));
+    EXPECT_THAT(KeysOf(sky), ElementsAre("city", "at", "sun", "moon", "twilight", "qibla"));
+    EXPECT_THAT(KeysOf(sky["qibla"]), ElementsAre("bearing", "sun", "shadow", "sunOverMecca"));
     EXPECT_THAT(KeysOf(sky["sun"]),
                 ElementsAre("rise", "transit", "set", "upAtMidnight", "altitude", "bearing"));
     EXPECT_THAT(KeysOf(sky["moon"]),
@@ -32,6 +33,16 @@ TEST(CtlSky, TellsTheDayOnTheClockOfThePlace) {
                 StartsWith("2026-02-18T05:34:"));
     EXPECT_NEAR(sky["sun"]["altitude"], 3.68, 0.01);
     EXPECT_NEAR(sky["moon"]["litPart"], 0.0146, 0.0003);
+}
+
+TEST(CtlSky, TellsWhenTheSunShowsTheQibla) {
+    const Json qibla = JsonOf(Ctl(), "sky --city London --at 2026-05-28T12:00:00")["qibla"];
+    EXPECT_NEAR(qibla["bearing"], 119.0, 0.1);
+    ASSERT_EQ(qibla["sun"].size(), 1U);
+    EXPECT_THAT(qibla["sun"][0].get<std::string>(), StartsWith("2026-05-28T10:1"));
+    EXPECT_THAT(qibla["sunOverMecca"][0].get<std::string>(), StartsWith("2026-05-28T10:1"));
+    EXPECT_THAT(Ctl().Run("sky --city London --at 2026-05-28T12:00:00").out,
+                HasSubstr("Sun over Mecca 2026-05-28 10:18 2026-07-15 10:27\n"));
 }
 
 TEST(CtlSky, TakesAZoneByHand) {

@@ -5,6 +5,7 @@
 
 #include "base/program_state.h"
 #include "engine/day_driver.h"
+#include "linux/erfa_almanac.h"
 #include "linux/posix_files.h"
 #include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
@@ -67,10 +68,12 @@ private:
     AbsentNotices notices_;
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
-    Platform platform_{
-        clock_,         loop_,        files,      folder,       formats_, dialogs,       registry_,
-        instanceGuard_, face_,        windows_,   tray_,        shell_,   network_,      athanFace_,
-        audioFile_,     audioPlayer_, zoneRules_, whereabouts_, notices_, mediaPlayers_, session_};
+    ErfaAlmanac almanac_;
+    Platform platform_{clock_,       loop_,      files,          folder,     formats_,
+                       dialogs,      registry_,  instanceGuard_, face_,      windows_,
+                       tray_,        shell_,     network_,       athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_,   notices_,   mediaPlayers_,
+                       session_,     almanac_};
 };
 
 }  // namespace horavex

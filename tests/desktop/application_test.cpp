@@ -53,13 +53,13 @@ public:
 TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
     FaultingDialogs dialogs;
     const Platform& ports = Ports();
-    const Platform faulting{ports.clock,         ports.eventLoop,     ports.files,
-                            ports.programFolder, ports.formats,       dialogs,
-                            ports.registry,      ports.instanceGuard, ports.face,
-                            ports.windows,       ports.tray,          ports.shell,
-                            ports.network,       ports.athanFace,     ports.audioFile,
-                            ports.audioPlayer,   ports.zoneRules,     ports.whereabouts,
-                            ports.notices,       ports.mediaPlayers,  ports.session};
+    const Platform faulting{
+        ports.clock,     ports.eventLoop,   ports.files,     ports.programFolder,
+        ports.formats,   dialogs,           ports.registry,  ports.instanceGuard,
+        ports.face,      ports.windows,     ports.tray,      ports.shell,
+        ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
+        ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
+        ports.session,   ports.almanac};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));

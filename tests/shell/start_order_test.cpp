@@ -205,7 +205,8 @@ struct OrderTest : ProgramTest {
                          platform.whereabouts,
                          platform.notices,
                          platform.mediaPlayers,
-                         platform.session};
+                         platform.session,
+                         platform.almanac};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };

@@ -72,7 +72,8 @@ struct PlayerOnAServer : testing::Test {
                          former.whereabouts,
                          former.notices,
                          former.mediaPlayers,
-                         former.session};
+                         former.session,
+                         former.almanac};
 };
 
 }  // namespace horavex

@@ -226,7 +226,8 @@ TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
                          platform.whereabouts,
                          platform.notices,
                          platform.mediaPlayers,
-                         platform.session};
+                         platform.session,
+                         platform.almanac};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linux/erfa_almanac.h"
 #include "platform/failing_files.h"
 #include "platform/fixed_formats.h"
 #include "platform/fixed_whereabouts.h"
@@ -50,12 +51,13 @@ public:
     RecordingNotices notices;
     RecordingMediaPlayers mediaPlayers;
     ScriptedSession session;
+    ErfaAlmanac almanac;
 
 private:
     Platform platform_{clock,    loop,          failingFiles, folder,      formats,   dialogs,
                        registry, instanceGuard, face,         windows,     tray,      shell,
                        network,  athanFace,     audioFile,    audioPlayer, zoneRules, whereabouts,
-                       notices,  mediaPlayers,  session};
+                       notices,  mediaPlayers,  session,      almanac};
 };
 
 }  // namespace horavex

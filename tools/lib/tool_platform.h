@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/absent_desktop.h"
+#include "platform/even_almanac.h"
 #include "platform/fixed_formats.h"
 #include "platform/fixed_whereabouts.h"
 #include "platform/fixed_zone_rules.h"
@@ -55,10 +56,12 @@ private:
     AbsentNotices notices_;
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
-    Platform platform_{
-        clock_,         loop_,        files,      folder_,      formats_, dialogs_,      registry_,
-        instanceGuard_, face_,        windows_,   tray_,        shell_,   network_,      athanFace_,
-        audioFile_,     audioPlayer_, zoneRules_, whereabouts_, notices_, mediaPlayers_, session_};
+    EvenAlmanac almanac_;
+    Platform platform_{clock_,       loop_,      files,          folder_,    formats_,
+                       dialogs_,     registry_,  instanceGuard_, face_,      windows_,
+                       tray_,        shell_,     network_,       athanFace_, audioFile_,
+                       audioPlayer_, zoneRules_, whereabouts_,   notices_,   mediaPlayers_,
+                       session_,     almanac_};
 };
 
 }  // namespace horavex
