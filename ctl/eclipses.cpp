@@ -2,7 +2,6 @@
 
 #include "ctl/eclipse_list.h"
 #include "ctl/place_clock.h"
-#include "linux/erfa_almanac.h"
 #include "sky/local_eclipse.h"
 #include "sky/told_eclipses.h"
 #include "store/location_record.h"
@@ -224,7 +223,7 @@ void RequireAlmanacYear(int year) {
 void PrintLocalEclipses(Session& session, const PlaceOptions& place, int year) {
     RequireAlmanacYear(year);
     ApplyPlace(place, DateSerial(year, 1, 1));
-    const EclipseYear found = YearOf(ErfaAlmanac(), year);
+    const EclipseYear found = YearOf(Ports().almanac, year);
     session.Print(YearJson(found), YearText(found));
 }
 
