@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "desktop/form_window/caption_text.h"
 #include "desktop/documents/picture_file.h"
+#include "desktop/form_window/caption_text.h"
 
 namespace horavex {
 

@@ -1,6 +1,6 @@
 #include "geo/city_picker.h"
 
-#include <chrono>
+#include <ctime>
 
 #include "base/int16.h"
 #include "store/city_search.h"
@@ -12,7 +12,6 @@
 namespace horavex {
 namespace {
 
-using std::chrono::steady_clock;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -321,19 +320,23 @@ TEST_F(CityPickerTest, GoingToTheListsEndsTheSearch) {
     EXPECT_EQ(picker.txtSearch.Text(), "");
 }
 
+/// What this process has worked so far; a busy machine adds nothing to it.
+double ProcessorMilliseconds() {
+    return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
 TEST_F(CityPickerTest, EachKeyIsAnsweredInAFrameOverTheWholeDatabase) {
     Open();
     ASSERT_GT(ListCities().size(), 50000U);
-    constexpr int kGenerous = 5;  // for a busy machine; a key takes a few milliseconds
+    constexpr int kGenerous = 5;  // for sanitizers; a key takes a few milliseconds
     std::string typed;
     for (const char key : std::string("san francisco")) {
         typed += key;
-        const auto start = steady_clock::now();
+        const double start = ProcessorMilliseconds();
         picker.txtSearch.UserType(typed);
-        const std::chrono::duration<double, std::milli> spent = steady_clock::now() - start;
-        EXPECT_LT(spent.count(), 16.0 * kGenerous) << typed;
-        RecordProperty("ms_for_" + std::to_string(typed.size()) + "_keys",
-                       std::to_string(spent.count()));
+        const double spent = ProcessorMilliseconds() - start;
+        EXPECT_LT(spent, 16.0 * kGenerous) << typed;
+        RecordProperty("ms_for_" + std::to_string(typed.size()) + "_keys", std::to_string(spent));
     }
 }
 
