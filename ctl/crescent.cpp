@@ -5,6 +5,7 @@
 #include "ctl/crescent_map.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
+#include "sky/class_words.h"
 #include "sky/first_days.h"
 #include "store/location_record.h"
 #include "timetables/timetable.h"
@@ -21,6 +22,8 @@ struct CrescentOptions {
 };
 
 constexpr double kMinutesPerDay = 24.0 * 60.0;
+
+constexpr const char* kKindKeys[] = {"judged", "beforeNewMoon", "moonSetsFirst", "noSunset"};
 
 Json DayJson(const std::optional<Date>& day) {
     return day ? Json(IsoDate(CivilFromDate(*day))) : Json();
@@ -49,29 +52,39 @@ Json ArcsJson(const CrescentArcs& arcs) {
             {"width", arcs.width}};
 }
 
-Json CrescentJson(const CrescentEvening& evening) {
-    const auto lag = LagMinutes(evening);
-    return {
-        {"sunset", WorkingJson(evening.sunset)},
-        {"moonset", WorkingJson(evening.moonset)},
-        {"lagMinutes", lag ? Json(*lag) : Json()},
-        {"best", WorkingJson(evening.best)},
-        {"ageHours", evening.age},
-        {"moonAltitude", evening.moonAltitude},
-        {"geocentric", ArcsJson(evening.geocentric)},
-        {"topocentric", ArcsJson(evening.topocentric)},
-        {"yallop", {{"q", evening.yallop.value}, {"class", std::string(1, evening.yallop.letter)}}},
-        {"odeh", {{"v", evening.odeh.value}, {"zone", std::string(1, evening.odeh.letter)}}}};
+Json VerdictJson(const char* number, const char* letter, const Verdict& verdict) {
+    return {{number, verdict.value}, {letter, std::string(1, verdict.letter)}};
 }
 
-Json EveningsJson(const MonthEvenings& month) {
+Json CrescentJson(const CrescentEvening& evening, bool judged) {
+    const auto lag = LagMinutes(evening);
+    return {{"sunset", WorkingJson(evening.sunset)},
+            {"moonset", WorkingJson(evening.moonset)},
+            {"lagMinutes", lag ? Json(*lag) : Json()},
+            {"best", WorkingJson(evening.best)},
+            {"ageHours", evening.age},
+            {"moonAltitude", evening.moonAltitude},
+            {"geocentric", ArcsJson(evening.geocentric)},
+            {"topocentric", ArcsJson(evening.topocentric)},
+            {"yallop", judged ? VerdictJson("q", "class", evening.yallop) : Json()},
+            {"odeh", judged ? VerdictJson("v", "zone", evening.odeh) : Json()}};
+}
+
+Json EveningJson(const DatedEvening& evening, EveningKind kind) {
+    const bool judged = kind == EveningKind::kJudged;
+    return {{"date", DayJson(evening.day)},
+            {"kind", kKindKeys[static_cast<int>(kind)]},
+            {"crescent", evening.crescent ? CrescentJson(*evening.crescent, judged) : Json()}};
+}
+
+Json MonthJson(const MonthEvenings& month, const HijriDate& first) {
     Json evenings = Json::array();
     for (const DatedEvening& evening : month.evenings) {
-        evenings.push_back(
-            {{"date", DayJson(evening.day)},
-             {"crescent", evening.crescent ? CrescentJson(*evening.crescent) : Json()}});
+        evenings.push_back(EveningJson(evening, KindOf(evening.crescent, month.newMoon)));
     }
-    return evenings;
+    return {{"city", CityText},     {"month", first.month},
+            {"year", first.year},   {"newMoon", WorkingJson(month.newMoon)},
+            {"evenings", evenings}, {"firstDays", FirstDaysJson(FirstDaysOf(month, first))}};
 }
 
 std::string LagText(const CrescentEvening& evening) {
@@ -79,20 +92,30 @@ std::string LagText(const CrescentEvening& evening) {
     return lag ? std::to_string(std::lround(*lag)) : "-";
 }
 
-std::string EveningText(const DatedEvening& evening) {
+/// Numbers and classes, or why no criterion is asked.
+std::string VerdictsText(const CrescentEvening& evening, EveningKind kind) {
+    if (kind != EveningKind::kJudged) {
+        return ClassWords().Of(kind);
+    }
+    char text[40];
+    std::snprintf(text, sizeof text, "%6.2f %c   %6.2f %c", evening.yallop.value,
+                  evening.yallop.letter, evening.odeh.value, evening.odeh.letter);
+    return text;
+}
+
+std::string EveningText(const DatedEvening& evening, EveningKind kind) {
     const std::string day = IsoDate(CivilFromDate(evening.day));
     if (!evening.crescent) {
-        return day + "  the sun does not set\n";
+        return day + "  " + ClassWords().Of(kind) + "\n";
     }
     const CrescentEvening& crescent = *evening.crescent;
-    char text[160];
-    std::snprintf(
-        text, sizeof text, "%s  %6s  %7s  %4s  %6.1f  %5.1f  %5.1f  %5.2f  %6.2f %c   %6.2f %c\n",
-        day.c_str(), WorkingTimeText(crescent.sunset).c_str(),
-        WorkingTimeText(crescent.moonset).c_str(), LagText(crescent).c_str(), crescent.age,
-        crescent.topocentric.light, crescent.topocentric.vision, crescent.topocentric.width,
-        crescent.yallop.value, crescent.yallop.letter, crescent.odeh.value, crescent.odeh.letter);
-    return text;
+    char text[120];
+    std::snprintf(text, sizeof text, "%s  %-7s  %-7s  %4s  %6.1f  %5.1f  %5.1f  %5.2f  ",
+                  day.c_str(), WorkingTimeText(crescent.sunset, evening.day).c_str(),
+                  WorkingTimeText(crescent.moonset, evening.day).c_str(), LagText(crescent).c_str(),
+                  crescent.age, crescent.topocentric.light, crescent.topocentric.vision,
+                  crescent.topocentric.width);
+    return text + VerdictsText(crescent, kind) + "\n";
 }
 
 std::string DayText(const char* title, const std::optional<Date>& day) {
@@ -109,14 +132,14 @@ std::string FirstDaysText(const FirstDays& days) {
            DayText("First day, arithmetic:           ", days.arithmetic);
 }
 
-std::string MonthText(const MonthEvenings& month, const FirstDays& days) {
+std::string MonthText(const MonthEvenings& month, const HijriDate& first) {
     std::string text = CityText + "\nNew moon " + WorkingJson(month.newMoon).get<std::string>() +
-                       "\n\nEvening     Sunset  Moonset   Lag   Age h  Elong   ArcV  Width  "
+                       "\n\nEvening     Sunset   Moonset   Lag   Age h  Elong   ArcV  Width  "
                        "Yallop q   Odeh V\n";
     for (const DatedEvening& evening : month.evenings) {
-        text += EveningText(evening);
+        text += EveningText(evening, KindOf(evening.crescent, month.newMoon));
     }
-    return text + "\n" + FirstDaysText(days);
+    return text + "\n" + FirstDaysText(FirstDaysOf(month, first));
 }
 
 void PrintCrescent(Session& session, const CrescentOptions& options) {
@@ -125,18 +148,12 @@ void PrintCrescent(Session& session, const CrescentOptions& options) {
     const Lookout lookout{WorkingObserver(), UniversalOfWorking, WorkingOfUniversal};
     const Almanac& almanac = Ports().almanac;
     const MonthEvenings month = EveningsOfMonth(almanac, lookout, options.year, options.month);
-    const FirstDays days = FirstDaysOf(month, first);
     const auto map = WriteMap(almanac, month, options.map);
-    Json json = {{"city", CityText},
-                 {"month", options.month},
-                 {"year", options.year},
-                 {"newMoon", WorkingJson(month.newMoon)},
-                 {"evenings", EveningsJson(month)},
-                 {"firstDays", FirstDaysJson(days)}};
+    Json json = MonthJson(month, first);
     if (map) {
         json["map"] = MapJson(*map);
     }
-    session.Print(json, MonthText(month, days) + (map ? WrittenMapText(*map) : ""));
+    session.Print(json, MonthText(month, first) + (map ? WrittenMapText(*map) : ""));
 }
 
 }  // namespace

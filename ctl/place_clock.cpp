@@ -55,6 +55,13 @@ std::string WorkingTimeText(const std::optional<Date>& universal) {
                      : "--:--";
 }
 
+std::string WorkingTimeText(const std::optional<Date>& universal, Date day) {
+    const long away =
+        universal ? std::lround(std::floor(WorkingMinuteOf(*universal)) - std::floor(day)) : 0;
+    const std::string time = WorkingTimeText(universal);
+    return away == 0 ? time : time + (away > 0 ? "+" : "") + std::to_string(away);
+}
+
 Observer WorkingObserver() {
     return {StoredCoord(Location.City.Latitude), StoredCoord(Location.City.Longitude)};
 }

@@ -32,6 +32,10 @@ Date WorkingMinuteOf(Date universal);
 /// The same as "23:14", or "--:--" for nothing.
 std::string WorkingTimeText(const std::optional<Date>& universal);
 
+/// The same beside a day of the calendar: "00:03+1" on the one after it, "23:58-1" on the one
+/// before.
+std::string WorkingTimeText(const std::optional<Date>& universal, Date day);
+
 /// The working place.
 Observer WorkingObserver();
 

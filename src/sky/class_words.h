@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "sky/visibility.h"
+#include "sky/crescent.h"
 
 namespace horavex {
 
@@ -11,16 +11,29 @@ namespace horavex {
 struct ClassWords {
     std::array<std::string, 6> yallop = {"easily visible",           "visible in a clear sky",
                                          "may need optical aid",     "needs optical aid",
-                                         "not visible by telescope", "too near the sun"};
+                                         "not visible by telescope", "not visible"};
     std::array<std::string, 4> odeh = {"visible by naked eye", "optical aid, perhaps naked eye",
                                        "visible by optical aid alone", "not visible"};
     std::string beforeNewMoon = "before the new moon";
     std::string moonSetsFirst = "moon sets before the sun";
+    std::string noSunset = "no sunset";
 
     /// letter: one that the criterion has.
     const std::string& Of(Criterion criterion, char letter) const {
         const auto number = static_cast<std::size_t>(letter - 'A');
         return criterion == Criterion::kYallop ? yallop.at(number) : odeh.at(number);
+    }
+
+    /// kind: one in which no criterion is asked.
+    const std::string& Of(EveningKind kind) const {
+        switch (kind) {
+            case EveningKind::kBeforeNewMoon:
+                return beforeNewMoon;
+            case EveningKind::kMoonSetsFirst:
+                return moonSetsFirst;
+            default:
+                return noSunset;
+        }
     }
 };
 

@@ -22,13 +22,26 @@ CrescentArcs ArcsOf(const HorizonPlace& sun, const HorizonPlace& moon, double se
 }
 
 /// The moonset that ends the evening, or the last one before the sunset.
-std::optional<Date> MoonsetAround(const Almanac& almanac, const Observer& observer, Date sunset) {
-    const Date from = IsMoonUp(almanac, observer, sunset) ? sunset : sunset - 1.0;
-    return FirstMoonset(almanac, observer, {from, from + 1.0});
+std::optional<Date> MoonsetAround(const Almanac& almanac, const Observer& observer, Date sunset,
+                                  bool moonUp) {
+    return moonUp ? FirstMoonset(almanac, observer, {sunset, sunset + 1.0})
+                  : LastMoonset(almanac, observer, {sunset - 1.0, sunset});
 }
 
 Date BestTime(Date sunset, const std::optional<Date>& moonset) {
     return sunset + kBestPart * std::max(moonset.value_or(sunset) - sunset, 0.0);
+}
+
+/// Fills in how the moon stands at the best time, and the verdicts.
+void Judge(CrescentEvening& evening, const Almanac& almanac, const Observer& observer) {
+    const Date best = evening.best;
+    const HorizonPlace moon = MoonOver(almanac, observer, best);
+    evening.moonAltitude = moon.altitude;
+    evening.topocentric = ArcsOf(SunOver(almanac, observer, best), moon, moon.semidiameter);
+    evening.geocentric = ArcsOf(SunFromCentre(almanac, observer, best),
+                                MoonFromCentre(almanac, observer, best), moon.semidiameter);
+    evening.yallop = YallopVerdict(evening.geocentric.vision, evening.geocentric.width);
+    evening.odeh = OdehVerdict(evening.topocentric.vision, evening.topocentric.width);
 }
 
 }  // namespace
@@ -45,31 +58,25 @@ std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Obser
 
 CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Date sunset,
                            Date newMoon) {
-    const std::optional<Date> moonset = MoonsetAround(almanac, observer, sunset);
-    const Date best = BestTime(sunset, moonset);
-    const HorizonPlace moon = MoonOver(almanac, observer, best);
-    const CrescentArcs seen = ArcsOf(SunOver(almanac, observer, best), moon, moon.semidiameter);
-    const CrescentArcs central = ArcsOf(SunFromCentre(almanac, observer, best),
-                                        MoonFromCentre(almanac, observer, best), moon.semidiameter);
-    return {sunset,
-            moonset,
-            best,
-            (best - newMoon) * kHours,
-            moon.altitude,
-            central,
-            seen,
-            YallopVerdict(central.vision, central.width),
-            OdehVerdict(seen.vision, seen.width)};
+    CrescentEvening evening{};
+    evening.sunset = sunset;
+    evening.moonUp = IsMoonUp(almanac, observer, sunset);
+    evening.moonset = MoonsetAround(almanac, observer, sunset, evening.moonUp);
+    evening.best = BestTime(sunset, evening.moonset);
+    evening.age = (evening.best - newMoon) * kHours;
+    Judge(evening, almanac, observer);
+    return evening;
+}
+
+EveningKind KindOf(Date sunset, bool moonUp, Date newMoon) {
+    if (sunset < newMoon) {
+        return EveningKind::kBeforeNewMoon;
+    }
+    return moonUp ? EveningKind::kJudged : EveningKind::kMoonSetsFirst;
 }
 
 EveningKind KindOf(const std::optional<CrescentEvening>& evening, Date newMoon) {
-    if (!evening) {
-        return EveningKind::kSunStaysUp;
-    }
-    if (evening->sunset < newMoon) {
-        return EveningKind::kBeforeNewMoon;
-    }
-    return evening->Lag().value_or(0.0) > 0.0 ? EveningKind::kJudged : EveningKind::kMoonSetsFirst;
+    return evening ? KindOf(evening->sunset, evening->moonUp, newMoon) : EveningKind::kNoSunset;
 }
 
 }  // namespace horavex

@@ -16,20 +16,23 @@ struct CrescentArcs {
 };
 
 /// What an evening is: before the conjunction there is no new crescent, and where the moon sets
-/// before the sun there is none to look for. No criterion is asked there.
-enum class EveningKind { kJudged, kBeforeNewMoon, kMoonSetsFirst, kSunStaysUp };
+/// before the sun there is none to look for. No criterion is asked there, nor where the sun stays
+/// up or down.
+enum class EveningKind { kJudged, kBeforeNewMoon, kMoonSetsFirst, kNoSunset };
 
 /// The moon on an evening. All but the times of setting is at the best time to look for it, 4/9 of
-/// the way from sunset to moonset (Yallop), or at sunset where the moon has set by then.
+/// the way from sunset to moonset (Yallop), or at sunset where the moon has set by then or does not
+/// set within a day.
 struct CrescentEvening {
     Date sunset;                  // Universal Time, as the others
-    std::optional<Date> moonset;  // the one before the sunset where the moon sets first
+    bool moonUp;                  // any of it, at sunset
+    std::optional<Date> moonset;  // the last one before the sunset where the moon sets first
     Date best;
     double age;               // hours since the new moon, negative before it
     double moonAltitude;      // degrees, without refraction
     CrescentArcs geocentric;  // from the centre of the Earth, with the width that the observer sees
     CrescentArcs topocentric;  // as the observer would see them without air
-    Verdict yallop;
+    Verdict yallop;            // the verdicts count where the evening is judged
     Verdict odeh;
 
     /// Days from sunset to moonset, negative where the moon sets first.
@@ -48,6 +51,8 @@ std::optional<CrescentEvening> CrescentAfter(const Almanac& almanac, const Obser
 /// The evening of a sunset that is known.
 CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Date sunset,
                            Date newMoon);
+
+EveningKind KindOf(Date sunset, bool moonUp, Date newMoon);
 
 /// Nothing is an evening on which the sun does not set.
 EveningKind KindOf(const std::optional<CrescentEvening>& evening, Date newMoon);

@@ -44,7 +44,7 @@ Colour ColourOf(Criterion criterion, const MapCell& cell) {
             return kBeforeNewMoon;
         case EveningKind::kMoonSetsFirst:
             return kMoonSetsFirst;
-        case EveningKind::kSunStaysUp:
+        case EveningKind::kNoSunset:
             break;
     }
     return kSea;

@@ -38,7 +38,7 @@ char Worst(Criterion criterion, Sight sight) {
 /// The first evening on which somebody sees the crescent, or the end.
 auto FirstSight(const MonthEvenings& month, Criterion criterion, Sight sight) {
     return std::ranges::find_if(month.evenings, [&](const DatedEvening& evening) {
-        return evening.crescent &&
+        return KindOf(evening.crescent, month.newMoon) == EveningKind::kJudged &&
                evening.crescent->Of(criterion).letter <= Worst(criterion, sight);
     });
 }

@@ -1,5 +1,7 @@
 #include "sky/rise_set.h"
 
+#include <algorithm>
+
 namespace horavex {
 
 namespace {
@@ -78,6 +80,14 @@ std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer
 std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
                                  const SkySpan& span) {
     return FirstSet(almanac, observer, span, MoonOver);
+}
+
+std::optional<Date> LastMoonset(const Almanac& almanac, const Observer& observer,
+                                const SkySpan& span) {
+    std::vector<Crossing> crossings =
+        CrossingsOf(UpperLimbOf(almanac, observer, MoonOver), span.from, span.end, kStep);
+    std::ranges::reverse(crossings);
+    return First(crossings, false);
 }
 
 bool IsMoonUp(const Almanac& almanac, const Observer& observer, Date universal) {

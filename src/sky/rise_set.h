@@ -36,6 +36,10 @@ std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer
 std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
                                  const SkySpan& span);
 
+/// In the far north and south the moon may set twice within a day.
+std::optional<Date> LastMoonset(const Almanac& almanac, const Observer& observer,
+                                const SkySpan& span);
+
 /// Whether any of the moon is over the horizon.
 bool IsMoonUp(const Almanac& almanac, const Observer& observer, Date universal);
 

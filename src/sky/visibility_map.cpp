@@ -1,5 +1,6 @@
 #include "sky/visibility_map.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "sky/rise_set.h"
@@ -46,8 +47,9 @@ const MapCell& VisibilityMap::At(int row, int column) const {
 }
 
 const MapCell& VisibilityMap::AtPlace(double latitude, double longitude) const {
-    return At(static_cast<int>((kMapLatitude - latitude) / step_),
-              static_cast<int>((longitude - kWest) / step_));
+    const int row = static_cast<int>((kMapLatitude - latitude) / step_);
+    const int column = static_cast<int>((longitude - kWest) / step_);
+    return At(std::clamp(row, 0, rows_ - 1), std::clamp(column, 0, columns_ - 1));
 }
 
 MapCell VisibilityMap::CellOf(double latitude, double longitude) const {
@@ -55,13 +57,11 @@ MapCell VisibilityMap::CellOf(double latitude, double longitude) const {
     const Date noon = NoonAt(day_, longitude);
     const auto sunset = FirstSunset(almanac_, here, {noon, noon + 1.0});
     if (!sunset) {
-        return {EveningKind::kSunStaysUp};
+        return {EveningKind::kNoSunset};
     }
-    if (*sunset < newMoon_) {
-        return {EveningKind::kBeforeNewMoon};
-    }
-    return IsMoonUp(almanac_, here, *sunset) ? Judged(CrescentAt(almanac_, here, *sunset, newMoon_))
-                                             : MapCell{EveningKind::kMoonSetsFirst};
+    const EveningKind kind = KindOf(*sunset, IsMoonUp(almanac_, here, *sunset), newMoon_);
+    return kind == EveningKind::kJudged ? Judged(CrescentAt(almanac_, here, *sunset, newMoon_))
+                                        : MapCell{kind};
 }
 
 }  // namespace horavex

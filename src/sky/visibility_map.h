@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "sky/crescent.h"
@@ -10,7 +9,7 @@ namespace horavex {
 
 /// A point's evening with the letters of its classes, which count where it is judged.
 struct MapCell {
-    EveningKind kind = EveningKind::kSunStaysUp;
+    EveningKind kind = EveningKind::kNoSunset;
     char yallop = 0;
     char odeh = 0;
 
@@ -42,7 +41,8 @@ public:
     bool IsComplete() const { return ComputedRows() == rows_; }
     int ComputedRows() const { return static_cast<int>(cells_.size()) / columns_; }
 
-    /// The cell of a row that is worked out, and the one that holds a place of the map.
+    /// The cell of a row that is worked out, and the one that holds a place or is the nearest to
+    /// it.
     const MapCell& At(int row, int column) const;
     const MapCell& AtPlace(double latitude, double longitude) const;
 

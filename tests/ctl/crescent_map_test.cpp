@@ -35,7 +35,7 @@ TEST_F(CtlCrescentMap, IsOfTheEveningOnWhichTheCrescentComesIntoSight) {
     EXPECT_THAT(svg, StartsWith("<svg "));
     EXPECT_THAT(svg, HasSubstr(">Crescent on the evening of 2024-03-11, criterion of Yallop<"));
     EXPECT_THAT(svg, HasSubstr(">New moon 2024-03-10 09:00 Universal Time<"));
-    EXPECT_THAT(svg, HasSubstr(">F  too near the sun<"));
+    EXPECT_THAT(svg, HasSubstr(">F  not visible<"));
 }
 
 TEST_F(CtlCrescentMap, IsOfTheAskedEveningAndCriterion) {

@@ -98,6 +98,7 @@ TEST(CtlCrescent, ObjectHasTheAgreedKeys) {
     EXPECT_THAT(KeysOf(month),
                 ElementsAre("city", "month", "year", "newMoon", "evenings", "firstDays"));
     ASSERT_EQ(month["evenings"].size(), 4U);
+    EXPECT_THAT(KeysOf(month["evenings"][0]), ElementsAre("date", "kind", "crescent"));
     EXPECT_THAT(KeysOf(month["evenings"][0]["crescent"]),
                 ElementsAre("sunset", "moonset", "lagMinutes", "best", "ageHours", "moonAltitude",
                             "geocentric", "topocentric", "yallop", "odeh"));
@@ -117,17 +118,38 @@ TEST(CtlCrescent, SetsTheFirstDaysSideBySide) {
 
 TEST(CtlCrescent, TextHasALineAnEveningAndAWay) {
     const std::string text = Ctl().Run("crescent --month 9 --year 1447 --city Mecca").out;
-    EXPECT_THAT(text, HasSubstr("\n2026-02-18   18:20    19:19    59    27.7   13.3   13.3   0.42"
+    EXPECT_THAT(text, HasSubstr("\n2026-02-18  18:20    19:19      59    27.7   13.3   13.3   0.42"
                                 "    0.53 A     8.65 A\n"));
     EXPECT_THAT(text, HasSubstr("First day, Umm al-Qura:          2026-02-18\n"));
 }
 
-TEST(CtlCrescent, SaysThatTheSunDoesNotSet) {
+TEST(CtlCrescent, AsksNoCriterionWhereThereIsNothingToSee) {
+    const std::string line = "crescent --month 5 --year 1449 --city London";
+    const Json evenings = JsonOf(Ctl(), line)["evenings"];
+    EXPECT_EQ(evenings[0]["kind"], "beforeNewMoon");
+    EXPECT_EQ(evenings[2]["kind"], "moonSetsFirst");
+    EXPECT_TRUE(evenings[2]["crescent"]["yallop"].is_null());
+    EXPECT_TRUE(evenings[2]["crescent"]["odeh"].is_null());
+    EXPECT_EQ(evenings[3]["kind"], "judged");
+    EXPECT_FALSE(evenings[3]["crescent"]["odeh"].is_null());
+    const std::string text = Ctl().Run(line).out;
+    EXPECT_THAT(text, HasSubstr("  before the new moon\n2027-09-30  "));
+    EXPECT_THAT(text, HasSubstr("  moon sets before the sun\n2027-10-02  "));
+}
+
+TEST(CtlCrescent, MarksATimeOfTheDayAfter) {
+    EXPECT_THAT(Ctl().Run("crescent --month 1 --year 1447 --city Reykjavik").out,
+                HasSubstr("\n2025-06-24  00:03+1  "));
+}
+
+TEST(CtlCrescent, SaysThatThereIsNoSunset) {
     const Json month = JsonOf(Ctl(), "crescent --month 1 --year 1448 --city Tromso");
     EXPECT_TRUE(month["evenings"][0]["crescent"].is_null());
     EXPECT_TRUE(month["firstDays"]["yallop"]["opticalAid"].is_null());
     EXPECT_THAT(Ctl().Run("crescent --month 1 --year 1448 --city Tromso").out,
-                HasSubstr("2026-06-15  the sun does not set\n"));
+                HasSubstr("2026-06-15  no sunset\n"));
+    const Json winter = JsonOf(Ctl(), "crescent --month 7 --year 1448 --city Tromso");
+    EXPECT_EQ(winter["evenings"][0]["kind"], "noSunset");
 }
 
 TEST(CtlCrescent, HasNoPublishedDayBeyondTheTable) {

@@ -8,7 +8,7 @@
 namespace horavex {
 namespace {
 
-constexpr Observer kMecca{21.4225, 39.8262};
+constexpr Observer kMecca{21.4225, 39.8262}, kTromso{69.65, 18.96}, kReykjavik{64.15, -21.94};
 constexpr double kMinutes = 24.0 * 60.0;  // a day
 
 Date NewMoonNear(const Almanac& almanac, Date instant) {
@@ -64,19 +64,34 @@ TEST(CrescentEvening, BeforeTheNewMoonHasAMoonThatSetsFirst) {
 }
 
 TEST(CrescentEvening, IsNoneUnderTheMidnightSun) {
-    EXPECT_FALSE(EveningOf({69.65, 18.96}, 2026, 6, 15));
+    EXPECT_FALSE(EveningOf(kTromso, 2026, 6, 15));
+}
+
+// In the autumn of the far north the moon sets twice within the day: at 20:45 and, here, at 20:18.
+TEST(CrescentEvening, HasTheLastMoonsetBeforeTheSunset) {
+    const CrescentEvening evening = EveningOf(kTromso, 2027, 8, 30).value();
+    EXPECT_FALSE(evening.moonUp);
+    EXPECT_NEAR(evening.Lag().value() * kMinutes, -17.0, 1.0);
+}
+
+TEST(CrescentEvening, OfAMoonThatStaysUpAllNightIsJudged) {
+    const CrescentEvening evening = EveningOf(kReykjavik, 2025, 6, 25).value();
+    EXPECT_TRUE(evening.moonUp);
+    EXPECT_FALSE(evening.moonset);
+    EXPECT_EQ(evening.best, evening.sunset);
+    EXPECT_EQ(KindOf(evening, DateSerial(2025, 6, 25) + TimeSerial(10, 32, 0)),
+              EveningKind::kJudged);
 }
 
 TEST(KindOf, TellsEveningsThatAreNotJudged) {
     CrescentEvening evening{};
     evening.sunset = 100.0;
-    EXPECT_EQ(KindOf(std::nullopt, 99.0), EveningKind::kSunStaysUp);
+    evening.moonUp = true;
+    EXPECT_EQ(KindOf(std::nullopt, 99.0), EveningKind::kNoSunset);
     EXPECT_EQ(KindOf(evening, 100.1), EveningKind::kBeforeNewMoon);
-    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kMoonSetsFirst);
-    evening.moonset = 99.9;
-    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kMoonSetsFirst);
-    evening.moonset = 100.1;
     EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kJudged);
+    evening.moonUp = false;
+    EXPECT_EQ(KindOf(evening, 99.0), EveningKind::kMoonSetsFirst);
 }
 
 /// A sighting at the edge of what was ever seen, by its published date and place; the classes

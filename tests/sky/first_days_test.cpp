@@ -10,6 +10,7 @@ MonthEvenings EveningsOf(const std::string& yallop, const std::string& odeh) {
     MonthEvenings month{0.0, {}};
     for (std::size_t i = 0; i < yallop.size(); ++i) {
         CrescentEvening evening{};
+        evening.moonUp = true;
         evening.yallop.letter = yallop[i];
         evening.odeh.letter = odeh[i];
         month.evenings.push_back({DateSerial(2026, 2, 16) + static_cast<double>(i), evening});

@@ -61,7 +61,7 @@ TEST_F(MapDrawingTest, HasATitleAndTheNewMoonAboveIt) {
 TEST_F(MapDrawingTest, TellsEveryClassOfTheCriterionBelow) {
     const std::string yallop = Svg(Criterion::kYallop);
     for (const char* key :
-         {">A  easily visible<", ">B  visible in a clear sky<", ">F  too near the sun<",
+         {">A  easily visible<", ">B  visible in a clear sky<", ">F  not visible<",
           ">moon sets before the sun<", ">before the new moon<"}) {
         EXPECT_THAT(yallop, HasSubstr(key));
     }

@@ -8,12 +8,13 @@
 namespace horavex {
 namespace {
 
-constexpr double kThreeHours = 3.0 / 24.0;
+/// On a clock so many hours ahead of Greenwich.
+Lookout LookoutOf(const Observer& observer, double hours) {
+    return {observer, [=](Date local) { return local - hours / 24.0; },
+            [=](Date universal) { return universal + hours / 24.0; }};
+}
 
-/// On the clock of Mecca.
-const Lookout kMecca{{21.4225, 39.8262},
-                     [](Date local) { return local - kThreeHours; },
-                     [](Date universal) { return universal + kThreeHours; }};
+const Lookout kMecca = LookoutOf({21.4225, 39.8262}, 3.0);
 
 TEST(EveningsOfMonth, StandAroundItsNewMoon) {
     const MonthEvenings ramadan = EveningsOfMonth(ErfaAlmanac(), kMecca, 1447, 9);
@@ -25,9 +26,7 @@ TEST(EveningsOfMonth, StandAroundItsNewMoon) {
 }
 
 TEST(EveningsOfMonth, GoByTheCalendarOfThePlace) {
-    const Lookout kiribati{{1.87, -157.4},
-                           [](Date local) { return local - 14.0 / 24.0; },
-                           [](Date universal) { return universal + 14.0 / 24.0; }};
+    const Lookout kiribati = LookoutOf({1.87, -157.4}, 14.0);
     const MonthEvenings ramadan = EveningsOfMonth(ErfaAlmanac(), kiribati, 1447, 9);
     EXPECT_EQ(ramadan.evenings[1].day, DateSerial(2026, 2, 18));  // the new moon is on its 2 a.m.
     EXPECT_NEAR(ramadan.evenings[1].crescent->sunset, DateSerial(2026, 2, 18) + 4.6 / 24.0,
@@ -42,10 +41,11 @@ TEST(EveningsOfMonth, HaveANewMoonNearTheBeginningOfEveryMonth) {
     }
 }
 
-/// Evenings from day 100 on, each with a letter of both criteria.
+/// Evenings from day 100 on, each judged with a letter of both criteria.
 MonthEvenings EveningsOf(const std::string& letters) {
     MonthEvenings month{0.0, {}};
     CrescentEvening evening{};
+    evening.moonUp = true;
     for (const char letter : letters) {
         evening.yallop.letter = evening.odeh.letter = letter;
         month.evenings.push_back({100.0 + static_cast<double>(month.evenings.size()), evening});
@@ -67,6 +67,29 @@ TEST(EveningOfSight, IsTheFirstOnWhichOpticalAidIsEnough) {
     EXPECT_EQ(EveningOfSight(EveningsOf("EDCB"), Criterion::kYallop), 1U);
     EXPECT_EQ(EveningOfSight(EveningsOf("DDDB"), Criterion::kOdeh), 3U);
     EXPECT_EQ(EveningOfSight(EveningsOf("FFFF"), Criterion::kYallop), 2U);
+}
+
+// By its numbers alone this evening would show the moon: they are not asked where it has set.
+TEST(FirstDay, NeverFollowsAnEveningOnWhichTheMoonSetsFirst) {
+    const MonthEvenings helsinki =
+        EveningsOfMonth(ErfaAlmanac(), LookoutOf({60.17, 24.94}, 3.0), 1449, 5);
+    const DatedEvening& fourth = helsinki.evenings[3];
+    ASSERT_EQ(fourth.day, DateSerial(2027, 10, 2));
+    EXPECT_EQ(fourth.crescent->yallop.letter, 'B');
+    EXPECT_EQ(KindOf(fourth.crescent, helsinki.newMoon), EveningKind::kMoonSetsFirst);
+    EXPECT_NE(FirstDay(helsinki, Criterion::kYallop, Sight::kAided), fourth.day + 1.0);
+    EXPECT_NE(EveningOfSight(helsinki, Criterion::kOdeh), 3U);
+}
+
+TEST(FirstDay, NeverFollowsAnEveningBeforeTheNewMoon) {
+    const MonthEvenings tromso =
+        EveningsOfMonth(ErfaAlmanac(), LookoutOf({69.65, 18.96}, 2.0), 1442, 3);
+    EXPECT_EQ(tromso.evenings[0].day, DateSerial(2020, 10, 15));
+    EXPECT_LE(tromso.evenings[0].crescent->odeh.letter, 'C');
+    for (const Criterion criterion : {Criterion::kYallop, Criterion::kOdeh}) {
+        EXPECT_GT(FirstDay(tromso, criterion, Sight::kAided).value_or(tromso.newMoon + 9.0),
+                  tromso.newMoon + 1.0);
+    }
 }
 
 TEST(FirstDay, PassesOverAnEveningWithoutASunset) {

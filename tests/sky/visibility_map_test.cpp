@@ -149,12 +149,15 @@ TEST(VisibilityMap, GoesRowByRowFromTheNorthAndStopsWhenItIsComplete) {
     EXPECT_FALSE(map.IsComplete());
     EXPECT_EQ(&map.AtPlace(59.0, -179.0), &map.At(0, 0));
     EXPECT_EQ(&map.AtPlace(59.0, 179.0), &map.At(0, 35));
+    EXPECT_EQ(&map.AtPlace(59.0, 180.0), &map.At(0, 35));
+    EXPECT_EQ(&map.AtPlace(89.0, -180.0), &map.At(0, 0));
     EXPECT_THROW(map.At(1, 0), std::out_of_range);
     for (int row = 1; row < 15; ++row) {
         map.ComputeRow();
     }
     EXPECT_EQ(map.ComputedRows(), 13);
     EXPECT_TRUE(map.IsComplete());
+    EXPECT_EQ(&map.AtPlace(-89.0, 180.0), &map.At(12, 35));
 }
 
 TEST(VisibilityMap, HasNoEveningWhereTheSunDoesNotSet) {
@@ -163,7 +166,7 @@ TEST(VisibilityMap, HasNoEveningWhereTheSunDoesNotSet) {
     almanac.sunPace = 360.0;
     VisibilityMap map(almanac, 40000.0, 40000.0, 10.0);
     map.ComputeRow();
-    EXPECT_EQ(map.At(0, 0).kind, EveningKind::kSunStaysUp);
+    EXPECT_EQ(map.At(0, 0).kind, EveningKind::kNoSunset);
 }
 
 }  // namespace
