@@ -19,7 +19,8 @@ using testing::AnyOf;
 /// Hundredths of a degree, one place a quadrant: Cairo, Jakarta, New York, Buenos Aires.
 constexpr std::int16_t kPlaces[][2] = {{3005, 3125}, {-620, 10685}, {4071, -7401}, {-3461, -5845}};
 
-constexpr const char* kPacks[] = {"English", "French", "German", "Arabic", "Spanish", ""};
+constexpr const char* kPacks[] = {"English", "French",  "German", "Arabic",
+                                  "Spanish", "Turkish", ""};
 
 struct ShownDirectionsTest : ProgramTest {
     ShownDirectionsTest() { StartAgain(); }

@@ -73,7 +73,8 @@ TEST_P(MenuLanguagesTest, MenusAreWrittenInTheDirectionOfTheLanguage) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, MenuLanguagesTest,
-                         testing::Values("English", "Arabic", "French", "German", "Spanish"),
+                         testing::Values("English", "Arabic", "French", "German", "Spanish",
+                                         "Turkish"),
                          [](const auto& test) { return test.param; });
 
 }  // namespace

@@ -30,6 +30,7 @@ TEST_F(ToolkitLanguageTest, ButtonsOfDialoguesSpeakTheLanguageOfThePack) {
     EXPECT_EQ(CancelIn("French"), "Annuler");
     EXPECT_EQ(CancelIn("German"), "Abbrechen");
     EXPECT_EQ(CancelIn("Spanish"), "Cancelar");
+    EXPECT_EQ(CancelIn("Turkish"), "İptal");
     EXPECT_NE(CancelIn("Arabic"), "Cancel") << "its word is the toolkit's";
     EXPECT_EQ(CancelIn("English"), "Cancel");
 }

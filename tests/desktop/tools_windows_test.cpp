@@ -116,7 +116,8 @@ TEST_P(ToolsWindowsTest, RowsOfTheTablesStandBesideTheirDiscs) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ToolsWindowsTest,
-                         testing::Values("English", "Arabic", "French", "German", "Spanish"),
+                         testing::Values("English", "Arabic", "French", "German", "Spanish",
+                                         "Turkish"),
                          [](const auto& test) { return test.param; });
 
 }  // namespace

@@ -91,8 +91,8 @@ TEST_F(StartTest, StoredLanguageInCapitalsIsFoundAllTheSame) {
 }
 
 TEST_F(StartTest, WithoutPacksTheFaceKeepsItsOwnTextsAndTheClockRuns) {
-    for (const char* language : {"Arabic", "English", "French", "German", "Spanish"}) {
-        platform.files.Delete("/program/lang/" + std::string(language) + ".ini");
+    for (const std::string& pack : platform.files.List("/program/lang")) {
+        platform.files.Delete("/program/lang/" + pack);
     }
     Start();
     EXPECT_EQ(frmMain->mnuL(0).Caption(), "Not Available");

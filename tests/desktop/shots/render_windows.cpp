@@ -215,7 +215,8 @@ int main(int argc, char** argv) {
     frmMain->Show();
     RenderAll(windows, false);
     RenderAll(windows, true);
-    for (const std::string language : {"English", "French", "German", "Spanish", "Arabic"}) {
+    for (const std::string language :
+         {"English", "French", "German", "Spanish", "Turkish", "Arabic"}) {
         RenderAthan(windows, language);
     }
     RenderHelp("English");
