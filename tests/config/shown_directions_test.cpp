@@ -20,7 +20,7 @@ using testing::AnyOf;
 constexpr std::int16_t kPlaces[][2] = {{3005, 3125}, {-620, 10685}, {4071, -7401}, {-3461, -5845}};
 
 constexpr const char* kPacks[] = {"English", "French",  "German", "Arabic",
-                                  "Spanish", "Turkish", ""};
+                                  "Spanish", "Turkish", "Urdu",   ""};
 
 struct ShownDirectionsTest : ProgramTest {
     ShownDirectionsTest() { StartAgain(); }

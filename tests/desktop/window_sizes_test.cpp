@@ -48,8 +48,8 @@ struct Language {
     std::int16_t column;
 };
 
-constexpr Language kLanguages[] = {{"English", 1}, {"French", 2},  {"German", 3},
-                                   {"Arabic", 4},  {"Spanish", 5}, {"Turkish", 1}};
+constexpr Language kLanguages[] = {{"English", 1}, {"French", 2},  {"German", 3}, {"Arabic", 4},
+                                   {"Spanish", 5}, {"Turkish", 1}, {"Urdu", 1}};
 
 constexpr QSize kFrame(8, 44);  // what a window manager draws around a window, at most
 

@@ -32,7 +32,7 @@ TEST_P(FaceLanguagesTest, FaceFillsItsWindowWithinASecond) {
 
 INSTANTIATE_TEST_SUITE_P(All, FaceLanguagesTest,
                          testing::Combine(testing::Values("English", "Arabic", "French", "German",
-                                                          "Spanish", "Turkish"),
+                                                          "Spanish", "Turkish", "Urdu"),
                                           testing::Values(1, 2)),
                          [](const auto& test) {
                              return std::get<0>(test.param) +

@@ -27,7 +27,7 @@ using testing::IsEmpty;
 using testing::Not;
 
 constexpr const char* kLanguages[] = {
-    "Arabic", "English", "French", "German", "Spanish", "Turkish",
+    "Arabic", "English", "French", "German", "Spanish", "Turkish", "Urdu",
 };
 
 /// The folder data/lang of the source as the packs of the program folder.
@@ -283,6 +283,7 @@ TEST_F(ShippedPacks, SpeakTheirOwnLanguage) {
     EXPECT_EQ(Text("German", "frmMain", "mnuHelp"), "Hilfe");
     EXPECT_EQ(Text("Spanish", "frmMain", "mnuHelp"), "Ayuda");
     EXPECT_EQ(Text("Turkish", "frmMain", "mnuHelp"), "Yardım");
+    EXPECT_EQ(Text("Urdu", "frmMain", "mnuHelp"), "مدد");
 }
 
 TEST_F(ShippedPacks, NumberNothingThatIsLeftFree) {

@@ -219,7 +219,7 @@ TEST_F(MoonWindowTest, HelpWithoutAPackStaysEmpty) {
 }
 
 TEST_F(MoonWindowTest, HelpIsThereInEveryLanguage) {
-    for (const char* language : {"Arabic", "French", "German", "Spanish", "Turkish"}) {
+    for (const char* language : {"Arabic", "French", "German", "Spanish", "Turkish", "Urdu"}) {
         currentLanguage = language;
         form.SkinLabel1.UserClick();
         EXPECT_THAT(frmRamadan->Text1.Text(), Not(testing::IsEmpty())) << language;

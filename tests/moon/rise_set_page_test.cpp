@@ -130,7 +130,8 @@ TEST_F(RiseSetPageTest, WesternPlaceOfLessThanADegreeIsWestern) {
 }
 
 TEST_F(RiseSetPageTest, PlaceIsTheSameInEveryPackAndLanguageOfTheTexts) {
-    for (const char* pack : {"English", "French", "German", "Arabic", "Spanish", "Turkish"}) {
+    for (const char* pack :
+         {"English", "French", "German", "Arabic", "Spanish", "Turkish", "Urdu"}) {
         for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
             SCOPED_TRACE(std::string(pack) + " with the texts " + std::to_string(language));
             currentLanguage = pack;

@@ -180,6 +180,7 @@ TEST_F(MonthWindowTest, DayAndMonthAreWrittenAsTheLanguageWritesThem) {
         {"German", {"November 2026 - ", "Samstag, 21. November 2026, "}},
         {"Spanish", {"Noviembre de 2026 - ", "Sábado, 21 de noviembre de 2026, "}},
         {"Turkish", {"Kasım 2026 - ", "21 Kasım 2026 Cumartesi, "}},
+        {"Urdu", {"نومبر 2026 - ", "ہفتہ، 21 نومبر 2026، "}},
         {"Arabic", {"نوفمبر 2026 - ", "السبت 21 نوفمبر 2026، "}}};
     for (const auto& [language, title] : titles) {
         frmMonth->Unload();

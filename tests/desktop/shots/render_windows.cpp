@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
     RenderAll(windows, false);
     RenderAll(windows, true);
     for (const std::string language :
-         {"English", "French", "German", "Spanish", "Turkish", "Arabic"}) {
+         {"English", "French", "German", "Spanish", "Turkish", "Urdu", "Arabic"}) {
         RenderAthan(windows, language);
     }
     RenderHelp("English");
