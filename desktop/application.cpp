@@ -1,5 +1,6 @@
 #include "desktop/application.h"
 
+#include "desktop/accessible/assistive_tools.h"
 #include "desktop/fault_box.h"
 #include "desktop/ports/emblem.h"
 
@@ -10,6 +11,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setDesktopFileName(QStringLiteral("horavex"));
     setWindowIcon(Emblem());
     setQuitOnLastWindowClosed(false);
+    TellAssistiveTools();
     setLayoutDirection(Qt::LeftToRight);  // each window takes its own from its captions
 }
 

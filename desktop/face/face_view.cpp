@@ -249,6 +249,8 @@ void FaceView::ShowCaptions() {
     ShowDate();
     qibla_->setText(Value("qibla"));
     allTimes_->setText(Value("prayer_time"));
+    times_->setAccessibleName(Value("prayer_time"));
+    compass_->setAccessibleDescription(Value("qibla"));
 }
 
 void FaceView::Tell(const char* command) {

@@ -1,5 +1,6 @@
 #include "desktop/face/times_view.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
@@ -28,12 +29,11 @@ double NameWidth(const PrayerEntry& entry, const QFont& font, double width) {
     return std::clamp(left, std::min(half, WidthOf(font, entry.name)), half);
 }
 
-QString SpokenRows(const std::vector<PrayerEntry>& rows) {
-    QStringList spoken;
-    for (const PrayerEntry& row : rows) {
-        spoken << row.name + u' ' + row.time;
-    }
-    return spoken.join(QStringLiteral(", "));
+/// Tells assistive tools that another row is the marked one.
+void TellNext(TimesView& view, std::size_t next) {
+    QAccessibleEvent event(&view, QAccessible::Selection);
+    event.setChild(static_cast<int>(next));
+    QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace
@@ -42,10 +42,13 @@ void TimesView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next
     if (rows == rows_ && next == next_) {
         return;
     }
+    const bool another = next != next_;
     rows_ = rows;
     next_ = next;
-    setAccessibleName(SpokenRows(rows));
     update();
+    if (another && next < rows_.size()) {
+        TellNext(*this, next);
+    }
 }
 
 QRectF TimesView::AreaOf(std::size_t row) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 #include <QWidget>
 #include <optional>
@@ -23,15 +24,19 @@ public:
     /// next: the row to mark.
     void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
+    const std::vector<PrayerEntry>& Rows() const { return rows_; }
+    /// The marked row; none before the first day.
+    std::optional<std::size_t> Next() const { return next_; }
+    QRectF AreaOf(std::size_t row) const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void PaintRow(QPainter& painter, std::size_t row) const;
-    QRectF AreaOf(std::size_t row) const;
 
     std::vector<PrayerEntry> rows_;
-    std::optional<std::size_t> next_;  // none before the first day
+    std::optional<std::size_t> next_;
 };
 
 }  // namespace horavex

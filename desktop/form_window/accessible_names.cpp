@@ -1,5 +1,7 @@
 #include "desktop/form_window/accessible_names.h"
 
+#include <QComboBox>
+#include <QLabel>
 #include <QStringList>
 #include <QVariant>
 
@@ -22,6 +24,28 @@ QString NamesOfOthers(const QWidget& window, const QWidget& widget, const char* 
     return names.join(fromRight ? QStringLiteral("\u060c ") : QStringLiteral(", "));
 }
 
+/// The label of a list that drops down, seen by assistive tools alone: the toolkit tells them the
+/// chosen row in place of such a list's name, and looks for a label beside it.
+QLabel& SpokenLabelOf(QComboBox& list) {
+    QWidget& parent = *list.parentWidget();
+    for (auto* label : parent.findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (label->buddy() == &list) {
+            return *label;
+        }
+    }
+    auto* label = new QLabel(&parent);
+    label->setBuddy(&list);
+    label->hide();
+    return *label;
+}
+
+void SetName(QWidget& widget, const QString& name) {
+    widget.setAccessibleName(name);
+    if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+        SpokenLabelOf(*list).setAccessibleName(name);
+    }
+}
+
 }  // namespace
 
 void SetOwnName(QWidget& widget, const QString& name) {
@@ -34,7 +58,7 @@ void NameWidgets(const QWidget& window) {
         const QString name = NamesOfOthers(window, *widget, "namedBy");
         const QString description = NamesOfOthers(window, *widget, "describedBy");
         if (widget->accessibleName() != name && !name.isEmpty()) {
-            widget->setAccessibleName(name);
+            SetName(*widget, name);
         }
         if (widget->accessibleDescription() != description && !description.isEmpty()) {
             widget->setAccessibleDescription(description);

@@ -1,3 +1,5 @@
+#include <QAccessible>
+
 #include "desktop/form_window_fixture.h"
 #include "desktop/ports/qt_event_loop.h"
 
@@ -374,6 +376,17 @@ TEST_F(BinderTest, CaptionsAreTheNamesForAssistiveTools) {
     form.label.SetCaption("Another");
     Settle();
     EXPECT_EQ(Find<QLineEdit>("text").accessibleName(), "Another");
+}
+
+// As a list tells its chosen row in place of a name.
+TEST_F(BinderTest, ListThatDropsDownHasALabelForAssistiveTools) {
+    const auto* list = QAccessible::queryAccessibleInterface(&Find<QComboBox>("combo"));
+    const auto labels = list->relations(QAccessible::Label);
+    ASSERT_FALSE(labels.isEmpty());
+    EXPECT_EQ(labels.first().first->text(QAccessible::Name), "A label");
+    form.label.SetCaption("Another");
+    Settle();
+    EXPECT_EQ(labels.first().first->text(QAccessible::Name), "Another");
 }
 
 TEST_F(BinderTest, NameOfSeveralCaptionsFollowsEachOfThem) {

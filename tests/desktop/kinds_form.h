@@ -82,7 +82,9 @@ inline void FillKinds(QWidget& window) {
     AddWidget<QCheckBox>(window, "check")->setProperty("namedBy", "check label");
     AddWidget<QLineEdit>(window, "text")->setProperty("namedBy", "label");
     AddWidget<QListWidget>(window, "list");
-    AddWidget<QComboBox>(window, "combo")->setEditable(true);
+    auto* combo = AddWidget<QComboBox>(window, "combo");
+    combo->setEditable(true);
+    combo->setProperty("namedBy", "label");
     AddWidget<QComboBox>(window, "choice");
     auto* scroll = AddWidget<QScrollBar>(window, "scroll");
     scroll->setOrientation(Qt::Horizontal);
