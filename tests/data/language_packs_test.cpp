@@ -15,8 +15,8 @@ namespace {
 using LanguagePacks = BuiltData;
 
 const std::vector<std::string> kPacks = {
-    "Arabic.ini",  "English.ini", "French.ini", "German.ini",
-    "Spanish.ini", "Turkish.ini", "Urdu.ini",
+    "Arabic.ini", "Bengali.ini", "English.ini", "French.ini",
+    "German.ini", "Spanish.ini", "Turkish.ini", "Urdu.ini",
 };
 
 bool HasArabicLetter(const std::string& text) {
