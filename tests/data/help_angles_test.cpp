@@ -48,6 +48,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, HelpAngles,
                                          AngleTable{"French", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"German", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"Spanish", kFromTheLeft, 1, 2, 3},
+                                         AngleTable{"Turkish", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"Arabic", kFromTheRight, 2, 3, 1}),
                          [](const auto& table) { return table.param.language; });
 
