@@ -9,6 +9,7 @@
 #include "store/location_text.h"
 #include "store/text_table.h"
 #include "support/program_test.h"
+#include "support/shipped_languages.h"
 #include "windows/f_qibla.h"
 
 namespace horavex {
@@ -18,9 +19,6 @@ using testing::AnyOf;
 
 /// Hundredths of a degree, one place a quadrant: Cairo, Jakarta, New York, Buenos Aires.
 constexpr std::int16_t kPlaces[][2] = {{3005, 3125}, {-620, 10685}, {4071, -7401}, {-3461, -5845}};
-
-constexpr const char* kPacks[] = {"English", "French",  "German", "Arabic",
-                                  "Spanish", "Turkish", "Urdu",   ""};
 
 struct ShownDirectionsTest : ProgramTest {
     ShownDirectionsTest() { StartAgain(); }
@@ -78,11 +76,13 @@ struct ShownDirectionsTest : ProgramTest {
 };
 
 TEST_F(ShownDirectionsTest, AreRightInEveryPackAndLanguageOfTheTexts) {
-    for (const char* pack : kPacks) {
+    std::vector<std::string> packs(std::begin(kShippedLanguages), std::end(kShippedLanguages));
+    packs.emplace_back();  // no pack
+    for (const std::string& pack : packs) {
         currentLanguage = pack;
         for (std::int16_t language = 0; language <= kTextLanguages; ++language) {
             for (const auto& [latitude, longitude] : kPlaces) {
-                SCOPED_TRACE(std::string(pack) + " with the texts " + std::to_string(language));
+                SCOPED_TRACE(pack + " with the texts " + std::to_string(language));
                 Show(latitude, longitude, language);
                 ExpectRight(StoredCoord(latitude), StoredCoord(longitude), language);
             }

@@ -8,6 +8,7 @@
 #include "lang/language_pack.h"
 #include "support/build_folder.h"
 #include "support/run_program.h"
+#include "support/shipped_languages.h"
 #include "support/test_platform.h"
 #include "windows/frm_main.h"
 
@@ -74,9 +75,7 @@ TEST_P(MenuLanguagesTest, MenusAreWrittenInTheDirectionOfTheLanguage) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, MenuLanguagesTest,
-                         testing::Values("English", "Arabic", "French", "German", "Spanish",
-                                         "Turkish", "Urdu"),
+INSTANTIATE_TEST_SUITE_P(All, MenuLanguagesTest, testing::ValuesIn(kShippedLanguages),
                          [](const auto& test) { return test.param; });
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "moon/moon_window.h"
 #include "shell/wiring.h"
 #include "support/program_copy.h"
+#include "support/shipped_languages.h"
 #include "support/test_platform.h"
 #include "windows/f_qibla.h"
 #include "windows/frm_date_convert.h"
@@ -116,9 +117,7 @@ TEST_P(ToolsWindowsTest, RowsOfTheTablesStandBesideTheirDiscs) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ToolsWindowsTest,
-                         testing::Values("English", "Arabic", "French", "German", "Spanish",
-                                         "Turkish", "Urdu"),
+INSTANTIATE_TEST_SUITE_P(All, ToolsWindowsTest, testing::ValuesIn(kShippedLanguages),
                          [](const auto& test) { return test.param; });
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "e2e/harness/test_desktop.h"
 #include "e2e/harness/wait_until.h"
+#include "support/shipped_languages.h"
 
 namespace horavex {
 namespace {
@@ -31,8 +32,7 @@ TEST_P(FaceLanguagesTest, FaceFillsItsWindowWithinASecond) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FaceLanguagesTest,
-                         testing::Combine(testing::Values("English", "Arabic", "French", "German",
-                                                          "Spanish", "Turkish", "Urdu"),
+                         testing::Combine(testing::ValuesIn(kShippedLanguages),
                                           testing::Values(1, 2)),
                          [](const auto& test) {
                              return std::get<0>(test.param) +

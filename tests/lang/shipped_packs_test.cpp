@@ -17,6 +17,7 @@
 #include "lang/profile_file.h"
 #include "linux/posix_files.h"
 #include "support/build_folder.h"
+#include "support/shipped_languages.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -26,10 +27,6 @@ using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-constexpr const char* kLanguages[] = {
-    "Arabic", "Bengali", "English", "French", "German", "Spanish", "Turkish", "Urdu",
-};
 
 /// The folder data/lang of the source as the packs of the program folder.
 class ShippedPacks : public LangTest {
@@ -90,7 +87,7 @@ TEST_F(ShippedPacks, AreNamedInTheMenuWhichMarksTheOneInUse) {
         captions.push_back(item->Caption());
         EXPECT_EQ(item->Checked(), item->Caption() == "English") << item->Caption();
     }
-    EXPECT_THAT(captions, ElementsAreArray(kLanguages));
+    EXPECT_THAT(captions, ElementsAreArray(kShippedLanguages));
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
 }
 
@@ -98,11 +95,11 @@ TEST_F(ShippedPacks, HaveNoMissingEmptyOrUnknownKey) {
     CheckReport report;
     CheckLanguagePacks(report);
     EXPECT_THAT(report.problems, IsEmpty());
-    EXPECT_GT(report.passed, std::ssize(kLanguages) * 300);
+    EXPECT_GT(report.passed, std::ssize(kShippedLanguages) * 300);
 }
 
 TEST_F(ShippedPacks, AreUtf8WithoutAByteOrderMarkOrCarriageReturns) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         const std::string source = Source(language);
         EXPECT_TRUE(IsUtf8(source)) << language;
         EXPECT_THAT(source, Not(HasSubstr("\xEF\xBB\xBF"))) << language;
@@ -112,7 +109,7 @@ TEST_F(ShippedPacks, AreUtf8WithoutAByteOrderMarkOrCarriageReturns) {
 }
 
 TEST_F(ShippedPacks, LeaveTheAddressOfTheServerToTheSettings) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         EXPECT_THAT(Text(language, "msg", "18"), HasSubstr("{address} ")) << language;
         EXPECT_THAT(Text(language, "msg", "20"), HasSubstr("{address}")) << language;
         EXPECT_THAT(Source(language), Not(HasSubstr("://"))) << language;
@@ -120,11 +117,12 @@ TEST_F(ShippedPacks, LeaveTheAddressOfTheServerToTheSettings) {
 }
 
 TEST_F(ShippedPacks, PatternsHaveTheMarksOfTheEnglishOnes) {
+    const std::span<const std::string> none;
     std::string section;
     for (const std::string& line : Split(Source("English"), '\n')) {
         section = line.starts_with('[') ? line.substr(1, line.size() - 2) : section;
         const auto marks = MarksOf(line);
-        for (const char* language : marks.empty() ? std::span<const char* const>() : kLanguages) {
+        for (const std::string& language : marks.empty() ? none : kShippedLanguages) {
             const std::string key = line.substr(0, line.find('='));
             EXPECT_EQ(MarksOf(Text(language, section, key)), marks)
                 << language << " [" << section << "] " << key;
@@ -133,7 +131,7 @@ TEST_F(ShippedPacks, PatternsHaveTheMarksOfTheEnglishOnes) {
 }
 
 TEST_F(ShippedPacks, HaveEachKeyOnce) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         std::set<std::string> seen;
         std::string section;
         for (const std::string& line : Split(Source(language), '\n')) {
@@ -149,7 +147,7 @@ TEST_F(ShippedPacks, HaveEachKeyOnce) {
 }
 
 TEST_F(ShippedPacks, BlankNoCaptionOfAnyForm) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         for (const auto& form : FormsIn(language)) {
             EXPECT_NE(form->Caption(), form->Name()) << language;
             for (const Control* control : form->Controls()) {
@@ -162,7 +160,7 @@ TEST_F(ShippedPacks, BlankNoCaptionOfAnyForm) {
 }
 
 TEST_F(ShippedPacks, TitlesOfTheFacesButtonsCarryNoAccessKey) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         for (const char* key : {"mnuAthan", "mnuSettings", "mnuTools", "mnuHelp"}) {
             EXPECT_THAT(Text(language, "frmMain", key), Not(HasSubstr("&"))) << language;
         }
@@ -170,7 +168,7 @@ TEST_F(ShippedPacks, TitlesOfTheFacesButtonsCarryNoAccessKey) {
 }
 
 TEST_F(ShippedPacks, EveryMenuEntryHasAnAccessKeyOfItsOwnInItsMenu) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         std::map<const Element*, std::set<std::string>> keysOfMenu;
         for (const auto& form : FormsIn(language)) {
             for (const Control* control : form->Controls()) {
@@ -189,7 +187,7 @@ TEST_F(ShippedPacks, EveryMenuEntryHasAnAccessKeyOfItsOwnInItsMenu) {
 }
 
 TEST_F(ShippedPacks, ButtonsOfAWindowShareNoAccessKey) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         for (const auto& form : FormsIn(language)) {
             std::set<std::string> keys;
             for (const Control* control : form->Controls()) {
@@ -205,7 +203,7 @@ TEST_F(ShippedPacks, ButtonsOfAWindowShareNoAccessKey) {
 
 TEST_F(ShippedPacks, HaveAccessKeysWhereEnglishHasThem) {
     const auto english = FormsIn("English");
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         const auto translated = FormsIn(language);
         for (std::size_t form = 0; form < english.size(); ++form) {
             for (std::size_t control = 0; control < english[form]->Controls().size(); ++control) {
@@ -230,7 +228,7 @@ TEST_F(ShippedPacks, FrenchMarksStandBehindNoBreakSpacesAndApostrophesAreCurved)
 }
 
 TEST_F(ShippedPacks, PrayersOfTheFaceAreSixNamesWithoutAColon) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         std::set<std::string> names;
         for (int prayer = 0; prayer < 6; ++prayer) {
             const std::string name =
@@ -245,7 +243,7 @@ TEST_F(ShippedPacks, PrayersOfTheFaceAreSixNamesWithoutAColon) {
 TEST_F(ShippedPacks, OpeningsOfTheNextPrayerBeginWithTheNameOnTheFace) {
     const std::map<std::string, int> prayers = {
         {"Fajr", 0}, {"Zuhr", 2}, {"Asr", 3}, {"Maghrib", 4}, {"Isha", 5}};
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         for (const auto& [key, prayer] : prayers) {
             const std::string name =
                 Text(language, "frmMain", "lblZoritNameArabic_" + std::to_string(prayer));
@@ -256,7 +254,7 @@ TEST_F(ShippedPacks, OpeningsOfTheNextPrayerBeginWithTheNameOnTheFace) {
 }
 
 TEST_F(ShippedPacks, TwoLabelsOfTheFaceEndInAColon) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         EXPECT_TRUE(Text(language, "frmMain", "Label1").ends_with(":")) << language;
         EXPECT_TRUE(Text(language, "frmMain", "Label3").ends_with(":")) << language;
     }
@@ -268,7 +266,7 @@ TEST_F(ShippedPacks, FitTheirBuffers) {
     const std::regex shortName(
         "\\[other\\](1?[0-9]|Fajr|Zuhr|Asr|Maghrib|Isha)|"
         "\\[frmMain\\]mnu(Athan|Settings|Tools|Help)");
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         const std::string source = Source(language);
         for (const ProfileEntry& entry : ListProfileEntries(source)) {
             const std::string key = "[" + entry.section + "]" + entry.key;
@@ -293,7 +291,7 @@ TEST_F(ShippedPacks, SpeakTheirOwnLanguage) {
 }
 
 TEST_F(ShippedPacks, NumberNothingThatIsLeftFree) {
-    for (const char* language : kLanguages) {
+    for (const std::string& language : kShippedLanguages) {
         EXPECT_EQ(Text(language, "msg", "8"), "") << language;
         EXPECT_TRUE(Text(language, "msg", "18").ends_with(" ")) << language;
     }

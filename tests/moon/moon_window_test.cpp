@@ -8,6 +8,7 @@
 #include "moon/eclipses.h"
 #include "moon/phase_rows.h"
 #include "support/program_test.h"
+#include "support/shipped_languages.h"
 #include "windows/frm_ramadan.h"
 #include "windows/moon_phases.h"
 
@@ -219,11 +220,11 @@ TEST_F(MoonWindowTest, HelpWithoutAPackStaysEmpty) {
 }
 
 TEST_F(MoonWindowTest, HelpIsThereInEveryLanguage) {
-    for (const char* language : {"Arabic", "French", "German", "Spanish", "Turkish", "Urdu"}) {
+    for (const std::string& language : kShippedLanguages) {
         currentLanguage = language;
         form.SkinLabel1.UserClick();
         EXPECT_THAT(frmRamadan->Text1.Text(), Not(testing::IsEmpty())) << language;
-        EXPECT_NE(frmRamadan->Caption(), "Help") << language;
+        EXPECT_EQ(frmRamadan->Caption() == "Help", language == "English") << language;
         frmRamadan->Unload();
     }
 }

@@ -6,6 +6,7 @@
 #include "moon/moon_window.h"
 #include "store/text_table.h"
 #include "support/program_test.h"
+#include "support/shipped_languages.h"
 #include "windows/moon_phases.h"
 
 namespace horavex {
@@ -130,10 +131,9 @@ TEST_F(RiseSetPageTest, WesternPlaceOfLessThanADegreeIsWestern) {
 }
 
 TEST_F(RiseSetPageTest, PlaceIsTheSameInEveryPackAndLanguageOfTheTexts) {
-    for (const char* pack :
-         {"English", "French", "German", "Arabic", "Spanish", "Turkish", "Urdu"}) {
+    for (const std::string& pack : kShippedLanguages) {
         for (std::int16_t language = 1; language <= kTextLanguages; ++language) {
-            SCOPED_TRACE(std::string(pack) + " with the texts " + std::to_string(language));
+            SCOPED_TRACE(pack + " with the texts " + std::to_string(language));
             currentLanguage = pack;
             Settings.Language = language;
             Show(-3460, -5845, "-3.00");

@@ -19,6 +19,7 @@
 #include "support/build_folder.h"
 #include "support/program_copy.h"
 #include "support/run_program.h"
+#include "support/shipped_languages.h"
 #include "support/test_platform.h"
 #include "windows/f_message.h"
 #include "windows/frm_about.h"
@@ -215,8 +216,7 @@ int main(int argc, char** argv) {
     frmMain->Show();
     RenderAll(windows, false);
     RenderAll(windows, true);
-    for (const std::string language :
-         {"English", "French", "German", "Spanish", "Turkish", "Urdu", "Arabic"}) {
+    for (const std::string& language : kShippedLanguages) {
         RenderAthan(windows, language);
     }
     RenderHelp("English");

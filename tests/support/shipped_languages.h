@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace horavex {
+
+/// The packs of data/lang, by name.
+inline const std::string kShippedLanguages[] = {
+    "Arabic", "Bengali", "English", "French", "German", "Spanish", "Turkish", "Urdu",
+};
+
+}  // namespace horavex
