@@ -49,8 +49,8 @@ struct Language {
 };
 
 constexpr Language kLanguages[] = {
-    {"Arabic", 4},  {"English", 1}, {"French", 2}, {"German", 3},
-    {"Spanish", 5}, {"Turkish", 1}, {"Urdu", 1},
+    {"Arabic", 4},     {"English", 1}, {"French", 2},  {"German", 3},
+    {"Indonesian", 1}, {"Spanish", 5}, {"Turkish", 1}, {"Urdu", 1},
 };
 
 constexpr QSize kFrame(8, 44);  // what a window manager draws around a window, at most

@@ -285,6 +285,7 @@ TEST_F(ShippedPacks, SpeakTheirOwnLanguage) {
     EXPECT_EQ(Text("English", "frmMain", "mnuHelp"), "Help");
     EXPECT_EQ(Text("French", "frmMain", "mnuHelp"), "Aide");
     EXPECT_EQ(Text("German", "frmMain", "mnuHelp"), "Hilfe");
+    EXPECT_EQ(Text("Indonesian", "frmMain", "mnuHelp"), "Bantuan");
     EXPECT_EQ(Text("Spanish", "frmMain", "mnuHelp"), "Ayuda");
     EXPECT_EQ(Text("Turkish", "frmMain", "mnuHelp"), "Yardım");
     EXPECT_EQ(Text("Urdu", "frmMain", "mnuHelp"), "مدد");
