@@ -53,7 +53,7 @@ const TextLine::Look kRemainingLook{24, kGold, Qt::AlignLeading | Qt::AlignVCent
 /// A date without its weekday as a language writes it, in plain digits and with the day in front,
 /// as all dates of the face: "21. November 2026".
 QString Written(const QDate& date, const QLocale& language) {
-    static const QRegularExpression weekday(QStringLiteral("^dddd[^dMy]*"));
+    static const QRegularExpression weekday(QStringLiteral("^dddd[^dMy]*|[^dMy]*dddd$"));
     QString pattern = language.dateFormat(QLocale::LongFormat).remove(weekday);
     if (!pattern.startsWith(u'd')) {
         pattern = QStringLiteral("d MMMM yyyy");

@@ -310,8 +310,10 @@ TEST_F(FaceInAPackTest, NamesFollowThePackThatComesWithNewCaptions) {
 
 TEST_F(FaceInAPackTest, DateIsWrittenAsTheLanguageWritesItWithTheDayInFront) {
     TellArabic(face);
-    const std::pair<const char*, const char*> dates[] = {
-        {"es", "21 de noviembre de 2026"}, {"fr", "21 novembre 2026"}, {"en", "21 November 2026"}};
+    const std::pair<const char*, const char*> dates[] = {{"es", "21 de noviembre de 2026"},
+                                                         {"fr", "21 novembre 2026"},
+                                                         {"tr", "21 Kasım 2026"},
+                                                         {"en", "21 November 2026"}};
     for (const auto& [code, date] : dates) {
         language = QLocale(QString::fromUtf8(code));
         face.SetVariable("prayer_time", "x");
