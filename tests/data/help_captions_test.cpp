@@ -70,7 +70,8 @@ TEST_P(HelpCaptions, AreTheOnesThatWindowsShow) {
 INSTANTIATE_TEST_SUITE_P(Languages, HelpCaptions,
                          testing::Values(HelpLanguage{"English", 1}, HelpLanguage{"French", 2},
                                          HelpLanguage{"German", 3}, HelpLanguage{"Arabic", 4},
-                                         HelpLanguage{"Spanish", 5}, HelpLanguage{"Turkish", 1}),
+                                         HelpLanguage{"Indonesian", 1}, HelpLanguage{"Spanish", 5},
+                                         HelpLanguage{"Turkish", 1}),
                          [](const auto& language) { return language.param.name; });
 
 }  // namespace

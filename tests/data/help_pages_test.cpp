@@ -157,6 +157,7 @@ const Surprise kSurprises[] = {
       {"French",
        "<b>Silencieux</b> et <b>Sonnerie</b> affichent tous deux la fenêtre sans aucun son"},
       {"German", "<b>Stumm</b> und <b>Signalton</b> zeigen beide das Fenster ohne Ton"},
+      {"Indonesian", "<b>Mute</b> dan <b>Buzzard</b> sama-sama menampilkan jendela tanpa suara"},
       {"Spanish", "<b>Silencio</b> y <b>Zumbador</b> muestran ambos la ventana sin sonido"},
       {"Turkish", "<b>Mute</b> ve <b>Buzzard</b> pencereyi sessiz gösterir"}}},
     {"settings.html",
@@ -164,6 +165,7 @@ const Surprise kSurprises[] = {
       {"English", "It comes every day, whether the box is ticked or not"},
       {"French", "L’alarme revient chaque jour, que la case soit cochée ou non"},
       {"German", "Er kommt jeden Tag, ob das Häkchen gesetzt ist oder nicht"},
+      {"Indonesian", "Alarm datang setiap hari, baik kotaknya dicentang maupun tidak"},
       {"Spanish", "Llega todos los días, esté o no marcada la casilla"},
       {"Turkish", "Kutu işaretli olsun olmasın her gün gelir"}}},
     {"settings.html",
@@ -171,6 +173,7 @@ const Surprise kSurprises[] = {
       {"English", "the Isha angle and the language stay"},
       {"French", "l’angle de l’Icha et la langue restent inchangés"},
       {"German", "der Winkel für Ischa und die Sprache bleiben"},
+      {"Indonesian", "sudut Isya dan bahasa tetap seperti semula"},
       {"Spanish", "el ángulo del Isha y el idioma se conservan"},
       {"Turkish", "yatsı açısı ve dil olduğu gibi kalır"}}},
     {"athan.html",
@@ -178,6 +181,7 @@ const Surprise kSurprises[] = {
       {"English", "Without a sound it stays until you press <b>Stop</b>"},
       {"French", "Sans son, elle reste jusqu’à ce que vous cliquiez sur ce bouton"},
       {"German", "Ohne Ton bleibt es, bis Sie auf die Stopptaste klicken"},
+      {"Indonesian", "Tanpa suara, jendela itu bertahan sampai Anda menekan <b>Hentikan</b>"},
       {"Spanish", "Sin sonido, permanece hasta que usted pulsa el botón de detener"},
       {"Turkish", "Sessizse siz <b>Durdur</b> düğmesine basana kadar kalır"}}},
     {"athan.html",
@@ -185,6 +189,7 @@ const Surprise kSurprises[] = {
       {"English", "when a message or a progress window closes"},
       {"French", "quand un message ou une fenêtre de progression se ferme"},
       {"German", "wenn sich ein Meldungs- oder Fortschrittsfenster schließt"},
+      {"Indonesian", "ketika sebuah pesan atau jendela kemajuan ditutup"},
       {"Spanish", "cuando se cierra un mensaje o una ventana de progreso"},
       {"Turkish", "Bir ileti veya ilerleme penceresi kapanınca"}}},
     {"athan.html",
@@ -192,6 +197,7 @@ const Surprise kSurprises[] = {
       {"English", "The third reciter of the other prayers can be listened to and no more"},
       {"French", "Le troisième muezzin des autres prières peut être écouté, et rien de plus"},
       {"German", "Den dritten Muezzin der übrigen Gebete können Sie anhören, mehr nicht"},
+      {"Indonesian", "Muazin ketiga untuk salat lainnya hanya dapat didengarkan"},
       {"Spanish", "El tercer almuédano de las demás oraciones solo se puede escuchar"},
       {"Turkish", "Öbür namazların üçüncü müezzini yalnızca dinlenebilir"}}},
     {"athan.html",
@@ -199,6 +205,7 @@ const Surprise kSurprises[] = {
       {"English", "The dialogue opens on one of the rare types"},
       {"French", "La boîte de dialogue s’ouvre sur l’un des types rares"},
       {"German", "Der Dialog öffnet sich mit einem der seltenen Dateitypen"},
+      {"Indonesian", "Dialognya terbuka dengan salah satu jenis yang langka"},
       {"Spanish", "El cuadro de diálogo se abre con uno de los tipos poco comunes"},
       {"Turkish", "İletişim kutusu az rastlanan türlerden biriyle açılır"}}},
     {"athan.html",
@@ -206,6 +213,7 @@ const Surprise kSurprises[] = {
       {"English", "At the prayer it is the copy that plays"},
       {"French", "À l’heure de la prière, c’est la copie qui est jouée"},
       {"German", "Zum Gebet erklingt die Kopie"},
+      {"Indonesian", "Pada waktu salat, yang diputar adalah salinannya"},
       {"Spanish", "En la oración suena la copia"},
       {"Turkish", "Namaz vaktinde çalan, kopyadır"}}},
     {"dates.html",
@@ -214,6 +222,7 @@ const Surprise kSurprises[] = {
       {"French",
        "La fenêtre principale et les tableaux d’horaires comptent tous leurs mois de cette façon"},
       {"German", "Das Hauptfenster und die Tabellen zählen alle ihre Monate auf diese Weise"},
+      {"Indonesian", "Jendela utama dan jadwal menghitung semua bulannya dengan cara itu"},
       {"Spanish", "La ventana principal y los horarios calculan todos sus meses de ese modo"},
       {"Turkish", "bütün ayları bu biçimde sayar"}}},
     {"index.html",
@@ -221,6 +230,7 @@ const Surprise kSurprises[] = {
       {"English", "the button below the compass opens the qibla"},
       {"French", "le bouton placé sous la boussole ouvre la qibla"},
       {"German", "die Schaltfläche unter dem Kompass öffnet die Qibla"},
+      {"Indonesian", "tombol di bawah kompas membuka kiblat"},
       {"Spanish", "el botón situado bajo la brújula abre la alquibla"},
       {"Turkish", "pusulanın altındaki düğme kıbleyi açar"}}},
 };
@@ -232,8 +242,9 @@ TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
     }
 }
 
-const std::vector<std::string> kLanguages = {"Arabic", "English", "French",
-                                             "German", "Spanish", "Turkish"};
+const std::vector<std::string> kLanguages = {
+    "Arabic", "English", "French", "German", "Indonesian", "Spanish", "Turkish",
+};
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::ValuesIn(kLanguages),
                          [](const auto& language) { return language.param; });
