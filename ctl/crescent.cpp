@@ -148,7 +148,7 @@ void PrintCrescent(Session& session, const CrescentOptions& options) {
     const Lookout lookout{WorkingObserver(), UniversalOfWorking, WorkingOfUniversal};
     const Almanac& almanac = Ports().almanac;
     const MonthEvenings month = EveningsOfMonth(almanac, lookout, options.year, options.month);
-    const auto map = WriteMap(almanac, month, options.map);
+    const auto map = WriteMap(almanac, lookout, month, options.map);
     Json json = MonthJson(month, first);
     if (map) {
         json["map"] = MapJson(*map);

@@ -1,5 +1,7 @@
 #include "ctl/crescent_map.h"
 
+#include <cmath>
+
 #include "ctl/document_fonts.h"
 #include "ctl/place_clock.h"
 #include "sky/map_drawing.h"
@@ -28,8 +30,8 @@ Date EveningOf(const MonthEvenings& month, const CrescentMapOptions& options) {
 
 MapText TextOf(const WrittenMap& map, Date newMoon) {
     const Date minute = std::round(newMoon * 1440.0) / 1440.0;
-    return {"Crescent on the evening of " + IsoDate(CivilFromDate(map.evening)) +
-                ", criterion of " + (map.criterion == "odeh" ? "Odeh" : "Yallop"),
+    return {"Crescent on the evening of " + IsoDate(CivilFromDate(map.day)) + ", criterion of " +
+                (map.criterion == "odeh" ? "Odeh" : "Yallop"),
             "New moon " + IsoDate(CivilFromDate(minute)) + " " + IsoTime(SecondOfDay(minute) / 60) +
                 " Universal Time",
             {}};
@@ -49,13 +51,14 @@ void AddMapOptions(CLI::App& command, CrescentMapOptions& options) {
         ->needs(map);
 }
 
-std::optional<WrittenMap> WriteMap(const Almanac& almanac, const MonthEvenings& month,
-                                   const CrescentMapOptions& options) {
+std::optional<WrittenMap> WriteMap(const Almanac& almanac, const Lookout& lookout,
+                                   const MonthEvenings& month, const CrescentMapOptions& options) {
     if (options.file.empty()) {
         return std::nullopt;
     }
-    const WrittenMap written{options.file, EveningOf(month, options), options.criterion};
-    VisibilityMap map(almanac, written.evening, month.newMoon);
+    const Date evening = EveningOf(month, options);
+    const WrittenMap written{options.file, evening, SolarDay(lookout, evening), options.criterion};
+    VisibilityMap map(almanac, written.day, month.newMoon);
     while (!map.IsComplete()) {
         map.ComputeRow();
     }
@@ -70,12 +73,15 @@ std::optional<WrittenMap> WriteMap(const Almanac& almanac, const MonthEvenings& 
 Json MapJson(const WrittenMap& map) {
     return {{"file", map.file},
             {"evening", IsoDate(CivilFromDate(map.evening))},
+            {"date", IsoDate(CivilFromDate(map.day))},
             {"criterion", map.criterion}};
 }
 
 std::string WrittenMapText(const WrittenMap& map) {
-    return "\nMap of the evening of " + IsoDate(CivilFromDate(map.evening)) + ": " + map.file +
-           "\n";
+    const std::string day =
+        map.day == map.evening ? "" : ", on the map " + IsoDate(CivilFromDate(map.day));
+    return "\nMap of the evening of " + IsoDate(CivilFromDate(map.evening)) + day + ": " +
+           map.file + "\n";
 }
 
 }  // namespace horavex

@@ -20,14 +20,15 @@ void AddMapOptions(CLI::App& command, CrescentMapOptions& options);
 /// A map that was written.
 struct WrittenMap {
     std::string file;
-    Date evening;
+    Date evening;  // on the calendar of the place
+    Date day;      // the map's own
     std::string criterion;
 };
 
 /// Works out and writes the map that the options ask for, if they do. Without an evening it is the
 /// first on which the crescent can be seen from the place. Throws FileFault.
-std::optional<WrittenMap> WriteMap(const Almanac& almanac, const MonthEvenings& month,
-                                   const CrescentMapOptions& options);
+std::optional<WrittenMap> WriteMap(const Almanac& almanac, const Lookout& lookout,
+                                   const MonthEvenings& month, const CrescentMapOptions& options);
 
 Json MapJson(const WrittenMap& map);
 std::string WrittenMapText(const WrittenMap& map);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr std::size_t kUsualEvening = 2;  // in most months and places
 constexpr double kNoon = 0.5;
+constexpr double kTurn = 360.0;  // degrees
 
 // The arithmetic month begins a day or two behind its new moon; half a month to either side holds
 // one.
@@ -55,6 +56,10 @@ MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, in
             {day, CrescentAfter(almanac, lookout.observer, noon, found.newMoon)});
     }
     return found;
+}
+
+Date SolarDay(const Lookout& lookout, Date day) {
+    return std::floor(lookout.universalOf(day + kNoon) + lookout.observer.longitude / kTurn);
 }
 
 std::optional<Date> FirstDay(const MonthEvenings& month, Criterion criterion, Sight sight) {

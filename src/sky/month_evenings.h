@@ -39,6 +39,10 @@ struct Lookout {
 /// Hijri calendar. month: 1 to 12.
 MonthEvenings EveningsOfMonth(const Almanac& almanac, const Lookout& lookout, int year, int month);
 
+/// The date of the sun at the noon of a day of the calendar, as a map has it: it is the day before
+/// or after where the clock of a place counts it to the other side of the date line.
+Date SolarDay(const Lookout& lookout, Date day);
+
 /// How somebody looks for the crescent. The naked eye takes the classes A and B of either
 /// criterion; optical aid takes Yallop's to D and Odeh's to C.
 enum class Sight { kNakedEye, kAided };

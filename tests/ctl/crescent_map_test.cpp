@@ -30,6 +30,7 @@ TEST_F(CtlCrescentMap, IsOfTheEveningOnWhichTheCrescentComesIntoSight) {
                 ElementsAre("city", "month", "year", "newMoon", "evenings", "firstDays", "map"));
     EXPECT_EQ(month["map"]["file"], ctl / "map.svg");
     EXPECT_EQ(month["map"]["evening"], "2024-03-11");
+    EXPECT_EQ(month["map"]["date"], "2024-03-11");
     EXPECT_EQ(month["map"]["criterion"], "yallop");
     const std::string svg = ContentOf(ctl / "map.svg");
     EXPECT_THAT(svg, StartsWith("<svg "));
@@ -51,6 +52,20 @@ TEST_F(CtlCrescentMap, IsAPngByItsName) {
     EXPECT_THAT(To(ctl / "map.PNG").out,
                 HasSubstr("\nMap of the evening of 2024-03-11: " + (ctl / "map.PNG") + "\n"));
     EXPECT_THAT(ContentOf(ctl / "map.PNG"), StartsWith("\x89PNG"));
+}
+
+// The clock of Samoa counts the islands to the west of the date line; the map ends there.
+TEST_F(CtlCrescentMap, IsOfTheDateOfTheSunBeyondTheDateLine) {
+    const std::string line =
+        "crescent --month 9 --year 1445 --latitude -13.83 --longitude -171.77 --time-zone "
+        "Pacific/Apia";
+    const Json month = JsonOf(ctl, line, {"--map", ctl / "map.svg"});
+    EXPECT_EQ(month["map"]["evening"], "2024-03-11");
+    EXPECT_EQ(month["map"]["date"], "2024-03-10");
+    EXPECT_THAT(ContentOf(ctl / "map.svg"),
+                HasSubstr(">Crescent on the evening of 2024-03-10, criterion of Yallop<"));
+    EXPECT_THAT(ctl.Run(line, {"--map", ctl / "map.svg"}).out,
+                HasSubstr("\nMap of the evening of 2024-03-11, on the map 2024-03-10: "));
 }
 
 TEST_F(CtlCrescentMap, RefusesAnotherEndingBeforeAnythingIsDone) {

@@ -41,6 +41,14 @@ TEST(EveningsOfMonth, HaveANewMoonNearTheBeginningOfEveryMonth) {
     }
 }
 
+TEST(SolarDay, IsTheDateByTheSunOnEitherSideOfTheDateLine) {
+    const Date day = DateSerial(2024, 3, 11);
+    EXPECT_EQ(SolarDay(kMecca, day), day);
+    EXPECT_EQ(SolarDay(LookoutOf({-13.83, -171.77}, 13.0), day), day - 1.0) << "Samoa";
+    EXPECT_EQ(SolarDay(LookoutOf({-14.28, -170.7}, -11.0), day), day) << "American Samoa";
+    EXPECT_EQ(SolarDay(LookoutOf({51.9, 179.6}, -10.0), day), day + 1.0) << "the western Aleutians";
+}
+
 /// Evenings from day 100 on, each judged with a letter of both criteria.
 MonthEvenings EveningsOf(const std::string& letters) {
     MonthEvenings month{0.0, {}};

@@ -9,6 +9,7 @@
 
 #include "linux/erfa_almanac.h"
 #include "platform/even_almanac.h"
+#include "sky/month_evenings.h"
 
 namespace horavex {
 namespace {
@@ -158,6 +159,19 @@ TEST(VisibilityMap, GoesRowByRowFromTheNorthAndStopsWhenItIsComplete) {
     EXPECT_EQ(map.ComputedRows(), 13);
     EXPECT_TRUE(map.IsComplete());
     EXPECT_EQ(&map.AtPlace(-89.0, 180.0), &map.At(12, 35));
+}
+
+// The clock of Samoa is 13 hours ahead of Greenwich, though the map counts the islands to the west.
+TEST(VisibilityMap, OfTheSolarDayHasTheClassesOfTheListBeyondTheDateLine) {
+    const Lookout samoa{{-15.0, -175.0},
+                        [](Date local) { return local - 13.0 / 24.0; },
+                        [](Date universal) { return universal + 13.0 / 24.0; }};
+    const MonthEvenings month = EveningsOfMonth(kAlmanac, samoa, 1445, 9);
+    const DatedEvening& evening = month.evenings[2];
+    const VisibilityMap map =
+        Complete(VisibilityMap(kAlmanac, SolarDay(samoa, evening.day), month.newMoon, 10.0));
+    EXPECT_EQ(map.AtPlace(-15.0, -175.0).yallop, evening.crescent->yallop.letter);
+    EXPECT_EQ(map.AtPlace(-15.0, -175.0).odeh, evening.crescent->odeh.letter);
 }
 
 TEST(VisibilityMap, HasNoEveningWhereTheSunDoesNotSet) {
