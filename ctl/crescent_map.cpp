@@ -43,7 +43,7 @@ void AddMapOptions(CLI::App& command, CrescentMapOptions& options) {
     auto* map =
         command.add_option("--map", options.file, "A map of the world to write, .svg or .png")
             ->check(kDrawingPath);
-    command.add_option("--evening", options.evening, "The map's evening, 1 to 4 of those listed")
+    command.add_option("--evening", options.evening, "The map's evening, 1 to 5 of those listed")
         ->check(CLI::Range(1, kMonthEvenings))
         ->needs(map);
     command.add_option("--criterion", options.criterion, "The map's criterion, yallop or odeh")

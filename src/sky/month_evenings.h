@@ -14,7 +14,8 @@ struct DatedEvening {
     std::optional<CrescentEvening> crescent;  // nothing where the sun does not set
 };
 
-inline constexpr int kMonthEvenings = 4;
+/// As many as the latitude of London needs in autumn, where the young moon stays low for days.
+inline constexpr int kMonthEvenings = 5;
 
 /// The Hijri years whose evenings lie in the almanac's years.
 inline constexpr int kFirstCrescentYear = 1318;

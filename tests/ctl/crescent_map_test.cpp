@@ -79,7 +79,7 @@ TEST_F(CtlCrescentMap, RefusesAnotherEndingBeforeAnythingIsDone) {
 TEST_F(CtlCrescentMap, TakesItsOptionsWithAMapAlone) {
     EXPECT_EQ(ctl.Run(std::string(kMonth) + " --evening 2").status, 2);
     EXPECT_EQ(ctl.Run(std::string(kMonth) + " --criterion odeh").status, 2);
-    EXPECT_EQ(To(ctl / "map.svg", " --evening 5").status, 2);
+    EXPECT_EQ(To(ctl / "map.svg", " --evening 6").status, 2);
     EXPECT_EQ(To(ctl / "map.svg", " --criterion danjon").status, 2);
 }
 

@@ -97,7 +97,7 @@ TEST(CtlCrescent, ObjectHasTheAgreedKeys) {
     const Json month = JsonOf(Ctl(), "crescent --month 9 --year 1447 --city Mecca");
     EXPECT_THAT(KeysOf(month),
                 ElementsAre("city", "month", "year", "newMoon", "evenings", "firstDays"));
-    ASSERT_EQ(month["evenings"].size(), 4U);
+    ASSERT_EQ(month["evenings"].size(), 5U);
     EXPECT_THAT(KeysOf(month["evenings"][0]), ElementsAre("date", "kind", "crescent"));
     EXPECT_THAT(KeysOf(month["evenings"][0]["crescent"]),
                 ElementsAre("sunset", "moonset", "lagMinutes", "best", "ageHours", "moonAltitude",

@@ -19,7 +19,7 @@ const Lookout kMecca = LookoutOf({21.4225, 39.8262}, 3.0);
 TEST(EveningsOfMonth, StandAroundItsNewMoon) {
     const MonthEvenings ramadan = EveningsOfMonth(ErfaAlmanac(), kMecca, 1447, 9);
     EXPECT_NEAR(ramadan.newMoon, DateSerial(2026, 2, 17) + TimeSerial(12, 1, 0), 1.0 / 1440.0);
-    ASSERT_EQ(ramadan.evenings.size(), 4U);
+    ASSERT_EQ(ramadan.evenings.size(), 5U);
     EXPECT_EQ(ramadan.evenings[0].day, DateSerial(2026, 2, 16));
     EXPECT_LT(ramadan.evenings[0].crescent->age, 0.0);
     EXPECT_EQ(ramadan.evenings[3].day, DateSerial(2026, 2, 19));
@@ -98,6 +98,12 @@ TEST(FirstDay, NeverFollowsAnEveningBeforeTheNewMoon) {
         EXPECT_GT(FirstDay(tromso, criterion, Sight::kAided).value_or(tromso.newMoon + 9.0),
                   tromso.newMoon + 1.0);
     }
+}
+
+TEST(FirstDay, IsFoundInTheAutumnOfLondonWhereTheYoungMoonStaysLow) {
+    const MonthEvenings london =
+        EveningsOfMonth(ErfaAlmanac(), LookoutOf({51.5, -0.12}, 1.0), 1446, 4);
+    EXPECT_EQ(FirstDay(london, Criterion::kYallop, Sight::kNakedEye), DateSerial(2024, 10, 6));
 }
 
 TEST(FirstDay, PassesOverAnEveningWithoutASunset) {
