@@ -45,6 +45,7 @@ constexpr const char* kFromTheRight = "<td>([0-9]+)</td><td>[^<]+</td><td>([0-9]
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpAngles,
                          testing::Values(AngleTable{"English", kFromTheLeft, 1, 2, 3},
+                                         AngleTable{"Bengali", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"French", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"German", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"Indonesian", kFromTheLeft, 1, 2, 3},

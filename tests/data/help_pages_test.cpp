@@ -153,6 +153,7 @@ struct Surprise {
 const Surprise kSurprises[] = {
     {"settings.html",
      {{"Arabic", "<b>صامت</b> و<b>رنين</b>: تظهر النافذة بلا صوت"},
+      {"Bengali", "<b>Mute</b> ও <b>Buzzard</b> দুটিতেই উইন্ডোটি শব্দ ছাড়া দেখা যায়"},
       {"English", "<b>Mute</b> and <b>Buzzard</b> both show the window without a sound"},
       {"French",
        "<b>Silencieux</b> et <b>Sonnerie</b> affichent tous deux la fenêtre sans aucun son"},
@@ -162,6 +163,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "<b>Mute</b> ve <b>Buzzard</b> pencereyi sessiz gösterir"}}},
     {"settings.html",
      {{"Arabic", "ويأتي كل يوم سواء أكان المربع معلَّمًا أم لا"},
+      {"Bengali", "ঘরে টিক থাকুক বা না থাকুক, এটি প্রতিদিন আসে"},
       {"English", "It comes every day, whether the box is ticked or not"},
       {"French", "L’alarme revient chaque jour, que la case soit cochée ou non"},
       {"German", "Er kommt jeden Tag, ob das Häkchen gesetzt ist oder nicht"},
@@ -170,6 +172,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "Kutu işaretli olsun olmasın her gün gelir"}}},
     {"settings.html",
      {{"Arabic", "وتبقى زاوية العشاء واللغة كما هما"},
+      {"Bengali", "এশার কোণ ও ভাষা আগের মতোই থাকে"},
       {"English", "the Isha angle and the language stay"},
       {"French", "l’angle de l’Icha et la langue restent inchangés"},
       {"German", "der Winkel für Ischa und die Sprache bleiben"},
@@ -178,6 +181,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "yatsı açısı ve dil olduğu gibi kalır"}}},
     {"athan.html",
      {{"Arabic", "وإن لم يكن لها صوت بقيت حتى تضغط زر الإيقاف"},
+      {"Bengali", "শব্দ না থাকলে আপনি ওই বোতাম না চাপা পর্যন্ত উইন্ডোটি থাকে"},
       {"English", "Without a sound it stays until you press <b>Stop</b>"},
       {"French", "Sans son, elle reste jusqu’à ce que vous cliquiez sur ce bouton"},
       {"German", "Ohne Ton bleibt es, bis Sie auf die Stopptaste klicken"},
@@ -186,6 +190,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "Sessizse siz <b>Durdur</b> düğmesine basana kadar kalır"}}},
     {"athan.html",
      {{"Arabic", "حين تُغلق نافذة رسالة أو نافذة تقدم"},
+      {"Bengali", "যখন কোনো বার্তা বা অগ্রগতির উইন্ডো বন্ধ হয়"},
       {"English", "when a message or a progress window closes"},
       {"French", "quand un message ou une fenêtre de progression se ferme"},
       {"German", "wenn sich ein Meldungs- oder Fortschrittsfenster schließt"},
@@ -194,6 +199,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "Bir ileti veya ilerleme penceresi kapanınca"}}},
     {"athan.html",
      {{"Arabic", "أما المؤذن الثالث للصلوات الأخرى فيُستمع إليه فقط"},
+      {"Bengali", "বাকি চার নামাজের তৃতীয় মুয়াজ্জিনকে কেবল শোনা যায়"},
       {"English", "The third reciter of the other prayers can be listened to and no more"},
       {"French", "Le troisième muezzin des autres prières peut être écouté, et rien de plus"},
       {"German", "Den dritten Muezzin der übrigen Gebete können Sie anhören, mehr nicht"},
@@ -202,6 +208,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "Öbür namazların üçüncü müezzini yalnızca dinlenebilir"}}},
     {"athan.html",
      {{"Arabic", "يُفتح مربع الحوار على نوع نادر"},
+      {"Bengali", "ফাইল বাছাইয়ের উইন্ডো একটি কম প্রচলিত ধরন নিয়ে খোলে"},
       {"English", "The dialogue opens on one of the rare types"},
       {"French", "La boîte de dialogue s’ouvre sur l’un des types rares"},
       {"German", "Der Dialog öffnet sich mit einem der seltenen Dateitypen"},
@@ -210,6 +217,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "İletişim kutusu az rastlanan türlerden biriyle açılır"}}},
     {"athan.html",
      {{"Arabic", "النسخة هي التي تُسمع عند الصلاة"},
+      {"Bengali", "নামাজের সময় কপিটিই বাজে"},
       {"English", "At the prayer it is the copy that plays"},
       {"French", "À l’heure de la prière, c’est la copie qui est jouée"},
       {"German", "Zum Gebet erklingt die Kopie"},
@@ -218,6 +226,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "Namaz vaktinde çalan, kopyadır"}}},
     {"dates.html",
      {{"Arabic", "وتُعد أشهر النافذة الرئيسية والجداول كلها بهذا الحساب"},
+      {"Bengali", "মূল উইন্ডো ও সময়সূচির সব মাসই এভাবে গোনা হয়"},
       {"English", "The face and the timetables count all their months in that way"},
       {"French",
        "La fenêtre principale et les tableaux d’horaires comptent tous leurs mois de cette façon"},
@@ -227,6 +236,7 @@ const Surprise kSurprises[] = {
       {"Turkish", "bütün ayları bu biçimde sayar"}}},
     {"index.html",
      {{"Arabic", "والزر الذي تحت البوصلة يفتح القبلة"},
+      {"Bengali", "কম্পাসের নিচের বোতামটি কিবলা খোলে"},
       {"English", "the button below the compass opens the qibla"},
       {"French", "le bouton placé sous la boussole ouvre la qibla"},
       {"German", "die Schaltfläche unter dem Kompass öffnet die Qibla"},
@@ -243,7 +253,7 @@ TEST_P(HelpPagesTest, WhatSurprisesIsTold) {
 }
 
 const std::vector<std::string> kLanguages = {
-    "Arabic", "English", "French", "German", "Indonesian", "Spanish", "Turkish",
+    "Arabic", "Bengali", "English", "French", "German", "Indonesian", "Spanish", "Turkish",
 };
 
 INSTANTIATE_TEST_SUITE_P(Languages, HelpPagesTest, testing::ValuesIn(kLanguages),

@@ -179,6 +179,7 @@ TEST_F(MonthWindowTest, DayAndMonthAreWrittenAsTheLanguageWritesThem) {
         {"French", {"Novembre 2026 - ", "Samedi 21 novembre 2026, "}},
         {"German", {"November 2026 - ", "Samstag, 21. November 2026, "}},
         {"Indonesian", {"November 2026 - ", "Sabtu, 21 November 2026, "}},
+        {"Bengali", {"নভেম্বর 2026 - ", "শনিবার, 21 নভেম্বর 2026, "}},
         {"Spanish", {"Noviembre de 2026 - ", "Sábado, 21 de noviembre de 2026, "}},
         {"Turkish", {"Kasım 2026 - ", "21 Kasım 2026 Cumartesi, "}},
         {"Urdu", {"نومبر 2026 - ", "ہفتہ، 21 نومبر 2026، "}},
