@@ -79,7 +79,8 @@ private:
 
     void UseFont(double size, bool bold) {
         QFont font;
-        font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
+        font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Noto Sans Arabic"),
+                          QStringLiteral("DejaVu Sans")});  // which has not all letters of Urdu
         font.setPixelSize(qRound(size * point_));
         font.setBold(bold);
         font.setHintingPreference(QFont::PreferNoHinting);

@@ -4,6 +4,7 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "desktop/ports/pack_font.h"
 #include "desktop/ports/pack_locale.h"
 
 namespace horavex {
@@ -35,6 +36,7 @@ void Translate(const QLocale& language) {
 std::optional<QLocale> SpeakLanguageOfPack() {
     const std::optional<QLocale> language = PackLocale();
     Translate(language.value_or(QLocale(QLocale::English)));
+    UseFontOfPack();
     return language;
 }
 
