@@ -51,7 +51,8 @@ INSTANTIATE_TEST_SUITE_P(Languages, HelpAngles,
                                          AngleTable{"Indonesian", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"Spanish", kFromTheLeft, 1, 2, 3},
                                          AngleTable{"Turkish", kFromTheLeft, 1, 2, 3},
-                                         AngleTable{"Arabic", kFromTheRight, 2, 3, 1}),
+                                         AngleTable{"Arabic", kFromTheRight, 2, 3, 1},
+                                         AngleTable{"Urdu", kFromTheRight, 2, 3, 1}),
                          [](const auto& table) { return table.param.language; });
 
 }  // namespace

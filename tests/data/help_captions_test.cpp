@@ -52,8 +52,8 @@ struct HelpCaptions : BuiltData, testing::WithParamInterface<HelpLanguage> {
         static const std::set<std::string> stressed = {
             "أول غروب بعد", "الشمال الحقيقي", "في الشتاء", "الأكبر", "أبكر",
             "أكثر تأخرًا",   "لهذا اليوم",     "متأخرًا",    "متقدمًا"};
-        return bold.ends_with('.') || bold.ends_with("।") || bold == "UTF-8" ||
-               bold.starts_with("Windows-125") || stressed.contains(bold);
+        return bold.ends_with('.') || bold.ends_with("।") || bold.ends_with("۔") ||
+               bold == "UTF-8" || bold.starts_with("Windows-125") || stressed.contains(bold);
     }
 };
 
@@ -71,7 +71,8 @@ INSTANTIATE_TEST_SUITE_P(Languages, HelpCaptions,
                          testing::Values(HelpLanguage{"English", 1}, HelpLanguage{"French", 2},
                                          HelpLanguage{"German", 3}, HelpLanguage{"Arabic", 4},
                                          HelpLanguage{"Bengali", 1}, HelpLanguage{"Indonesian", 1},
-                                         HelpLanguage{"Spanish", 5}, HelpLanguage{"Turkish", 1}),
+                                         HelpLanguage{"Spanish", 5}, HelpLanguage{"Turkish", 1},
+                                         HelpLanguage{"Urdu", 1}),
                          [](const auto& language) { return language.param.name; });
 
 }  // namespace
