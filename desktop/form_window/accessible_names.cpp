@@ -11,19 +11,6 @@ namespace {
 
 constexpr const char* kOwnName = "ownName";
 
-/// The names of all widgets whose object names the property holds, one behind the other.
-QString NamesOfOthers(const QWidget& window, const QWidget& widget, const char* property) {
-    QStringList names;
-    for (const QString& other : widget.property(property).toString().split(' ')) {
-        const auto* named = other.isEmpty() ? nullptr : window.findChild<QWidget*>(other);
-        if (named != nullptr) {
-            names << named->property(kOwnName).toString();
-        }
-    }
-    const bool fromRight = window.layoutDirection() == Qt::RightToLeft;
-    return names.join(fromRight ? QStringLiteral("\u060c ") : QStringLiteral(", "));
-}
-
 /// The label of a list that drops down, seen by assistive tools alone: the toolkit tells them the
 /// chosen row in place of such a list's name, and looks for a label beside it.
 QLabel& SpokenLabelOf(QComboBox& list) {
@@ -51,6 +38,18 @@ void SetName(QWidget& widget, const QString& name) {
 void SetOwnName(QWidget& widget, const QString& name) {
     widget.setProperty(kOwnName, name);
     widget.setAccessibleName(name);
+}
+
+QString NamesOfOthers(const QWidget& window, const QWidget& widget, const char* property) {
+    QStringList names;
+    for (const QString& other : widget.property(property).toString().split(' ')) {
+        const auto* named = other.isEmpty() ? nullptr : window.findChild<QWidget*>(other);
+        if (named != nullptr) {
+            names << named->property(kOwnName).toString();
+        }
+    }
+    const bool fromRight = window.layoutDirection() == Qt::RightToLeft;
+    return names.join(fromRight ? QStringLiteral("\u060c ") : QStringLiteral(", "));
 }
 
 void NameWidgets(const QWidget& window) {

@@ -15,4 +15,7 @@ void SetOwnName(QWidget& widget, const QString& name);
 /// makes "Volume, Asr".
 void NameWidgets(const QWidget& window);
 
+/// The own names of the widgets that a property of the widget lists so.
+QString NamesOfOthers(const QWidget& window, const QWidget& widget, const char* property);
+
 }  // namespace horavex

@@ -12,11 +12,24 @@
 
 namespace horavex {
 
+namespace {
+
+constexpr const char* kBound = "bound";
+
+/// The tabs over pages, for one, take the focus and belong to no control.
+bool AControlHasTheFocus() {
+    const QWidget* const focused = QApplication::focusWidget();
+    return focused != nullptr && focused->property(kBound).toBool();
+}
+
+}  // namespace
+
 Binder::Binder(Control& control, QWidget& widget, RefreshLater refreshLater)
     : control_(control),
       widget_(widget),
       refreshLater_(std::move(refreshLater)),
       focusable_(dynamic_cast<Focusable*>(&control)) {
+    widget_.setProperty(kBound, true);
     widget_.installEventFilter(this);
 }
 
@@ -58,7 +71,7 @@ bool Binder::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // The control that gets the focus takes it from the one that had it, so that leaving counts only
-// where no other widget gets it. A window that is left keeps its focus for its return.
+// where no other control's widget gets it. A window that is left keeps its focus for its return.
 void Binder::FocusMoved(const QEvent& event) {
     if (focusable_ == nullptr || retired_) {
         return;
@@ -67,7 +80,7 @@ void Binder::FocusMoved(const QEvent& event) {
     if (event.type() == QEvent::FocusIn) {
         RunGuarded([this] { focusable_->UserFocus(); });
     } else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
-               QApplication::focusWidget() == nullptr) {
+               !AControlHasTheFocus()) {
         RunGuarded([this] { focusable_->UserLeave(); });
     }
 }

@@ -17,6 +17,8 @@
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/fit_screen.h"
+#include "desktop/form_window/step_labels.h"
+#include "desktop/form_window/tab_pages.h"
 #include "desktop/form_window/twips.h"
 #include "desktop/form_window/widget_names.h"
 #include "forms/focusable.h"
@@ -176,6 +178,8 @@ void FormWindow::Flush() {
     }
     if (controlsChanged) {
         NameWidgets(*this);
+        TitlePages(*this);
+        ShowSteps(*this);
     }
     if (std::exchange(formChanged_, false)) {
         FollowForm();
@@ -286,6 +290,7 @@ void FormWindow::FollowFocus() {
     Focusable* const holder = form_.FocusHolder();
     const auto binder = holder == nullptr ? binders_.end() : binders_.find(holder);
     if (binder != binders_.end()) {
+        BringIntoView(binder->second->Widget());
         binder->second->Widget().setFocus();
     }
 }
@@ -347,6 +352,16 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     } else {
         QWidget::keyPressEvent(event);
     }
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+    QWidget* const widget = NextByTab(*this, next);
+    if (widget == nullptr) {
+        return false;
+    }
+    BringIntoView(*widget);
+    widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void FormWindow::changeEvent(QEvent* event) {

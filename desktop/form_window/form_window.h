@@ -27,7 +27,8 @@ namespace horavex {
 /// A window comes up no larger than the work area with its frame; what a layout scrolls makes room.
 ///
 /// Enter presses the button that has the focus, or else the layout's default button; Escape the
-/// one that the layout marks with the property "cancels", or else it closes the window.
+/// one that the layout marks with the property "cancels", or else it closes the window. The Tab key
+/// goes through the pages behind tabs as if they lay below each other.
 class FormWindow : public QWidget, private FormObserver {
 public:
     FormWindow(Form& form, const Layout& layout);
@@ -48,6 +49,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

@@ -22,7 +22,7 @@ namespace horavex {
 class SettingsForm : public Form {
 public:
     SettingsForm()
-        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 12900, .height = 9840}) {
+        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 9600, .height = 7200}) {
     }
 
     horavex::Frame fraCity{*this, "fraCity", {.caption = "Location"}};

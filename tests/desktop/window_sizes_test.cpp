@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTabWidget>
 #include <QTimer>
 #include <functional>
 
@@ -242,12 +243,19 @@ TEST_F(WindowKeysTest, EscapeClosesEveryWindow) {
     EXPECT_FALSE(frmMain->Visible());
 }
 
-TEST_F(WindowKeysTest, SettingsShowAllTheyHaveWhereThereIsRoom) {
+TEST_F(WindowKeysTest, SettingsShowAllTheyHaveOnPagesOfAModestSize) {
     ShowSettingsWindow();
     QApplication::processEvents();
     const QWidget& window = WindowOf(*HoravexMainForm);
-    const auto* content = window.findChild<QScrollArea*>("qt_content");
-    EXPECT_EQ(content->viewport()->size(), content->widget()->size());
+    EXPECT_LE(window.width(), 860);
+    EXPECT_LE(window.height(), 600);
+    auto* pages = window.findChild<QTabWidget*>("qt_pages");
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        QApplication::processEvents();
+        const auto* area = qobject_cast<QScrollArea*>(pages->widget(page));
+        EXPECT_EQ(area->viewport()->size(), area->widget()->size()) << page;
+    }
     const auto* languages = window.findChild<QWidget*>("lstLanguage");
     EXPECT_LT(languages->height(), 120) << "five rows";
 }

@@ -5,6 +5,7 @@
 //
 // The folder HORAVEX_TEST_BINARY_DIR is where the program was built.
 #include <QApplication>
+#include <QTabWidget>
 
 #include "config/automatic_zone.h"
 #include "config/settings_controls.h"
@@ -90,7 +91,12 @@ private:
         HoravexMainForm->chkDayLT.SetValue(1);
         ShowAutomaticZone(true);
         ShowNewLocation();
-        Save(*HoravexMainForm, "settings");
+        QApplication::processEvents();
+        auto* pages = windows_.Find(&*HoravexMainForm)->findChild<QTabWidget*>();
+        for (int page = 0; page < pages->count(); ++page) {
+            pages->setCurrentIndex(page);
+            Save(*HoravexMainForm, "settings" + QString::number(page + 1));
+        }
     }
 
     void RenderPicker() {
