@@ -57,7 +57,25 @@ ListBoxBinder::ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater 
 
 void ListBoxBinder::Show() {
     ShowItems();
-    widget.setCurrentRow(control.ListIndex());
+    if (widget.currentRow() != control.ListIndex()) {
+        widget.setCurrentRow(control.ListIndex());
+        ShowCurrentInTheMiddle();
+    }
+}
+
+void ListBoxBinder::ShowCurrentInTheMiddle() {
+    if (widget.currentItem() != nullptr) {
+        widget.scrollToItem(widget.currentItem(), QListWidget::PositionAtCenter);
+    }
+}
+
+// Its new size counts when the widget has taken the event.
+bool ListBoxBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        QMetaObject::invokeMethod(this, &ListBoxBinder::ShowCurrentInTheMiddle,
+                                  Qt::QueuedConnection);
+    }
+    return BinderOf::eventFilter(watched, event);
 }
 
 void ListBoxBinder::ShowItems() {

@@ -32,7 +32,8 @@ protected:
     void Show() override;
 };
 
-/// Items are added as they come, so that a list of thousands can be filled one by one.
+/// Items are added as they come, so that a list of thousands can be filled one by one. A row that
+/// the form chooses comes to the middle, and stays there as the list gets its size.
 class ListBoxBinder : public BinderOf<ListBox, QListWidget> {
 public:
     ListBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
@@ -41,7 +42,10 @@ protected:
     void Show() override;
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     void ShowItems();
+    void ShowCurrentInTheMiddle();
 
     int clearings_ = -1;  // of the control, when its items were last shown
 };

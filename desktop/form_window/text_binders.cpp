@@ -1,5 +1,7 @@
 #include "desktop/form_window/text_binders.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -50,6 +52,28 @@ void TextBoxBinder::Show() {
     if (widget.text() != text) {
         widget.setText(text);
     }
+}
+
+QWidget* TextBoxBinder::SteeredList() const {
+    const QString name = widget.property("steers").toString();
+    auto* list = name.isEmpty() ? nullptr : widget.window()->findChild<QWidget*>(name);
+    return list != nullptr && list->isVisible() ? list : nullptr;
+}
+
+// A row that the user chooses gives its list the focus, which comes back.
+void TextBoxBinder::Steer(QWidget& list, QEvent& key) {
+    QApplication::sendEvent(&list, &key);
+    Hand([this] { control.UserFocus(); });
+}
+
+bool TextBoxBinder::eventFilter(QObject* watched, QEvent* event) {
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    QWidget* const list = key == Qt::Key_Up || key == Qt::Key_Down ? SteeredList() : nullptr;
+    if (list == nullptr) {
+        return BinderOf::eventFilter(watched, event);
+    }
+    Steer(*list, *event);
+    return true;
 }
 
 void LinesBinder::Show() {

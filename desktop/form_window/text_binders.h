@@ -54,12 +54,19 @@ protected:
 };
 
 /// The cursor stays where it is unless the text is another one.
+/// A text box of one line. A layout may have it steer a list, which its property "steers" names:
+/// while the list is on view, the keys up and down move in it, and the box keeps the focus.
 class TextBoxBinder : public BinderOf<TextBox, QLineEdit> {
 public:
     TextBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater);
 
 protected:
     void Show() override;
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    QWidget* SteeredList() const;
+    void Steer(QWidget& list, QEvent& key);
 };
 
 /// A text box of several lines that users can only read. A layout may give all lines a height in

@@ -1,6 +1,7 @@
 #include "geo/city_picker.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "base/text.h"
 #include "engine/center_on_screen.h"
 #include "engine/progress_window.h"
+#include "geo/world_map.h"
 #include "lang/form_language.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
@@ -152,6 +154,27 @@ void FillCities(const ListFill& fill) {
     }
 }
 
+// Nothing selected in the list of cities is row -1, and with that the last city of the country
+// before. Kept: CityPickerTest.EmptySelectionIsTheCityBeforeTheCountrysFirst.
+std::int16_t PickedCity() {
+    return ToInt16(SelectedCountry().FirstCity + fCountry->lstcity.ListIndex());
+}
+
+std::optional<GeoPoint> SelectedPlace() {
+    if (fCountry->lstcity.ListIndex() < 0) {
+        return std::nullopt;
+    }
+    LocationRecord place;
+    LookupLocation(PickedCity(), place);
+    return GeoPoint{place.City.Latitude / 100.0, place.City.Longitude / 100.0};
+}
+
+void ShowOnMap() {
+    Picture& map = fCountry->picMap;
+    map.drawing = PlaceMap(map.ScaleWidth(), map.ScaleHeight(), SelectedPlace());
+    map.Refresh();
+}
+
 /// A user who goes to the lists has done with the search.
 void EndSearchFrom(const ListBox& list) {
     if (list.HasFocus()) {
@@ -162,6 +185,7 @@ void EndSearchFrom(const ListBox& list) {
 void lstcountry_Click() {
     EndSearchFrom(fCountry->lstcountry);
     fCountry->lstcity.Clear();
+    ShowOnMap();
     const ListFill fill;
     bool hadFocus = false;
     {
@@ -174,10 +198,9 @@ void lstcountry_Click() {
     }
 }
 
-// Nothing selected in the list of cities is row -1, and with that the last city of the country
-// before. Kept: CityPickerTest.EmptySelectionIsTheCityBeforeTheCountrysFirst.
-std::int16_t PickedCity() {
-    return ToInt16(SelectedCountry().FirstCity + fCountry->lstcity.ListIndex());
+void lstcity_Click() {
+    EndSearchFrom(fCountry->lstcity);
+    ShowOnMap();
 }
 
 CityPick PickOf(std::int16_t cityIndex) {
@@ -207,7 +230,9 @@ void ShowHits() {
         form.lstFound.AddItem(DisplayText(found[hit]));
         hits.push_back(found[hit].city->cityIndex);
     }
-    form.lstFound.SetVisible(!Trim(form.txtSearch.Text()).empty());
+    const bool asks = !Trim(form.txtSearch.Text()).empty();
+    form.lstFound.SetVisible(asks && !hits.empty());
+    form.lblNothing.SetVisible(asks && hits.empty());
 }
 
 /// Country and city of a hit become the selected ones of the lists.
@@ -331,7 +356,7 @@ void BindCityPicker() {
     form.lstFound.onDblClick = cmdOK_Click;
     form.lstcountry.onClick = lstcountry_Click;
     form.lstcountry.onDblClick = cmdOK_Click;
-    form.lstcity.onClick = [] { EndSearchFrom(fCountry->lstcity); };
+    form.lstcity.onClick = lstcity_Click;
     form.lstcity.onDblClick = cmdOK_Click;
     form.cmdOK.onClick = cmdOK_Click;
     form.cmdCancel.onClick = [] { fCountry->Unload(); };

@@ -58,12 +58,34 @@ GeoPoint PointOf(const Vector& v) {
     return {RadToDeg(std::atan2(v.z, std::hypot(v.x, v.y))), RadToDeg(std::atan2(v.y, v.x))};
 }
 
-/// A map whose upper left corner is the north pole at 180 degrees west.
+/// What a map shows: its upper left corner, and its width. It is half as high as wide, in degrees.
+struct MapArea {
+    GeoPoint corner;
+    double width;
+};
+
+constexpr MapArea kWorld{{90.0, -180.0}, 360.0};
+constexpr double kWidthAround = 120.0;
+
+MapArea AreaAround(const GeoPoint& place) {
+    constexpr double kHalf = kWidthAround / 2.0;
+    return {{std::clamp(place.latitude + kHalf / 2.0, -90.0 + kHalf, 90.0),
+             std::clamp(place.longitude - kHalf, -180.0, 180.0 - kWidthAround)},
+            kWidthAround};
+}
+
 class MapPainter {
 public:
-    MapPainter(double width, double height) : width_(width), height_(height) {
+    MapPainter(double width, double height, const MapArea& area)
+        : width_(width), height_(height), area_(area) {
         steps.emplace_back(
             PolygonStep{{{0.0, 0.0}, {width, 0.0}, {width, height}, {0.0, height}}, kSea, {kSea}});
+    }
+
+    void AddLands() {
+        for (const auto& land : ReadLands()) {
+            AddLand(land);
+        }
     }
 
     void AddLand(const std::vector<GeoPoint>& corners) {
@@ -91,12 +113,13 @@ public:
 
 private:
     Point At(const GeoPoint& point) const {
-        return {(point.longitude + 180.0) / 360.0 * width_,
-                (90.0 - point.latitude) / 180.0 * height_};
+        return {(point.longitude - area_.corner.longitude) / area_.width * width_,
+                (area_.corner.latitude - point.latitude) / (area_.width / 2.0) * height_};
     }
 
     double width_;
     double height_;
+    MapArea area_;
 };
 
 }  // namespace
@@ -126,15 +149,20 @@ std::vector<GeoPoint> GreatCircle(const GeoPoint& from, const GeoPoint& to) {
 }
 
 Drawing WorldMap(double width, double height, const GeoPoint& place) {
-    MapPainter map(width, height);
-    RunStep([&map] {
-        for (const auto& land : ReadLands()) {
-            map.AddLand(land);
-        }
-    });
+    MapPainter map(width, height, kWorld);
+    RunStep([&map] { map.AddLands(); });
     map.AddWay(GreatCircle(place, kMecca));
     map.AddMark(place, kPlaceMark);
     map.AddMark(kMecca, kWay);
+    return map.steps;
+}
+
+Drawing PlaceMap(double width, double height, const std::optional<GeoPoint>& place) {
+    MapPainter map(width, height, place ? AreaAround(*place) : kWorld);
+    RunStep([&map] { map.AddLands(); });
+    if (place) {
+        map.AddMark(*place, kWay);
+    }
     return map.steps;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,5 +27,9 @@ std::vector<GeoPoint> GreatCircle(const GeoPoint& from, const GeoPoint& to);
 /// A map of the world, as wide as 360 degrees, in an area of the given size in twips, with the
 /// great circle from a place to Mecca. Without its file the lands are left out.
 Drawing WorldMap(double width, double height, const GeoPoint& place);
+
+/// The part of such a map around a place, with its mark: 120 degrees wide, and moved inwards where
+/// it would reach beyond an edge of the world. The whole world for none.
+Drawing PlaceMap(double width, double height, const std::optional<GeoPoint>& place);
 
 }  // namespace horavex

@@ -9,6 +9,7 @@
 #include "forms/form_instance.h"
 #include "forms/label.h"
 #include "forms/list.h"
+#include "forms/picture.h"
 #include "forms/text_box.h"
 
 namespace horavex {
@@ -17,16 +18,22 @@ namespace horavex {
 /// over the cities of all of them.
 class CountryForm : public Form {
 public:
-    CountryForm() : Form("fCountry", {.caption = "Chose a City", .width = 9600, .height = 8400}) {}
+    CountryForm() : Form("fCountry", {.caption = "Chose a City", .width = 9600, .height = 9000}) {}
 
     Label lblSearch{*this, "lblSearch", {.caption = "&Search"}};
     TextBox txtSearch{*this, "txtSearch"};
     ListBox lstFound{*this, "lstFound", {.visible = false}};
+    Label lblNothing{*this,
+                     "lblNothing",
+                     {.caption = "No city found: try the nearest larger one", .visible = false}};
 
     Label lblCountries{*this, "lblCountries", {.caption = "C&ountries"}};
     Label lblCities{*this, "lblCities", {.caption = "C&ities"}};
     ListBox lstcountry{*this, "lstcountry"};
     ListBox lstcity{*this, "lstcity"};
+
+    /// Where the selected city lies.
+    Picture picMap{*this, "picMap", {.width = 3840, .height = 1920}};
 
     CommandButton cmdOK{*this, "cmdOK", {.caption = "O&K"}};
     CommandButton cmdCancel{*this, "cmdCancel", {.caption = "&Cancel"}};

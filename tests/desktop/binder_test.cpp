@@ -155,6 +155,38 @@ TEST_F(BinderTest, ListGoesBothWays) {
     EXPECT_EQ(calls, (std::vector<std::string>{"click", "click", "double"}));
 }
 
+TEST_F(BinderTest, RowThatTheFormChoosesComesToTheMiddle) {
+    auto& list = Find<QListWidget>("list");
+    list.setFixedHeight(120);
+    for (int row = 0; row < 200; ++row) {
+        form.list.AddItem("row");
+    }
+    form.list.SetListIndex(100);
+    Settle();
+    const auto middle = [&list] { return list.visualItemRect(list.currentItem()).center().y(); };
+    EXPECT_NEAR(middle(), list.viewport()->height() / 2, 15);
+    list.setFixedHeight(300);
+    Settle();
+    Settle();
+    EXPECT_NEAR(middle(), list.viewport()->height() / 2, 15);
+}
+
+TEST_F(BinderTest, BoxOverAListSteersItAndKeepsTheFocus) {
+    auto& line = Find<QLineEdit>("text");
+    line.setProperty("steers", "list");
+    line.setFocus();
+    Key(line, Qt::Key_Down);
+    Key(line, Qt::Key_Down);
+    Settle();
+    EXPECT_EQ(form.list.ListIndex(), 1);
+    EXPECT_EQ(Window().focusWidget(), &line);
+    EXPECT_EQ(form.FocusHolder(), &form.text);
+    form.list.SetVisible(false);
+    Settle();
+    Key(line, Qt::Key_Down);
+    EXPECT_EQ(form.list.ListIndex(), 1) << "a hidden list stays as it is";
+}
+
 TEST_F(BinderTest, ComboBoxGoesBothWays) {
     form.combo.onClick = Note("click");
     form.combo.onChange = Note("change");

@@ -3,6 +3,7 @@
 #include <ctime>
 
 #include "base/int16.h"
+#include "geo/world_map.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "support/program_test.h"
@@ -46,6 +47,14 @@ struct CityPickerTest : ProgramTest {
     void Open() {
         ASSERT_TRUE(LoadCityPicker());
         picker.Show();
+    }
+
+    Drawing MapOf(const GeoPoint& place) {
+        return PlaceMap(picker.picMap.ScaleWidth(), picker.picMap.ScaleHeight(), place);
+    }
+
+    static Point MarkOn(const Drawing& map) {
+        return std::get<FilledCircleStep>(map.back()).centre;
     }
 
     CountryForm& picker = *fCountry;
@@ -267,6 +276,29 @@ TEST_F(CityPickerTest, EmptySearchShowsNoHits) {
     picker.txtSearch.UserType(" ");
     EXPECT_FALSE(picker.lstFound.Visible());
     EXPECT_THAT(picker.lstFound.Items(), IsEmpty());
+}
+
+TEST_F(CityPickerTest, SearchThatFindsNothingSaysSo) {
+    Open();
+    EXPECT_FALSE(picker.lblNothing.Visible());
+    picker.txtSearch.UserType("qqxx");
+    EXPECT_TRUE(picker.lblNothing.Visible());
+    EXPECT_FALSE(picker.lstFound.Visible());
+    picker.txtSearch.UserType("cairo");
+    EXPECT_FALSE(picker.lblNothing.Visible());
+    picker.txtSearch.UserType("");
+    EXPECT_FALSE(picker.lblNothing.Visible());
+}
+
+TEST_F(CityPickerTest, MapShowsTheSurroundingsOfTheSelectedCity) {
+    Open();
+    const Drawing ofMecca = MapOf({21.43, 39.83});
+    EXPECT_EQ(MarkOn(picker.picMap.drawing), MarkOn(ofMecca));
+    picker.txtSearch.UserType("honolulu");
+    picker.lstFound.UserSelect(0);
+    const Drawing ofHonolulu = MapOf({21.31, -157.86});
+    EXPECT_EQ(MarkOn(picker.picMap.drawing), MarkOn(ofHonolulu));
+    EXPECT_NE(MarkOn(ofHonolulu), MarkOn(ofMecca)) << "its map ends at the date line";
 }
 
 TEST_F(CityPickerTest, ChosenHitSelectsCountryAndCity) {

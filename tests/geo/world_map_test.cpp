@@ -102,6 +102,31 @@ TEST_F(WorldMapTest, WayAcrossTheDateLineIsNotDrawnAcrossTheMap) {
     }
 }
 
+TEST_F(WorldMapTest, MapOfAPlaceShowsWhatLiesAround) {
+    WriteLands("1.25,0.05 61.25,30.05 31.25,60.05\n");
+    const Drawing map = PlaceMap(3600.0, 1800.0, kCairo);
+    const auto marks = StepsOf<FilledCircleStep>(map);
+    ASSERT_EQ(marks.size(), 1U);
+    EXPECT_NEAR(marks[0].centre.x, 1800.0, 1e-6);
+    EXPECT_NEAR(marks[0].centre.y, 900.0, 1e-6);
+    const auto corners = StepsOf<PolygonStep>(map).back().corners;
+    EXPECT_NEAR(corners[0].x, 900.0, 1e-6) << "30 degrees west of the middle";
+    EXPECT_NEAR(corners[2].y, 0.0, 1e-6) << "30 degrees north of it";
+}
+
+TEST_F(WorldMapTest, MapOfAPlaceEndsAtTheEdgesOfTheWorld) {
+    const auto mark = StepsOf<FilledCircleStep>(PlaceMap(3600.0, 1800.0, GeoPoint{78.0, -178.0}));
+    EXPECT_NEAR(mark[0].centre.x, 60.0, 1e-6);
+    EXPECT_NEAR(mark[0].centre.y, 360.0, 1e-6);
+}
+
+TEST_F(WorldMapTest, MapOfNoPlaceIsTheWorldWithoutAMark) {
+    WriteLands("-180,90 180,-90 0,0\n");
+    const Drawing map = PlaceMap(3600.0, 1800.0, std::nullopt);
+    EXPECT_TRUE(StepsOf<FilledCircleStep>(map).empty());
+    EXPECT_EQ(StepsOf<PolygonStep>(map)[1].corners[1], (Point{3600.0, 1800.0}));
+}
+
 TEST_F(WorldMapTest, MapWithoutItsFileStillHasTheWay) {
     const Drawing map = WorldMap(3600.0, 1800.0, kCairo);
     EXPECT_EQ(StepsOf<PolygonStep>(map).size(), 1U);
