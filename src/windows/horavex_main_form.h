@@ -22,8 +22,7 @@ namespace horavex {
 class SettingsForm : public Form {
 public:
     SettingsForm()
-        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 9600, .height = 7200}) {
-    }
+        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 9600, .height = 7200}) {}
 
     horavex::Frame fraCity{*this, "fraCity", {.caption = "Location"}};
     Label lblCityBanner{fraCity, "lblCityBanner", {.caption = "City"}};
