@@ -47,7 +47,8 @@ struct SunOverPlace {
     Clock begin, fullBegin, greatest, fullEnd, end;
 };
 
-// F. Espenak, eclipsewise.com, whose figures are to the second.
+// F. Espenak, eclipsewise.com, whose figures are to the second; for Ólafsvík those that a tour
+// operator (discover-the-world.com) prints for the spot where it watches.
 constexpr SunOverPlace kToTheSecond[] = {
     {"Orlando",
      {2017, 8, 21},
@@ -94,6 +95,15 @@ constexpr SunOverPlace kToTheSecond[] = {
      {20, 25, 26},
      {20, 28, 35},
      {21, 42, 37}},
+    {"Ólafsvík",
+     {2026, 8, 12},
+     {64.8953, -23.7069},
+     EclipseKind::kTotal,
+     {16, 45, 5},
+     {17, 45, 53},
+     {17, 46, 55},
+     {17, 47, 56},
+     {18, 46, 6}},
     {"south of the Marshall Islands",
      {2023, 4, 20},
      {4.6622, 170.8101},
@@ -107,7 +117,9 @@ constexpr SunOverPlace kToTheSecond[] = {
 
 // Figures to the minute or its tenth, as the press had them: NASA's of cities on the path of 8
 // April 2024; the Positional Astronomy Centre of India's for 21 June 2020; those of Singapore for
-// 26 December 2019, without a greatest instant, for which the middle stands.
+// 26 December 2019, without a greatest instant, for which the middle stands; those of Spain's
+// Instituto Geográfico Nacional for A Coruña (20:27:37 of its clock and 76 seconds of totality),
+// and W. Al-Naser's, Arabian Gulf University, for Mecca.
 constexpr SunOverPlace kToTheMinute[] = {
     {"Dallas",
      {2024, 4, 8},
@@ -163,6 +175,24 @@ constexpr SunOverPlace kToTheMinute[] = {
      {5, 23, 0},
      {5, 24, 0},
      {7, 18, 0}},
+    {"A Coruña",
+     {2026, 8, 12},
+     {43.37, -8.40},
+     EclipseKind::kTotal,
+     {17, 30, 52},
+     {18, 27, 37},
+     {18, 28, 15},
+     {18, 28, 53},
+     {19, 22, 0}},
+    {"Mecca",
+     {2027, 8, 2},
+     {21.4225, 39.8262},
+     EclipseKind::kTotal,
+     {9, 1, 0},
+     {10, 24, 0},
+     {10, 26, 30},
+     {10, 29, 0},
+     {11, 44, 0}},
 };
 
 void ExpectPublished(const SunOverPlace& row, double within) {
