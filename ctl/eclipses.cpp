@@ -1,5 +1,6 @@
 #include <cstdio>
 
+#include "ctl/almanac_year.h"
 #include "ctl/eclipse_list.h"
 #include "ctl/place_clock.h"
 #include "sky/local_eclipse.h"
@@ -122,6 +123,10 @@ Json EclipseJson(const ListedEclipse& listed) {
     return json;
 }
 
+std::string DayText(Date universal) {
+    return IsoDate(CivilFromDate(WorkingMinuteOf(universal)));
+}
+
 Json YearJson(const EclipseYear& year) {
     Json eclipses = Json::array();
     for (const ListedEclipse& listed : year.eclipses) {
@@ -131,14 +136,10 @@ Json YearJson(const EclipseYear& year) {
     for (const ToldCandidate& candidate : year.candidates) {
         if (!candidate.happens) {
             none.push_back(
-                {{"body", BodyKey(candidate.solar)}, {"told", WorkingJson(candidate.instant)}});
+                {{"body", BodyKey(candidate.solar)}, {"told", DayText(candidate.instant)}});
         }
     }
     return {{"city", CityText}, {"year", year.year}, {"eclipses", eclipses}, {"toldButNone", none}};
-}
-
-std::string TimesText(const SkySpan& span) {
-    return WorkingTimeText(span.from) + " to " + WorkingTimeText(span.end);
 }
 
 std::string MagnitudeText(double magnitude) {
@@ -147,35 +148,55 @@ std::string MagnitudeText(double magnitude) {
     return text;
 }
 
-std::string PhaseText(const char* name, const std::optional<SkySpan>& span) {
-    return span ? std::string(", ") + name + " " + TimesText(*span) : "";
-}
+/// An eclipse over the place in words. Times are in brackets while the body is below the horizon,
+/// and marked where they are not on the day of the Earth's greatest eclipse.
+struct LocalText {
+    const Eclipse& eclipse;
+    const LocalEclipse& local;
 
-std::string HereText(const Eclipse& eclipse, const LocalEclipse& local) {
-    const std::string greatest = ", greatest " + WorkingTimeText(local.greatest);
-    if (eclipse.solar) {
-        return "here " + std::string(KindName(local.kind)) + " " + MagnitudeText(local.magnitude) +
-               ", " + TimesText(local.phases.whole) +
-               PhaseText(KindName(local.kind), local.phases.full) + greatest;
+    std::string Time(Date instant) const {
+        const std::string time = WorkingTimeText(instant, WorkingMinuteOf(eclipse.greatest));
+        return local.IsSeenAt(instant) ? time : "(" + time + ")";
     }
-    return "penumbra " + TimesText(local.phases.whole) + PhaseText("umbra", local.phases.umbral) +
-           PhaseText("total", local.phases.full) + greatest;
-}
 
-std::string SeenText(const Eclipse& eclipse, const LocalEclipse& local) {
-    std::string text;
-    for (const SkySpan& span : local.seen) {
-        text += (text.empty() ? "seen " : " and ") + TimesText(span);
+    std::string Times(const SkySpan& span) const {
+        return Time(span.from) + " to " + Time(span.end);
     }
-    if (eclipse.solar) {
-        text += ", at most " + MagnitudeText(local.best->magnitude) + " at " +
-                WorkingTimeText(local.best->instant);
+
+    std::string Phase(const char* name, const std::optional<SkySpan>& span) const {
+        return span ? std::string(", ") + name + " " + Times(*span) : "";
     }
-    return text;
-}
+
+    std::string Contacts() const {
+        const EclipsePhases& phases = local.phases;
+        const std::string greatest = ", greatest " + Time(local.greatest);
+        if (eclipse.solar) {
+            return "here " + std::string(KindName(local.kind)) + " " +
+                   MagnitudeText(local.magnitude) + ", " + Times(phases.whole) +
+                   Phase(KindName(local.kind), phases.full) + greatest;
+        }
+        return "penumbra " + Times(phases.whole) + Phase("umbra", phases.umbral) +
+               Phase("total", phases.full) + greatest;
+    }
+
+    /// Below zero the moon is seen in the penumbra alone.
+    std::string Best() const {
+        return local.best->magnitude < 0.0 ? ", the penumbra alone"
+                                           : ", at most " + MagnitudeText(local.best->magnitude) +
+                                                 " at " + Time(local.best->instant);
+    }
+
+    std::string Seen() const {
+        std::string text;
+        for (const SkySpan& span : local.seen) {
+            text += (text.empty() ? "seen " : " and ") + Times(span);
+        }
+        return text + Best();
+    }
+};
 
 std::string DayAndTime(Date universal) {
-    return IsoDate(CivilFromDate(WorkingMinuteOf(universal))) + " " + WorkingTimeText(universal);
+    return DayText(universal) + " " + WorkingTimeText(universal);
 }
 
 const char* BodyTitle(bool solar) {
@@ -194,8 +215,8 @@ std::string EclipseText(const ListedEclipse& listed) {
     if (!listed.IsSeen()) {
         return head + "      not seen here\n";
     }
-    return head + "      " + HereText(eclipse, *listed.local) + "\n      " +
-           SeenText(eclipse, *listed.local) + "\n";
+    const LocalText here{eclipse, *listed.local};
+    return head + "      " + here.Contacts() + "\n      " + here.Seen() + "\n";
 }
 
 std::string YearText(const EclipseYear& year) {
@@ -205,23 +226,16 @@ std::string YearText(const EclipseYear& year) {
     }
     for (const ToldCandidate& candidate : year.candidates) {
         text += candidate.happens ? ""
-                                  : BodyTitle(candidate.solar) + DayAndTime(candidate.instant) +
+                                  : BodyTitle(candidate.solar) + DayText(candidate.instant) +
                                         "  none, though the told list has it\n";
     }
     return text;
 }
 
-void RequireAlmanacYear(int year) {
-    if (year < kFirstAlmanacYear || year > kLastAlmanacYear) {
-        RefuseUsage("--year: the almanac has the years " + std::to_string(kFirstAlmanacYear) +
-                    " to " + std::to_string(kLastAlmanacYear));
-    }
-}
-
 }  // namespace
 
 void PrintLocalEclipses(Session& session, const PlaceOptions& place, int year) {
-    RequireAlmanacYear(year);
+    RequireAlmanacYear("--year", year);
     ApplyPlace(place, DateSerial(year, 1, 1));
     const EclipseYear found = YearOf(Ports().almanac, year);
     session.Print(YearJson(found), YearText(found));

@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "ctl/almanac_year.h"
 #include "ctl/date_option.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
@@ -42,11 +43,7 @@ struct SkyView {
 
 Date ParseAt(const std::string& text) {
     const Date local = ParseMomentOption(text);
-    const int year = CivilFromDate(local).year;
-    if (year < kFirstAlmanacYear || year > kLastAlmanacYear) {
-        RefuseUsage("--at: the almanac has the years " + std::to_string(kFirstAlmanacYear) +
-                    " to " + std::to_string(kLastAlmanacYear));
-    }
+    RequireAlmanacYear("--at", CivilFromDate(local).year);
     return local;
 }
 

@@ -314,6 +314,26 @@ TEST(MoonOverPlace, HasThePhasesOfTheEarth) {
     ExpectTime("P4", spring.whole.end, march, {14, 23, 0}, 60.0);
 }
 
+// The moon of December passes below the pole, and dips.
+TEST(MoonOverPlace, IsSeenTwiceFromTheFarNorthAndBestWhereItIsNearerToTheGreatest) {
+    const LocalEclipse west = Over({65.0, 45.0}, 2010, 12, 21).value();
+    ASSERT_EQ(west.seen.size(), 2U);
+    EXPECT_TRUE(west.IsSeenAt(west.phases.whole.from));
+    EXPECT_FALSE(west.IsSeenAt(west.greatest));
+    EXPECT_TRUE(west.IsSeenAt(west.phases.whole.end));
+    EXPECT_EQ(west.best->instant, west.seen[0].end);
+    const LocalEclipse east = Over({65.0, 60.0}, 2010, 12, 21).value();
+    ASSERT_EQ(east.seen.size(), 2U);
+    EXPECT_EQ(east.best->instant, east.seen[1].from);
+}
+
+TEST(SunOverPlace, IsSeenTwiceWhereTheMidnightSunDips) {
+    const LocalEclipse local = Over({67.0, 45.0}, 2011, 6, 1).value();
+    ASSERT_EQ(local.seen.size(), 2U);
+    EXPECT_EQ(local.best->instant, local.seen[1].from);
+    EXPECT_LT(local.best->magnitude, local.magnitude);
+}
+
 TEST(MoonOverPlace, IsUnseenByDay) {
     const LocalEclipse cairo = Over(kCairo, 2026, 3, 3).value();
     EXPECT_TRUE(cairo.seen.empty());
