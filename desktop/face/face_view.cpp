@@ -1,13 +1,15 @@
 #include "desktop/face/face_view.h"
 
-#include <QLinearGradient>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QRegularExpression>
 #include <utility>
 
 #include "desktop/face/clock_dial.h"
 #include "desktop/face/compass.h"
+#include "desktop/face/countdown_line.h"
+#include "desktop/face/day_arc.h"
 #include "desktop/face/face_button.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/text_line.h"
@@ -19,36 +21,37 @@ namespace {
 
 // All places in pixels of the face. The menus open at 50, 100, 150 and 200 across and 135 down,
 // so that their buttons stand close together above that line.
-constexpr QRect kFace(0, 0, 420, 420);
-constexpr QRect kClock(20, 12, 84, 84);
-constexpr QRect kDay(116, 6, 234, 28);
-constexpr QRect kDate(116, 34, 234, 22);
-constexpr QRect kHijriDate(116, 56, 234, 22);
-constexpr QRect kPlace(116, 78, 234, 22);
+constexpr QRect kFace(0, 0, 420, 500);
+constexpr QRect kClock(20, 10, 84, 84);
+constexpr QRect kDay(116, 4, 234, 26);
+constexpr QRect kDate(116, 29, 234, 20);
+constexpr QRect kHijriDate(116, 49, 234, 20);
+constexpr QRect kPlace(108, 69, 250, 18);
+constexpr QRect kClocks(108, 86, 250, 16);
 constexpr QRect kMinimise(356, 10, 26, 26);
 constexpr QRect kClose(384, 10, 26, 26);
 constexpr QRect kMenuBand(1, 104, 418, 31);
 constexpr QRect kMenu(50, 105, 350, 29);
-constexpr QRect kNext(28, 137, 364, 23);
-constexpr QRect kRemaining(28, 160, 364, 33);
-constexpr QRect kClocks(28, 193, 364, 18);
-constexpr QRect kTimesCard(16, 212, 240, 194);
-constexpr QRect kTimes(22, 218, 228, 150);
-constexpr QRect kAllTimes(26, 372, 220, 28);
-constexpr QRect kCompassCard(264, 212, 140, 194);
-constexpr QRect kCompass(274, 220, 120, 148);
-constexpr QRect kQibla(274, 372, 120, 28);
-
-constexpr double kCardCorner = 8.0;  // radius, pixels
+constexpr QRect kNext(24, 138, 372, 26);
+constexpr QRect kRemaining(24, 164, 372, 44);
+constexpr QRect kIqama(24, 208, 372, 16);
+constexpr QRect kArc(1, 224, 418, 76);
+constexpr QRect kTimesCard(16, 304, 240, 184);
+constexpr QRect kTimes(22, 308, 228, 144);
+constexpr QRect kAllTimes(26, 454, 220, 28);
+constexpr QRect kCompassCard(264, 304, 140, 184);
+constexpr QRect kCompass(274, 310, 120, 142);
+constexpr QRect kQibla(274, 454, 120, 28);
 
 constexpr const char* kNextPrayer = "_root.sNextPrayer";
 constexpr const char* kRemainingTime = "_root.sNextRemaining";
 
 const TextLine::Look kDateLook{15, kCream, Qt::AlignCenter};
 const TextLine::Look kPlaceLook{13, kGold, Qt::AlignCenter};
-const TextLine::Look kClocksLook{12, kCream, Qt::AlignLeading | Qt::AlignVCenter};
-const TextLine::Look kNextLook{16, kCream, Qt::AlignLeading | Qt::AlignVCenter};
+const TextLine::Look kClocksLook{12, kCream, Qt::AlignCenter};
+const TextLine::Look kNextLook{21, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kRemainingLook{24, kGold, Qt::AlignLeading | Qt::AlignVCenter};
+const TextLine::Look kIqamaLook{13, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 
 /// A date without its weekday as a language writes it, in plain digits and with the day in front,
 /// as all dates of the face: "21. November 2026".
@@ -87,7 +90,9 @@ const std::map<std::string, FaceView::Reaction>& FaceView::Reactions() {
 }
 
 FaceView::FaceView(std::function<QTime()> now, Language language)
-    : now_(std::move(now)), language_(std::move(language)) {
+    : now_(std::move(now)),
+      ground_({kFace, kArc, kMenuBand, {kTimesCard, kCompassCard}}),
+      language_(std::move(language)) {
     setFixedSize(kFace.size());
     setContextMenuPolicy(Qt::PreventContextMenu);
     MakeButtons();
@@ -116,9 +121,12 @@ void FaceView::MakeTexts() {
     date_ = Place(new TextLine(this, kDateLook), kDate);
     hijriDate_ = Place(new TextLine(this, kDateLook), kHijriDate);
     place_ = Place(new TextLine(this, kPlaceLook), kPlace);
-    next_ = Place(new TextLine(this, kNextLook), kNext);
-    remaining_ = Place(new TextLine(this, kRemainingLook), kRemaining);
     clocks_ = Place(new TextLine(this, kClocksLook), kClocks);
+    next_ = Place(new TextLine(this, kNextLook), kNext);
+    remaining_ = Place(new CountdownLine(this, kRemainingLook), kRemaining);
+    remaining_->setObjectName(QStringLiteral("countdown"));
+    iqama_ = Place(new TextLine(this, kIqamaLook), kIqama);
+    arc_ = Place(new DayArc(this), kArc);
     times_ = Place(new TimesView(this), kTimes);
     times_->setObjectName(QStringLiteral("times"));
     compass_ = Place(new Compass(this), kCompass);
@@ -206,6 +214,23 @@ void FaceView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next)
     times_->ShowTimes(rows, next);
 }
 
+void FaceView::ShowCountdown(const QString& words, int seconds) {
+    remaining_->ShowCountdown(words, seconds);
+}
+
+void FaceView::ShowIqama(const QString& iqama) {
+    iqama_->ShowText(iqama);
+}
+
+void FaceView::ShowSky(const std::shared_ptr<const DaySky>& sky) {
+    if (sky != nullptr && sky != sky_) {
+        sky_ = sky;
+        ground_.ShowSun(sky->sunAltitude);
+        arc_->ShowSky(sky);
+        update();
+    }
+}
+
 void FaceView::ShowPlace(const QString& place, const QString& clocks) {
     place_->ShowText(place);
     clocks_->ShowText(clocks);
@@ -266,21 +291,9 @@ void FaceView::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-void FaceView::paintEvent(QPaintEvent*) {
+void FaceView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient sky(0.0, 0.0, 0.0, kFace.height());
-    sky.setColorAt(0.0, kSkyTop);
-    sky.setColorAt(1.0, kSkyBottom);
-    painter.fillRect(rect(), sky);
-    painter.fillRect(kMenuBand, kCard);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(kCard);
-    painter.drawRoundedRect(kTimesCard, kCardCorner, kCardCorner);
-    painter.drawRoundedRect(kCompassCard, kCardCorner, kCardCorner);
-    painter.setPen(kEdge);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    ground_.Paint(painter, event->rect(), devicePixelRatioF());
 }
 
 }  // namespace horavex

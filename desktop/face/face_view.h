@@ -7,18 +7,24 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "desktop/face/sky_ground.h"
 
 namespace horavex {
 
 class CaptionButton;
 class ClockDial;
 class Compass;
+class CountdownLine;
+class DayArc;
 class SignButton;
 class TextLine;
 class TimesView;
+struct DaySky;
 struct PrayerEntry;
 
 /// The face. It knows its variables and commands by their names and nothing of what they mean
@@ -38,8 +44,20 @@ public:
     /// The six times of the day, and which of them comes next.
     void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
 
+    /// The time that remains until the next one, behind what it is the countdown to.
+    void ShowCountdown(const QString& words, int seconds);
+
     /// The place of the day, and a line on the clocks where two are told.
     void ShowPlace(const QString& place, const QString& clocks);
+
+    /// A line below the countdown.
+    void ShowIqama(const QString& iqama);
+
+    /// The sky over the place; nothing changes for the same object, or for none.
+    void ShowSky(const std::shared_ptr<const DaySky>& sky);
+
+    /// The way of the sun with the prayers on it.
+    DayArc& Arc() { return *arc_; }
 
     /// What the marks beside the times mean, for whoever points at them; empty without marks.
     void ExplainTimes(const QString& note);
@@ -88,6 +106,8 @@ private:
     void ShowCaptions();
 
     std::function<QTime()> now_;
+    SkyGround ground_;
+    std::shared_ptr<const DaySky> sky_;
     Language language_;
     std::optional<QLocale> names_;           // of days and months
     std::map<std::string, QString> values_;  // by variable
@@ -104,8 +124,10 @@ private:
     TextLine* hijriDate_;
     TextLine* place_;
     TextLine* next_;
-    TextLine* remaining_;
+    CountdownLine* remaining_;
     TextLine* clocks_;
+    TextLine* iqama_;
+    DayArc* arc_;
     TimesView* times_;
     Compass* compass_;
 };

@@ -1,9 +1,14 @@
 #include "desktop/face/qt_face.h"
 
+#include <cmath>
+#include <optional>
+
+#include "desktop/face/day_arc.h"
 #include "desktop/face/times_view.h"
 #include "engine/day_view.h"
 #include "engine/moment_text.h"
 #include "engine/ruled_year.h"
+#include "engine/solar_event.h"
 #include "lang/language_pack.h"
 #include "windows/frm_main.h"
 
@@ -20,6 +25,17 @@ std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
         rows.push_back({QString::fromStdString(name), QString::fromStdString(time)});
     }
     return rows;
+}
+
+/// Where the moments stand in the day; nothing for those that do not come.
+std::vector<std::optional<double>> PartsOf(const DayMoments& moments) {
+    std::vector<std::optional<double>> parts;
+    for (const Moment& moment : moments) {
+        const double days = moment.hours / 24.0;
+        parts.push_back(IsEvent(moment.hours) ? std::optional(days - std::floor(days))
+                                              : std::nullopt);
+    }
+    return parts;
 }
 
 /// A word of the pack; the key is the English one.
@@ -41,8 +57,12 @@ void QtFace::SetVariable(const std::string& name, const std::string& value) {
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {
         view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
-        const std::string& line = day.iqama.empty() ? day.clocks : day.iqama;
-        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(line));
+        view->ShowCountdown(QString::fromStdString(frmMain->Label3.Caption()),
+                            static_cast<int>(day.next.remainingSeconds));
+        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(day.clocks));
+        view->ShowIqama(QString::fromStdString(day.iqama));
+        view->ShowSky(day.sky);
+        view->Arc().ShowPrayers(PartsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
         view->ExplainTimes(
             QString::fromStdString(RuleNote(day.moments, RuledYear.rules.moments.highLatitude)));
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,8 @@
 #include "engine/moment.h"
 
 namespace horavex {
+
+struct DaySky;
 
 /// In place of a prayer's index: none is left today.
 inline constexpr std::int16_t kNoPrayerLeft = 6;
@@ -41,6 +44,8 @@ struct DayView {
     std::string clocks;  // both offsets in words where this computer's clock is another
 
     std::string iqama;  // the countdown to an iqama that is ahead, in words
+
+    std::shared_ptr<const DaySky> sky;  // over the place; nullptr where nobody asked for it
 
     // Moments of the days beside it that the clock reaches on this one, in its own hours, in order.
     std::vector<PrayerMoment> late;   // of the day before, past midnight

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "shell/close_face.h"
 #include "shell/face_place.h"
+#include "shell/face_sky.h"
 #include "shell/menus.h"
 #include "windows/frm_main.h"
 
@@ -88,6 +89,7 @@ void SetFlashVariables() {
     day.place = PlaceOfFace();
     day.clocks = ClocksOfFace();
     day.iqama = IqamaAhead(day.now);
+    day.sky = SkyOfFace(day.now);
     Ports().face.ShowDay(day);
 }
 

@@ -44,7 +44,7 @@ uses[athan]="${uses[moon]} moon/* windows/*"
 uses[timetables]="${uses[athan]} athan/*"
 uses[config]="${uses[moon]} windows/*"
 uses[update]="${uses[moon]} windows/*"
-uses[shell]="${uses[athan]} athan/* timetables/* config/* update/*"
+uses[shell]="${uses[athan]} athan/* timetables/* config/* update/* sky/*"
 
 # In four rooms logic asks no window: the sources of their windows, and those that bind a room to
 # the windows, are named as such, and they alone may include windows. Their headers may not, so that

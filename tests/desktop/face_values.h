@@ -17,6 +17,7 @@ inline void TellTimes(Face& face, const std::array<const char*, kPrayerCount>& n
         day.moments[prayer].hours = kMinutes[prayer] / 60.0;
     }
     day.next.prayer = kAsr;
+    day.next.remainingSeconds = 9360.0;
     face.ShowDay(day);
 }
 

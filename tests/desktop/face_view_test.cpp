@@ -7,13 +7,16 @@
 #include <QMouseEvent>
 
 #include "desktop/face/compass.h"
+#include "desktop/face/countdown_line.h"
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
 #include "engine/ruled_year.h"
+#include "engine/solar_event.h"
 #include "lang/language_pack.h"
+#include "sky/day_sky.h"
 #include "support/test_platform.h"
 
 namespace horavex {
@@ -89,7 +92,7 @@ TEST_F(FaceTest, VariablesBeforeTheLoadAreDropped) {
 TEST_F(FaceTest, EachVariableShows) {
     face.LoadMovie(0, "");
     TellEnglish(face);
-    EXPECT_EQ(Lines(), (QStringList{"21 November 2026", "11 Jamad Thani 1448", "",
+    EXPECT_EQ(Lines(), (QStringList{"21 November 2026", "11 Jamad Thani 1448", "", "",
                                     "Next Athan: Asr at 2:36:00 PM", "Remaining: 2:36:0", ""}));
     EXPECT_EQ(Button("IDC_FS_Day").text(), "Saturday");
     EXPECT_EQ(window.findChild<QWidget*>("compass")->accessibleName(), "136°");
@@ -129,6 +132,54 @@ TEST_F(FaceTest, MarkedTimesAreExplainedToWhoeverPointsAtThem) {
     EXPECT_TRUE(times.toolTip().contains("seventh of the night"));
 }
 
+TEST_F(FaceTest, CountdownIsThatOfTheDayWhateverTheTextSays) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    auto& line = *window.findChild<CountdownLine*>("countdown");
+    const QImage told = line.grab().toImage();
+    face.SetVariable("_root.sNextRemaining", "x");
+    EXPECT_EQ(line.grab().toImage(), told);
+    line.ShowCountdown("Remaining:", 9359);
+    EXPECT_NE(line.grab().toImage(), told);
+}
+
+TEST(CountdownDigits, HaveMinutesAndSecondsOfTwo) {
+    EXPECT_EQ(CountdownDigits(0), "0:00:00");
+    EXPECT_EQ(CountdownDigits(7509), "2:05:09");
+    EXPECT_EQ(CountdownDigits(86399), "23:59:59");
+}
+
+TEST_F(FaceTest, GroundFollowsTheSunAndOnlyAnotherSkyIsPainted) {
+    face.LoadMovie(0, "");
+    const auto sky = [](double altitude) {
+        DaySky made;
+        made.sunAltitude = altitude;
+        made.sunArc = {-30.0, altitude, -30.0};
+        return std::make_shared<const DaySky>(made);
+    };
+    const auto noon = sky(60.0);
+    View().ShowSky(noon);
+    const QColor day = View().grab().toImage().pixelColor(10, 250);
+    View().ShowSky(noon);
+    View().ShowSky(nullptr);
+    EXPECT_EQ(View().grab().toImage().pixelColor(10, 250), day);
+    View().ShowSky(sky(-30.0));
+    EXPECT_NE(View().grab().toImage().pixelColor(10, 250), day);
+}
+
+TEST_F(FaceTest, DayWithoutTimesIsPainted) {
+    face.LoadMovie(0, "");
+    DayView day;
+    for (Moment& moment : day.moments) {
+        moment.hours = NoEvent;
+    }
+    DaySky sky;
+    sky.sunArc = {-20.0, -3.0, -20.0};
+    day.sky = std::make_shared<DaySky>(sky);
+    face.ShowDay(day);
+    EXPECT_FALSE(View().grab().isNull());
+}
+
 TEST_F(FaceTest, PlaceAndClocksHaveTheirLines) {
     face.LoadMovie(0, "");
     DayView day;
@@ -136,7 +187,10 @@ TEST_F(FaceTest, PlaceAndClocksHaveTheirLines) {
     day.clocks = "This computer's clock: UTC-5; Oslo: UTC+2";
     face.ShowDay(day);
     EXPECT_EQ(Lines().at(2), "Oslo - Norway");
-    EXPECT_EQ(Lines().at(5), "This computer's clock: UTC-5; Oslo: UTC+2");
+    EXPECT_EQ(Lines().at(3), "This computer's clock: UTC-5; Oslo: UTC+2");
+    day.iqama = "Iqama of Asr in 4:12";
+    face.ShowDay(day);
+    EXPECT_EQ(Lines().at(6), "Iqama of Asr in 4:12");
 }
 
 TEST_F(FaceTest, TimesAreAListWhoseSelectedItemIsTheNextPrayer) {
@@ -257,10 +311,10 @@ TEST_F(FaceTest, EachButtonHasANameForAssistiveTools) {
 }
 
 TEST_F(FaceTest, PressOnTheGroundDragsAndTheRightButtonDoesNothing) {
-    Click(QPoint(410, 250));
-    Click(QPoint(100, 290));  // among the times
+    Click(QPoint(410, 350));
+    Click(QPoint(100, 390));  // among the times
     EXPECT_EQ(commands, (std::vector<std::string>{"IDC_FS_drag", "IDC_FS_drag"}));
-    Click(QPoint(410, 250), Qt::RightButton);
+    Click(QPoint(410, 350), Qt::RightButton);
     Click(Button("IDC_FS_azan").geometry().center(), Qt::RightButton);
     EXPECT_EQ(commands.size(), 2U);
 }

@@ -141,7 +141,7 @@ TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     frmMain->Show();
     const QWidget& window = *windows.Find(&*frmMain);
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
-    EXPECT_EQ(window.size(), QSize(420, 420));
+    EXPECT_EQ(window.size(), QSize(420, 500));
 }
 
 TEST(FaceLayout, FrmAzanShowsItsFaceInAWindowOfItsOwnSize) {

@@ -27,7 +27,7 @@ TEST_F(FaceProgramTest, FaceComesUpAfterTheProgressWindow) {
     EXPECT_GE(steady_clock::now() - start, std::chrono::seconds(3));
     EXPECT_FALSE(desktop.IsOnView(program, progress));
     EXPECT_EQ(desktop.PlaceOf(face).width, 420);
-    EXPECT_EQ(desktop.PlaceOf(face).height, 420);
+    EXPECT_EQ(desktop.PlaceOf(face).height, 500);
     EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
 }
 

@@ -1,0 +1,106 @@
+#include "desktop/face/sky_colours.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "desktop/face/palette.h"
+
+namespace horavex {
+namespace {
+
+constexpr double kLeastContrast = 4.5;
+
+double Linear(float part) {
+    return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+/// Relative luminance and contrast as the Web Content Accessibility Guidelines define them.
+double Luminance(const QColor& colour) {
+    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
+           0.0722 * Linear(colour.blueF());
+}
+
+double Contrast(const QColor& text, const QColor& ground) {
+    const double a = Luminance(text) + 0.05;
+    const double b = Luminance(ground) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+/// What is seen where one colour lies over an opaque one.
+QColor Over(const QColor& above, const QColor& below) {
+    const float part = above.alphaF();
+    const auto mixed = [part](float a, float b) { return a * part + b * (1.0F - part); };
+    return QColor::fromRgbF(mixed(above.redF(), below.redF()),
+                            mixed(above.greenF(), below.greenF()),
+                            mixed(above.blueF(), below.blueF()));
+}
+
+/// The sky at one part of its height, 0 at the top.
+QColor At(const SkyColours& colours, float part) {
+    QColor bottom = colours.bottom;
+    bottom.setAlphaF(part);
+    return Over(bottom, colours.top);
+}
+
+void ExpectReadable(const QColor& ground, std::initializer_list<QColor> texts, double altitude,
+                    const char* where) {
+    for (const QColor& text : texts) {
+        EXPECT_GE(Contrast(text, ground), kLeastContrast)
+            << text.name().toStdString() << " " << where << ", " << ground.name().toStdString()
+            << " with the sun at " << altitude;
+    }
+}
+
+TEST(SkyColours, EveryTextIsReadableOnEveryGroundAtEveryHeightOfTheSun) {
+    for (double altitude = -90.0; altitude <= 90.0; altitude += 0.25) {
+        const SkyColours colours = SkyColoursAt(altitude);
+        for (float part = 0.0F; part <= 1.0F; part += 0.125F) {
+            const QColor sky = At(colours, part);
+            const QColor card = Over(colours.card, sky);
+            ExpectReadable(sky, {kGold, kCream, kMuted}, altitude, "on the sky");
+            ExpectReadable(card, {kGold, kCream}, altitude, "on a card");
+            ExpectReadable(Over(kGlow, card), {kGold, kCream}, altitude, "on what glows");
+            ExpectReadable(Over(kGlow, sky), {kCream}, altitude, "below the pointer");
+            ExpectReadable(Over(kPressed, card), {kCream}, altitude, "on what is pressed");
+        }
+    }
+}
+
+TEST(SkyColours, NightIsNavyWithItsStarsAndTheDayHasNone) {
+    for (const double altitude : {-90.0, -30.0, -18.0}) {
+        EXPECT_EQ(SkyColoursAt(altitude).top, kSkyTop);
+        EXPECT_EQ(SkyColoursAt(altitude).bottom, kSkyBottom);
+        EXPECT_EQ(SkyColoursAt(altitude).stars, 1.0);
+    }
+    for (const double altitude : {0.0, 12.0, 90.0}) {
+        EXPECT_EQ(SkyColoursAt(altitude).stars, 0.0);
+    }
+    EXPECT_EQ(SkyColoursAt(12.0).top, SkyColoursAt(90.0).top);
+}
+
+TEST(SkyColours, PassIntoOneAnotherWithoutAJump) {
+    for (double altitude = -20.0; altitude < 14.0; altitude += 0.1) {
+        const SkyColours now = SkyColoursAt(altitude);
+        const SkyColours next = SkyColoursAt(altitude + 0.1);
+        for (const auto& [a, b] :
+             {std::pair(now.top, next.top), std::pair(now.bottom, next.bottom)}) {
+            EXPECT_LE(std::abs(a.red() - b.red()), 3) << altitude;
+            EXPECT_LE(std::abs(a.green() - b.green()), 3) << altitude;
+            EXPECT_LE(std::abs(a.blue() - b.blue()), 3) << altitude;
+        }
+    }
+}
+
+TEST(SkyColours, DuskIsWarmerThanNightAndDay) {
+    const auto warmth = [](double altitude) {
+        const QColor bottom = SkyColoursAt(altitude).bottom;
+        return bottom.red() - bottom.blue();
+    };
+    EXPECT_GT(warmth(-1.0), 40);
+    EXPECT_LT(warmth(-18.0), 0);
+    EXPECT_LT(warmth(30.0), 0);
+}
+
+}  // namespace
+}  // namespace horavex
