@@ -1,6 +1,5 @@
 #include "shell/face_place.h"
 
-#include <algorithm>
 #include <tuple>
 
 #include "base/fault.h"
@@ -41,25 +40,39 @@ bool IsListed(std::int16_t cityIndex) {
            std::tie(city.Name, city.Latitude, city.Longitude);
 }
 
-/// Letters of the Arabic language alone. The names do not tell their language, and Persian, Urdu
-/// and Uyghur have the same script and letters besides.
-bool IsArabic(const std::string& name) {
-    const auto letters = DecodeUtf8(name);
-    return letters && std::ranges::all_of(*letters, [](char32_t letter) {
-               return (letter >= 0x621 && letter <= 0x63A) ||
-                      (letter >= 0x641 && letter <= 0x64A) || letter == U' ' || letter == U'-';
-           });
+// The names do not tell their language, and Persian, Uyghur and others share the script with these
+// two: a name is taken for one of the language if it has no letter that the language has not.
+constexpr std::u32string_view kArabicLetters = U"ءآأؤإئابةتثجحخدذرزسشصضطظعغفقكلمنهوىي -";
+constexpr std::u32string_view kUrduLetters = U"ءآأؤئابپتٹثجچحخدڈذرڑزژسشصضطظعغفقکگلمنںوہۂۃھیے -";
+constexpr std::u32string_view kLettersOfUrduAlone = U"ٹڈڑںہۂۃے";
+
+/// How well a name fits the language of the pack; 0 where it is of another.
+int FitOf(const std::string& name) {
+    static const Script arabic = ScriptOf("\u0627");
+    if (ScriptOf(name) != arabic) {
+        return 1;
+    }
+    const bool isUrdu = GetLangString("timetables", "Code", "") == "ur";
+    const std::u32string letters = DecodeUtf8(name).value();
+    if (letters.find_first_not_of(isUrdu ? kUrduLetters : kArabicLetters) != letters.npos) {
+        return 0;
+    }
+    return isUrdu && letters.find_first_of(kLettersOfUrduAlone) != letters.npos ? 2 : 1;
 }
 
-/// The first of a city's other names in a script; empty where none is.
+/// The one of a city's other names in a script that fits best, the first of equals; empty where
+/// none does.
 std::string NameInScript(std::int16_t cityIndex, Script script) {
-    static const Script arabic = ScriptOf("\u0627");
+    std::string best;
+    int fitOfBest = 0;
     for (const std::string& name : Split(OtherNamesOf(cityIndex), ',')) {
-        if (ScriptOf(name) == script && (script != arabic || IsArabic(name))) {
-            return name;
+        const int fit = ScriptOf(name) == script ? FitOf(name) : 0;
+        if (fit > fitOfBest) {
+            best = name;
+            fitOfBest = fit;
         }
     }
-    return {};
+    return best;
 }
 
 std::string OwnName() {

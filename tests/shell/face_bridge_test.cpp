@@ -1,5 +1,7 @@
 #include "shell/face_bridge.h"
 
+#include <map>
+
 #include "base/script.h"
 #include "calendar/current_calendar.h"
 #include "engine/day_driver.h"
@@ -77,6 +79,21 @@ TEST_F(FaceBridgeTest, NameInTheArabicScriptIsOneOfTheArabicLanguage) {
     ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
     SetFlashVariables();
     EXPECT_THAT(day.place, testing::StartsWith("\u062f\u0628\u0649 \u00b7 "));
+}
+
+// Names with letters of other languages of the script stand before Urdu's own.
+TEST_F(FaceBridgeTest, NameInUrduIsOneOfUrdu) {
+    DayView day;
+    platform.face.onShowDay = [&](const DayView& shown) { day = shown; };
+    currentLanguage = "Urdu";
+    const auto cities = ListCities();
+    for (const auto& [city, name] : std::map<std::string, std::string>{
+             {"cairo", "قاہرہ"}, {"dhaka", "ڈھاکہ"}, {"karachi", "کراچی"}, {"lahore", "لاہور"}}) {
+        ActiveSettings.CityIndex = SearchCities(cities, city).at(0).city->cityIndex;
+        ActiveCityText = LookupLocation(ActiveSettings.CityIndex, ActiveLocation);
+        SetFlashVariables();
+        EXPECT_THAT(day.place, testing::StartsWith(name + " \u00b7 "));
+    }
 }
 
 TEST_F(FaceBridgeTest, PlaceByCoordinatesHasNoOtherName) {
