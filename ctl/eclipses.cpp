@@ -159,12 +159,12 @@ struct LocalText {
         return local.IsSeenAt(instant) ? time : "(" + time + ")";
     }
 
-    std::string Times(const SkySpan& span) const {
+    std::string Span(const SkySpan& span) const {
         return Time(span.from) + " to " + Time(span.end);
     }
 
     std::string Phase(const char* name, const std::optional<SkySpan>& span) const {
-        return span ? std::string(", ") + name + " " + Times(*span) : "";
+        return span ? std::string(", ") + name + " " + Span(*span) : "";
     }
 
     std::string Contacts() const {
@@ -172,10 +172,10 @@ struct LocalText {
         const std::string greatest = ", greatest " + Time(local.greatest);
         if (eclipse.solar) {
             return "here " + std::string(KindName(local.kind)) + " " +
-                   MagnitudeText(local.magnitude) + ", " + Times(phases.whole) +
+                   MagnitudeText(local.magnitude) + ", " + Span(phases.whole) +
                    Phase(KindName(local.kind), phases.full) + greatest;
         }
-        return "penumbra " + Times(phases.whole) + Phase("umbra", phases.umbral) +
+        return "penumbra " + Span(phases.whole) + Phase("umbra", phases.umbral) +
                Phase("total", phases.full) + greatest;
     }
 
@@ -189,7 +189,7 @@ struct LocalText {
     std::string Seen() const {
         std::string text;
         for (const SkySpan& span : local.seen) {
-            text += (text.empty() ? "seen " : " and ") + Times(span);
+            text += (text.empty() ? "seen " : " and ") + Span(span);
         }
         return text + Best();
     }
