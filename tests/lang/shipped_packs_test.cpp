@@ -186,6 +186,24 @@ TEST_F(ShippedPacks, EveryMenuEntryHasAnAccessKeyOfItsOwnInItsMenu) {
     }
 }
 
+// The line below an access key cuts the letter from a sign that is written upon it, or from the
+// letters that it is joined to.
+TEST_F(ShippedPacks, BengaliAccessKeysAreLettersThatStandAlone) {
+    const auto isSign = [](char32_t c) {
+        return (c >= 0x981 && c <= 0x983) || (c >= 0x9BC && c <= 0x9CD) || c == 0x9D7;
+    };
+    constexpr char32_t kJoiner = 0x9CD;
+    for (const ProfileEntry& entry : ListProfileEntries(Source("Bengali"))) {
+        const std::string text = Text("Bengali", entry.section, entry.key);
+        const auto letters = DecodeUtf8(text).value();
+        const std::size_t mark = letters.find(U'&');
+        if (mark != std::u32string::npos) {
+            EXPECT_FALSE(mark + 2 < letters.size() && isSign(letters[mark + 2])) << text;
+            EXPECT_FALSE(mark > 0 && letters[mark - 1] == kJoiner) << text;
+        }
+    }
+}
+
 TEST_F(ShippedPacks, ButtonsOfAWindowShareNoAccessKey) {
     for (const std::string& language : kShippedLanguages) {
         for (const auto& form : FormsIn(language)) {
