@@ -60,9 +60,14 @@ TEST(SkyColours, EveryTextIsReadableOnEveryGroundAtEveryHeightOfTheSun) {
             const QColor card = Over(colours.card, sky);
             ExpectReadable(sky, {kGold, kCream, kMuted}, altitude, "on the sky");
             ExpectReadable(card, {kGold, kCream}, altitude, "on a card");
-            ExpectReadable(Over(kGlow, card), {kGold, kCream}, altitude, "on what glows");
+            ExpectReadable(Over(kGlow, card), {kCream}, altitude, "on what glows");
             ExpectReadable(Over(kGlow, sky), {kCream}, altitude, "below the pointer");
             ExpectReadable(Over(kPressed, card), {kCream}, altitude, "on what is pressed");
+        }
+        // The table of times lies in the lower half.
+        for (float part = 0.5F; part <= 1.0F; part += 0.125F) {
+            const QColor card = Over(colours.card, At(colours, part));
+            ExpectReadable(Over(kGlow, card), {kGold}, altitude, "in the row of the next prayer");
         }
     }
 }
