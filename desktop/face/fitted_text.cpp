@@ -28,6 +28,13 @@ QFont Fitted(QFont font, const QString& text, double width) {
     return font;
 }
 
+/// How far letters hang out below a line of that height in whose middle they stand.
+double OverhangOf(const QFont& font, const QString& text, double height) {
+    const QFontMetricsF metrics(font);
+    const double baseline = (height - metrics.height()) / 2.0 + metrics.ascent();
+    return std::max(0.0, baseline + metrics.tightBoundingRect(text).bottom() - height);
+}
+
 }  // namespace
 
 QString WithTimesIsolated(QString text) {
@@ -55,7 +62,8 @@ void DrawFitted(QPainter& painter, const QRectF& area, Qt::Alignment alignment, 
     const QString ordered = text.isRightToLeft() ? WithTimesIsolated(text) : text;
     const QString shown =
         QFontMetricsF(font).elidedText(ordered, Qt::ElideRight, area.width() + kSlack);
-    painter.drawText(area, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
+    const QRectF line = area.translated(0.0, -OverhangOf(font, shown, area.height()));
+    painter.drawText(line, static_cast<int>(alignment) | Qt::TextSingleLine | Qt::TextDontClip,
                      shown);
 }
 

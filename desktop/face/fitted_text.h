@@ -16,7 +16,7 @@ QString WithTimesIsolated(QString text);
 
 /// Draws one line of text in its own direction, so that "leading" is the right side for Arabic.
 /// A text that is too wide is set in smaller type, down to seven tenths, and then cut with an
-/// ellipsis.
+/// ellipsis. Letters that would hang out below the area raise their line.
 void DrawFitted(QPainter& painter, const QRectF& area, Qt::Alignment alignment, QFont font,
                 const QString& text);
 
