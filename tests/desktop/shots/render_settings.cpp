@@ -193,7 +193,8 @@ int main(int argc, char** argv) {
     }
     for (const Language& language :
          {Language{"English", 1}, Language{"French", 2}, Language{"German", 3},
-          Language{"Arabic", 4}, Language{"Spanish", 5}, Language{"Indonesian", 1}}) {
+          Language{"Arabic", 4}, Language{"Spanish", 5}, Language{"Indonesian", 1},
+          Language{"Bengali", 1}}) {
         Rendering(QString::fromLocal8Bit(argv[1]), language).All();
     }
     return 0;
