@@ -5,6 +5,7 @@
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/caption_text.h"
+#include "desktop/form_window/menu_style.h"
 
 namespace horavex {
 
@@ -52,6 +53,9 @@ void FillMenu(QMenu& menu, const MenuItem& source) {
     const QList<QAction*> actions = menu.actions();
     const bool rightToLeft = !actions.isEmpty() && actions.first()->text().isRightToLeft();
     menu.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    if (rightToLeft) {
+        menu.setStyle(RightToLeftMenuStyle());
+    }
 }
 
 bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source) {

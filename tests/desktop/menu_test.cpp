@@ -89,6 +89,30 @@ TEST_F(MenuTest, ArabicEntriesTurnTheMenuRound) {
     EXPECT_EQ(menu.actions().first()->text(), "حول البرنامج");  // its letters stay joined
 }
 
+/// How far the writing of the first entry is from the left edge, in pixels.
+int LeftOfFirstEntry(QMenu& menu) {
+    menu.adjustSize();
+    const QImage shown = menu.grab(menu.actionGeometry(menu.actions().first())).toImage();
+    constexpr int kFrame = 4;
+    for (int x = kFrame; x < shown.width() - kFrame; ++x) {
+        for (int y = kFrame; y < shown.height() - kFrame; ++y) {
+            if (qGray(shown.pixel(x, y)) < 128) {
+                return x;
+            }
+        }
+    }
+    return -1;
+}
+
+TEST_F(MenuTest, ArabicEntriesStandAtTheRight) {
+    frmMain->mnuAbout.SetCaption("حول");
+    frmMain->mnuHelpIndex.SetCaption("كلمات كثيرة توسع هذه القائمة كلها");
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuHelp);
+    const int left = LeftOfFirstEntry(menu);
+    EXPECT_GT(left, menu.actionGeometry(menu.actions().first()).width() / 2);
+}
+
 TEST_F(MenuTest, ChosenEntryIsClickedOnceTheMenuIsClosed) {
     frmMain->Show();
     bool wasClosed = false;
