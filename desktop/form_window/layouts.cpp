@@ -16,6 +16,7 @@
 #include "ui_frmMonth.h"
 #include "ui_frmRamadan.h"
 #include "ui_frmReminders.h"
+#include "ui_frmSky.h"
 #include "ui_frmTimes.h"
 #include "ui_frmWizard.h"
 
@@ -66,6 +67,7 @@ Layouts DrawnLayouts() {
         {"frmAbout", Fill<Ui::frmAbout>},
         {"frmAdjust", Fill<Ui::frmAdjust>},
         {"frmReminders", Fill<Ui::frmReminders>},
+        {"frmSky", Fill<Ui::frmSky>},
         {"frmTimes", Fill<Ui::frmTimes>},
         {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},

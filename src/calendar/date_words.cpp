@@ -13,6 +13,10 @@ std::string MonthName(int monthNumber) {
     return monthNumber >= 0 && monthNumber <= 11 ? kNames[monthNumber] : "December";
 }
 
+std::string GregorianMonthName(int month) {
+    return GetLangString("timetables", "Month" + std::to_string(month), MonthName(month));
+}
+
 HijriTexts HijriToday() {
     const HijriDate today = RuledHijriDate(Ports().clock.Today());
     return {std::to_string(today.day), HijriMonthName(today.month), std::to_string(today.year)};

@@ -8,6 +8,9 @@ namespace horavex {
 /// also gives "January", and any other number "December".
 std::string MonthName(int monthNumber);
 
+/// Name of a Gregorian month (1 to 12) in the current pack; the English one where it has none.
+std::string GregorianMonthName(int month);
+
 /// Today's Hijri date as the face shows it.
 struct HijriTexts {
     std::string day;        // decimal, no padding

@@ -12,6 +12,7 @@
 #include "windows/frm_athan.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_main.h"
+#include "windows/frm_sky.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -111,6 +112,7 @@ void BindHelp() {
     HoravexMainForm->Help.onClick = mnuHelpIndex_Click;
     HoravexMainForm->SettingsHelp.onClick = [] { ShowHelpContext(kHelpSettings); };
     HoravexMainForm->QiblaHelpButton.onClick = [] { ShowHelpContext(kHelpQibla); };
+    frmSky->cmdHelp.onClick = [] { ShowHelpOf(*frmSky); };
     frmDateConvert->HijriDateConversionHelp.onClick = [] { ShowHelpContext(kHelpDateConversion); };
 }
 

@@ -14,6 +14,7 @@
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
 #include "windows/frm_reminders.h"
+#include "windows/frm_sky.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -62,6 +63,15 @@ std::vector<std::string> TimetableKeys() {
         keys.push_back("Weekday" + weekday);
     }
     return keys;
+}
+
+/// What the window of the sky says.
+std::vector<std::string> SkyKeys() {
+    return {"TodayPage",     "PhasesPage", "DayMonth",      "DayMonthYear",   "Sun",
+            "Moon",          "Civil",      "Nautical",      "Astronomical",   "Rise",
+            "Transit",       "Set",        "AlwaysUp",      "NeverUp",        "Above",
+            "Below",         "MoonNow",    "NewMoon",       "WaxingCrescent", "FirstQuarter",
+            "WaxingGibbous", "FullMoon",   "WaningGibbous", "LastQuarter",    "WaningCrescent"};
 }
 
 template <class... Forms>
@@ -131,6 +141,7 @@ const std::vector<PackSection>& PackVocabularies() {
           "ChooseSound",
           "SoundFiles",
           "AllFiles"}},
+        {"sky", SkyKeys()},
         {"methods",
          {"algeria",      "brunei",    "canada", "dubai",   "egypt",   "france",     "gulf",
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
@@ -167,7 +178,7 @@ std::vector<PackSection> PackSections() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm, TimesForm, MonthForm, AdjustForm, RemindersForm>();
+                AboutForm, TimesForm, MonthForm, AdjustForm, RemindersForm, SkyForm>();
 }
 
 }  // namespace horavex

@@ -14,6 +14,7 @@
 #include "moon/moon_room.h"
 #include "shell/face_bridge.h"
 #include "shell/shell_room.h"
+#include "skywindows/skywindows_room.h"
 #include "timetables/timetables_room.h"
 #include "update/update_room.h"
 
@@ -37,6 +38,7 @@ void BindRooms() {
     BindCalendarRoom();
     BindGeoRoom();
     BindMoonRoom();
+    BindSkyWindowsRoom();
     BindAthanRoom();
     BindTimetablesRoom();
     BindConfigRoom();

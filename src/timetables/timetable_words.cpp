@@ -30,7 +30,7 @@ void TakeNames(TimetableWords& words) {
     }
     for (std::size_t month = 0; month < 12; ++month) {
         const auto number = static_cast<int>(month) + 1;
-        words.months[month] = NumberedWord("Month", month + 1, MonthName(number));
+        words.months[month] = GregorianMonthName(number);
         words.hijriMonths[month] = HijriMonthName(number);
     }
     for (std::size_t weekday = 0; weekday < 7; ++weekday) {

@@ -60,6 +60,8 @@ public:
     MenuItem mnuQibla{mnuTools, "mnuQibla", {.caption = "Qibla"}};
     MenuItem mnuDistance{mnuTools, "mnuDistance", {.caption = "Distance between 2 cities"}};
     MenuItem mnuMoonPhases{mnuTools, "mnuMoonPhases", {.caption = "Moon Phases"}};
+    MenuItem mnuLine2{mnuTools, "mnuLine2", {.caption = "-"}};
+    MenuItem mnuSky{mnuTools, "mnuSky", {.caption = "Sky"}};
 
     MenuItem mnuHelp{*this, "mnuHelp", {.caption = "Help"}};
     MenuItem mnuAbout{mnuHelp, "mnuAbout", {.caption = "About Us"}};

@@ -39,12 +39,13 @@ uses[calendar]="${uses[store]} engine/* store/* lang/*"
 uses[geo]="${uses[calendar]} calendar/*"
 uses[moon]="${uses[geo]} geo/*"
 uses[sky]="${uses[moon]} moon/*"
+uses[skywindows]="${uses[sky]} sky/* windows/*"
 uses[athan]="${uses[moon]} moon/* windows/*"
 # The export shares its cancel with the alarm.
 uses[timetables]="${uses[athan]} athan/*"
 uses[config]="${uses[moon]} windows/*"
 uses[update]="${uses[moon]} windows/*"
-uses[shell]="${uses[athan]} athan/* timetables/* config/* update/* sky/*"
+uses[shell]="${uses[athan]} athan/* timetables/* config/* update/* sky/* skywindows/*"
 
 # In four rooms logic asks no window: the sources of their windows, and those that bind a room to
 # the windows, are named as such, and they alone may include windows. Their headers may not, so that

@@ -23,6 +23,7 @@
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
 #include "windows/frm_reminders.h"
+#include "windows/frm_sky.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -102,15 +103,17 @@ TEST_P(LayoutsTest, WhatTakesTheFocusHasANameAndTakesItByKey) {
 
 INSTANTIATE_TEST_SUITE_P(
     DrawnForms, LayoutsTest,
-    testing::Values(
-        []() -> Form* { return &*fMessage; }, []() -> Form* { return &*HoravexMainForm; },
-        []() -> Form* { return &*frmAbout; }, []() -> Form* { return &*frmAthan; },
-        []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
-        []() -> Form* { return &*frmDistance; }, []() -> Form* { return &*Moon_Phases; },
-        []() -> Form* { return &*frmRamadan; }, []() -> Form* { return &*NewCoordinates; },
-        []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
-        []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
-        []() -> Form* { return &*frmAdjust; }, []() -> Form* { return &*frmReminders; }),
+    testing::Values([]() -> Form* { return &*fMessage; },
+                    []() -> Form* { return &*HoravexMainForm; },
+                    []() -> Form* { return &*frmAbout; }, []() -> Form* { return &*frmAthan; },
+                    []() -> Form* { return &*frmDateConvert; }, []() -> Form* { return &*fQibla; },
+                    []() -> Form* { return &*frmDistance; },
+                    []() -> Form* { return &*Moon_Phases; }, []() -> Form* { return &*frmRamadan; },
+                    []() -> Form* { return &*NewCoordinates; },
+                    []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
+                    []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
+                    []() -> Form* { return &*frmAdjust; }, []() -> Form* { return &*frmReminders; },
+                    []() -> Form* { return &*frmSky; }),
     [](const auto& form) { return form.param()->Name(); });
 
 TEST(RemindersLayout, NamesTellThePrayerOfEachRow) {

@@ -22,6 +22,7 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_sky.h"
 #include "windows/moon_phases.h"
 
 namespace horavex {
@@ -91,6 +92,12 @@ TEST_P(ToolsWindowsTest, CutNoText) {
             ExpectNothingCut(*Moon_Phases);
         }
         Visit(ShowRamadanHelp, *frmRamadan, [&] { ExpectNothingCut(*frmRamadan); });
+    });
+    Visit(frmMain->mnuSky, *frmSky, [&] {
+        for (int page = 0; page < frmSky->tabPages.ListCount(); ++page) {
+            frmSky->tabPages.UserSelect(page);
+            ExpectNothingCut(*frmSky);
+        }
     });
 }
 

@@ -35,6 +35,7 @@
 #include "windows/frm_month.h"
 #include "windows/frm_ramadan.h"
 #include "windows/frm_reminders.h"
+#include "windows/frm_sky.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -127,7 +128,8 @@ private:
                 {*frmRamadan, ShowRamadanHelp},
                 {*frmAbout, By(frmMain->mnuAbout)},
                 {*frmAdjust, By(frmMain->mnuAdjustments)},
-                {*frmReminders, By(frmMain->mnuReminders)}};
+                {*frmReminders, By(frmMain->mnuReminders)},
+                {*frmSky, By(frmMain->mnuSky)}};
     }
 
     static Layouts AllLayouts(QtFace& face, AzanFace& athanFace) {

@@ -23,9 +23,10 @@ const PackSection& Section(std::size_t index) {
     return PackVocabularies().at(index);
 }
 
-TEST(PackVocabularies,
-     AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAdjustmentsAndReminders) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(10));
+TEST(
+    PackVocabularies,
+    AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAdjustmentsRemindersAndTheSky) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(11));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
@@ -35,7 +36,8 @@ TEST(PackVocabularies,
     EXPECT_EQ(Section(6).name, "notices");
     EXPECT_EQ(Section(7).name, "adjustments");
     EXPECT_EQ(Section(8).name, "reminders");
-    EXPECT_EQ(Section(9).name, "methods");
+    EXPECT_EQ(Section(9).name, "sky");
+    EXPECT_EQ(Section(10).name, "methods");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -102,7 +104,7 @@ TEST_F(PackSectionsTest, FormsStandAsDefined) {
     EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
                                    "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
                                    "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
-                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders"));
+                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders", "frmSky"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -110,12 +112,12 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names,
-                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "notices",
-                            "adjustments", "reminders", "methods", "frmMain", "HoravexMainForm",
-                            "fMessage", "frmAthan", "fCountry", "NewCoordinates", "frmWizard",
-                            "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases", "frmRamadan",
-                            "frmAbout", "frmTimes", "frmMonth", "frmAdjust", "frmReminders"));
+    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments",
+                                   "notices", "adjustments", "reminders", "sky", "methods",
+                                   "frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
+                                   "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
+                                   "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
+                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders", "frmSky"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
@@ -126,7 +128,7 @@ TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[10].keys;
+    const auto keys = PackSections()[11].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

@@ -51,7 +51,8 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
                             "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments",
                             "mnuReminders"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
-                ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases"));
+                ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases",
+                            "mnuLine2", "mnuSky"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
     EXPECT_THAT(NamesIn(frmMain->mnuPopup),
                 ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",

@@ -13,6 +13,7 @@
 #include "lang/language_pack.h"
 #include "moon/moon_window.h"
 #include "shell/wiring.h"
+#include "skywindows/sky_window.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
@@ -22,6 +23,7 @@
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 #include "windows/frm_ramadan.h"
+#include "windows/frm_sky.h"
 #include "windows/horavex_main_form.h"
 #include "windows/moon_phases.h"
 
@@ -63,6 +65,17 @@ void VisitMoon(const FormWindows& windows) {
     });
 }
 
+void VisitSky(const FormWindows& windows) {
+    SkyForm& form = *frmSky;
+    Visit([] { OpenSky(*frmMain); }, form,
+          [&] {
+              for (int page = 0; page < form.tabPages.ListCount(); ++page) {
+                  form.tabPages.UserSelect(page);
+                  Save(windows, form, "sky-" + QString::number(page + 1));
+              }
+          });
+}
+
 void VisitDistance(const FormWindows& windows) {
     Visit(ShowDistance, *frmDistance, [&] {
         FillPickedCity(DistanceCity::kA, "Cairo, Cairo - Egypt",
@@ -98,5 +111,6 @@ int main(int argc, char** argv) {
     Visit(ShowQibla, *fQibla, [&] { Save(windows, *fQibla, "qibla"); });
     VisitDistance(windows);
     VisitMoon(windows);
+    VisitSky(windows);
     return 0;
 }

@@ -1,0 +1,150 @@
+#include "skywindows/sky_window.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/program_state.h"
+#include "engine/center_on_screen.h"
+#include "forms/show_modal.h"
+#include "lang/form_language.h"
+#include "platform/platform.h"
+#include "skywindows/day_picture.h"
+#include "skywindows/phases_page.h"
+#include "skywindows/sky_words.h"
+#include "skywindows/today_page.h"
+#include "windows/frm_main.h"
+#include "windows/frm_sky.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kTodayPage = 0;
+
+struct PageName {
+    const char* key;
+    const char* english;
+};
+
+constexpr PageName kPages[] = {{"TodayPage", "Today"}, {"PhasesPage", "Moon phases"}};
+
+/// What the window shows: the place as it is accepted when the window comes up.
+struct Shown {
+    SkyPlace place;
+    int year;
+};
+std::optional<Shown> shown;
+
+const ProgramStateReset reset([] { shown.reset(); });
+
+bool IsToday() {
+    return frmSky->tabPages.ListIndex() == kTodayPage;
+}
+
+/// The present one, as far as the almanac goes.
+int PresentYear() {
+    const Date local = shown->place.clock.LocalOf(Ports().clock.UniversalNow());
+    return std::clamp(CivilFromDate(local).year, kFirstAlmanacYear, kLastAlmanacYear);
+}
+
+SkyPage PageOnView(Date now) {
+    const Almanac& almanac = Ports().almanac;
+    return IsToday() ? TodayPage(almanac, shown->place, now)
+                     : PhasesPage(almanac, shown->place, shown->year, now);
+}
+
+void ShowPage(const SkyPage& page) {
+    SkyForm& form = *frmSky;
+    form.grdTable.heads = page.heads;
+    form.grdTable.rows = page.rows;
+    form.grdTable.Refresh();
+    form.lblShownNote.SetCaption(page.note);
+    form.lblShownNote.SetVisible(!page.note.empty());
+}
+
+void ShowHead(Date now) {
+    frmSky->lblShownPlace.SetCaption(shown->place.name);
+    frmSky->lblShownTime.SetCaption(IsToday() ? SkyDateAndTime(shown->place.clock, now)
+                                              : std::to_string(shown->year));
+}
+
+void DrawArcs(Date now) {
+    Picture& picture = frmSky->picArcs;
+    picture.drawing =
+        DayPicture(picture.ScaleWidth(), picture.ScaleHeight(), Ports().almanac, shown->place, now);
+    picture.Refresh();
+}
+
+void ShowNow() {
+    const Date now = Ports().clock.UniversalNow();
+    ShowPage(PageOnView(now));
+    ShowHead(now);
+    if (IsToday()) {
+        DrawArcs(now);
+    }
+}
+
+/// Which controls belong to the page on view.
+void ChoosePage() {
+    SkyForm& form = *frmSky;
+    const bool today = IsToday();
+    form.picArcs.SetVisible(today);
+    form.lblLegend.SetVisible(today);
+    for (CommandButton* button : {&form.cmdPrev, &form.cmdToday, &form.cmdNext}) {
+        button->SetVisible(!today);
+    }
+    form.tmrNow.SetEnabled(today);
+    ShowNow();
+}
+
+void ShowYear(int year) {
+    shown->year = std::clamp(year, kFirstAlmanacYear, kLastAlmanacYear);
+    frmSky->cmdPrev.SetEnabled(shown->year > kFirstAlmanacYear);
+    frmSky->cmdNext.SetEnabled(shown->year < kLastAlmanacYear);
+    ShowNow();
+}
+
+void Turn(int step) {
+    if (!IsToday()) {
+        ShowYear(shown->year + step);
+    }
+}
+
+void NamePages() {
+    for (std::size_t page = 0; page < std::size(kPages); ++page) {
+        frmSky->tabPages.SetTabCaption(static_cast<int>(page),
+                                       SkyWord(kPages[page].key, kPages[page].english));
+    }
+}
+
+void frmSky_Load() {
+    TranslateOnLoad(*frmSky);
+    NamePages();
+    shown = Shown{AcceptedSkyPlace(), 0};
+    ShowYear(PresentYear());
+    ChoosePage();
+    CenterOnScreen(*frmSky);
+}
+
+}  // namespace
+
+void OpenSky(Form& owner) {
+    ShowModalOrUnload(*frmSky, &owner);
+}
+
+void BindSkyWindow() {
+    SkyForm& form = *frmSky;
+    form.onLoad = frmSky_Load;
+    form.onUnload = [] { shown.reset(); };
+    form.tabPages.onClick = ChoosePage;
+    form.grdTable.onPage = Turn;
+    form.cmdPrev.onClick = [] { Turn(-1); };
+    form.cmdNext.onClick = [] { Turn(1); };
+    form.cmdToday.onClick = [] { ShowYear(PresentYear()); };
+    form.tmrNow.onTimer = ShowNow;
+    form.cmdPrint.onClick = [] { Ports().windows.Print(frmSky->Name()); };
+    form.cmdClose.onClick = [] { frmSky->Unload(); };
+    frmMain->mnuSky.onClick = [] { OpenSky(*frmMain); };
+}
+
+}  // namespace horavex

@@ -1,0 +1,52 @@
+// The window "Sky" as a user meets it, by the keyboard alone.
+
+#include <gmock/gmock.h>
+
+#include "e2e/harness/program_fixture.h"
+#include "e2e/harness/wait_until.h"
+
+namespace horavex {
+namespace {
+
+using testing::IsEmpty;
+
+class SkyProgramTest : public ProgramFixture {
+protected:
+    /// Opens a window by its letter in the face's tools menu, and waits for its title.
+    std::string OpenTool(const ChildProcess& program, const char* letter,
+                         const std::string& title) const {
+        const std::string face = desktop.WaitForWindow(program, kFaceTitle);
+        const auto windows = desktop.WindowsOf(program);
+        desktop.Click(face, 200, 120);
+        desktop.WaitForMenu(program, windows);
+        desktop.PressKey(letter);
+        return Activated(desktop.WaitForWindow(program, title));
+    }
+
+    std::string Activated(const std::string& window) const {
+        desktop.Use({"xdotool", "windowactivate", "--sync", window});
+        return window;
+    }
+
+    void ExpectClosedByEscape(const ChildProcess& program, const std::string& window) const {
+        desktop.PressKey("Escape");
+        EXPECT_TRUE(WaitUntil("no window", [&] { return !desktop.IsOnView(program, window); }));
+    }
+};
+
+TEST_F(SkyProgramTest, OpensFromTheToolsMenuAndShowsItsPagesByTheArrowKeys) {
+    const ChildProcess program = StartProgram();
+    const std::string sky = OpenTool(program, "s", "Sky");
+    desktop.SaveScreen("sky-1");
+    for (const char* picture : {"sky-2"}) {
+        desktop.PressKey("Right");
+        desktop.SaveScreen(picture);
+    }
+    desktop.PressKey("alt+n");  // the next year
+    desktop.SaveScreen("sky-next-year");
+    ExpectClosedByEscape(program, sky);
+    EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
+}
+
+}  // namespace
+}  // namespace horavex
