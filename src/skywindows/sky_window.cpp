@@ -14,6 +14,7 @@
 #include "skywindows/today_page.h"
 #include "windows/frm_main.h"
 #include "windows/frm_sky.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 
@@ -145,6 +146,7 @@ void BindSkyWindow() {
     form.cmdPrint.onClick = [] { Ports().windows.Print(frmSky->Name()); };
     form.cmdClose.onClick = [] { frmSky->Unload(); };
     frmMain->mnuSky.onClick = [] { OpenSky(*frmMain); };
+    Moon_Phases->cmdSky.onClick = [] { OpenSky(*Moon_Phases); };
 }
 
 }  // namespace horavex

@@ -12,7 +12,7 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kNoTime = "\u2013";
+constexpr const char* kNoTime = "--:--";
 
 /// A text of the pack with the parts of an instant's date in their places.
 std::string DateIn(const std::string& text, const ZoneClock& clock, Date universal) {

@@ -13,7 +13,7 @@ namespace horavex {
 /// A text of the pack's section "sky".
 std::string SkyWord(const char* key, const char* english);
 
-/// The clock to the nearest minute; a dash for nothing.
+/// The clock to the nearest minute; "--:--" for nothing.
 std::string SkyTime(const ZoneClock& clock, const std::optional<Date>& universal);
 
 /// "21 November  05:31 PM".

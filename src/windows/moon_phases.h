@@ -88,6 +88,13 @@ public:
 
     CommandButton Command2{*this, "Command2", {.caption = "&Print", .toolTipText = "Print window"}};
     CommandButton cmdClose{*this, "cmdClose", {.caption = "Cl&ose"}};
+
+    Label lblSkyNote{*this,
+                     "lblSkyNote",
+                     {.caption = "These tables follow the program's own simple formulas and can be "
+                                 "hours off. What the sky really does stands in the window "
+                                 "\"Sky\"."}};
+    CommandButton cmdSky{*this, "cmdSky", {.caption = "S&ky"}};
 };
 
 inline const FormInstance<MoonPhasesForm> Moon_Phases;

@@ -48,5 +48,16 @@ TEST_F(SkyProgramTest, OpensFromTheToolsMenuAndShowsItsPagesByTheArrowKeys) {
     EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
 }
 
+TEST_F(SkyProgramTest, OpensFromTheMoonWindowAndGivesTheKeysBackToIt) {
+    const ChildProcess program = StartProgram();
+    const std::string moon = OpenTool(program, "m", "Moon Phases");
+    desktop.SaveScreen("moon-with-sky");
+    desktop.PressKey("alt+k");
+    const std::string sky = Activated(desktop.WaitForWindow(program, "Sky"));
+    ExpectClosedByEscape(program, sky);
+    Activated(moon);
+    ExpectClosedByEscape(program, moon);
+}
+
 }  // namespace
 }  // namespace horavex

@@ -5,6 +5,7 @@
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "windows/frm_sky.h"
+#include "windows/moon_phases.h"
 
 namespace horavex {
 namespace {
@@ -34,6 +35,18 @@ TEST_F(SkyWindowTest, OpensModalFromTheMenuInTheMiddleOfTheScreen) {
     EXPECT_THAT(platform.desktop.calls, ElementsAre("load frmSky", "show frmSky", "modal frmSky"));
     EXPECT_EQ(form.Owner(), &*frmMain);
     EXPECT_EQ(form.Left(), (19200.0 - form.Width()) / 2.0);
+}
+
+TEST_F(SkyWindowTest, OpensFromTheMoonWindowTooWhichSaysWhatItsOwnTablesAre) {
+    form.cmdClose.UserClick();
+    frmMain->mnuMoonPhases.UserClick();
+    EXPECT_THAT(Moon_Phases->lblSkyNote.Caption(), HasSubstr("hours off"));
+    EXPECT_EQ(Moon_Phases->Controls().back(), &Moon_Phases->cmdSky);
+    Moon_Phases->cmdSky.UserClick();
+    EXPECT_TRUE(form.Visible());
+    EXPECT_EQ(form.Owner(), &*Moon_Phases);
+    form.cmdClose.UserClick();
+    EXPECT_TRUE(Moon_Phases->Visible());
 }
 
 TEST_F(SkyWindowTest, ComesUpWithTheDayOfTheAcceptedPlaceByItsClock) {
