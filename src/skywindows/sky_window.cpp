@@ -9,7 +9,9 @@
 #include "lang/form_language.h"
 #include "platform/platform.h"
 #include "skywindows/day_picture.h"
+#include "skywindows/eclipses_page.h"
 #include "skywindows/phases_page.h"
+#include "skywindows/qibla_page.h"
 #include "skywindows/sky_words.h"
 #include "skywindows/today_page.h"
 #include "windows/frm_main.h"
@@ -20,14 +22,18 @@ namespace horavex {
 
 namespace {
 
-constexpr int kTodayPage = 0;
+/// The pages in the order of their tabs.
+enum Page { kTodayPage, kPhasesPage, kEclipsesPage, kQiblaPage };
 
 struct PageName {
     const char* key;
     const char* english;
 };
 
-constexpr PageName kPages[] = {{"TodayPage", "Today"}, {"PhasesPage", "Moon phases"}};
+constexpr PageName kPages[] = {{"TodayPage", "Today"},
+                               {"PhasesPage", "Moon phases"},
+                               {"EclipsesPage", "Eclipses"},
+                               {"QiblaPage", "Qibla by the sun"}};
 
 /// What the window shows: the place as it is accepted when the window comes up.
 struct Shown {
@@ -50,8 +56,17 @@ int PresentYear() {
 
 SkyPage PageOnView(Date now) {
     const Almanac& almanac = Ports().almanac;
-    return IsToday() ? TodayPage(almanac, shown->place, now)
-                     : PhasesPage(almanac, shown->place, shown->year, now);
+    const auto& [place, year] = *shown;
+    switch (frmSky->tabPages.ListIndex()) {
+        case kPhasesPage:
+            return PhasesPage(almanac, place, year, now);
+        case kEclipsesPage:
+            return EclipsesPage(almanac, place, year);
+        case kQiblaPage:
+            return QiblaPage(almanac, place, year, now);
+        default:
+            return TodayPage(almanac, place, now);
+    }
 }
 
 void ShowPage(const SkyPage& page) {

@@ -50,6 +50,10 @@ std::string DegreesText(double degrees) {
     return NumberToText(RoundToPlaces(degrees, 1), Ports().formats.DecimalMark()) + "\u00b0";
 }
 
+std::string DegreesIn(const std::string& text, double degrees) {
+    return KeptTogether(DegreesText(degrees), text);
+}
+
 std::string ShapeName(MoonShape shape) {
     struct Name {
         const char* key;

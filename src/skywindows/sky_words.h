@@ -25,6 +25,9 @@ std::string SkyDateAndTime(const ZoneClock& clock, Date universal);
 /// To a tenth: "23.4°".
 std::string DegreesText(double degrees);
 
+/// The same inside a text, whose script may run from right to left.
+std::string DegreesIn(const std::string& text, double degrees);
+
 std::string ShapeName(MoonShape shape);
 
 }  // namespace horavex

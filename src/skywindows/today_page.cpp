@@ -4,7 +4,6 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "base/script.h"
 #include "lang/filled_text.h"
 #include "platform/platform.h"
 #include "skywindows/sky_words.h"
@@ -55,10 +54,9 @@ std::string StandsText(const std::string& body, const HorizonPlace& place) {
         place.altitude < 0.0
             ? SkyWord("Below", "{body} now: {degrees} below the horizon, bearing {bearing}")
             : SkyWord("Above", "{body} now: {degrees} above the horizon, bearing {bearing}");
-    const auto degrees = [&](double value) { return KeptTogether(DegreesText(value), text); };
     return FilledText(FilledText(FilledText(text, "{body}", body), "{degrees}",
-                                 degrees(std::fabs(place.altitude))),
-                      "{bearing}", degrees(place.bearing));
+                                 DegreesIn(text, std::fabs(place.altitude))),
+                      "{bearing}", DegreesIn(text, place.bearing));
 }
 
 std::string TenthsText(double value) {

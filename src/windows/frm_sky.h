@@ -17,7 +17,8 @@ class SkyForm : public Form {
 public:
     SkyForm() : Form("frmSky", {.caption = "Sky", .width = 13800, .height = 9000}) {}
 
-    TabStrip tabPages{*this, "tabPages", {.items = {"Today", "Moon phases"}}};
+    TabStrip tabPages{
+        *this, "tabPages", {.items = {"Today", "Moon phases", "Eclipses", "Qibla by the sun"}}};
 
     Label lblShownPlace{*this, "lblShownPlace"};
     Label lblShownTime{*this, "lblShownTime"};  // date and time of now, or the year

@@ -89,6 +89,17 @@ TEST_F(SkyWindowTest, PhasesAreThoseOfTheYearAndTurnByButtonsAndPageKeys) {
     EXPECT_EQ(form.grdTable.rows, rows);
 }
 
+TEST_F(SkyWindowTest, EclipsesAndTheSunOverMeccaTurnWithTheYearToo) {
+    for (const int page : {2, 3}) {
+        form.tabPages.UserSelect(page);
+        const auto rows = form.grdTable.rows;
+        EXPECT_FALSE(form.lblShownNote.Caption().empty());
+        form.cmdNext.UserClick();
+        EXPECT_NE(form.grdTable.rows, rows) << page;
+        form.cmdPrev.UserClick();
+    }
+}
+
 TEST_F(SkyWindowTest, PageKeysTurnNothingOnTheDay) {
     form.grdTable.UserPage(1);
     form.tabPages.UserSelect(kPhases);
@@ -112,7 +123,8 @@ TEST_F(SkyWindowTest, SpeaksTheCurrentLanguage) {
     currentLanguage = "German";
     frmMain->mnuSky.UserClick();
     EXPECT_EQ(form.Caption(), "Himmel");
-    EXPECT_THAT(form.tabPages.Items(), ElementsAre("Heute", "Mondphasen"));
+    EXPECT_THAT(form.tabPages.Items(),
+                ElementsAre("Heute", "Mondphasen", "Finsternisse", "Qibla nach der Sonne"));
     EXPECT_THAT(Time(), StartsWith("21. November 2026"));
     EXPECT_EQ(form.grdTable.rows.at(0).cells.at(0), "Sonne");
 }

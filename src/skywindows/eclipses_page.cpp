@@ -1,0 +1,125 @@
+#include "skywindows/eclipses_page.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "platform/platform.h"
+#include "sky/local_eclipse.h"
+#include "sky/told_eclipses.h"
+#include "skywindows/sky_words.h"
+
+namespace horavex {
+
+namespace {
+
+struct KindName {
+    const char* key;
+    const char* english;
+};
+
+constexpr KindName kKinds[] = {{"Penumbral", "penumbral"},
+                               {"Partial", "partial"},
+                               {"Annular", "annular"},
+                               {"Hybrid", "hybrid"},
+                               {"Total", "total"}};
+
+struct DatedRow {
+    Date instant;
+    Grid::Row row;
+};
+
+std::string KindText(EclipseKind kind) {
+    const KindName& name = kKinds[static_cast<int>(kind)];
+    return SkyWord(name.key, name.english);
+}
+
+std::string BodyName(bool solar) {
+    return solar ? SkyWord("Sun", "Sun") : SkyWord("Moon", "Moon");
+}
+
+std::string MagnitudeText(double magnitude) {
+    return NumberToText(RoundToPlaces(magnitude, 3), Ports().formats.DecimalMark());
+}
+
+/// In brackets where the body is below the horizon.
+std::string ContactText(const ZoneClock& clock, const LocalEclipse& local, Date instant) {
+    const std::string time = SkyTime(clock, instant);
+    return local.IsSeenAt(instant) ? time : "(" + time + ")";
+}
+
+void AddLocal(const ZoneClock& clock, const Eclipse& eclipse, const LocalEclipse& local,
+              std::vector<std::string>& cells) {
+    const SkySpan span = local.phases.umbral.value_or(local.phases.whole);
+    const double magnitude = eclipse.kind == EclipseKind::kPenumbral ? eclipse.penumbralMagnitude
+                                                                     : local.best->magnitude;
+    cells.insert(cells.end(), {KindText(local.kind), ContactText(clock, local, span.from),
+                               ContactText(clock, local, local.greatest),
+                               ContactText(clock, local, span.end), MagnitudeText(magnitude)});
+}
+
+Grid::Row RowOf(const Almanac& almanac, const SkyPlace& place, const Eclipse& eclipse) {
+    std::vector<std::string> cells = {BodyName(eclipse.solar), KindText(eclipse.kind),
+                                      SkyDayAndTime(place.clock, eclipse.greatest)};
+    const auto local = LocalEclipseOf(almanac, place.observer, eclipse);
+    if (local && local->best) {
+        AddLocal(place.clock, eclipse, *local, cells);
+    } else {
+        cells.push_back(SkyWord("NotSeen", "not seen"));
+    }
+    return {cells};
+}
+
+Grid::Row NoneRow(const ZoneClock& clock, const ToldCandidate& candidate) {
+    return {{BodyName(candidate.solar), SkyWord("NoEclipse", "none *"),
+             SkyDayAndTime(clock, candidate.instant)}};
+}
+
+std::vector<DatedRow> DatedRows(const Almanac& almanac, const SkyPlace& place, int year) {
+    const SkySpan span = YearOf(place.clock, year);
+    std::vector<DatedRow> rows;
+    for (const Eclipse& eclipse : EclipsesBetween(almanac, span.from, span.end)) {
+        rows.push_back({eclipse.greatest, RowOf(almanac, place, eclipse)});
+    }
+    for (const ToldCandidate& candidate : ToldCandidates(almanac, year)) {
+        if (!candidate.happens) {
+            rows.push_back({candidate.instant, NoneRow(place.clock, candidate)});
+        }
+    }
+    std::ranges::stable_sort(rows, {}, &DatedRow::instant);
+    return rows;
+}
+
+std::vector<std::string> Heads() {
+    return {"",
+            SkyWord("Eclipse", "Eclipse"),
+            SkyWord("Greatest", "Greatest"),
+            SkyWord("Here", "Here"),
+            SkyWord("Begins", "Begins"),
+            SkyWord("GreatestHere", "Greatest here"),
+            SkyWord("Ends", "Ends"),
+            SkyWord("Magnitude", "Magnitude")};
+}
+
+std::string Note() {
+    return SkyWord("EclipsesNote",
+                   "Times in brackets: the body is below the horizon. The moon's begin and end are "
+                   "those of the umbra, but for penumbral eclipses.") +
+           "\n" +
+           SkyWord("NoEclipseNote",
+                   "* The list in the window \"Moon Phases\" names this date, but the sky has no "
+                   "eclipse.");
+}
+
+}  // namespace
+
+SkyPage EclipsesPage(const Almanac& almanac, const SkyPlace& place, int year) {
+    SkyPage page{Heads(), {}, Note()};
+    for (DatedRow& dated : DatedRows(almanac, place, year)) {
+        dated.row.cells.resize(page.heads.size());
+        page.rows.push_back(std::move(dated.row));
+    }
+    return page;
+}
+
+}  // namespace horavex

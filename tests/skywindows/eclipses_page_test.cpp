@@ -1,0 +1,85 @@
+// Eclipses of NASA's canons by F. Espenak and J. Meeus.
+
+#include "skywindows/eclipses_page.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "skywindows/sky_test_place.h"
+#include "support/test_platform.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+using testing::StartsWith;
+
+struct EclipsesPageTest : testing::Test {
+    SkyPage PageOf(int year) { return EclipsesPage(ErfaAlmanac(), MeccaSky(), year); }
+
+    /// The first row whose greatest eclipse begins so.
+    Grid::Row RowAt(const SkyPage& page, const std::string& when) {
+        const auto row = std::ranges::find_if(
+            page.rows, [&](const Grid::Row& other) { return other.cells.at(2).starts_with(when); });
+        return row == page.rows.end() ? Grid::Row{} : *row;
+    }
+
+    TestPlatform platform;
+};
+
+TEST_F(EclipsesPageTest, HasKindGreatestAndWhatThePlaceSees) {
+    const SkyPage page = PageOf(2027);
+    EXPECT_THAT(page.heads, ElementsAre("", "Eclipse", "Greatest", "Here", "Begins",
+                                        "Greatest here", "Ends", "Magnitude"));
+    const auto total = RowAt(page, "2 August").cells;
+    ASSERT_THAT(total, SizeIs(8));
+    EXPECT_EQ(total[0], "Sun");
+    EXPECT_EQ(total[1], "total");
+    EXPECT_EQ(total[2], "2 August  01:07 PM");
+    EXPECT_EQ(total[3], "total");
+    EXPECT_THAT(total[5], StartsWith("01:2"));
+    EXPECT_THAT(total[7], StartsWith("1.0"));
+}
+
+TEST_F(EclipsesPageTest, SaysThatThePlaceSeesNone) {
+    const auto annular = RowAt(PageOf(2027), "6 February").cells;
+    EXPECT_THAT(annular,
+                ElementsAre("Sun", "annular", "6 February  07:00 PM", "not seen", "", "", "", ""));
+}
+
+TEST_F(EclipsesPageTest, SetsWhatHappensBelowTheHorizonInBrackets) {
+    SkyPlace london = MeccaSky();
+    london.observer = {51.5, -0.12};
+    const SkyPage page = EclipsesPage(ErfaAlmanac(), london, 2018);
+    const auto row = RowAt(page, "27 July").cells;  // the moon rose eclipsed
+    ASSERT_THAT(row, SizeIs(8));
+    EXPECT_THAT(row[4], StartsWith("("));
+    EXPECT_THAT(row[6], testing::Not(HasSubstr("(")));
+}
+
+TEST_F(EclipsesPageTest, MarksWhatTheMoonWindowListsInVain) {
+    const SkyPage page = PageOf(2026);
+    const auto none = RowAt(page, "19 March").cells;
+    ASSERT_THAT(none, SizeIs(8));
+    EXPECT_EQ(none[0], "Sun");
+    EXPECT_EQ(none[1], "none *");
+    EXPECT_THAT(page.note, HasSubstr("* The list in the window \"Moon Phases\""));
+}
+
+TEST_F(EclipsesPageTest, RowsStandInTheOrderOfTheYear) {
+    const SkyPage page = PageOf(2026);
+    const auto place = [&](const char* when) {
+        return std::ranges::find_if(
+            page.rows, [&](const Grid::Row& row) { return row.cells.at(2).starts_with(when); });
+    };
+    EXPECT_LT(place("17 February"), place("3 March"));
+    EXPECT_LT(place("3 March"), place("19 March"));
+    EXPECT_LT(place("19 March"), place("12 August"));
+}
+
+}  // namespace
+}  // namespace horavex
