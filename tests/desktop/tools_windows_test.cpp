@@ -61,6 +61,7 @@ protected:
 
     void ExpectNothingCut(const Form& form) {
         QApplication::processEvents();
+        QApplication::processEvents();  // lays out what has changed
         for (const QWidget* widget : windows->Find(&form)->findChildren<QWidget*>()) {
             const auto* label = qobject_cast<const QLabel*>(widget);
             const bool hasText = label != nullptr ||

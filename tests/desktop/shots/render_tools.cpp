@@ -36,6 +36,7 @@ QString language;
 
 void Save(const FormWindows& windows, const Form& form, const QString& name) {
     QApplication::processEvents();
+    QApplication::processEvents();  // lays out what has changed
     windows.Find(&form)->grab().save(folder + "/" + name + "-" + language + ".png");
 }
 
