@@ -15,7 +15,7 @@ namespace horavex {
 /// has a picture between them, the others are of a year that can be turned.
 class SkyForm : public Form {
 public:
-    SkyForm() : Form("frmSky", {.caption = "Sky", .width = 13800, .height = 9000}) {}
+    SkyForm() : Form("frmSky", {.caption = "Sky", .width = 13800, .height = 9300}) {}
 
     TabStrip tabPages{
         *this, "tabPages", {.items = {"Today", "Moon phases", "Eclipses", "Qibla by the sun"}}};
@@ -24,7 +24,7 @@ public:
     Label lblShownTime{*this, "lblShownTime"};  // date and time of now, or the year
     Grid grdTable{*this, "grdTable"};
 
-    Picture picArcs{*this, "picArcs", {.width = 12600, .height = 3900}};
+    Picture picArcs{*this, "picArcs", {.width = 12600, .height = 3600}};
     Label lblLegend{*this,
                     "lblLegend",
                     {.caption = "Altitude over the day: the sun yellow, the moon grey; below the "
