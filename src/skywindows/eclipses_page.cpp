@@ -48,14 +48,22 @@ std::string ContactText(const ZoneClock& clock, const LocalEclipse& local, Date 
     return local.IsSeenAt(instant) ? time : "(" + time + ")";
 }
 
+/// The umbra is below the horizon as long as it meets the moon.
+bool IsPenumbraAlone(const Eclipse& eclipse, const LocalEclipse& local) {
+    return eclipse.kind != EclipseKind::kPenumbral && local.best->magnitude < 0.0;
+}
+
 void AddLocal(const ZoneClock& clock, const Eclipse& eclipse, const LocalEclipse& local,
               std::vector<std::string>& cells) {
-    const SkySpan span = local.phases.umbral.value_or(local.phases.whole);
+    const bool penumbra = IsPenumbraAlone(eclipse, local);
+    const EclipsePhases& phases = local.phases;
+    const SkySpan span = penumbra ? phases.whole : phases.umbral.value_or(phases.whole);
     const double magnitude = eclipse.kind == EclipseKind::kPenumbral ? eclipse.penumbralMagnitude
                                                                      : local.best->magnitude;
-    cells.insert(cells.end(), {KindText(local.kind), ContactText(clock, local, span.from),
-                               ContactText(clock, local, local.greatest),
-                               ContactText(clock, local, span.end), MagnitudeText(magnitude)});
+    cells.insert(cells.end(),
+                 {KindText(penumbra ? EclipseKind::kPenumbral : local.kind),
+                  ContactText(clock, local, span.from), ContactText(clock, local, local.greatest),
+                  ContactText(clock, local, span.end), penumbra ? "" : MagnitudeText(magnitude)});
 }
 
 Grid::Row RowOf(const Almanac& almanac, const SkyPlace& place, const Eclipse& eclipse) {
@@ -72,7 +80,7 @@ Grid::Row RowOf(const Almanac& almanac, const SkyPlace& place, const Eclipse& ec
 
 Grid::Row NoneRow(const ZoneClock& clock, const ToldCandidate& candidate) {
     return {{BodyName(candidate.solar), SkyWord("NoEclipse", "none *"),
-             SkyDayAndTime(clock, candidate.instant)}};
+             SkyDate(clock, candidate.instant)}};
 }
 
 std::vector<DatedRow> DatedRows(const Almanac& almanac, const SkyPlace& place, int year) {

@@ -36,9 +36,12 @@ std::string SkyTime(const ZoneClock& clock, const std::optional<Date>& universal
     return universal ? Ports().formats.MediumTime(clock.MinuteOf(*universal)) : kNoTime;
 }
 
+std::string SkyDate(const ZoneClock& clock, Date universal) {
+    return DateIn(SkyWord("DayMonth", "{day} {month}"), clock, universal);
+}
+
 std::string SkyDayAndTime(const ZoneClock& clock, Date universal) {
-    return WithTime(DateIn(SkyWord("DayMonth", "{day} {month}"), clock, universal), clock,
-                    universal);
+    return WithTime(SkyDate(clock, universal), clock, universal);
 }
 
 std::string SkyDateAndTime(const ZoneClock& clock, Date universal) {

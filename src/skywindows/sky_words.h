@@ -16,10 +16,13 @@ std::string SkyWord(const char* key, const char* english);
 /// The clock to the nearest minute; "--:--" for nothing.
 std::string SkyTime(const ZoneClock& clock, const std::optional<Date>& universal);
 
-/// "21 November  05:31 PM".
+/// "21 November".
+std::string SkyDate(const ZoneClock& clock, Date universal);
+
+/// The same with the clock: "21 November  05:31 PM".
 std::string SkyDayAndTime(const ZoneClock& clock, Date universal);
 
-/// The same with the year: "21 November 2026  05:31 PM".
+/// With the year, too: "21 November 2026  05:31 PM".
 std::string SkyDateAndTime(const ZoneClock& clock, Date universal);
 
 /// To a tenth: "23.4°".

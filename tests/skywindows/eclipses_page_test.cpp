@@ -61,12 +61,24 @@ TEST_F(EclipsesPageTest, SetsWhatHappensBelowTheHorizonInBrackets) {
     EXPECT_THAT(row[6], testing::Not(HasSubstr("(")));
 }
 
+TEST_F(EclipsesPageTest, CallsAnEclipsePenumbralWhereTheMoonSetsBeforeTheUmbraMeetsIt) {
+    SkyPlace muscat = MeccaSky();
+    muscat.observer = {23.6, 58.4};
+    const auto row = RowAt(EclipsesPage(ErfaAlmanac(), muscat, 2026), "28 August").cells;
+    ASSERT_THAT(row, SizeIs(8));
+    EXPECT_EQ(row[1], "partial");
+    EXPECT_EQ(row[3], "penumbral");
+    EXPECT_THAT(row[4], StartsWith("04:2"));  // where the penumbra begins
+    EXPECT_EQ(row[7], "");
+}
+
 TEST_F(EclipsesPageTest, MarksWhatTheMoonWindowListsInVain) {
     const SkyPage page = PageOf(2026);
     const auto none = RowAt(page, "19 March").cells;
     ASSERT_THAT(none, SizeIs(8));
     EXPECT_EQ(none[0], "Sun");
     EXPECT_EQ(none[1], "none *");
+    EXPECT_EQ(none[2], "19 March");  // its instant is nothing of the sky's
     EXPECT_THAT(page.note, HasSubstr("* The list in the window \"Moon Phases\""));
 }
 
