@@ -1,7 +1,5 @@
 #include "ctl/crescent_map.h"
 
-#include <cmath>
-
 #include "ctl/document_fonts.h"
 #include "ctl/place_clock.h"
 #include "sky/map_drawing.h"
@@ -29,7 +27,7 @@ Date EveningOf(const MonthEvenings& month, const CrescentMapOptions& options) {
 }
 
 MapText TextOf(const WrittenMap& map, Date newMoon) {
-    const Date minute = std::round(newMoon * 1440.0) / 1440.0;
+    const Date minute = ZoneClock("", {}).MinuteOf(newMoon);
     return {"Crescent on the evening of " + IsoDate(CivilFromDate(map.day)) + ", criterion of " +
                 (map.criterion == "odeh" ? "Odeh" : "Yallop"),
             "New moon " + IsoDate(CivilFromDate(minute)) + " " + IsoTime(SecondOfDay(minute) / 60) +

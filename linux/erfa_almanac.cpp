@@ -3,14 +3,12 @@
 #include <erfa.h>
 #include <erfam.h>
 
+#include "base/julian_day.h"
 #include "linux/delta_t.h"
 
 namespace horavex {
 
 namespace {
-
-// The library takes a Julian date in two parts, for the sake of its last figures.
-constexpr double kJulianEpoch = 2415018.5;  // 30 December 1899, 0h
 
 constexpr double kDegrees = 180.0 / ERFA_DPI;              // in a radian
 constexpr double kUnit = ERFA_DAU / 1000.0;                // kilometres

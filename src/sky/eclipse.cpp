@@ -12,7 +12,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kReach = 0.2;       // days from the greatest eclipse, beyond its begin and end
 constexpr double kMostLatitude = 2;  // degrees of the moon, at a phase beyond which is no eclipse
 
 /// The axis of the shadow around its greatest eclipse.
@@ -30,7 +29,7 @@ struct Path {
         const SkyQuantity clearance = [&](Date universal) {
             return ShadowAxisAt(almanac, universal).clearance;
         };
-        const SkySpan path = BelowZeroAround(clearance, greatest, kReach);
+        const SkySpan path = BelowZeroAround(clearance, greatest, kEclipseReach);
         return KindAt(path.from) == EclipseKind::kAnnular ||
                KindAt(path.end) == EclipseKind::kAnnular;
     }
@@ -44,7 +43,7 @@ struct Path {
 };
 
 SkySpan Around(Date phase) {
-    return {phase - kReach, phase + kReach};
+    return {phase - kEclipseReach, phase + kEclipseReach};
 }
 
 std::optional<Eclipse> SolarEclipseAt(const Almanac& almanac, Date newMoon) {
@@ -73,8 +72,9 @@ EclipsePhases LunarPhases(const Almanac& almanac, Date greatest) {
         const SkyQuantity quantity = [&](Date universal) {
             return (MoonInShadowAt(almanac, universal).*gap)();
         };
-        return quantity(greatest) < 0.0 ? std::optional(BelowZeroAround(quantity, greatest, kReach))
-                                        : std::nullopt;
+        return quantity(greatest) < 0.0
+                   ? std::optional(BelowZeroAround(quantity, greatest, kEclipseReach))
+                   : std::nullopt;
     };
     return {*span(&MoonInShadow::PenumbralGap), span(&MoonInShadow::UmbralGap),
             span(&MoonInShadow::TotalGap)};
@@ -124,7 +124,8 @@ EclipseKind KindOf(const SunCover& cover) {
 
 std::vector<Eclipse> EclipsesBetween(const Almanac& almanac, Date from, Date end) {
     std::vector<Eclipse> eclipses;
-    for (const PhaseInstant& found : PhasesBetween(almanac, from - kReach, end + kReach)) {
+    for (const PhaseInstant& found :
+         PhasesBetween(almanac, from - kEclipseReach, end + kEclipseReach)) {
         const auto eclipse = EclipseAt(almanac, found);
         if (eclipse && from <= eclipse->greatest && eclipse->greatest < end) {
             eclipses.push_back(*eclipse);

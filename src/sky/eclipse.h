@@ -12,6 +12,9 @@ namespace horavex {
 /// its path and annular at an end of it; those of the moon penumbral, partial or total.
 enum class EclipseKind { kPenumbral, kPartial, kAnnular, kHybrid, kTotal };
 
+/// Days from the greatest eclipse, beyond its begin and end anywhere.
+inline constexpr double kEclipseReach = 0.2;
+
 /// How long an eclipse is to be seen. The moon's begins and ends with the penumbra.
 struct EclipsePhases {
     SkySpan whole;

@@ -12,8 +12,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kReach = 0.2;  // days around the Earth's greatest eclipse
-
 /// Who watches an eclipse of the sun.
 struct SunWatch {
     const Almanac& almanac;
@@ -26,11 +24,23 @@ struct SunWatch {
     }
 
     EclipsePhases PhasesAround(Date greatest) const {
-        const SkySpan whole = BelowZeroAround(Of(&SunCover::Gap), greatest, kReach);
+        const SkySpan whole = BelowZeroAround(Of(&SunCover::Gap), greatest, kEclipseReach);
         if (At(greatest).InnerGap() >= 0.0) {
             return {whole, {}, {}};
         }
-        return {whole, {}, BelowZeroAround(Of(&SunCover::InnerGap), greatest, kReach)};
+        return {whole, {}, BelowZeroAround(Of(&SunCover::InnerGap), greatest, kEclipseReach)};
+    }
+
+    /// But for what the horizon leaves of it.
+    LocalEclipse LocalAt(Date greatest) const {
+        const SunCover cover = At(greatest);
+        return {KindOf(cover),
+                greatest,
+                cover.Magnitude(),
+                cover.Obscuration(),
+                PhasesAround(greatest),
+                {},
+                {}};
     }
 };
 
@@ -51,19 +61,12 @@ Date NearestIn(const std::vector<SkySpan>& spans, Date instant) {
 std::optional<LocalEclipse> OfSun(const Almanac& almanac, const Observer& observer,
                                   const Eclipse& eclipse) {
     const SunWatch watch{almanac, observer};
-    const Date greatest =
-        LeastOf(watch.Of(&SunCover::Gap), {eclipse.greatest - kReach, eclipse.greatest + kReach});
-    const SunCover cover = watch.At(greatest);
-    if (cover.Gap() >= 0.0) {
+    const Date greatest = LeastOf(watch.Of(&SunCover::Gap), {eclipse.greatest - kEclipseReach,
+                                                             eclipse.greatest + kEclipseReach});
+    if (watch.At(greatest).Gap() >= 0.0) {
         return std::nullopt;
     }
-    LocalEclipse local{KindOf(cover),
-                       greatest,
-                       cover.Magnitude(),
-                       cover.Obscuration(),
-                       watch.PhasesAround(greatest),
-                       {},
-                       {}};
+    LocalEclipse local = watch.LocalAt(greatest);
     local.seen = SunUp(almanac, observer, local.phases.whole);
     if (!local.seen.empty()) {
         const Date best = NearestIn(local.seen, greatest);

@@ -4,14 +4,14 @@
 #include <cmath>
 
 #include "base/int16.h"
+#include "base/julian_day.h"
 #include "moon/eclipses.h"
 
 namespace horavex {
 
 namespace {
 
-constexpr double kJulianEpoch = 2415018.5;  // 30 December 1899, 0h
-constexpr double kNear = 1.0;               // days
+constexpr double kNear = 1.0;  // days
 
 bool IsSame(const Eclipse& eclipse, const ToldCandidate& candidate) {
     return eclipse.solar == candidate.solar &&
