@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <algorithm>
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/twips.h"
@@ -10,24 +11,22 @@ namespace horavex {
 
 namespace {
 
-QColor ColourOf(const Colour& colour) {
-    return {colour.red, colour.green, colour.blue};
-}
-
-QPen PenOf(const Pen& pen) {
-    QPen made(ColourOf(pen.colour), pen.width);
-    made.setCosmetic(true);  // its width is in pixels, whatever the scale
-    return made;
-}
-
 QPointF PointOf(const Point& point) {
     return {point.x, point.y};
+}
+
+QPolygonF CornersOf(const PolygonStep& polygon) {
+    QPolygonF corners;
+    for (const Point& corner : polygon.corners) {
+        corners << PointOf(corner);
+    }
+    return corners;
 }
 
 /// Draws one step in a painter that measures in twips.
 class StepPainter {
 public:
-    explicit StepPainter(QPainter& painter) : painter_(painter) {}
+    StepPainter(QPainter& painter, const Inks& inks) : painter_(painter), inks_(inks) {}
 
     void operator()(const LineStep& line) const {
         painter_.setPen(PenOf(line.pen));
@@ -41,13 +40,9 @@ public:
     }
 
     void operator()(const PolygonStep& polygon) const {
-        QPolygonF corners;
-        for (const Point& corner : polygon.corners) {
-            corners << PointOf(corner);
-        }
         painter_.setPen(PenOf(polygon.pen));
         painter_.setBrush(ColourOf(polygon.fill));
-        painter_.drawPolygon(corners);
+        painter_.drawPolygon(CornersOf(polygon));
     }
 
     // Texts keep the size of the window's font: only their place is scaled.
@@ -68,13 +63,55 @@ public:
     }
 
 private:
+    QColor ColourOf(const Colour& colour) const {
+        if (colour == kBlack) {
+            return inks_.black;
+        }
+        return colour == kWhite ? inks_.white : QColor(colour.red, colour.green, colour.blue);
+    }
+
+    QPen PenOf(const Pen& pen) const {
+        QPen made(ColourOf(pen.colour), pen.width);
+        made.setCosmetic(true);  // its width is in pixels, whatever the scale
+        return made;
+    }
+
     QPainter& painter_;
+    const Inks& inks_;
 };
+
+/// Where one step lies, twips.
+struct StepBounds {
+    QRectF operator()(const LineStep& line) const {
+        return QRectF(PointOf(line.from), PointOf(line.to)).normalized();
+    }
+    QRectF operator()(const FilledCircleStep& circle) const {
+        const QPointF reach(circle.radius, circle.radius);
+        return {PointOf(circle.centre) - reach, PointOf(circle.centre) + reach};
+    }
+    QRectF operator()(const PolygonStep& polygon) const {
+        return CornersOf(polygon).boundingRect();
+    }
+    QRectF operator()(const TextStep& text) const { return {PointOf(text.at), QSizeF()}; }
+    QRectF operator()(const PictureStep& picture) const {
+        return {picture.at.x, picture.at.y, picture.width, picture.height};
+    }
+};
+
+/// By their edges: a line across or down has no area of its own.
+QRectF BoundsOf(const Drawing& drawing) {
+    QPolygonF corners;
+    for (const DrawingStep& step : drawing) {
+        const QRectF bounds = std::visit(StepBounds(), step);
+        corners << bounds.topLeft() << bounds.bottomRight();
+    }
+    return corners.boundingRect();
+}
 
 }  // namespace
 
-void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips,
-               const Drawing& drawing) {
+void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips, const Drawing& drawing,
+               const Inks& inks) {
     if (twips.isEmpty() || drawing.empty()) {
         return;
     }
@@ -83,9 +120,20 @@ void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips,
     painter.translate(target.topLeft());
     painter.scale(target.width() / twips.width(), target.height() / twips.height());
     for (const DrawingStep& step : drawing) {
-        std::visit(StepPainter(painter), step);
+        std::visit(StepPainter(painter, inks), step);
     }
     painter.restore();
+}
+
+void DrawWhole(QPainter& painter, const QRectF& target, const Drawing& drawing, const Inks& inks) {
+    const QRectF bounds = BoundsOf(drawing);
+    if (bounds.isEmpty()) {
+        return;
+    }
+    const double scale =
+        std::min(target.width() / bounds.width(), target.height() / bounds.height());
+    const QPointF corner = target.center() - bounds.center() * scale;
+    DrawSteps(painter, {corner, bounds.size() * scale}, bounds.size(), drawing, inks);
 }
 
 }  // namespace horavex

@@ -18,13 +18,34 @@ void Canvas::Show(const QSizeF& twips, const std::string& picture, const Drawing
     update();
 }
 
+void Canvas::ShowWhole(const Drawing& drawing) {
+    drawing_ = drawing;
+    update();
+}
+
+QRectF Canvas::Target() const {
+    if (!property("keepsShape").toBool()) {
+        return rect();
+    }
+    QRectF target({}, twips_.scaled(size(), Qt::KeepAspectRatio));
+    target.moveCenter(QRectF(rect()).center());
+    return target;
+}
+
 QSize Canvas::sizeHint() const {
     return {PixelsOf(twips_.width()), PixelsOf(twips_.height())};
 }
 
 void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    DrawSteps(painter, rect(), twips_, drawing_);
+    if (twips_.isEmpty()) {
+        constexpr int kRoomForPens = 3;
+        const QMargins room(kRoomForPens, kRoomForPens, kRoomForPens, kRoomForPens);
+        DrawWhole(painter, rect().marginsRemoved(room), drawing_,
+                  {palette().color(QPalette::Text), palette().color(QPalette::Base)});
+    } else {
+        DrawSteps(painter, Target(), twips_, drawing_);
+    }
 }
 
 }  // namespace horavex

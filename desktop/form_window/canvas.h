@@ -7,7 +7,10 @@
 
 namespace horavex {
 
-/// The widget of a picture control: its picture file and the drawing over it.
+/// The widget of a picture control: its picture file and the drawing over it. Under the name
+/// "qt_form" it is the place in a layout where a form's own drawing is shown, whole, in its own
+/// shape and with the colours of the window in place of black and white. A layout may have a
+/// picture keep its shape, too, by the property "keepsShape".
 class Canvas : public QWidget {
 public:
     explicit Canvas(QWidget* parent = nullptr) : QWidget(parent) {}
@@ -15,13 +18,17 @@ public:
     /// twips: the scale size of the control.
     void Show(const QSizeF& twips, const std::string& picture, const Drawing& drawing);
 
+    void ShowWhole(const Drawing& drawing);
+
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QSizeF twips_;
+    QRectF Target() const;
+
+    QSizeF twips_;  // empty for a drawing that is shown whole
     Drawing drawing_;
 };
 

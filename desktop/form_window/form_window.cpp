@@ -14,6 +14,7 @@
 #include "desktop/documents/drawing_steps.h"
 #include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
+#include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/fit_screen.h"
@@ -61,6 +62,8 @@ bool LayOut(QWidget& window, const Layout& layout) {
     layout(window);
     return window.property(kPlacedByProgram).toBool();
 }
+
+constexpr const char* kPlaceOfDrawing = "qt_form";
 
 constexpr const char* kCancels = "cancels";
 
@@ -298,7 +301,11 @@ void FormWindow::FollowFocus() {
 void FormWindow::FollowDrawing() {
     if (form_.onPaint) {
         form_.Paint();
-        update();
+        if (auto* place = findChild<Canvas*>(kPlaceOfDrawing); place != nullptr) {
+            place->ShowWhole(form_.drawing);
+        } else {
+            update();
+        }
     }
 }
 
@@ -400,7 +407,7 @@ void FormWindow::resizeEvent(QResizeEvent*) {
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
-    if (retired_) {
+    if (retired_ || findChild<Canvas*>(kPlaceOfDrawing) != nullptr) {
         return;
     }
     QPainter painter(this);

@@ -1,10 +1,13 @@
 #include "desktop/ports/qt_dialogs.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QStandardPaths>
 
 namespace horavex {
 
@@ -52,6 +55,19 @@ std::string Ask(QFileDialog& dialog, const FileRequest& request) {
     return QFile::encodeName(dialog.selectedFiles().value(0)).toStdString();
 }
 
+QString DocumentsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+/// A title that names what is saved is a good name for its file.
+void Propose(QFileDialog& dialog, QString title) {
+    dialog.setDirectory(DocumentsFolder());
+    if (!title.isEmpty()) {
+        dialog.selectFile(title.replace(u'/', u'-'));
+    }
+}
+
 /// The suffix of a type of file that has one: "html" of "HTML Files (*.html)". The dialogue names
 /// the type without its pattern. Else empty.
 QString SuffixOf(const QString& type, const QStringList& filters) {
@@ -72,6 +88,7 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
     QMessageBox box(IconOf(icon), QString::fromStdString(title.empty() ? kTitle : title), message,
                     QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    box.button(QMessageBox::Ok)->setIcon({});  // its word says it
     box.setLayoutDirection(message.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.exec();
 }
@@ -86,6 +103,7 @@ std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& s
     QFileDialog dialog(QApplication::activeWindow());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(suffix));
+    Propose(dialog, QString::fromStdString(request.title));
     QObject::connect(&dialog, &QFileDialog::filterSelected, [&dialog](const QString& type) {
         if (const QString own = SuffixOf(type, dialog.nameFilters()); !own.isEmpty()) {
             dialog.setDefaultSuffix(own);

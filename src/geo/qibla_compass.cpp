@@ -11,7 +11,7 @@ namespace {
 constexpr double kTextHeight = 2000.0;
 constexpr double kAxisOverhang = 120.0;
 constexpr double kDiagonalMark = 45.0;  // radius
-constexpr Colour kNeedle{190, 30, 30};
+constexpr Colour kNeedle{214, 60, 60};
 constexpr Colour kSun{250, 190, 20};
 constexpr Colour kSunRim{200, 120, 0};
 

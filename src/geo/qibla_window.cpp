@@ -1,6 +1,7 @@
 #include "geo/qibla_window.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -10,10 +11,12 @@
 #include "engine/angle.h"
 #include "engine/place.h"
 #include "forms/show_modal.h"
+#include "geo/distance.h"
 #include "geo/qibla.h"
 #include "geo/qibla_compass.h"
 #include "geo/sun_bearing.h"
 #include "geo/world_map.h"
+#include "lang/filled_text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
@@ -72,16 +75,32 @@ void ShowTexts() {
     form.lblQibla.SetCaption(ShownSentence());
 }
 
+GeoPoint YearPlace() {
+    return {RadToDeg(LatitudeRad), -RadToDeg(LongitudeWestRad)};
+}
+
+double KilometresToMecca(const GeoPoint& place) {
+    return DistanceKilometres({place.latitude, place.longitude, ReadCoordinate(kMeccaLatitudeTexts),
+                               ReadCoordinate(kMeccaLongitudeTexts)});
+}
+
+void ShowPlace() {
+    Label& distance = fQibla->lblDistance;
+    fQibla->lblShownPlace.SetCaption(YearCityText);
+    distance.SetCaption(FilledText(distance.Caption(), "{km}",
+                                   std::to_string(std::lround(KilometresToMecca(YearPlace())))));
+}
+
 void DrawMap() {
     Picture& map = fQibla->picMap;
-    map.drawing = WorldMap(map.ScaleWidth(), map.ScaleHeight(),
-                           {RadToDeg(LatitudeRad), -RadToDeg(LongitudeWestRad)});
+    map.drawing = WorldMap(map.ScaleWidth(), map.ScaleHeight(), YearPlace());
     map.Refresh();
 }
 
 void fQibla_Load() {
     TranslateOnLoad(*fQibla);
     ShowTexts();
+    ShowPlace();
     fQibla->lblSun.SetVisible(SunBearing(Ports().clock.Now()).has_value());
     DrawMap();
 }
@@ -101,6 +120,7 @@ void Qibla() {
 void ShowQibla() {
     fQibla->onLoad = fQibla_Load;
     fQibla->onPaint = fQibla_Paint;
+    fQibla->cmdClose.onClick = [] { fQibla->Unload(); };
     ShowModalOrUnload(*fQibla, &*frmMain);
 }
 

@@ -167,8 +167,15 @@ void picYear_MouseMove(Point at) {
     }
 }
 
+/// "Prayer times Toronto 2026", which the dialogue proposes as the name of the file.
+std::string WhatIsSaved() {
+    const std::string& place = shown->table.place;
+    const std::string city = place.substr(0, std::min(place.find(','), place.find(" - ")));
+    return shown->words.title + " " + city + " " + std::to_string(shown->table.year);
+}
+
 void SaveTable() {
-    const FileRequest request = {shown->words.title,
+    const FileRequest request = {WhatIsSaved(),
                                  "PDF|*.pdf|HTML|*.html|iCalendar|*.ics|CSV|*.csv|JSON|*.json|"
                                  "Text|*.txt",
                                  1};
@@ -180,7 +187,7 @@ void SaveTable() {
 }
 
 void SaveChart() {
-    const FileRequest request = {shown->words.title, "SVG|*.svg|PNG|*.png", 1};
+    const FileRequest request = {WhatIsSaved(), "SVG|*.svg|PNG|*.png", 1};
     const std::string path = Ports().dialogs.SaveFile(request, ".svg");
     const Picture& picture = frmMonth->picYear;
     if (!path.empty()) {

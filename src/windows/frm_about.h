@@ -26,6 +26,11 @@ public:
         "SkinLabel1",
         {.caption = "The times follow from the place and the method that you set. Compare them "
                     "with the timetable of your mosque before you rely on Horavex."}};
+    Label lblCredits{
+        *this,
+        "lblCredits",
+        {.caption = "Places: GeoNames (CC BY 4.0). Coastlines: Natural Earth. The program "
+                    "itself is free software under the MIT licence."}};
     CommandButton cmdOK{*this, "cmdOK", {.caption = "&OK"}};
     CommandButton cmdSysInfo{*this, "cmdSysInfo", {.caption = "&System Info..."}};
 };

@@ -37,6 +37,13 @@ TEST_F(AboutWindowTest, WithoutPacksTheDefinitionSpeaks) {
     EXPECT_EQ(frmAbout->lblTitle.Caption(), "Horavex");
 }
 
+TEST_F(AboutWindowTest, CreditsNameTheSourcesAndTheirLicences) {
+    ShowAboutWindow();
+    for (const char* credit : {"GeoNames (CC BY 4.0)", "Natural Earth", "MIT"}) {
+        EXPECT_THAT(frmAbout->lblCredits.Caption(), HasSubstr(credit));
+    }
+}
+
 TEST_F(AboutWindowTest, OkUnloadsIt) {
     ShowAboutWindow();
     frmAbout->cmdOK.UserClick();

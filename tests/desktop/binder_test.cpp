@@ -387,6 +387,19 @@ TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {
     EXPECT_NE(image.pixelColor(image.width() * 3 / 4, image.height() / 2), QColor(250, 0, 0));
 }
 
+TEST_F(BinderTest, DrawingOfAFormIsWholeInItsShapeAndInTheColoursOfTheWindow) {
+    Canvas canvas;
+    canvas.resize(200, 100);
+    QPalette dark(QColor(10, 20, 30));
+    dark.setColor(QPalette::Base, QColor(40, 50, 60));
+    canvas.setPalette(dark);
+    canvas.ShowWhole({FilledCircleStep{{5000.0, 900.0}, 600.0, kWhite, {kWhite}}});
+    const QImage image = canvas.grab().toImage();
+    EXPECT_EQ(image.pixelColor(100, 50), QColor(40, 50, 60));
+    EXPECT_EQ(image.pixelColor(100, 8), QColor(40, 50, 60)) << "as high as fits";
+    EXPECT_EQ(image.pixelColor(40, 50), QColor(10, 20, 30)) << "and as wide as high";
+}
+
 TEST_F(BinderTest, FocusMovesWithItsEvents) {
     QApplication::setActiveWindow(&Window());
     form.button.SetFocus();

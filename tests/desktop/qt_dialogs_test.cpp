@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QTimer>
@@ -119,6 +120,19 @@ TEST(QtDialogs, SaveDialogueOffersTheTypesAndBeginsWithTheOneOfTheRequest) {
         dialog.reject();
     });
     EXPECT_EQ(path, "");
+}
+
+TEST(QtDialogs, SaveDialogueBeginsInTheDocumentsAndProposesItsTitleAsTheName) {
+    const TemporaryFolder home;
+    const QByteArray former = qgetenv("HOME");
+    qputenv("HOME", QByteArray::fromStdString(home / ""));
+    QDir(QString::fromStdString(home / "")).mkdir("Documents");
+    Save([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().path().toStdString(), home / "Documents");
+        EXPECT_EQ(QFileInfo(dialog.selectedFiles().value(0)).completeBaseName(), "Save");
+        dialog.reject();
+    });
+    qputenv("HOME", former);
 }
 
 TEST(QtDialogs, SavedNameWithoutASuffixGetsThatOfTheRequest) {

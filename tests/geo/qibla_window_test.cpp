@@ -120,5 +120,18 @@ TEST_F(QiblaWindowTest, MapHasTheLandsAndTheWay) {
     EXPECT_GT(form.picMap.drawing.size(), 100U);
 }
 
+TEST_F(QiblaWindowTest, NamesThePlaceAndHowFarMeccaIs) {
+    YearCityText = "Cairo - Egypt";
+    ShowQibla();
+    EXPECT_EQ(form.lblShownPlace.Caption(), "Cairo - Egypt");
+    EXPECT_EQ(form.lblDistance.Caption(), "Distance to Mecca: 1289 km");
+}
+
+TEST_F(QiblaWindowTest, ButtonClosesIt) {
+    ShowQibla();
+    form.cmdClose.UserClick();
+    EXPECT_FALSE(form.Visible());
+}
+
 }  // namespace
 }  // namespace horavex

@@ -202,6 +202,11 @@ TEST_F(MonthWindowTest, TimesKeepTheirOrderInALineThatRunsFromRightToLeft) {
     EXPECT_THAT(frmMonth->lblPointer.Caption(), HasSubstr("الفجر \u2068" + fajr + "\u2069   "));
 }
 
+TEST_F(MonthWindowTest, SaveAsNamesWhatIsSavedByPlaceAndYear) {
+    frmMonth->cmdSave.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.back().request.title, "Prayer times Mecca 2026");
+}
+
 TEST_F(MonthWindowTest, SaveAsWritesTheFormatOfTheSuffix) {
     platform.dialogs.savedFile = "/home/year.csv";
     frmMonth->cmdSave.UserClick();
