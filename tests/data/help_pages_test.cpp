@@ -242,7 +242,7 @@ const Surprise kSurprises[] = {
       {"Indonesian", "Jendela utama dan jadwal menghitung semua bulannya dengan cara itu"},
       {"Spanish", "La ventana principal y los horarios calculan todos sus meses de ese modo"},
       {"Turkish", "bütün ayları bu biçimde sayar"},
-      {"Urdu", "مرکزی ونڈو اور نقشۂ اوقات اپنے تمام مہینے اسی طرح گنتے ہیں"}}},
+      {"Urdu", "مرکزی ونڈو اور جدول اپنے تمام مہینے اسی طرح گنتے ہیں"}}},
     {"index.html",
      {{"Arabic", "والزر الذي تحت البوصلة يفتح القبلة"},
       {"Bengali", "কম্পাসের নিচের বোতামটি কিবলা খোলে"},
