@@ -14,6 +14,7 @@
 #include "desktop/documents/drawing_steps.h"
 #include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
+#include "desktop/form_window/arrow_buttons.h"
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
@@ -96,6 +97,7 @@ FormWindow::FormWindow(Form& form, const Layout& layout)
     for (Control* control : form_.Controls()) {
         Bind(*control);
     }
+    BindArrowButtons(*this);
     form_.SetObserver(this);
     FlushLater();
 }

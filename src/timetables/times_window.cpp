@@ -13,6 +13,7 @@
 #include "store/around_options.h"
 #include "store/location_record.h"
 #include "timetables/month_window.h"
+#include "timetables/timetable_words.h"
 #include "windows/frm_main.h"
 #include "windows/frm_times.h"
 
@@ -43,6 +44,20 @@ void ShowNote(double day) {
     const std::string note = RuleNote(MomentsOn(day), RuledYear.rules.moments.highLatitude);
     frmTimes->lblTimesNote.SetCaption(note);
     frmTimes->lblTimesNote.SetVisible(!note.empty());
+}
+
+void ShowHijriDate(Date date) {
+    frmTimes->lblShownHijri.SetCaption(TakeTimetableWords().HijriText(RuledHijriDate(date)));
+}
+
+bool ComesNext(int prayer, Date date) {
+    return date == ShownDay.date && !ShownDay.next.isTomorrows && ShownDay.next.prayer == prayer;
+}
+
+void MarkNext(Date date) {
+    for (int prayer = 0; prayer < static_cast<int>(kPrayerCount); ++prayer) {
+        frmTimes->lblShownNext(prayer).SetVisible(ComesNext(prayer, date));
+    }
 }
 
 /// The times around the day in a line that wraps, where an option asks for them.
@@ -117,6 +132,8 @@ void SetTimes(Date date) {
     }
     RunStep([&] { ShowNote(day); });
     RunStep([&] { ShowAround(day); });
+    RunStep([&] { ShowHijriDate(date); });
+    MarkNext(date);
     frmTimes->lblDate.SetCaption(Ports().formats.LongDate(date));
     frmTimes->lblCurrTime.SetCaption(Ports().formats.TwelveHourTime(Ports().clock.Now()));
 }

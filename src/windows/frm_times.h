@@ -19,6 +19,17 @@ public:
     Label lblCity{*this, "lblCity"};
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};
+    Label lblShownHijri{*this, "lblShownHijri"};
+
+    /// Stands before the prayer that comes next, on today alone.
+    ControlArray<Label> lblShownNext{*this,
+                                     "lblShownNext",
+                                     {{0, {.caption = "●", .visible = false}},
+                                      {1, {.caption = "●", .visible = false}},
+                                      {2, {.caption = "●", .visible = false}},
+                                      {3, {.caption = "●", .visible = false}},
+                                      {4, {.caption = "●", .visible = false}},
+                                      {5, {.caption = "●", .visible = false}}}};
     ControlArray<Label> lblTime{*this, "lblTime", {{0}, {1}, {2}, {3}, {4}, {5}}};
 
     /// What the marks beside the times mean; hidden on a day without one.

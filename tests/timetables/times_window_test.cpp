@@ -66,6 +66,28 @@ TEST_F(TimesWindowTest, OpensOnToday) {
     EXPECT_EQ(frmTimes->lblCity.Caption(), ActiveCityText);
 }
 
+TEST_F(TimesWindowTest, TellsTheHijriDateOfTheDayOnView) {
+    EXPECT_EQ(frmTimes->lblShownHijri.Caption(), "10 Jamad Thani 1448");
+    frmTimes->cmdNext.UserClick();
+    EXPECT_EQ(frmTimes->lblShownHijri.Caption(), "11 Jamad Thani 1448");
+}
+
+TEST_F(TimesWindowTest, MarksThePrayerThatComesNextOnTodayAlone) {
+    const auto marked = [] {
+        std::vector<int> prayers;
+        for (int prayer = 0; prayer < 6; ++prayer) {
+            if (frmTimes->lblShownNext(prayer).Visible()) {
+                prayers.push_back(prayer);
+            }
+        }
+        return prayers;
+    };
+    frmTimes->cmdToday.UserClick();
+    EXPECT_THAT(marked(), ElementsAre(ShownDay.next.prayer));
+    frmTimes->cmdNext.UserClick();
+    EXPECT_THAT(marked(), IsEmpty());
+}
+
 TEST_F(TimesWindowTest, RulesOfTheYearCountInIt) {
     const double asr = TodayTimes[kAsr];
     RuledYear.inputs = PresentInputs();
