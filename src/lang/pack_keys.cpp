@@ -67,17 +67,17 @@ std::vector<std::string> TimetableKeys() {
 
 /// What the window of the sky says.
 std::vector<std::string> SkyKeys() {
-    return {"TodayPage",     "PhasesPage",    "DayMonth",      "DayMonthYear",   "Sun",
-            "Moon",          "Civil",         "Nautical",      "Astronomical",   "Rise",
-            "Transit",       "Set",           "AlwaysUp",      "NeverUp",        "Above",
-            "Below",         "MoonNow",       "NewMoon",       "WaxingCrescent", "FirstQuarter",
-            "WaxingGibbous", "FullMoon",      "WaningGibbous", "LastQuarter",    "WaningCrescent",
-            "EclipsesPage",  "QiblaPage",     "Penumbral",     "Partial",        "Annular",
-            "Hybrid",        "Total",         "Eclipse",       "Greatest",       "Here",
-            "Begins",        "GreatestHere",  "Ends",          "Magnitude",      "NotSeen",
-            "NoEclipse",     "EclipsesNote",  "NoEclipseNote", "When",           "SunHeight",
-            "SunOnQibla",    "ShadowOnQibla", "SunOverMecca",  "IsDown",         "QiblaNote",
-            "MeccaNote"};
+    return {"TodayPage",     "PhasesPage",   "DayMonth",      "DayMonthYear",   "Sun",
+            "Moon",          "Civil",        "Nautical",      "Astronomical",   "Rise",
+            "Transit",       "Set",          "AlwaysUp",      "NeverUp",        "Above",
+            "Below",         "MoonNow",      "NewMoon",       "WaxingCrescent", "FirstQuarter",
+            "WaxingGibbous", "FullMoon",     "WaningGibbous", "LastQuarter",    "WaningCrescent",
+            "EclipsesPage",  "QiblaPage",    "Penumbral",     "Partial",        "Annular",
+            "Hybrid",        "Total",        "Eclipse",       "Greatest",       "Here",
+            "Begins",        "GreatestHere", "Ends",          "Seen",           "SeenSpan",
+            "SeenTwice",     "Magnitude",    "NotSeen",       "NoEclipse",      "EclipsesNote",
+            "NoEclipseNote", "When",         "SunHeight",     "SunOnQibla",     "ShadowOnQibla",
+            "SunOverMecca",  "IsDown",       "QiblaNote",     "MeccaNote"};
 }
 
 template <class... Forms>

@@ -4,6 +4,8 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
+#include "base/script.h"
+#include "lang/filled_text.h"
 #include "platform/platform.h"
 #include "sky/local_eclipse.h"
 #include "sky/told_eclipses.h"
@@ -48,6 +50,31 @@ std::string ContactText(const ZoneClock& clock, const LocalEclipse& local, Date 
     return local.IsSeenAt(instant) ? time : "(" + time + ")";
 }
 
+std::string SpanText(const ZoneClock& clock, const SkySpan& span) {
+    const std::string text = SkyWord("SeenSpan", "{from} to {to}");
+    return FilledText(FilledText(text, "{from}", KeptTogether(SkyTime(clock, span.from), text)),
+                      "{to}", KeptTogether(SkyTime(clock, span.end), text));
+}
+
+std::string BothText(const std::string& first, const std::string& second) {
+    return FilledText(FilledText(SkyWord("SeenTwice", "{first} and {second}"), "{first}", first),
+                      "{second}", second);
+}
+
+/// What is seen between begin and end. In the far north and south a body may dip below the horizon
+/// meanwhile, and is seen twice.
+std::string SeenText(const ZoneClock& clock, const LocalEclipse& local, const SkySpan& span) {
+    std::string text;
+    for (const SkySpan& seen : local.seen) {
+        const SkySpan part = {std::max(seen.from, span.from), std::min(seen.end, span.end)};
+        if (part.from < part.end) {
+            const std::string next = SpanText(clock, part);
+            text = text.empty() ? next : BothText(text, next);
+        }
+    }
+    return text;
+}
+
 /// The umbra is below the horizon as long as it meets the moon.
 bool IsPenumbraAlone(const Eclipse& eclipse, const LocalEclipse& local) {
     return eclipse.kind != EclipseKind::kPenumbral && local.best->magnitude < 0.0;
@@ -63,7 +90,8 @@ void AddLocal(const ZoneClock& clock, const Eclipse& eclipse, const LocalEclipse
     cells.insert(cells.end(),
                  {KindText(penumbra ? EclipseKind::kPenumbral : local.kind),
                   ContactText(clock, local, span.from), ContactText(clock, local, local.greatest),
-                  ContactText(clock, local, span.end), penumbra ? "" : MagnitudeText(magnitude)});
+                  ContactText(clock, local, span.end), SeenText(clock, local, span),
+                  penumbra ? "" : MagnitudeText(magnitude)});
 }
 
 Grid::Row RowOf(const Almanac& almanac, const SkyPlace& place, const Eclipse& eclipse) {
@@ -106,6 +134,7 @@ std::vector<std::string> Heads() {
             SkyWord("Begins", "Begins"),
             SkyWord("GreatestHere", "Greatest here"),
             SkyWord("Ends", "Ends"),
+            SkyWord("Seen", "Seen"),
             SkyWord("Magnitude", "Magnitude")};
 }
 
