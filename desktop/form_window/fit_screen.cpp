@@ -23,10 +23,11 @@ QSize WholeContent(const QScrollArea& area) {
 /// yet takes.
 void MakeInnerLayoutsTell(const QWidget& window) {
     const QList<QWidget*> widgets = window.findChildren<QWidget*>();
-    std::for_each(widgets.rbegin(), widgets.rend(), [](const QWidget* widget) {
+    std::for_each(widgets.rbegin(), widgets.rend(), [](QWidget* widget) {
         if (widget->layout() != nullptr) {
             widget->layout()->activate();
         }
+        widget->updateGeometry();  // pages behind tabs have no layout around them
     });
 }
 
@@ -38,10 +39,12 @@ QSize WholeSize(QWidget& window) {
     for (QScrollArea* area : areas) {
         area->setMinimumSize(WholeContent(*area));
     }
+    MakeInnerLayoutsTell(window);
     const QSize size = window.minimumSizeHint();
     for (QScrollArea* area : areas) {
         area->setMinimumSize(0, 0);
     }
+    MakeInnerLayoutsTell(window);
     return size;
 }
 

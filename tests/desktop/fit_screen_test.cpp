@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/form_window_fixture.h"
+#include "windows/horavex_main_form.h"
 
 namespace horavex {
 namespace {
@@ -40,6 +41,19 @@ TEST(WholeSize, CountsWhatScrolls) {
     EXPECT_GE(whole.width(), 700);
     EXPECT_GE(whole.height(), 900);
     EXPECT_LT(window.minimumSizeHint().height(), 300) << "it can still be made smaller";
+}
+
+TEST(WholeSize, LeavesAWindowOfPagesBehindTabsFreeToBeSmaller) {
+    const TestPlatform platform;
+    const FormWindows windows{DrawnLayouts()};
+    HoravexMainForm->Load();
+    FormWindow& window = *windows.Find(&*HoravexMainForm);
+    window.Flush();
+    EXPECT_GT(WholeSize(window).height(), 350);
+    window.resize(600, 300);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(window.size(), QSize(600, 300));
 }
 
 TEST_F(FormWindowTest, ComesUpInsideTheWorkArea) {
