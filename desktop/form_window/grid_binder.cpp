@@ -76,16 +76,38 @@ void GridBinder::GoToCurrentRow() {
     widget.scrollTo(widget.currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
+/// What is left for each of the others where the columns that need more than it have what they
+/// need.
+int GridBinder::ShareBeside(const std::vector<int>& needs) const {
+    const int whole = widget.viewport()->width();
+    int share = whole;
+    for (int before = whole + 1; share < before;) {
+        before = share;
+        int left = whole;
+        int others = 0;
+        for (const int need : needs) {
+            left -= need > share ? need : 0;
+            others += need > share ? 0 : 1;
+        }
+        share = std::min(share, left / std::max(others, 1));
+    }
+    return share;
+}
+
 /// Equal columns, but for those whose texts need more.
 void GridBinder::ShareWidth() {
     QHeaderView& header = *widget.horizontalHeader();
-    const int share = widget.viewport()->width() / std::max(widget.columnCount(), 1);
+    std::vector<int> needs;
     for (int column = 0; column < widget.columnCount(); ++column) {
-        const int width = std::max(WidthOf(column), header.sectionSizeHint(column));
+        needs.push_back(std::max(WidthOf(column), header.sectionSizeHint(column)));
+    }
+    const int share = ShareBeside(needs);
+    for (int column = 0; column < widget.columnCount(); ++column) {
+        const int need = needs[static_cast<std::size_t>(column)];
         header.setSectionResizeMode(column,
-                                    width > share ? QHeaderView::Fixed : QHeaderView::Stretch);
-        if (width > share) {
-            header.resizeSection(column, width);
+                                    need > share ? QHeaderView::Fixed : QHeaderView::Stretch);
+        if (need > share) {
+            header.resizeSection(column, need);
         }
     }
 }

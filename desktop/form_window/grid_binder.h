@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableWidget>
+#include <vector>
 
 #include "desktop/form_window/binder_of.h"
 #include "forms/grid.h"
@@ -21,6 +22,7 @@ private:
     void ShowHeads();
     void ShowRow(int row);
     void GoToCurrentRow();
+    int ShareBeside(const std::vector<int>& needs) const;
     void ShareWidth();
     int WidthOf(int column) const;
     bool Scrolls() const;

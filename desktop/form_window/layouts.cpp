@@ -11,6 +11,7 @@
 #include "ui_frmAbout.h"
 #include "ui_frmAdjust.h"
 #include "ui_frmAthan.h"
+#include "ui_frmCrescent.h"
 #include "ui_frmDateConvert.h"
 #include "ui_frmDistance.h"
 #include "ui_frmMonth.h"
@@ -68,6 +69,7 @@ Layouts DrawnLayouts() {
         {"frmAdjust", Fill<Ui::frmAdjust>},
         {"frmReminders", Fill<Ui::frmReminders>},
         {"frmSky", Fill<Ui::frmSky>},
+        {"frmCrescent", Fill<Ui::frmCrescent>},
         {"frmTimes", Fill<Ui::frmTimes>},
         {"frmMonth", Fill<Ui::frmMonth>},
         {"HoravexMainForm", Fill<Ui::HoravexMainForm>},

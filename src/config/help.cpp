@@ -10,6 +10,7 @@
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_main.h"
 #include "windows/frm_sky.h"
@@ -113,6 +114,7 @@ void BindHelp() {
     HoravexMainForm->SettingsHelp.onClick = [] { ShowHelpContext(kHelpSettings); };
     HoravexMainForm->QiblaHelpButton.onClick = [] { ShowHelpContext(kHelpQibla); };
     frmSky->cmdHelp.onClick = [] { ShowHelpOf(*frmSky); };
+    frmCrescent->cmdHelp.onClick = [] { ShowHelpOf(*frmCrescent); };
     frmDateConvert->HijriDateConversionHelp.onClick = [] { ShowHelpContext(kHelpDateConversion); };
 }
 

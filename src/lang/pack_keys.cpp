@@ -8,6 +8,7 @@
 #include "windows/frm_about.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -80,6 +81,50 @@ std::vector<std::string> SkyKeys() {
             "SunOverMecca",  "IsDown",       "QiblaNote",     "MeccaNote"};
 }
 
+/// What the window of the crescent and its map say.
+std::vector<std::string> CrescentKeys() {
+    return {"Evening",
+            "Sunset",
+            "Moonset",
+            "Lag",
+            "Age",
+            "Elongation",
+            "Altitude",
+            "ArcOfVision",
+            "Width",
+            "Yallop",
+            "Odeh",
+            "YallopA",
+            "YallopB",
+            "YallopC",
+            "YallopD",
+            "YallopE",
+            "YallopF",
+            "OdehA",
+            "OdehB",
+            "OdehC",
+            "OdehD",
+            "BeforeNewMoon",
+            "MoonSetsFirst",
+            "NoSunset",
+            "ClassInWords",
+            "Hours",
+            "Way",
+            "FirstDay",
+            "YallopNakedEye",
+            "YallopAided",
+            "OdehNakedEye",
+            "OdehAided",
+            "UmmAlQura",
+            "Arithmetic",
+            "OnNone",
+            "NotPublished",
+            "NewMoonHere",
+            "NewMoonUniversal",
+            "MapTitle",
+            "SaveMap"};
+}
+
 template <class... Forms>
 std::vector<std::unique_ptr<Form>> Make() {
     std::vector<std::unique_ptr<Form>> forms;
@@ -148,6 +193,7 @@ const std::vector<PackSection>& PackVocabularies() {
           "SoundFiles",
           "AllFiles"}},
         {"sky", SkyKeys()},
+        {"crescent", CrescentKeys()},
         {"methods",
          {"algeria",      "brunei",    "canada", "dubai",   "egypt",   "france",     "gulf",
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
@@ -184,7 +230,8 @@ std::vector<PackSection> PackSections() {
 std::vector<std::unique_ptr<Form>> PackForms() {
     return Make<FrmMain, SettingsForm, MessageForm, FrmAthan, CountryForm, NewCoordinatesForm,
                 WizardForm, DateConvertForm, QiblaForm, DistanceForm, MoonPhasesForm, RamadanForm,
-                AboutForm, TimesForm, MonthForm, AdjustForm, RemindersForm, SkyForm>();
+                AboutForm, TimesForm, MonthForm, AdjustForm, RemindersForm, SkyForm,
+                CrescentForm>();
 }
 
 }  // namespace horavex

@@ -62,6 +62,7 @@ public:
     MenuItem mnuMoonPhases{mnuTools, "mnuMoonPhases", {.caption = "Moon Phases"}};
     MenuItem mnuLine2{mnuTools, "mnuLine2", {.caption = "-"}};
     MenuItem mnuSky{mnuTools, "mnuSky", {.caption = "Sky"}};
+    MenuItem mnuCrescent{mnuTools, "mnuCrescent", {.caption = "Crescent"}};
 
     MenuItem mnuHelp{*this, "mnuHelp", {.caption = "Help"}};
     MenuItem mnuAbout{mnuHelp, "mnuAbout", {.caption = "About Us"}};

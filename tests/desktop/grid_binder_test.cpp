@@ -92,6 +92,20 @@ TEST_F(GridBinderTest, ColumnsShareTheWidthButForOneThatNeedsMore) {
     EXPECT_LT(Table().columnWidth(0), 300);
 }
 
+TEST_F(GridBinderTest, ColumnsThatShareWhatWideOnesLeaveHaveWhatTheyNeed) {
+    Table().resize(600, 200);
+    form.grid.heads = {"1", "2", "3", "4"};
+    form.grid.rows = {{{std::string(24, 'm'), std::string(12, 'm'), "x", "y"}}};
+    form.grid.Refresh();
+    QApplication::processEvents();
+    const int needed = Table().fontMetrics().horizontalAdvance(QString(12, 'm'));
+    ASSERT_GT(Table().columnWidth(0), 600 / 3);
+    ASSERT_LT(needed, 600 / 4);
+    EXPECT_GE(Table().columnWidth(1), needed);
+    EXPECT_EQ(Table().columnWidth(2), Table().columnWidth(3));
+    EXPECT_LT(Table().columnWidth(2), needed);
+}
+
 TEST_F(GridBinderTest, GoesToThePresentRowOfAPage) {
     EXPECT_EQ(Table().currentRow(), 2);
     ShowMonth();

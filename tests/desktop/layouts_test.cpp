@@ -17,6 +17,7 @@
 #include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
 #include "windows/frm_azan.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -113,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(
                     []() -> Form* { return &*fCountry; }, []() -> Form* { return &*frmWizard; },
                     []() -> Form* { return &*frmTimes; }, []() -> Form* { return &*frmMonth; },
                     []() -> Form* { return &*frmAdjust; }, []() -> Form* { return &*frmReminders; },
-                    []() -> Form* { return &*frmSky; }),
+                    []() -> Form* { return &*frmSky; }, []() -> Form* { return &*frmCrescent; }),
     [](const auto& form) { return form.param()->Name(); });
 
 TEST(RemindersLayout, NamesTellThePrayerOfEachRow) {

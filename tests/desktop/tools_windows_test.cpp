@@ -18,6 +18,7 @@
 #include "support/shipped_languages.h"
 #include "support/test_platform.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -100,6 +101,7 @@ TEST_P(ToolsWindowsTest, CutNoText) {
             ExpectNothingCut(*frmSky);
         }
     });
+    Visit(frmMain->mnuCrescent, *frmCrescent, [&] { ExpectNothingCut(*frmCrescent); });
 }
 
 TEST_P(ToolsWindowsTest, RunInTheDirectionOfTheLanguage) {

@@ -29,6 +29,7 @@
 #include "windows/frm_about.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -129,7 +130,8 @@ private:
                 {*frmAbout, By(frmMain->mnuAbout)},
                 {*frmAdjust, By(frmMain->mnuAdjustments)},
                 {*frmReminders, By(frmMain->mnuReminders)},
-                {*frmSky, By(frmMain->mnuSky)}};
+                {*frmSky, By(frmMain->mnuSky)},
+                {*frmCrescent, By(frmMain->mnuCrescent)}};
     }
 
     static Layouts AllLayouts(QtFace& face, AzanFace& athanFace) {

@@ -1,6 +1,8 @@
-// The window "Sky" as a user meets it, by the keyboard alone.
+// The windows "Sky" and "Crescent" as a user meets them, by the keyboard alone.
 
 #include <gmock/gmock.h>
+
+#include <filesystem>
 
 #include "e2e/harness/program_fixture.h"
 #include "e2e/harness/wait_until.h"
@@ -8,6 +10,7 @@
 namespace horavex {
 namespace {
 
+namespace fs = std::filesystem;
 using testing::IsEmpty;
 
 class SkyProgramTest : public ProgramFixture {
@@ -63,6 +66,28 @@ TEST_F(SkyProgramTest, OpensFromTheMoonWindowAndGivesTheKeysBackToIt) {
     ExpectClosedByEscape(program, sky);
     Activated(moon);
     ExpectClosedByEscape(program, moon);
+}
+
+TEST_F(SkyProgramTest, CrescentTurnsItsMonthAndSavesItsMapByTheKeyboard) {
+    const ChildProcess program = StartProgram();
+    const std::string crescent = OpenTool(program, "r", "Crescent");
+    desktop.PressKey("alt+n");  // the next month
+    const auto windows = desktop.WindowsOf(program);
+    // Until the map is complete there is nothing to save.
+    EXPECT_TRUE(WaitUntil("the dialogue", [&] {
+        desktop.PressKey("alt+s");
+        return desktop.WindowsOf(program).size() > windows.size();
+    }));
+    desktop.SaveScreen("crescent");
+    Activated(desktop.WaitForWindow(program, "Save the map"));
+    desktop.PressKey("ctrl+a");
+    desktop.Use({"xdotool", "type", desktop / "map.svg"});
+    desktop.PressKey("Return");
+    desktop.PressKey("Return");
+    EXPECT_TRUE(WaitUntil("the map", [&] { return fs::exists(desktop / "map.svg"); }));
+    Activated(crescent);
+    ExpectClosedByEscape(program, crescent);
+    EXPECT_THAT(desktop.ErrorsOf("horavex"), IsEmpty());
 }
 
 }  // namespace

@@ -25,8 +25,8 @@ const PackSection& Section(std::size_t index) {
 
 TEST(
     PackVocabularies,
-    AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAdjustmentsRemindersAndTheSky) {
-    ASSERT_THAT(PackVocabularies(), SizeIs(11));
+    AreMessagesLabelsTheAthanWindowTheDesktopTimetablesMomentsNoticesAdjustmentsRemindersTheSkyAndTheCrescent) {
+    ASSERT_THAT(PackVocabularies(), SizeIs(12));
     EXPECT_EQ(Section(0).name, "msg");
     EXPECT_EQ(Section(1).name, "other");
     EXPECT_EQ(Section(2).name, "Azan");
@@ -37,7 +37,8 @@ TEST(
     EXPECT_EQ(Section(7).name, "adjustments");
     EXPECT_EQ(Section(8).name, "reminders");
     EXPECT_EQ(Section(9).name, "sky");
-    EXPECT_EQ(Section(10).name, "methods");
+    EXPECT_EQ(Section(10).name, "crescent");
+    EXPECT_EQ(Section(11).name, "methods");
 }
 
 TEST(PackVocabularies, MessagesAreNumberedTo24WithoutTheFreeEight) {
@@ -101,10 +102,11 @@ TEST_F(PackSectionsTest, FormsStandAsDefined) {
         EXPECT_FALSE(form->IsLoaded());
         EXPECT_NE(form->Caption(), "changed");
     }
-    EXPECT_THAT(names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
-                                   "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
-                                   "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
-                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders", "frmSky"));
+    EXPECT_THAT(
+        names, ElementsAre("frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
+                           "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla", "frmDistance",
+                           "Moon_Phases", "frmRamadan", "frmAbout", "frmTimes", "frmMonth",
+                           "frmAdjust", "frmReminders", "frmSky", "frmCrescent"));
 }
 
 TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
@@ -112,12 +114,13 @@ TEST_F(PackSectionsTest, SectionsAreTheVocabulariesAndThenOneForEachForm) {
     for (const PackSection& section : PackSections()) {
         names.push_back(section.name);
     }
-    EXPECT_THAT(names, ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments",
-                                   "notices", "adjustments", "reminders", "sky", "methods",
-                                   "frmMain", "HoravexMainForm", "fMessage", "frmAthan", "fCountry",
-                                   "NewCoordinates", "frmWizard", "frmDateConvert", "fQibla",
-                                   "frmDistance", "Moon_Phases", "frmRamadan", "frmAbout",
-                                   "frmTimes", "frmMonth", "frmAdjust", "frmReminders", "frmSky"));
+    EXPECT_THAT(names,
+                ElementsAre("msg", "other", "Azan", "desktop", "timetables", "moments", "notices",
+                            "adjustments", "reminders", "sky", "crescent", "methods", "frmMain",
+                            "HoravexMainForm", "fMessage", "frmAthan", "fCountry", "NewCoordinates",
+                            "frmWizard", "frmDateConvert", "fQibla", "frmDistance", "Moon_Phases",
+                            "frmRamadan", "frmAbout", "frmTimes", "frmMonth", "frmAdjust",
+                            "frmReminders", "frmSky", "frmCrescent"));
 }
 
 TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
@@ -128,7 +131,7 @@ TEST_F(PackSectionsTest, HelpOnTheMoonHasItsTextBesideItsCaptions) {
 }
 
 TEST_F(PackSectionsTest, HiddenLabelsOfTheFaceHaveKeysAndComputedOnesNone) {
-    const auto keys = PackSections()[11].keys;
+    const auto keys = PackSections()[12].keys;
     for (const char* key : {"frmMain", "lblZoritName_0", "lblZoritNameArabic_5", "lblDate",
                             "lblCurrTime", "Label1", "lblNextAthan", "Label3", "lblRemaining",
                             "mnuAthan", "mnuChangeLanguage", "mnuPopup", "mnuPopExit"}) {

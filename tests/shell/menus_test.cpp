@@ -52,7 +52,7 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
                             "mnuReminders"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases",
-                            "mnuLine2", "mnuSky"));
+                            "mnuLine2", "mnuSky", "mnuCrescent"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
     EXPECT_THAT(NamesIn(frmMain->mnuPopup),
                 ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",

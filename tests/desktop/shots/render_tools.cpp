@@ -13,12 +13,14 @@
 #include "lang/language_pack.h"
 #include "moon/moon_window.h"
 #include "shell/wiring.h"
+#include "skywindows/crescent_window.h"
 #include "skywindows/sky_window.h"
 #include "store/location_files.h"
 #include "store/settings_record.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
 #include "windows/f_qibla.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
@@ -77,6 +79,24 @@ void VisitSky(const FormWindows& windows) {
           });
 }
 
+void VisitCrescent(const FormWindows& windows) {
+    CrescentForm& form = *frmCrescent;
+    Visit([] { OpenCrescent(*frmMain); }, form,
+          [&] {
+              Save(windows, form, "crescent-begins");
+              while (form.tmrMap.Running()) {
+                  form.tmrMap.Tick();
+              }
+              Save(windows, form, "crescent");
+              form.cboEvening.UserSelect(1);
+              form.cboCriterion.UserSelect(1);
+              while (form.tmrMap.Running()) {
+                  form.tmrMap.Tick();
+              }
+              Save(windows, form, "crescent-odeh");
+          });
+}
+
 void VisitDistance(const FormWindows& windows) {
     Visit(ShowDistance, *frmDistance, [&] {
         FillPickedCity(DistanceCity::kA, "Cairo, Cairo - Egypt",
@@ -113,5 +133,6 @@ int main(int argc, char** argv) {
     VisitDistance(windows);
     VisitMoon(windows);
     VisitSky(windows);
+    VisitCrescent(windows);
     return 0;
 }
