@@ -32,6 +32,9 @@ constexpr std::size_t kHitsShown = 200;  // more would not be read, and cost tim
 /// another one meanwhile ends it.
 int lastFill = 0;
 
+/// While the picker is loaded its lists yield to the user, who may ask for it once more.
+bool isLoading = false;
+
 /// All cities, as long as the picker is open, and those that lstFound shows.
 std::vector<ListedCity> cities;
 std::vector<std::int16_t> hits;
@@ -44,8 +47,17 @@ void ForgetCities() {
 const ProgramStateReset reset([] {
     CancelLoad = kFalse;
     lastFill = 0;
+    isLoading = false;
     ForgetCities();
 });
+
+class Loading {
+public:
+    Loading() { isLoading = true; }
+    ~Loading() { isLoading = false; }
+    Loading(const Loading&) = delete;
+    Loading& operator=(const Loading&) = delete;
+};
 
 /// One fill of a list, numbered.
 class ListFill {
@@ -283,6 +295,13 @@ void cmdOK_Click() {
     }
 }
 
+void FillCountriesInView() {
+    ShowProgressWindow(TextItem(TextEntry::kLoadingCountries, Settings.Language),
+                       TextItem(TextEntry::kPleaseWait, Settings.Language));
+    FillCountries();
+    fMessage->Unload();
+}
+
 void fCountry_Load() {
     TranslateOnLoad(*fCountry);
     const std::string title = TextItem(TextEntry::kChooseCity, Settings.Language);
@@ -306,14 +325,15 @@ void FillCountries() {
 }
 
 bool LoadCityPicker() {
+    if (isLoading) {
+        return false;
+    }
+    const Loading loading;
     CancelLoad = kFalse;  // the user may have closed any progress window before
     fCountry->Unload();   // one of an earlier pick lies hidden
     fCountry->openedFromDistance = kFalse;
     fCountry->Load();
-    ShowProgressWindow(TextItem(TextEntry::kLoadingCountries, Settings.Language),
-                       TextItem(TextEntry::kPleaseWait, Settings.Language));
-    FillCountries();
-    fMessage->Unload();
+    FillCountriesInView();
     if (CancelLoad != kFalse) {
         fCountry->Unload();
         return false;

@@ -23,7 +23,7 @@ struct CityPick {
 
 /// Loads the picker, hidden, and fills its list of countries behind the progress window; then the
 /// country and the city of Settings are selected. False, with the picker unloaded, where the user
-/// closed the progress window: CancelLoad is up then.
+/// closed the progress window: CancelLoad is up then. False, too, while it is being loaded already.
 bool LoadCityPicker();
 
 /// Opens the picker in front of the distance window and returns when it is closed. On a pick,

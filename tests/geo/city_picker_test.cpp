@@ -100,6 +100,21 @@ TEST_F(CityPickerTest, FillsBehindTheProgressWindowWithItsTexts) {
     EXPECT_FALSE(fMessage->IsLoaded());
 }
 
+// As by a double click on the button that opens it, while the countries or the cities are filled
+// in.
+TEST_F(CityPickerTest, AskedForAgainDuringItsLoadItLoadsOnce) {
+    int refused = 0;
+    for (const int pump : {3, 250}) {
+        platform.loop.AtPump(platform.loop.Pumps() + pump,
+                             [&refused] { refused += LoadCityPicker() ? 0 : 1; });
+    }
+    ASSERT_TRUE(LoadCityPicker());
+    EXPECT_EQ(refused, 2);
+    EXPECT_EQ(picker.lstcity.Text(), "Mecca, Mecca");
+    EXPECT_TRUE(picker.lstcountry.Enabled());
+    EXPECT_TRUE(LoadCityPicker());
+}
+
 TEST_F(CityPickerTest, TitleIsTheTextOfTheTable) {
     ASSERT_TRUE(LoadCityPicker());
     EXPECT_EQ(picker.Caption(), "Choose a City");
