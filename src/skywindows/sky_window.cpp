@@ -100,6 +100,14 @@ void ShowNow() {
     }
 }
 
+/// Shows a page that still waits for the end of the turning.
+void FinishTurn() {
+    if (frmSky->tmrTurn.Enabled()) {
+        frmSky->tmrTurn.SetEnabled(false);
+        ShowNow();
+    }
+}
+
 /// Which controls belong to the page on view.
 void ChoosePage() {
     SkyForm& form = *frmSky;
@@ -110,19 +118,27 @@ void ChoosePage() {
         button->SetVisible(!today);
     }
     form.tmrNow.SetEnabled(today);
+    form.tmrTurn.SetEnabled(false);
     ShowNow();
 }
 
-void ShowYear(int year) {
+void ChooseYear(int year) {
     shown->year = std::clamp(year, kFirstAlmanacYear, kLastAlmanacYear);
     frmSky->cmdPrev.SetEnabled(shown->year > kFirstAlmanacYear);
     frmSky->cmdNext.SetEnabled(shown->year < kLastAlmanacYear);
-    ShowNow();
+}
+
+// A year of eclipses takes a good part of a second: keys that repeat must not hold the clock up, so
+// that only the year at which they have arrived is worked out.
+void TurnTo(int year) {
+    ChooseYear(year);
+    ShowHead(Ports().clock.UniversalNow());
+    frmSky->tmrTurn.SetEnabled(true);
 }
 
 void Turn(int step) {
     if (!IsToday()) {
-        ShowYear(shown->year + step);
+        TurnTo(shown->year + step);
     }
 }
 
@@ -137,7 +153,7 @@ void frmSky_Load() {
     TranslateOnLoad(*frmSky);
     NamePages();
     shown = Shown{AcceptedSkyPlace(), 0};
-    ShowYear(PresentYear());
+    ChooseYear(PresentYear());
     ChoosePage();
     CenterOnScreen(*frmSky);
 }
@@ -156,9 +172,13 @@ void BindSkyWindow() {
     form.grdTable.onPage = Turn;
     form.cmdPrev.onClick = [] { Turn(-1); };
     form.cmdNext.onClick = [] { Turn(1); };
-    form.cmdToday.onClick = [] { ShowYear(PresentYear()); };
+    form.cmdToday.onClick = [] { TurnTo(PresentYear()); };
     form.tmrNow.onTimer = ShowNow;
-    form.cmdPrint.onClick = [] { Ports().windows.Print(frmSky->Name()); };
+    form.tmrTurn.onTimer = FinishTurn;
+    form.cmdPrint.onClick = [] {
+        FinishTurn();
+        Ports().windows.Print(frmSky->Name());
+    };
     form.cmdClose.onClick = [] { frmSky->Unload(); };
     frmMain->mnuSky.onClick = [] { OpenSky(*frmMain); };
     Moon_Phases->cmdSky.onClick = [] { OpenSky(*Moon_Phases); };

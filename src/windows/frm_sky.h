@@ -40,6 +40,9 @@ public:
 
     /// What stands now is looked at again, as long as the day is on view.
     Timer tmrNow{*this, "tmrNow", {.enabled = false, .intervalMs = 60000}};
+
+    /// A year that was turned to is worked out a little later, for turns come in runs.
+    Timer tmrTurn{*this, "tmrTurn", {.enabled = false, .intervalMs = 100}};
 };
 
 inline const FormInstance<SkyForm> frmSky;

@@ -79,14 +79,38 @@ TEST_F(SkyWindowTest, PhasesAreThoseOfTheYearAndTurnByButtonsAndPageKeys) {
     EXPECT_THAT(form.grdTable.heads, Contains("Full moon"));
     const auto rows = form.grdTable.rows;
     form.cmdNext.UserClick();
+    form.tmrTurn.Tick();
     EXPECT_EQ(Time(), "2027");
     EXPECT_NE(form.grdTable.rows, rows);
     form.grdTable.UserPage(-1);
     form.cmdPrev.UserClick();
     EXPECT_EQ(Time(), "2025");
     form.cmdToday.UserClick();
+    form.tmrTurn.Tick();
     EXPECT_EQ(Time(), "2026");
     EXPECT_EQ(form.grdTable.rows, rows);
+}
+
+TEST_F(SkyWindowTest, YearsThatAreOnlyTurnedOverAreNotWorkedOut) {
+    form.tabPages.UserSelect(2);
+    const auto rows = form.grdTable.rows;
+    form.grdTable.UserPage(1);
+    form.grdTable.UserPage(1);
+    EXPECT_EQ(Time(), "2028");
+    EXPECT_EQ(form.grdTable.rows, rows);
+    EXPECT_LT(form.tmrTurn.Interval(), 250);
+    form.tmrTurn.Tick();
+    EXPECT_NE(form.grdTable.rows, rows);
+    EXPECT_FALSE(form.tmrTurn.Running());
+}
+
+TEST_F(SkyWindowTest, PageThatIsPrintedIsThatOfTheYearAboveIt) {
+    form.tabPages.UserSelect(2);
+    const auto rows = form.grdTable.rows;
+    form.cmdNext.UserClick();
+    form.cmdPrint.UserClick();
+    EXPECT_NE(form.grdTable.rows, rows);
+    EXPECT_FALSE(form.tmrTurn.Running());
 }
 
 TEST_F(SkyWindowTest, EclipsesAndTheSunOverMeccaTurnWithTheYearToo) {
@@ -95,6 +119,7 @@ TEST_F(SkyWindowTest, EclipsesAndTheSunOverMeccaTurnWithTheYearToo) {
         const auto rows = form.grdTable.rows;
         EXPECT_FALSE(form.lblShownNote.Caption().empty());
         form.cmdNext.UserClick();
+        form.tmrTurn.Tick();
         EXPECT_NE(form.grdTable.rows, rows) << page;
         form.cmdPrev.UserClick();
     }
