@@ -146,15 +146,15 @@ void DayArc::PaintMarks(QPainter& painter) const {
     }
 }
 
-// Across it stands as far from the meridian as the sun would at the same place of its way.
+// Across it stands where the sun's way is as far from the meridian, whenever the clock has noon.
 void DayArc::PaintMoon(QPainter& painter) const {
     if (sky_->moonAltitude < kSunrise) {
         return;
     }
     const bool isNight = sky_->sunAltitude < kSunrise;
-    const QRectF field = Field();
+    const double part = sky_->local + (sky_->moonPastMeridian - sky_->sunPastMeridian) / 360.0;
     painter.save();
-    painter.translate(field.center().x() + sky_->moonPastMeridian / 360.0 * field.width(),
+    painter.translate(PointAt(part - std::floor(part)).x(),
                       std::min(Height(sky_->moonAltitude), Height(0.0) - kMoon));
     painter.setPen(Qt::NoPen);
     painter.setBrush(Faint(kMuted, isNight ? 0.22 : 0.1));

@@ -37,14 +37,16 @@ std::vector<double> SunArcOfDay(const SkyWatch& watch, Date midnight) {
 
 DaySky DaySkyAt(const SkyWatch& watch, Date local, std::vector<double> sunArc) {
     const Date universal = watch.clock.UniversalOf(local);
+    const CelestialPlace sun = watch.almanac.SunAt(universal);
     const CelestialPlace moon = watch.almanac.MoonAt(universal);
     const HorizonPlace sunHere = SunOver(watch.almanac, watch.observer, universal);
     const HorizonPlace moonHere = MoonOver(watch.almanac, watch.observer, universal);
     return {local,
             sunHere.altitude,
             moonHere.altitude,
+            HourAngle(watch.almanac, watch.observer, sun, universal),
             HourAngle(watch.almanac, watch.observer, moon, universal),
-            LitPart(watch.almanac.SunAt(universal), moon),
+            LitPart(sun, moon),
             WayFromZenith(moonHere, sunHere),
             std::move(sunArc)};
 }

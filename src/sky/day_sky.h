@@ -13,7 +13,8 @@ struct DaySky {
     Date local = 0.0;  // of the place's clock
     double sunAltitude = 0.0;
     double moonAltitude = 0.0;
-    double moonPastMeridian = 0.0;  // west positive, from -180 up to 180
+    double sunPastMeridian = 0.0;   // west positive, from -180 up to 180
+    double moonPastMeridian = 0.0;  // the same
     double litPart = 0.0;           // of the moon's disc, 0 to 1
     double brightLimb = 0.0;        // where its lit edge points: clockwise from the zenith
     std::vector<double> sunArc;     // the sun's altitudes, from midnight to midnight in even steps

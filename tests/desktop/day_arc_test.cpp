@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QPainter>
+#include <cmath>
+#include <numbers>
 
 #include "desktop/face/moon_disc.h"
 
@@ -47,6 +49,35 @@ DaySky Sky(double dayPart, std::vector<double> arc) {
     return sky;
 }
 
+constexpr double kLateNoon = 14.0;  // hours
+
+/// The sky of an hour where the clock has noon late. moonBehind: hours from the sun to the moon.
+DaySky LateSky(double hour, double moonBehind) {
+    const auto pastMeridian = [](double at) { return std::remainder(at - kLateNoon, 24.0) * 15.0; };
+    std::vector<double> arc;
+    for (int at = 0; at <= 24; ++at) {
+        arc.push_back(50.0 * std::cos(pastMeridian(at) * std::numbers::pi / 180.0));
+    }
+    DaySky sky = Sky(hour / 24.0, std::move(arc));
+    sky.sunPastMeridian = pastMeridian(hour);
+    sky.moonPastMeridian = pastMeridian(hour - moonBehind);
+    sky.litPart = 0.5;
+    return sky;
+}
+
+/// Where two pictures differ.
+QRect Differing(const QImage& one, const QImage& other) {
+    QRect found;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (one.pixel(x, y) != other.pixel(x, y)) {
+                found |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return found;
+}
+
 class DayArcTest : public testing::Test {
 protected:
     DayArcTest() { arc.resize(418, 78); }
@@ -55,6 +86,16 @@ protected:
         arc.ShowSky(std::make_shared<DaySky>(Sky(dayPart, std::move(altitudes))));
     }
     QImage Picture() { return arc.grab().toImage(); }
+
+    /// The moon, once up, is painted where the way of the sun has that hour.
+    void ExpectMoonAt(double hour, DaySky sky) {
+        arc.ShowSky(std::make_shared<DaySky>(sky));
+        const QImage without = Picture();
+        sky.moonAltitude = 45.0;
+        arc.ShowSky(std::make_shared<DaySky>(sky));
+        const QRect moon = Differing(without, Picture());
+        EXPECT_NEAR(QRectF(moon).center().x(), arc.PointAt(hour / 24.0).x(), 1.0);
+    }
 
     const std::vector<double> usual = {-40.0, 0.0, 50.0, 0.0, -40.0};
     DayArc arc;
@@ -100,6 +141,17 @@ TEST_F(DayArcTest, SunGoesOnAlongItAndTheMoonShowsWhileItIsUp) {
     withMoon.litPart = 0.4;
     arc.ShowSky(std::make_shared<DaySky>(withMoon));
     EXPECT_NE(Picture(), noon);
+}
+
+TEST_F(DayArcTest, MoonStandsWhereTheSunDoesAtTheSameHourAngleWhenNoonIsAtTwo) {
+    ExpectMoonAt(18.0, LateSky(18.0, 0.0));
+    ExpectMoonAt(8.0, LateSky(14.0, 6.0));
+    ExpectMoonAt(10.0, LateSky(22.0, 12.0));
+}
+
+TEST_F(DayArcTest, MoonOfTheOtherSideOfMidnightStaysOnTheArc) {
+    ExpectMoonAt(13.0, LateSky(1.0, 12.0));
+    ExpectMoonAt(1.0, LateSky(22.0, -3.0));
 }
 
 TEST_F(DayArcTest, NothingIsPaintedBeforeASkyIsTold) {

@@ -28,8 +28,8 @@ protected:
         record.TimeZone = hours;
         return {almanac, {latitude, 0.0}, {"", record}};
     }
-    DaySky At(double dayPart, double latitude) const {
-        const SkyWatch watch = Watch(latitude);
+    DaySky At(double dayPart, double latitude, double hours = 0.0) const {
+        const SkyWatch watch = Watch(latitude, hours);
         return DaySkyAt(watch, midnight + dayPart, SunArcOfDay(watch, midnight));
     }
 
@@ -67,6 +67,13 @@ TEST_F(DaySkyTest, MoonAQuarterBehindTheSunRisesAtNoonHalfLitTowardIt) {
     EXPECT_NEAR(noon.moonPastMeridian, -90.0, 0.01);
     EXPECT_NEAR(noon.litPart, 0.5, 0.01);
     EXPECT_NEAR(noon.brightLimb, 0.0, 0.1);  // up, to the sun in the zenith
+}
+
+TEST_F(DaySkyTest, SunPassesTheMeridianAtTheNoonOfThePlaceAndNotAtTwelveOfItsClock) {
+    EXPECT_NEAR(At(14.0 / 24.0, 0.0, 2.0).sunPastMeridian, 0.0, 0.01);
+    EXPECT_NEAR(At(14.0 / 24.0, 0.0, 2.0).moonPastMeridian, -90.0, 0.01);
+    EXPECT_NEAR(At(12.0 / 24.0, 0.0, 2.0).sunPastMeridian, -30.0, 0.01);
+    EXPECT_NEAR(At(20.0 / 24.0, 0.0, 2.0).sunPastMeridian, 90.0, 0.01);
 }
 
 // In the evening it stands over the south as northern countries see it, the sun at its right.
