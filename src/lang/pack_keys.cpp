@@ -121,8 +121,7 @@ std::vector<std::string> CrescentKeys() {
             "NotPublished",
             "NewMoonHere",
             "NewMoonUniversal",
-            "MapTitle",
-            "SaveMap"};
+            "MapTitle"};
 }
 
 template <class... Forms>

@@ -89,9 +89,12 @@ void TakeComingMonth() {
 
 // What is shown.
 
+MapText TextOfMap() {
+    return MapTextOf(shown->First(), *shown->map, shown->criterion);
+}
+
 Drawing DrawnMap() {
-    return MapDrawing(*shown->map, shown->criterion, shown->place.observer,
-                      MapTextOf(shown->First(), *shown->map, shown->criterion));
+    return MapDrawing(*shown->map, shown->criterion, shown->place.observer, TextOfMap());
 }
 
 void ShowMap() {
@@ -150,7 +153,7 @@ void tmrMap_Timer() {
 }
 
 void cmdSaveMap_Click() {
-    const FileRequest request = {CrescentWord("SaveMap", "Save the map"), "SVG|*.svg|PNG|*.png", 1};
+    const FileRequest request = {TextOfMap().title, "SVG|*.svg|PNG|*.png", 1};
     const std::string path = Ports().dialogs.SaveFile(request, ".svg");
     if (!path.empty()) {
         WriteDrawing(path, DrawnMap(), kMapWidth, kMapHeight);

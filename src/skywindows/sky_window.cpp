@@ -8,6 +8,7 @@
 #include "forms/show_modal.h"
 #include "lang/form_language.h"
 #include "platform/platform.h"
+#include "skywindows/crescent_window.h"
 #include "skywindows/day_picture.h"
 #include "skywindows/eclipses_page.h"
 #include "skywindows/phases_page.h"
@@ -175,6 +176,7 @@ void BindSkyWindow() {
     form.cmdToday.onClick = [] { TurnTo(PresentYear()); };
     form.tmrNow.onTimer = ShowNow;
     form.tmrTurn.onTimer = FinishTurn;
+    form.cmdCrescent.onClick = [] { OpenCrescent(*frmSky); };
     form.cmdPrint.onClick = [] {
         FinishTurn();
         Ports().windows.Print(frmSky->Name());

@@ -34,6 +34,7 @@ public:
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "&Previous Year"}};
     CommandButton cmdToday{*this, "cmdToday", {.caption = "&This Year"}};
     CommandButton cmdNext{*this, "cmdNext", {.caption = "&Next Year"}};
+    CommandButton cmdCrescent{*this, "cmdCrescent", {.caption = "Cr&escent"}};
     CommandButton cmdPrint{*this, "cmdPrint", {.caption = "P&rint", .toolTipText = "Print window"}};
     CommandButton cmdHelp{*this, "cmdHelp", {.caption = "&Help"}};
     CommandButton cmdClose{*this, "cmdClose", {.caption = "&Close"}};

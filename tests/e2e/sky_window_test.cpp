@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <utility>
 
 #include "e2e/harness/program_fixture.h"
 #include "e2e/harness/wait_until.h"
@@ -12,6 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::IsEmpty;
+
+constexpr const char* kSavedMap =
+    "Crescent of Sha'ban 1448, evening of 9 January 2027, criterion of Yallop";
 
 class SkyProgramTest : public ProgramFixture {
 protected:
@@ -36,6 +40,14 @@ protected:
         desktop.PressKey(key);
         EXPECT_TRUE(WaitUntil("another view", [&] { return desktop.Fingerprint() != before; }))
             << key;
+    }
+
+    void WaitForStillView() const {
+        std::string before;
+        EXPECT_TRUE(WaitUntil("a still view", [&] {
+            const std::string last = std::exchange(before, desktop.Fingerprint());
+            return last == before;
+        }));
     }
 
     void ExpectClosedByEscape(const ChildProcess& program, const std::string& window) const {
@@ -71,18 +83,13 @@ TEST_F(SkyProgramTest, OpensFromTheMoonWindowAndGivesTheKeysBackToIt) {
 TEST_F(SkyProgramTest, CrescentTurnsItsMonthAndSavesItsMapByTheKeyboard) {
     const ChildProcess program = StartProgram();
     const std::string crescent = OpenTool(program, "r", "Crescent");
-    desktop.PressKey("alt+n");  // the next month
-    const auto windows = desktop.WindowsOf(program);
-    // Until the map is complete there is nothing to save.
-    EXPECT_TRUE(WaitUntil("the dialogue", [&] {
-        desktop.PressKey("alt+s");
-        return desktop.WindowsOf(program).size() > windows.size();
-    }));
+    PressForAnotherView("alt+n");  // the next month
+    WaitForStillView();            // until the map is complete there is nothing to save
     desktop.SaveScreen("crescent");
-    Activated(desktop.WaitForWindow(program, "Save the map"));
+    desktop.PressKey("alt+s");
+    Activated(desktop.WaitForWindow(program, kSavedMap));
     desktop.PressKey("ctrl+a");
     desktop.Use({"xdotool", "type", desktop / "map.svg"});
-    desktop.PressKey("Return");
     desktop.PressKey("Return");
     EXPECT_TRUE(WaitUntil("the map", [&] { return fs::exists(desktop / "map.svg"); }));
     Activated(crescent);

@@ -5,6 +5,7 @@
 #include "support/program_test.h"
 #include "timetables/document_tools.h"
 #include "windows/frm_crescent.h"
+#include "windows/frm_sky.h"
 
 namespace horavex {
 namespace {
@@ -48,6 +49,16 @@ TEST_F(CrescentWindowTest, OpensModalFromTheMenuInTheMiddleOfTheScreen) {
                 ElementsAre("load frmCrescent", "show frmCrescent", "modal frmCrescent"));
     EXPECT_EQ(form.Owner(), &*frmMain);
     EXPECT_EQ(form.Left(), (19200.0 - form.Width()) / 2.0);
+}
+
+TEST_F(CrescentWindowTest, OpensFromTheWindowOfTheSkyToo) {
+    form.cmdClose.UserClick();
+    frmMain->mnuSky.UserClick();
+    frmSky->cmdCrescent.UserClick();
+    EXPECT_TRUE(form.Visible());
+    EXPECT_EQ(form.Owner(), &*frmSky);
+    form.cmdClose.UserClick();
+    EXPECT_TRUE(frmSky->Visible());
 }
 
 // 21 November 2026 is in Jumada II 1448.
@@ -148,6 +159,7 @@ TEST_F(CrescentWindowTest, SavesTheMapAsSvgOrPng) {
     platform.dialogs.savedFile = "/home/map.png";
     form.cmdSaveMap.UserClick();
     EXPECT_EQ(png, "/home/map.png");
+    EXPECT_EQ(platform.dialogs.saveRequests.back().request.title, MapTitle());
 }
 
 TEST_F(CrescentWindowTest, SpeaksTheCurrentLanguage) {
