@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QWindow>
 #include <utility>
 
@@ -19,6 +20,7 @@
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/fit_screen.h"
+#include "desktop/form_window/key_buttons.h"
 #include "desktop/form_window/step_labels.h"
 #include "desktop/form_window/tab_pages.h"
 #include "desktop/form_window/twips.h"
@@ -65,29 +67,6 @@ bool LayOut(QWidget& window, const Layout& layout) {
 }
 
 constexpr const char* kPlaceOfDrawing = "qt_form";
-
-constexpr const char* kCancels = "cancels";
-
-QPushButton* ButtonForEnter(const QWidget& window) {
-    if (auto* focused = qobject_cast<QPushButton*>(window.focusWidget())) {
-        return focused;
-    }
-    for (QPushButton* button : window.findChildren<QPushButton*>()) {
-        if (button->isDefault()) {
-            return button;
-        }
-    }
-    return nullptr;
-}
-
-QPushButton* CancelButton(const QWidget& window) {
-    for (QPushButton* button : window.findChildren<QPushButton*>()) {
-        if (button->property(kCancels).toBool()) {
-            return button;
-        }
-    }
-    return nullptr;
-}
 
 }  // namespace
 
@@ -189,6 +168,20 @@ void FormWindow::Flush() {
     if (std::exchange(formChanged_, false)) {
         FollowForm();
     }
+    if (controlsChanged) {
+        GrowWithContent();
+    }
+}
+
+// A window that a user has made smaller stays so until it has more to show.
+void FormWindow::GrowWithContent() {
+    if (!isVisible() || placedByProgram_ || findChild<QScrollArea*>() == nullptr) {
+        return;
+    }
+    const QSize former = std::exchange(whole_, WholeSize(*this));
+    if (whole_.width() > former.width() || whole_.height() > former.height()) {
+        FitScreen();
+    }
 }
 
 void FormWindow::FollowForm() {
@@ -259,7 +252,8 @@ void FormWindow::Present() {
 // Without a place of its own the window comes up over its owner, or else where the window manager
 // puts it.
 void FormWindow::FitScreen() {
-    const QSize whole = size().expandedTo(WholeSize(*this));
+    whole_ = WholeSize(*this);
+    const QSize whole = size().expandedTo(whole_);
     const bool overOwner = owner_ != nullptr && owner_->isVisible() && place_.isNull();
     const QRect wanted(
         overOwner ? owner_->frameGeometry().center() - QRect({}, whole).center() : place_, whole);

@@ -25,6 +25,7 @@ namespace horavex {
 /// too. No modal window shuts it off, whoever opened it.
 ///
 /// A window comes up no larger than the work area with its frame; what a layout scrolls makes room.
+/// It grows when it gets more to show.
 ///
 /// Enter presses the button that has the focus, or else the layout's default button; Escape the
 /// one that the layout marks with the property "cancels", or else it closes the window. The Tab key
@@ -75,6 +76,7 @@ private:
     void FollowDrawing();
     void Present();
     void FitScreen();
+    void GrowWithContent();
     QWindow* WindowBehind() const;
     void StayUsable();
 
@@ -88,6 +90,7 @@ private:
     bool retired_ = false;
     QPoint place_;  // pixels, as last known on both sides
     QSize size_;    // pixels, likewise
+    QSize whole_;   // pixels, of the window with all that it scrolls, when it was last fitted
     const bool placedByProgram_;
     QRect itsScreen_;  // of a window that is placed by the program, pixels
     QPointer<const QWidget> owner_;

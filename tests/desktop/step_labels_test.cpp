@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QScrollArea>
 
 #include "desktop/form_window/form_windows.h"
 #include "support/test_platform.h"
@@ -47,6 +48,24 @@ TEST_F(StepLabelsTest, StepOfThePageOnViewStandsOut) {
     frmWizard->Frame2(1).SetVisible(false);
     frmWizard->Frame2(3).SetVisible(true);
     EXPECT_EQ(StepsThatStandOut(), "3");
+}
+
+TEST_F(StepLabelsTest, PageThatNeedsMoreRoomGetsIt) {
+    FormWindow& window = *windows.Find(&*frmWizard);
+    frmWizard->Frame2(1).SetVisible(false);
+    frmWizard->Frame2(4).SetVisible(true);
+    frmWizard->fraToday.SetVisible(false);
+    frmWizard->lblTimeNote.SetCaption("1\n2\n3\n4\n5");
+    frmWizard->lblTimeNote.SetVisible(true);
+    for (int turn = 0; turn < 3; ++turn) {
+        QApplication::processEvents();
+    }
+    const auto* content = window.findChild<QScrollArea*>("qt_content");
+    EXPECT_EQ(content->viewport()->height(), content->widget()->height());
+    window.resize(window.width(), 300);
+    frmWizard->lblTime(1).SetCaption("5:12");
+    QApplication::processEvents();
+    EXPECT_EQ(window.height(), 300) << "what the user made small stays so";
 }
 
 }  // namespace

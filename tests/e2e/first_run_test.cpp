@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <utility>
 
 #include "e2e/harness/program_fixture.h"
 #include "e2e/harness/wait_until.h"
@@ -81,6 +82,24 @@ protected:
         Press(wizard, {"alt+f"});
         WaitForCommit();
         WaitUntilGone(program, wizard);
+    }
+
+    int HeightOf(const std::string& window) const {
+        const std::string picture = desktop / "window.png";
+        desktop.Use({"import", "-window", window, picture});
+        return std::stoi(desktop.Use({"identify", "-format", "%h", picture}));
+    }
+
+    /// The button at the wizard's lower right corner, wherever the height of its page puts it.
+    void ClickNext(const std::string& wizard, int column) const {
+        int height = 0;
+        WaitUntil("a height that stays", [&] {
+            const int former = std::exchange(height, HeightOf(wizard));
+            return former == height;
+        });
+        const std::string before = desktop.Fingerprint();
+        desktop.Click(wizard, column, height - 24);
+        WaitUntil("another page", [&] { return desktop.Fingerprint() != before; });
     }
 
     /// The way through by the button of the computer's own city: five presses.
@@ -199,19 +218,19 @@ TEST_F(FirstRunTest, MouseGoesThroughTheWizardToo) {
     LiveIn("EET-2EEST,M4.5.5/0,M10.5.4/24");
     const ChildProcess program = StartProgram();
     const std::string wizard = desktop.WaitForWindow(program, kWizardTitle);
-    desktop.Click(wizard, 557, 152);  // the city
+    desktop.Click(wizard, 557, 186);  // the city
     const std::string picker = desktop.WaitForWindow(program, kPickerTitle);
     desktop.Click(picker, 300, 20);
     desktop.Use({"xdotool", "type", "alexandria"});
     desktop.Click(picker, 104, 54);  // the best hit
     desktop.SaveScreen("first-run-mouse-picker");
-    desktop.Click(picker, 508, 537);  // OK
+    desktop.Click(picker, 508, 577);  // OK
     WaitUntilGone(program, picker);
-    desktop.Click(wizard, 568, 466);  // next
-    desktop.Click(wizard, 376, 226);  // this computer's zone
+    ClickNext(wizard, 568);
+    desktop.Click(wizard, 376, 260);  // this computer's zone
     desktop.SaveScreen("first-run-mouse-zone");
     for (int page = 2; page <= 4; ++page) {
-        desktop.Click(wizard, 560 + page, 466);  // the pointer has to move between two clicks
+        ClickNext(wizard, 560 + page);  // the pointer has to move between two clicks
     }
     WaitForCommit();
     WaitUntilGone(program, wizard);
