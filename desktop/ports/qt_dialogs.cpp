@@ -60,11 +60,12 @@ QString DocumentsFolder() {
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
-/// A title that names what is saved is a good name for its file.
+/// A title that names what is saved is a good name for its file, without points: a name that has
+/// one gets no suffix from the dialogue.
 void Propose(QFileDialog& dialog, QString title) {
     dialog.setDirectory(DocumentsFolder());
     if (!title.isEmpty()) {
-        dialog.selectFile(title.replace(u'/', u'-'));
+        dialog.selectFile(title.replace(u'/', u'-').remove(u'.'));
     }
 }
 

@@ -8,7 +8,7 @@ enum class MessageIcon { kNone, kInformation, kExclamation, kCritical };
 
 /// Which file a user is asked for.
 struct FileRequest {
-    std::string title;
+    std::string title;   // of what is saved: proposed as the name of its file, too
     std::string filter;  // "label|pattern;pattern|" over and over
     int filterIndex;     // the label that comes first, 1-based
 };

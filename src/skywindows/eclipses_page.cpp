@@ -29,6 +29,7 @@ constexpr KindName kKinds[] = {{"Penumbral", "penumbral"},
 struct DatedRow {
     Date instant;
     Grid::Row row;
+    bool isNone;  // a told candidate that does not happen
 };
 
 std::string KindText(EclipseKind kind) {
@@ -115,11 +116,11 @@ std::vector<DatedRow> DatedRows(const Almanac& almanac, const SkyPlace& place, i
     const SkySpan span = YearOf(place.clock, year);
     std::vector<DatedRow> rows;
     for (const Eclipse& eclipse : EclipsesBetween(almanac, span.from, span.end)) {
-        rows.push_back({eclipse.greatest, RowOf(almanac, place, eclipse)});
+        rows.push_back({eclipse.greatest, RowOf(almanac, place, eclipse), false});
     }
     for (const ToldCandidate& candidate : ToldCandidates(almanac, year)) {
         if (!candidate.happens) {
-            rows.push_back({candidate.instant, NoneRow(place.clock, candidate)});
+            rows.push_back({candidate.instant, NoneRow(place.clock, candidate), true});
         }
     }
     std::ranges::stable_sort(rows, {}, &DatedRow::instant);
@@ -138,24 +139,29 @@ std::vector<std::string> Heads() {
             SkyWord("Magnitude", "Magnitude")};
 }
 
-std::string Note() {
-    return SkyWord("EclipsesNote",
-                   "Times in brackets: the body is below the horizon. The moon's begin and end are "
-                   "those of the umbra, but for penumbral eclipses.") +
-           "\n" +
-           SkyWord("NoEclipseNote",
-                   "* The list in the window \"Moon Phases\" names this date, but the sky has no "
-                   "eclipse.");
+std::string Note(bool hasNone) {
+    const std::string note =
+        SkyWord("EclipsesNote",
+                "Times in brackets: the body is below the horizon. The moon's begin and end are "
+                "those of the umbra, but for penumbral eclipses.");
+    return hasNone ? note + "\n" +
+                         SkyWord("NoEclipseNote",
+                                 "* In its year the list in the window \"Moon Phases\" names this "
+                                 "date, but the sky has no eclipse.")
+                   : note;
 }
 
 }  // namespace
 
 SkyPage EclipsesPage(const Almanac& almanac, const SkyPlace& place, int year) {
-    SkyPage page{Heads(), {}, Note()};
+    SkyPage page{Heads(), {}, ""};
+    bool hasNone = false;
     for (DatedRow& dated : DatedRows(almanac, place, year)) {
         dated.row.cells.resize(page.heads.size());
         page.rows.push_back(std::move(dated.row));
+        hasNone = hasNone || dated.isNone;
     }
+    page.note = Note(hasNone);
     return page;
 }
 

@@ -51,7 +51,9 @@ void ShowHijriDate(Date date) {
 }
 
 bool ComesNext(int prayer, Date date) {
-    return date == ShownDay.date && !ShownDay.next.isTomorrows && ShownDay.next.prayer == prayer;
+    return date == ShownDay.date && !ShownDay.next.isTomorrows && ShownDay.next.prayer == prayer &&
+           ShownDay.next.moment.hours ==
+               ShownDay.moments.at(static_cast<std::size_t>(prayer)).hours;
 }
 
 void MarkNext(Date date) {

@@ -97,13 +97,13 @@ const FileRequest kSaveRequest = {"Save",
 
 /// Asks for a file to save, does something to the dialogue while it is open, and closes it.
 template <class Action>
-std::string Save(Action action) {
+std::string Save(Action action, const FileRequest& request = kSaveRequest) {
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         action(*dialog);
     });
-    return QtDialogs([] {}).SaveFile(kSaveRequest, ".txt");
+    return QtDialogs([] {}).SaveFile(request, ".txt");
 }
 
 void Accept(QFileDialog& dialog) {
@@ -133,6 +133,17 @@ TEST(QtDialogs, SaveDialogueBeginsInTheDocumentsAndProposesItsTitleAsTheName) {
         dialog.reject();
     });
     qputenv("HOME", former);
+}
+
+TEST(QtDialogs, ProposedNameOfAPlaceWithAPointGetsItsSuffix) {
+    const TemporaryFolder folder;
+    FileRequest request = kSaveRequest;
+    request.title = "Prayer times St. Louis 2026";
+    const auto accept = [&](QFileDialog& dialog) {
+        dialog.setDirectory(QString::fromStdString(folder / ""));
+        Accept(dialog);
+    };
+    EXPECT_EQ(Save(accept, request), folder / "Prayer times St Louis 2026.txt");
 }
 
 TEST(QtDialogs, SavedNameWithoutASuffixGetsThatOfTheRequest) {

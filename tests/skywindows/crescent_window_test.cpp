@@ -155,6 +155,7 @@ TEST_F(CrescentWindowTest, SavesTheMapAsSvgOrPng) {
     form.cmdSaveMap.UserClick();
     platform.dialogs.savedFile = "/home/map.svg";
     form.cmdSaveMap.UserClick();
+    EXPECT_EQ(platform.dialogs.saveRequests.back().request.title, MapTitle());
     EXPECT_THAT(StringOf(platform.files.Contents("/home/map.svg")), StartsWith("<svg "));
     platform.dialogs.savedFile = "/home/map.png";
     form.cmdSaveMap.UserClick();

@@ -45,6 +45,15 @@ TEST_F(EclipsesPageTest, HasKindGreatestAndWhatThePlaceSees) {
     EXPECT_THAT(total[8], StartsWith("1.0"));
 }
 
+TEST_F(EclipsesPageTest, ExplainsTheMarkOfAVainCandidateWhereThereIsOne) {
+    for (const int year : {2020, 2021, 2022, 2023, 2024, 2025, 2026, 2027}) {
+        const SkyPage page = PageOf(year);
+        const bool hasMark = std::ranges::any_of(
+            page.rows, [](const Grid::Row& row) { return row.cells.at(1) == "none *"; });
+        EXPECT_EQ(page.note.find("* In its year") != std::string::npos, hasMark) << year;
+    }
+}
+
 TEST_F(EclipsesPageTest, SaysThatThePlaceSeesNone) {
     const auto annular = RowAt(PageOf(2027), "6 February").cells;
     EXPECT_THAT(annular, ElementsAre("Sun", "annular", "6 February  07:00 PM", "not seen", "", "",
@@ -94,7 +103,7 @@ TEST_F(EclipsesPageTest, MarksWhatTheMoonWindowListsInVain) {
     EXPECT_EQ(none[0], "Sun");
     EXPECT_EQ(none[1], "none *");
     EXPECT_EQ(none[2], "19 March");  // its instant is nothing of the sky's
-    EXPECT_THAT(page.note, HasSubstr("* The list in the window \"Moon Phases\""));
+    EXPECT_THAT(page.note, HasSubstr("* In its year the list in the window \"Moon Phases\""));
 }
 
 TEST_F(EclipsesPageTest, RowsStandInTheOrderOfTheYear) {

@@ -86,6 +86,9 @@ TEST_F(TimesWindowTest, MarksThePrayerThatComesNextOnTodayAlone) {
     EXPECT_THAT(marked(), ElementsAre(ShownDay.next.prayer));
     frmTimes->cmdNext.UserClick();
     EXPECT_THAT(marked(), IsEmpty());
+    ShownDay.next = {kIsha, false, {.hours = 0.25}};  // yesterday's, past midnight
+    frmTimes->cmdToday.UserClick();
+    EXPECT_THAT(marked(), IsEmpty());
 }
 
 TEST_F(TimesWindowTest, RulesOfTheYearCountInIt) {
