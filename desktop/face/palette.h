@@ -17,4 +17,9 @@ inline const QColor kCard(0xff, 0xff, 0xff, 0x12);  // a raised area
 inline const QColor kGlow(0xe6, 0xc6, 0x78, 0x2a);  // what is hovered or comes next
 inline const QColor kPressed(0xe6, 0xc6, 0x78, 0x55);
 
+// Of its menus, opaque.
+inline const QColor kMenuEdge(0x5a, 0x62, 0x66);
+inline const QColor kMenuChosen(0x4c, 0x57, 0x5a);
+inline const QColor kMenuOff(0x93, 0xa3, 0xb8);
+
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #include "desktop/form_window/menu.h"
 
+#include <QKeyEvent>
 #include <algorithm>
 #include <vector>
 
@@ -42,6 +43,30 @@ void AddEntry(QMenu& menu, MenuItem& item) {
     action->setData(QVariant::fromValue<void*>(&item));
 }
 
+/// A menu that is left sideways by the arrow keys, as one of a bar.
+class SteppedMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const int step = event->key() == Qt::Key_Left ? -1 : event->key() == Qt::Key_Right ? 1 : 0;
+        if (step == 0 || OpensSubmenu(step) || parentWidget() == nullptr) {
+            QMenu::keyPressEvent(event);
+            return;
+        }
+        parentWidget()->setProperty(kMenuStep, step);
+        close();
+    }
+
+private:
+    bool OpensSubmenu(int step) const {
+        const int inwards = isRightToLeft() ? -1 : 1;
+        const QAction* entry = activeAction();
+        return step == inwards && entry != nullptr && entry->menu() != nullptr;
+    }
+};
+
 }  // namespace
 
 void FillMenu(QMenu& menu, const MenuItem& source) {
@@ -74,8 +99,9 @@ MenuItem* ItemOf(const QAction* action) {
     return action == nullptr ? nullptr : static_cast<MenuItem*>(action->data().value<void*>());
 }
 
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place) {
-    QMenu shown(parent);
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QString& style) {
+    SteppedMenu shown(parent);
+    shown.setStyleSheet(style);
     FillMenu(shown, menu);
     MenuItem* chosen = ItemOf(shown.exec(place));
     if (chosen != nullptr) {

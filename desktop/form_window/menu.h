@@ -2,6 +2,7 @@
 
 #include <QMenu>
 #include <QPoint>
+#include <QString>
 
 #include "forms/menu_item.h"
 
@@ -17,8 +18,13 @@ bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source);
 /// The menu item behind an entry; nullptr for no entry.
 MenuItem* ItemOf(const QAction* action);
 
+/// Where the user went on to from a menu: -1 to what lies left of it, 1 to the right, 0 nowhere. A
+/// property of the window that it was opened in.
+inline constexpr const char* kMenuStep = "menuStep";
+
 /// Opens a menu at a place of the screen, in pixels, and clicks what the user chooses. Returns
-/// when the menu is closed and the click's work is done; events are delivered meanwhile.
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place);
+/// when the menu is closed and the click's work is done; events are delivered meanwhile. style: a
+/// style sheet; empty for the desktop's look.
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QString& style = {});
 
 }  // namespace horavex

@@ -26,7 +26,8 @@ public:
     void Print(const std::string& form) override;
 
 private:
-    void RunMenuOf(const std::string& form, const std::string& menu, QPoint place);
+    void RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
+                   const QString& style);
 
     const FormWindows& windows_;
 };

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/face/palette.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/ports/qt_windows.h"
@@ -46,10 +47,11 @@ TEST_F(MenuTest, EntriesComeInOrderWithTheirKeysAndState) {
     frmMain->mnuPopShow.SetChecked(true);
     frmMain->mnuPopHelp.SetVisible(false);
     FillMenu(menu, frmMain->mnuPopup);
-    EXPECT_EQ(Texts(menu), (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla",
-                                        "E&xport", "&Visit Our Site", "&Email Us", "Ad&justments",
-                                        "Athan and &Reminders", "Quiet until the &next prayer",
-                                        "Quiet &today", "Quiet h&ours", "&Exit"}));
+    EXPECT_EQ(Texts(menu),
+              (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla", "E&xport",
+                           "&Visit Our Site", "&Email Us", "Ad&justments", "Athan and &Reminders",
+                           "Quiet until the &next prayer", "Quiet &today", "Quiet h&ours",
+                           "&Small face", "&Full screen", "&Keep above other windows", "&Exit"}));
     EXPECT_FALSE(menu.actions().at(0)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isEnabled());
     EXPECT_TRUE(menu.actions().at(2)->isChecked());
@@ -136,6 +138,38 @@ TEST_F(MenuTest, MenuOpensAtItsPlaceInTheWindowAndNothingIsClickedWithoutAChoice
     port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
     EXPECT_EQ(place, expected);
     EXPECT_FALSE(clicked);
+}
+
+TEST_F(MenuTest, ArrowKeysLeaveAMenuSidewaysButForASubmenu) {
+    frmMain->Show();
+    frmMain->mnuL.Load(1).SetCaption("Arabic");
+    QWidget* window = windows.Find(&*frmMain);
+    const auto stepAfter = [&](int entry, Qt::Key key) {
+        window->setProperty(kMenuStep, 0);
+        WhenOpen([=](QMenu& menu) {
+            menu.setActiveAction(menu.actions().at(entry));
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(&menu, &press);
+        });
+        port.PopUpMenu("frmMain", "mnuSettings", 100, 135);
+        return window->property(kMenuStep).toInt();
+    };
+    EXPECT_EQ(stepAfter(0, Qt::Key_Right), 1);
+    EXPECT_EQ(stepAfter(0, Qt::Key_Left), -1);
+    EXPECT_EQ(stepAfter(4, Qt::Key_Right), 0);  // opens the languages
+    EXPECT_EQ(stepAfter(4, Qt::Key_Left), -1);
+    EXPECT_EQ(stepAfter(0, Qt::Key_Down), 0);
+}
+
+TEST_F(MenuTest, MenusOfTheFaceAreInItsColoursAndTheIconsInTheDesktops) {
+    frmMain->Show();
+    QString style;
+    WhenOpen([&](QMenu& menu) { style = menu.styleSheet(); });
+    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
+    EXPECT_TRUE(style.contains(kSkyTop.name()));
+    WhenOpen([&](QMenu& menu) { style = menu.styleSheet(); });
+    port.PopUpMenuAtPointer("frmMain", "mnuPopup");
+    EXPECT_EQ(style, "");
 }
 
 TEST_F(MenuTest, TimersGoOnWhileAMenuIsOpen) {
