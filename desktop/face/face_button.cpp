@@ -87,7 +87,9 @@ SignButton::SignButton(QWidget* parent, Sign sign) : FaceButton(parent), sign_(s
 void SignButton::PaintFace(QPainter& painter) {
     const QRectF sign = QRectF(rect()).adjusted(8.0, 8.0, -8.0, -8.0);
     painter.setPen(QPen(underMouse() ? kCream : kMuted, 1.6, Qt::SolidLine, Qt::RoundCap));
-    if (sign_ == Sign::kClose) {
+    if (sign_ == Sign::kWhole) {
+        painter.drawRect(sign);
+    } else if (sign_ == Sign::kClose) {
         painter.drawLine(sign.topLeft(), sign.bottomRight());
         painter.drawLine(sign.topRight(), sign.bottomLeft());
     } else {

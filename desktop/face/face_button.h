@@ -46,7 +46,7 @@ private:
 /// A button with a sign of the window's frame.
 class SignButton : public FaceButton {
 public:
-    enum class Sign { kClose, kMinimise };
+    enum class Sign { kClose, kMinimise, kWhole };
 
     SignButton(QWidget* parent, Sign sign);
 

@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <utility>
 
 #include "desktop/face/clock_dial.h"
@@ -11,9 +12,12 @@
 #include "desktop/face/countdown_line.h"
 #include "desktop/face/day_arc.h"
 #include "desktop/face/face_button.h"
+#include "desktop/face/face_day.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
+#include "desktop/form_window/menu.h"
+#include "sky/day_sky.h"
 
 namespace horavex {
 
@@ -98,6 +102,11 @@ FaceView::FaceView(std::function<QTime()> now, Language language)
     MakeButtons();
     MakeTexts();
     ShowDefaults();
+    auto* firstMenu = new QShortcut(Qt::Key_F10, this);
+    connect(firstMenu, &QShortcut::activated, this, [this] {
+        menu_.front().button->setFocus(Qt::TabFocusReason);
+        OpenMenu(0);
+    });
 }
 
 // The order in which they are made is the order of the keyboard.
@@ -105,16 +114,34 @@ void FaceView::MakeButtons() {
     using Look = CaptionButton::Look;
     clock_ = Place(new ClockDial(this), kClock, "IDC_FS_Clock");
     day_ = Place(new CaptionButton(this, Look::kHeading), kDay, "IDC_FS_Day");
-    menu_ = {
-        {{"_root.azan", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_azan")},
-         {"_root.settings", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_settings")},
-         {"_root.tools", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_tools")},
-         {"_root.help", Place(new CaptionButton(this, Look::kMenu), kMenu, "IDC_FS_help")}}};
+    for (std::size_t menu = 0; menu < menu_.size(); ++menu) {
+        menu_[menu].button = MakeMenu(menu);
+    }
     allTimes_ = Place(new CaptionButton(this, Look::kOutlined), kAllTimes, "IDC_FS_allTimes");
     qibla_ = Place(new CaptionButton(this, Look::kOutlined), kQibla, "IDC_FS_Qibla");
     minimise_ =
         Place(new SignButton(this, SignButton::Sign::kMinimise), kMinimise, "IDC_FS_minimize");
     close_ = Place(new SignButton(this, SignButton::Sign::kClose), kClose, "IDC_FS_close");
+}
+
+CaptionButton* FaceView::MakeMenu(std::size_t menu) {
+    auto* button = Place(new CaptionButton(this, CaptionButton::Look::kMenu), kMenu);
+    button->setObjectName(QString::fromUtf8(menu_[menu].command));
+    connect(button, &QAbstractButton::clicked, this, [this, menu] { OpenMenu(menu); });
+    return button;
+}
+
+// The command returns when the menu is closed; the arrow keys may have left it for its neighbour.
+void FaceView::OpenMenu(std::size_t menu) {
+    const auto stepAfter = [this](const char* command) {
+        window()->setProperty(kMenuStep, 0);
+        Tell(command);
+        return window()->property(kMenuStep).toInt();
+    };
+    while (const int step = stepAfter(menu_[menu].command)) {
+        menu = (menu + menu_.size() + static_cast<std::size_t>(step)) % menu_.size();
+        menu_[menu].button->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void FaceView::MakeTexts() {
@@ -210,35 +237,38 @@ void FaceView::ShowRemaining() {
     clock_->ShowTime(now_());
 }
 
-void FaceView::ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next) {
-    times_->ShowTimes(rows, next);
+void FaceView::ShowDay(const FaceDay& day) {
+    times_->ShowTimes(day.rows, day.next);
+    times_->setToolTip(day.timesNote);
+    times_->setAccessibleDescription(day.timesNote);
+    remaining_->ShowCountdown(day.countdownWords, day.seconds);
+    place_->ShowText(day.place);
+    clocks_->ShowText(day.clocks);
+    iqama_->ShowText(day.iqama);
+    ShowSky(day);
 }
 
-void FaceView::ShowCountdown(const QString& words, int seconds) {
-    remaining_->ShowCountdown(words, seconds);
-}
-
-void FaceView::ShowIqama(const QString& iqama) {
-    iqama_->ShowText(iqama);
-}
-
-void FaceView::ShowSky(const std::shared_ptr<const DaySky>& sky) {
-    if (sky != nullptr && sky != sky_) {
-        sky_ = sky;
-        ground_.ShowSun(sky->sunAltitude);
-        arc_->ShowSky(sky);
+// The same sky is the same object until the minute turns.
+void FaceView::ShowSky(const FaceDay& day) {
+    arc_->ShowPrayers(day.arc, day.next);
+    if (day.sky != nullptr && day.sky != sky_) {
+        sky_ = day.sky;
+        ground_.ShowSun(sky_->sunAltitude);
+        arc_->ShowSky(sky_);
         update();
     }
 }
 
-void FaceView::ShowPlace(const QString& place, const QString& clocks) {
-    place_->ShowText(place);
-    clocks_->ShowText(clocks);
+QString FaceView::Weekday() const {
+    return day_->text();
 }
 
-void FaceView::ExplainTimes(const QString& note) {
-    times_->setToolTip(note);
-    times_->setAccessibleDescription(note);
+QString FaceView::DateText() const {
+    return date_->text();
+}
+
+QString FaceView::HijriText() const {
+    return hijriDate_->text();
 }
 
 void FaceView::NameSigns(const QString& minimise, const QString& close) {
@@ -265,6 +295,21 @@ void FaceView::ShowMenu() {
         const int width = natural > kMenu.width() ? wanted * kMenu.width() / natural : wanted;
         entry.button->setGeometry(left, kMenu.top(), width, kMenu.height());
         left += width;
+    }
+    TakeKeys();
+}
+
+// Alt and the first letter of a title that no title before it has taken.
+void FaceView::TakeKeys() {
+    QString taken;
+    for (const MenuButton& entry : menu_) {
+        for (const QChar letter : entry.button->text().toUpper()) {
+            if (letter.isLetter() && !taken.contains(letter)) {
+                taken += letter;
+                entry.button->setShortcut(QKeySequence(QStringLiteral("Alt+") + letter));
+                break;
+            }
+        }
     }
 }
 

@@ -25,7 +25,7 @@ class SignButton;
 class TextLine;
 class TimesView;
 struct DaySky;
-struct PrayerEntry;
+struct FaceDay;
 
 /// The face. It knows its variables and commands by their names and nothing of what they mean
 /// elsewhere. The hands of its clock move with the countdown. The names of the day and the month
@@ -41,26 +41,12 @@ public:
     /// Takes a value over; a variable that the face does not have is ignored.
     void SetVariable(const std::string& name, const QString& value);
 
-    /// The six times of the day, and which of them comes next.
-    void ShowTimes(const std::vector<PrayerEntry>& rows, std::size_t next);
+    /// The day as a value: times, place, countdown, and the sky over it all.
+    void ShowDay(const FaceDay& day);
 
-    /// The time that remains until the next one, behind what it is the countdown to.
-    void ShowCountdown(const QString& words, int seconds);
-
-    /// The place of the day, and a line on the clocks where two are told.
-    void ShowPlace(const QString& place, const QString& clocks);
-
-    /// A line below the countdown.
-    void ShowIqama(const QString& iqama);
-
-    /// The sky over the place; nothing changes for the same object, or for none.
-    void ShowSky(const std::shared_ptr<const DaySky>& sky);
-
-    /// The way of the sun with the prayers on it.
-    DayArc& Arc() { return *arc_; }
-
-    /// What the marks beside the times mean, for whoever points at them; empty without marks.
-    void ExplainTimes(const QString& note);
+    QString Weekday() const;
+    QString DateText() const;
+    QString HijriText() const;
 
     /// Names the two buttons that bear signs, for assistive tools and whoever points at them.
     void NameSigns(const QString& minimise, const QString& close);
@@ -75,6 +61,7 @@ protected:
 private:
     struct MenuButton {
         const char* variable;
+        const char* command;
         CaptionButton* button;
     };
 
@@ -88,6 +75,9 @@ private:
     template <class Button>
     Button* Place(Button* button, const QRect& place, const char* command);
     void MakeButtons();
+    CaptionButton* MakeMenu(std::size_t menu);
+    void OpenMenu(std::size_t menu);
+    void TakeKeys();
     void MakeTexts();
     void ShowDefaults();
 
@@ -104,6 +94,7 @@ private:
     void ShowBearing();
     void ShowMenu();
     void ShowCaptions();
+    void ShowSky(const FaceDay& day);
 
     std::function<QTime()> now_;
     SkyGround ground_;
@@ -114,7 +105,10 @@ private:
 
     ClockDial* clock_;
     CaptionButton* day_;
-    std::array<MenuButton, 4> menu_;
+    std::array<MenuButton, 4> menu_ = {{{"_root.azan", "IDC_FS_azan", nullptr},
+                                        {"_root.settings", "IDC_FS_settings", nullptr},
+                                        {"_root.tools", "IDC_FS_tools", nullptr},
+                                        {"_root.help", "IDC_FS_help", nullptr}}};
     CaptionButton* allTimes_;
     CaptionButton* qibla_;
     SignButton* minimise_;

@@ -1,77 +1,96 @@
 #include "desktop/face/qt_face.h"
 
-#include <cmath>
-#include <optional>
+#include <QLayout>
+#include <QScreen>
+#include <QShortcut>
 
-#include "desktop/face/day_arc.h"
-#include "desktop/face/times_view.h"
+#include "desktop/form_window/face_screen.h"
 #include "engine/day_view.h"
-#include "engine/moment_text.h"
-#include "engine/ruled_year.h"
-#include "engine/solar_event.h"
-#include "lang/language_pack.h"
-#include "windows/frm_main.h"
 
 namespace horavex {
-
-namespace {
-
-/// The moments in words: the names that the pack has given, the user's form of a time.
-std::vector<PrayerEntry> RowsOf(const DayMoments& moments) {
-    std::vector<PrayerEntry> rows;
-    for (std::size_t prayer = 0; prayer < moments.size(); ++prayer) {
-        const std::string name = frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption();
-        const std::string time = MomentText(moments[prayer]);
-        rows.push_back({QString::fromStdString(name), QString::fromStdString(time)});
-    }
-    return rows;
-}
-
-/// Where the moments stand in the day; nothing for those that do not come.
-std::vector<std::optional<double>> PartsOf(const DayMoments& moments) {
-    std::vector<std::optional<double>> parts;
-    for (const Moment& moment : moments) {
-        const double days = moment.hours / 24.0;
-        parts.push_back(IsEvent(moment.hours) ? std::optional(days - std::floor(days))
-                                              : std::nullopt);
-    }
-    return parts;
-}
-
-/// A word of the pack; the key is the English one.
-QString Word(const char* key) {
-    return QString::fromStdString(GetLangString("desktop", key, key));
-}
-
-}  // namespace
 
 // With the last of the captions another language may have come.
 void QtFace::SetVariable(const std::string& name, const std::string& value) {
     PaintedFace::SetVariable(name, value);
     FaceView* view = LoadedView();
     if (view != nullptr && name == "prayer_time") {
-        view->NameSigns(Word("Minimize"), Word("Close"));
+        view->NameSigns(DesktopWord("Minimize"), DesktopWord("Close"));
     }
 }
 
 void QtFace::ShowDay(const DayView& day) {
     if (FaceView* view = LoadedView()) {
-        view->ShowTimes(RowsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
-        view->ShowCountdown(QString::fromStdString(frmMain->Label3.Caption()),
-                            static_cast<int>(day.next.remainingSeconds));
-        view->ShowPlace(QString::fromStdString(day.place), QString::fromStdString(day.clocks));
-        view->ShowIqama(QString::fromStdString(day.iqama));
-        view->ShowSky(day.sky);
-        view->Arc().ShowPrayers(PartsOf(day.moments), static_cast<std::size_t>(day.next.prayer));
-        view->ExplainTimes(
-            QString::fromStdString(RuleNote(day.moments, RuledYear.rules.moments.highLatitude)));
+        day_ = FaceDayOf(day);
+        view->ShowDay(day_);
+        ShowInShapes(*view);
+    }
+}
+
+void QtFace::ShowInShapes(FaceView& view) {
+    if (day_.rows.empty()) {
+        return;
+    }
+    if (strip_ != nullptr) {
+        strip_->ShowDay(day_);
+    }
+    if (poster_ != nullptr) {
+        poster_->ShowDates(view.Weekday(), view.DateText(), view.HijriText());
+        poster_->ShowDay(day_);
+    }
+}
+
+void QtFace::TakeShape(const FaceShape& shape) {
+    if (FaceView* view = LoadedView()) {
+        TakeStrip(*view, shape.small);
+        TakePoster(*view, shape.fillsScreen);
+        ShowInShapes(*view);
+    }
+}
+
+// The window takes the size of what is left in it. A button of what goes may just be pressed.
+void QtFace::TakeStrip(FaceView& view, bool small) {
+    if (small == (strip_ != nullptr)) {
+        return;
+    }
+    view.setVisible(!small);
+    if (small) {
+        strip_ = new StripView;
+        strip_->onCommand = view.onCommand;
+        view.parentWidget()->layout()->addWidget(strip_);
+        strip_->setFocus();
+    } else {
+        strip_->hide();
+        strip_->deleteLater();
+        strip_.clear();
+    }
+}
+
+void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
+    if (fillsScreen == (poster_ != nullptr)) {
+        return;
+    }
+    if (fillsScreen) {
+        poster_ = new PosterView([&view] { view.onCommand("IDC_FS_fullScreen"); });
+        awake_ = std::make_unique<ScreenAwake>(QStringLiteral("Prayer times fill the screen"));
+        poster_->setGeometry(FaceScreen().geometry());
+        poster_->showFullScreen();
+        poster_->activateWindow();
+    } else {
+        awake_.reset();
+        poster_->hide();
+        poster_->deleteLater();
+        poster_.clear();
     }
 }
 
 void QtFace::Fill(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-    FillWithView(window, new FaceView(QTime::currentTime, language_));
+    auto* view = new FaceView(QTime::currentTime, language_);
+    FillWithView(window, view);
+    auto* fullScreen = new QShortcut(Qt::Key_F11, &window);
+    QObject::connect(fullScreen, &QShortcut::activated, view,
+                     [view] { view->onCommand("IDC_FS_fullScreen"); });
 }
 
 }  // namespace horavex

@@ -67,11 +67,6 @@ void TellReminder(const DatedMoment& prayer, Date now) {
     }
 }
 
-/// Minutes to its iqama; sunrise has none.
-int IqamaMinutes(Prayer prayer) {
-    return prayer == kShurooq ? 0 : ReadOption(option::kIqamas[prayer]);
-}
-
 void TellIqama(const DatedMoment& prayer, Date now) {
     const int minutes = IqamaMinutes(prayer.prayer);
     if (minutes > 0 && IsDue(prayer, minutes, now)) {
@@ -92,6 +87,11 @@ void TellSignals(Date now) {
         TellReminder(prayer, now);
         TellIqama(prayer, now);
     }
+}
+
+// Sunrise has none.
+int IqamaMinutes(Prayer prayer) {
+    return prayer == kShurooq ? 0 : ReadOption(option::kIqamas[prayer]);
 }
 
 std::string IqamaAhead(Date now) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/date.h"
+#include "base/prayers.h"
 
 namespace horavex {
 
@@ -11,6 +12,9 @@ namespace horavex {
 
 /// Tells those that are due. Called by the clock.
 void TellSignals(Date now);
+
+/// Minutes from a prayer to its iqama; 0 where none is told.
+int IqamaMinutes(Prayer prayer);
 
 /// The countdown to the iqama that is ahead while its prayer is over, in words; else empty.
 std::string IqamaAhead(Date now);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -42,6 +43,10 @@ struct DayView {
     double qiblaDegrees = 0.0;  // from north, positive to the east
 
     std::string clocks;  // both offsets in words where this computer's clock is another
+
+    std::string fast;  // what of a fast the countdown goes to, in words; empty outside Ramadan
+
+    std::array<int, kPrayerCount> iqamaMinutes{};  // behind the prayers; 0 where none is told
 
     std::string iqama;  // the countdown to an iqama that is ahead, in words
 

@@ -140,7 +140,7 @@ const std::vector<PackSection>& PackVocabularies() {
         {"Azan", {"0", "2", "3", "4", "5"}},
         {"desktop",
          {"NoTray", "BareSamples", "HelpTitle", "HelpContents", "HelpBack", "HelpForward",
-          "Minimize", "Close"}},
+          "Minimize", "Close", "Tomorrow", "Iftar", "Suhoor", "IqamaAt", "NormalSize"}},
         {"timetables", TimetableKeys()},
         {"moments",
          {"NextDay", "PreviousDay", "NextDayNote", "PreviousDayNote", "RuleNote", "RuleNone",

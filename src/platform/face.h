@@ -7,6 +7,14 @@ namespace horavex {
 
 struct DayView;
 
+/// What a face looks like.
+struct FaceShape {
+    bool small = false;        // one line
+    bool fillsScreen = false;  // whatever else
+
+    bool operator==(const FaceShape&) const = default;
+};
+
 /// A painted face behind a boundary of texts: the system sets variables and gets commands.
 class Face {
 public:
@@ -21,6 +29,9 @@ public:
     /// Hands the day over as a value, behind the variables of the same tick. A face that paints
     /// by its variables alone ignores it.
     virtual void ShowDay(const DayView& /*day*/) {}
+
+    /// Takes a shape from now on. One that has no other ignores it.
+    virtual void TakeShape(const FaceShape& /*shape*/) {}
 
     /// Starts the face's own motion.
     virtual void Play() = 0;

@@ -36,6 +36,7 @@ public:
         variables.emplace_back(name, value);
     }
     void ShowDay(const DayView& day) override { onShowDay(day); }
+    void TakeShape(const FaceShape& taken) override { shape = taken; }
     void Play() override { log_.Note(name_ + "Play"); }
     void Place(double left, double top) override {
         log_.Note(name_ + "Place " + std::to_string(static_cast<int>(left)) + " " +
@@ -53,6 +54,7 @@ public:
     }
 
     std::vector<std::pair<std::string, std::string>> variables;  // in the order of setting
+    FaceShape shape;
     std::function<void(const DayView&)> onShowDay = [](const DayView&) {};
 
 private:

@@ -9,7 +9,9 @@
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "shell/close_face.h"
+#include "shell/face_fast.h"
 #include "shell/face_place.h"
+#include "shell/face_shape.h"
 #include "shell/face_sky.h"
 #include "shell/menus.h"
 #include "windows/frm_main.h"
@@ -72,6 +74,8 @@ constexpr FaceCommand kCommands[] = {
     {"IDC_FS_help", [] { PopUp(frmMain->mnuHelp, 200, kMenuTop); }},
     {"IDC_FS_close", CloseFace},
     {"IDC_FS_minimize", [] { frmMain->SetWindowState(WindowState::kMinimized); }},
+    {"IDC_FS_small", TurnFaceSmall},
+    {"IDC_FS_fullScreen", TurnFaceFullScreen},
     {"IDC_FS_allTimes", [] { frmMain->mnuPrayerTimes.UserClick(); }},
 };
 
@@ -89,6 +93,10 @@ void SetFlashVariables() {
     day.place = PlaceOfFace();
     day.clocks = ClocksOfFace();
     day.iqama = IqamaAhead(day.now);
+    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+        day.iqamaMinutes[prayer] = IqamaMinutes(static_cast<Prayer>(prayer));
+    }
+    day.fast = FastOfFace(day);
     day.sky = SkyOfFace(day.now);
     Ports().face.ShowDay(day);
 }

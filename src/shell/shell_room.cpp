@@ -3,6 +3,7 @@
 #include "athan/athan_notice.h"
 #include "platform/platform.h"
 #include "shell/face_bridge.h"
+#include "shell/face_shape.h"
 #include "shell/menus.h"
 #include "shell/start.h"
 #include "shell/tick.h"
@@ -14,6 +15,7 @@ namespace horavex {
 void BindShellRoom() {
     BindStart();
     BindMenus();
+    BindFaceShape();
     frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
     Ports().tray.onMessage = traypic_MouseMove;
     Ports().session.onResume = [] {

@@ -11,6 +11,7 @@
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "shell/close_face.h"
+#include "shell/face_shape.h"
 #include "shell/settings_start.h"
 #include "store/location_record.h"
 #include "store/stored_values.h"
@@ -45,6 +46,7 @@ void FrmMain_Load() {
         BuildLanguageMenu(currentLanguage);
     }
     TranslateOnLoad(*frmMain);
+    ShowFaceShape();
     if (firstRun != kFalse) {
         ShowWizard();
     }

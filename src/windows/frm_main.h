@@ -55,6 +55,11 @@ public:
     MenuItem mnuAdjustments{mnuSettings, "mnuAdjustments", {.caption = "Adjustments"}};
     MenuItem mnuReminders{mnuSettings, "mnuReminders", {.caption = "Athan and Reminders"}};
 
+    MenuItem mnuLine2{mnuSettings, "mnuLine2", {.caption = "-"}};
+    MenuItem mnuSmall{mnuSettings, "mnuSmall", {.caption = "Small face"}};
+    MenuItem mnuFullScreen{mnuSettings, "mnuFullScreen", {.caption = "Full screen"}};
+    MenuItem mnuAbove{mnuSettings, "mnuAbove", {.caption = "Keep above other windows"}};
+
     MenuItem mnuTools{*this, "mnuTools", {.caption = "Tools"}};
     MenuItem mnuDateConversion{mnuTools, "mnuDateConversion", {.caption = "Date Conversion"}};
     MenuItem mnuQibla{mnuTools, "mnuQibla", {.caption = "Qibla"}};
@@ -85,6 +90,9 @@ public:
         mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &next prayer"}};
     MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &today"}};
     MenuItem mnuPopQuietHours{mnuPopup, "mnuPopQuietHours", {.caption = "Quiet h&ours"}};
+    MenuItem mnuPopSmall{mnuPopup, "mnuPopSmall", {.caption = "&Small face"}};
+    MenuItem mnuPopFullScreen{mnuPopup, "mnuPopFullScreen", {.caption = "&Full screen"}};
+    MenuItem mnuPopAbove{mnuPopup, "mnuPopAbove", {.caption = "&Keep above other windows"}};
     MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
 };
 

@@ -13,6 +13,7 @@
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
+#include "desktop/form_window/menu.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "lang/language_pack.h"
@@ -132,6 +133,34 @@ TEST_F(FaceTest, MarkedTimesAreExplainedToWhoeverPointsAtThem) {
     EXPECT_TRUE(times.toolTip().contains("seventh of the night"));
 }
 
+TEST_F(FaceTest, PrayerOfTomorrowStandsInItsRowInPlaceOfTodays) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    DayView day;
+    day.moments[kFajr].hours = 4.9;
+    day.next = {kFajr, true, {5.25}, 3600.0};
+    face.ShowDay(day);
+    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith(
+        "Fajr tomorrow 05:15 AM, Shurooq "));
+    day.next.isTomorrows = false;
+    face.ShowDay(day);
+    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith("Fajr 04:54 AM"));
+}
+
+TEST_F(FaceTest, FastStandsInFrontOfTheCountdown) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    QWidget& line = *window.findChild<QWidget*>("countdown");
+    const QImage usual = line.grab().toImage();
+    DayView day;
+    day.next = {kMaghrib, false, {17.0}, 9360.0};
+    face.ShowDay(day);
+    EXPECT_EQ(line.grab().toImage(), usual);
+    day.fast = "Iftar in";
+    face.ShowDay(day);
+    EXPECT_NE(line.grab().toImage(), usual);
+}
+
 TEST_F(FaceTest, CountdownIsThatOfTheDayWhateverTheTextSays) {
     face.LoadMovie(0, "");
     TellEnglish(face);
@@ -151,20 +180,19 @@ TEST(CountdownDigits, HaveMinutesAndSecondsOfTwo) {
 
 TEST_F(FaceTest, GroundFollowsTheSunAndOnlyAnotherSkyIsPainted) {
     face.LoadMovie(0, "");
-    const auto sky = [](double altitude) {
-        DaySky made;
-        made.sunAltitude = altitude;
-        made.sunArc = {-30.0, altitude, -30.0};
-        return std::make_shared<const DaySky>(made);
+    const auto groundUnder = [this](double altitude) {
+        DaySky sky;
+        sky.sunAltitude = altitude;
+        sky.sunArc = {-30.0, altitude, -30.0};
+        DayView day;
+        day.sky = std::make_shared<const DaySky>(sky);
+        face.ShowDay(day);
+        return View().grab().toImage().pixelColor(10, 350);
     };
-    const auto noon = sky(60.0);
-    View().ShowSky(noon);
-    const QColor day = View().grab().toImage().pixelColor(10, 250);
-    View().ShowSky(noon);
-    View().ShowSky(nullptr);
-    EXPECT_EQ(View().grab().toImage().pixelColor(10, 250), day);
-    View().ShowSky(sky(-30.0));
-    EXPECT_NE(View().grab().toImage().pixelColor(10, 250), day);
+    const QColor day = groundUnder(60.0);
+    face.ShowDay({});
+    EXPECT_EQ(View().grab().toImage().pixelColor(10, 350), day);
+    EXPECT_NE(groundUnder(-30.0), day);
 }
 
 TEST_F(FaceTest, DayWithoutTimesIsPainted) {
@@ -289,6 +317,30 @@ TEST_F(FaceTest, EachButtonIsReachedByTabAndPressedByReturnAndBlank) {
         EXPECT_EQ(commands, (std::vector<std::string>{command, command}));
     }
     EXPECT_EQ(reached.size(), static_cast<std::size_t>(count));
+}
+
+TEST_F(FaceTest, MenuThatIsLeftSidewaysOpensItsNeighbourAroundTheEnds) {
+    std::vector<int> steps = {1, 1, 1, 1, -1, -1};
+    face.onFSCommand = [&](const std::string& command, const std::string&) {
+        commands.push_back(command);
+        if (!steps.empty()) {
+            window.setProperty(kMenuStep, steps.front());
+            steps.erase(steps.begin());
+        }
+    };
+    Button("IDC_FS_settings").click();
+    EXPECT_EQ(commands, (std::vector<std::string>{"IDC_FS_settings", "IDC_FS_tools", "IDC_FS_help",
+                                                  "IDC_FS_azan", "IDC_FS_settings", "IDC_FS_azan",
+                                                  "IDC_FS_help"}));
+}
+
+TEST_F(FaceTest, EachMenuHasTheKeyOfALetterOfItsOwn) {
+    face.LoadMovie(0, "");
+    TellEnglish(face);
+    EXPECT_EQ(Button("IDC_FS_azan").shortcut(), QKeySequence("Alt+A"));
+    EXPECT_EQ(Button("IDC_FS_help").shortcut(), QKeySequence("Alt+H"));
+    face.SetVariable("_root.settings", "Ajustes");
+    EXPECT_EQ(Button("IDC_FS_settings").shortcut(), QKeySequence("Alt+J"));
 }
 
 TEST_F(FaceTest, ButtonReachedByKeyShowsIt) {

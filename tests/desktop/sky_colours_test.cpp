@@ -72,6 +72,11 @@ TEST(SkyColours, EveryTextIsReadableOnEveryGroundAtEveryHeightOfTheSun) {
     }
 }
 
+TEST(MenusOfTheFace, AreReadable) {
+    ExpectReadable(kSkyTop, {kCream, kMenuOff}, 0.0, "in a menu");
+    ExpectReadable(kMenuChosen, {kCream}, 0.0, "on the chosen entry");
+}
+
 TEST(SkyColours, NightIsNavyWithItsStarsAndTheDayHasNone) {
     for (const double altitude : {-90.0, -30.0, -18.0}) {
         EXPECT_EQ(SkyColoursAt(altitude).top, kSkyTop);

@@ -49,16 +49,17 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuSettings),
                 ElementsAre("mnumSettings", "mnuChangeCity", "mnuAthanSettings", "mnuPrayerTimes",
                             "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments",
-                            "mnuReminders"));
+                            "mnuReminders", "mnuLine2", "mnuSmall", "mnuFullScreen", "mnuAbove"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases",
                             "mnuLine2", "mnuSky", "mnuCrescent"));
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
-    EXPECT_THAT(NamesIn(frmMain->mnuPopup),
-                ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla",
-                            "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS",
-                            "mnuPopAdjustments", "mnuPopReminders", "mnuPopQuietNext",
-                            "mnuPopQuietToday", "mnuPopQuietHours", "mnuPopExit"));
+    EXPECT_THAT(
+        NamesIn(frmMain->mnuPopup),
+        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
+                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopAdjustments",
+                    "mnuPopReminders", "mnuPopQuietNext", "mnuPopQuietToday", "mnuPopQuietHours",
+                    "mnuPopSmall", "mnuPopFullScreen", "mnuPopAbove", "mnuPopExit"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {

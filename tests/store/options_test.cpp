@@ -4,6 +4,7 @@
 #include <set>
 
 #include "base/fault.h"
+#include "store/face_options.h"
 #include "store/register.h"
 #include "support/data_folder_test.h"
 
@@ -26,9 +27,10 @@ protected:
 
 /// Rows of the table that hold whole numbers.
 std::vector<WholeOption> WholeOptions() {
-    std::vector<WholeOption> options = {option::kAutomaticZone,       option::kIshaInterval,
-                                        option::kIshaIntervalRamadan, option::kHijriAdjustment,
-                                        option::kSunOfTheDay,         option::kAlarm};
+    std::vector<WholeOption> options = {
+        option::kAutomaticZone,   option::kIshaInterval,   option::kIshaIntervalRamadan,
+        option::kHijriAdjustment, option::kSunOfTheDay,    option::kAlarm,
+        option::kFaceSmall,       option::kFaceFullScreen, option::kFaceAbove};
     options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }
