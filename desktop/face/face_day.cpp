@@ -27,18 +27,17 @@ PrayerEntry EntryOf(std::size_t prayer, const Moment& moment) {
 
 /// A prayer of tomorrow that comes next stands in its row in place of today's: what is marked is
 /// what is told.
-std::vector<PrayerEntry> RowsOf(const DayView& day) {
-    std::vector<PrayerEntry> rows;
-    for (std::size_t prayer = 0; prayer < day.moments.size(); ++prayer) {
-        rows.push_back(EntryOf(prayer, day.moments[prayer]));
-    }
+DayMoments ShownMoments(const DayView& day) {
+    DayMoments moments = day.moments;
     if (day.next.isTomorrows) {
-        PrayerEntry& row = rows.at(static_cast<std::size_t>(day.next.prayer));
-        const std::string words = GetLangString("desktop", "Tomorrow", "{prayer} tomorrow");
-        row = {Text(FilledText(words, "{prayer}", row.name.toStdString())),
-               Text(MomentText(day.next.moment))};
+        moments.at(static_cast<std::size_t>(day.next.prayer)) = day.next.moment;
     }
-    return rows;
+    return moments;
+}
+
+void NameTomorrow(PrayerEntry& row) {
+    const std::string words = GetLangString("desktop", "Tomorrow", "{prayer} tomorrow");
+    row.name = Text(FilledText(words, "{prayer}", row.name.toStdString()));
 }
 
 QString IqamaOf(Moment moment, int minutes) {
@@ -59,12 +58,16 @@ std::optional<double> PartOfDay(const Moment& moment) {
 
 FaceDay FaceDayOf(const DayView& day) {
     FaceDay face;
-    face.rows = RowsOf(day);
-    for (std::size_t prayer = 0; prayer < day.moments.size(); ++prayer) {
-        face.iqamas.push_back(IqamaOf(day.moments[prayer], day.iqamaMinutes[prayer]));
-        face.arc.push_back(PartOfDay(day.moments[prayer]));
+    const DayMoments moments = ShownMoments(day);
+    for (std::size_t prayer = 0; prayer < moments.size(); ++prayer) {
+        face.rows.push_back(EntryOf(prayer, moments[prayer]));
+        face.iqamas.push_back(IqamaOf(moments[prayer], day.iqamaMinutes[prayer]));
+        face.arc.push_back(PartOfDay(moments[prayer]));
     }
     face.next = static_cast<std::size_t>(day.next.prayer);
+    if (day.next.isTomorrows) {
+        NameTomorrow(face.rows.at(face.next));
+    }
     face.countdownWords = Text(day.fast.empty() ? frmMain->Label3.Caption() : day.fast);
     face.seconds = static_cast<int>(day.next.remainingSeconds);
     face.clock = Text(Ports().formats.MediumTime(day.now));

@@ -99,10 +99,13 @@ MenuItem* ItemOf(const QAction* action) {
     return action == nullptr ? nullptr : static_cast<MenuItem*>(action->data().value<void*>());
 }
 
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QString& style) {
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QPalette& colours) {
     SteppedMenu shown(parent);
-    shown.setStyleSheet(style);
     FillMenu(shown, menu);
+    shown.setPalette(colours);
+    for (QMenu* inner : shown.findChildren<QMenu*>()) {
+        inner->setPalette(colours);
+    }
     MenuItem* chosen = ItemOf(shown.exec(place));
     if (chosen != nullptr) {
         chosen->UserClick();

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QMenu>
+#include <QPalette>
 #include <QPoint>
-#include <QString>
 
 #include "forms/menu_item.h"
 
@@ -23,8 +23,8 @@ MenuItem* ItemOf(const QAction* action);
 inline constexpr const char* kMenuStep = "menuStep";
 
 /// Opens a menu at a place of the screen, in pixels, and clicks what the user chooses. Returns
-/// when the menu is closed and the click's work is done; events are delivered meanwhile. style: a
-/// style sheet; empty for the desktop's look.
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QString& style = {});
+/// when the menu is closed and the click's work is done; events are delivered meanwhile. colours:
+/// its own; by default the desktop's.
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QPalette& colours = {});
 
 }  // namespace horavex

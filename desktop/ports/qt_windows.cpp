@@ -8,7 +8,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "desktop/face/face_menu_style.h"
+#include "desktop/face/face_menu_colours.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/form_window/twips.h"
@@ -48,7 +48,7 @@ void QtWindows::StartDrag(const std::string& form) {
 void QtWindows::PopUpMenu(const std::string& form, const std::string& menu, int x, int y) {
     const FormWindow* window = windows_.Find(form);
     if (window != nullptr) {
-        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)), FaceMenuStyle());
+        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)), FaceMenuColours());
     }
 }
 
@@ -58,11 +58,11 @@ void QtWindows::PopUpMenuAtPointer(const std::string& form, const std::string& m
 
 // Only the face has menus at a place of its own. A hidden window cannot stand behind its menu.
 void QtWindows::RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                          const QString& style) {
+                          const QPalette& colours) {
     FormWindow* window = windows_.Find(form);
     const MenuItem* item = window == nullptr ? nullptr : FindMenu(window->Shown(), menu);
     if (item != nullptr) {
-        RunMenu(*item, window->isVisible() ? window : nullptr, place, style);
+        RunMenu(*item, window->isVisible() ? window : nullptr, place, colours);
     }
 }
 

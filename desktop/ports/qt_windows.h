@@ -27,7 +27,7 @@ public:
 
 private:
     void RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                   const QString& style);
+                   const QPalette& colours);
 
     const FormWindows& windows_;
 };

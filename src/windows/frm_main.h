@@ -55,7 +55,7 @@ public:
     MenuItem mnuAdjustments{mnuSettings, "mnuAdjustments", {.caption = "Adjustments"}};
     MenuItem mnuReminders{mnuSettings, "mnuReminders", {.caption = "Athan and Reminders"}};
 
-    MenuItem mnuLine2{mnuSettings, "mnuLine2", {.caption = "-"}};
+    MenuItem mnuLine3{mnuSettings, "mnuLine3", {.caption = "-"}};
     MenuItem mnuSmall{mnuSettings, "mnuSmall", {.caption = "Small face"}};
     MenuItem mnuFullScreen{mnuSettings, "mnuFullScreen", {.caption = "Full screen"}};
     MenuItem mnuAbove{mnuSettings, "mnuAbove", {.caption = "Keep above other windows"}};

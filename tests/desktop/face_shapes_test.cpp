@@ -136,6 +136,8 @@ TEST_F(FaceShapesTest, IqamasStandBelowTheTimesOfTheFullScreen) {
     EXPECT_NE(Poster()->grab().toImage(), without);
     EXPECT_EQ(FaceDayOf(day).iqamas.at(kAsr), "Iqama 03:10 PM");
     EXPECT_EQ(FaceDayOf(day).iqamas.at(kIsha), "");
+    day.next = {kAsr, true, {16.0}, 60.0};
+    EXPECT_EQ(FaceDayOf(day).iqamas.at(kAsr), "Iqama 04:10 PM");
 }
 
 TEST_F(FaceShapesTest, FaceThatIsNotLoadedTakesNoShape) {

@@ -140,11 +140,14 @@ TEST_F(FaceTest, PrayerOfTomorrowStandsInItsRowInPlaceOfTodays) {
     day.moments[kFajr].hours = 4.9;
     day.next = {kFajr, true, {5.25}, 3600.0};
     face.ShowDay(day);
-    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith(
-        "Fajr tomorrow 05:15 AM, Shurooq "));
+    const auto firstRow = [this] {
+        QWidget* times = window.findChild<QWidget*>("times");
+        return QAccessible::queryAccessibleInterface(times)->child(0)->text(QAccessible::Name);
+    };
+    EXPECT_EQ(firstRow(), "Fajr tomorrow 05:15 AM");
     day.next.isTomorrows = false;
     face.ShowDay(day);
-    EXPECT_TRUE(window.findChild<QWidget*>("times")->accessibleName().startsWith("Fajr 04:54 AM"));
+    EXPECT_EQ(firstRow(), "Fajr 04:54 AM");
 }
 
 TEST_F(FaceTest, FastStandsInFrontOfTheCountdown) {

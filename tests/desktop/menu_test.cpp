@@ -163,13 +163,20 @@ TEST_F(MenuTest, ArrowKeysLeaveAMenuSidewaysButForASubmenu) {
 
 TEST_F(MenuTest, MenusOfTheFaceAreInItsColoursAndTheIconsInTheDesktops) {
     frmMain->Show();
-    QString style;
-    WhenOpen([&](QMenu& menu) { style = menu.styleSheet(); });
-    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
-    EXPECT_TRUE(style.contains(kSkyTop.name()));
-    WhenOpen([&](QMenu& menu) { style = menu.styleSheet(); });
+    frmMain->mnuL.Load(1).SetCaption("Arabic");
+    const auto colourOf = [](const QMenu& menu) { return menu.palette().color(QPalette::Window); };
+    std::vector<QColor> colours;
+    const auto note = [&](QMenu& menu) {
+        colours.push_back(colourOf(menu));
+        for (const QMenu* inner : menu.findChildren<QMenu*>()) {
+            colours.push_back(colourOf(*inner));
+        }
+    };
+    WhenOpen(note);
+    port.PopUpMenu("frmMain", "mnuSettings", 100, 135);
+    EXPECT_EQ(colours, (std::vector<QColor>{kSkyTop, kSkyTop}));
+    WhenOpen([&](QMenu& menu) { EXPECT_NE(colourOf(menu), kSkyTop); });
     port.PopUpMenuAtPointer("frmMain", "mnuPopup");
-    EXPECT_EQ(style, "");
 }
 
 TEST_F(MenuTest, TimersGoOnWhileAMenuIsOpen) {

@@ -49,7 +49,7 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuSettings),
                 ElementsAre("mnumSettings", "mnuChangeCity", "mnuAthanSettings", "mnuPrayerTimes",
                             "mnuChangeLanguage", "mnuWizard", "mnuLine1", "mnuAdjustments",
-                            "mnuReminders", "mnuLine2", "mnuSmall", "mnuFullScreen", "mnuAbove"));
+                            "mnuReminders", "mnuLine3", "mnuSmall", "mnuFullScreen", "mnuAbove"));
     EXPECT_THAT(NamesIn(frmMain->mnuTools),
                 ElementsAre("mnuDateConversion", "mnuQibla", "mnuDistance", "mnuMoonPhases",
                             "mnuLine2", "mnuSky", "mnuCrescent"));
