@@ -357,7 +357,11 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+// A page that is turned away hands its focus on by itself and must not be turned to again.
 bool FormWindow::focusNextPrevChild(bool next) {
+    if (focusWidget() != nullptr && !focusWidget()->isVisible()) {
+        return QWidget::focusNextPrevChild(next);
+    }
     QWidget* const widget = NextByTab(*this, next);
     if (widget == nullptr) {
         return false;

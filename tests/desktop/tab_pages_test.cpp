@@ -106,6 +106,16 @@ TEST_F(TabPagesTest, PageThatTheUserTurnsToStaysWhateverTheFormShows) {
     EXPECT_EQ(Tabs().currentIndex(), 2);
 }
 
+TEST_F(TabPagesTest, PageAndItsTabTurnTogetherWhateverHasTheFocus) {
+    QApplication::setActiveWindow(&Window());
+    Window().findChild<QWidget*>("cmdChangeCity")->setFocus();
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    Tabs().setCurrentIndex(1);
+    EXPECT_EQ(Tabs().currentIndex(), 1);
+    EXPECT_TRUE(Window().findChild<QWidget*>("cboMethod")->isVisible());
+    EXPECT_TRUE(Window().focusWidget()->isVisible());
+}
+
 TEST_F(TabPagesTest, TitlesAreTheCaptionsOfWhatLiesOnThePage) {
     EXPECT_EQ(Tabs().tabText(1), "Method");
     HoravexMainForm->lblMethod.SetCaption("Me&thode");
