@@ -21,6 +21,7 @@
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/fit_screen.h"
 #include "desktop/form_window/key_buttons.h"
+#include "desktop/form_window/page_keys.h"
 #include "desktop/form_window/step_labels.h"
 #include "desktop/form_window/tab_pages.h"
 #include "desktop/form_window/twips.h"
@@ -77,6 +78,7 @@ FormWindow::FormWindow(Form& form, const Layout& layout)
         Bind(*control);
     }
     BindArrowButtons(*this);
+    BindPageKeys(*this);
     form_.SetObserver(this);
     FlushLater();
 }
@@ -163,6 +165,7 @@ void FormWindow::Flush() {
     if (controlsChanged) {
         NameWidgets(*this);
         TitlePages(*this);
+        GivePageKeys(*this);
         ShowSteps(*this);
     }
     if (std::exchange(formChanged_, false)) {

@@ -16,15 +16,6 @@ QTabWidget* TabsOf(const QWidget& page) {
     return stack == nullptr ? nullptr : qobject_cast<QTabWidget*>(stack->parentWidget());
 }
 
-bool IsSeenOnItsPage(const QWidget& widget) {
-    for (const QWidget* at = &widget; !at->isWindow(); at = at->parentWidget()) {
-        if (at->isHidden() && TabsOf(*at) == nullptr) {
-            return false;
-        }
-    }
-    return true;
-}
-
 bool TakesTab(const QWidget& widget) {
     return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.focusProxy() == nullptr &&
            widget.isEnabled() && !widget.isWindow() && IsSeenOnItsPage(widget);
@@ -42,6 +33,15 @@ void TitlePages(const QWidget& window) {
             tabs->setTabText(page, TitleOf(window, *tabs->widget(page)));
         }
     }
+}
+
+bool IsSeenOnItsPage(const QWidget& widget) {
+    for (const QWidget* at = &widget; !at->isWindow(); at = at->parentWidget()) {
+        if (at->isHidden() && TabsOf(*at) == nullptr) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void BringIntoView(QWidget& widget) {

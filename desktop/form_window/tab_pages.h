@@ -9,6 +9,9 @@ namespace horavex {
 /// does for other widgets.
 void TitlePages(const QWidget& window);
 
+/// True for what is on view as soon as the pages that it lies on are in front.
+bool IsSeenOnItsPage(const QWidget& widget);
+
 /// Brings to the front the pages that the widget lies on, and scrolls them to it.
 void BringIntoView(QWidget& widget);
 
