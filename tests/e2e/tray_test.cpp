@@ -67,7 +67,7 @@ protected:
             [&] {
                 // The pointer is seen to come.
                 desktop.Use({"xdotool", "mousemove", "--window", face, "100", "300"});
-                desktop.Click(face, 136, 386);
+                desktop.Click(face, 136, 468);
             },
             [&] {
                 const auto windows = desktop.WindowsOf(program);
