@@ -98,10 +98,11 @@ private:
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
     ErfaAlmanac almanac_;
+    AbsentBroadcast broadcast_;
     Platform platform_{clock,     eventLoop_,    files,      folder_,      formats,    dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
-                       notices_,  mediaPlayers_, session_,   almanac_};
+                       notices_,  mediaPlayers_, session_,   almanac_,     broadcast_};
 };
 
 }  // namespace horavex

@@ -42,7 +42,7 @@ CheckReport CheckFolder(Session& session, const std::string& path) {
         former.face,      former.windows,     former.tray,      former.shell,
         former.network,   former.athanFace,   former.audioFile, former.audioPlayer,
         former.zoneRules, former.whereabouts, former.notices,   former.mediaPlayers,
-        former.session,   former.almanac};
+        former.session,   former.almanac,     former.broadcast};
     InstallPlatform(&ports);
     CheckReport report = Check();
     InstallPlatform(&former);

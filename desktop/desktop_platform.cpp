@@ -49,7 +49,9 @@ DesktopPlatform::DesktopPlatform()
       windows_(formWindows_),
       tray_(frmMain->mnuPopup, BringHiddenFaceIntoWindowList),
       shell_(files_),
-      audioPlayer_(PostToProgramThread) {
+      audioPlayer_(PostToProgramThread),
+      broadcast_(PostToProgramThread),
+      busPump_(broadcast_) {
     InstallPlatform(&platform_);
     ClearLeftOvers(OwnFolders());
 }

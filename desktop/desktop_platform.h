@@ -3,6 +3,7 @@
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/ports/bus_pump.h"
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/ports/qt_formats.h"
@@ -15,6 +16,7 @@
 #include "desktop/ports/qt_windows.h"
 #include "desktop/ports/session_watch.h"
 #include "desktop/ports/toolkit_language.h"
+#include "linux/bus/session_broadcast.h"
 #include "linux/erfa_almanac.h"
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
@@ -64,10 +66,12 @@ private:
     QtMediaPlayers mediaPlayers_;
     SessionWatch session_;
     ErfaAlmanac almanac_;
+    SessionBroadcast broadcast_;
+    BusPump busPump_;
     Platform platform_{clock_,    eventLoop_,    files_,     folder_,      formats_,   dialogs_,
                        registry_, instanceLock_, face_,      windows_,     tray_,      shell_,
                        network_,  athanFace_,    audioFile_, audioPlayer_, zoneRules_, whereabouts_,
-                       notices_,  mediaPlayers_, session_,   almanac_};
+                       notices_,  mediaPlayers_, session_,   almanac_,     broadcast_};
 };
 
 }  // namespace horavex

@@ -86,13 +86,16 @@ void FallSilent() {
     }
 }
 
-void ChooseUntil(Date end) {
-    const bool isTakenBack = IsChosen(end);
-    SaveChange(option::kQuietUntil, isTakenBack ? std::string() : StampOf(end), std::string());
-    if (!isTakenBack) {
+void SetEnd(std::optional<Date> end) {
+    SaveChange(option::kQuietUntil, end ? StampOf(*end) : std::string(), std::string());
+    if (end) {
         FallSilent();
     }
     ShowQuiet();
+}
+
+void ChooseUntil(Date end) {
+    SetEnd(IsChosen(end) ? std::nullopt : std::optional(end));
 }
 
 void CheckEntries(Date now) {
@@ -121,6 +124,11 @@ void ChooseQuietUntilNextPrayer() {
 
 void ChooseQuietToday() {
     ChooseUntil(EndOfDay());
+}
+
+void ChooseQuietFor(int minutes) {
+    const double days = std::clamp(minutes / kMinutesPerDay, 0.0, 1.0);
+    SetEnd(days > 0.0 ? std::optional(Now() + days) : std::nullopt);
 }
 
 void ChooseQuietHours() {

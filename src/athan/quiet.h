@@ -22,6 +22,9 @@ bool IsQuiet();
 void ChooseQuietUntilNextPrayer();
 void ChooseQuietToday();
 
+/// Quiet for so many minutes from now, at most a day; 0 ends a quiet that was chosen.
+void ChooseQuietFor(int minutes);
+
 /// Switches the hours of the day on or off.
 void ChooseQuietHours();
 

@@ -61,6 +61,7 @@ void TellReminder(const DatedMoment& prayer, Date now) {
     const int minutes = ReadOption(option::kReminders[prayer.prayer]);
     if (minutes > 0 && IsDue(prayer, -minutes, now)) {
         TellOnce(CallKind::kReminder, prayer, [&] {
+            Ports().broadcast.TellReminderDue("reminder", kPrayerKeys[prayer.prayer], minutes);
             Tell(ReadOption(option::kReminderSignal),
                  [prayer, minutes] { ShowReminder(prayer.prayer, prayer.at, minutes); });
         });
@@ -71,6 +72,7 @@ void TellIqama(const DatedMoment& prayer, Date now) {
     const int minutes = IqamaMinutes(prayer.prayer);
     if (minutes > 0 && IsDue(prayer, minutes, now)) {
         TellOnce(CallKind::kIqama, prayer, [&] {
+            Ports().broadcast.TellReminderDue("iqama", kPrayerKeys[prayer.prayer], minutes);
             Tell(ReadOption(option::kIqamaSignal),
                  [which = prayer.prayer, now] { ShowIqama(which, now); });
         });

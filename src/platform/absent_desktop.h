@@ -2,6 +2,7 @@
 
 #include "platform/audio_file.h"
 #include "platform/audio_player.h"
+#include "platform/broadcast.h"
 #include "platform/desktop_session.h"
 #include "platform/face.h"
 #include "platform/media_players.h"
@@ -103,6 +104,15 @@ class AbsentMediaPlayers : public MediaPlayers {
 public:
     void PauseAll() override {}
     void GoOn() override {}
+};
+
+class AbsentBroadcast : public Broadcast {
+public:
+    void Publish(const ToldState&) override {}
+    void TellPrayerArrived(const std::string&, const std::string&) override {}
+    void TellReminderDue(const std::string&, const std::string&, int) override {}
+    void TellAthanStopped() override {}
+    void TellDayChanged(const std::string&) override {}
 };
 
 class AbsentSession : public DesktopSession {

@@ -3,6 +3,7 @@
 #include "platform/almanac.h"
 #include "platform/audio_file.h"
 #include "platform/audio_player.h"
+#include "platform/broadcast.h"
 #include "platform/clock.h"
 #include "platform/desktop_session.h"
 #include "platform/dialogs.h"
@@ -49,6 +50,7 @@ struct Platform {
     MediaPlayers& mediaPlayers;
     DesktopSession& session;
     const Almanac& almanac;
+    Broadcast& broadcast;
 };
 
 /// Installs the ports; nullptr takes them away again.

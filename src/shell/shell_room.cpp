@@ -5,6 +5,7 @@
 #include "shell/face_bridge.h"
 #include "shell/face_shape.h"
 #include "shell/menus.h"
+#include "shell/public_state.h"
 #include "shell/start.h"
 #include "shell/tick.h"
 #include "shell/tray_icon.h"
@@ -16,6 +17,7 @@ void BindShellRoom() {
     BindStart();
     BindMenus();
     BindFaceShape();
+    BindBroadcast();
     frmMain->tmrUpdate.onTimer = tmrUpdate_Timer;
     Ports().tray.onMessage = traypic_MouseMove;
     Ports().session.onResume = [] {

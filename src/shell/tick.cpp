@@ -16,6 +16,7 @@
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "platform/platform.h"
+#include "shell/public_state.h"
 #include "shell/tray_icon.h"
 #include "store/athan_options.h"
 #include "store/settings_record.h"
@@ -82,7 +83,9 @@ void TestPrayers(const TickActions& actions) {
     }
     const Date today = Ports().clock.Today();
     for (const Arrival& arrival : arrived) {
-        ReceivePrayer(arrival.prayer, today + arrival.hours / 24.0, actions.alert);
+        const Date at = today + arrival.hours / 24.0;
+        PublishArrival(arrival.prayer, at);
+        ReceivePrayer(arrival.prayer, at, actions.alert);
     }
     // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
     ++NextPrayer;
@@ -126,6 +129,7 @@ void tmrUpdate_Timer() {
     RunTick(DefaultTickActions());
     // No notification area tells when the user points at the icon: its tip is kept fresh.
     RefreshTrayTip();
+    PublishState();
 }
 
 }  // namespace horavex

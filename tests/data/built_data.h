@@ -69,11 +69,12 @@ private:
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
     ErfaAlmanac almanac_;
+    AbsentBroadcast broadcast_;
     Platform platform_{clock_,       loop_,      files,          folder,     formats_,
                        dialogs,      registry_,  instanceGuard_, face_,      windows_,
                        tray_,        shell_,     network_,       athanFace_, audioFile_,
                        audioPlayer_, zoneRules_, whereabouts_,   notices_,   mediaPlayers_,
-                       session_,     almanac_};
+                       session_,     almanac_,   broadcast_};
 };
 
 }  // namespace horavex

@@ -59,7 +59,7 @@ TEST_F(EventBoundaryTest, NoSecondBoxComesWhileOneIsOpen) {
         ports.face,      ports.windows,     ports.tray,      ports.shell,
         ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
         ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
-        ports.session,   ports.almanac};
+        ports.session,   ports.almanac,     ports.broadcast};
     InstallPlatform(&faulting);
     ShowFault(OverflowFault("first"));
     ShowFault(OverflowFault("second"));

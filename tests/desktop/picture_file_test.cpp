@@ -26,7 +26,7 @@ protected:
                          own.face,      own.windows,     own.tray,      own.shell,
                          own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
                          own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
-                         own.session,   own.almanac};
+                         own.session,   own.almanac,     own.broadcast};
 };
 
 TEST_F(PictureFileTest, PictureOfTheProgramFolderIsReadWhateverTheCaseOfItsName) {

@@ -79,19 +79,20 @@ public:
         }
     }
 
+    std::string Address() const { return "unix:path=" + folder_ / "bus"; }
+
 private:
     void FlushAll() const {
         for (const QString& name : names_) {
             Flush(QDBusConnection(name));
         }
     }
-
-    std::string Address() const { return "unix:path=" + folder_ / "bus"; }
 };
 
 class PrivateBus : public testing::Test {
 protected:
     QDBusConnection Connect(const char* name) { return bus_.Connect(name); }
+    std::string Address() const { return bus_.Address(); }
     void Settle() { bus_.Settle(); }
     void AddStartable(const char* name, const char* command) { bus_.AddStartable(name, command); }
 

@@ -231,7 +231,7 @@ TEST_F(YearTableTest, MessageComesBeforeTheFlag) {
                            ports.face,      ports.windows,     ports.tray,      ports.shell,
                            ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
                            ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
-                           ports.session,   ports.almanac};
+                           ports.session,   ports.almanac,     ports.broadcast};
     InstallPlatform(&watched);
     London(18.0, 17.0);
     Calculate(2001);

@@ -266,7 +266,7 @@ TEST(LanguageMenuOfTwoFolders, MergesBothWithTheUsersPacksInFront) {
         ports.face,      ports.windows,     ports.tray,      ports.shell,
         ports.network,   ports.athanFace,   ports.audioFile, ports.audioPlayer,
         ports.zoneRules, ports.whereabouts, ports.notices,   ports.mediaPlayers,
-        ports.session,   ports.almanac};
+        ports.session,   ports.almanac,     ports.broadcast};
     InstallPlatform(&mergedPorts);
     platform.files.WriteWhole("/installed/lang/Arabic.ini", BytesOf("[frmMain]\nfrmMain=old"));
     platform.files.WriteWhole("/installed/lang/English.ini", BytesOf("[frmMain]\nfrmMain=new"));

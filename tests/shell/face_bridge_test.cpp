@@ -157,7 +157,7 @@ TEST_F(FaceBridgeTest, CompassIsNotRoundedAndHasTheDecimalMarkOfTheUser) {
                          own.face,      own.windows,     own.tray,      own.shell,
                          own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
                          own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
-                         own.session,   own.almanac};
+                         own.session,   own.almanac,     own.broadcast};
     InstallPlatform(&ports);
     QiblaDegrees = 58.4817263540912;
     SetFlashVariables();

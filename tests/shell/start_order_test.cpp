@@ -206,7 +206,8 @@ struct OrderTest : ProgramTest {
                          platform.notices,
                          platform.mediaPlayers,
                          platform.session,
-                         platform.almanac};
+                         platform.almanac,
+                         platform.broadcast};
     WatchedForm face{*frmMain, platform.desktop};
     WatchedForm settings{*HoravexMainForm, platform.desktop};
 };

@@ -73,7 +73,8 @@ struct PlayerOnAServer : testing::Test {
                          former.notices,
                          former.mediaPlayers,
                          former.session,
-                         former.almanac};
+                         former.almanac,
+                         former.broadcast};
 };
 
 }  // namespace horavex

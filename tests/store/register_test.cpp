@@ -227,7 +227,8 @@ TEST_F(RegisterTest, KeysAreOpenedWithAllRightsAndThenForReading) {
                          platform.notices,
                          platform.mediaPlayers,
                          platform.session,
-                         platform.almanac};
+                         platform.almanac,
+                         platform.broadcast};
     InstallPlatform(&ports);
     Save("Language", "Arabic");
     watched.DenyWriting(true);

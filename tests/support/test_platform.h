@@ -10,6 +10,7 @@
 #include "platform/memory_files.h"
 #include "platform/memory_registry.h"
 #include "platform/platform.h"
+#include "platform/recording_broadcast.h"
 #include "platform/recording_desktop.h"
 #include "platform/scripted_event_loop.h"
 #include "platform/scripted_network.h"
@@ -52,12 +53,13 @@ public:
     RecordingMediaPlayers mediaPlayers;
     ScriptedSession session;
     ErfaAlmanac almanac;
+    RecordingBroadcast broadcast;
 
 private:
     Platform platform_{clock,    loop,          failingFiles, folder,      formats,   dialogs,
                        registry, instanceGuard, face,         windows,     tray,      shell,
                        network,  athanFace,     audioFile,    audioPlayer, zoneRules, whereabouts,
-                       notices,  mediaPlayers,  session,      almanac};
+                       notices,  mediaPlayers,  session,      almanac,     broadcast};
 };
 
 }  // namespace horavex

@@ -260,7 +260,7 @@ TEST_F(TextPagesTest, ZoneHasTheDecimalMarkOfTheUser) {
         former.face,      former.windows,     former.tray,      former.shell,
         former.network,   former.athanFace,   former.audioFile, former.audioPlayer,
         former.zoneRules, former.whereabouts, former.notices,   former.mediaPlayers,
-        former.session,   former.almanac};
+        former.session,   former.almanac,     former.broadcast};
     InstallPlatform(&ports);
     ActiveSettings.TimeZone = 5.75;
     const std::string january = Pages().at(0);

@@ -149,7 +149,7 @@ TEST_F(UpdateCheckTest, AnswerIsToldBeforeLabelAndBarGo) {
                          own.face,      own.windows,     own.tray,      own.shell,
                          own.network,   own.athanFace,   own.audioFile, own.audioPlayer,
                          own.zoneRules, own.whereabouts, own.notices,   own.mediaPlayers,
-                         own.session,   own.almanac};
+                         own.session,   own.almanac,     own.broadcast};
     InstallPlatform(&ports);
     Publish("5");
     CheckForUpdate();

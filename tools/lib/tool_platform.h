@@ -57,11 +57,12 @@ private:
     AbsentMediaPlayers mediaPlayers_;
     AbsentSession session_;
     EvenAlmanac almanac_;
+    AbsentBroadcast broadcast_;
     Platform platform_{clock_,       loop_,      files,          folder_,    formats_,
                        dialogs_,     registry_,  instanceGuard_, face_,      windows_,
                        tray_,        shell_,     network_,       athanFace_, audioFile_,
                        audioPlayer_, zoneRules_, whereabouts_,   notices_,   mediaPlayers_,
-                       session_,     almanac_};
+                       session_,     almanac_,   broadcast_};
 };
 
 }  // namespace horavex
