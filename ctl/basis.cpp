@@ -1,15 +1,10 @@
 #include "ctl/basis.h"
 
-#include <cmath>
-#include <cstdio>
-
-#include "base/rounding.h"
 #include "ctl/place_clock.h"
 #include "ctl/place_options.h"
 #include "engine/current_year.h"
 #include "engine/moment_text.h"
 #include "engine/moments.h"
-#include "engine/solar_event.h"
 #include "engine/year_table.h"
 #include "store/around_options.h"
 #include "store/settings_record.h"
@@ -33,22 +28,9 @@ std::string RuleWord() {
     return option::kHighLatitudeRule.words[static_cast<std::size_t>(ChosenOptions.highLatitude)];
 }
 
-/// "+03:00".
-std::string OffsetText(const ZoneOffset& offset) {
-    const int minutes = std::abs(offset.seconds) / 60;
-    char text[32];
-    std::snprintf(text, sizeof text, "%c%02d:%02d", offset.seconds < 0 ? '-' : '+', minutes / 60,
-                  minutes % 60);
-    return text;
-}
-
-/// "2026-06-21T23:14:05+03:00".
 Json LocalJson(Date day, double hours) {
-    if (std::fabs(hours) >= NoEvent) {
-        return nullptr;
-    }
-    const Date local = day + RoundHalfEven(hours * kSecondsPerHour) / kSecondsPerDay;
-    return IsoMoment(day, hours, WorkingOffset(local, day).seconds / kSecondsPerHour);
+    const std::string stamp = WorkingStamp(day, hours);
+    return stamp.empty() ? Json() : Json(stamp);
 }
 
 Json YearMomentsJson() {

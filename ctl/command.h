@@ -39,6 +39,7 @@ void AddCalendarCommands(CLI::App& app, Session& session);
 void AddDistanceCommand(CLI::App& app, Session& session);
 void AddExportCommand(CLI::App& app, Session& session);
 void AddMethodsCommand(CLI::App& app, Session& session);
+void AddRunningCommands(CLI::App& app, Session& session);
 void AddValidateCommand(CLI::App& app, Session& session);
 
 /// A subcommand with the --json flag that all of them have.

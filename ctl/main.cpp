@@ -67,6 +67,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddDistanceCommand(app, session);
     AddExportCommand(app, session);
     AddMethodsCommand(app, session);
+    AddRunningCommands(app, session);
     AddValidateCommand(app, session);
 }
 

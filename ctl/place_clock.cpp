@@ -1,10 +1,14 @@
 #include "ctl/place_clock.h"
 
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
+#include "base/rounding.h"
 #include "ctl/number_range.h"
 #include "ctl/place_options.h"
 #include "engine/angle.h"
+#include "engine/solar_event.h"
 #include "geo/qibla.h"
 #include "store/location_record.h"
 #include "store/settings_record.h"
@@ -43,6 +47,22 @@ Json WorkingJson(const std::optional<Date>& universal) {
     const Date day = std::floor(local);
     return IsoMoment(day, (local - day) * kHoursPerDay,
                      WorkingClock().OffsetAt(*universal).seconds / kSecondsPerHour);
+}
+
+std::string OffsetText(const ZoneOffset& offset) {
+    const int minutes = std::abs(offset.seconds) / 60;
+    char text[32];
+    std::snprintf(text, sizeof text, "%c%02d:%02d", offset.seconds < 0 ? '-' : '+', minutes / 60,
+                  minutes % 60);
+    return text;
+}
+
+std::string WorkingStamp(Date day, double hours) {
+    if (std::fabs(hours) >= NoEvent) {
+        return {};
+    }
+    const Date local = day + RoundHalfEven(hours * kSecondsPerHour) / kSecondsPerDay;
+    return IsoMoment(day, hours, WorkingOffset(local, day).seconds / kSecondsPerHour);
 }
 
 Date WorkingMinuteOf(Date universal) {

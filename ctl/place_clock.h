@@ -26,6 +26,12 @@ Date WorkingOfUniversal(Date universal);
 /// "2026-06-21T23:14:05+03:00", or null for nothing.
 Json WorkingJson(const std::optional<Date>& universal);
 
+/// "+03:00".
+std::string OffsetText(const ZoneOffset& offset);
+
+/// A moment of a day, in its hours, as "2026-06-21T23:14:05+03:00"; empty where it does not come.
+std::string WorkingStamp(Date day, double hours);
+
 /// What the clock shows, to the nearest minute.
 Date WorkingMinuteOf(Date universal);
 

@@ -10,7 +10,10 @@
 #include "ctl/calculation.h"
 #include "ctl/date_option.h"
 #include "ctl/day_text.h"
+#include "ctl/place_clock.h"
 #include "ctl/place_options.h"
+#include "ctl/status_line.h"
+#include "ctl/told_day.h"
 #include "ctl/watch.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
@@ -28,6 +31,7 @@ struct TodayOptions {
     PlaceOptions place;
     std::optional<std::string> at;
     bool watch = false;
+    std::string format;
 };
 
 Json HoursJson(const DayMoments& moments) {
@@ -109,7 +113,15 @@ void SetClock(ConsoleClock& clock, const TodayOptions& options) {
     }
 }
 
+/// For status bars a line of their own.
+std::string TextOf(const DayView& day, const std::string& format) {
+    return format.empty()
+               ? DayText(day, false)
+               : FilledLine(format, FieldsOf(ToldDay(day), UniversalOfWorking(day.now))) + "\n";
+}
+
 void RunToday(Session& session, const TodayOptions& options) {
+    CheckLine(options.format);
     currentLanguage = ReadStoredLanguage();
     ApplyPlace(options.place, options.at ? ParseMomentOption(*options.at) : Ports().clock.Today());
     SetClock(session.platform.clock, options);
@@ -118,7 +130,7 @@ void RunToday(Session& session, const TodayOptions& options) {
         Watch(session);
     } else {
         const DayView day = DayOfNow(session);
-        session.Print(DayJson(day), session.status == kDone ? DayText(day, false) : "");
+        session.Print(DayJson(day), session.status == kDone ? TextOf(day, options.format) : "");
     }
 }
 
@@ -129,9 +141,12 @@ void AddTodayCommand(CLI::App& app, Session& session) {
     auto options = std::make_shared<TodayOptions>();
     AddPlaceOptions(*command, options->place);
     auto* at = command->add_option("--at", options->at, "A moment in place of now");
+    command->add_option("--format", options->format, "A line with {next}, {time}, {remaining}, ...")
+        ->excludes("--json");
     command->add_flag("--watch", options->watch, "Redraw each second in the terminal")
         ->excludes(at)
-        ->excludes("--json");
+        ->excludes("--json")
+        ->excludes("--format");
     command->callback([&session, options] { RunToday(session, *options); });
 }
 

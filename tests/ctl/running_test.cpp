@@ -1,0 +1,222 @@
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <utility>
+
+#include "ctl_json.h"
+#include "e2e/harness/wait_until.h"
+#include "linux/bus/session_broadcast.h"
+#include "support/build_folder.h"
+#include "support/bus_configuration.h"
+#include "support/child_process.h"
+#include "support/scoped_variable.h"
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+
+ToldState DayInCairo() {
+    return {.place = "Cairo, Egypt",
+            .zone = "Africa/Cairo",
+            .moments = {{"Fajr", "2026-11-21T04:56:00+02:00", "sun"},
+                        {"Shurooq", "2026-11-21T06:24:00+02:00", "sun"},
+                        {"Zuhr", "2026-11-21T11:41:00+02:00", "sun"},
+                        {"Asr", "2026-11-21T14:38:00+02:00", "sun"},
+                        {"Maghrib", "2026-11-21T16:57:00+02:00", "sun"},
+                        {"Isha", "", "rule"}},
+            .nextPrayer = "Asr",
+            .nextTime = "2026-11-21T14:38:00+02:00",
+            .hijriDate = "1448-06-11",
+            .athanPlaying = false,
+            .quietUntil = ""};
+}
+
+/// A session with a bus of its own.
+struct SessionBus : testing::Test {
+    SessionBus() {
+        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
+        ctl.variables["DBUS_SESSION_BUS_ADDRESS"] = Address();
+    }
+
+    std::string Address() const { return "unix:path=" + folder / "bus"; }
+
+    TemporaryFolder folder;
+    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
+                         "--config-file=" + WriteBusConfiguration(folder.Path())},
+                        {},
+                        folder / "out",
+                        folder / "err"};
+    Ctl ctl;
+};
+
+/// The same with a running program, as far as others can see it.
+struct RunningTest : SessionBus {
+    RunningTest() {
+        broadcast->onShow = [this] { asked.push_back("Show"); };
+        broadcast->onHide = [this] { asked.push_back("Hide"); };
+        broadcast->onAthanNow = [this] { asked.push_back("AthanNow"); };
+        broadcast->onStopAthan = [this] { asked.push_back("StopAthan"); };
+        broadcast->onQuiet = [this](int minutes) {
+            asked.push_back("Quiet " + std::to_string(minutes));
+        };
+        broadcast->Publish(DayInCairo());
+    }
+
+    ChildProcess Start(std::vector<std::string> words) {
+        words.insert(words.begin(), BuildPath("bin/horavexctl"));
+        return {words, ctl.variables, folder / "told", folder / "complaint"};
+    }
+
+    /// Answers it as long as it runs.
+    ProgramRun Run(const std::vector<std::string>& words) {
+        ChildProcess child = Start(words);
+        WaitUntil("horavexctl", [&] {
+            Serve();
+            return !child.IsRunning();
+        });
+        return {child.Wait(), ContentOf(folder / "told"), ContentOf(folder / "complaint")};
+    }
+
+    /// Answers a command that follows until it has printed so much.
+    std::string Follow(const std::string& end) {
+        return WaitUntil(end,
+                         [&] {
+                             Serve();
+                             const std::string told = ContentOf(folder / "told");
+                             return told.ends_with(end) ? std::optional(told) : std::nullopt;
+                         })
+            .value();
+    }
+
+    void Serve() {
+        if (broadcast) {
+            broadcast->Serve();
+        }
+    }
+
+    ScopedVariable address{"DBUS_SESSION_BUS_ADDRESS", Address().c_str()};
+    std::optional<SessionBroadcast> broadcast{
+        std::in_place, [](const std::function<void()>& request) { request(); }};
+    std::vector<std::string> asked;
+};
+
+TEST_F(RunningTest, StatusTellsTheDayAndMarksTheNextPrayer) {
+    const ProgramRun run = Run({"status"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, HasSubstr("Cairo, Egypt\nAfrica/Cairo   1448-06-11\n"));
+    EXPECT_THAT(run.out, HasSubstr("    Fajr      04:56\n"));
+    EXPECT_THAT(run.out, HasSubstr("  > Asr       14:38\n"));
+    EXPECT_THAT(run.out, HasSubstr("    Isha      \n"));
+    EXPECT_THAT(run.out, HasSubstr("Next: Asr at 14:38, in "));
+}
+
+TEST_F(RunningTest, StatusTellsAnAthanThatIsUpAndAQuietTime) {
+    ToldState state = DayInCairo();
+    state.athanPlaying = true;
+    state.quietUntil = "2026-11-21T20:00:00+02:00";
+    broadcast->Publish(state);
+    EXPECT_THAT(Run({"status"}).out, EndsWith("An athan is up\nQuiet until 20:00\n"));
+}
+
+TEST_F(RunningTest, JsonOfTheStatusHasAllThatIsTold) {
+    const Json json = Json::parse(Run({"status", "--json"}).out);
+    EXPECT_THAT(KeysOf(json), ElementsAre("running", "place", "zone", "moments", "next", "hijri",
+                                          "athanPlaying", "quietUntil"));
+    EXPECT_EQ(json["moments"][0]["local"], "2026-11-21T04:56:00+02:00");
+    EXPECT_TRUE(json["moments"][5]["local"].is_null());
+    EXPECT_EQ(json["moments"][5]["by"], "rule");
+    EXPECT_EQ(json["next"]["prayer"], "Asr");
+    EXPECT_EQ(json["athanPlaying"], false);
+    EXPECT_TRUE(json["quietUntil"].is_null());
+}
+
+TEST_F(RunningTest, LineForAStatusBarIsFilled) {
+    EXPECT_EQ(Run({"status", "--format", "{next} {time} | {Fajr} {Isha}| {\"a\": {place}}"}).out,
+              "Asr 14:38 | 04:56 | {\"a\": Cairo, Egypt}\n");
+}
+
+TEST_F(RunningTest, FollowedItPrintsALineAtEachChangeAlone) {
+    const ChildProcess child = Start({"status", "--follow", "--format", "{next} {time} {athan}"});
+    EXPECT_EQ(Follow("\n"), "Asr 14:38 \n");
+    ToldState state = DayInCairo();
+    state.place = "Giza, Egypt";  // which the line does not tell
+    broadcast->Publish(state);
+    state.athanPlaying = true;
+    broadcast->Publish(state);
+    EXPECT_EQ(Follow("athan\n"), "Asr 14:38 \nAsr 14:38 athan\n");
+    EXPECT_TRUE(child.IsRunning());
+}
+
+TEST_F(RunningTest, FollowedItTellsThatTheProgramHasGone) {
+    const ChildProcess child = Start({"status", "--follow", "--json"});
+    Follow("}\n");
+    broadcast.reset();
+    EXPECT_THAT(Follow("{\"running\":false}\n"), HasSubstr("\"running\":true"));
+}
+
+TEST_F(RunningTest, RequestsReachTheProgram) {
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{
+             {"show"}, {"hide"}, {"athan", "now"}, {"athan", "stop"}, {"quiet", "30"}}) {
+        const ProgramRun run = Run(words);
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.out, "");
+    }
+    EXPECT_THAT(asked, ElementsAre("Show", "Hide", "AthanNow", "StopAthan", "Quiet 30"));
+    EXPECT_EQ(Run({"quiet", "0", "--json"}).out, "{\"asked\":\"Quiet\",\"minutes\":0}\n");
+    EXPECT_EQ(Run({"show", "--json"}).out, "{\"asked\":\"Show\"}\n");
+}
+
+TEST_F(SessionBus, ProgramThatDoesNotRunIsAFailureWithOneLine) {
+    for (const char* line : {"status", "show", "hide", "athan now", "athan stop", "quiet 30",
+                             "status --json", "show --json"}) {
+        const ProgramRun run = ctl.Run(line);
+        EXPECT_EQ(run.status, 1) << line;
+        EXPECT_EQ(run.out, "") << line;
+        EXPECT_EQ(run.err, "horavexctl: Horavex does not run in this session\n") << line;
+    }
+}
+
+TEST(RunningWithoutABus, IsAFailureWithOneLine) {
+    Ctl ctl;
+    for (const char* line : {"status", "status --follow", "show", "athan stop", "quiet 5"}) {
+        const ProgramRun run = ctl.Run(line);
+        EXPECT_EQ(run.status, 1) << line;
+        EXPECT_THAT(run.err, MatchesRegex("horavexctl: the session bus: [^\n]+\n")) << line;
+    }
+}
+
+TEST(RunningUsage, WrongWordsAreRefused) {
+    const Ctl ctl;
+    for (const char* line : {"athan", "athan later", "quiet", "quiet 1441", "quiet -1",
+                             "quiet soon", "status --format {nxt}", "show now"}) {
+        const ProgramRun run = ctl.Run(line);
+        EXPECT_EQ(run.status, 2) << line;
+        EXPECT_THAT(run.out, IsEmpty()) << line;
+    }
+}
+
+TEST(TodayLine, IsFilledWithoutARunningProgram) {
+    const Ctl ctl;
+    const std::string today = "today --city Cairo,Egypt --at 2026-11-21T12:00:00 --format";
+    EXPECT_EQ(ctl.Run(today, {"{next} {time} in {remaining}, {hijri}, {zone}"}).out,
+              "Asr 14:36 in 2:37, 1448-06-10, Africa/Cairo\n");
+    EXPECT_EQ(ctl.Run(today, {"{seconds}"}).out.size(), 5U);
+    EXPECT_EQ(ctl.Run(today, {"{nobody}"}).status, 2);
+}
+
+TEST(TodayLine, GoesOverToTomorrow) {
+    const Ctl ctl;
+    const Json day = JsonOf(ctl, "today --city Cairo,Egypt --at 2026-11-22T01:00:00");
+    EXPECT_EQ(
+        ctl.Run("today --city Cairo,Egypt --at 2026-11-21T23:00:00 --format", {"{next} {time}"})
+            .out,
+        "Fajr " + day["moments"][0]["local"].get<std::string>().substr(11, 5) + "\n");
+}
+
+}  // namespace
+}  // namespace horavex
