@@ -152,7 +152,7 @@ void ShowMissedPrayers(const std::vector<DatedMoment>& prayers) {
     for (const auto& [prayer, at, moment] : prayers) {
         notice.title += (notice.title.empty() ? "" : " \u00b7 ") + PrayerAt(prayer, at);
     }
-    notice.text = Word("Missed", "The computer was asleep then.");
+    notice.text = Word("Missed", "The computer was asleep at that time.");
     Ports().notices.Show(NoticeKind::kMissed, notice);
 }
 

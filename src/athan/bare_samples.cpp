@@ -13,8 +13,8 @@ bool RefusesBareSamples(const std::string& path) {
     Ports().dialogs.ShowMessage(
         GetLangString(
             "desktop", "BareSamples",
-            "This file holds bare samples whose rate and format nothing tells. Convert it "
-            "to WAV, FLAC, Ogg or MP3 with a sound editor, and choose that file."),
+            "This file holds bare samples, and nothing tells their rate and format. Convert it "
+            "to WAV, FLAC, Ogg or MP3 with a sound editor, and choose the new file."),
         "", MessageIcon::kExclamation);
     return true;
 }

@@ -242,8 +242,8 @@ void FillWaysToShow(ComboBox& list) {
     list.AddItem(Word("NotificationWhileBusy", "a notification while you are busy"));
     list.AddItem(Word("NotificationAlone", "a notification, no window"));
     list.SetToolTipText(Word("BusyHint",
-                             "You are busy while something fills the screen or the desktop is told "
-                             "not to disturb. Otherwise the window rises."));
+                             "You count as busy while something fills the screen or \"Do not "
+                             "disturb\" is on. Otherwise the window rises."));
 }
 
 }  // namespace

@@ -71,7 +71,7 @@ std::string RuleName(HighLatitudeRule rule) {
 }
 
 std::string AroundName(std::size_t time) {
-    constexpr const char* kEnglish[] = {"Imsak", "Duha", "Mid-night", "Last third"};
+    constexpr const char* kEnglish[] = {"Imsak", "Duha", "Middle of night", "Last third"};
     return Word(kAroundKeys.at(time), kEnglish[time]);
 }
 

@@ -21,7 +21,7 @@ void TellOnce() {
     Ports().dialogs.ShowMessage(
         GetLangString("desktop", "NoTray",
                       "This desktop has no notification area, so Horavex stays in the window list. "
-                      "Menu \"Athan\", \"Exit\" ends it."),
+                      "To quit, choose \"Exit\" in the menu \"Athan\"."),
         "", MessageIcon::kInformation);
 }
 

@@ -140,15 +140,16 @@ std::vector<std::string> Heads() {
 }
 
 std::string Note(bool hasNone) {
-    const std::string note =
-        SkyWord("EclipsesNote",
-                "Times in brackets: the body is below the horizon. The moon's begin and end are "
-                "those of the umbra, but for penumbral eclipses.");
-    return hasNone ? note + "\n" +
-                         SkyWord("NoEclipseNote",
-                                 "* In its year the list in the window \"Moon Phases\" names this "
-                                 "date, but the sky has no eclipse.")
-                   : note;
+    const std::string note = SkyWord(
+        "EclipsesNote",
+        "Times in brackets: the body is below the horizon. For the moon, beginning and end are "
+        "those of the umbra, except in penumbral eclipses.");
+    return hasNone
+               ? note + "\n" +
+                     SkyWord("NoEclipseNote",
+                             "* For the year in question the list in the window \"Moon Phases\" "
+                             "names this date, but there is no eclipse in the sky.")
+               : note;
 }
 
 }  // namespace

@@ -46,8 +46,8 @@ private:
 std::string Note(double bearing) {
     const std::string text =
         SkyWord("QiblaNote",
-                "The qibla is {bearing} clockwise from north. Face the sun at its times; at those "
-                "of the shadow follow it from the foot of anything upright.");
+                "The qibla is {bearing} clockwise from north. At the sun's times, face the sun; at "
+                "the shadow's, follow it from the foot of anything upright.");
     return FilledText(text, "{bearing}", DegreesIn(text, bearing)) + "\n" +
            SkyWord("MeccaNote",
                    "When the sun stands over Mecca it shows the qibla wherever it is up.");

@@ -68,7 +68,7 @@ public:
         fraToday,
         "chkAroundTheDay",
         {.caption = "Imsak, Duha and the parts of the night in the tables",
-         .toolTipText = "Day browser, month, pages and files tell these times too"}};
+         .toolTipText = "Day browser, month, pages and files show these times too"}};
 
     horavex::Frame fraHijri{*this, "fraHijri", {.caption = "Hijri date"}};
     Label lblCalendar{fraHijri, "lblCalendar", {.caption = "Calendar"}};
@@ -80,7 +80,7 @@ public:
     CommandButton cmdReset{
         *this,
         "cmdReset",
-        {.caption = "&Reset", .toolTipText = "Takes every adjustment away but the two angles"}};
+        {.caption = "&Reset", .toolTipText = "Removes every adjustment except the two angles"}};
     CommandButton cmdOK{*this, "cmdOK", {.caption = "&OK"}};
     CommandButton cmdCancel{*this, "cmdCancel", {.caption = "&Cancel"}};
 };

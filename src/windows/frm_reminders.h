@@ -63,7 +63,7 @@ public:
         "cmdTestTone",
         {.caption = "&Test tone", .toolTipText = "Plays a short tone on this device"}};
     CommandButton cmdStop{
-        fraAll, "cmdStop", {.caption = "&Stop", .toolTipText = "Ends what is being listened to"}};
+        fraAll, "cmdStop", {.caption = "&Stop", .toolTipText = "Stops what is being played"}};
     Label lblShownSound{fraAll, "lblShownSound"};
 
     horavex::Frame fraQuiet{*this, "fraQuiet", {.caption = "Quiet hours"}};
@@ -100,7 +100,7 @@ public:
     CheckBox chkTellMissed{
         fraSignals,
         "chkTellMissed",
-        {.caption = "Tell prayers missed during sleep",
+        {.caption = "Report prayers missed during sleep",
          .toolTipText = "When the computer wakes up within an hour after the prayer, a silent "
                         "notification names it"}};
     CheckBox chkAlarm{fraSignals,
@@ -111,7 +111,7 @@ public:
     CommandButton cmdReset{
         *this,
         "cmdReset",
-        {.caption = "&Reset", .toolTipText = "Takes every choice of this window back"}};
+        {.caption = "&Reset", .toolTipText = "Undoes every choice made in this window"}};
     CommandButton cmdOK{*this, "cmdOK", {.caption = "&OK"}};
     CommandButton cmdCancel{*this, "cmdCancel", {.caption = "&Cancel"}};
 

@@ -25,10 +25,11 @@ public:
     Grid grdTable{*this, "grdTable"};
 
     Picture picArcs{*this, "picArcs", {.width = 12600, .height = 3600}};
-    Label lblLegend{*this,
-                    "lblLegend",
-                    {.caption = "Altitude over the day: the sun yellow, the moon grey; below the "
-                                "horizon the three twilights. The upright line is now."}};
+    Label lblLegend{
+        *this,
+        "lblLegend",
+        {.caption = "Altitude over the day: the sun yellow, the moon grey; below the "
+                    "horizon the three twilights. The upright line marks the present."}};
     Label lblShownNote{*this, "lblShownNote"};
 
     CommandButton cmdPrev{*this, "cmdPrev", {.caption = "&Previous Year"}};

@@ -82,7 +82,7 @@ public:
     Label lblNotLocated{
         Frame2(1),
         "lblNotLocated",
-        {.caption = "The location service did not tell the position.", .visible = false}};
+        {.caption = "The location service did not give a position.", .visible = false}};
     CheckBox chkAutomaticZone{
         Frame2(1), "chkAutomaticZone", {.caption = "Time zone and daylight saving of the city"}};
     /// What was picked and is not accepted yet.

@@ -50,7 +50,8 @@ TEST_F(EclipsesPageTest, ExplainsTheMarkOfAVainCandidateWhereThereIsOne) {
         const SkyPage page = PageOf(year);
         const bool hasMark = std::ranges::any_of(
             page.rows, [](const Grid::Row& row) { return row.cells.at(1) == "none *"; });
-        EXPECT_EQ(page.note.find("* In its year") != std::string::npos, hasMark) << year;
+        EXPECT_EQ(page.note.find("* For the year in question") != std::string::npos, hasMark)
+            << year;
     }
 }
 
@@ -103,7 +104,8 @@ TEST_F(EclipsesPageTest, MarksWhatTheMoonWindowListsInVain) {
     EXPECT_EQ(none[0], "Sun");
     EXPECT_EQ(none[1], "none *");
     EXPECT_EQ(none[2], "19 March");  // its instant is nothing of the sky's
-    EXPECT_THAT(page.note, HasSubstr("* In its year the list in the window \"Moon Phases\""));
+    EXPECT_THAT(page.note,
+                HasSubstr("* For the year in question the list in the window \"Moon Phases\""));
 }
 
 TEST_F(EclipsesPageTest, RowsStandInTheOrderOfTheYear) {

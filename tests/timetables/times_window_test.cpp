@@ -117,7 +117,7 @@ TEST_F(TimesWindowTest, TimesAroundTheDayAreToldWhereAnOptionAsksForThem) {
     frmTimes->cmdToday.UserClick();
     EXPECT_TRUE(frmTimes->lblTimesAround.Visible());
     EXPECT_THAT(frmTimes->lblTimesAround.Caption(),
-                testing::MatchesRegex("Imsak: .* AM   Duha: .* AM   Mid-night: .* PM   "
+                testing::MatchesRegex("Imsak: .* AM   Duha: .* AM   Middle of night: .* PM   "
                                       "Last third: .* AM, next day"));
 }
 
