@@ -23,7 +23,7 @@ TEST_F(MessageWindowTest, LoadTranslatesButKeepsItsOwnTitle) {
     currentLanguage = "German";
     fMessage->Unload();
     fMessage->Load();
-    EXPECT_EQ(fMessage->lblMessage2.Caption(), "Bitte warten …");
+    EXPECT_EQ(fMessage->lblMessage2.Caption(), "Bitte warten\u00a0…");
     EXPECT_EQ(fMessage->Caption(), "Horavex Prayer Time Software ");
 }
 

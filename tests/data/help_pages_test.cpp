@@ -8,6 +8,7 @@
 #include <regex>
 #include <set>
 
+#include "base/text.h"
 #include "base/utf8.h"
 #include "config/help.h"
 #include "config/help_topics.h"
@@ -138,9 +139,34 @@ TEST_P(HelpPagesTest, EveryElementThatOpensCloses) {
     }
 }
 
+// The face gives each menu the first letter of its title that no title before it has.
+TEST_P(HelpPagesTest, KeysOfTheMenusAreLettersOfTheirTitles) {
+    std::string keys;
+    for (const char* title : {"mnuAthan", "mnuSettings", "mnuTools", "mnuHelp"}) {
+        const std::string letters = AsciiLower(PackValue(title));
+        keys += letters.at(letters.find_first_not_of(keys));
+    }
+    std::string told;
+    const std::string text = Text("program.html");
+    for (const std::smatch& key : Matches(text, "Alt\\+([A-Z])")) {
+        told += AsciiLower(key[1].str());
+    }
+    EXPECT_TRUE(told.empty() || told == keys) << told << " for " << keys;
+}
+
 TEST_P(HelpPagesTest, NothingComesFromTheNetwork) {
     for (const std::string& page : Topics().Pages()) {
         EXPECT_THAT(Text(page), Not(HasSubstr("://"))) << page;
+    }
+}
+
+// A line must not break in front of a mark that belongs to the word before it.
+TEST(FrenchHelpTest, MarksStandBehindNoBreakSpacesAndApostrophesAreCurved) {
+    for (const auto& page : fs::directory_iterator(BuiltProgramFolder() + "/help/French")) {
+        const std::string text = ContentOf(page.path().string());
+        for (const char* plain : {" :", " ;", " !", " ?", " %", " »", "« ", "'", "\n:", "\n;"}) {
+            EXPECT_THAT(text, Not(HasSubstr(plain))) << page.path().filename();
+        }
     }
 }
 

@@ -1,13 +1,16 @@
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "base/utf8.h"
+#include "config/methods.h"
 #include "data/built_data.h"
 #include "lang/language_pack.h"
 #include "lang/pack_check.h"
 #include "lang/pack_keys.h"
+#include "store/text_table.h"
 #include "support/shipped_languages.h"
 
 namespace horavex {
@@ -73,6 +76,22 @@ TEST_F(LanguagePacks, EnglishPrayersOpenASentenceThatATimeEnds) {
     EXPECT_EQ(English("other", "Asr"), "Asr at");
     EXPECT_EQ(English("other", "Maghrib"), "Maghrib at");
     EXPECT_EQ(English("other", "Isha"), "Isha at");
+}
+
+// The settings window takes the names of the table, the window of adjustments those of the pack.
+TEST_F(LanguagePacks, AuthoritiesHaveTheNamesOfTheTextTable) {
+    const std::map<std::string, std::int16_t> columns = {
+        {"French", 2}, {"German", 3}, {"Arabic", 4}, {"Spanish", 5}};
+    for (const auto& [language, column] : columns) {
+        currentLanguage = language;
+        for (const Method& method : Methods()) {
+            const bool isMore = method.name == TextEntry::kSingaporeMalaysia ||
+                                method.name == TextEntry::kKuwait;  // a country there
+            EXPECT_TRUE(isMore || GetLangString("methods", method.authority->key, "") ==
+                                      TextItem(method.name, column))
+                << language << " " << method.authority->key;
+        }
+    }
 }
 
 TEST_F(LanguagePacks, EnglishMonthsBeginAndEndTheYear) {

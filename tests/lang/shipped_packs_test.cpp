@@ -245,6 +245,16 @@ TEST_F(ShippedPacks, FrenchMarksStandBehindNoBreakSpacesAndApostrophesAreCurved)
     }
 }
 
+// Nor between a number and its unit, or in front of the dots that German sets apart.
+TEST_F(ShippedPacks, UnitsAndDotsStandBehindNoBreakSpaces) {
+    const std::regex breaks("\\} (km|min|h|s|%)([^a-z]|$)|[a-z%] (%|…)");
+    for (const char* language : {"French", "German", "Spanish"}) {
+        for (const std::string& line : Split(Source(language), '\n')) {
+            EXPECT_FALSE(std::regex_search(line, breaks)) << language << " " << line;
+        }
+    }
+}
+
 TEST_F(ShippedPacks, PrayersOfTheFaceAreSixNamesWithoutAColon) {
     for (const std::string& language : kShippedLanguages) {
         std::set<std::string> names;
