@@ -301,7 +301,7 @@ TEST(HelpLanguagesTest, HaveTheSameShape) {
         for (const std::string& language : kLanguages) {
             const std::string text =
                 ContentOf(BuiltProgramFolder() + "/help/" + language + "/" + page);
-            counts[language] = Matches(text, "<(h2|li|tr)>").size();
+            counts[language] = Matches(text, "<(h2|li|p|tr)>").size();
         }
         for (const std::string& language : kLanguages) {
             EXPECT_EQ(counts[language], counts["English"]) << language << " " << page;
