@@ -40,6 +40,7 @@ void AddDistanceCommand(CLI::App& app, Session& session);
 void AddExportCommand(CLI::App& app, Session& session);
 void AddMethodsCommand(CLI::App& app, Session& session);
 void AddRunningCommands(CLI::App& app, Session& session);
+void AddOwnTextCommands(CLI::App& app, Session& session);
 void AddValidateCommand(CLI::App& app, Session& session);
 
 /// A subcommand with the --json flag that all of them have.

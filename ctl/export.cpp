@@ -98,6 +98,7 @@ void AddExportCommand(CLI::App& app, Session& session) {
     command
         ->add_option("--output", options->output,
                      "The file or pipe to write; - for standard output")
+        ->type_name("FILE")
         ->required();
     command->add_option("--paper", options->paper, "a4 or letter, of a pdf")
         ->check(CLI::IsMember({"a4", "letter"}));

@@ -69,6 +69,7 @@ void AddCommands(CLI::App& app, Session& session) {
     AddMethodsCommand(app, session);
     AddRunningCommands(app, session);
     AddValidateCommand(app, session);
+    AddOwnTextCommands(app, session);
 }
 
 int Run(int argumentCount, char** arguments) {

@@ -22,7 +22,7 @@ constexpr int kPatience = 30000;  // milliseconds
 
 PseudoTerminal::PseudoTerminal(const std::string& name, const std::vector<std::string>& arguments,
                                const Environment& environment) {
-    std::vector<std::string> words = {BuildPath("bin/" + name)};
+    std::vector<std::string> words = {name.starts_with('/') ? name : BuildPath("bin/" + name)};
     words.insert(words.end(), arguments.begin(), arguments.end());
     auto variables = AssignmentsOf(environment);
     const auto wordPointers = PointersOf(words);

@@ -10,7 +10,8 @@
 
 namespace horavex {
 
-/// A program of the build's bin folder in a terminal of its own, which it controls.
+/// A program, by its path or out of the build's bin folder, in a terminal of its own, which it
+/// controls.
 class PseudoTerminal {
 public:
     PseudoTerminal(const std::string& name, const std::vector<std::string>& arguments,

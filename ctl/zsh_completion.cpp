@@ -1,0 +1,78 @@
+#include "ctl/command_text.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr const char* kHead = R"(#compdef horavexctl
+# Completion of horavexctl for zsh, as "horavexctl completion zsh" prints it.
+_horavexctl() {
+    local curcontext=$curcontext state line
+    local -a commands=(
+)";
+
+constexpr const char* kMiddle = R"(    )
+    _arguments -C '(-h --help)'{-h,--help}'[Print help]' '--version[Print the version]' \
+        '1:command:->command' '*::word:->words'
+    case $state in
+        command) _describe command commands ;;
+        words)
+            case $words[1] in
+)";
+
+constexpr const char* kFoot = R"(            esac ;;
+    esac
+}
+compdef _horavexctl horavexctl
+)";
+
+/// Inside single quotes, with what the shell's own marks are taken from it.
+std::string Plain(const std::string& text, const std::string& marks) {
+    std::string plain;
+    for (const char letter : text) {
+        if (marks.find(letter) != std::string::npos) {
+            plain += '\\';
+        }
+        plain += letter == '\'' ? "'\\''" : std::string(1, letter);
+    }
+    return plain;
+}
+
+std::string ValueOf(const OptionText& option) {
+    if (option.value.empty()) {
+        return "";
+    }
+    const std::string what = option.isFile            ? "_files"
+                             : option.choices.empty() ? " "
+                                                      : "(" + Joined(option.choices, " ") + ")";
+    return ":" + option.value + ":" + what;
+}
+
+std::string ArgumentOf(const OptionText& option) {
+    if (option.isPositional) {
+        return " '1" + ValueOf(option) + "'";
+    }
+    std::string all;
+    for (const std::string& name : option.names) {
+        all += " '" + name + "[" + Plain(option.description, "[]:") + "]" + ValueOf(option) + "'";
+    }
+    return all;
+}
+
+}  // namespace
+
+std::string ZshCompletion(const std::vector<CommandText>& commands) {
+    std::string names;
+    std::string words;
+    for (const CommandText& command : commands) {
+        names += "        '" + command.name + ":" + Plain(command.description, ":") + "'\n";
+        words += "                " + command.name + ") _arguments";
+        for (const OptionText& option : command.options) {
+            words += ArgumentOf(option);
+        }
+        words += " ;;\n";
+    }
+    return kHead + names + kMiddle + words + kFoot;
+}
+
+}  // namespace horavex
