@@ -1,5 +1,6 @@
 #include "shell/face_shape.h"
 
+#include "base/program_state.h"
 #include "platform/platform.h"
 #include "store/face_options.h"
 #include "store/save_change.h"
@@ -9,52 +10,72 @@ namespace horavex {
 
 namespace {
 
-bool IsOn(const WholeOption& option) {
+/// What the user sees, whether it could be stored or not.
+struct Choices {
+    bool small = false;
+    bool fillsScreen = false;
+    bool above = false;
+};
+Choices chosen;
+
+const ProgramStateReset reset([] { chosen = {}; });
+
+bool IsStored(const WholeOption& option) {
     return ReadOption(option) != 0;
 }
 
 void CheckEntries() {
     for (MenuItem* entry : {&frmMain->mnuSmall, &frmMain->mnuPopSmall}) {
-        entry->SetChecked(IsOn(option::kFaceSmall));
+        entry->SetChecked(chosen.small);
     }
     for (MenuItem* entry : {&frmMain->mnuFullScreen, &frmMain->mnuPopFullScreen}) {
-        entry->SetChecked(IsOn(option::kFaceFullScreen));
+        entry->SetChecked(chosen.fillsScreen);
     }
     for (MenuItem* entry : {&frmMain->mnuAbove, &frmMain->mnuPopAbove}) {
-        entry->SetChecked(IsOn(option::kFaceAbove));
+        entry->SetChecked(chosen.above);
     }
 }
 
-void TakeShape() {
-    Ports().face.TakeShape({IsOn(option::kFaceSmall), IsOn(option::kFaceFullScreen)});
-    CheckEntries();
+/// A face that fills the screen has the other one beneath it.
+bool StandsAbove() {
+    return chosen.above && !chosen.fillsScreen;
 }
 
-void Turn(const WholeOption& option) {
-    SaveChange(option, IsOn(option) ? 0 : 1, 0);
-    TakeShape();
+void Take(const Choices& choices) {
+    const bool stoodAbove = StandsAbove();
+    chosen = choices;
+    Ports().face.TakeShape({chosen.small, chosen.fillsScreen});
+    CheckEntries();
+    if (StandsAbove() != stoodAbove) {
+        Ports().windows.SetTopMost(frmMain->Name(), StandsAbove());
+    }
+}
+
+/// Turns a choice over, and stores it where that can be done.
+void Turn(bool Choices::*choice, const WholeOption& option) {
+    Choices choices = chosen;
+    choices.*choice = !(choices.*choice);
+    Take(choices);
+    SaveChange(option, chosen.*choice ? 1 : 0, 0);
 }
 
 }  // namespace
 
 void ShowFaceShape() {
-    TakeShape();
-    if (IsOn(option::kFaceAbove)) {
-        Ports().windows.SetTopMost(frmMain->Name(), true);
-    }
+    Take({IsStored(option::kFaceSmall), IsStored(option::kFaceFullScreen),
+          IsStored(option::kFaceAbove)});
 }
 
 void TurnFaceSmall() {
-    Turn(option::kFaceSmall);
+    Turn(&Choices::small, option::kFaceSmall);
 }
 
 void TurnFaceFullScreen() {
-    Turn(option::kFaceFullScreen);
+    Turn(&Choices::fillsScreen, option::kFaceFullScreen);
 }
 
 void TurnFaceAbove() {
-    Turn(option::kFaceAbove);
-    Ports().windows.SetTopMost(frmMain->Name(), IsOn(option::kFaceAbove));
+    Turn(&Choices::above, option::kFaceAbove);
 }
 
 void BindFaceShape() {

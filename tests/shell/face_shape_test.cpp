@@ -8,7 +8,6 @@ namespace horavex {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class FaceShapeTest : public ProgramTest {
 protected:
@@ -55,12 +54,40 @@ TEST_F(FaceShapeTest, AboveIsTakenAtOnceAndGivenUpAgain) {
     EXPECT_THAT(platform.desktop.calls, ElementsAre("SetTopMost frmMain", "SetNotTopMost frmMain"));
 }
 
+TEST_F(FaceShapeTest, AboveIsGivenUpWhileTheFaceFillsTheScreen) {
+    StartAgain();
+    frmMain->mnuAbove.UserClick();
+    frmMain->mnuFullScreen.UserClick();
+    EXPECT_TRUE(frmMain->mnuAbove.Checked());
+    frmMain->mnuFullScreen.UserClick();
+    EXPECT_THAT(platform.desktop.calls,
+                ElementsAre("SetTopMost frmMain", "SetNotTopMost frmMain", "SetTopMost frmMain"));
+}
+
+TEST_F(FaceShapeTest, EachIsTurnedOverWhereNothingCanBeStored) {
+    Store(option::kFaceFullScreen);
+    StartAgain();
+    platform.registry.DenyWriting(true);
+    OnFaceCommand("IDC_FS_fullScreen");
+    EXPECT_EQ(platform.face.shape, FaceShape());
+    EXPECT_FALSE(frmMain->mnuFullScreen.Checked());
+    frmMain->mnuSmall.UserClick();
+    EXPECT_EQ(platform.face.shape, (FaceShape{true, false}));
+    frmMain->mnuAbove.UserClick();
+    EXPECT_THAT(platform.desktop.calls, ElementsAre("SetTopMost frmMain"));
+}
+
 TEST_F(FaceShapeTest, WhatWasChosenIsThereAgainAtTheNextStart) {
     Store(option::kFaceSmall);
     Store(option::kFaceFullScreen);
-    Store(option::kFaceAbove);
     Start();
     EXPECT_EQ(platform.face.shape, (FaceShape{true, true}));
+    EXPECT_TRUE(frmMain->mnuFullScreen.Checked());
+}
+
+TEST_F(FaceShapeTest, AboveIsThereAgainAtTheNextStart) {
+    Store(option::kFaceAbove);
+    Start();
     EXPECT_THAT(platform.desktop.calls, testing::Contains("SetTopMost frmMain"));
     EXPECT_TRUE(frmMain->mnuAbove.Checked());
 }
