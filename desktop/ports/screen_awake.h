@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QString>
 #include <memory>
 
 namespace horavex {
 
 /// Keeps the screen on as long as it lives, by a request to the desktop
-/// (org.freedesktop.ScreenSaver). A desktop without that service does as it likes.
+/// (org.freedesktop.ScreenSaver), which is asked anew when that service comes later or starts
+/// again. A desktop without it does as it likes.
 class ScreenAwake {
 public:
     explicit ScreenAwake(const QString& reason,
@@ -17,6 +20,11 @@ public:
 
 private:
     struct Request;
+
+    void Ask();
+
+    QString reason_;
+    QDBusServiceWatcher owner_;
     std::shared_ptr<Request> request_;  // its answer may outlive this
 };
 

@@ -2,39 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
-
-#include "desktop/private_bus.h"
+#include "desktop/screen_service.h"
 
 namespace horavex {
 namespace {
-
-/// A desktop's service that keeps the screen on by request.
-class ScreenService : public QDBusVirtualObject {
-public:
-    explicit ScreenService(QDBusConnection bus) : bus_(std::move(bus)) {
-        bus_.registerVirtualObject(QStringLiteral("/org/freedesktop/ScreenSaver"), this);
-        bus_.registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
-    }
-
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-        calls << message.member();
-        if (message.member() == "Inhibit") {
-            bus.send(message.createReply(QVariant(uint{42})));
-        } else {
-            cookies << message.arguments().at(0).toUInt();
-        }
-        return true;
-    }
-
-    QStringList calls;
-    QList<uint> cookies;
-
-private:
-    QDBusConnection bus_;
-};
 
 class ScreenAwakeTest : public testing::Test {
 protected:
@@ -55,6 +26,45 @@ TEST_F(ScreenAwakeTest, RequestStandsAsLongAsTheObjectLives) {
 TEST_F(ScreenAwakeTest, AnswerThatComesTooLateIsTakenBack) {
     { const ScreenAwake awake("x", own); }
     EXPECT_TRUE(Until([this] { return service.cookies == QList<uint>{42}; }));
+}
+
+TEST_F(ScreenAwakeTest, ServiceThatComesLaterIsAskedThen) {
+    service.GiveUpName();
+    bus.Settle();
+    {
+        const ScreenAwake awake("x", own);
+        bus.Settle();
+        EXPECT_EQ(service.calls, QStringList());
+        service.TakeName();
+        EXPECT_TRUE(Until([this] { return service.calls == QStringList{"Inhibit"}; }));
+        bus.Settle();
+    }
+    EXPECT_TRUE(Until([this] { return service.cookies == QList<uint>{42}; }));
+}
+
+TEST_F(ScreenAwakeTest, ServiceThatStartsAgainIsAskedAgainAndKnowsTheLastRequestAlone) {
+    {
+        const ScreenAwake awake("x", own);
+        EXPECT_TRUE(Until([this] { return service.calls.size() == 1; }));
+        bus.Settle();
+        service.GiveUpName();
+        bus.Settle();
+        service.TakeName();
+        EXPECT_TRUE(Until([this] { return service.calls.size() == 2; }));
+        bus.Settle();
+    }
+    EXPECT_TRUE(Until([this] { return service.cookies == QList<uint>{43}; }));
+    bus.Settle();
+    EXPECT_EQ(service.calls, (QStringList{"Inhibit", "Inhibit", "UnInhibit"}));
+}
+
+TEST_F(ScreenAwakeTest, WithoutTheServiceNothingIsLeftBehind) {
+    service.GiveUpName();
+    bus.Settle();
+    { const ScreenAwake awake("x", own); }
+    service.TakeName();
+    bus.Settle();
+    EXPECT_EQ(service.calls, QStringList());
 }
 
 }  // namespace
