@@ -43,15 +43,15 @@ void AddEntry(QMenu& menu, MenuItem& item) {
     action->setData(QVariant::fromValue<void*>(&item));
 }
 
-/// A menu that is left sideways by the arrow keys, as one of a bar.
+/// A menu that may be left sideways by the arrow keys, as one of a bar.
 class SteppedMenu : public QMenu {
 public:
-    using QMenu::QMenu;
+    SteppedMenu(QWidget* parent, bool steps) : QMenu(parent), steps_(steps) {}
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         const int step = event->key() == Qt::Key_Left ? -1 : event->key() == Qt::Key_Right ? 1 : 0;
-        if (step == 0 || OpensSubmenu(step) || parentWidget() == nullptr) {
+        if (step == 0 || OpensSubmenu(step) || !steps_ || parentWidget() == nullptr) {
             QMenu::keyPressEvent(event);
             return;
         }
@@ -65,6 +65,8 @@ private:
         const QAction* entry = activeAction();
         return step == inwards && entry != nullptr && entry->menu() != nullptr;
     }
+
+    bool steps_;
 };
 
 }  // namespace
@@ -99,12 +101,12 @@ MenuItem* ItemOf(const QAction* action) {
     return action == nullptr ? nullptr : static_cast<MenuItem*>(action->data().value<void*>());
 }
 
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QPalette& colours) {
-    SteppedMenu shown(parent);
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const MenuLook& look) {
+    SteppedMenu shown(parent, look.steps);
     FillMenu(shown, menu);
-    shown.setPalette(colours);
+    shown.setPalette(look.colours);
     for (QMenu* inner : shown.findChildren<QMenu*>()) {
-        inner->setPalette(colours);
+        inner->setPalette(look.colours);
     }
     MenuItem* chosen = ItemOf(shown.exec(place));
     if (chosen != nullptr) {

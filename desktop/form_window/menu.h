@@ -22,9 +22,14 @@ MenuItem* ItemOf(const QAction* action);
 /// property of the window that it was opened in.
 inline constexpr const char* kMenuStep = "menuStep";
 
+/// How a menu is shown.
+struct MenuLook {
+    QPalette colours;    // by default the desktop's
+    bool steps = false;  // the arrow keys leave it sideways for a neighbour
+};
+
 /// Opens a menu at a place of the screen, in pixels, and clicks what the user chooses. Returns
-/// when the menu is closed and the click's work is done; events are delivered meanwhile. colours:
-/// its own; by default the desktop's.
-void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const QPalette& colours = {});
+/// when the menu is closed and the click's work is done; events are delivered meanwhile.
+void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const MenuLook& look = {});
 
 }  // namespace horavex

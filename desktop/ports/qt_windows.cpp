@@ -48,7 +48,7 @@ void QtWindows::StartDrag(const std::string& form) {
 void QtWindows::PopUpMenu(const std::string& form, const std::string& menu, int x, int y) {
     const FormWindow* window = windows_.Find(form);
     if (window != nullptr) {
-        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)), FaceMenuColours());
+        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)), {FaceMenuColours(), true});
     }
 }
 
@@ -58,11 +58,11 @@ void QtWindows::PopUpMenuAtPointer(const std::string& form, const std::string& m
 
 // Only the face has menus at a place of its own. A hidden window cannot stand behind its menu.
 void QtWindows::RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                          const QPalette& colours) {
+                          const MenuLook& look) {
     FormWindow* window = windows_.Find(form);
     const MenuItem* item = window == nullptr ? nullptr : FindMenu(window->Shown(), menu);
     if (item != nullptr) {
-        RunMenu(*item, window->isVisible() ? window : nullptr, place, colours);
+        RunMenu(*item, window->isVisible() ? window : nullptr, place, look);
     }
 }
 

@@ -7,6 +7,8 @@ class QPrinter;
 
 namespace horavex {
 
+struct MenuLook;
+
 /// Puts a picture of a window onto one page, at most as large as the page is.
 void PrintWindow(QWidget& window, QPrinter& printer);
 
@@ -27,7 +29,7 @@ public:
 
 private:
     void RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                   const QPalette& colours);
+                   const MenuLook& look);
 
     const FormWindows& windows_;
 };

@@ -161,6 +161,18 @@ TEST_F(MenuTest, ArrowKeysLeaveAMenuSidewaysButForASubmenu) {
     EXPECT_EQ(stepAfter(0, Qt::Key_Down), 0);
 }
 
+TEST_F(MenuTest, ArrowKeysDoNotCloseTheMenuOfTheIcon) {
+    frmMain->Show();
+    bool wasLeft = true;
+    WhenOpen([&](QMenu& menu) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &press);
+        wasLeft = !menu.isVisible();
+    });
+    port.PopUpMenuAtPointer("frmMain", "mnuPopup");
+    EXPECT_FALSE(wasLeft);
+}
+
 TEST_F(MenuTest, MenusOfTheFaceAreInItsColoursAndTheIconsInTheDesktops) {
     frmMain->Show();
     frmMain->mnuL.Load(1).SetCaption("Arabic");
