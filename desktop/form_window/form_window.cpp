@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPainter>
@@ -107,17 +106,7 @@ void FormWindow::Retire() {
     if (modalLoop_ != nullptr) {
         modalLoop_->quit();
     }
-    DeleteBehindDialogs();
-}
-
-// A dialogue over the window is its child, and must not be taken along while it is open.
-void FormWindow::DeleteBehindDialogs() {
-    const auto open = findChildren<QDialog*>(Qt::FindDirectChildrenOnly);
-    if (open.isEmpty()) {
-        deleteLater();
-    } else {
-        connect(open.front(), &QObject::destroyed, this, &QObject::deleteLater);
-    }
+    DeleteBehindDialogs(*this);
 }
 
 void FormWindow::ControlChanged(Control& control) {
@@ -244,7 +233,7 @@ void FormWindow::Present() {
     setWindowModality(form_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
     winId();  // makes the window of the platform, which the owner is set on
     if (placedByProgram_) {
-        StayUsable();
+        usable_.Belong();
     } else {
         windowHandle()->setTransientParent(WindowBehind());
         FitScreen();
@@ -271,21 +260,6 @@ void FormWindow::FitScreen() {
 // A window that comes up by itself over a modal one would be shut off without it.
 QWindow* FormWindow::WindowBehind() const {
     return owner_ != nullptr ? owner_->windowHandle() : QGuiApplication::modalWindow();
-}
-
-// An athan can be stopped whatever is open: what belongs to the topmost modal window is not shut
-// off. Once that one goes, another may be the topmost.
-void FormWindow::StayUsable() {
-    disconnect(modalWindow_);
-    QWindow* const modal = QGuiApplication::modalWindow();
-    if (modal != nullptr && modal->transientParent() == windowHandle()) {
-        modal->setTransientParent(nullptr);  // two windows never belong to each other
-    }
-    windowHandle()->setTransientParent(modal);
-    if (modal != nullptr) {
-        modalWindow_ = connect(modal, &QWindow::visibleChanged, this, &FormWindow::StayUsable,
-                               Qt::QueuedConnection);
-    }
 }
 
 void FormWindow::FollowFocus() {
@@ -332,7 +306,7 @@ void FormWindow::RunUntilHidden() {
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked && placedByProgram_) {
-        StayUsable();
+        usable_.Belong();
     }
     if (event->type() == QEvent::WindowActivate && !retired_) {
         RunGuarded([this] { form_.UserActivate(); });
@@ -340,8 +314,12 @@ bool FormWindow::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+// A key that is held down closes one window and not the next one, too.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     QPushButton* button = nullptr;
+    if (event->key() == Qt::Key_Escape && event->isAutoRepeat()) {
+        return;
+    }
     if (event->key() == Qt::Key_F1 && !retired_) {
         RunGuarded([this] { form_.UserHelp(); });
         return;

@@ -9,6 +9,7 @@
 #include "desktop/form_window/binder.h"
 #include "desktop/form_window/layouts.h"
 #include "desktop/form_window/timer_drive.h"
+#include "desktop/form_window/usable_window.h"
 #include "forms/form.h"
 
 class QEventLoop;
@@ -22,7 +23,7 @@ namespace horavex {
 /// A layout may name its window "placedByProgram": the place is then the form's alone, the window
 /// takes no keyboard as it comes up, and it is seen on the screen alone by which it was placed,
 /// that of the program's face: what lies beyond its edges is masked, on the monitors around it,
-/// too. No modal window shuts it off, whoever opened it.
+/// too. No modal window shuts it off, whoever opened it, and none that fills the screen hides it.
 ///
 /// A window comes up no larger than the work area with its frame; what a layout scrolls makes room.
 /// It grows when it gets more to show.
@@ -66,7 +67,6 @@ private:
     void RefreshLater(Control& control);
     void FlushLater();
 
-    void DeleteBehindDialogs();
     void FollowForm();
     void FollowPlace();
     void FollowVisibility();
@@ -78,7 +78,6 @@ private:
     void FitScreen();
     void GrowWithContent();
     QWindow* WindowBehind() const;
-    void StayUsable();
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
@@ -94,8 +93,8 @@ private:
     const bool placedByProgram_;
     QRect itsScreen_;  // of a window that is placed by the program, pixels
     QPointer<const QWidget> owner_;
-    QMetaObject::Connection modalWindow_;  // to the one that does not shut this one off
-    QEventLoop* modalLoop_ = nullptr;      // of the innermost RunUntilHidden
+    UsableWindow usable_{*this};       // where the program places it
+    QEventLoop* modalLoop_ = nullptr;  // of the innermost RunUntilHidden
 };
 
 }  // namespace horavex

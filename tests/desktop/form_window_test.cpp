@@ -223,6 +223,14 @@ TEST_F(FormWindowKeysTest, EscapePressesTheButtonThatCancels) {
     EXPECT_TRUE(form.IsLoaded());
 }
 
+TEST_F(FormWindowKeysTest, EscapeThatIsHeldDownDoesNotCloseTheNextWindowToo) {
+    form.onCloseRequest = [this](CloseRequest&) { ++clicks; };
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&Window(), &repeated);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(form.IsLoaded());
+}
+
 TEST_F(FormWindowKeysTest, EscapeClosesAWindowWithoutSuchAButtonFromEveryKindOfControl) {
     form.onCloseRequest = [this](CloseRequest& request) {
         ++clicks;

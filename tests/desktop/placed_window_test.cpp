@@ -193,5 +193,18 @@ TEST_F(PlacedWindowTest, WindowThatComesUpOverAModalOneCanBeUsed) {
     EXPECT_TRUE(Window().isVisible()) << "it outlives the modal window";
 }
 
+TEST_F(PlacedWindowTest, StandsInFrontOfAWindowThatFillsTheScreen) {
+    QWidget filling;
+    filling.showFullScreen();
+    form.Load();
+    MoveTo(1500, 1500);
+    form.Show();
+    EXPECT_EQ(Window().windowHandle()->transientParent(), filling.windowHandle());
+    filling.hide();
+    QApplication::processEvents();
+    EXPECT_EQ(Window().windowHandle()->transientParent(), nullptr);
+    EXPECT_TRUE(Window().isVisible());
+}
+
 }  // namespace
 }  // namespace horavex

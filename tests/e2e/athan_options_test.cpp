@@ -85,6 +85,19 @@ TEST_F(AthanOptionsTest, NotificationBringsTheHiddenFaceBackAndTheAthanGoesOn) {
     recording.WaitForSound(recording.Taken().size());
 }
 
+TEST_F(AthanProgramTest, WindowRisesOverTheFaceThatFillsTheScreenAndCanBeStopped) {
+    StoreOptions({{"Face Full Screen", "1"}});
+    const ChildProcess program = Start();
+    desktop.WaitForAnother(program, {}, 900);
+    GoTo(kAsr);
+    const std::string window = WaitForAthan(program);
+    desktop.SaveScreen("athan-over-full-screen");
+    SetClock(SecondOf(kAsr) + 60);
+    ExpectTicks();
+    PressStop(window);
+    EXPECT_TRUE(WaitUntil("a stopped athan", [&] { return !IsOnView(program); }));
+}
+
 TEST_F(AthanProgramTest, WithoutANotificationServiceTheWindowRisesAsEver) {
     StoreOptions({{"Athan Shown", "notification"}});
     const ChildProcess program = Start();
