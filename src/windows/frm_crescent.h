@@ -30,6 +30,8 @@ public:
     Label lblShownNewMoon{*this, "lblShownNewMoon", {.caption = "New moon"}};
     Grid grdEvenings{*this, "grdEvenings"};
 
+    /// What the map shows, for assistive tools alone.
+    Label lblMap{*this, "lblMap", {.caption = "Where the crescent can be seen", .visible = false}};
     Picture picMap{*this, "picMap", {.width = 10800, .height = 5490}};
 
     Label lblEvening{*this, "lblEvening", {.caption = "Evening of the map"}};

@@ -111,6 +111,15 @@ TEST_P(ToolsWindowsTest, RunInTheDirectionOfTheLanguage) {
     });
 }
 
+TEST_P(ToolsWindowsTest, MapOfTheCrescentIsNamedByWhatItShows) {
+    Visit(frmMain->mnuCrescent, *frmCrescent, [&] {
+        QApplication::processEvents();
+        const auto& map = *windows->Find(&*frmCrescent)->findChild<QWidget*>("picMap");
+        EXPECT_EQ(map.accessibleName().toStdString(), frmCrescent->lblMap.Caption());
+        EXPECT_NE(map.accessibleName(), "");
+    });
+}
+
 TEST_P(ToolsWindowsTest, RowsOfTheTablesStandBesideTheirDiscs) {
     Visit(frmMain->mnuMoonPhases, *Moon_Phases, [&] {
         const FormWindow& window = *windows->Find(&*Moon_Phases);
