@@ -19,10 +19,9 @@ QString Text(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-/// The moment in words: the name that the pack has given, the user's form of a time.
-PrayerEntry EntryOf(std::size_t prayer, const Moment& moment) {
-    return {Text(frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption()),
-            Text(MomentText(moment))};
+/// The name that the pack has given.
+QString NameOf(std::size_t prayer) {
+    return Text(frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption());
 }
 
 /// A prayer of tomorrow that comes next stands in its row in place of today's: what is marked is
@@ -60,7 +59,8 @@ FaceDay FaceDayOf(const DayView& day) {
     FaceDay face;
     const DayMoments moments = ShownMoments(day);
     for (std::size_t prayer = 0; prayer < moments.size(); ++prayer) {
-        face.rows.push_back(EntryOf(prayer, moments[prayer]));
+        face.rows.push_back({NameOf(prayer), Text(MomentText(moments[prayer]))});
+        face.cells.push_back({NameOf(prayer), Text(MomentCell(moments[prayer]))});
         face.iqamas.push_back(IqamaOf(moments[prayer], day.iqamaMinutes[prayer]));
         face.arc.push_back(PartOfDay(moments[prayer]));
     }
@@ -74,7 +74,7 @@ FaceDay FaceDayOf(const DayView& day) {
     face.place = Text(day.place);
     face.clocks = Text(day.clocks);
     face.iqama = Text(day.iqama);
-    face.timesNote = Text(RuleNote(day.moments, RuledYear.rules.moments.highLatitude));
+    face.timesNote = Text(RuleNote(moments, RuledYear.rules.moments.highLatitude));
     face.sky = day.sky;
     return face;
 }

@@ -15,6 +15,7 @@ struct DayView;
 /// What the shapes of the face show of a day, in the words of the pack.
 struct FaceDay {
     std::vector<PrayerEntry> rows;           // by prayer
+    std::vector<PrayerEntry> cells;          // the same in short, where there is little room
     std::vector<QString> iqamas;             // below them; empty where none is told
     std::vector<std::optional<double>> arc;  // where they stand in the day; nothing for no time
     std::size_t next = 0;                    // the row to mark

@@ -5,44 +5,41 @@
 #include <optional>
 
 #include "desktop/face/face_day.h"
+#include "desktop/face/poster_layout.h"
 #include "desktop/face/sky_ground.h"
+#include "desktop/form_window/usable_window.h"
 
 namespace horavex {
 
-/// The face for a wall: it fills a screen and is read from across a hall. Type is a part of the
-/// screen's height. It shows no pointer; Escape and F11 ask to leave it.
+/// The face for a wall: it fills a screen and is read from across a hall. It shows no pointer;
+/// Escape, F11, a double click or tap, and the window manager's own way to close it ask to leave.
 class PosterView : public QWidget {
 public:
     explicit PosterView(std::function<void()> leave);
 
-    void ShowDay(const FaceDay& day);
+    /// Comes up over a screen, and over what is open there.
+    void Fill(QScreen& screen);
 
-    /// Weekday, Gregorian and Hijri date in words.
-    void ShowDates(const QString& day, const QString& date, const QString& hijri);
+    void ShowDay(const FaceDay& day);
+    void ShowDates(const PosterDates& dates);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QRectF Line(double top, double height) const;
-    QRect CountdownArea() const;
-    QRectF Cell(std::size_t prayer) const;
     void PlanGround();
-    void PaintDates(QPainter& painter) const;
-    void PaintClock(QPainter& painter) const;
-    void PaintCountdown(QPainter& painter) const;
-    void PaintPrayer(QPainter& painter, std::size_t prayer) const;
-    void Write(QPainter& painter, const QRectF& area, double part, const QColor& colour,
-               const QString& text, bool bold = false) const;
+    void MarkNext(QPainter& painter) const;
 
     std::function<void()> leave_;
+    UsableWindow usable_{*this};
+    PosterLayout layout_;
     std::optional<SkyGround> ground_;
     std::optional<FaceDay> day_;
-    QString weekday_;
-    QString date_;
-    QString hijri_;
+    PosterDates dates_;
 };
 
 }  // namespace horavex

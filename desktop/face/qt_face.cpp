@@ -4,10 +4,36 @@
 #include <QScreen>
 #include <QShortcut>
 
-#include "desktop/form_window/face_screen.h"
+#include "desktop/form_window/fit_screen.h"
+#include "desktop/form_window/usable_window.h"
 #include "engine/day_view.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
+
+namespace {
+
+// Desktops show it to whoever asks why the screen stays on.
+QString ReasonToStayOn() {
+    return QString::fromStdString(
+        GetLangString("desktop", "FillsScreen", "Prayer times fill the screen"));
+}
+
+/// A window that has grown stays on its screen.
+void KeepOnScreen(QWidget& window) {
+    window.layout()->activate();
+    const QRect area = window.screen()->availableGeometry();
+    const QPoint place = PutInto(area, window.geometry(), {}).topLeft();
+    if (place != window.pos()) {
+        window.move(place);
+    }
+}
+
+}  // namespace
+
+QtFace::~QtFace() {
+    delete poster_.data();
+}
 
 // With the last of the captions another language may have come.
 void QtFace::SetVariable(const std::string& name, const std::string& value) {
@@ -15,6 +41,7 @@ void QtFace::SetVariable(const std::string& name, const std::string& value) {
     FaceView* view = LoadedView();
     if (view != nullptr && name == "prayer_time") {
         view->NameSigns(DesktopWord("Minimize"), DesktopWord("Close"));
+        NameStrip();
     }
 }
 
@@ -34,7 +61,7 @@ void QtFace::ShowInShapes(FaceView& view) {
         strip_->ShowDay(day_);
     }
     if (poster_ != nullptr) {
-        poster_->ShowDates(view.Weekday(), view.DateText(), view.HijriText());
+        poster_->ShowDates({view.Weekday(), view.DateText(), view.HijriText()});
         poster_->ShowDay(day_);
     }
 }
@@ -44,6 +71,12 @@ void QtFace::TakeShape(const FaceShape& shape) {
         TakeStrip(*view, shape.small);
         TakePoster(*view, shape.fillsScreen);
         ShowInShapes(*view);
+    }
+}
+
+void QtFace::NameStrip() {
+    if (strip_ != nullptr) {
+        strip_->NameSign(DesktopWord("NormalSize"));
     }
 }
 
@@ -57,12 +90,14 @@ void QtFace::TakeStrip(FaceView& view, bool small) {
         strip_ = new StripView;
         strip_->onCommand = view.onCommand;
         view.parentWidget()->layout()->addWidget(strip_);
+        NameStrip();
         strip_->setFocus();
     } else {
         strip_->hide();
         strip_->deleteLater();
         strip_.clear();
     }
+    KeepOnScreen(*view.window());
 }
 
 void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
@@ -71,14 +106,13 @@ void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
     }
     if (fillsScreen) {
         poster_ = new PosterView([&view] { view.onCommand("IDC_FS_fullScreen"); });
-        awake_ = std::make_unique<ScreenAwake>(QStringLiteral("Prayer times fill the screen"));
-        poster_->setGeometry(FaceScreen().geometry());
-        poster_->showFullScreen();
-        poster_->activateWindow();
+        awake_ = std::make_unique<ScreenAwake>(ReasonToStayOn(), bus_());
+        painting_->LieBeneath(*poster_);
+        poster_->Fill(*view.screen());
     } else {
         awake_.reset();
         poster_->hide();
-        poster_->deleteLater();
+        DeleteBehindDialogs(*poster_);
         poster_.clear();
     }
 }
@@ -88,7 +122,9 @@ void QtFace::Fill(QWidget& window) {
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     auto* view = new FaceView(QTime::currentTime, language_);
     FillWithView(window, view);
+    painting_ = new PaintWhenSeen(window);
     auto* fullScreen = new QShortcut(Qt::Key_F11, &window);
+    fullScreen->setAutoRepeat(false);
     QObject::connect(fullScreen, &QShortcut::activated, view,
                      [view] { view->onCommand("IDC_FS_fullScreen"); });
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QPointer>
+#include <functional>
 #include <memory>
 #include <utility>
 
 #include "desktop/face/face_view.h"
+#include "desktop/face/paint_when_seen.h"
 #include "desktop/face/painted_face.h"
 #include "desktop/face/poster_view.h"
 #include "desktop/face/strip_view.h"
@@ -16,7 +19,14 @@ namespace horavex {
 /// in a window of its own in front of that.
 class QtFace : public PaintedFace<FaceView> {
 public:
-    explicit QtFace(FaceView::Language language = {}) : language_(std::move(language)) {}
+    /// A bus of the session, which is asked for when it is needed.
+    using Bus = std::function<QDBusConnection()>;
+
+    explicit QtFace(FaceView::Language language = {}, Bus bus = QDBusConnection::sessionBus)
+        : language_(std::move(language)), bus_(std::move(bus)) {}
+    ~QtFace() override;
+    QtFace(const QtFace&) = delete;
+    QtFace& operator=(const QtFace&) = delete;
 
     void SetVariable(const std::string& name, const std::string& value) override;
     void ShowDay(const DayView& day) override;
@@ -26,13 +36,16 @@ public:
     void Fill(QWidget& window);
 
 private:
+    void NameStrip();
     void TakeStrip(FaceView& view, bool small);
     void TakePoster(FaceView& view, bool fillsScreen);
     void ShowInShapes(FaceView& view);
 
     FaceView::Language language_;
+    Bus bus_;
     FaceDay day_;
-    QPointer<StripView> strip_;  // belongs to the window
+    QPointer<StripView> strip_;         // belongs to the window, as the next one
+    QPointer<PaintWhenSeen> painting_;  // of the window
     QPointer<PosterView> poster_;
     std::unique_ptr<ScreenAwake> awake_;  // while the poster is up
 };

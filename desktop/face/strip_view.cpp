@@ -1,11 +1,15 @@
 #include "desktop/face/strip_view.h"
 
+#include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 #include "desktop/face/countdown_line.h"
 #include "desktop/face/face_button.h"
 #include "desktop/face/face_day.h"
+#include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/text_line.h"
 #include "sky/day_sky.h"
@@ -20,38 +24,60 @@ constexpr QRect kNext(14, 2, 190, 40);
 constexpr QRect kCountdown(204, 2, 114, 40);
 constexpr QRect kWhole(326, 9, 26, 26);
 
-const TextLine::Look kNextLook{17, kCream, Qt::AlignLeading | Qt::AlignVCenter};
+constexpr int kNextSize = 17;
+constexpr int kGap = 10;
+
+const TextLine::Look kNextLook{kNextSize, kCream, Qt::AlignLeading | Qt::AlignVCenter};
 const TextLine::Look kCountdownLook{25, kGold, Qt::AlignCenter};
 
 }  // namespace
 
 StripView::StripView()
     : ground_({kStrip, {}, {}, {}}),
-      next_(new TextLine(this, kNextLook)),
+      name_(new TextLine(this, kNextLook)),
+      time_(new TextLine(this, kNextLook)),
       countdown_(new TextLine(this, kCountdownLook)),
       whole_(new SignButton(this, SignButton::Sign::kWhole)) {
     setFixedSize(kStrip.size());
     setContextMenuPolicy(Qt::PreventContextMenu);
-    next_->setGeometry(kNext);
     countdown_->setGeometry(kCountdown);
     whole_->setGeometry(kWhole);
     setFocusProxy(whole_);
     whole_->setObjectName(QStringLiteral("IDC_FS_small"));
-    const QString name = DesktopWord("NormalSize");
-    whole_->setAccessibleName(name);
-    whole_->setToolTip(name);
     connect(whole_, &QAbstractButton::clicked, this, [this] { Tell("IDC_FS_small"); });
 }
 
 void StripView::ShowDay(const FaceDay& day) {
     const PrayerEntry& next = day.rows.at(day.next);
-    next_->ShowText(next.name + QStringLiteral("  ") + next.time);
+    name_->ShowText(next.name);
+    time_->ShowText(next.time);
+    PlaceTexts();
     countdown_->ShowText(CountdownDigits(day.seconds));
     if (day.sky != nullptr && day.sky != sky_) {
         sky_ = day.sky;
         ground_.ShowSun(sky_->sunAltitude);
         update();
     }
+}
+
+// Behind the name, in the order of its script, stands the time, which is never cut.
+void StripView::PlaceTexts() {
+    const auto widthOf = [](const TextLine& line) {
+        const QFontMetricsF metrics(FaceFont(kNextSize));
+        return static_cast<int>(std::ceil(metrics.horizontalAdvance(line.text())));
+    };
+    const int time = std::min(widthOf(*time_), kNext.width());
+    const int name = std::clamp(widthOf(*name_), 0, std::max(0, kNext.width() - kGap - time));
+    const bool fromRight = DirectionOf(name_->text()) == Qt::RightToLeft;
+    const int nameAt = fromRight ? kNext.right() + 1 - name : kNext.left();
+    const int timeAt = fromRight ? nameAt - kGap - time : nameAt + name + kGap;
+    name_->setGeometry(nameAt, kNext.top(), name, kNext.height());
+    time_->setGeometry(timeAt, kNext.top(), time, kNext.height());
+}
+
+void StripView::NameSign(const QString& whole) {
+    whole_->setAccessibleName(whole);
+    whole_->setToolTip(whole);
 }
 
 void StripView::Tell(const char* command) {

@@ -21,6 +21,9 @@ public:
 
     void ShowDay(const FaceDay& day);
 
+    /// Names the button, for assistive tools and whoever points at it.
+    void NameSign(const QString& whole);
+
     /// What the user asks for.
     std::function<void(const std::string& command)> onCommand;
 
@@ -29,11 +32,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PlaceTexts();
     void Tell(const char* command);
 
     SkyGround ground_;
     std::shared_ptr<const DaySky> sky_;
-    TextLine* next_;
+    TextLine* name_;
+    TextLine* time_;
     TextLine* countdown_;
     SignButton* whole_;
 };

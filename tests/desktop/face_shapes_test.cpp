@@ -3,58 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QShortcut>
 
-#include "desktop/face/poster_view.h"
-#include "desktop/face/qt_face.h"
-#include "desktop/face/strip_view.h"
-#include "desktop/face_values.h"
-#include "sky/day_sky.h"
-#include "support/test_platform.h"
+#include "desktop/face/fitted_text.h"
+#include "desktop/face/text_line.h"
+#include "desktop/face_shapes_fixture.h"
+#include "desktop/screen_service.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
 namespace {
-
-PosterView* Poster() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* poster = dynamic_cast<PosterView*>(widget);
-            poster != nullptr && poster->isVisible()) {
-            return poster;
-        }
-    }
-    return nullptr;
-}
-
-class FaceShapesTest : public testing::Test {
-protected:
-    FaceShapesTest() {
-        face.onFSCommand = [this](const std::string& command, const std::string&) {
-            commands.push_back(command);
-        };
-        face.Fill(window);
-        face.LoadMovie(0, "");
-        window.show();
-        TellEnglish(face);
-    }
-
-    static void Press(QWidget& widget, Qt::Key key) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier);
-            QApplication::sendEvent(&widget, &event);
-        }
-    }
-    StripView* Strip() { return dynamic_cast<StripView*>(window.layout()->itemAt(1)->widget()); }
-    QSize SizeOfWindow() {
-        QApplication::processEvents();
-        return window.size();
-    }
-
-    TestPlatform platform;
-    QtFace face;
-    QWidget window;
-    std::vector<std::string> commands;
-};
 
 TEST_F(FaceShapesTest, SmallFaceIsALineAndTheWholeOneComesBackInItsSize) {
     const QSize whole = SizeOfWindow();
@@ -66,18 +25,44 @@ TEST_F(FaceShapesTest, SmallFaceIsALineAndTheWholeOneComesBackInItsSize) {
 
 TEST_F(FaceShapesTest, LineTellsTheDayAndItsButtonAsksForTheWholeFace) {
     face.TakeShape({.small = true});
-    const QImage noon = Strip()->grab().toImage();
     DayView day;
-    day.next = {kIsha, false, {18.5}, 60.0};
+    day.moments[kIsha].hours = 18.5;
+    day.next = {kIsha, false, day.moments[kIsha], 60.0};
     face.ShowDay(day);
-    EXPECT_NE(Strip()->grab().toImage(), noon);
+    const auto lines = Strip()->findChildren<TextLine*>();
+    EXPECT_EQ(lines.at(0)->text(), "Isha");
+    EXPECT_EQ(lines.at(1)->text(), "06:30 PM");
+    EXPECT_EQ(lines.at(2)->text(), "0:01:00");
     auto& button = *Strip()->findChild<QAbstractButton*>("IDC_FS_small");
     EXPECT_EQ(button.accessibleName(), "NormalSize");  // there is no pack
     Press(button, Qt::Key_Return);
     EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_small"});
 }
 
-TEST_F(FaceShapesTest, FullScreenIsOnTopWithoutAPointerAndLeftByEscapeAndF11) {
+TEST_F(FaceShapesTest, LineHasItsTimeWholeBesideALongName) {
+    face.TakeShape({.small = true});
+    frmMain->lblZoritNameArabic(kFajr).SetCaption("A name that has no room in one line");
+    DayView day;
+    day.next = {kFajr, true, {5.25}, 60.0};
+    face.ShowDay(day);
+    const auto lines = Strip()->findChildren<TextLine*>();
+    EXPECT_EQ(lines.at(1)->text(), "05:15 AM");
+    EXPECT_GE(lines.at(1)->width(), QFontMetrics(FaceFont(17)).horizontalAdvance("05:15 AM"));
+    EXPECT_LT(lines.at(0)->geometry().right(), lines.at(1)->x());
+    EXPECT_LT(lines.at(1)->geometry().right(), lines.at(2)->x());
+}
+
+TEST_F(FaceShapesTest, ButtonOfTheLineIsNamedAnewInAnotherLanguage) {
+    face.TakeShape({.small = true});
+    const std::string pack = "[desktop]\nNormalSize=Taille normale\n";
+    platform.files.WriteWhole("/program/lang/French.ini", Bytes(pack.begin(), pack.end()));
+    currentLanguage = "French";
+    face.SetVariable("prayer_time", "Horaires");
+    EXPECT_EQ(Strip()->findChild<QAbstractButton*>("IDC_FS_small")->accessibleName(),
+              "Taille normale");
+}
+
+TEST_F(FaceShapesTest, FullScreenHasNoPointerAndIsLeftByEscapeAndF11) {
     face.TakeShape({.fillsScreen = true});
     ASSERT_NE(Poster(), nullptr);
     EXPECT_TRUE(Poster()->isFullScreen());
@@ -90,20 +75,57 @@ TEST_F(FaceShapesTest, FullScreenIsOnTopWithoutAPointerAndLeftByEscapeAndF11) {
     EXPECT_EQ(Poster(), nullptr);
 }
 
-/// Sums up what is painted.
-class PaintedRegion : public QObject {
-public:
-    explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
-    QRegion region;
+TEST_F(FaceShapesTest, KeyThatIsHeldDownLeavesTheFullScreenOnce) {
+    face.TakeShape({.fillsScreen = true});
+    Press(*Poster(), Qt::Key_F11, true);
+    Press(*Poster(), Qt::Key_Escape, true);
+    EXPECT_TRUE(commands.empty());
+    EXPECT_FALSE(window.findChild<QShortcut*>({}, Qt::FindDirectChildrenOnly)->autoRepeat());
+}
 
-protected:
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            region += static_cast<QPaintEvent*>(event)->region();
-        }
-        return false;
+TEST_F(FaceShapesTest, DoubleClickLeavesTheFullScreen) {
+    face.TakeShape({.fillsScreen = true});
+    QMouseEvent event(QEvent::MouseButtonDblClick, {10, 10}, {10, 10}, Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Poster(), &event);
+    EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_fullScreen"});
+}
+
+TEST_F(FaceShapesTest, FullScreenThatIsClosedFromOutsideIsLeft) {
+    face.TakeShape({.fillsScreen = true});
+    Poster()->close();
+    EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_fullScreen"});
+    EXPECT_NE(Poster(), nullptr);  // until the command takes it away
+}
+
+TEST(FaceAwakeTest, ScreenIsKeptOnAsLongAsTheFaceFillsIt) {
+    TestBus bus;
+    ScreenService service{bus.Connect("service")};
+    const TestPlatform platform;
+    QtFace face({}, [&bus] { return bus.Connect("program"); });
+    QWidget window;
+    face.Fill(window);
+    face.LoadMovie(0, "");
+    face.TakeShape({.small = true});
+    face.TakeShape({.fillsScreen = true});
+    EXPECT_TRUE(Until([&] { return service.calls == QStringList{"Inhibit"}; }));
+    bus.Settle();
+    face.TakeShape({});
+    EXPECT_TRUE(Until([&] { return service.cookies == QList<uint>{42}; }));
+}
+
+TEST(FaceEndTest, FullScreenEndsWithItsFace) {
+    const TestPlatform platform;
+    QWidget window;
+    {
+        QtFace face;
+        face.Fill(window);
+        face.LoadMovie(0, "");
+        face.TakeShape({.fillsScreen = true});
+        EXPECT_NE(Poster(), nullptr);
     }
-};
+    EXPECT_EQ(Poster(), nullptr);
+}
 
 TEST_F(FaceShapesTest, ASecondPaintsTheCountdownOfTheFullScreenAlone) {
     face.TakeShape({.fillsScreen = true});
@@ -123,17 +145,12 @@ TEST_F(FaceShapesTest, ASecondPaintsTheCountdownOfTheFullScreenAlone) {
     EXPECT_EQ(painted.region.boundingRect(), Poster()->rect());
 }
 
-TEST_F(FaceShapesTest, IqamasStandBelowTheTimesOfTheFullScreen) {
-    face.TakeShape({.fillsScreen = true});
+TEST_F(FaceShapesTest, IqamasAreThoseOfTheTimesThatAreShown) {
     DayView day;
     for (Moment& moment : day.moments) {
         moment.hours = 15.0;
     }
-    face.ShowDay(day);
-    const QImage without = Poster()->grab().toImage();
     day.iqamaMinutes[kAsr] = 10;
-    face.ShowDay(day);
-    EXPECT_NE(Poster()->grab().toImage(), without);
     EXPECT_EQ(FaceDayOf(day).iqamas.at(kAsr), "Iqama 03:10 PM");
     EXPECT_EQ(FaceDayOf(day).iqamas.at(kIsha), "");
     day.next = {kAsr, true, {16.0}, 60.0};

@@ -8,6 +8,7 @@
 
 #include "desktop/face/compass.h"
 #include "desktop/face/countdown_line.h"
+#include "desktop/face/face_day.h"
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/face/text_line.h"
@@ -131,6 +132,13 @@ TEST_F(FaceTest, MarkedTimesAreExplainedToWhoeverPointsAtThem) {
     face.ShowDay(day);
     EXPECT_EQ(ReadRow(kIsha), "Isha 12:15 AM, next day \u2020");
     EXPECT_TRUE(times.toolTip().contains("seventh of the night"));
+}
+
+TEST_F(FaceTest, MarkOfATomorrowsTimeIsExplained) {
+    RuledYear.rules.moments.highLatitude = HighLatitudeRule::kSeventh;
+    DayView day;
+    day.next = {kFajr, true, {3.0, MomentBy::kRule}, 3600.0};
+    EXPECT_TRUE(FaceDayOf(day).timesNote.contains("seventh of the night"));
 }
 
 TEST_F(FaceTest, PrayerOfTomorrowStandsInItsRowInPlaceOfTodays) {
