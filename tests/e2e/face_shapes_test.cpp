@@ -57,6 +57,9 @@ TEST_F(FaceShapesProgramTest, F11FillsTheScreenAndEscapeLeavesIt) {
     desktop.PressKey("Escape");
     EXPECT_TRUE(WaitUntil("the face alone", [&] { return !desktop.IsOnView(program, poster); }));
     EXPECT_TRUE(desktop.IsOnView(program, face));
+    EXPECT_TRUE(WaitUntil("nothing stored", [&] {
+        return StoredValues().find("Face Full Screen") == std::string::npos;
+    }));
 }
 
 TEST_F(FaceShapesProgramTest, ArrowKeysGoFromMenuToMenu) {
