@@ -8,6 +8,8 @@
 #include <QTextLayout>
 
 #include "base/rounding.h"
+#include "desktop/documents/drawing_steps.h"
+#include "forms/inks.h"
 
 namespace horavex {
 
@@ -27,10 +29,10 @@ constexpr int kFriday = 5;
 constexpr double kDates[] = {1.5, 2.0};
 constexpr double kUsualColumns = 8.0;
 
-const QColor kInk(0x1a, 0x1f, 0x26);
-const QColor kAccent(0x1e, 0x48, 0x76);
-const QColor kShade(0xe8, 0xef, 0xf6);
-const QColor kRule(0xb9, 0xc3, 0xcf);
+const QColor kInk = OnPaper(ink::kPageText);
+const QColor kAccent = OnPaper(ink::kAccent);
+const QColor kShade = OnPaper(ink::kPageShade);
+const QColor kRule = OnPaper(ink::kPageRule);
 
 QString Text(const std::string& text) {
     return QString::fromStdString(text);

@@ -2,6 +2,7 @@
 
 #include "base/program_version.h"
 #include "config/system_info.h"
+#include "forms/inks.h"
 #include "lang/form_language.h"
 #include "windows/frm_about.h"
 #include "windows/frm_main.h"
@@ -10,9 +11,6 @@ namespace horavex {
 
 namespace {
 
-constexpr Colour kSky = {0x12, 0x2b, 0x4a};
-constexpr Colour kGold = {0xe3, 0xc0, 0x6c};
-
 FilledCircleStep Disc(Point centre, double radius, const Colour& colour) {
     return {centre, radius, colour, {colour}};
 }
@@ -20,8 +18,9 @@ FilledCircleStep Disc(Point centre, double radius, const Colour& colour) {
 /// The program's emblem, as the notification area has it: a crescent and a star on a dark disc.
 void DrawEmblem(Picture& picture) {
     picture.drawing = {
-        Disc({600, 600}, 590, kGold), Disc({600, 600}, 540, kSky), Disc({552, 600}, 396, kGold),
-        Disc({684, 540}, 324, kSky),  Disc({768, 552}, 90, kGold),
+        Disc({600, 600}, 590, ink::kEmblemLight), Disc({600, 600}, 540, ink::kEmblemSky),
+        Disc({552, 600}, 396, ink::kEmblemLight), Disc({684, 540}, 324, ink::kEmblemSky),
+        Disc({768, 552}, 90, ink::kEmblemLight),
     };
 }
 

@@ -1,16 +1,11 @@
 #include "engine/progress_window.h"
 
 #include "base/fault.h"
+#include "forms/inks.h"
 #include "platform/platform.h"
 #include "windows/f_message.h"
 
 namespace horavex {
-
-namespace {
-
-constexpr Colour kBarColour{250, 250, 250};
-
-}  // namespace
 
 void ShowProgressWindow(const std::string& line1, const std::string& line2) {
     fMessage->Load();
@@ -28,7 +23,7 @@ void ReportProgress(double percent) {
     const double right = bar.Width() * percent / 100.0;
     const double bottom = bar.Height();
     bar.drawing = {PolygonStep{
-        {{0.0, 0.0}, {right, 0.0}, {right, bottom}, {0.0, bottom}}, kBarColour, {kBarColour, 1}}};
+        {{0.0, 0.0}, {right, 0.0}, {right, bottom}, {0.0, bottom}}, ink::kBar, {ink::kBar, 1}}};
     bar.Refresh();
     Ports().eventLoop.Pump();
 }

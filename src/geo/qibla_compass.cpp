@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "engine/angle.h"
+#include "forms/inks.h"
 
 namespace horavex {
 
@@ -11,9 +12,6 @@ namespace {
 constexpr double kTextHeight = 2000.0;
 constexpr double kAxisOverhang = 120.0;
 constexpr double kDiagonalMark = 45.0;  // radius
-constexpr Colour kNeedle{214, 60, 60};
-constexpr Colour kSun{250, 190, 20};
-constexpr Colour kSunRim{200, 120, 0};
 
 /// Draws around a centre. Angles are mathematical: radians from the east, against the clock.
 class Compass {
@@ -36,8 +34,9 @@ public:
     }
 
     void AddSun(double angle) {
-        AddLine(centre_, At(angle, 0.72), {kSunRim, 1});
-        steps.emplace_back(FilledCircleStep{At(angle, 0.8), 0.08 * radius_, kSun, {kSunRim}});
+        AddLine(centre_, At(angle, 0.72), {ink::kSunRim, 1});
+        steps.emplace_back(
+            FilledCircleStep{At(angle, 0.8), 0.08 * radius_, ink::kSun, {ink::kSunRim}});
     }
 
     void AddNeedle(double angle) {
@@ -48,9 +47,9 @@ public:
             return Point{tip.x + 0.15 * radius_ * std::cos(back),
                          tip.y - 0.15 * radius_ * std::sin(back)};
         };
-        AddLine(centre_, tip, {kNeedle, 3});
+        AddLine(centre_, tip, {ink::kMark, 3});
         steps.emplace_back(
-            PolygonStep{{tip, barb(-kHalfHead), barb(kHalfHead)}, kNeedle, {kNeedle}});
+            PolygonStep{{tip, barb(-kHalfHead), barb(kHalfHead)}, ink::kMark, {ink::kMark}});
     }
 
     Drawing steps;

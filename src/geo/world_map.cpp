@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "engine/angle.h"
+#include "forms/inks.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -17,12 +18,6 @@ namespace {
 constexpr const char* kFile = "Dat\\Land.txt";
 constexpr GeoPoint kMecca{21.42333, 39.82333};
 constexpr int kCircleSteps = 72;
-
-constexpr Colour kSea{206, 226, 240};
-constexpr Colour kLand{226, 219, 196};
-constexpr Colour kCoast{150, 140, 110};
-constexpr Colour kWay{190, 30, 30};
-constexpr Colour kPlaceMark{30, 70, 160};
 
 GeoPoint ReadCorner(const std::string& text) {
     const auto numbers = Split(text, ',');
@@ -78,8 +73,8 @@ class MapPainter {
 public:
     MapPainter(double width, double height, const MapArea& area)
         : width_(width), height_(height), area_(area) {
-        steps.emplace_back(
-            PolygonStep{{{0.0, 0.0}, {width, 0.0}, {width, height}, {0.0, height}}, kSea, {kSea}});
+        steps.emplace_back(PolygonStep{
+            {{0.0, 0.0}, {width, 0.0}, {width, height}, {0.0, height}}, ink::kSea, {ink::kSea}});
     }
 
     void AddLands() {
@@ -89,7 +84,7 @@ public:
     }
 
     void AddLand(const std::vector<GeoPoint>& corners) {
-        PolygonStep land{{}, kLand, {kCoast}};
+        PolygonStep land{{}, ink::kLand, {ink::kCoast}};
         for (const GeoPoint& corner : corners) {
             land.corners.push_back(At(corner));
         }
@@ -100,7 +95,7 @@ public:
     void AddWay(const std::vector<GeoPoint>& way) {
         for (std::size_t i = 1; i < way.size(); ++i) {
             if (std::fabs(way[i].longitude - way[i - 1].longitude) < 180.0) {
-                steps.emplace_back(LineStep{At(way[i - 1]), At(way[i]), {kWay, 2}});
+                steps.emplace_back(LineStep{At(way[i - 1]), At(way[i]), {ink::kMark, 2}});
             }
         }
     }
@@ -152,8 +147,8 @@ Drawing WorldMap(double width, double height, const GeoPoint& place) {
     MapPainter map(width, height, kWorld);
     RunStep([&map] { map.AddLands(); });
     map.AddWay(GreatCircle(place, kMecca));
-    map.AddMark(place, kPlaceMark);
-    map.AddMark(kMecca, kWay);
+    map.AddMark(place, ink::kAccent);
+    map.AddMark(kMecca, ink::kMark);
     return map.steps;
 }
 
@@ -161,7 +156,7 @@ Drawing PlaceMap(double width, double height, const std::optional<GeoPoint>& pla
     MapPainter map(width, height, place ? AreaAround(*place) : kWorld);
     RunStep([&map] { map.AddLands(); });
     if (place) {
-        map.AddMark(*place, kWay);
+        map.AddMark(*place, ink::kMark);
     }
     return map.steps;
 }

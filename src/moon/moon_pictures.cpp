@@ -7,6 +7,7 @@
 
 #include "engine/angle.h"
 #include "engine/year_table.h"
+#include "forms/inks.h"
 #include "moon/moon_position.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -16,13 +17,6 @@ namespace horavex {
 
 namespace {
 
-constexpr Colour kDarkSide{58, 64, 82};
-constexpr Colour kLitSide{250, 240, 205};
-constexpr Colour kRim{120, 124, 140};
-constexpr Colour kMoonDown{38, 50, 92};
-constexpr Colour kMoonUp{232, 214, 140};
-constexpr Colour kScale{90, 90, 90};
-
 constexpr int kLimbSteps = 32;  // from pole to pole
 
 bool PlaceIsSouth() {
@@ -31,7 +25,7 @@ bool PlaceIsSouth() {
 
 /// The lit side between the limb and the terminator, an ellipse through both poles.
 PolygonStep LitSide(Point centre, double radius, double elongation, double side) {
-    PolygonStep lit{{}, kLitSide, {kLitSide}};
+    PolygonStep lit{{}, ink::kMoonLit, {ink::kMoonLit}};
     const auto add = [&](int step, double width) {
         const double angle = Pi * step / kLimbSteps;  // from the upper pole
         lit.corners.push_back({centre.x + side * width * radius * std::sin(angle),
@@ -66,10 +60,10 @@ public:
         for (int hour = 0; hour <= 24; ++hour) {
             const double length = hour % 6 == 0 ? 120.0 : 60.0;
             drawing_.emplace_back(
-                LineStep{{XOf(hour), Bottom()}, {XOf(hour), Bottom() + length}, {kScale}});
+                LineStep{{XOf(hour), Bottom()}, {XOf(hour), Bottom() + length}, {ink::kScale}});
             if (hour % 6 == 0) {
-                drawing_.emplace_back(
-                    TextStep{{XOf(hour) - 100.0, Bottom() + 130.0}, std::to_string(hour), kScale});
+                drawing_.emplace_back(TextStep{
+                    {XOf(hour) - 100.0, Bottom() + 130.0}, std::to_string(hour), ink::kScale});
             }
         }
     }
@@ -93,7 +87,7 @@ private:
 void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongation, bool south) {
     const double phase = Normalize360(elongation);
     const bool waxing = phase < 180.0;
-    drawing.emplace_back(FilledCircleStep{centre, radius, kDarkSide, {kRim}});
+    drawing.emplace_back(FilledCircleStep{centre, radius, ink::kMoonDark, {ink::kMoonRim}});
     if (phase == 0.0) {
         return;  // not even a line of light
     }
@@ -125,15 +119,15 @@ Drawing TonightsMoon(double width, double height) {
 
 Drawing MoonDay(double width, double height, const std::optional<MoonRiseSet>& times) {
     DayStrip strip(width, height);
-    strip.Fill(0.0, 24.0, kMoonDown);
+    strip.Fill(0.0, 24.0, ink::kMoonDown);
     if (times) {
         const double rise = HoursOf(times->rise);
         const double set = HoursOf(times->set);
         if (rise <= set) {
-            strip.Fill(rise, set, kMoonUp);
+            strip.Fill(rise, set, ink::kMoonUp);
         } else {
-            strip.Fill(0.0, set, kMoonUp);
-            strip.Fill(rise, 24.0, kMoonUp);
+            strip.Fill(0.0, set, ink::kMoonUp);
+            strip.Fill(rise, 24.0, ink::kMoonUp);
         }
     }
     strip.DrawScale();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/fault.h"
+#include "forms/inks.h"
 #include "geo/world_map.h"
 
 namespace horavex {
@@ -20,20 +21,8 @@ constexpr double kLegendTop = kMapBottom + 2.0 * kMargin;
 constexpr int kLegendColumns = 3;
 constexpr double kGrid = 30.0;  // degrees
 
-constexpr Colour kSea{240, 245, 250};
-constexpr Colour kGridLine{255, 255, 255};
-constexpr Colour kCoast{70, 70, 70};
-constexpr Colour kPlaceMark{200, 20, 30};
-constexpr Colour kBeforeNewMoon{125, 128, 160};
-constexpr Colour kMoonSetsFirst{186, 172, 205};
-
-// From a crescent that is seen easily to one that is not there; the lightness changes with the hue.
-constexpr Colour kYallop[] = {{27, 120, 55},  {127, 191, 90},  {245, 220, 80},
-                              {245, 160, 70}, {222, 175, 160}, {214, 214, 214}};
-constexpr Colour kOdeh[] = {{27, 120, 55}, {127, 191, 90}, {245, 160, 70}, {214, 214, 214}};
-
 Colour ColourOf(Criterion criterion, char letter) {
-    return criterion == Criterion::kYallop ? kYallop[letter - 'A'] : kOdeh[letter - 'A'];
+    return criterion == Criterion::kYallop ? ink::kYallop[letter - 'A'] : ink::kOdeh[letter - 'A'];
 }
 
 Colour ColourOf(Criterion criterion, const MapCell& cell) {
@@ -41,13 +30,13 @@ Colour ColourOf(Criterion criterion, const MapCell& cell) {
         case EveningKind::kJudged:
             return ColourOf(criterion, cell.LetterOf(criterion));
         case EveningKind::kBeforeNewMoon:
-            return kBeforeNewMoon;
+            return ink::kBeforeNewMoon;
         case EveningKind::kMoonSetsFirst:
-            return kMoonSetsFirst;
+            return ink::kMoonSetsFirst;
         case EveningKind::kNoSunset:
             break;
     }
-    return kSea;
+    return ink::kUnjudged;
 }
 
 Point At(double latitude, double longitude) {
@@ -62,7 +51,7 @@ class Painter {
 public:
     Painter(const VisibilityMap& map, Criterion criterion) : map_(map), criterion_(criterion) {
         steps.emplace_back(Box({0.0, 0.0}, {kMapWidth, kMapHeight}, kWhite));
-        steps.emplace_back(Box({0.0, kMapTop}, {kMapWidth, kMapBottom}, kSea));
+        steps.emplace_back(Box({0.0, kMapTop}, {kMapWidth, kMapBottom}, ink::kUnjudged));
     }
 
     void AddCells() {
@@ -79,10 +68,10 @@ public:
 
     void AddGrid() {
         for (double longitude = kGrid - 180.0; longitude < 180.0; longitude += kGrid) {
-            AddLine({kMapLatitude, longitude}, {-kMapLatitude, longitude}, kGridLine);
+            AddLine({kMapLatitude, longitude}, {-kMapLatitude, longitude}, kWhite);
         }
         for (double latitude = -2.0 * kGrid; latitude < kMapLatitude; latitude += kGrid) {
-            AddLine({latitude, -180.0}, {latitude, 180.0}, kGridLine);
+            AddLine({latitude, -180.0}, {latitude, 180.0}, kWhite);
         }
     }
 
@@ -92,7 +81,7 @@ public:
         for (const GeoPoint& corner : corners) {
             const auto [low, high] = std::minmax(before.latitude, corner.latitude);
             if (low < kMapLatitude && high > -kMapLatitude) {
-                AddLine(OnMap(before), OnMap(corner), kCoast);
+                AddLine(OnMap(before), OnMap(corner), ink::kOutline);
             }
             before = corner;
         }
@@ -108,14 +97,14 @@ public:
             AddKey(ColourOf(criterion_, letter),
                    std::string(1, letter) + "  " + words.Of(criterion_, letter));
         }
-        AddKey(kMoonSetsFirst, words.moonSetsFirst);
-        AddKey(kBeforeNewMoon, words.beforeNewMoon);
+        AddKey(ink::kMoonSetsFirst, words.moonSetsFirst);
+        AddKey(ink::kBeforeNewMoon, words.beforeNewMoon);
     }
 
     void AddMark(const Observer& place) {
         if (std::abs(place.latitude) < kMapLatitude) {
             steps.emplace_back(FilledCircleStep{
-                horavex::At(place.latitude, place.longitude), 4.0 * kPixel, kPlaceMark, {kWhite}});
+                horavex::At(place.latitude, place.longitude), 4.0 * kPixel, ink::kMark, {kWhite}});
         }
     }
 

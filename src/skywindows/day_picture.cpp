@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "forms/inks.h"
 #include "moon/moon_pictures.h"
 #include "sky/phases.h"
 #include "sky/sky_day.h"
@@ -15,29 +16,17 @@ namespace {
 constexpr double kTop = 90.0;      // degrees of altitude
 constexpr double kBottom = -30.0;  // below it nothing is drawn
 
-constexpr Colour kDay{196, 222, 246};
-constexpr Colour kCivil{140, 168, 210};
-constexpr Colour kNautical{84, 108, 160};
-constexpr Colour kAstronomical{48, 64, 112};
-constexpr Colour kNight{24, 32, 64};
-constexpr Colour kHorizon{60, 84, 60};
-constexpr Colour kSun{232, 164, 0};
-constexpr Colour kMoon{110, 110, 118};
-constexpr Colour kNow{176, 32, 32};
-constexpr Colour kScale{90, 90, 90};
-constexpr Colour kLevel{172, 200, 226};
-
 struct Band {
     double upper;  // degrees; the next one begins where it ends
     Colour colour;
 };
 
-constexpr Band kBands[] = {{kTop, kDay},
-                           {0.0, kCivil},
-                           {-kCivilTwilight, kNautical},
-                           {-kNauticalTwilight, kAstronomical},
-                           {-kAstronomicalTwilight, kNight},
-                           {kBottom, kNight}};
+constexpr Band kBands[] = {{kTop, ink::kDay},
+                           {0.0, ink::kCivil},
+                           {-kCivilTwilight, ink::kNautical},
+                           {-kNauticalTwilight, ink::kAstronomical},
+                           {-kAstronomicalTwilight, ink::kNight},
+                           {kBottom, ink::kNight}};
 
 using OverHorizon = HorizonPlace (*)(const Almanac& almanac, const Observer& observer,
                                      Date universal);
@@ -61,10 +50,10 @@ public:
     void DrawLevels() {
         for (const int degrees : {90, 60, 30, 0}) {
             const double y = YOf(degrees);
-            const Pen pen = degrees == 0 ? Pen{kHorizon, 2} : Pen{kLevel};
+            const Pen pen = degrees == 0 ? Pen{ink::kHorizon, 2} : Pen{ink::kLevel};
             drawing_.emplace_back(LineStep{{kLeft, y}, {Right(), y}, pen});
             drawing_.emplace_back(
-                TextStep{{0.0, y - kHalfText}, std::to_string(degrees) + "\u00b0", kScale});
+                TextStep{{0.0, y - kHalfText}, std::to_string(degrees) + "\u00b0", ink::kScale});
         }
     }
 
@@ -72,9 +61,9 @@ public:
         const Date midnight = std::floor(clock.LocalOf(day_.from) + 0.5);
         for (int hour = 0; hour <= 24; hour += 3) {
             const double x = XOf(clock.UniversalOf(midnight + hour / 24.0));
-            drawing_.emplace_back(LineStep{{x, Bottom()}, {x, Bottom() + kTick}, {kScale}});
+            drawing_.emplace_back(LineStep{{x, Bottom()}, {x, Bottom() + kTick}, {ink::kScale}});
             drawing_.emplace_back(
-                TextStep{{x - 100.0, Bottom() + kTick}, std::to_string(hour), kScale});
+                TextStep{{x - 100.0, Bottom() + kTick}, std::to_string(hour), ink::kScale});
         }
     }
 
@@ -92,7 +81,7 @@ public:
     }
 
     void DrawNow(Date now) {
-        drawing_.emplace_back(LineStep{{XOf(now), YOf(kTop)}, {XOf(now), Bottom()}, {kNow}});
+        drawing_.emplace_back(LineStep{{XOf(now), YOf(kTop)}, {XOf(now), Bottom()}, {ink::kNow}});
     }
 
     /// Nothing below what is drawn.
@@ -129,7 +118,7 @@ constexpr double kDisc = 110.0;  // twips
 
 void DrawSun(DayChart& chart, Date now, double altitude) {
     if (const auto at = chart.PointAt(now, altitude)) {
-        chart.Steps().emplace_back(FilledCircleStep{*at, kDisc, kSun, {kScale}});
+        chart.Steps().emplace_back(FilledCircleStep{*at, kDisc, ink::kSunPath, {ink::kScale}});
     }
 }
 
@@ -153,8 +142,8 @@ Drawing DayPicture(double width, double height, const Almanac& almanac, const Sk
     chart.DrawBands();
     chart.DrawLevels();
     chart.DrawHours(place.clock);
-    chart.DrawCurve(altitude(MoonOver), kMoon);
-    chart.DrawCurve(altitude(SunOver), kSun);
+    chart.DrawCurve(altitude(MoonOver), ink::kMoonPath);
+    chart.DrawCurve(altitude(SunOver), ink::kSunPath);
     chart.DrawNow(now);
     DrawMoon(chart, now, moment, place.observer.latitude < 0.0);
     DrawSun(chart, now, moment.sun.altitude);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/inks.h"
+
 namespace horavex {
 
 namespace {
@@ -13,12 +15,6 @@ constexpr double kTop = 150.0;
 constexpr double kRight = 150.0;
 constexpr double kBottom = 450.0;
 
-constexpr Colour kPaper{250, 250, 247};
-constexpr Colour kInk{40, 46, 54};
-constexpr Colour kNight{23, 32, 56};
-constexpr Colour kGrid{150, 156, 168};
-constexpr Colour kToday{214, 48, 49};
-
 /// What lies between a time and the next one of the day.
 struct Band {
     std::size_t from;
@@ -27,11 +23,11 @@ struct Band {
     Colour ink;  // of the name of the time that it begins with
 };
 
-constexpr Band kBands[] = {{kFajr, kShurooq, {92, 107, 160}, kWhite},
-                           {kShurooq, kZuhr, {253, 230, 138}, kInk},
-                           {kZuhr, kAsr, {252, 211, 77}, kInk},
-                           {kAsr, kMaghrib, {245, 158, 66}, kInk},
-                           {kMaghrib, kIsha, {120, 92, 150}, kWhite}};
+constexpr Band kBands[] = {{kFajr, kShurooq, ink::kDawn, ink::kOnDark},
+                           {kShurooq, kZuhr, ink::kMorning, ink::kOnLight},
+                           {kZuhr, kAsr, ink::kNoon, ink::kOnLight},
+                           {kAsr, kMaghrib, ink::kAfternoon, ink::kOnLight},
+                           {kMaghrib, kIsha, ink::kDusk, ink::kOnDark}};
 
 constexpr int kHoursPerLine = 3;
 constexpr std::size_t kNameRow = 8;  // where the names of the times begin
@@ -61,8 +57,9 @@ std::optional<std::size_t> YearChart::RowAt(Point at) const {
 
 Drawing YearChart::Draw(Date today) const {
     Drawing drawing;
-    drawing.push_back(PolygonStep{
-        {{0.0, 0.0}, {width_, 0.0}, {width_, height_}, {0.0, height_}}, kPaper, {kPaper}});
+    drawing.push_back(PolygonStep{{{0.0, 0.0}, {width_, 0.0}, {width_, height_}, {0.0, height_}},
+                                  ink::kChartPaper,
+                                  {ink::kChartPaper}});
     DrawBands(drawing);
     DrawHours(drawing);
     DrawMonths(drawing);
@@ -73,8 +70,10 @@ Drawing YearChart::Draw(Date today) const {
 
 void YearChart::DrawBands(Drawing& drawing) const {
     const double right = X(static_cast<double>(table_.days.size()));
-    drawing.push_back(PolygonStep{
-        {{kLeft, Y(0.0)}, {right, Y(0.0)}, {right, Y(24.0)}, {kLeft, Y(24.0)}}, kNight, {kNight}});
+    drawing.push_back(
+        PolygonStep{{{kLeft, Y(0.0)}, {right, Y(0.0)}, {right, Y(24.0)}, {kLeft, Y(24.0)}},
+                    ink::kChartNight,
+                    {ink::kChartNight}});
     for (const Band& band : kBands) {
         DrawBand(drawing, band.from, band.to, band.fill);
     }
@@ -109,8 +108,8 @@ void YearChart::DrawBand(Drawing& drawing, std::size_t from, std::size_t to, Col
 void YearChart::DrawHours(Drawing& drawing) const {
     const double right = X(static_cast<double>(table_.days.size()));
     for (int hour = 0; hour <= 24; hour += kHoursPerLine) {
-        drawing.push_back(LineStep{{kLeft, Y(hour)}, {right, Y(hour)}, {kGrid}});
-        drawing.push_back(TextStep{{150.0, Y(hour) - 120.0}, IsoTime(hour * 60), kInk});
+        drawing.push_back(LineStep{{kLeft, Y(hour)}, {right, Y(hour)}, {ink::kChartGrid}});
+        drawing.push_back(TextStep{{150.0, Y(hour) - 120.0}, IsoTime(hour * 60), ink::kChartText});
     }
 }
 
@@ -119,9 +118,9 @@ void YearChart::DrawMonths(Drawing& drawing) const {
         const CivilDate date = CivilFromDate(table_.days[row].date);
         if (date.day == 1) {
             const double x = X(static_cast<double>(row));
-            drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, {kGrid}});
-            drawing.push_back(
-                TextStep{{x + 30.0, Y(24.0) + 90.0}, words_.MonthAlone(date.month), kInk});
+            drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, {ink::kChartGrid}});
+            drawing.push_back(TextStep{
+                {x + 30.0, Y(24.0) + 90.0}, words_.MonthAlone(date.month), ink::kChartText});
         }
     }
 }
@@ -137,7 +136,7 @@ void YearChart::DrawNames(Drawing& drawing) const {
     for (const Band& band : kBands) {
         name(band.from, band.ink);
     }
-    name(kIsha, kWhite);
+    name(kIsha, ink::kOnDark);
 }
 
 void YearChart::DrawToday(Drawing& drawing, Date today) const {
@@ -145,7 +144,11 @@ void YearChart::DrawToday(Drawing& drawing, Date today) const {
     if (row < 0.0 || row >= static_cast<double>(table_.days.size())) {
         return;
     }
-    drawing.push_back(LineStep{{X(row + 0.5), Y(0.0)}, {X(row + 0.5), Y(24.0)}, {kToday, 2}});
+    const double x = X(row + 0.5);
+    for (const Pen& pen :
+         {Pen{ink::kOnDark, 4}, Pen{ink::kToday, 2}}) {  // told apart from any band
+        drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, pen});
+    }
 }
 
 }  // namespace horavex

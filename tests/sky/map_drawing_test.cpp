@@ -4,6 +4,7 @@
 
 #include "base/bytes.h"
 #include "forms/drawing_svg.h"
+#include "forms/inks.h"
 #include "linux/erfa_almanac.h"
 #include "support/test_platform.h"
 
@@ -16,7 +17,7 @@ using testing::Not;
 constexpr Observer kMecca{21.4, 39.8};
 constexpr const char* kOptical = "fill=\"#7fbf5a\"";  // class B of either criterion
 constexpr const char* kYallopE = "fill=\"#deafa0\"";
-constexpr const char* kCoast = "stroke=\"#464646\"";
+constexpr const char* kCoast = "stroke=\"#14181c\"";
 
 class MapDrawingTest : public testing::Test {
 protected:
@@ -111,7 +112,7 @@ TEST_F(MapDrawingTest, HasTheOutlinesOfLandsAsFarAsTheyLieOnIt) {
     WriteLands("0,60 10,60 5,80\n0,70 10,70 5,89\n");
     std::vector<LineStep> coast;
     for (const LineStep& line : StepsOf<LineStep>(Draw(Criterion::kOdeh))) {
-        if (line.pen.colour == Colour{70, 70, 70}) {
+        if (line.pen.colour == ink::kOutline) {
             coast.push_back(line);
         }
     }
