@@ -2,6 +2,7 @@
 
 #include "desktop/accessible/assistive_tools.h"
 #include "desktop/fault_box.h"
+#include "desktop/look/look.h"
 #include "desktop/ports/emblem.h"
 
 namespace horavex {
@@ -9,6 +10,7 @@ namespace horavex {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("Horavex"));
     setDesktopFileName(QStringLiteral("horavex"));
+    look::PutOn();
     setWindowIcon(Emblem());
     setQuitOnLastWindowClosed(false);
     TellAssistiveTools();

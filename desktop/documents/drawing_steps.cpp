@@ -35,13 +35,13 @@ public:
 
     void operator()(const FilledCircleStep& circle) const {
         painter_.setPen(PenOf(circle.pen));
-        painter_.setBrush(ColourOf(circle.fill));
+        painter_.setBrush(inks_(circle.fill));
         painter_.drawEllipse(PointOf(circle.centre), circle.radius, circle.radius);
     }
 
     void operator()(const PolygonStep& polygon) const {
         painter_.setPen(PenOf(polygon.pen));
-        painter_.setBrush(ColourOf(polygon.fill));
+        painter_.setBrush(inks_(polygon.fill));
         painter_.drawPolygon(CornersOf(polygon));
     }
 
@@ -50,7 +50,7 @@ public:
         const QPointF at = painter_.transform().map(PointOf(text.at));
         painter_.save();
         painter_.resetTransform();
-        painter_.setPen(ColourOf(text.colour));
+        painter_.setPen(inks_(text.colour));
         painter_.drawText(at + QPointF(0.0, painter_.fontMetrics().ascent()),
                           QString::fromStdString(text.text));
         painter_.restore();
@@ -63,15 +63,8 @@ public:
     }
 
 private:
-    QColor ColourOf(const Colour& colour) const {
-        if (colour == kBlack) {
-            return inks_.black;
-        }
-        return colour == kWhite ? inks_.white : QColor(colour.red, colour.green, colour.blue);
-    }
-
     QPen PenOf(const Pen& pen) const {
-        QPen made(ColourOf(pen.colour), pen.width);
+        QPen made(inks_(pen.colour), pen.width);
         made.setCosmetic(true);  // its width is in pixels, whatever the scale
         return made;
     }
@@ -109,6 +102,10 @@ QRectF BoundsOf(const Drawing& drawing) {
 }
 
 }  // namespace
+
+QColor OnPaper(const Colour& colour) {
+    return {colour.red, colour.green, colour.blue};
+}
 
 void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips, const Drawing& drawing,
                const Inks& inks) {

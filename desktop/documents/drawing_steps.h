@@ -3,21 +3,21 @@
 #include <QPainter>
 #include <QRectF>
 #include <QSizeF>
+#include <functional>
 
 #include "forms/drawing.h"
 
 namespace horavex {
 
-/// What black and white are drawn in: as they are on paper, or the colours of a window's texts.
-struct Inks {
-    QColor black = Qt::black;
-    QColor white = Qt::white;
-};
+/// What a colour of a drawing is drawn in: itself, or what a window has in its place.
+using Inks = std::function<QColor(const Colour& colour)>;
+
+QColor OnPaper(const Colour& colour);
 
 /// Draws the steps, stretched so that an area of the given size in twips fills the target, given
 /// in pixels. A picture is looked for in the program folder; a missing one draws nothing.
 void DrawSteps(QPainter& painter, const QRectF& target, const QSizeF& twips, const Drawing& drawing,
-               const Inks& inks = {});
+               const Inks& inks = OnPaper);
 
 /// Draws the steps as large as fits into the target and in its middle, in their own shape and
 /// wherever they lie.

@@ -50,4 +50,8 @@ SkyColours SkyColoursAt(double altitude) {
             Between(from.card, to.card, part), std::lerp(from.stars, to.stars, part)};
 }
 
+SkyColours PlainSky() {
+    return {Qt::black, Qt::black, Qt::black, 0.0};
+}
+
 }  // namespace horavex

@@ -17,4 +17,7 @@ struct SkyColours {
 /// it up full day; the colours between pass into one another.
 SkyColours SkyColoursAt(double altitude);
 
+/// In place of it where a desktop wants contrast: black at every hour.
+SkyColours PlainSky();
+
 }  // namespace horavex

@@ -1,10 +1,12 @@
 #include "desktop/face/sky_ground.h"
 
 #include <QLinearGradient>
+#include <utility>
 
 #include "desktop/face/palette.h"
 #include "desktop/face/sky_colours.h"
 #include "desktop/face/star_field.h"
+#include "desktop/look/look.h"
 
 namespace horavex {
 
@@ -20,7 +22,9 @@ void SkyGround::ShowSun(double altitude) {
 }
 
 void SkyGround::Paint(QPainter& painter, const QRect& part, double ratio) {
-    if (painted_.isNull() || painted_.devicePixelRatio() != ratio) {
+    const bool isPlain = look::CurrentTheme() == look::Theme::kContrast;
+    if (std::exchange(isPlain_, isPlain) != isPlain || painted_.isNull() ||
+        painted_.devicePixelRatio() != ratio) {
         painted_ = QPixmap(plan_.face.size() * ratio);
         painted_.setDevicePixelRatio(ratio);
         QPainter on(&painted_);
@@ -31,7 +35,7 @@ void SkyGround::Paint(QPainter& painter, const QRect& part, double ratio) {
 }
 
 void SkyGround::PaintAll(QPainter& painter) const {
-    const SkyColours colours = SkyColoursAt(altitude_);
+    const SkyColours colours = isPlain_ ? PlainSky() : SkyColoursAt(altitude_);
     painter.setRenderHint(QPainter::Antialiasing);
     QLinearGradient sky(0.0, 0.0, 0.0, plan_.face.height());
     sky.setColorAt(0.0, colours.top);

@@ -31,6 +31,7 @@ private:
 
     Plan plan_;
     double altitude_ = -90.0;  // night until the sky is told
+    bool isPlain_ = false;     // as painted, for a desktop that wants contrast
     QPixmap painted_;          // null where the sky has changed
 };
 

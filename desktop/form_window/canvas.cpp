@@ -4,6 +4,7 @@
 
 #include "desktop/documents/drawing_steps.h"
 #include "desktop/form_window/twips.h"
+#include "desktop/look/window_inks.h"
 
 namespace horavex {
 
@@ -38,13 +39,13 @@ QSize Canvas::sizeHint() const {
 
 void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const Inks inks = look::WindowInks(palette());
     if (twips_.isEmpty()) {
         constexpr int kRoomForPens = 3;
         const QMargins room(kRoomForPens, kRoomForPens, kRoomForPens, kRoomForPens);
-        DrawWhole(painter, rect().marginsRemoved(room), drawing_,
-                  {palette().color(QPalette::Text), palette().color(QPalette::Base)});
+        DrawWhole(painter, rect().marginsRemoved(room), drawing_, inks);
     } else {
-        DrawSteps(painter, Target(), twips_, drawing_);
+        DrawSteps(painter, Target(), twips_, drawing_, inks);
     }
 }
 

@@ -9,8 +9,8 @@ namespace horavex {
 
 /// The widget of a picture control: its picture file and the drawing over it. Under the name
 /// "qt_form" it is the place in a layout where a form's own drawing is shown, whole, in its own
-/// shape and with the colours of the window in place of black and white. A layout may have a
-/// picture keep its shape, too, by the property "keepsShape".
+/// shape. A layout may have a picture keep its shape, too, by the property "keepsShape". All of it
+/// is in the colours of the window.
 class Canvas : public QWidget {
 public:
     explicit Canvas(QWidget* parent = nullptr) : QWidget(parent) {}

@@ -25,6 +25,8 @@
 #include "desktop/form_window/tab_pages.h"
 #include "desktop/form_window/twips.h"
 #include "desktop/form_window/widget_names.h"
+#include "desktop/look/window_inks.h"
+#include "desktop/look/window_look.h"
 #include "forms/focusable.h"
 
 namespace horavex {
@@ -63,6 +65,7 @@ constexpr const char* kPlacedByProgram = "placedByProgram";
 /// True for a window that its program alone places.
 bool LayOut(QWidget& window, const Layout& layout) {
     layout(window);
+    look::Dress(window);
     return window.property(kPlacedByProgram).toBool();
 }
 
@@ -392,7 +395,8 @@ void FormWindow::paintEvent(QPaintEvent*) {
         return;
     }
     QPainter painter(this);
-    DrawSteps(painter, rect(), {form_.ScaleWidth(), form_.ScaleHeight()}, form_.drawing);
+    DrawSteps(painter, rect(), {form_.ScaleWidth(), form_.ScaleHeight()}, form_.drawing,
+              look::WindowInks(palette()));
 }
 
 }  // namespace horavex

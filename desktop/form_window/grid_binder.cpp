@@ -148,6 +148,9 @@ bool GridBinder::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         ShareWidth();
     }
+    if (event->type() == QEvent::PaletteChange && watched == &widget) {
+        Show();  // the rows that stand out have its colours
+    }
     if (event->type() == QEvent::Wheel && !Scrolls()) {
         Wheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
         return true;

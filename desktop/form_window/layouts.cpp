@@ -1,7 +1,7 @@
 #include "desktop/form_window/layouts.h"
 
-#include <QStyle>
-
+#include "desktop/documents/drawing_steps.h"
+#include "forms/inks.h"
 #include "ui_HoravexMainForm.h"
 #include "ui_Moon_Phases.h"
 #include "ui_NewCoordinates.h"
@@ -30,15 +30,14 @@ void Fill(QWidget& window) {
     Drawn().setupUi(&window);
 }
 
-void FillAthan(QWidget& window) {
-    Ui::frmAthan drawn;
+// The bar of the progress is near white on every desktop, and so lies in a trough of its own.
+void FillMessage(QWidget& window) {
+    Ui::fMessage drawn;
     drawn.setupUi(&window);
-    const auto sign = [&window](QStyle::StandardPixmap picture, auto... buttons) {
-        (buttons->setIcon(window.style()->standardIcon(picture)), ...);
-    };
-    sign(QStyle::SP_MediaPlay, drawn.Picture__1, drawn.Picture__4);
-    sign(QStyle::SP_MediaPause, drawn.Picture__2, drawn.Picture__5);
-    sign(QStyle::SP_MediaStop, drawn.Picture__3, drawn.Picture__6);
+    QPalette trough = drawn.Shape1->palette();
+    trough.setColor(QPalette::Window, OnPaper(ink::kAccent));
+    drawn.Shape1->setPalette(trough);
+    drawn.Shape1->setAutoFillBackground(true);
 }
 
 // The pages lie over each other, and each keeps its place while another one is on view, so that
@@ -58,8 +57,8 @@ Layouts DrawnLayouts() {
     return {
         {"NewCoordinates", Fill<Ui::NewCoordinates>},
         {"fCountry", Fill<Ui::fCountry>},
-        {"fMessage", Fill<Ui::fMessage>},
-        {"frmAthan", FillAthan},
+        {"fMessage", FillMessage},
+        {"frmAthan", Fill<Ui::frmAthan>},
         {"fQibla", Fill<Ui::fQibla>},
         {"frmDateConvert", Fill<Ui::frmDateConvert>},
         {"frmDistance", Fill<Ui::frmDistance>},

@@ -1,7 +1,10 @@
 #include <QAccessible>
 
+#include "desktop/documents/drawing_steps.h"
 #include "desktop/form_window_fixture.h"
 #include "desktop/ports/qt_event_loop.h"
+#include "desktop/scoped_look.h"
+#include "forms/inks.h"
 
 namespace horavex {
 namespace {
@@ -385,6 +388,18 @@ TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {
     const QImage image = canvas.grab().toImage();
     EXPECT_EQ(image.pixelColor(image.width() / 4, image.height() / 2), QColor(250, 0, 0));
     EXPECT_NE(image.pixelColor(image.width() * 3 / 4, image.height() / 2), QColor(250, 0, 0));
+}
+
+TEST_F(BinderTest, PictureIsInTheColoursOfADarkWindow) {
+    const ScopedLook look(look::Theme::kDark);
+    form.picture.drawing = {
+        PolygonStep{{{0, 0}, {600, 0}, {600, 600}, {0, 600}}, ink::kSea, {ink::kSea}}};
+    form.picture.Refresh();
+    Settle();
+    const QImage image = Find<Canvas>("picture").grab().toImage();
+    const QColor sea = image.pixelColor(image.width() / 2, image.height() / 2);
+    EXPECT_LT(sea.lightness(), 60);
+    EXPECT_GT(OnPaper(ink::kSea).lightness(), 200);
 }
 
 TEST_F(BinderTest, DrawingOfAFormIsWholeInItsShapeAndInTheColoursOfTheWindow) {

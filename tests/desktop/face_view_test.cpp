@@ -15,6 +15,7 @@
 #include "desktop/face/times_view.h"
 #include "desktop/face_values.h"
 #include "desktop/form_window/menu.h"
+#include "desktop/scoped_look.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "lang/language_pack.h"
@@ -204,6 +205,17 @@ TEST_F(FaceTest, GroundFollowsTheSunAndOnlyAnotherSkyIsPainted) {
     face.ShowDay({});
     EXPECT_EQ(View().grab().toImage().pixelColor(10, 350), day);
     EXPECT_NE(groundUnder(-30.0), day);
+}
+
+TEST_F(FaceTest, GroundIsPlainWhileTheDesktopWantsContrast) {
+    face.LoadMovie(0, "");
+    const auto ground = [this] { return View().grab().toImage().pixelColor(10, 350); };
+    const QColor night = ground();
+    {
+        const ScopedLook look(look::Theme::kContrast);
+        EXPECT_EQ(ground(), QColor(Qt::black));
+    }
+    EXPECT_EQ(ground(), night);
 }
 
 TEST_F(FaceTest, DayWithoutTimesIsPainted) {

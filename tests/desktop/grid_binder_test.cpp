@@ -3,6 +3,7 @@
 #include <QWheelEvent>
 
 #include "desktop/form_window_fixture.h"
+#include "desktop/scoped_look.h"
 #include "forms/grid.h"
 
 namespace horavex {
@@ -80,6 +81,15 @@ TEST_F(GridBinderTest, RowsThatStandOutAreBoldAndThePresentOneIsColoured) {
     EXPECT_TRUE(Table().item(2, 0)->font().bold());
     EXPECT_EQ(Table().item(2, 0)->background(), Table().palette().highlight());
     EXPECT_NE(Table().item(1, 0)->background(), Table().palette().highlight());
+}
+
+TEST_F(GridBinderTest, PresentRowTakesTheColoursOfAnotherTheme) {
+    for (const look::Theme theme : {look::Theme::kDark, look::Theme::kLight}) {
+        const ScopedLook look(theme);
+        QApplication::processEvents();
+        EXPECT_EQ(Table().item(2, 0)->background().color(),
+                  look::ColourOf(theme, look::Role::kMarked));
+    }
 }
 
 TEST_F(GridBinderTest, ColumnsShareTheWidthButForOneThatNeedsMore) {

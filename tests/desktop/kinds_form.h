@@ -70,7 +70,7 @@ Widget* AddWidget(QWidget& window, const char* name, QWidget* parent = nullptr) 
 }
 
 inline void FillKinds(QWidget& window) {
-    new QVBoxLayout(&window);
+    (new QVBoxLayout(&window))->setSpacing(4);
     auto* frame = AddWidget<QGroupBox>(window, "frame");
     new QVBoxLayout(frame);
     AddWidget<QRadioButton>(window, "option_1", frame);

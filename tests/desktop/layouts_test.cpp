@@ -1,13 +1,19 @@
 #include "desktop/form_window/layouts.h"
 
 #include <QApplication>
+#include <QGridLayout>
+#include <QPushButton>
 #include <QTabBar>
+#include <algorithm>
+#include <array>
 #include <set>
 
 #include "desktop/face/azan_face.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
 #include "desktop/form_window/widget_names.h"
+#include "desktop/look/measures.h"
+#include "desktop/look/window_look.h"
 #include "forms/focusable.h"
 #include "support/test_platform.h"
 #include "windows/f_country.h"
@@ -88,6 +94,42 @@ TEST_P(LayoutsTest, LayoutHoldsNoText) {
         EXPECT_TRUE(widget->property("title").toString().isEmpty())
             << widget->objectName().toStdString();
         EXPECT_TRUE(widget->toolTip().isEmpty()) << widget->objectName().toStdString();
+    }
+}
+
+TEST_P(LayoutsTest, SpacesAndMarginsLieOnTheGrid) {
+    const QWidget& window = *windows.Find(&Loaded());
+    for (const QLayout* layout : window.findChildren<QLayout*>()) {
+        const QMargins margins = layout->contentsMargins();
+        std::vector<int> measures = {margins.left(), margins.top(), margins.right(),
+                                     margins.bottom()};
+        if (const auto* grid = qobject_cast<const QGridLayout*>(layout)) {
+            measures.insert(measures.end(), {grid->horizontalSpacing(), grid->verticalSpacing()});
+        } else if (!layout->objectName().startsWith("qt_")) {
+            measures.push_back(layout->spacing());
+        }
+        for (const int measure : measures) {
+            EXPECT_EQ(measure % look::kGrid, 0) << layout->objectName().toStdString();
+        }
+    }
+}
+
+TEST_P(LayoutsTest, ButtonsHaveTheSignsThatTheLayoutNames) {
+    for (const auto* button : windows.Find(&Loaded())->findChildren<QPushButton*>()) {
+        EXPECT_EQ(button->icon().isNull(), !button->property("sign").isValid())
+            << button->objectName().toStdString();
+    }
+}
+
+TEST_P(LayoutsTest, TextsHaveASizeOfTheScale) {
+    const QWidget& window = *windows.Find(&Loaded());
+    const double usual = window.font().pointSizeF();
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const double part = widget->font().pointSizeF() / usual;
+        const bool isOnScale =
+            std::ranges::any_of(std::array{1.0, look::kSmall, look::kHeading, look::kLarge},
+                                [part](double size) { return std::abs(size - part) < 0.01; });
+        EXPECT_TRUE(isOnScale) << widget->objectName().toStdString() << " " << part;
     }
 }
 

@@ -5,36 +5,15 @@
 #include <cmath>
 
 #include "desktop/face/palette.h"
+#include "desktop/look/contrast.h"
 
 namespace horavex {
 namespace {
 
 constexpr double kLeastContrast = 4.5;
 
-double Linear(float part) {
-    return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-}
-
-/// Relative luminance and contrast as the Web Content Accessibility Guidelines define them.
-double Luminance(const QColor& colour) {
-    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
-           0.0722 * Linear(colour.blueF());
-}
-
-double Contrast(const QColor& text, const QColor& ground) {
-    const double a = Luminance(text) + 0.05;
-    const double b = Luminance(ground) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
-
-/// What is seen where one colour lies over an opaque one.
-QColor Over(const QColor& above, const QColor& below) {
-    const float part = above.alphaF();
-    const auto mixed = [part](float a, float b) { return a * part + b * (1.0F - part); };
-    return QColor::fromRgbF(mixed(above.redF(), below.redF()),
-                            mixed(above.greenF(), below.greenF()),
-                            mixed(above.blueF(), below.blueF()));
-}
+using look::Contrast;
+using look::Over;
 
 /// The sky at one part of its height, 0 at the top.
 QColor At(const SkyColours& colours, float part) {
@@ -70,6 +49,15 @@ TEST(SkyColours, EveryTextIsReadableOnEveryGroundAtEveryHeightOfTheSun) {
             ExpectReadable(Over(kGlow, card), {kGold}, altitude, "in the row of the next prayer");
         }
     }
+}
+
+TEST(SkyColours, PlainSkyIsBlackWithoutStars) {
+    const SkyColours colours = PlainSky();
+    for (const QColor& text : {kGold, kCream, kMuted}) {
+        EXPECT_GE(Contrast(text, colours.top), 7.0);
+        EXPECT_GE(Contrast(text, Over(kPressed, Over(colours.card, colours.bottom))), 3.0);
+    }
+    EXPECT_EQ(colours.stars, 0.0);
 }
 
 TEST(MenusOfTheFace, AreReadable) {

@@ -1,0 +1,43 @@
+#include "desktop/look/look.h"
+
+#include <QApplication>
+#include <QVariant>
+
+#include "desktop/look/look_style.h"
+
+namespace horavex::look {
+
+namespace {
+
+constexpr const char* kStill = "standsStill";
+
+}  // namespace
+
+void PutOn() {
+    QApplication::setStyle(new LookStyle);
+}
+
+void Use(Theme theme) {
+    QApplication::setPalette(PaletteOf(theme));
+}
+
+Theme ThemeNamed(const QString& name) {
+    if (name == QLatin1String("contrast")) {
+        return Theme::kContrast;
+    }
+    return name == QLatin1String("dark") ? Theme::kDark : Theme::kLight;
+}
+
+Theme CurrentTheme() {
+    return ThemeOf(QGuiApplication::palette());
+}
+
+void AllowMotion(bool allowed) {
+    qApp->setProperty(kStill, !allowed);
+}
+
+bool MotionIsAllowed() {
+    return !qApp->property(kStill).toBool();
+}
+
+}  // namespace horavex::look

@@ -1,0 +1,159 @@
+#include "desktop/look/look_style.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QStyleOption>
+#include <QWidget>
+
+#include "desktop/look/icons.h"
+#include "desktop/look/look.h"
+#include "desktop/look/measures.h"
+
+namespace horavex::look {
+
+namespace {
+
+bool HasEdge(QStyle::PrimitiveElement element) {
+    switch (element) {
+        case QStyle::PE_Frame:
+        case QStyle::PE_FrameLineEdit:
+        case QStyle::PE_FrameMenu:
+        case QStyle::PE_IndicatorCheckBox:
+        case QStyle::PE_IndicatorRadioButton:
+        case QStyle::PE_PanelButtonCommand:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// The part of a control that is taken hold of; none for one without an edge.
+QStyle::SubControl PartWithEdge(QStyle::ComplexControl control) {
+    switch (control) {
+        case QStyle::CC_ComboBox:
+            return QStyle::SC_ComboBoxFrame;
+        case QStyle::CC_SpinBox:
+            return QStyle::SC_SpinBoxFrame;
+        case QStyle::CC_ScrollBar:
+            return QStyle::SC_ScrollBarSlider;
+        case QStyle::CC_Slider:
+            return QStyle::SC_SliderHandle;
+        default:
+            return QStyle::SC_None;
+    }
+}
+
+/// The sign of the program's own set that stands for one of the toolkit's; empty for none.
+QString NameOf(QStyle::StandardPixmap picture, Qt::LayoutDirection direction) {
+    const bool goesRight = direction == Qt::LeftToRight;
+    switch (picture) {
+        case QStyle::SP_MessageBoxInformation:
+            return QStringLiteral("information");
+        case QStyle::SP_MessageBoxWarning:
+            return QStringLiteral("warning");
+        case QStyle::SP_MessageBoxCritical:
+            return QStringLiteral("critical");
+        case QStyle::SP_ArrowBack:
+            return goesRight ? QStringLiteral("back") : QStringLiteral("forward");
+        case QStyle::SP_ArrowForward:
+            return goesRight ? QStringLiteral("forward") : QStringLiteral("back");
+        case QStyle::SP_DirIcon:
+        case QStyle::SP_DirOpenIcon:
+        case QStyle::SP_DirClosedIcon:
+            return QStringLiteral("folder");
+        case QStyle::SP_FileDialogNewFolder:
+            return QStringLiteral("new-folder");
+        case QStyle::SP_FileDialogToParent:
+            return QStringLiteral("up");
+        case QStyle::SP_FileIcon:
+            return QStringLiteral("file");
+        default:
+            return {};
+    }
+}
+
+Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
+    return option == nullptr ? QGuiApplication::layoutDirection() : option->direction;
+}
+
+constexpr double kCorner = 2.0;  // radius
+
+void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, double corner) {
+    const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(ColourOf(ThemeOf(option.palette), hasFocus ? Role::kMarked : Role::kEdge));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+    painter.restore();
+}
+
+/// The toolkit makes its edges of darker shades of the ground, which are lost where that is dark.
+/// A desktop's own colours are left to its style.
+bool WantsEdges(const QStyleOption& option) {
+    const Theme theme = ThemeOf(option.palette);
+    return theme != Theme::kLight &&
+           option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
+}
+
+}  // namespace
+
+int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const {
+    switch (metric) {
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return widget != nullptr && widget->isWindow() ? kWindowMargin : kMargin;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return kSpacing;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* answer) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    if (hint == SH_Widget_Animation_Duration && !MotionIsAllowed()) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+QIcon LookStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                              const QWidget* widget) const {
+    const QString name = NameOf(picture, DirectionFor(option));
+    return name.isEmpty() ? QProxyStyle::standardIcon(picture, option, widget) : IconOf(name);
+}
+
+QPixmap LookStyle::standardPixmap(StandardPixmap picture, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    const QString name = NameOf(picture, DirectionFor(option));
+    return name.isEmpty() ? QProxyStyle::standardPixmap(picture, option, widget)
+                          : IconOf(name).pixmap(pixelMetric(PM_LargeIconSize, option, widget));
+}
+
+void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (HasEdge(element) && WantsEdges(*option)) {
+        const bool isRound = element == PE_IndicatorRadioButton;
+        DrawEdge(*option, *painter, option->rect, isRound ? option->rect.width() / 2.0 : kCorner);
+    }
+}
+
+void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const SubControl part = PartWithEdge(control);
+    if (part != SC_None && WantsEdges(*option)) {
+        DrawEdge(*option, *painter, subControlRect(control, option, part, widget), kCorner);
+    }
+}
+
+}  // namespace horavex::look

@@ -1,0 +1,154 @@
+#include "desktop/look/roles.h"
+
+#include <gtest/gtest.h>
+
+#include <QWidget>
+#include <array>
+
+#include "desktop/look/contrast.h"
+#include "desktop/look/look.h"
+#include "desktop/look/window_inks.h"
+#include "desktop/scoped_look.h"
+#include "forms/inks.h"
+
+namespace horavex::look {
+namespace {
+
+constexpr double kText = 4.5;   // the least contrast of what is read
+constexpr double kShape = 3.0;  // and of what is seen
+
+class EveryTheme : public testing::TestWithParam<Theme> {
+protected:
+    static void ExpectOn(std::initializer_list<Role> grounds, Role role, double least) {
+        for (const Role ground : grounds) {
+            const QColor above = ColourOf(GetParam(), role);
+            const QColor below = ColourOf(GetParam(), ground);
+            EXPECT_GE(Contrast(above, below), least)
+                << above.name().toStdString() << " on " << below.name().toStdString();
+        }
+    }
+
+    /// Inks as a window of this theme has them.
+    static void ExpectInkOn(std::initializer_list<Colour> grounds, const Colour& ink,
+                            double least) {
+        const Inks inks = WindowInks(PaletteOf(GetParam()));
+        for (const Colour& ground : grounds) {
+            EXPECT_GE(Contrast(inks(ink), inks(ground)), least)
+                << inks(ink).name().toStdString() << " on " << inks(ground).name().toStdString();
+        }
+    }
+};
+
+TEST_P(EveryTheme, TextsAreReadableOnEveryGround) {
+    const auto grounds = {Role::kGround, Role::kField, Role::kSetOff, Role::kRaised};
+    ExpectOn(grounds, Role::kText, kText);
+    ExpectOn(grounds, Role::kMuted, kText);
+    ExpectOn({Role::kMarked}, Role::kMarkedText, kText);
+    ExpectOn({Role::kGround, Role::kField}, Role::kLink, kText);
+}
+
+TEST_P(EveryTheme, MarksEdgesAndWhatIsOffCanBeTold) {
+    const auto grounds = {Role::kGround, Role::kField, Role::kRaised};
+    ExpectOn(grounds, Role::kMarked, kShape);
+    ExpectOn(grounds, Role::kEdge, kShape);
+    ExpectOn(grounds, Role::kWarning, kShape);
+    ExpectOn(grounds, Role::kTrouble, kShape);
+    ExpectOn(grounds, Role::kOff, kShape);
+}
+
+TEST_P(EveryTheme, IsKnownByItsPalette) {
+    EXPECT_EQ(ThemeOf(PaletteOf(GetParam())), GetParam());
+}
+
+TEST_P(EveryTheme, WhatIsOnMapsCanBeTold) {
+    for (const Colour& ink : {ink::kMark, ink::kAccent, ink::kCoast}) {
+        ExpectInkOn({ink::kSea, ink::kLand}, ink, kShape);
+    }
+    for (const Colour& kind : ink::kYallop) {
+        ExpectInkOn({kind}, ink::kOutline, kShape);
+    }
+    ExpectInkOn({ink::kMoonSetsFirst, ink::kBeforeNewMoon, ink::kUnjudged}, ink::kOutline, kShape);
+}
+
+TEST_P(EveryTheme, WhatIsOnCompassAndMoonCanBeTold) {
+    for (const Colour& ink : {ink::kMark, ink::kSunRim, ink::kMoonRim, kBlack}) {
+        ExpectInkOn({kWhite}, ink, kShape);
+    }
+    ExpectInkOn({ink::kMoonDark}, ink::kMoonLit, kShape);
+    ExpectInkOn({ink::kMoonDown}, ink::kMoonUp, kShape);
+    ExpectInkOn({kWhite}, ink::kScale, kText);
+    EXPECT_GE(Contrast(WindowInks(PaletteOf(GetParam()))(ink::kScale),
+                       ColourOf(GetParam(), Role::kGround)),
+              kText);
+}
+
+TEST_P(EveryTheme, WhatMovesOverADayCanBeTold) {
+    for (const Colour& ink : {ink::kSunPath, ink::kMoonPath, ink::kNow, ink::kHorizon}) {
+        ExpectInkOn({ink::kDay, ink::kCivil, ink::kNautical, ink::kAstronomical, ink::kNight}, ink,
+                    kShape);
+    }
+}
+
+TEST_P(EveryTheme, ChartOfAYearIsReadable) {
+    ExpectInkOn({ink::kChartPaper}, ink::kChartText, kText);
+    ExpectInkOn({ink::kChartNight, ink::kDawn, ink::kDusk}, ink::kOnDark, kText);
+    ExpectInkOn({ink::kMorning, ink::kNoon, ink::kAfternoon}, ink::kOnLight, kText);
+    ExpectInkOn({ink::kOnDark}, ink::kToday, kShape);
+}
+
+std::string NameOf(const testing::TestParamInfo<Theme>& theme) {
+    constexpr std::array kNames = {"Light", "Dark", "Contrast"};
+    return kNames.at(static_cast<std::size_t>(theme.param));
+}
+
+INSTANTIATE_TEST_SUITE_P(Themes, EveryTheme,
+                         testing::Values(Theme::kLight, Theme::kDark, Theme::kContrast), NameOf);
+
+TEST(Inks, OnPaperAreReadableAndTheirOwn) {
+    for (const Colour& text : {ink::kPageText, ink::kAccent}) {
+        EXPECT_GE(Contrast(OnPaper(text), Qt::white), kText);
+        EXPECT_GE(Contrast(OnPaper(text), OnPaper(ink::kPageShade)), kText);
+    }
+    EXPECT_GE(Contrast(OnPaper(ink::kBar), OnPaper(ink::kAccent)), kText);
+    EXPECT_GE(Contrast(OnPaper(ink::kEmblemLight), OnPaper(ink::kEmblemSky)), kShape);
+    EXPECT_EQ(OnPaper(ink::kMark), QColor(190, 30, 30));
+}
+
+TEST(Inks, SkiesMoonsAndClassesAreTheSameOnDarkGround) {
+    const Inks inks = WindowInks(PaletteOf(Theme::kDark));
+    std::vector<Colour> same = {ink::kMoonLit,   ink::kMoonDark, ink::kMoonSetsFirst, ink::kSunPath,
+                                ink::kNow,       ink::kDay,      ink::kNight,         ink::kDawn,
+                                ink::kNoon,      ink::kOnLight,  ink::kOnDark,        ink::kToday,
+                                ink::kOutline,   ink::kSun,      ink::kSunRim,        ink::kHorizon,
+                                ink::kChartNight};
+    same.insert(same.end(), std::begin(ink::kYallop), std::end(ink::kYallop));
+    for (const Colour& colour : same) {
+        EXPECT_EQ(inks(colour), OnPaper(colour));
+    }
+}
+
+TEST(ThemeOf, SeesThroughTheColoursOfADesktop) {
+    EXPECT_EQ(ThemeOf(QPalette(QColor(45, 48, 53))), Theme::kDark);
+    EXPECT_EQ(ThemeOf(QPalette(QColor(239, 239, 239))), Theme::kLight);
+    EXPECT_EQ(ThemeOf(QPalette(Qt::black)), Theme::kContrast);
+}
+
+TEST(Look, DressesTheWindowsOfTheProgram) {
+    const ScopedLook look(Theme::kDark);
+    EXPECT_EQ(CurrentTheme(), Theme::kDark);
+    const QPalette worn = QWidget().palette();
+    EXPECT_EQ(worn.color(QPalette::Window), ColourOf(Theme::kDark, Role::kGround));
+    EXPECT_EQ(worn.color(QPalette::Disabled, QPalette::Text), ColourOf(Theme::kDark, Role::kOff));
+    Use(Theme::kContrast);
+    EXPECT_EQ(CurrentTheme(), Theme::kContrast);
+}
+
+TEST(Look, KnowsThemesByTheirNames) {
+    EXPECT_EQ(ThemeNamed("light"), Theme::kLight);
+    EXPECT_EQ(ThemeNamed("dark"), Theme::kDark);
+    EXPECT_EQ(ThemeNamed("contrast"), Theme::kContrast);
+    EXPECT_EQ(ThemeNamed(""), Theme::kLight);
+}
+
+}  // namespace
+}  // namespace horavex::look
