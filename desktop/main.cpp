@@ -5,6 +5,7 @@
 #include "desktop/desktop_platform.h"
 #include "desktop/end_signals.h"
 #include "desktop/fault_box.h"
+#include "desktop/look/desktop_wishes.h"
 #include "desktop/printing/document_desk.h"
 #include "linux/sound/sound_import.h"
 #include "shell/wiring.h"
@@ -28,6 +29,7 @@ bool Start() {
 
 int main(int argc, char** argv) {
     horavex::Application application(argc, argv);
+    const horavex::look::DesktopWishes wishes;
     const horavex::DesktopPlatform platform;
     const horavex::EndSignals signals;
     application.onEnd = [] { horavex::Ports().eventLoop.EndProcess(); };
