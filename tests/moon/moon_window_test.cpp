@@ -204,7 +204,7 @@ TEST_F(MoonWindowTest, HelpOpensOverTheWindowWithTheTextOfThePack) {
     EXPECT_EQ(frmRamadan->Owner(), &form);
     EXPECT_EQ(frmRamadan->Caption(), "Help");
     EXPECT_EQ(frmRamadan->SkinLabel1.Caption(),
-              "How to find the beginning of a lunar month (for example Ramadan, Zul Hijja)");
+              "How to find the starting of any luner Month ( Example : Ramadan , Zul-heggah )");
     EXPECT_EQ(frmRamadan->cmdClose.Caption(), "&Close");
     EXPECT_THAT(frmRamadan->Text1.Text(), testing::StartsWith("A lunar month begins"));
     EXPECT_THAT(frmRamadan->Text1.Text(), testing::EndsWith("decide on the day."));
