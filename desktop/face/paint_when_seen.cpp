@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 
 #include "desktop/ports/display.h"
 
@@ -10,6 +11,11 @@ namespace horavex {
 namespace {
 
 constexpr std::uint8_t kKindOfEvent = 0x7f;  // without the mark of one that a program has sent
+
+/// A Wayland desktop tells no window where it lies.
+bool PlacesAreKnown() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
 
 }  // namespace
 
@@ -24,11 +30,7 @@ void PaintWhenSeen::LieBeneath(QWidget& cover) {
 }
 
 bool PaintWhenSeen::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) {
-        isBeneath_ = watched == cover_;
-    } else if (event->type() == QEvent::Hide && watched == cover_) {
-        isBeneath_ = false;
-    } else if (event->type() == QEvent::Show && watched == &window_) {
+    if (event->type() == QEvent::Show && watched == &window_) {
         HearOfCovers();
     }
     Follow();
@@ -64,8 +66,15 @@ bool PaintWhenSeen::nativeEventFilter(const QByteArray& type, void* message, qin
     return false;
 }
 
+// Window managers keep what fills the screen in front of all others while it has the keyboard.
+bool PaintWhenSeen::IsBeneath() const {
+    return cover_ != nullptr && cover_->isVisible() && !cover_->isMinimized() &&
+           cover_->isActiveWindow() && PlacesAreKnown() &&
+           cover_->geometry().contains(window_.frameGeometry());
+}
+
 void PaintWhenSeen::Follow() {
-    const bool isSeen = !window_.isMinimized() && !isCovered_ && !isBeneath_;
+    const bool isSeen = !window_.isMinimized() && !isCovered_ && !IsBeneath();
     if (isSeen != window_.updatesEnabled()) {
         window_.setUpdatesEnabled(isSeen);
     }

@@ -13,19 +13,19 @@ class PaintWhenSeen : public QObject, private QAbstractNativeEventFilter {
 public:
     explicit PaintWhenSeen(QWidget& window);
 
-    /// Another window of the program's covers this one, whichever of them was activated last being
-    /// in front, until it is hidden.
+    /// Another window of the program's, which fills a screen, covers this one: as long as it is the
+    /// active one and this lies in its area as a whole.
     void LieBeneath(QWidget& cover);
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
     void HearOfCovers() const;
+    bool IsBeneath() const;
     void Follow();
 
     QWidget& window_;
     QPointer<QWidget> cover_;
-    bool isBeneath_ = false;  // the cover
     bool isCovered_ = false;  // by whatever it is
 };
 

@@ -99,6 +99,48 @@ TEST_F(FaceWindowsTest, FaceBeneathTheFullScreenIsNotPaintedUntilItIsInFront) {
     EXPECT_FALSE(painted.region.isEmpty());
 }
 
+TEST_F(FaceWindowsTest, FaceBesideTheFullScreenIsPainted) {
+    Tick();
+    face.TakeShape({.fillsScreen = true});
+    QApplication::setActiveWindow(Poster());
+    const QRect screen = Poster()->geometry();
+    window.move(screen.bottomLeft() - QPoint(0, window.height() / 2));  // partly on the one below
+    QApplication::processEvents();
+    PaintedRegion painted(View());
+    Tick();
+    EXPECT_FALSE(painted.region.isEmpty());
+    window.move(screen.topLeft());
+    QApplication::processEvents();
+    painted.region = {};
+    Tick();
+    EXPECT_TRUE(painted.region.isEmpty());
+}
+
+TEST_F(FaceWindowsTest, FaceIsPaintedWhileTheFullScreenIsMinimised) {
+    Tick();
+    face.TakeShape({.fillsScreen = true});
+    QApplication::setActiveWindow(Poster());
+    Poster()->showMinimized();
+    QApplication::setActiveWindow(Poster());  // whatever the window manager makes of it
+    QApplication::processEvents();
+    PaintedRegion painted(View());
+    Tick();
+    EXPECT_FALSE(painted.region.isEmpty());
+}
+
+TEST_F(FaceWindowsTest, FaceIsPaintedWhileAnotherWindowThanTheFullScreenIsInUse) {
+    Tick();
+    face.TakeShape({.fillsScreen = true});
+    QApplication::setActiveWindow(Poster());
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QApplication::processEvents();
+    PaintedRegion painted(View());
+    Tick();
+    EXPECT_FALSE(painted.region.isEmpty());
+}
+
 TEST_F(FaceWindowsTest, MinimisedFaceIsNotPaintedAndIsPaintedWhenItComesBack) {
     Tick();
     window.setWindowState(Qt::WindowMinimized);
