@@ -4,7 +4,7 @@
 
 #include <iostream>
 
-#include "ctl/plain_text.h"
+#include "base/plain_text.h"
 #include "linux/file_status.h"
 #include "linux/pipe_output.h"
 

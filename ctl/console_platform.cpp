@@ -6,8 +6,8 @@
 #include <iostream>
 #include <thread>
 
+#include "base/plain_text.h"
 #include "ctl/place_options.h"
-#include "ctl/plain_text.h"
 #include "engine/limit_message.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"

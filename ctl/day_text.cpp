@@ -3,9 +3,9 @@
 #include <iomanip>
 #include <sstream>
 
+#include "base/plain_text.h"
 #include "calendar/date_words.h"
 #include "ctl/basis.h"
-#include "ctl/plain_text.h"
 #include "engine/moment_text.h"
 #include "engine/next_prayer.h"
 #include "engine/ruled_year.h"

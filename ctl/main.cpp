@@ -5,8 +5,8 @@
 #include <iostream>
 
 #include "base/fault.h"
+#include "base/plain_text.h"
 #include "ctl/command.h"
-#include "ctl/plain_text.h"
 
 namespace horavex {
 

@@ -6,10 +6,10 @@
 
 #include "base/fold.h"
 #include "base/int16.h"
+#include "base/plain_text.h"
 #include "base/text.h"
 #include "ctl/command.h"
 #include "ctl/country_codes.h"
-#include "ctl/plain_text.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/nearest_city.h"

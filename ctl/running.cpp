@@ -2,10 +2,10 @@
 #include <memory>
 #include <optional>
 
+#include "base/plain_text.h"
 #include "base/text.h"
 #include "ctl/command.h"
 #include "ctl/number_range.h"
-#include "ctl/plain_text.h"
 #include "ctl/status_line.h"
 #include "linux/bus/running_program.h"
 

@@ -3,11 +3,11 @@
 #include <span>
 #include <sstream>
 
+#include "base/plain_text.h"
 #include "base/utf8.h"
 #include "ctl/basis.h"
 #include "ctl/calculation.h"
 #include "ctl/place_options.h"
-#include "ctl/plain_text.h"
 #include "engine/angle.h"
 #include "engine/current_year.h"
 #include "engine/moment_text.h"

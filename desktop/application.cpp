@@ -1,9 +1,9 @@
 #include "desktop/application.h"
 
 #include "desktop/accessible/assistive_tools.h"
-#include "desktop/fault_box.h"
 #include "desktop/look/look.h"
 #include "desktop/ports/emblem.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

@@ -3,10 +3,10 @@
 #include <QApplication>
 #include <utility>
 
-#include "desktop/fault_box.h"
 #include "linux/file_status.h"
 #include "linux/folders.h"
 #include "linux/left_overs.h"
+#include "platform/fault_box.h"
 #include "shell/close_face.h"
 #include "windows/frm_main.h"
 

@@ -4,10 +4,10 @@
 #include "desktop/application.h"
 #include "desktop/desktop_platform.h"
 #include "desktop/end_signals.h"
-#include "desktop/fault_box.h"
 #include "desktop/look/desktop_wishes.h"
 #include "desktop/printing/document_desk.h"
 #include "linux/sound/sound_import.h"
+#include "platform/fault_box.h"
 #include "shell/wiring.h"
 #include "windows/frm_main.h"
 

@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <string>
 
-#include "desktop/fault_box.h"
 #include "platform/face.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

@@ -5,8 +5,8 @@
 #include <functional>
 #include <memory>
 
-#include "desktop/fault_box.h"
 #include "forms/control.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

@@ -12,7 +12,6 @@
 #include <utility>
 
 #include "desktop/documents/drawing_steps.h"
-#include "desktop/fault_box.h"
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/arrow_buttons.h"
 #include "desktop/form_window/canvas.h"
@@ -28,6 +27,7 @@
 #include "desktop/look/window_inks.h"
 #include "desktop/look/window_look.h"
 #include "forms/focusable.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

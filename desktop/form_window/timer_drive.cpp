@@ -2,22 +2,10 @@
 
 #include <QDateTime>
 
-#include "desktop/fault_box.h"
+#include "forms/timer_delay.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
-
-namespace {
-
-constexpr int kOneSecondMs = 1000;
-
-}  // namespace
-
-int DelayToTick(int intervalMs, std::int64_t nowMs) {
-    if (intervalMs != kOneSecondMs) {
-        return intervalMs;
-    }
-    return kOneSecondMs - static_cast<int>(nowMs % kOneSecondMs);
-}
 
 TimerDrive::TimerDrive(Timer& timer) : timer_(timer) {
     clockwork_.setSingleShot(true);

@@ -1,16 +1,10 @@
 #pragma once
 
 #include <QTimer>
-#include <cstdint>
 
 #include "forms/timer.h"
 
 namespace horavex {
-
-/// Milliseconds from a moment of the wall clock, in milliseconds, to a timer's next tick. A timer
-/// of one second ticks when the second turns, so that what it shows is fresh; every other one
-/// when its interval is over.
-int DelayToTick(int intervalMs, std::int64_t nowMs);
 
 /// Measures the time of a timer control.
 class TimerDrive {

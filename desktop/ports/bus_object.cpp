@@ -4,7 +4,7 @@
 #include <QDBusVariant>
 #include <utility>
 
-#include "desktop/fault_box.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

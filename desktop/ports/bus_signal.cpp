@@ -1,6 +1,6 @@
 #include "desktop/ports/bus_signal.h"
 
-#include "desktop/fault_box.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

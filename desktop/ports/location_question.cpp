@@ -8,7 +8,7 @@
 #include <QGuiApplication>
 #include <utility>
 
-#include "desktop/fault_box.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

@@ -5,9 +5,9 @@
 #include <QWindow>
 #include <utility>
 
-#include "desktop/fault_box.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/ports/emblem.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 

@@ -4,8 +4,8 @@
 #include <QTimer>
 
 #include "base/fault.h"
-#include "desktop/fault_box.h"
 #include "desktop/form_window_fixture.h"
+#include "platform/fault_box.h"
 
 namespace horavex {
 namespace {

@@ -1,4 +1,4 @@
-#include "ctl/plain_text.h"
+#include "base/plain_text.h"
 
 #include <cstdint>
 #include <functional>

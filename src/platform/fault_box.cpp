@@ -1,4 +1,4 @@
-#include "desktop/fault_box.h"
+#include "platform/fault_box.h"
 
 #include "platform/platform.h"
 

@@ -1,0 +1,28 @@
+#include "terminal/ports/faceless_forms.h"
+
+namespace horavex {
+
+FacelessForms::FacelessForms(PollEventLoop& loop) : timers_(loop) {
+    InstallFormHost(this);
+}
+
+FacelessForms::~FacelessForms() {
+    InstallFormHost(nullptr);
+}
+
+void FacelessForms::Loaded(Form& form) {
+    timers_.Add(form);
+    form.SetObserver(&observer_);
+}
+
+void FacelessForms::Unloaded(Form& form) {
+    form.SetObserver(nullptr);
+    timers_.Remove(form);
+}
+
+void FacelessForms::RunModal(Form& form) {
+    form.UserClose();
+    form.Hide();
+}
+
+}  // namespace horavex
