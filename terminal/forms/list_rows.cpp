@@ -1,0 +1,99 @@
+#include "terminal/forms/list_rows.h"
+
+#include <wctype.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "base/utf8.h"
+#include "terminal/screen/glyphs.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr double kTypingPause = 1.0;  // seconds that end a beginning
+
+std::u32string Folded(const std::string& text) {
+    std::u32string folded = DecodeUtf8(text).value_or(std::u32string());
+    for (char32_t& c : folded) {
+        c = static_cast<char32_t>(::towlower(static_cast<wint_t>(c)));
+    }
+    return folded;
+}
+
+}  // namespace
+
+int ListRows::After(const KeyPress& key, const State& state, double seconds) {
+    const int last = static_cast<int>(state.texts.size()) - 1;
+    if (last < 0) {
+        return -1;
+    }
+    const auto within = [last](int row) { return std::clamp(row, 0, last); };
+    switch (key.code) {
+        case KeyCode::kUp:
+            return within(state.chosen - 1);
+        case KeyCode::kDown:
+            return within(state.chosen + 1);
+        case KeyCode::kPageUp:
+            return within(state.chosen - std::max(1, height_ - 1));
+        case KeyCode::kPageDown:
+            return within(state.chosen + std::max(1, height_ - 1));
+        case KeyCode::kHome:
+            return 0;
+        case KeyCode::kEnd:
+            return last;
+        default:
+            return key.IsText() ? Find(key, state, seconds) : -1;
+    }
+}
+
+int ListRows::Find(const KeyPress& key, const State& state, double seconds) {
+    if (seconds - typedAt_ > kTypingPause) {
+        typed_.clear();
+    }
+    typedAt_ = seconds;
+    AppendUtf8(typed_, key.character);
+    const std::u32string beginning = Folded(typed_);
+    const auto found =
+        std::find_if(state.texts.begin(), state.texts.end(),
+                     [&](const std::string& text) { return Folded(text).starts_with(beginning); });
+    return found == state.texts.end() ? std::max(state.chosen, 0)
+                                      : static_cast<int>(found - state.texts.begin());
+}
+
+void ListRows::KeepInView(const State& state, int height) {
+    const int count = static_cast<int>(state.texts.size());
+    height_ = std::max(1, height);
+    if (state.chosen >= 0) {
+        first_ = std::clamp(first_, state.chosen - height_ + 1, state.chosen);
+    }
+    first_ = std::clamp(first_, 0, std::max(0, count - height_));
+}
+
+void ListRows::Draw(Cells& cells, const Area& area, const State& state, bool hasFocus,
+                    bool fromRight, Tone usual) {
+    KeepInView(state, area.height);
+    const int count = static_cast<int>(state.texts.size());
+    const bool scrolls = count > height_;
+    const int width = area.width - (scrolls ? 1 : 0);
+    cells.Fill(area, usual);
+    for (int row = 0; row < std::min(height_, count - first_); ++row) {
+        const bool isChosen = first_ + row == state.chosen;
+        const Look look(isChosen ? (hasFocus ? Tone::kFocus : Tone::kSelected) : usual);
+        const std::string text =
+            Clipped(state.texts[static_cast<std::size_t>(first_ + row)], width - 2);
+        cells.Fill({area.row + row, area.column, 1, width}, look);
+        if (fromRight) {
+            cells.PutRight(area.row + row, area.column + 1, text, look, width - 2);
+        } else {
+            cells.Put(area.row + row, area.column + 1, text, look, width - 2);
+        }
+    }
+    if (scrolls) {
+        const int mark = area.row + first_ * (height_ - 1) / std::max(1, count - height_);
+        cells.Put(mark, area.column + width, "█", hasFocus ? Tone::kAccent : Tone::kFaint);
+    }
+}
+
+}  // namespace horavex

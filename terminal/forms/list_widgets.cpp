@@ -1,0 +1,240 @@
+#include "terminal/forms/list_widgets.h"
+
+#include <algorithm>
+
+#include "terminal/screen/glyphs.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kWidestList = 50;
+constexpr int kLeastRows = 4;
+
+}  // namespace
+
+int ListWidget::WantedWidth() const {
+    constexpr int kLookedAt = 300;  // a list may be of thousands
+    int widest = 20;
+    for (int item = 0; item < std::min(list_.ListCount(), kLookedAt); ++item) {
+        widest = std::max(widest, WidthOf(list_.ListItem(item)));
+    }
+    return std::min(widest, kWidestList) + 3;
+}
+
+int ListWidget::HeightIn(int) const {
+    return std::clamp(list_.ListCount(), 2, kLeastRows);
+}
+
+bool ListWidget::Grows() const {
+    return list_.ListCount() > kLeastRows;
+}
+
+void ListWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    rows_.Draw(cells, area, {list_.Items(), list_.ListIndex()}, hasFocus, FromRight(),
+               ToneOf(false, Tone::kField));
+    if (hasFocus && list_.ListIndex() < 0) {
+        cells.SetCursor(CellPlace{area.row, area.column});
+    }
+}
+
+bool ListWidget::Press(const KeyPress& key) {
+    const int row = rows_.After(key, {list_.Items(), list_.ListIndex()}, Around().Seconds());
+    if (row >= 0) {
+        list_.UserSelect(row);
+    }
+    return row >= 0;
+}
+
+/// Why the chosen row could not be.
+std::string ListWidget::Hint() const {
+    const std::string refusal =
+        list_.ListIndex() < 0 ? std::string() : list_.ItemRefusal(list_.ListIndex());
+    return refusal.empty() ? Widget::Hint() : refusal;
+}
+
+int TabsWidget::LeastWidth() const {
+    int widest = 0;
+    for (const std::string& caption : Captions()) {
+        widest = std::max(widest, WidthOf(caption) + 2);
+    }
+    return widest;
+}
+
+int TabsWidget::WantedWidth() const {
+    int all = 0;
+    for (const std::string& caption : Captions()) {
+        all += WidthOf(caption) + 3;
+    }
+    return all;
+}
+
+int TabsWidget::HeightIn(int width) const {
+    int lines = 1;
+    int used = 0;
+    for (const std::string& caption : Captions()) {
+        const int wanted = WidthOf(caption) + 3;
+        if (used > 0 && used + wanted > width) {
+            ++lines;
+            used = 0;
+        }
+        used += wanted;
+    }
+    return lines;
+}
+
+void TabsWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    int row = area.row;
+    int used = 0;
+    int tab = 0;
+    for (const std::string& caption : Captions()) {
+        const int wanted = WidthOf(caption) + 3;
+        if (used > 0 && used + wanted > area.width) {
+            ++row;
+            used = 0;
+        }
+        const bool isChosen = tab++ == Chosen();
+        const Look look(isChosen ? (hasFocus ? Tone::kFocus : Tone::kSelected) : Tone::kPlain);
+        const int left = FromRight() ? area.width - used - wanted + 1 : used;
+        cells.Put(row, area.column + left, " " + caption + " ", look);
+        used += wanted;
+    }
+}
+
+bool TabsWidget::Press(const KeyPress& key) {
+    if (key.code != KeyCode::kLeft && key.code != KeyCode::kRight) {
+        return false;
+    }
+    const bool back = (key.code == KeyCode::kLeft) != FromRight();
+    const int last = static_cast<int>(Captions().size()) - 1;
+    const int tab = std::clamp(Chosen() + (back ? -1 : 1), 0, std::max(last, 0));
+    if (tab != Chosen()) {
+        Choose(tab);
+    }
+    return true;
+}
+
+std::vector<std::string> PagesWidget::Captions() const {
+    std::vector<std::string> captions;
+    for (std::size_t page = 0; page < Node().children.size(); ++page) {
+        captions.push_back(WithoutKey(title_(page)));
+    }
+    return captions;
+}
+
+std::vector<int> GridWidget::Columns() const {
+    std::vector<int> columns;
+    for (const std::string& head : grid_.heads) {
+        columns.push_back(WidthOf(head));
+    }
+    for (const Grid::Row& row : grid_.rows) {
+        for (std::size_t i = 0; i < std::min(columns.size(), row.cells.size()); ++i) {
+            columns[i] = std::max(columns[i], WidthOf(row.cells[i]));
+        }
+    }
+    return columns;
+}
+
+/// The widest give what is lacking.
+std::vector<int> GridWidget::ColumnsIn(int width) const {
+    std::vector<int> columns = Columns();
+    int lacking = static_cast<int>(columns.size()) - 1 - width;
+    for (const int column : columns) {
+        lacking += column;
+    }
+    for (; lacking > 0 && !columns.empty(); --lacking) {
+        --*std::max_element(columns.begin(), columns.end());
+    }
+    for (std::size_t i = 0; lacking < 0 && i + 1 < columns.size(); ++lacking) {
+        const int gap = -lacking / static_cast<int>(columns.size() - 1 - i);
+        const int given = std::min(gap, 3);
+        columns[i++] += given;
+        lacking += given;
+    }
+    return columns;
+}
+
+int GridWidget::LeastWidth() const {
+    return std::min(WantedWidth(), 30);
+}
+
+int GridWidget::WantedWidth() const {
+    int all = 0;
+    for (const int column : Columns()) {
+        all += column + 2;
+    }
+    return std::max(all, 10);
+}
+
+int GridWidget::HeightIn(int) const {
+    return 1 + std::clamp(static_cast<int>(grid_.rows.size()), 1, kLeastRows);
+}
+
+void GridWidget::DrawRow(Cells& cells, const Area& area, const std::vector<std::string>& texts,
+                         const std::vector<int>& columns, const Look& look) const {
+    int used = 0;
+    for (std::size_t i = 0; i < std::min(columns.size(), texts.size()); ++i) {
+        const std::string text = Clipped(texts[i], columns[i]);
+        if (FromRight()) {
+            cells.PutRight(area.row, area.column + area.width - used - columns[i], text, look,
+                           columns[i]);
+        } else {
+            cells.Put(area.row, area.column + used, text, look, columns[i]);
+        }
+        used += columns[i] + 1;
+    }
+}
+
+/// The present row into the middle, whenever there are other rows.
+void GridWidget::GoToCurrentRow() {
+    if (shown_ == grid_.rows) {
+        return;
+    }
+    shown_ = grid_.rows;
+    const auto current = std::find_if(shown_.begin(), shown_.end(),
+                                      [](const Grid::Row& row) { return row.current; });
+    first_ = current == shown_.end() ? 0 : static_cast<int>(current - shown_.begin()) - height_ / 2;
+}
+
+void GridWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    const std::vector<int> columns = ColumnsIn(area.width);
+    const int count = static_cast<int>(grid_.rows.size());
+    height_ = std::max(1, area.height - 1);
+    GoToCurrentRow();
+    first_ = std::clamp(first_, 0, std::max(0, count - height_));
+    cells.Fill({area.row, area.column, 1, area.width}, hasFocus ? Tone::kFocus : Tone::kSelected);
+    DrawRow(cells, {area.row, area.column, 1, area.width}, grid_.heads, columns,
+            hasFocus ? Tone::kFocus : Tone::kSelected);
+    for (int row = 0; row < std::min(height_, count - first_); ++row) {
+        const Grid::Row& shown = grid_.rows[static_cast<std::size_t>(first_ + row)];
+        const Look look(shown.current ? Tone::kAccent
+                                      : (shown.setOff ? Tone::kStrong : Tone::kPlain));
+        DrawRow(cells, {area.row + 1 + row, area.column, 1, area.width}, shown.cells, columns,
+                look);
+    }
+    if (first_ + height_ < count) {
+        cells.Put(area.row + height_, area.column + area.width - 1, "▾", Tone::kAccent);
+    }
+}
+
+bool GridWidget::Press(const KeyPress& key) {
+    const int before = first_;
+    switch (key.code) {
+        case KeyCode::kUp:
+            first_ = std::max(0, first_ - 1);
+            return first_ != before;
+        case KeyCode::kDown: {
+            const bool more = first_ + height_ < static_cast<int>(grid_.rows.size());
+            first_ += more ? 1 : 0;
+            return more;
+        }
+        case KeyCode::kPageUp:
+        case KeyCode::kPageDown:
+            grid_.UserPage(key.code == KeyCode::kPageUp ? -1 : 1);
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace horavex

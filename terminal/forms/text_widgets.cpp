@@ -1,0 +1,259 @@
+#include "terminal/forms/text_widgets.h"
+
+#include <algorithm>
+
+#include "base/utf8.h"
+#include "terminal/screen/glyphs.h"
+
+namespace horavex {
+
+namespace {
+
+constexpr int kUsualWidth = 16;
+constexpr int kPixelsPerColumn = 9;
+constexpr int kComboSides = 5;  // "[ " and " ▾]"
+constexpr int kWidestCombo = 44;
+
+std::string Joined(const std::vector<Glyph>& glyphs, std::size_t first, std::size_t end) {
+    std::string text;
+    for (std::size_t i = first; i < std::min(end, glyphs.size()); ++i) {
+        text += glyphs[i].text;
+    }
+    return text;
+}
+
+std::string CharacterOf(const KeyPress& key) {
+    std::string text;
+    AppendUtf8(text, key.character);
+    return text;
+}
+
+}  // namespace
+
+std::optional<std::string> EditedLine::After(const KeyPress& key, const std::string& text,
+                                             bool& kept) {
+    const std::vector<Glyph> glyphs = GlyphsOf(text);
+    std::size_t at = std::min(cursor_, glyphs.size());
+    kept = true;
+    if (key.IsText()) {
+        const std::string typed = CharacterOf(key);
+        cursor_ = at + (WidthOf(typed) > 0 ? 1 : 0);  // a mark joins what is before it
+        return Joined(glyphs, 0, at) + typed + Joined(glyphs, at, glyphs.size());
+    }
+    switch (key.code) {
+        case KeyCode::kBackspace:
+            cursor_ = at == 0 ? 0 : at - 1;
+            return Joined(glyphs, 0, cursor_) + Joined(glyphs, at, glyphs.size());
+        case KeyCode::kDelete:
+            return Joined(glyphs, 0, at) + Joined(glyphs, at + 1, glyphs.size());
+        case KeyCode::kLeft:
+            cursor_ = at == 0 ? 0 : at - 1;
+            return std::nullopt;
+        case KeyCode::kRight:
+            cursor_ = std::min(at + 1, glyphs.size());
+            return std::nullopt;
+        case KeyCode::kHome:
+            cursor_ = 0;
+            return std::nullopt;
+        case KeyCode::kEnd:
+            cursor_ = kEnd;
+            return std::nullopt;
+        default:
+            kept = false;
+            return std::nullopt;
+    }
+}
+
+/// The part of the line around the cursor, where it is longer than the room.
+void EditedLine::Draw(Cells& cells, const Area& area, const std::string& text, const Look& look,
+                      bool hasFocus) {
+    const std::vector<Glyph> glyphs = GlyphsOf(text);
+    const std::size_t at = std::min(cursor_, glyphs.size());
+    std::size_t first = 0;
+    while (WidthOf(Joined(glyphs, first, at)) >= area.width && first < at) {
+        ++first;
+    }
+    cells.Fill({area.row, area.column, 1, area.width}, look);
+    cells.Put(area.row, area.column, Joined(glyphs, first, glyphs.size()), look, area.width);
+    if (hasFocus) {
+        cells.SetCursor(CellPlace{area.row, area.column + WidthOf(Joined(glyphs, first, at))});
+    }
+}
+
+TextWidget::TextWidget(TextBox& box, const LayoutNode& node, WidgetSurroundings& around)
+    : Widget(&box, node, around), box_(box) {}
+
+/// What the layout allows, 0 for any.
+int TextWidget::MostWidth() const {
+    const std::string pixels = Node().Property("maximumSize.width");
+    constexpr int kNoMost = 2000;
+    const int most = pixels.empty() ? kNoMost : std::stoi(pixels.substr(0, 5));
+    return most >= kNoMost ? 0 : most / kPixelsPerColumn;
+}
+
+int TextWidget::LeastWidth() const {
+    return std::min(8, WantedWidth());
+}
+
+int TextWidget::WantedWidth() const {
+    return MostWidth() > 0 ? std::max(6, MostWidth()) : kUsualWidth;
+}
+
+bool TextWidget::Widens() const {
+    return MostWidth() == 0;
+}
+
+void TextWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    line_.Draw(cells, area, box_.Text(), ToneOf(false, Tone::kField), hasFocus);
+}
+
+bool TextWidget::Press(const KeyPress& key) {
+    const std::string steered = Node().Property("steers");
+    if ((key.code == KeyCode::kUp || key.code == KeyCode::kDown) && !steered.empty()) {
+        Around().Steer(steered, key);
+        box_.UserFocus();
+        return true;
+    }
+    bool kept = false;
+    const auto text = line_.After(key, box_.Text(), kept);
+    if (text) {
+        box_.UserEdit(*text);
+    }
+    return kept;
+}
+
+int LinesWidget::LeastWidth() const {
+    return std::min(20, WantedWidth());
+}
+
+int LinesWidget::WantedWidth() const {
+    return std::clamp(WidestLine(box_.Text()) + 1, 12, 60);
+}
+
+int LinesWidget::HeightIn(int width) const {
+    constexpr int kLeast = 3;
+    const auto lines = static_cast<int>(Wrapped(box_.Text(), std::max(1, width - 1)).size());
+    return std::min(lines, kLeast);
+}
+
+bool LinesWidget::Grows() const {
+    return !box_.Text().empty();
+}
+
+void LinesWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    const auto lines = Wrapped(box_.Text(), std::max(1, area.width - 1));
+    const int count = static_cast<int>(lines.size());
+    height_ = std::max(1, area.height);
+    first_ = std::clamp(first_, 0, std::max(0, count - height_));
+    const Look look(ToneOf(false, Tone::kField));
+    cells.Fill(area, look);
+    for (int row = 0; row < std::min(height_, count - first_); ++row) {
+        const std::string& line = lines[static_cast<std::size_t>(first_ + row)];
+        if (FromRight()) {
+            cells.PutRight(area.row + row, area.column, line, look, area.width);
+        } else {
+            cells.Put(area.row + row, area.column, line, look, area.width);
+        }
+    }
+    if (count > height_) {
+        const int mark = area.row + first_ * (height_ - 1) / std::max(1, count - height_);
+        cells.Put(mark, area.column + area.width - 1, "█", hasFocus ? Tone::kAccent : Tone::kFaint);
+    } else if (hasFocus) {
+        cells.SetCursor(CellPlace{area.row, area.column});
+    }
+}
+
+bool LinesWidget::Press(const KeyPress& key) {
+    const int before = first_;
+    switch (key.code) {
+        case KeyCode::kUp:
+            first_ = std::max(0, first_ - 1);
+            return first_ != before;
+        case KeyCode::kDown:
+            ++first_;
+            return true;
+        case KeyCode::kPageUp:
+            first_ = std::max(0, first_ - height_);
+            return true;
+        case KeyCode::kPageDown:
+            first_ += height_;
+            return true;
+        default:
+            return false;
+    }
+}
+
+int ComboWidget::LeastWidth() const {
+    return std::min(14, WantedWidth());
+}
+
+int ComboWidget::WantedWidth() const {
+    int widest = std::max(4, WidthOf(box_.Text()));
+    for (const std::string& item : box_.Items()) {
+        widest = std::max(widest, WidthOf(item));
+    }
+    return std::min(widest, kWidestCombo) + kComboSides;
+}
+
+void ComboWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
+    const Look look(ToneOf(hasFocus && !box_.Typed(), Tone::kField));
+    const int width = std::min(area.width, WantedWidth());
+    const int left = area.column + (FromRight() ? area.width - width : 0);
+    cells.Fill({area.row, left, 1, width}, look);
+    cells.Put(area.row, left, FromRight() ? "▾" : " ", look);
+    cells.Put(area.row, left + width - 1, FromRight() ? " " : "▾", look);
+    const Area inside{area.row, left + 2, 1, width - 4};
+    if (box_.Typed()) {
+        line_.Draw(cells, inside, box_.Text(), look, hasFocus);
+    } else if (FromRight()) {
+        cells.PutRight(inside.row, inside.column, Clipped(box_.Text(), inside.width), look,
+                       inside.width);
+    } else {
+        cells.Put(inside.row, inside.column, box_.Text(), look, inside.width);
+    }
+}
+
+bool ComboWidget::Press(const KeyPress& key) {
+    if (key.code == KeyCode::kUp || key.code == KeyCode::kDown) {
+        Step(key.code == KeyCode::kUp ? -1 : 1);
+        return true;
+    }
+    if (!box_.Typed()) {
+        const bool opens = key.Is(U' ') || key.code == KeyCode::kEnter;
+        if (opens) {
+            Open();
+        }
+        return opens;
+    }
+    bool kept = false;
+    const auto text = line_.After(key, box_.Text(), kept);
+    if (text) {
+        box_.UserEdit(*text);
+    }
+    return kept;
+}
+
+void ComboWidget::Open() {
+    std::vector<std::string> reasons;
+    for (int item = 0; item < box_.ListCount(); ++item) {
+        reasons.push_back(box_.ItemRefusal(item));
+    }
+    const int chosen = Around().Choose(box_.Items(), box_.ListIndex(), reasons);
+    if (chosen >= 0 && chosen < box_.ListCount()) {
+        box_.UserSelect(chosen);
+    }
+}
+
+/// To the next item that can be chosen.
+void ComboWidget::Step(int step) {
+    int item = box_.ListIndex() + step;
+    while (item >= 0 && item < box_.ListCount() && !box_.ItemRefusal(item).empty()) {
+        item += step;
+    }
+    if (item >= 0 && item < box_.ListCount()) {
+        line_.MoveToEnd();
+        box_.UserSelect(item);
+    }
+}
+
+}  // namespace horavex

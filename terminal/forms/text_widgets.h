@@ -1,0 +1,93 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/combo_box.h"
+#include "forms/text_box.h"
+#include "terminal/forms/widget.h"
+
+namespace horavex {
+
+/// A line of text with a cursor. The text itself is somebody else's.
+class EditedLine {
+public:
+    /// The text after a key, or nothing where the key changes no text. kept: whether the key was
+    /// one for the line at all.
+    std::optional<std::string> After(const KeyPress& key, const std::string& text, bool& kept);
+
+    /// Draws the line and, with the focus, the cursor.
+    void Draw(Cells& cells, const Area& area, const std::string& text, const Look& look,
+              bool hasFocus);
+
+    void MoveToEnd() { cursor_ = kEnd; }
+
+private:
+    static constexpr std::size_t kEnd = static_cast<std::size_t>(-1);
+
+    std::size_t cursor_ = kEnd;  // glyphs before it
+};
+
+/// A text box of one line.
+class TextWidget : public Widget {
+public:
+    TextWidget(TextBox& box, const LayoutNode& node, WidgetSurroundings& around);
+
+    int LeastWidth() const override;
+    int WantedWidth() const override;
+    int HeightIn(int) const override { return 1; }
+    bool Widens() const override;
+    void Draw(Cells& cells, const Area& area, bool hasFocus) override;
+    bool TakesKeys() const override { return true; }
+    bool Press(const KeyPress& key) override;
+
+private:
+    int MostWidth() const;
+
+    TextBox& box_;
+    EditedLine line_;
+};
+
+/// A text box of several lines, which is read and moved through.
+class LinesWidget : public Widget {
+public:
+    LinesWidget(TextBox& box, const LayoutNode& node, WidgetSurroundings& around)
+        : Widget(&box, node, around), box_(box) {}
+
+    int LeastWidth() const override;
+    int WantedWidth() const override;
+    int HeightIn(int width) const override;
+    bool Widens() const override { return true; }
+    bool Grows() const override;
+    void Draw(Cells& cells, const Area& area, bool hasFocus) override;
+    bool TakesKeys() const override { return true; }
+    bool Press(const KeyPress& key) override;
+
+private:
+    TextBox& box_;
+    int first_ = 0;   // line at the top
+    int height_ = 1;  // rows when it was last drawn
+};
+
+/// A list under a text, which can be typed where the box says so.
+class ComboWidget : public Widget {
+public:
+    ComboWidget(ComboBox& box, const LayoutNode& node, WidgetSurroundings& around)
+        : Widget(&box, node, around), box_(box) {}
+
+    int LeastWidth() const override;
+    int WantedWidth() const override;
+    int HeightIn(int) const override { return 1; }
+    void Draw(Cells& cells, const Area& area, bool hasFocus) override;
+    bool TakesKeys() const override { return true; }
+    bool Press(const KeyPress& key) override;
+
+private:
+    void Open();
+    void Step(int step);
+
+    ComboBox& box_;
+    EditedLine line_;
+};
+
+}  // namespace horavex

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+
+#include "terminal/screen/cells.h"
+#include "terminal/screen/key_press.h"
+
+namespace horavex {
+
+/// The terminal of the process, put into the mode of a full screen as long as this lives, and given
+/// back as it was by the end of it. Only what has changed is written.
+class CursesScreen {
+public:
+    /// Throws std::runtime_error where there is no terminal, or one that cannot move its cursor.
+    CursesScreen();
+    ~CursesScreen();
+    CursesScreen(const CursesScreen&) = delete;
+    CursesScreen& operator=(const CursesScreen&) = delete;
+
+    int Rows() const;
+    int Columns() const;
+
+    /// False where the terminal has none, and where NO_COLOR asks for none.
+    bool HasColours() const { return hasColours_; }
+
+    void Show(const Cells& cells);
+
+    /// Takes the keys that have come. Never waits.
+    void ReadKeys(const std::function<void(const KeyPress&)>& take);
+
+    /// The terminal has another size.
+    void TakeSize();
+
+    /// Gives the terminal back for a while, and takes it again.
+    void Leave();
+    void Return();
+
+    void Beep();
+
+private:
+    void SetUpColours();
+    void PutCell(int row, int column, const Cell& cell);
+    int PairOf(const Look& look);
+
+    bool hasColours_ = false;
+    bool isLeft_ = false;
+};
+
+}  // namespace horavex

@@ -1,0 +1,87 @@
+#include "terminal/screen/desk.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace horavex {
+
+namespace {
+
+constexpr int kLeastRows = 16;
+constexpr int kLeastColumns = 40;
+
+void DrawTooSmall(Cells& screen) {
+    const std::string need = std::to_string(kLeastColumns) + " × " + std::to_string(kLeastRows);
+    screen.PutCentred(screen.Rows() / 2, 0, "Horavex: " + need, Tone::kStrong, screen.Columns());
+}
+
+}  // namespace
+
+Desk::Desk(Show show, Later later) : show_(std::move(show)), later_(std::move(later)) {}
+
+void Desk::SetSize(int rows, int columns) {
+    cells_ = Cells(rows, columns);
+    Invalidate();
+}
+
+void Desk::BringUp(const std::shared_ptr<Sheet>& sheet) {
+    std::erase(sheets_, sheet);
+    sheets_.push_back(sheet);
+    Invalidate();
+}
+
+void Desk::TakeAway(const Sheet& sheet) {
+    std::erase_if(sheets_, [&](const auto& held) { return held.get() == &sheet; });
+    Invalidate();
+}
+
+bool Desk::Holds(const Sheet& sheet) const {
+    return std::any_of(sheets_.begin(), sheets_.end(),
+                       [&](const auto& held) { return held.get() == &sheet; });
+}
+
+void Desk::Invalidate() {
+    if (!std::exchange(invalid_, true)) {
+        later_([this] { Draw(); });
+    }
+}
+
+void Desk::Draw() {
+    if (!std::exchange(invalid_, false)) {
+        return;
+    }
+    cells_ = Cells(cells_.Rows(), cells_.Columns());
+    if (cells_.Rows() < kLeastRows || cells_.Columns() < kLeastColumns) {
+        DrawTooSmall(cells_);
+    } else {
+        for (const auto& sheet : std::vector(sheets_)) {
+            cells_.SetCursor(std::nullopt);
+            sheet->Draw(cells_);
+        }
+    }
+    show_(cells_);
+}
+
+void Desk::Press(const KeyPress& key) {
+    if (sheets_.empty()) {
+        if (onKeyOnEmpty) {
+            onKeyOnEmpty();
+        }
+    } else if (key.code == KeyCode::kF6) {
+        TurnToNext();
+    } else {
+        const std::shared_ptr<Sheet> front = sheets_.back();  // it may end by the key
+        front->Press(key);
+    }
+    Invalidate();
+}
+
+// What lies in front goes to the back of those that users may turn to.
+void Desk::TurnToNext() {
+    const auto modal = std::find_if(sheets_.rbegin(), sheets_.rend(),
+                                    [](const auto& sheet) { return sheet->IsModal(); });
+    const auto first = modal == sheets_.rend() ? sheets_.begin() : modal.base() - 1;
+    std::rotate(first, sheets_.end() - 1, sheets_.end());
+}
+
+}  // namespace horavex

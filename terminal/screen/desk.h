@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "terminal/screen/sheet.h"
+
+namespace horavex {
+
+/// All sheets on the screen, the last one in front. Keys go to that one. Drawing is put off until
+/// what is going on has ended, and done once for all that has changed.
+class Desk {
+public:
+    /// Where a drawn screen goes to.
+    using Show = std::function<void(const Cells&)>;
+    /// Runs a function in a later turn of the event loop.
+    using Later = std::function<void(std::function<void()>)>;
+
+    Desk(Show show, Later later);
+
+    /// Rows and columns of the terminal.
+    void SetSize(int rows, int columns);
+
+    void BringUp(const std::shared_ptr<Sheet>& sheet);
+    void TakeAway(const Sheet& sheet);
+    bool Holds(const Sheet& sheet) const;
+    bool IsEmpty() const { return sheets_.empty(); }
+
+    /// The sheet that gets the keys; nullptr for none.
+    const Sheet* Front() const { return sheets_.empty() ? nullptr : sheets_.back().get(); }
+
+    /// Something has changed.
+    void Invalidate();
+
+    /// Draws now, where something has changed.
+    void Draw();
+
+    void Press(const KeyPress& key);
+
+    /// Keys while nothing lies on the desk.
+    std::function<void()> onKeyOnEmpty;
+
+private:
+    void TurnToNext();
+
+    Show show_;
+    Later later_;
+    Cells cells_{0, 0};
+    std::vector<std::shared_ptr<Sheet>> sheets_;
+    bool invalid_ = false;
+};
+
+}  // namespace horavex
