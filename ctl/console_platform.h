@@ -41,6 +41,7 @@ public:
     Date UniversalNow() const override { return system_.UniversalNow(); }
     double SteadySeconds() const override { return system_.SteadySeconds(); }
     ClockOffset OffsetOn(Date day) const override { return system_.OffsetOn(day); }
+    ClockOffset OffsetAt(Date local) const override { return system_.OffsetAt(local); }
 
     /// Shows that moment for good.
     void StandAt(Date moment);

@@ -17,8 +17,8 @@ ToldState ToldDay(const DayView& day) {
             {kPrayerKeys[prayer], WorkingStamp(day.date, moment.hours), WordOf(moment.by)});
     }
     told.nextPrayer = kPrayerKeys[static_cast<std::size_t>(day.next.prayer)];
-    told.nextTime =
-        WorkingStamp(day.date + (day.next.isTomorrows ? 1.0 : 0.0), day.next.moment.hours);
+    const OwnMoment next = OwnNext(day);
+    told.nextTime = WorkingStamp(next.day, next.moment.hours);
     told.hijriDate = IsoDate(day.hijri);
     return told;
 }

@@ -1,6 +1,7 @@
 #include "linux/system_clock.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace horavex {
 
@@ -8,6 +9,10 @@ namespace {
 
 constexpr double kSecondsPerHour = 3600.0;
 const Date kFirstDay = DateSerial(1970, 1, 1);  // where the moments of the system begin
+
+std::time_t SecondsOf(const ClockOffset& offset) {
+    return static_cast<std::time_t>(std::llround(offset.hours * kSecondsPerHour));
+}
 
 }  // namespace
 
@@ -27,12 +32,18 @@ ClockOffset LocalOffset(std::time_t moment) {
     return {static_cast<double>(local.tm_gmtoff) / kSecondsPerHour, local.tm_isdst > 0};
 }
 
-// Noon of Greenwich lies within half a day of the local noon, where the offset is nearly always
-// the same; a second look goes to the local noon itself.
 ClockOffset SystemClock::OffsetOn(Date day) const {
-    const auto noon = static_cast<std::time_t>((day - kFirstDay + 0.5) * kSecondsPerDay);
-    const double nearly = LocalOffset(noon).hours;
-    return LocalOffset(noon - static_cast<std::time_t>(nearly * kSecondsPerHour));
+    return OffsetAt(day + 0.5);
+}
+
+// No zone is a day or more from Greenwich, so that the two looks lie on either side of a change.
+ClockOffset SystemClock::OffsetAt(Date local) const {
+    constexpr std::time_t kDay = 86400;
+    const auto shown = static_cast<std::time_t>(std::llround((local - kFirstDay) * kSecondsPerDay));
+    const ClockOffset before = LocalOffset(shown - kDay);
+    const ClockOffset after = LocalOffset(shown + kDay);
+    const bool isBefore = LocalOffset(shown - SecondsOf(before)) == before;
+    return isBefore || LocalOffset(shown - SecondsOf(after)) != after ? before : after;
 }
 
 Date SystemClock::Now() const {

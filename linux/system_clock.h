@@ -19,6 +19,7 @@ class SystemClock : public Clock {
 public:
     Date Now() const override;
     ClockOffset OffsetOn(Date day) const override;
+    ClockOffset OffsetAt(Date local) const override;
     Date UniversalNow() const override;
     double SteadySeconds() const override;
 };

@@ -5,8 +5,8 @@
 
 namespace horavex {
 
-/// What can be told of a prayer, each once.
-enum class CallKind { kReminder, kPrayer, kIqama };
+/// What can be told of a prayer, each once; kArrival to other programs.
+enum class CallKind { kReminder, kPrayer, kIqama, kArrival };
 
 /// Something that was told, or is to be.
 struct Call {

@@ -59,7 +59,7 @@ NextMoment NextOf(const DaySource& source, const std::vector<PrayerMoment>& late
     const ClockNow clock = {second, source.offset};
     for (const auto& [prayer, moment] : late) {
         if (SecondOfMoment(moment) > second) {
-            return {static_cast<std::int16_t>(prayer), false, moment, RestOf(moment, clock)};
+            return {static_cast<std::int16_t>(prayer), false, moment, RestOf(moment, clock), true};
         }
     }
     const std::int16_t found = FirstAhead(source.today, second);
@@ -98,6 +98,15 @@ DayView MakeDayView(const DaySource& source, Date now) {
     day.next = NextOf(source, day.late, now);
     day.qiblaDegrees = source.qiblaDegrees;
     return day;
+}
+
+OwnMoment OwnNext(const DayView& day) {
+    if (day.next.isYesterdays) {
+        OwnMoment own = {day.date - 1.0, day.next.moment};
+        own.moment.hours += 24.0;
+        return own;
+    }
+    return {day.date + (day.next.isTomorrows ? 1.0 : 0.0), day.next.moment};
 }
 
 }  // namespace horavex

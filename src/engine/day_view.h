@@ -21,8 +21,9 @@ inline constexpr std::int16_t kNoPrayerLeft = 6;
 struct NextMoment {
     std::int16_t prayer = 0;        // kFajr or kZuhr to kIsha
     bool isTomorrows = false;       // today's prayers are over
-    Moment moment;                  // in the hours of its own day
+    Moment moment;                  // in the hours of its own day, but for yesterday's
     double remainingSeconds = 0.0;  // whole seconds until then, [0, 86400)
+    bool isYesterdays = false;      // past midnight, and in the hours of today
 };
 
 /// A moment and whose it is.
@@ -69,5 +70,14 @@ struct DaySource {
 };
 
 DayView MakeDayView(const DaySource& source, Date now);
+
+/// A moment as the day tells it whose it is.
+struct OwnMoment {
+    Date day = 0.0;  // midnight that begins it
+    Moment moment;   // in its hours
+};
+
+/// The next prayer so.
+OwnMoment OwnNext(const DayView& day);
 
 }  // namespace horavex

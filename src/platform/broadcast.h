@@ -25,6 +25,8 @@ struct ToldState {
     std::string hijriDate;  // "1448-06-11"
     bool athanPlaying = false;
     std::string quietUntil;  // "2026-11-21T20:00:00+02:00", of the computer's clock; empty for none
+
+    bool operator==(const ToldState&) const = default;
 };
 
 /// Tells other programs of the session what this one shows, and takes what they ask of it. Never

@@ -31,6 +31,10 @@ public:
     /// The offset at noon of a local day, past or to come, from the system's time-zone data.
     virtual ClockOffset OffsetOn(Date day) const = 0;
 
+    /// The offset while the local clock shows a date and time, to the second: the earlier one of a
+    /// time that comes twice; a time that is left out counts on the clock before the change.
+    virtual ClockOffset OffsetAt(Date local) const = 0;
+
     /// Midnight that began the present local day.
     Date Today() const { return std::floor(Now()); }
 };

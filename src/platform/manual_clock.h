@@ -24,12 +24,13 @@ public:
         now_ = day + (total - day * kMillisecondsPerDay) / kMillisecondsPerDay;
     }
 
-    /// The zone from a day on: those of earlier days stay.
-    void SetOffset(Date firstDay, ClockOffset offset) { offsets_[firstDay] = offset; }
+    /// The zone from a local date and time on: those of earlier ones stay.
+    void SetOffset(Date from, ClockOffset offset) { offsets_[from] = offset; }
 
     Date Now() const override { return now_; }
-    ClockOffset OffsetOn(Date day) const override {
-        const auto next = offsets_.upper_bound(day);
+    ClockOffset OffsetOn(Date day) const override { return OffsetAt(day + 0.5); }
+    ClockOffset OffsetAt(Date local) const override {
+        const auto next = offsets_.upper_bound(local);
         return next == offsets_.begin() ? ClockOffset{} : std::prev(next)->second;
     }
     /// The local zone is that of Greenwich.
@@ -39,7 +40,7 @@ public:
 private:
     static constexpr double kMillisecondsPerDay = kSecondsPerDay * 1000.0;
 
-    std::map<Date, ClockOffset> offsets_;  // by the first day of each; Greenwich before
+    std::map<Date, ClockOffset> offsets_;  // by the first moment of each; Greenwich before
     Date now_ = 0.0;
     double steadyMilliseconds_ = 0.0;
 };

@@ -6,11 +6,11 @@
 #include "athan/athan_alert.h"
 #include "athan/athan_state.h"
 #include "athan/azan_window.h"
+#include "athan/calls.h"
 #include "athan/quiet.h"
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/day_driver.h"
-#include "engine/moments_around.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/zone_clock.h"
@@ -30,39 +30,37 @@ constexpr double kSecondsPerHour = 3600.0;
 struct Told {
     std::string date;
     bool athanPlaying = false;
-    std::optional<Prayer> arrived;
-    Date arrivedAt = 0.0;
 };
 Told told;
 
 const ProgramStateReset reset([] { told = {}; });
 
-ZoneClock ClockOfTimes() {
-    return {RuledYear.rules.zoneName, ActiveSettings};
-}
-
-/// A local date and time of the clock that the times go by. day: the one whose moment it is.
-std::string StampOfTimes(Date local, Date day) {
-    const double offset = ClockOfTimes().OffsetOfLocal(local, day).seconds / kSecondsPerHour;
-    const Date midnight = std::floor(local);
-    return IsoMoment(midnight, (local - midnight) * 24.0, offset);
-}
-
 std::string StampOfComputer(Date local) {
     const Date midnight = std::floor(local);
-    return IsoMoment(midnight, (local - midnight) * 24.0, Ports().clock.OffsetOn(midnight).hours);
+    return IsoMoment(midnight, (local - midnight) * 24.0, Ports().clock.OffsetAt(local).hours);
 }
 
-ToldMoment TellMoment(Prayer prayer, Date day, const Moment& moment) {
+/// Hours that the clock of a moment is ahead of Greenwich. Without a zone the daylight hour goes by
+/// the day whose moment it is.
+double OffsetOf(const Moment& moment, Date day) {
+    if (!RuledYear.rules.moments.zone.empty()) {
+        return moment.offset;
+    }
+    return ZoneClock({}, ActiveSettings).OffsetOfLocal(day, day).seconds / kSecondsPerHour;
+}
+
+/// Empty where it does not come.
+std::string StampOf(const OwnMoment& own) {
+    const auto& [day, moment] = own;
     const bool comes = std::fabs(moment.hours) < NoEvent;
-    return {kPrayerKeys[prayer], comes ? StampOfTimes(day + moment.hours / 24.0, day) : "",
-            WordOf(moment.by)};
+    return comes ? IsoMoment(day, moment.hours, OffsetOf(moment, day)) : "";
 }
 
 std::vector<ToldMoment> TellMoments(const DayView& day) {
     std::vector<ToldMoment> moments;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        moments.push_back(TellMoment(static_cast<Prayer>(prayer), day.date, day.moments[prayer]));
+        const Moment& moment = day.moments[prayer];
+        moments.push_back({kPrayerKeys[prayer], StampOf({day.date, moment}), WordOf(moment.by)});
     }
     return moments;
 }
@@ -70,12 +68,7 @@ std::vector<ToldMoment> TellMoments(const DayView& day) {
 /// "UTC+02:00" where the zone has no name.
 std::string ZoneText(Date now) {
     const std::string& name = RuledYear.rules.zoneName;
-    return name.empty() ? "UTC" + StampOfTimes(now, std::floor(now)).substr(19) : name;
-}
-
-std::string NextTime(const DayView& day) {
-    const Date date = day.date + (day.next.isTomorrows ? 1.0 : 0.0);
-    return TellMoment(static_cast<Prayer>(day.next.prayer), date, day.next.moment).local;
+    return name.empty() ? "UTC" + StampOf({std::floor(now), {}}).substr(19) : name;
 }
 
 std::string QuietStamp(Date now) {
@@ -111,26 +104,29 @@ ToldState PublicState() {
             .zone = ZoneText(day.now),
             .moments = TellMoments(day),
             .nextPrayer = kPrayerKeys[static_cast<std::size_t>(day.next.prayer)],
-            .nextTime = NextTime(day),
+            .nextTime = StampOf(OwnNext(day)),
             .hijriDate = IsoDate(day.hijri),
             .athanPlaying = athanActive != kFalse,
             .quietUntil = QuietStamp(Ports().clock.Now())};
 }
 
 void PublishState() {
+    if (ShownDay.date == 0.0) {
+        return;
+    }
     const ToldState state = PublicState();
     Ports().broadcast.Publish(state);
     TellEndOfAthan(state.athanPlaying);
     TellNewDay(IsoDate(CivilFromDate(ShownDay.date)));
 }
 
-void PublishArrival(Prayer prayer, Date at) {
-    if (prayer == kShurooq || (told.arrived == prayer && told.arrivedAt == at)) {
+void PublishArrival(Prayer prayer, const OwnMoment& own) {
+    const Call arrival = {CallKind::kArrival, prayer, own.day + own.moment.hours / 24.0};
+    if (prayer == kShurooq || WasCalled(arrival)) {
         return;
     }
-    told.arrived = prayer;
-    told.arrivedAt = at;
-    Ports().broadcast.TellPrayerArrived(kPrayerKeys[prayer], StampOfTimes(at, std::floor(at)));
+    NoteCall(arrival);
+    Ports().broadcast.TellPrayerArrived(kPrayerKeys[prayer], StampOf(own));
 }
 
 void BindBroadcast() {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/date.h"
 #include "base/prayers.h"
+#include "engine/day_view.h"
 #include "platform/broadcast.h"
 
 namespace horavex {
@@ -10,11 +10,13 @@ namespace horavex {
 ToldState PublicState();
 
 /// Tells them what has changed since the last call: the state, the end of an athan, a new day.
-/// Called by the clock.
+/// Nothing before a day was shown. Called by the start, so that no signal comes before the state,
+/// and by the clock.
 void PublishState();
 
-/// A prayer has arrived; told once, however many ticks see it. Sunrise is no prayer.
-void PublishArrival(Prayer prayer, Date at);
+/// A prayer has arrived; told once, however many ticks see it, also where settings have moved it a
+/// little meanwhile. Sunrise is no prayer.
+void PublishArrival(Prayer prayer, const OwnMoment& own);
 
 /// Takes what other programs ask for.
 void BindBroadcast();

@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "shell/close_face.h"
 #include "shell/face_shape.h"
+#include "shell/public_state.h"
 #include "shell/settings_start.h"
 #include "store/location_record.h"
 #include "store/stored_values.h"
@@ -36,6 +37,7 @@ void FrmMain_Load() {
     Ports().audioFile.SetMode(kSampleBytes);
     HoravexMainForm->Load();
     frmMain->lblCity.SetCaption(ActiveCityText);
+    PublishState();
     frmMain->tmrUpdate.SetEnabled(true);
     Qibla();
     currentLanguage = ReadStoredLanguage();

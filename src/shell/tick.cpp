@@ -46,14 +46,22 @@ void FollowCalendar(const TickActions& actions) {
 /// A prayer within its ten seconds, with its moment in today's hours.
 struct Arrival {
     Prayer prayer;
-    double hours;
+    Moment moment;
+    int day;  // whose it is, from today
+
+    Date At(Date today) const { return today + moment.hours / 24.0; }
+    OwnMoment Own(Date today) const {
+        OwnMoment own = {today + day, moment};
+        own.moment.hours -= 24.0 * day;
+        return own;
+    }
 };
 
 /// Of moments whose own day is a neighbour of this one.
-void AddArrived(std::vector<Arrival>& arrived, const std::vector<PrayerMoment>& moments) {
+void AddArrived(std::vector<Arrival>& arrived, const std::vector<PrayerMoment>& moments, int day) {
     for (const auto& [prayer, moment] : moments) {
         if (HasArrived(moment.hours / 24.0)) {
-            arrived.push_back({prayer, moment.hours});
+            arrived.push_back({prayer, moment, day});
         }
     }
 }
@@ -61,13 +69,15 @@ void AddArrived(std::vector<Arrival>& arrived, const std::vector<PrayerMoment>& 
 /// The prayers within their ten seconds, in order.
 std::vector<Arrival> ArrivedPrayers() {
     std::vector<Arrival> arrived;
-    AddArrived(arrived, ShownDay.late);
+    AddArrived(arrived, ShownDay.late, -1);
     for (std::size_t prayer = 0; prayer < TodayTimes.size(); ++prayer) {
         if (HasArrived(TodayTimes[prayer])) {
-            arrived.push_back({static_cast<Prayer>(prayer), TodayTimes[prayer] * 24.0});
+            Moment moment = ShownDay.moments[prayer];
+            moment.hours = TodayTimes[prayer] * 24.0;
+            arrived.push_back({static_cast<Prayer>(prayer), moment, 0});
         }
     }
-    AddArrived(arrived, ShownDay.early);
+    AddArrived(arrived, ShownDay.early, 1);
     return arrived;
 }
 
@@ -78,14 +88,15 @@ void TestPrayers(const TickActions& actions) {
     if (arrived.empty()) {
         return;
     }
+    const Date today = Ports().clock.Today();
+    for (const Arrival& arrival : arrived) {
+        PublishArrival(arrival.prayer, arrival.Own(today));
+    }
     if (ReadOption(option::kAthanOnce) == 0) {
         arrived.resize(1);
     }
-    const Date today = Ports().clock.Today();
     for (const Arrival& arrival : arrived) {
-        const Date at = today + arrival.hours / 24.0;
-        PublishArrival(arrival.prayer, at);
-        ReceivePrayer(arrival.prayer, at, actions.alert);
+        ReceivePrayer(arrival.prayer, arrival.At(today), actions.alert);
     }
     // Counts the ticks in a prayer's window; only its value -1 is ever looked at.
     ++NextPrayer;

@@ -126,6 +126,8 @@ TEST(ShortNight, YesterdaysIshaStillLiesAheadBehindMidnight) {
     EXPECT_EQ(day.next.moment.hours, 0.25);
     EXPECT_EQ(day.next.moment.dayShift, 0);
     EXPECT_EQ(day.next.remainingSeconds, 300.0);
+    EXPECT_EQ(OwnNext(day).day, At(0, 0, 0) - 1.0);
+    EXPECT_EQ(OwnNext(day).moment.hours, 24.25);
 }
 
 TEST(ShortNight, TomorrowsFajrBeforeMidnightIsOfTodaysClock) {

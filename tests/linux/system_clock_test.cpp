@@ -87,6 +87,23 @@ TEST(SystemClock, OffsetsFarFromGreenwichAreOfTheLocalDay) {
     EXPECT_EQ(clock.OffsetOn(DateSerial(2026, 9, 26)), (ClockOffset{14.0, true}));
 }
 
+TEST(SystemClock, OffsetOfAMomentChangesWithinTheNight) {
+    const ScopedVariable zone("TZ", kBerlin);
+    const SystemClock clock;
+    const auto at = [&](Date day, int hour, int minute, int second) {
+        return clock.OffsetAt(day + TimeSerial(hour, minute, second)).hours;
+    };
+    const Date spring = DateSerial(2026, 3, 29);
+    EXPECT_EQ(at(spring, 1, 59, 59), 1.0);
+    EXPECT_EQ(at(spring, 2, 30, 0), 1.0) << "left out";
+    EXPECT_EQ(at(spring, 3, 0, 0), 2.0);
+    const Date autumn = DateSerial(2026, 10, 25);
+    EXPECT_EQ(at(autumn, 1, 59, 59), 2.0);
+    EXPECT_EQ(at(autumn, 2, 30, 0), 2.0) << "comes twice";
+    EXPECT_EQ(at(autumn, 3, 0, 0), 1.0);
+    EXPECT_EQ(at(autumn, 23, 0, 0), 1.0);
+}
+
 TEST(SystemClock, OffsetsBefore1970AreAskedForToo) {
     const ScopedVariable zone("TZ", "UTC0");
     EXPECT_EQ(SystemClock().OffsetOn(DateSerial(1900, 1, 1)), (ClockOffset{0.0, false}));

@@ -4,6 +4,7 @@
 
 #include "athan/prayer_day.h"
 #include "athan/quiet.h"
+#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "store/options.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 struct PublicStateTest : PrayerDay {
     const ToldState& State() const { return platform.broadcast.state; }
@@ -22,6 +24,37 @@ struct PublicStateTest : PrayerDay {
         PassSecond();
     }
 };
+
+/// Times of day that tests put where they want them: nothing works them out anew.
+struct PlacedTimes : PublicStateTest {
+    PlacedTimes() { Signals().clear(); }
+
+    void Ticks(int count) {
+        for (int tick = 0; tick < count; ++tick) {
+            RunTick({[] {}, [] {}, [](Alert) {}});
+            platform.clock.Advance(1.0);
+        }
+    }
+
+    /// The record's daylight hour holds for the last time on a day.
+    static void EndDaylightOn(Date day) {
+        ActiveSettings.DstEnabled = 1;
+        ActiveSettings.DstStart = 1;
+        ActiveSettings.DstEnd =
+            static_cast<std::int16_t>(day - DateSerial(CivilFromDate(day).year, 1, 1) + 1.0);
+    }
+};
+
+TEST_F(PublicStateTest, IsToldFromTheStartOn) {
+    EXPECT_EQ(State().place, ActiveCityText);
+    EXPECT_EQ(State().moments.size(), 6U);
+}
+
+TEST(PublicStateBeforeADay, IsNotTold) {
+    TestPlatform platform;
+    PublishState();
+    EXPECT_EQ(platform.broadcast.state, ToldState());
+}
 
 TEST_F(PublicStateTest, TellsPlaceZoneAndTheSixMomentsOfTheDay) {
     ShowAt(12, 0);
@@ -58,6 +91,73 @@ TEST_F(PublicStateTest, PrayerIsToldOnceInItsTenSecondsWhetherItSoundsOrNot) {
     EXPECT_EQ(Signals()[0], "PrayerArrived Asr " + State().moments[kAsr].local);
     RunThrough(kMaghrib);
     EXPECT_EQ(Signals().back().substr(0, 21), "PrayerArrived Maghrib");
+}
+
+TEST_F(PlacedTimes, MomentOfAZoneHasTheOffsetOfItsOwnInstant) {
+    RuledYear.rules.zoneName = "Africa/Cairo";
+    RuledYear.rules.moments.zone = {{0.0, 3.0, true}};
+    ShownDay.moments[kFajr] = {1.5, MomentBy::kSun, 0, 3.0};
+    ShownDay.moments[kShurooq] = {1.5, MomentBy::kSun, 0, 2.0};  // an hour later
+    EXPECT_EQ(PublicState().moments[kFajr].local, "2026-11-21T01:30:00+03:00");
+    EXPECT_EQ(PublicState().moments[kShurooq].local, "2026-11-21T01:30:00+02:00");
+}
+
+TEST_F(PlacedTimes, YesterdaysMomentPastMidnightIsOfYesterdaysClock) {
+    ShowAt(0, 15);
+    EndDaylightOn(ShownDay.date - 1.0);
+    platform.clock.Set(ShownDay.date + Minutes(15));
+    ShownDay.late = {{kIsha, {0.25}}};
+    ShownDay.next = {kIsha, false, {0.25}, 0.0, true};
+    EXPECT_EQ(PublicState().nextTime, "2026-11-21T00:15:00+04:00");
+    Ticks(12);
+    EXPECT_THAT(Signals(), ElementsAre("PrayerArrived Isha 2026-11-21T00:15:00+04:00"));
+}
+
+TEST_F(PlacedTimes, TomorrowsMomentBeforeMidnightIsOfTomorrowsClock) {
+    EndDaylightOn(ShownDay.date);
+    platform.clock.Set(ShownDay.date + Minutes(1425));
+    ShownDay.early = {{kFajr, {23.75}}};
+    ShownDay.next = {kFajr, true, {-0.25}, 0.0};
+    EXPECT_EQ(PublicState().nextTime, "2026-11-21T23:45:00+03:00");
+    Ticks(12);
+    EXPECT_THAT(Signals(), ElementsAre("PrayerArrived Fajr 2026-11-21T23:45:00+03:00"));
+}
+
+TEST_F(PlacedTimes, PrayersSecondsApartAreEachToldOnce) {
+    for (const int once : {0, 1}) {
+        Signals().clear();
+        SaveOption(option::kAthanOnce, once);
+        TodayTimes[kIsha] = TodayTimes[kMaghrib] + Seconds(3);
+        platform.clock.Set(Arrival(kMaghrib));
+        Ticks(14);
+        EXPECT_THAT(Signals(), SizeIs(2)) << once;
+        TodayTimes[kMaghrib] -= Minutes(60);  // others than those
+    }
+}
+
+TEST_F(PlacedTimes, PrayerThatSettingsMoveBySecondsIsNotToldAgain) {
+    platform.clock.Set(Arrival(kAsr));
+    Ticks(5);
+    TodayTimes[kAsr] += Seconds(20);
+    Ticks(30);
+    EXPECT_THAT(Signals(), SizeIs(1));
+}
+
+TEST_F(PublicStateTest, PrayerOfAQuietTimeIsToldOnceToo) {
+    platform.clock.Set(Arrival(kAsr) - Minutes(5));
+    platform.broadcast.onQuiet(30);
+    Signals().clear();
+    RunThrough(kAsr);
+    EXPECT_THAT(Signals(), SizeIs(1));
+}
+
+TEST_F(PublicStateTest, ComingBackFromASleepTellsNothingAgain) {
+    Signals().clear();
+    platform.clock.Set(Arrival(kAsr) + Seconds(2));
+    platform.session.onResume();
+    RunFrom(Arrival(kAsr) + Seconds(3), 10);
+    platform.session.onResume();
+    EXPECT_THAT(Signals(), SizeIs(1));
 }
 
 TEST_F(PublicStateTest, SunriseIsNotToldOf) {
@@ -111,6 +211,15 @@ TEST_F(PublicStateTest, QuietIsAskedForInMinutesAndTakenBack) {
     PassSecond();
     EXPECT_EQ(State().quietUntil, "");
     EXPECT_FALSE(platform.tray.isQuiet);
+}
+
+TEST_F(PublicStateTest, EndOfAQuietBehindAChangeOfTheNightHasTheOffsetOfItsInstant) {
+    SetClock(2026, 11, 21, 23, 0, 0);
+    platform.clock.SetOffset(DateSerial(2026, 11, 22) + TimeSerial(2, 0, 0), {1.0, true});
+    platform.broadcast.onQuiet(120);
+    EXPECT_EQ(PublicState().quietUntil, "2026-11-22T01:00:00+00:00");
+    platform.broadcast.onQuiet(240);
+    EXPECT_EQ(PublicState().quietUntil, "2026-11-22T03:00:00+01:00");
 }
 
 TEST_F(PublicStateTest, QuietThatIsAskedForSilencesWhatSounds) {
