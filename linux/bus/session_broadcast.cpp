@@ -122,6 +122,10 @@ private:
 
     void AddMethod(const char* name, std::function<void()> Broadcast::*request) {
         object_->registerMethod(name).onInterface(kBusInterface).implementedAs([this, request] {
+            if (!(owner_.*request)) {
+                throw sdbus::Error("org.freedesktop.DBus.Error.NotSupported",
+                                   "it runs without a face");
+            }
             owner_.post_([owner = &owner_, request] { (owner->*request)(); });
         });
     }

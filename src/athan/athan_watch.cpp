@@ -17,10 +17,12 @@ namespace horavex {
 namespace {
 
 std::optional<double> silentSince;  // steady seconds; none while an athan is heard, or none is up
+int unseenMinutes = 0;              // after which a silent athan ends that nobody sees; 0 for never
 bool othersPause = false;
 
 const ProgramStateReset reset([] {
     silentSince.reset();
+    unseenMinutes = 0;
     othersPause = false;
 });
 
@@ -49,7 +51,8 @@ void EndSilentNotice() {
 }
 
 void EndSilentAthan() {
-    const int minutes = ReadOption(option::kSilentMinutes);
+    const int chosen = ReadOption(option::kSilentMinutes);
+    const int minutes = chosen > 0 ? chosen : unseenMinutes;
     if (minutes > 0 && silentSince && !AthanAwaitsItsSound() &&
         Ports().clock.SteadySeconds() - *silentSince >= minutes * 60.0) {
         silentSince.reset();
@@ -73,6 +76,10 @@ void PauseOthersWhileHeard() {
 }
 
 }  // namespace
+
+void EndSilentAthansAfter(int minutes) {
+    unseenMinutes = minutes;
+}
 
 void BeginAthan() {
     silentSince.reset();

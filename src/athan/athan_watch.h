@@ -10,6 +10,10 @@ void WatchAthan();
 /// An athan begins, whatever has been up before it.
 void BeginAthan();
 
+/// Where nobody sees a window nobody closes it: a silent athan that the option leaves to the user
+/// ends after so many minutes, too. Once a process.
+void EndSilentAthansAfter(int minutes);
+
 /// Other players pause, where the option asks for it, until the athan is over.
 void PauseOtherPlayers();
 

@@ -31,8 +31,12 @@ void WriteAngle(const std::string& text) {
 
 }  // namespace
 
+bool IshaAngleIsStored() {
+    return ReadAngle("-1") >= 0.0;
+}
+
 bool LoadIshaAngle() {
-    const bool isFirst = ReadAngle("-1") < 0.0;
+    const bool isFirst = !IshaAngleIsStored();
     if (isFirst) {
         WriteAngle(kFirstIshaAngle);
     }

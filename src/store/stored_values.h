@@ -19,6 +19,9 @@ extern double ActiveIshaAngle;
 /// this is a first run.
 bool LoadIshaAngle();
 
+/// Whether a start would find the value there, and so be no first run. Writes nothing.
+bool IshaAngleIsStored();
+
 /// Reads IshaAngle again as the settings window's close box does; -1 where none is stored.
 void ReloadIshaAngle();
 

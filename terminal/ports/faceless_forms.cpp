@@ -1,8 +1,11 @@
 #include "terminal/ports/faceless_forms.h"
 
+#include <utility>
+
 namespace horavex {
 
-FacelessForms::FacelessForms(PollEventLoop& loop) : timers_(loop) {
+FacelessForms::FacelessForms(PollEventLoop& loop, std::function<void(const Form&)> onBroughtUp)
+    : onBroughtUp_(std::move(onBroughtUp)), timers_(loop) {
     InstallFormHost(this);
 }
 

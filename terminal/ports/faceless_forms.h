@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "forms/form_host.h"
 #include "terminal/ports/form_timers.h"
 
@@ -9,14 +11,16 @@ namespace horavex {
 /// user would close it. Installed as the forms' host as long as it lives.
 class FacelessForms : public FormHost {
 public:
-    explicit FacelessForms(PollEventLoop& loop);
+    /// onBroughtUp is told of each form that would come on view.
+    explicit FacelessForms(
+        PollEventLoop& loop, std::function<void(const Form&)> onBroughtUp = [](const Form&) {});
     ~FacelessForms() override;
     FacelessForms(const FacelessForms&) = delete;
     FacelessForms& operator=(const FacelessForms&) = delete;
 
     void Loaded(Form& form) override;
     void Unloaded(Form& form) override;
-    void BroughtUp(Form&) override {}
+    void BroughtUp(Form& form) override { onBroughtUp_(form); }
     void RunModal(Form& form) override;
 
 private:
@@ -31,6 +35,7 @@ private:
         FormTimers& timers_;
     };
 
+    const std::function<void(const Form&)> onBroughtUp_;
     FormTimers timers_;
     Observer observer_{timers_};  // of all of them
 };

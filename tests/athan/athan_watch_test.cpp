@@ -27,6 +27,23 @@ TEST_F(AthanWatchTest, WithoutTheOptionItWaitsForTheUser) {
     EXPECT_EQ(athanActive, kTrue);
 }
 
+TEST_F(AthanWatchTest, WhereNobodySeesItMutedWindowClosesWithoutTheOptionToo) {
+    EndSilentAthansAfter(1);
+    SetAthanType(1);
+    RunFrom(Arrival(kAsr), 55);
+    EXPECT_EQ(athanActive, kTrue);
+    Run(15);
+    EXPECT_EQ(athanActive, kFalse);
+}
+
+TEST_F(AthanWatchTest, OptionGoesBeforeTheMinutesOfOneThatNobodySees) {
+    EndSilentAthansAfter(1);
+    SaveOption(option::kSilentMinutes, 10);
+    SetAthanType(1);
+    RunFrom(Arrival(kAsr), 595);
+    EXPECT_EQ(athanActive, kTrue);
+}
+
 TEST_F(AthanWatchTest, AthanThatIsHeardStaysHoweverLongItIs) {
     SaveOption(option::kSilentMinutes, 1);
     AddSound(SoundPath("athan"), 300);

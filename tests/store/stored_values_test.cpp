@@ -90,6 +90,15 @@ TEST_F(IshaSettingTest, RestrictedUserKeepsANegativeAngleThatCannotBeReplaced) {
     EXPECT_EQ(IshaAngle, -5.0);
 }
 
+TEST_F(IshaSettingTest, FirstRunIsKnownBeforeItsStartAndNothingIsWritten) {
+    EXPECT_FALSE(IshaAngleIsStored());
+    EXPECT_EQ(Stored(), "nothing");
+    Store("-1");
+    EXPECT_FALSE(IshaAngleIsStored());
+    Store("0");
+    EXPECT_TRUE(IshaAngleIsStored());
+}
+
 TEST_F(IshaSettingTest, PeekWritesNothing) {
     PeekIshaAngle();
     EXPECT_EQ(IshaAngle, 18.0);
