@@ -5,7 +5,6 @@
 #include <QToolButton>
 #include <QWidget>
 
-#include "desktop/form_window/usable_window.h"
 #include "platform/help_view.h"
 
 namespace horavex {
@@ -40,7 +39,6 @@ private:
     QToolButton forward_;
     QListWidget contents_;
     PageView page_;
-    UsableWindow usable_{*this};
 };
 
 }  // namespace horavex
