@@ -11,9 +11,12 @@ namespace horavex {
 class BusPump {
 public:
     explicit BusPump(SessionBroadcast& broadcast);
+    ~BusPump();
+    BusPump(const BusPump&) = delete;
+    BusPump& operator=(const BusPump&) = delete;
 
 private:
-    void Serve();
+    void Follow();
 
     SessionBroadcast& broadcast_;
     std::unique_ptr<QSocketNotifier> notifier_;  // nullptr without a bus

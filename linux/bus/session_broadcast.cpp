@@ -15,6 +15,8 @@ namespace {
 
 using BusMoment = sdbus::Struct<std::string, std::string, std::string>;
 
+constexpr int kStatesPerMinute = 60;  // the clock publishes one a second
+
 std::vector<BusMoment> BusMoments(const std::vector<ToldMoment>& moments) {
     std::vector<BusMoment> all;
     for (const auto& [prayer, local, by] : moments) {
@@ -44,11 +46,12 @@ std::vector<std::string> Changes(const ToldState& before, const ToldState& now) 
 
 }  // namespace
 
-/// As long as there is a bus and the name on it.
+/// As long as there is a bus and the name on it, by which nobody finds it before all is in place.
 class SessionBroadcast::Connection {
 public:
-    explicit Connection(SessionBroadcast& owner)
+    Connection(SessionBroadcast& owner, ToldState state)
         : owner_(owner),
+          state_(std::move(state)),
           bus_(sdbus::createSessionBusConnection()),
           object_(sdbus::createObject(*bus_, kBusPath)) {
         AddProperties();
@@ -139,23 +142,32 @@ private:
     }
 
     SessionBroadcast& owner_;
+    ToldState state_;
     std::unique_ptr<sdbus::IConnection> bus_;
     std::unique_ptr<sdbus::IObject> object_;
-    ToldState state_;
 };
 
-SessionBroadcast::SessionBroadcast(Post post) : post_(std::move(post)) {
-    try {
-        connection_ = std::make_unique<Connection>(*this);
-    } catch (const sdbus::Error&) {
-        // There is no bus, or another front end is on it.
-    }
-}
+SessionBroadcast::SessionBroadcast(Post post) : post_(std::move(post)) {}
 
 SessionBroadcast::~SessionBroadcast() = default;
 
 void SessionBroadcast::Publish(const ToldState& state) {
-    Speak([&](Connection& connection) { connection.Publish(state); });
+    if (IsThere()) {
+        Speak([&](Connection& connection) { connection.Publish(state); });
+    } else if (statesUnheard_++ % kStatesPerMinute == 0) {
+        LookForBus(state);
+    }
+}
+
+void SessionBroadcast::LookForBus(const ToldState& state) {
+    connection_.reset();
+    isLost_ = false;
+    try {
+        connection_ = std::make_unique<Connection>(*this, state);
+        TellDescriptor();
+    } catch (const sdbus::Error&) {
+        // There is no bus, or another front end is on it.
+    }
 }
 
 void SessionBroadcast::TellPrayerArrived(const std::string& prayer, const std::string& local) {
@@ -178,7 +190,7 @@ void SessionBroadcast::TellDayChanged(const std::string& date) {
 }
 
 int SessionBroadcast::Descriptor() const {
-    return connection_ && !isLost_ ? connection_->Descriptor() : -1;
+    return IsThere() ? connection_->Descriptor() : -1;
 }
 
 void SessionBroadcast::Serve() {
@@ -187,13 +199,21 @@ void SessionBroadcast::Serve() {
 
 /// A bus that has gone is no fault of the program's.
 void SessionBroadcast::Speak(const std::function<void(Connection&)>& say) {
-    if (!connection_ || isLost_) {
+    if (!IsThere()) {
         return;
     }
     try {
         say(*connection_);
     } catch (const sdbus::Error&) {
         isLost_ = true;
+        statesUnheard_ = 1;
+        TellDescriptor();
+    }
+}
+
+void SessionBroadcast::TellDescriptor() const {
+    if (onDescriptor) {
+        onDescriptor();
     }
 }
 

@@ -11,10 +11,14 @@ namespace horavex {
 class BusReader {
 public:
     BusReader(PollEventLoop& loop, SessionBroadcast& broadcast);
+    ~BusReader();
+    BusReader(const BusReader&) = delete;
+    BusReader& operator=(const BusReader&) = delete;
 
 private:
-    void Serve();
+    void Follow();
 
+    PollEventLoop& loop_;
     SessionBroadcast& broadcast_;
     std::optional<PollEventLoop::Reader> reader_;  // none without a bus
 };

@@ -1,10 +1,13 @@
 #include "linux/bus/session_broadcast.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDBusArgument>
+#include <QDBusConnectionInterface>
 #include <QDBusInterface>
 #include <QDBusReply>
 #include <QFile>
 #include <QXmlStreamReader>
+#include <optional>
 
 #include "desktop/ports/bus_pump.h"
 #include "linux/bus/bus_names.h"
@@ -65,6 +68,10 @@ struct SessionBroadcastTest : PrivateBus {
         };
     }
 
+    bool IsOwned() {
+        return client.interface()->isServiceRegistered(QLatin1String(kBusName)).value();
+    }
+
     BusObject Object(const char* interface = kBusInterface) {
         return {client, QLatin1String(kBusName), QLatin1String(kBusPath), QLatin1String(interface)};
     }
@@ -94,7 +101,16 @@ struct SessionBroadcastTest : PrivateBus {
     std::vector<std::string> asked;
 };
 
+TEST_F(SessionBroadcastTest, NobodyFindsItBeforeItHasAState) {
+    EXPECT_EQ(broadcast.Descriptor(), -1);
+    EXPECT_FALSE(IsOwned());
+    broadcast.Publish(SomeState());
+    EXPECT_TRUE(IsOwned());
+    EXPECT_EQ(Property("Place").toString(), QStringLiteral("Cairo, Egypt"));
+}
+
 TEST_F(SessionBroadcastTest, InterfaceIsTheDocumentedOne) {
+    broadcast.Publish(SomeState());
     QFile file(QString::fromStdString(SourcePath("docs/org.horavex.PrayerTimes.xml")));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QDBusMessage answer = Ask("Introspect", {}, "org.freedesktop.DBus.Introspectable");
@@ -121,6 +137,7 @@ TEST_F(SessionBroadcastTest, PropertiesAreThoseOfTheStateThatWasPublished) {
 }
 
 TEST_F(SessionBroadcastTest, ChangesAloneAreSignalled) {
+    broadcast.Publish(SomeState());
     std::vector<std::string> changed;
     const auto hearing = Object().HearProperties([&](const QDBusMessage& message) {
         const auto values = qdbus_cast<QVariantMap>(message.arguments().at(1));
@@ -132,16 +149,16 @@ TEST_F(SessionBroadcastTest, ChangesAloneAreSignalled) {
     ToldState state = SomeState();
     broadcast.Publish(state);
     Settle();
-    EXPECT_THAT(changed, UnorderedElementsAre("Place", "Zone", "Moments", "NextPrayer", "NextTime",
-                                              "HijriDate"));
-    changed.clear();
-    broadcast.Publish(state);
-    Settle();
     EXPECT_THAT(changed, IsEmpty());
     state.athanPlaying = true;
     broadcast.Publish(state);
     Settle();
     EXPECT_THAT(changed, ElementsAre("AthanPlaying"));
+    changed.clear();
+    broadcast.Publish({});
+    Settle();
+    EXPECT_THAT(changed, UnorderedElementsAre("Place", "Zone", "Moments", "NextPrayer", "NextTime",
+                                              "HijriDate", "AthanPlaying"));
 }
 
 TEST_F(SessionBroadcastTest, SignalsCarryWhatTheyTell) {
@@ -156,6 +173,7 @@ TEST_F(SessionBroadcastTest, SignalsCarryWhatTheyTell) {
             heard.push_back(text);
         }));
     }
+    broadcast.Publish(SomeState());
     Settle();
     broadcast.TellPrayerArrived("Asr", "2026-11-21T14:38:00+02:00");
     broadcast.TellReminderDue("iqama", "Asr", 15);
@@ -168,6 +186,7 @@ TEST_F(SessionBroadcastTest, SignalsCarryWhatTheyTell) {
 }
 
 TEST_F(SessionBroadcastTest, RequestsReachTheProgram) {
+    broadcast.Publish(SomeState());
     for (const char* method : {"Show", "Hide", "AthanNow", "StopAthan"}) {
         EXPECT_EQ(Ask(method).type(), QDBusMessage::ReplyMessage);
     }
@@ -176,37 +195,94 @@ TEST_F(SessionBroadcastTest, RequestsReachTheProgram) {
 }
 
 TEST_F(SessionBroadcastTest, QuietOfMoreThanADayIsRefused) {
+    broadcast.Publish(SomeState());
     EXPECT_EQ(Ask("Quiet", {1441U}).errorName(),
               QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs"));
     EXPECT_THAT(asked, IsEmpty());
 }
 
-TEST_F(SessionBroadcastTest, SecondProcessGetsNoNameAndNobodyHearsIt) {
-    SessionBroadcast second([](const std::function<void()>&) {});
-    EXPECT_EQ(second.Descriptor(), -1);
-    second.Publish(SomeState());
-    EXPECT_EQ(Property("Place").toString(), QString());
+/// As the clock does in a minute.
+void PublishForAMinute(SessionBroadcast& broadcast) {
+    for (int second = 0; second < 60; ++second) {
+        broadcast.Publish(SomeState());
+    }
+}
+
+TEST_F(SessionBroadcastTest, SecondProcessIsNotHeardUntilTheFirstHasGone) {
+    std::optional<SessionBroadcast> first(std::in_place, [](const std::function<void()>&) {});
+    first->Publish({});
+    broadcast.Publish(SomeState());
+    EXPECT_EQ(broadcast.Descriptor(), -1);
+    broadcast.TellAthanStopped();
+    first.reset();
+    PublishForAMinute(broadcast);
+    EXPECT_EQ(Property("Place").toString(), QStringLiteral("Cairo, Egypt"));
 }
 
 TEST(SessionBroadcastWithoutABus, NothingHappens) {
     const ScopedVariable address("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
     SessionBroadcast broadcast([](const std::function<void()>&) {});
+    const BusPump pump(broadcast);
+    broadcast.Publish(SomeState());
     EXPECT_EQ(broadcast.Descriptor(), -1);
+    broadcast.TellAthanStopped();
+    broadcast.Serve();
+    PublishForAMinute(broadcast);
+}
+
+/// A bus that can be ended and begun again at its address.
+struct EndingBus : testing::Test {
+    EndingBus() { Begin(); }
+
+    void Begin() {
+        daemon.emplace(
+            std::vector<std::string>{"dbus-daemon", "--nofork", "--print-address=1",
+                                     "--config-file=" + WriteBusConfiguration(folder.Path())},
+            Environment(), folder / "out", folder / "err");
+        EXPECT_TRUE(Until([this] { return ContentOf(folder / "out").ends_with('\n'); }));
+    }
+
+    void End() {
+        daemon.reset();
+        EXPECT_TRUE(Until([&] { return broadcast.Descriptor() == -1; }));
+    }
+
+    std::string Address() const { return "unix:path=" + folder / "bus"; }
+
+    TemporaryFolder folder;
+    std::optional<ChildProcess> daemon;
+    ScopedVariable address{"DBUS_SESSION_BUS_ADDRESS", Address().c_str()};
+    SessionBroadcast broadcast{[](const std::function<void()>&) {}};
+    BusPump pump{broadcast};
+};
+
+TEST_F(EndingBus, LeavesNothingToWaitFor) {
+    broadcast.Publish(SomeState());
+    ASSERT_NE(broadcast.Descriptor(), -1);
+    End();
+    QAbstractEventDispatcher* loop = QAbstractEventDispatcher::instance();
+    EXPECT_TRUE(Until([&] { return !loop->processEvents(QEventLoop::AllEvents); }));
+    for (int turn = 0; turn < 5; ++turn) {
+        EXPECT_FALSE(loop->processEvents(QEventLoop::AllEvents)) << "something is ready for ever";
+    }
     broadcast.Publish(SomeState());
     broadcast.TellAthanStopped();
     broadcast.Serve();
-    const BusPump pump(broadcast);
 }
 
-TEST(SessionBroadcastWhoseBusEnds, FallsSilent) {
-    auto bus = std::make_unique<TestBus>();
-    const ScopedVariable address("DBUS_SESSION_BUS_ADDRESS", bus->Address().c_str());
-    SessionBroadcast broadcast([](const std::function<void()>&) {});
-    const BusPump pump(broadcast);
-    ASSERT_NE(broadcast.Descriptor(), -1);
-    bus.reset();
-    EXPECT_TRUE(Until([&] { return broadcast.Descriptor() == -1; }));
+TEST_F(EndingBus, IsFoundAgainWithinAMinute) {
     broadcast.Publish(SomeState());
+    End();
+    Begin();
+    broadcast.Publish(SomeState());
+    EXPECT_EQ(broadcast.Descriptor(), -1) << "asked at once";
+    PublishForAMinute(broadcast);
+    EXPECT_NE(broadcast.Descriptor(), -1);
+    ChildProcess asking({"gdbus", "introspect", "--address", Address(), "--dest", kBusName,
+                         "--object-path", kBusPath},
+                        {}, folder / "told", folder / "complaint");
+    EXPECT_TRUE(Until([&] { return !asking.IsRunning(); }));
+    EXPECT_EQ(asking.Wait(), 0) << ContentOf(folder / "complaint");
 }
 
 }  // namespace
