@@ -101,7 +101,9 @@ void QtFace::TakeStrip(FaceView& view, bool small) {
 }
 
 void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
-    if (fillsScreen == (poster_ != nullptr)) {
+    if (fillsScreen && poster_ != nullptr) {
+        poster_->raise();
+        poster_->activateWindow();
         return;
     }
     if (fillsScreen) {
@@ -109,7 +111,7 @@ void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
         awake_ = std::make_unique<ScreenAwake>(ReasonToStayOn(), bus_());
         painting_->LieBeneath(*poster_);
         poster_->Fill(*view.screen());
-    } else {
+    } else if (poster_ != nullptr) {
         awake_.reset();
         poster_->hide();
         DeleteBehindDialogs(*poster_);

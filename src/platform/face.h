@@ -30,7 +30,7 @@ public:
     /// by its variables alone ignores it.
     virtual void ShowDay(const DayView& /*day*/) {}
 
-    /// Takes a shape from now on. One that has no other ignores it.
+    /// Takes a shape; one that fills the screen comes to the front. A face of one alone ignores it.
     virtual void TakeShape(const FaceShape& /*shape*/) {}
 
     /// Starts the face's own motion.

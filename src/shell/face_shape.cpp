@@ -78,6 +78,18 @@ void TurnFaceAbove() {
     Turn(&Choices::above, option::kFaceAbove);
 }
 
+void LeaveFullScreen() {
+    if (chosen.fillsScreen) {
+        TurnFaceFullScreen();
+    }
+}
+
+void BringFullScreenUp() {
+    if (chosen.fillsScreen) {
+        Ports().face.TakeShape({chosen.small, true});
+    }
+}
+
 void BindFaceShape() {
     frmMain->mnuSmall.onClick = frmMain->mnuPopSmall.onClick = TurnFaceSmall;
     frmMain->mnuFullScreen.onClick = frmMain->mnuPopFullScreen.onClick = TurnFaceFullScreen;

@@ -12,6 +12,12 @@ void TurnFaceSmall();
 void TurnFaceFullScreen();
 void TurnFaceAbove();
 
+/// A face that fills the screen does so no more, as by its own ways out of that.
+void LeaveFullScreen();
+
+/// A face that fills the screen comes to the front of whatever lies over it.
+void BringFullScreenUp();
+
 /// Binds the entries.
 void BindFaceShape();
 

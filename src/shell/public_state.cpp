@@ -16,6 +16,7 @@
 #include "engine/zone_clock.h"
 #include "platform/platform.h"
 #include "shell/close_face.h"
+#include "shell/face_shape.h"
 #include "shell/tray_icon.h"
 #include "store/settings_record.h"
 #include "timetables/timetable.h"
@@ -131,8 +132,14 @@ void PublishArrival(Prayer prayer, const OwnMoment& own) {
 
 void BindBroadcast() {
     Broadcast& broadcast = Ports().broadcast;
-    broadcast.onShow = BringFaceBack;
-    broadcast.onHide = CloseFace;
+    broadcast.onShow = [] {
+        BringFaceBack();
+        BringFullScreenUp();
+    };
+    broadcast.onHide = [] {
+        LeaveFullScreen();
+        CloseFace();
+    };
     broadcast.onAthanNow = [] { sub04F9(Alert::kAthanNow); };
     broadcast.onStopAthan = StopAthanThatIsUp;
     broadcast.onQuiet = ChooseQuietFor;

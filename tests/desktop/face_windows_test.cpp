@@ -45,6 +45,16 @@ TEST_F(FaceWindowsTest, FullScreenOverAModalWindowIsNotShutOffByIt) {
     EXPECT_EQ(poster.transientParent(), nullptr);
 }
 
+TEST_F(FaceWindowsTest, FullScreenThatIsAskedForAnewComesToTheFront) {
+    face.TakeShape({.fillsScreen = true});
+    QApplication::processEvents();
+    QApplication::setActiveWindow(&window);
+    ASSERT_EQ(QApplication::activeWindow(), &window);
+    face.TakeShape({.fillsScreen = true});
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::activeWindow(), Poster());
+}
+
 TEST_F(FaceWindowsTest, BoxOverTheFullScreenOutlivesItsEnd) {
     face.TakeShape({.fillsScreen = true});
     const QPointer<QWidget> poster = Poster();

@@ -6,6 +6,7 @@
 #include "athan/quiet.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
+#include "shell/face_shape.h"
 #include "store/options.h"
 
 namespace horavex {
@@ -234,6 +235,34 @@ TEST_F(PublicStateTest, FaceIsHiddenAndShown) {
     EXPECT_FALSE(frmMain->Visible());
     platform.broadcast.onShow();
     EXPECT_TRUE(frmMain->Visible());
+}
+
+TEST_F(PublicStateTest, FaceIsHiddenAsItsOwnCloseDoesWithoutANotificationArea) {
+    platform.tray.hasHost = false;
+    platform.broadcast.onHide();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_EQ(frmMain->State(), WindowState::kMinimized);
+    platform.broadcast.onShow();
+    EXPECT_EQ(frmMain->State(), WindowState::kNormal);
+    EXPECT_EQ(platform.desktop.calls.back(), "Activate frmMain");
+}
+
+TEST_F(PublicStateTest, FaceThatFillsTheScreenLeavesItWhenItIsHidden) {
+    TurnFaceFullScreen();
+    platform.broadcast.onHide();
+    EXPECT_FALSE(platform.face.shape.fillsScreen);
+    EXPECT_FALSE(frmMain->mnuFullScreen.Checked());
+    EXPECT_FALSE(frmMain->Visible());
+    platform.broadcast.onShow();
+    EXPECT_TRUE(frmMain->Visible());
+    EXPECT_FALSE(platform.face.shape.fillsScreen);
+}
+
+TEST_F(PublicStateTest, FaceThatFillsTheScreenIsBroughtToTheFrontAsSuch) {
+    TurnFaceFullScreen();
+    platform.face.shape = {};
+    platform.broadcast.onShow();
+    EXPECT_TRUE(platform.face.shape.fillsScreen);
 }
 
 TEST_F(PublicStateTest, AthanIsAskedFor) {
