@@ -1,3 +1,5 @@
+#include <cmath>
+#include <ctime>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -5,6 +7,7 @@
 #include "base/plain_text.h"
 #include "base/text.h"
 #include "ctl/command.h"
+#include "ctl/follow_wait.h"
 #include "ctl/number_range.h"
 #include "ctl/status_line.h"
 #include "linux/bus/running_program.h"
@@ -78,31 +81,76 @@ std::string LineOf(const Session& session, const StatusOptions& options,
     return state ? FilledLine(line, FieldsOf(*state, UniversalNow())) : "";
 }
 
-/// Until the time that is left is told in another way; for ever where nothing tells it.
-int RestOf(const StatusOptions& options, const std::optional<ToldState>& state) {
-    if (!state || !TellsTheTimeLeft(options.format)) {
-        return -1;
-    }
-    constexpr int kSecond = 1000;
-    const bool bySeconds = options.format.find("{seconds}") != std::string::npos;
-    const long left = SecondsLeft(*state, UniversalNow());
-    return bySeconds ? kSecond : static_cast<int>((left - 1) % 60 + 1) * kSecond;
+std::time_t SecondOf(Date universal) {
+    return std::llround((universal - DateSerial(1970, 1, 1)) * kSecondsPerDay);
 }
 
-/// A line at each change, until nobody reads them any more.
-void Follow(const Session& session, const StatusOptions& options) {
-    RunningProgram program;
-    std::optional<std::string> shown;
-    while (std::cout) {
-        const std::optional<ToldState> state = program.State();
-        const std::string line = LineOf(session, options, state);
-        if (line != shown) {
-            std::cout << WithoutControls(line) << std::endl;
-            shown = line;
-        }
-        program.WaitForChange(RestOf(options, state));
+/// When the line reads otherwise without any news; none where it never does.
+std::optional<std::time_t> ChangeOf(const Session& session, const StatusOptions& options,
+                                    const std::optional<ToldState>& state) {
+    if (session.json || !state) {
+        return std::nullopt;
     }
+    const Date now = UniversalNow();
+    const std::optional<long> seconds = SecondsToChange(options.format, SecondsLeft(*state, now));
+    return seconds ? std::optional(SecondOf(now) + *seconds) : std::nullopt;
 }
+
+constexpr std::time_t kAtOnce = 0;
+
+/// Follows the program and prints a line at each change.
+class Follower {
+public:
+    Follower(const Session& session, const StatusOptions& options)
+        : session_(session), options_(options) {}
+
+    /// Until nobody reads the lines any more, or a signal ends it.
+    void Run() {
+        do {
+            while (program_.HasChanged() || IsDue()) {
+                Look();
+            }
+        } while (!ReaderHasGone() && std::cout && Sleep());
+    }
+
+private:
+    bool IsDue() const { return next_ && SecondOf(UniversalNow()) >= *next_; }
+
+    /// A program that does not answer is asked once more in a minute; the line stays meanwhile.
+    void Look() {
+        constexpr std::time_t kMinute = 60;
+        try {
+            const std::optional<ToldState> state = program_.State();
+            Show(LineOf(session_, options_, state));
+            next_ = ChangeOf(session_, options_, state);
+        } catch (const NoAnswerFault&) {
+            next_ = SecondOf(UniversalNow()) + kMinute;
+        }
+    }
+
+    /// False when the end has come.
+    bool Sleep() {
+        const FollowWait::Woken woken = wait_.For(program_.Descriptor(), next_);
+        if (woken == FollowWait::Woken::kClock) {
+            next_ = kAtOnce;
+        }
+        return woken != FollowWait::Woken::kEnd;
+    }
+
+    void Show(const std::string& line) {
+        if (line != shown_) {
+            std::cout << WithoutControls(line) << std::endl;
+            shown_ = line;
+        }
+    }
+
+    const Session& session_;
+    const StatusOptions& options_;
+    RunningProgram program_;
+    FollowWait wait_;
+    std::optional<std::string> shown_;
+    std::optional<std::time_t> next_ = kAtOnce;  // when to look again, be there news or not
+};
 
 void PrintStatus(const Session& session, const StatusOptions& options) {
     const std::optional<ToldState> state = RunningProgram().State();
@@ -131,7 +179,7 @@ void AddStatusCommand(CLI::App& app, Session& session) {
                         "A line with {next}, {time}, {remaining}, ...");
     command->callback([&session, options] {
         CheckLine(options->format);
-        options->follow ? Follow(session, *options) : PrintStatus(session, *options);
+        options->follow ? Follower(session, *options).Run() : PrintStatus(session, *options);
     });
 }
 

@@ -107,9 +107,15 @@ void CheckLine(const std::string& line) {
     FilledLine(line, FieldsOf({}, 0.0));
 }
 
-bool TellsTheTimeLeft(const std::string& line) {
-    return line.find("{remaining}") != std::string::npos ||
-           line.find("{seconds}") != std::string::npos;
+std::optional<long> SecondsToChange(const std::string& line, long secondsLeft) {
+    if (secondsLeft == 0) {
+        return std::nullopt;
+    }
+    if (line.find("{seconds}") != std::string::npos) {
+        return 1;
+    }
+    const bool tellsMinutes = line.find("{remaining}") != std::string::npos;
+    return tellsMinutes ? std::optional((secondsLeft - 1) % 60 + 1) : std::nullopt;
 }
 
 }  // namespace horavex

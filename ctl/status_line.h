@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "base/date.h"
@@ -24,7 +25,8 @@ std::string FilledLine(const std::string& line, const StatusFields& fields);
 /// Refuses a line with such a name.
 void CheckLine(const std::string& line);
 
-/// Whether it grows old by itself.
-bool TellsTheTimeLeft(const std::string& line);
+/// Seconds until the line reads otherwise although nothing has changed but the time that is left;
+/// none where it never does.
+std::optional<long> SecondsToChange(const std::string& line, long secondsLeft);
 
 }  // namespace horavex

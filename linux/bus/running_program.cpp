@@ -1,6 +1,5 @@
 #include "linux/bus/running_program.h"
 
-#include <poll.h>
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <chrono>
@@ -8,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "linux/bus/bus_names.h"
@@ -22,11 +22,14 @@ using BusMoment = sdbus::Struct<std::string, std::string, std::string>;
 constexpr std::chrono::seconds kPatience{5};
 constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
 constexpr const char* kBus = "org.freedesktop.DBus";
-constexpr const char* kBusObject = "/org/freedesktop/DBus";
 
+bool Is(const sdbus::Error& error, const char* name) {
+    return error.getName() == std::string("org.freedesktop.DBus.Error.") + name;
+}
+
+/// Or ended before it answered.
 bool SaysNobodyIsThere(const sdbus::Error& error) {
-    return error.getName() == "org.freedesktop.DBus.Error.ServiceUnknown" ||
-           error.getName() == "org.freedesktop.DBus.Error.NameHasNoOwner";
+    return Is(error, "ServiceUnknown") || Is(error, "NameHasNoOwner") || Is(error, "NoReply");
 }
 
 /// What a step on the bus says goes on as a fault of the program's own.
@@ -35,7 +38,11 @@ auto OnTheBus(const Step& step) {
     try {
         return step();
     } catch (const sdbus::Error& error) {
-        throw BusFault("the session bus: " + error.getMessage());
+        const std::string told = "the session bus: " + error.getMessage();
+        if (Is(error, "Timeout")) {
+            throw NoAnswerFault(told);
+        }
+        throw BusFault(told);
     }
 }
 
@@ -83,8 +90,7 @@ class RunningProgram::Connection {
 public:
     Connection()
         : bus_(sdbus::createSessionBusConnection()),
-          program_(sdbus::createProxy(*bus_, kBusName, kBusPath)),
-          daemon_(sdbus::createProxy(*bus_, kBus, kBusObject)) {
+          program_(sdbus::createProxy(*bus_, kBusName, kBusPath)) {
         HearChanges();
         HearComingAndGoing();
     }
@@ -108,15 +114,13 @@ public:
             .storeResultsTo();
     }
 
-    void Wait(int milliseconds) {
-        TakeWhatHasCome();
-        if (!hasChanged_) {
-            pollfd descriptor{bus_->getEventLoopPollData().fd, POLLIN, 0};
-            poll(&descriptor, 1, milliseconds);
-            TakeWhatHasCome();
+    bool HasChanged() {
+        while (bus_->processPendingRequest()) {
         }
-        hasChanged_ = false;
+        return std::exchange(hasChanged_, false);
     }
+
+    int Descriptor() const { return bus_->getEventLoopPollData().fd; }
 
 private:
     void HearChanges() {
@@ -128,23 +132,16 @@ private:
         program_->finishRegistration();
     }
 
+    /// Of this name alone: others come and go all the time.
     void HearComingAndGoing() {
-        daemon_->uponSignal("NameOwnerChanged")
-            .onInterface(kBus)
-            .call([this](const std::string& name, const std::string&, const std::string&) {
-                hasChanged_ = hasChanged_ || name == kBusName;
-            });
-        daemon_->finishRegistration();
-    }
-
-    void TakeWhatHasCome() {
-        while (bus_->processPendingRequest()) {
-        }
+        coming_ = bus_->addMatch(std::string("type='signal',sender='") + kBus +
+                                     "',member='NameOwnerChanged',arg0='" + kBusName + "'",
+                                 [this](sdbus::Message&) { hasChanged_ = true; });
     }
 
     std::unique_ptr<sdbus::IConnection> bus_;
     std::unique_ptr<sdbus::IProxy> program_;
-    std::unique_ptr<sdbus::IProxy> daemon_;
+    sdbus::Slot coming_;
     bool hasChanged_ = false;
 };
 
@@ -167,8 +164,12 @@ bool RunningProgram::AskForQuiet(int minutes) {
     return Reaches([&] { connection_->Ask("Quiet", static_cast<std::uint32_t>(minutes)); });
 }
 
-void RunningProgram::WaitForChange(int milliseconds) {
-    OnTheBus([&] { connection_->Wait(milliseconds); });
+bool RunningProgram::HasChanged() {
+    return OnTheBus([&] { return connection_->HasChanged(); });
+}
+
+int RunningProgram::Descriptor() const {
+    return connection_->Descriptor();
 }
 
 }  // namespace horavex

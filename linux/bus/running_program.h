@@ -14,6 +14,12 @@ public:
     using Fault::Fault;
 };
 
+/// What runs there does not answer in time.
+class NoAnswerFault : public BusFault {
+public:
+    using BusFault::BusFault;
+};
+
 /// The program that runs in this session, as other programs see it. Everything throws a BusFault
 /// where the bus fails.
 class RunningProgram {
@@ -30,9 +36,10 @@ public:
     bool Ask(const char* method);
     bool AskForQuiet(int minutes);
 
-    /// Waits until something has changed, the program's coming and going too, at most so many
-    /// milliseconds; negative for as long as it takes.
-    void WaitForChange(int milliseconds);
+    /// Whether something has changed since the last call, the program's coming and going too. When
+    /// it may have, the descriptor can be read from.
+    bool HasChanged();
+    int Descriptor() const;
 
 private:
     class Connection;

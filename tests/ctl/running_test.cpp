@@ -1,5 +1,11 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <csignal>
+#include <ctime>
+#include <filesystem>
 #include <optional>
 #include <utility>
 
@@ -157,6 +163,127 @@ TEST_F(RunningTest, FollowedItTellsThatTheProgramHasGone) {
     Follow("}\n");
     broadcast.reset();
     EXPECT_THAT(Follow("{\"running\":false}\n"), HasSubstr("\"running\":true"));
+}
+
+TEST_F(RunningTest, FollowedItWaitsForTheProgramToComeAgain) {
+    const ChildProcess child = Start({"status", "--follow"});
+    EXPECT_EQ(Follow("\n"), "Asr 14:38\n");
+    broadcast.reset();
+    EXPECT_EQ(Follow("\n\n"), "Asr 14:38\n\n");
+    broadcast.emplace([](const std::function<void()>& request) { request(); });
+    broadcast->Publish(DayInCairo());
+    EXPECT_EQ(Follow("38\n"), "Asr 14:38\n\nAsr 14:38\n");
+}
+
+TEST_F(RunningTest, FollowedItEndsInPeaceByASignal) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        ChildProcess child = Start({"status", "--follow"});
+        Follow("\n");
+        child.Signal(signal);
+        EXPECT_EQ(child.Wait(), 0) << signal;
+        EXPECT_EQ(ContentOf(folder / "complaint"), "");
+    }
+}
+
+TEST_F(RunningTest, FollowedItEndsInPeaceWhenItsReaderGoes) {
+    const std::string pipe = folder / "told";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ChildProcess child = Start({"status", "--follow"});
+    char told[32];
+    EXPECT_TRUE(WaitUntil("a line", [&] {
+        Serve();
+        return read(reader, told, sizeof told) > 0;
+    }));
+    close(reader);
+    EXPECT_EQ(child.Wait(), 0);
+    EXPECT_EQ(ContentOf(folder / "complaint"), "");
+}
+
+TEST_F(RunningTest, LineForAReaderThatHasGoneIsNoFailure) {
+    std::vector<std::string> words = {"sh", "-c",
+                                      BuildPath("bin/horavexctl") + " status --follow 2>" +
+                                          folder / "complaint" + " | true; echo ended"};
+    ChildProcess shell(words, ctl.variables, folder / "told", folder / "err");
+    Follow("ended\n");
+    EXPECT_EQ(shell.Wait(), 0);
+    EXPECT_EQ(ContentOf(folder / "complaint"), "");
+}
+
+TEST_F(RunningTest, OutputThatCannotBeWrittenEndsItWithAFailure) {
+    std::filesystem::create_symlink("/dev/full", folder / "told");
+    ChildProcess child = Start({"status", "--follow"});
+    WaitUntil("its end", [&] {
+        Serve();
+        return !child.IsRunning();
+    });
+    EXPECT_EQ(child.Wait(), 1);
+    EXPECT_EQ(ContentOf(folder / "complaint"),
+              "horavexctl: the standard output cannot be written\n");
+}
+
+/// Seconds for which the timer of a process is set; 0 where it is not.
+std::string TimerOf(const ChildProcess& child) {
+    for (const auto& entry :
+         std::filesystem::directory_iterator("/proc/" + std::to_string(child.Id()) + "/fdinfo")) {
+        const std::string text = ContentOf(entry.path());
+        const std::size_t at = text.find("it_value: (");
+        if (at != std::string::npos) {
+            return text.substr(at + 11, text.find(',', at) - at - 11);
+        }
+    }
+    return "no timer";
+}
+
+/// "2026-11-21T14:38:00+00:00", so many seconds from now.
+std::string InSeconds(int seconds) {
+    const std::time_t then = std::time(nullptr) + seconds;
+    std::tm parts{};
+    gmtime_r(&then, &parts);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S+00:00", &parts);
+    return text;
+}
+
+TEST_F(RunningTest, FollowedItIsWokenByTheClockOnlyWhereTheLineTellsTheTimeLeft) {
+    ToldState state = DayInCairo();
+    state.nextTime = InSeconds(3600);
+    broadcast->Publish(state);
+    {
+        const ChildProcess child = Start({"status", "--follow", "--format", "{next} {time}"});
+        Follow("\n");
+        EXPECT_TRUE(WaitUntil("its sleep", [&] { return TimerOf(child) == "0"; }));
+    }
+    const ChildProcess child = Start({"status", "--follow", "--format", "{remaining}"});
+    Follow("\n");
+    EXPECT_TRUE(WaitUntil("its sleep", [&] { return std::atoi(TimerOf(child).c_str()) > 0; }));
+    EXPECT_LE(std::stoi(TimerOf(child)), 60);
+}
+
+TEST_F(RunningTest, FollowedItSleepsWhenTheTimeHasComeUntilTheProgramTellsOfIt) {
+    ToldState state = DayInCairo();
+    state.nextTime = InSeconds(-5);
+    broadcast->Publish(state);
+    const ChildProcess child = Start({"status", "--follow", "--format", "{remaining}"});
+    EXPECT_EQ(Follow("\n"), "0:00\n");
+    EXPECT_TRUE(WaitUntil("its sleep", [&] { return TimerOf(child) == "0"; }));
+}
+
+TEST_F(RunningTest, FollowedItTellsTheNextMinuteWhenItBegins) {
+    ToldState state = DayInCairo();
+    state.nextTime = InSeconds(62);
+    broadcast->Publish(state);
+    const ChildProcess child = Start({"status", "--follow", "--format", "{remaining}"});
+    EXPECT_EQ(Follow("0:01\n"), "0:02\n0:01\n");
+}
+
+TEST_F(RunningTest, FollowedItFailsWithOneLineWhenTheBusEnds) {
+    ChildProcess child = Start({"status", "--follow"});
+    Follow("\n");
+    daemon.Signal(SIGKILL);
+    EXPECT_EQ(child.Wait(), 1);
+    EXPECT_THAT(ContentOf(folder / "complaint"),
+                MatchesRegex("horavexctl: the session bus: [^\n]+\n"));
 }
 
 TEST_F(RunningTest, RequestsReachTheProgram) {
