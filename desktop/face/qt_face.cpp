@@ -8,10 +8,17 @@
 #include "desktop/form_window/usable_window.h"
 #include "engine/day_view.h"
 #include "lang/language_pack.h"
+#include "platform/platform.h"
 
 namespace horavex {
 
 namespace {
+
+/// Of the program's clock, the local one.
+QTime TimeOfDay() {
+    const ClockTime time = ClockTimeOf(Ports().clock.Now());
+    return {time.hour, time.minute, time.second};
+}
 
 // Desktops show it to whoever asks why the screen stays on.
 QString ReasonToStayOn() {
@@ -122,7 +129,7 @@ void QtFace::TakePoster(FaceView& view, bool fillsScreen) {
 void QtFace::Fill(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-    auto* view = new FaceView(QTime::currentTime, language_);
+    auto* view = new FaceView(TimeOfDay, language_);
     FillWithView(window, view);
     painting_ = new PaintWhenSeen(window);
     auto* fullScreen = new QShortcut(Qt::Key_F11, &window);

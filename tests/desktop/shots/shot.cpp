@@ -1,0 +1,50 @@
+#include "desktop/shots/shot.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <stdexcept>
+
+namespace horavex {
+
+namespace {
+
+QRect Around(const std::vector<QWidget*>& windows) {
+    QRect around;
+    for (const QWidget* window : windows) {
+        around |= window->geometry();
+    }
+    return around;
+}
+
+QImage Photograph(const std::vector<QWidget*>& windows) {
+    const QRect around = Around(windows);
+    const double ratio = windows.front()->devicePixelRatioF();
+    QImage image(around.size() * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    for (QWidget* window : windows) {
+        painter.drawPixmap(window->pos() - around.topLeft(), window->grab());
+    }
+    return image;
+}
+
+}  // namespace
+
+Shot ShotOf(const Scene& scene, const std::string& language) {
+    Shot shot;
+    Stage stage(language, scene.setting, [&](const std::vector<QWidget*>& windows) {
+        shot = {QString::fromStdString(scene.name), windows.back()->windowTitle(),
+                Photograph(windows)};
+    });
+    scene.play(stage);
+    for (const auto& message : stage.ports.dialogs.messages) {
+        throw std::runtime_error(scene.name + " is told: " + message.text);
+    }
+    if (shot.image.isNull()) {
+        throw std::runtime_error("nothing to see in " + scene.name);
+    }
+    return shot;
+}
+
+}  // namespace horavex
