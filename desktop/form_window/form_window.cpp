@@ -142,6 +142,18 @@ void FormWindow::FlushLater() {
     }
 }
 
+// In the form's order, for the order tells where the focus goes from a page that is turned away.
+void FormWindow::RefreshChanged() {
+    const std::set<Control*> changed = std::exchange(changed_, {});
+    const std::vector<Control*> controls =
+        form_.Controls();  // what a refresh sets off may add some
+    for (Control* control : controls) {
+        if (changed.contains(control)) {
+            binders_.at(control)->Refresh();
+        }
+    }
+}
+
 void FormWindow::Flush() {
     flushPending_ = false;
     if (retired_) {
@@ -151,9 +163,7 @@ void FormWindow::Flush() {
     if (controlsChanged) {
         setLayoutDirection(DirectionOfCaptions(form_));
     }
-    for (Control* control : std::exchange(changed_, {})) {
-        binders_.at(control)->Refresh();
-    }
+    RefreshChanged();
     if (controlsChanged) {
         NameWidgets(*this);
         TitlePages(*this);

@@ -65,6 +65,7 @@ private:
 
     void Bind(Control& control);
     void RefreshLater(Control& control);
+    void RefreshChanged();
     void FlushLater();
 
     void FollowForm();
