@@ -49,6 +49,8 @@ void PosterView::Fill(QScreen& screen) {
     winId();  // makes the window of the platform
     usable_.Belong();
     showFullScreen();
+    usable_.TellOwner();
+    TellScreenFilled();
     activateWindow();
 }
 

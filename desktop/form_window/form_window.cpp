@@ -245,13 +245,12 @@ void FormWindow::KeepToItsScreen() {
 void FormWindow::Present() {
     setWindowModality(form_.IsModal() ? Qt::ApplicationModal : Qt::NonModal);
     winId();  // makes the window of the platform, which the owner is set on
-    if (placedByProgram_) {
-        usable_.Belong();
-    } else {
-        windowHandle()->setTransientParent(WindowBehind());
+    usable_.Belong(owner_ != nullptr ? owner_->windowHandle() : nullptr);
+    if (!placedByProgram_) {
         FitScreen();
     }
     show();
+    usable_.TellOwner();
 }
 
 // Without a place of its own the window comes up over its owner, or else where the window manager
@@ -268,11 +267,6 @@ void FormWindow::FitScreen() {
     if (overOwner || !place_.isNull()) {
         move(fitting.topLeft());
     }
-}
-
-// A window that comes up by itself over a modal one would be shut off without it.
-QWindow* FormWindow::WindowBehind() const {
-    return owner_ != nullptr ? owner_->windowHandle() : QGuiApplication::modalWindow();
 }
 
 void FormWindow::FollowFocus() {
@@ -318,7 +312,9 @@ void FormWindow::RunUntilHidden() {
 }
 
 bool FormWindow::event(QEvent* event) {
-    if (event->type() == QEvent::WindowBlocked && placedByProgram_) {
+    const bool isInTheWay =
+        event->type() == QEvent::WindowBlocked || event->type() == ScreenFilled();
+    if (isInTheWay && placedByProgram_ && windowHandle() != nullptr) {
         usable_.Belong();
     }
     if (event->type() == QEvent::WindowActivate && !retired_) {

@@ -78,7 +78,6 @@ private:
     void Present();
     void FitScreen();
     void GrowWithContent();
-    QWindow* WindowBehind() const;
 
     Form& form_;
     std::map<Control*, std::unique_ptr<Binder>> binders_;
@@ -94,7 +93,7 @@ private:
     const bool placedByProgram_;
     QRect itsScreen_;  // of a window that is placed by the program, pixels
     QPointer<const QWidget> owner_;
-    UsableWindow usable_{*this};       // where the program places it
+    UsableWindow usable_{*this};
     QEventLoop* modalLoop_ = nullptr;  // of the innermost RunUntilHidden
 };
 

@@ -122,8 +122,9 @@ void HelpWindow::Show(const HelpView& view) {
         PlaceFirst(view.place);
     }
     winId();  // makes the window of the platform, which the owner is set on
-    windowHandle()->setTransientParent(OwnerWindow(QString::fromStdString(view.owner)));
+    usable_.Belong(OwnerWindow(QString::fromStdString(view.owner)));
     show();
+    usable_.TellOwner();
     raise();
     activateWindow();
 }

@@ -5,6 +5,7 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include "desktop/form_window/usable_window.h"
 #include "platform/help_view.h"
 
 namespace horavex {
@@ -39,6 +40,7 @@ private:
     QToolButton forward_;
     QListWidget contents_;
     PageView page_;
+    UsableWindow usable_{*this};
 };
 
 }  // namespace horavex

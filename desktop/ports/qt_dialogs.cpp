@@ -1,6 +1,5 @@
 #include "desktop/ports/qt_dialogs.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -8,6 +7,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QStandardPaths>
+
+#include "desktop/form_window/usable_window.h"
 
 namespace horavex {
 
@@ -87,7 +88,7 @@ QString SuffixOf(const QString& type, const QStringList& filters) {
 void QtDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
     const QString message = QString::fromStdString(text);
     QMessageBox box(IconOf(icon), QString::fromStdString(title.empty() ? kTitle : title), message,
-                    QMessageBox::Ok, QApplication::activeWindow());
+                    QMessageBox::Ok, WindowInFront());
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Ok)->setIcon({});  // its word says it
     box.setLayoutDirection(message.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
@@ -95,13 +96,13 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
 }
 
 std::string QtDialogs::OpenFile(const FileRequest& request) {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(WindowInFront());
     dialog.setFileMode(QFileDialog::ExistingFile);
     return Ask(dialog, request);
 }
 
 std::string QtDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
-    QFileDialog dialog(QApplication::activeWindow());
+    QFileDialog dialog(WindowInFront());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QString::fromStdString(suffix));
     Propose(dialog, QString::fromStdString(request.title));

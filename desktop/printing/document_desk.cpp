@@ -1,6 +1,5 @@
 #include "desktop/printing/document_desk.h"
 
-#include <QApplication>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -9,6 +8,7 @@
 #include "desktop/documents/pdf_file.h"
 #include "desktop/documents/png_file.h"
 #include "desktop/documents/usual_paper.h"
+#include "desktop/form_window/usable_window.h"
 
 namespace horavex {
 
@@ -30,7 +30,7 @@ void DrawOn(QPrinter& printer, const PrintedYear& year, int month) {
 void PreviewMonth(const PrintedYear& year, int month) {
     QPrinter printer(QPrinter::HighResolution);
     SetUpPage(printer);
-    QPrintPreviewDialog dialog(&printer, QApplication::activeWindow());
+    QPrintPreviewDialog dialog(&printer, WindowInFront());
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested,
                      [&](QPrinter* target) { DrawOn(*target, year, month); });
     dialog.exec();
@@ -39,7 +39,7 @@ void PreviewMonth(const PrintedYear& year, int month) {
 void PrintMonth(const PrintedYear& year, int month) {
     QPrinter printer(QPrinter::HighResolution);
     SetUpPage(printer);
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    QPrintDialog dialog(&printer, WindowInFront());
     if (dialog.exec() == QDialog::Accepted) {
         DrawOn(printer, year, month);
     }
