@@ -67,6 +67,26 @@ TEST_F(BusProgramTest, FaceIsHiddenAndBroughtBack) {
     EXPECT_TRUE(WaitUntil("the face", [&] { return !desktop.WindowsOf(program).empty(); }));
 }
 
+TEST_F(BusProgramTest, FaceThatFillsTheScreenIsHiddenWhole) {
+    StatusNotifierHost host(desktop);
+    StoreOptions({{"Face Full Screen", "1"}});
+    const ChildProcess program = Start();
+    host.AwaitIcon();
+    EXPECT_TRUE(WaitUntil("both windows", [&] { return desktop.WindowsOf(program).size() == 2; }));
+    Ctl({"hide"});
+    EXPECT_TRUE(WaitUntil("no window", [&] { return desktop.WindowsOf(program).empty(); }));
+    Ctl({"show"});
+    EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.WindowsOf(program).size() == 1; }));
+}
+
+TEST_F(BusProgramTest, ProgramRunsOnWhenTheBusEnds) {
+    const ChildProcess program = Start();
+    Status("\"next\":{\"prayer\":\"Zuhr\"");
+    desktop.EndBus();
+    ExpectTicks();
+    EXPECT_TRUE(program.IsRunning());
+}
+
 TEST_F(BusProgramTest, AthanIsStartedAndStopped) {
     const ChildProcess program = Start();
     Ctl({"athan", "now"});

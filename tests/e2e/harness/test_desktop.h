@@ -36,6 +36,9 @@ public:
     /// Stores a value of the user's registry, in place of all that are there.
     void StoreRegistryValue(const std::string& name, const std::string& value) const;
 
+    /// The session bus ends, as by a crash.
+    void EndBus() { bus_.reset(); }
+
     /// Starts a program of the build.
     ChildProcess Start(const std::string& name) const;
 
