@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <optional>
 
 #include "base/fold.h"
 #include "base/int16.h"
@@ -10,6 +11,7 @@
 #include "base/text.h"
 #include "ctl/command.h"
 #include "ctl/country_codes.h"
+#include "store/city_index.h"
 #include "store/city_search.h"
 #include "store/location_files.h"
 #include "store/nearest_city.h"
@@ -126,6 +128,28 @@ std::string SayingOf(const ListedCity& city) {
     RefuseUsage("\"" + text + "\" may be " + std::to_string(hits.size()) + " cities" + rest);
 }
 
+/// The city that is meant among hits, of which there are some.
+std::int16_t ChooseOf(const std::vector<CityHit>& hits, const std::string& text,
+                      const std::string& name) {
+    const auto equal = EquallyGood(hits, name);
+    if (equal.size() > 1 && !FirstIsMeant(equal, name)) {
+        RefuseShared(text, equal);
+    }
+    return equal.front().city->cityIndex;
+}
+
+/// Nothing goes before a whole name, so that the few cities that may have it tell as much as all.
+std::optional<std::int16_t> CityByWholeName(const std::string& text, const CityWords& words) {
+    const auto few = CitiesThatMayBe(words.name);
+    if (!few) {
+        return std::nullopt;
+    }
+    const auto hits = HitsIn(SearchCities(*few, words.name), words.areas, true);
+    return !hits.empty() && hits.front().isWholeName
+               ? std::optional(ChooseOf(hits, text, words.name))
+               : std::nullopt;
+}
+
 [[noreturn]] void RefusePoint(const std::string& point) {
     RefuseUsage("--near wants degrees such as 51.5,-0.12, not \"" + point + "\"");
 }
@@ -142,17 +166,16 @@ double DegreesOf(const std::string& text, double largest, const std::string& poi
 }  // namespace
 
 std::int16_t CityOfText(const std::string& text) {
-    const auto cities = ListCities();
     const CityWords words = WordsOf(text);
+    if (const auto city = CityByWholeName(text, words)) {
+        return *city;
+    }
+    const auto cities = ListCities();
     const auto hits = FindHits(cities, text, words);
     if (hits.empty()) {
         RefuseUsage("no city matches \"" + text + "\"");
     }
-    const auto equal = EquallyGood(hits, words.name);
-    if (equal.size() > 1 && !FirstIsMeant(equal, words.name)) {
-        RefuseShared(text, equal);
-    }
-    return equal.front().city->cityIndex;
+    return ChooseOf(hits, text, words.name);
 }
 
 std::int16_t CityOfIndex(int index) {

@@ -3,14 +3,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "base/bytes.h"
-#include "base/fault.h"
 #include "base/fold.h"
-#include "base/int16.h"
 #include "base/text.h"
-#include "platform/platform.h"
-#include "store/city_names.h"
-#include "store/location_files.h"
 
 namespace horavex {
 
@@ -30,13 +24,6 @@ enum Match : std::uint8_t {
 
 bool IsWordCharacter(char c) {
     return (c >= 'a' && c <= 'z') || IsDigit(c) || static_cast<unsigned char>(c) >= 0x80;
-}
-
-std::string FoldName(const std::string& name) {
-    std::string folded = FoldForSearch(name);
-    std::erase(folded, '\'');
-    std::replace(folded.begin(), folded.end(), '-', ' ');
-    return folded;
 }
 
 bool BeginsAWord(const std::string& folded, const std::string& text) {
@@ -126,7 +113,7 @@ struct Wanted {
 
 Wanted WantedOf(const std::string& text) {
     const std::string trimmed(Trim(text));
-    const std::string name = FoldName(trimmed);
+    const std::string name = FoldCityName(trimmed);
     const bool isName = name.size() > 1 && name.find(',') == std::string::npos;
     return {FoldForSearch(trimmed), "," + name, isName ? BeginningBit(name) : 0};
 }
@@ -172,69 +159,8 @@ std::optional<RankedHit> HitOf(const ListedCity& city, std::size_t position, con
 
 CityHit CityOf(const std::vector<ListedCity>& cities, const RankedHit& hit) {
     const ListedCity& city = cities[hit.city];
-    return {&city, hit.other == kOwnName ? std::string_view() : OtherNameAt(city, hit.other)};
-}
-
-/// The ranks file is an aid of searching alone: without it, equal matches keep their order.
-Bytes ReadRanks() {
-    try {
-        return Ports().programFolder.ReadWhole("Dat\\RI.DAT");
-    } catch (const FileFault&) {
-        return {};
-    }
-}
-
-/// So is the file of other names: one that cannot be used leaves the cities their own.
-std::vector<std::string> OtherNamesOrNone() {
-    std::vector<std::string> names;
-    RunStep([&] { names = ReadOtherNames(CityCount()); });
-    return names;
-}
-
-/// cityIndex: of a city that the index can hold.
-std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
-    const auto offset = static_cast<std::size_t>(cityIndex - kFirstCityIndex) * 2;
-    return offset + 2 <= ranks.size() ? static_cast<std::uint16_t>(GetInt16(ranks, offset)) : 0;
-}
-
-/// The same; a damaged index can name a city behind the last one.
-std::string OtherNamesOf(const std::vector<std::string>& names, std::int16_t cityIndex) {
-    const auto at = static_cast<std::size_t>(cityIndex - kFirstCityIndex);
-    return at < names.size() ? names[at] : std::string();
-}
-
-/// What is read beside the location files.
-struct SearchAids {
-    Bytes ranks;
-    std::vector<std::string> otherNames;  // by city
-};
-
-ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const SearchAids& aids) {
-    CityRecord city;
-    ReadCity(cityIndex, city);
-    ListedCity listed;
-    listed.cityIndex = cityIndex;
-    listed.name = city.Name;
-    listed.province = city.Province;
-    listed.country = country;
-    listed.latitude = city.Latitude;
-    listed.longitude = city.Longitude;
-    listed.rank = RankOf(aids.ranks, cityIndex);
-    listed.folded = FoldForSearch(DisplayText(listed));
-    SetOtherNames(listed, OtherNamesOf(aids.otherNames, cityIndex));
-    return listed;
-}
-
-void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const SearchAids& aids) {
-    CountryRecord country;
-    ReadCountry(number, country);
-    // A damaged index could otherwise list its cities over and over.
-    if (std::ssize(cities) + country.CityCount > CityCount()) {
-        throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
-    }
-    for (std::int32_t i = 0; i < country.CityCount; ++i) {
-        cities.push_back(ListCity(ToInt16(country.FirstCity + i), country.Name, aids));
-    }
+    return {&city, hit.other == kOwnName ? std::string_view() : OtherNameAt(city, hit.other),
+            hit.order >> 48U == kWholeName};
 }
 
 }  // namespace
@@ -249,22 +175,17 @@ std::string DisplayText(const CityHit& hit) {
     return DisplayText(*hit.city) + (otherName.empty() ? "" : " (" + otherName + ")");
 }
 
-void SetOtherNames(ListedCity& city, const std::string& otherNames) {
-    city.otherNames = otherNames;
-    city.foldedNames = otherNames.empty() ? std::string() : "," + FoldName(otherNames) + ",";
-    city.beginnings = BeginningsOf(city.foldedNames);
+std::string FoldCityName(const std::string& name) {
+    std::string folded = FoldForSearch(name);
+    std::erase(folded, '\'');
+    std::replace(folded.begin(), folded.end(), '-', ' ');
+    return folded;
 }
 
-std::vector<ListedCity> ListCities() {
-    std::vector<ListedCity> cities;
-    OpenLocationFiles();
-    const SearchAids aids{ReadRanks(), OtherNamesOrNone()};
-    const std::int64_t count = CountryCount();
-    for (std::int64_t number = 1; number <= count; ++number) {
-        ListCountry(cities, ToInt16(number), aids);
-    }
-    CloseLocationFiles();
-    return cities;
+void SetOtherNames(ListedCity& city, const std::string& otherNames) {
+    city.otherNames = otherNames;
+    city.foldedNames = otherNames.empty() ? std::string() : "," + FoldCityName(otherNames) + ",";
+    city.beginnings = BeginningsOf(city.foldedNames);
 }
 
 std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text) {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <filesystem>
 
 #include "base/text.h"
 #include "ctl/ctl_json.h"
@@ -128,6 +129,39 @@ TEST(CtlCity, NameOfSeveralIsRefusedWithWhatToSay) {
                 HasSubstr("  --city \"Springfield, Illinois, United States\" or --city-index "));
     EXPECT_THAT(run.err, HasSubstr("\nhoravexctl: \"Springfield\" may be 9 cities"));
     EXPECT_THAT(run.err, testing::Not(HasSubstr("Powder Springs")));
+}
+
+TEST(CtlCity, IsTheSameWithoutTheIndexOfNames) {
+    Ctl ctl;
+    const std::string folder = ctl.UseFolderCopy();
+    const std::string call = "today --at 2026-06-21T12:00:00 --format {place} --city";
+    const std::vector<std::string> names = {"Cairo",
+                                            "Springfield",
+                                            "Springfield, Illinois",
+                                            "Springfield, USA",
+                                            "Paris, TX",
+                                            "New York",
+                                            "Kairo",
+                                            "Saint John's",
+                                            "apia",
+                                            "Santa Rosa",
+                                            "Victoria",
+                                            "Cordoba, AR",
+                                            "Xyzzyx",
+                                            "Mec",
+                                            "مكة",
+                                            "San - Jose"};
+    std::vector<ProgramRun> with;
+    for (const std::string& name : names) {
+        with.push_back(ctl.Run(call, {name}));
+    }
+    std::filesystem::remove(folder + "/Dat/NI.DAT");
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const ProgramRun without = ctl.Run(call, {names[i]});
+        EXPECT_EQ(with[i].status, without.status) << names[i];
+        EXPECT_EQ(with[i].out, without.out) << names[i];
+        EXPECT_EQ(with[i].err, without.err) << names[i];
+    }
 }
 
 TEST(CtlRules, ChangeWhatTheyName) {
