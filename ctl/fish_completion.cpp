@@ -27,9 +27,17 @@ std::string ValueOf(const OptionText& option) {
     return option.value.empty() || option.isPositional ? choices : " -x" + choices;
 }
 
+/// A word with choices is offered once.
+std::string ConditionOf(const CommandText& command, const OptionText& option) {
+    const std::string seen = "__fish_seen_subcommand_from ";
+    return seen + command.name +
+           (option.isPositional && !option.choices.empty()
+                ? "; and not " + seen + Joined(option.choices, " ")
+                : "");
+}
+
 std::string LineOf(const CommandText& command, const OptionText& option) {
-    std::string line =
-        "complete -c horavexctl -n '__fish_seen_subcommand_from " + command.name + "'";
+    std::string line = "complete -c horavexctl -n '" + ConditionOf(command, option) + "'";
     if (!option.isPositional) {
         for (const std::string& name : option.names) {
             line += FlagOf(name);
@@ -44,7 +52,8 @@ std::string FishCompletion(const std::vector<CommandText>& commands) {
     std::string script =
         "# Completion of horavexctl for fish, as \"horavexctl completion fish\" prints it.\n"
         "complete -c horavexctl -f\n"
-        "complete -c horavexctl -n __fish_use_subcommand -l version -d 'Print the version'\n";
+        "complete -c horavexctl -n __fish_use_subcommand -l version -d 'Print the version'\n"
+        "complete -c horavexctl -n __fish_use_subcommand -s h -l help -d 'Print help'\n";
     for (const CommandText& command : commands) {
         script += "complete -c horavexctl -n __fish_use_subcommand -a " + command.name + " -d " +
                   Quoted(command.description) + "\n";

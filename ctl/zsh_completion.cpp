@@ -20,10 +20,15 @@ constexpr const char* kMiddle = R"(    )
             case $words[1] in
 )";
 
+// The file is a function that the shell loads by its name at the first use, or is sourced.
 constexpr const char* kFoot = R"(            esac ;;
     esac
 }
-compdef _horavexctl horavexctl
+if [[ $funcstack[1] == _horavexctl ]]; then
+    _horavexctl "$@"
+else
+    compdef _horavexctl horavexctl
+fi
 )";
 
 /// Inside single quotes, with what the shell's own marks are taken from it.
@@ -38,8 +43,12 @@ std::string Plain(const std::string& text, const std::string& marks) {
     return plain;
 }
 
+bool TakesValue(const OptionText& option) {
+    return !option.value.empty();
+}
+
 std::string ValueOf(const OptionText& option) {
-    if (option.value.empty()) {
+    if (!TakesValue(option)) {
         return "";
     }
     const std::string what = option.isFile            ? "_files"
@@ -54,7 +63,8 @@ std::string ArgumentOf(const OptionText& option) {
     }
     std::string all;
     for (const std::string& name : option.names) {
-        all += " '" + name + "[" + Plain(option.description, "[]:") + "]" + ValueOf(option) + "'";
+        all += " '" + name + (TakesValue(option) && name.starts_with("--") ? "=[" : "[") +
+               Plain(option.description, "[]:") + "]" + ValueOf(option) + "'";
     }
     return all;
 }

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "base/text.h"
@@ -79,6 +80,27 @@ TEST_F(BashCompletionTest, FileIsOneOfTheFolder) {
                 testing::ElementsAre(script));
 }
 
+TEST_F(BashCompletionTest, NameOfAFileWithABlankStaysOne) {
+    std::ofstream(ctl / "year of ours.csv") << "";
+    const std::string out =
+        Use({"bash", "-c",
+             "source \"$0\"; COMP_WORDS=(horavexctl export --output \"$1\"); COMP_CWORD=3; "
+             "_horavexctl; printf '%s\\n' \"${COMPREPLY[@]}\"",
+             script, ctl / "year"});
+    EXPECT_EQ(out, (ctl / "year of ours.csv") + "\n");
+}
+
+TEST_F(BashCompletionTest, ValueMayStandBehindAnEqualsSign) {
+    EXPECT_THAT(Offers("horavexctl export --format = h"), testing::ElementsAre("html"));
+    EXPECT_THAT(Offers("horavexctl export --paper ="), Contains("letter"));
+}
+
+TEST_F(BashCompletionTest, WordIsOfferedOnce) {
+    EXPECT_THAT(Offers("horavexctl athan "), AllOf(Contains("now"), Contains("stop")));
+    EXPECT_THAT(Offers("horavexctl athan now s"), testing::ElementsAre(""));
+    EXPECT_THAT(Offers("horavexctl athan now --j"), testing::ElementsAre("--json"));
+}
+
 struct FishCompletionTest : OwnTexts {
     std::string Offers(const std::string& line) const {
         return Use(
@@ -94,6 +116,17 @@ TEST_F(FishCompletionTest, OffersCommandsOptionsAndChoicesWithWhatTheyDo) {
     EXPECT_THAT(Offers("horavexctl export --format ht"), StartsWith("html\t"));
     EXPECT_THAT(Offers("horavexctl athan st"), StartsWith("stop\t"));
     EXPECT_THAT(Offers("horavexctl show "), Not(HasSubstr("quiet")));
+}
+
+TEST_F(FishCompletionTest, OffersAWordOnceAndFilesWhereTheyAreWanted) {
+    EXPECT_THAT(Offers("horavexctl athan "), AllOf(HasSubstr("now\t"), HasSubstr("stop\t")));
+    EXPECT_THAT(Offers("horavexctl athan now "), Not(HasSubstr("stop")));
+    EXPECT_THAT(Offers("horavexctl export --output " + script.substr(0, script.size() - 3)),
+                StartsWith(script));
+    EXPECT_THAT(Offers("horavexctl today --city " + script.substr(0, script.size() - 3)),
+                IsEmpty());
+    EXPECT_THAT(Offers("horavexctl export --format=ht"), HasSubstr("=html"));
+    EXPECT_THAT(Offers("horavexctl --h"), StartsWith("--help\t"));
 }
 
 struct ZshCompletionTest : OwnTexts {
@@ -127,6 +160,23 @@ TEST_F(ZshCompletionTest, CompletesCommandsOptionsAndChoices) {
     ExpectCompleted("horavexctl status --fol", "--follow");
     ExpectCompleted("horavexctl export --format ht", "html");
     ExpectCompleted("horavexctl athan st", "stop");
+    ExpectCompleted("horavexctl export --format=ht", "--format=html");
+    ExpectCompleted("horavexctl export --output " + script.substr(0, script.size() - 3), "zsh");
+}
+
+TEST(ZshCompletionByName, IsLoadedAtTheFirstUse) {
+    const Ctl ctl;
+    std::filesystem::create_directory(ctl / "functions");
+    std::ofstream(ctl / "functions/_horavexctl") << ctl.Run("completion zsh").out;
+    Environment variables = ctl.variables;
+    variables["PATH"] = "/usr/bin:/bin";
+    variables["TERM"] = "dumb";
+    PseudoTerminal shell{"/usr/bin/zsh", {"-f", "-i"}, variables};
+    shell.Type("PS1=; fpath=(" + (ctl / "functions") +
+               " $fpath); autoload -U compinit; compinit -u -D; print REA''DY\n");
+    shell.ReadTo("READY");
+    shell.Type("horavexctl qui\t");
+    shell.ReadTo("quiet");
 }
 
 struct ManualPageTest : OwnTexts {
