@@ -5,8 +5,8 @@
 #include <QDBusMetaType>
 #include <QDBusVariant>
 #include <QMap>
-#include <QStyle>
 
+#include "desktop/look/desktop_colours.h"
 #include "desktop/look/look.h"
 
 namespace horavex::look {
@@ -22,14 +22,6 @@ constexpr uint kMore = 1;
 
 /// Values by their keys, by the spaces that these lie in.
 using Spaces = QMap<QString, QVariantMap>;
-
-/// The toolkit has none of its own but those of the style.
-bool DesktopHasColours() {
-    const QPalette plain = QApplication::style()->standardPalette();
-    const QPalette present = QGuiApplication::palette();
-    return present.color(QPalette::Window) != plain.color(QPalette::Window) ||
-           present.color(QPalette::Text) != plain.color(QPalette::Text);
-}
 
 QVariant Unboxed(const QVariant& value) {
     return value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;

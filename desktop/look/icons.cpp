@@ -1,7 +1,6 @@
 #include "desktop/look/icons.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
@@ -10,6 +9,7 @@
 #include <optional>
 
 #include "desktop/look/look.h"
+#include "desktop/look/paper_look.h"
 
 namespace horavex::look {
 
@@ -33,7 +33,7 @@ std::optional<Role> RoleOf(const QString& name) {
 }
 
 QColor InkOf(const QString& name, QIcon::Mode mode) {
-    const QPalette palette = QGuiApplication::palette();
+    const QPalette palette = PaletteOfSigns();
     if (mode == QIcon::Disabled) {
         return palette.color(QPalette::Disabled, QPalette::ButtonText);
     }

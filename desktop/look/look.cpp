@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QVariant>
 
+#include "desktop/look/desktop_colours.h"
 #include "desktop/look/look_style.h"
 
 namespace horavex::look {
@@ -13,8 +14,13 @@ constexpr const char* kStill = "standsStill";
 
 }  // namespace
 
+// Some styles paint in colours of their own, over which the texts of a theme would be lost. Where a
+// desktop has colours, its style goes with them.
 void PutOn() {
-    QApplication::setStyle(new LookStyle);
+    QApplication::setStyle(new LookStyle(QString::fromLatin1(kUsualStyle)));
+    if (DesktopHasColours()) {
+        QApplication::setStyle(new LookStyle);
+    }
 }
 
 void Use(Theme theme) {

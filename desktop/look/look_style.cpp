@@ -78,11 +78,17 @@ Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
 
 constexpr double kCorner = 2.0;  // radius
 
+/// The button that Enter presses.
+bool IsDefault(const QStyleOption& option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
 void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, double corner) {
-    const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+    const bool isMarked = option.state.testFlag(QStyle::State_HasFocus) || IsDefault(option);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(ColourOf(ThemeOf(option.palette), hasFocus ? Role::kMarked : Role::kEdge));
+    painter.setPen(ColourOf(ThemeOf(option.palette), isMarked ? Role::kMarked : Role::kEdge));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
     painter.restore();
@@ -92,7 +98,7 @@ void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, 
 /// A desktop's own colours are left to its style.
 bool WantsEdges(const QStyleOption& option) {
     const Theme theme = ThemeOf(option.palette);
-    return theme != Theme::kLight &&
+    return (theme != Theme::kLight || IsDefault(option)) &&
            option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
 }
 

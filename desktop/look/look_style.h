@@ -8,6 +8,8 @@ namespace horavex::look {
 /// their words, and edges that are seen on dark ground, too.
 class LookStyle : public QProxyStyle {
 public:
+    using QProxyStyle::QProxyStyle;
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -21,7 +21,7 @@ constexpr DarkInk kDarkInks[] = {
     {ink::kMark, {255, 140, 120}},     {ink::kAccent, {143, 187, 232}},
     {ink::kScale, {184, 196, 208}},    {ink::kSea, {22, 40, 62}},
     {ink::kLand, {62, 72, 82}},        {ink::kCoast, {160, 170, 176}},
-    {ink::kUnjudged, {112, 124, 140}}, {ink::kChartPaper, {15, 25, 36}},
+    {ink::kUnjudged, {70, 110, 108}},  {ink::kChartPaper, {15, 25, 36}},
     {ink::kChartText, {236, 235, 228}}};
 
 QColor OnDark(const Colour& colour) {

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyleOption>
@@ -78,6 +79,16 @@ QVariant PageView::loadResource(int type, const QUrl& name) {
     }
     const QImage picture = QImage::fromData(content);
     return picture.isNull() ? NoPicture() : picture;
+}
+
+// The links of a page have the colour that they were read with.
+void PageView::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
+        const int place = verticalScrollBar()->value();
+        reload();
+        verticalScrollBar()->setValue(place);
+    }
 }
 
 HelpWindow::HelpWindow() {

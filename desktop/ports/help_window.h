@@ -14,6 +14,9 @@ namespace horavex {
 class PageView : public QTextBrowser {
 public:
     QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
+    void changeEvent(QEvent* event) override;
 };
 
 /// The help viewer: the list of pages beside the page that is read, and the way back and forward.

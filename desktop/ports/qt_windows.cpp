@@ -12,6 +12,7 @@
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/form_window/twips.h"
+#include "desktop/look/paper_look.h"
 
 namespace horavex {
 
@@ -73,8 +74,9 @@ void QtWindows::Activate(const std::string& form) {
     }
 }
 
-void PrintWindow(QWidget& window, QPrinter& printer) {
-    QPainter painter(&printer);
+void PrintWindow(QWidget& window, QPaintDevice& paper) {
+    const look::PaperLook light(window);
+    QPainter painter(&paper);
     const QRectF page = painter.viewport();
     const double scale = std::min(page.width() / window.width(), page.height() / window.height());
     painter.scale(scale, scale);

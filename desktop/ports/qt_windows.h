@@ -9,8 +9,9 @@ namespace horavex {
 
 struct MenuLook;
 
-/// Puts a picture of a window onto one page, at most as large as the page is.
-void PrintWindow(QWidget& window, QPrinter& printer);
+/// Puts a picture of a window onto one page, at most as large as the page is, and light however
+/// dark the window is.
+void PrintWindow(QWidget& window, QPaintDevice& paper);
 
 /// Forms that are not loaded have no window: what is asked of them does nothing.
 class QtWindows : public Windows {

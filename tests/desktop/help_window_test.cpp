@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTimer>
 #include <QWindow>
@@ -14,6 +15,7 @@
 #include "base/fault.h"
 #include "desktop/form_window_fixture.h"
 #include "desktop/ports/qt_shell.h"
+#include "desktop/scoped_look.h"
 #include "linux/posix_files.h"
 #include "support/temporary_folder.h"
 
@@ -63,6 +65,28 @@ protected:
     TemporaryFolder folder;
     HelpWindow window;
 };
+
+TEST_F(HelpWindowTest, LinksFollowTheThemeWhileAPageIsReadAndThePageStaysInItsPlace) {
+    std::string lines;
+    for (int line = 0; line < 200; ++line) {
+        lines += "<p>line</p>";
+    }
+    Write("one.html", "One", "<p><a href=\"two.html\">on</a></p>" + lines);
+    Show(0);
+    auto& page = Find<QTextBrowser>("page");
+    page.verticalScrollBar()->setValue(300);
+    for (const look::Theme theme : {look::Theme::kDark, look::Theme::kContrast}) {
+        const ScopedLook look(theme);
+        QApplication::processEvents();
+        QTextCursor link = page.document()->find(QStringLiteral("on"));
+        while (!link.charFormat().isAnchor()) {
+            link = page.document()->find(QStringLiteral("on"), link);
+            ASSERT_FALSE(link.isNull());
+        }
+        EXPECT_EQ(link.charFormat().foreground().color(), look::ColourOf(theme, look::Role::kLink));
+        EXPECT_EQ(page.verticalScrollBar()->value(), 300);
+    }
+}
 
 TEST_F(HelpWindowTest, OpensAtThePageAndMarksIt) {
     Show(1);

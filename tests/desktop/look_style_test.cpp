@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -43,6 +45,23 @@ double EdgeOf(QWidget& widget) {
             std::max(strongest, Contrast(picture.pixelColor(x, widget.height() / 2), ground));
     }
     return strongest;
+}
+
+TEST(LookStyle, IsNotWornOverAStyleThatMayPaintInColoursOfItsOwn) {
+    const auto* worn = qobject_cast<QProxyStyle*>(QApplication::style());
+    ASSERT_NE(worn, nullptr);
+    EXPECT_EQ(worn->baseStyle()->name(), "fusion");
+}
+
+TEST(LookStyle, DefaultButtonHasAnEdgeOfWhatIsMarked) {
+    for (const Theme theme : {Theme::kLight, Theme::kDark, Theme::kContrast}) {
+        const ScopedLook look(theme);
+        QDialog window;
+        QPushButton button(&window);
+        button.setDefault(true);
+        const QImage picture = button.grab().toImage();
+        EXPECT_EQ(picture.pixelColor(0, button.height() / 2), ColourOf(theme, Role::kMarked));
+    }
 }
 
 TEST(LookStyle, EdgesAreSeenOnDarkGround) {

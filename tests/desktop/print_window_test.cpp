@@ -2,9 +2,13 @@
 #include <QDialog>
 #include <QFile>
 #include <QPrinter>
+#include <QPushButton>
 #include <QTimer>
 
+#include "desktop/look/contrast.h"
+#include "desktop/look/icons.h"
 #include "desktop/ports/qt_windows.h"
+#include "desktop/scoped_look.h"
 #include "forms/form.h"
 #include "support/temporary_folder.h"
 #include "support/test_platform.h"
@@ -22,6 +26,17 @@ protected:
     ~PrintWindowTest() override {
         form.Unload();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    static bool HasDarkStroke(const QImage& picture) {
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (look::Contrast(picture.pixelColor(x, y), Qt::white) > 4.5) {
+                    return true;
+                }
+            }
+        }
+        return false;
     }
 
     TestPlatform platform;
@@ -44,6 +59,29 @@ TEST_F(PrintWindowTest, PutsTheWindowOnOnePage) {
     const QByteArray content = pdf.readAll();
     EXPECT_TRUE(content.startsWith("%PDF"));
     EXPECT_EQ(content.count("/Type /Page\n"), 1);
+}
+
+TEST_F(PrintWindowTest, PaperIsLightWhateverTheWindowHasOn) {
+    for (const look::Theme theme : {look::Theme::kDark, look::Theme::kContrast}) {
+        const ScopedLook dark(theme);
+        form.Show();
+        QApplication::processEvents();
+        FormWindow& window = *windows.Find(&form);
+        auto* button = new QPushButton(look::IconOf(QStringLiteral("print")), {}, &window);
+        button->setGeometry(20, 20, 100, 60);
+        button->show();
+        QImage paper(window.size(), QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        PrintWindow(window, paper);
+        EXPECT_EQ(paper.pixelColor(10, 10),
+                  look::ColourOf(look::Theme::kLight, look::Role::kGround));
+        EXPECT_TRUE(HasDarkStroke(paper.copy(60, 40, 20, 20)));
+        EXPECT_EQ(window.palette().color(QPalette::Window),
+                  look::ColourOf(theme, look::Role::kGround));
+        delete button;
+    }
+    QApplication::processEvents();
+    EXPECT_FALSE(look::IsDark(windows.Find(&form)->palette())) << "it follows the desktop again";
 }
 
 TEST_F(PrintWindowTest, AsksForThePrinterFirst) {

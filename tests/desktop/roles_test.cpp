@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <array>
+#include <cmath>
 
 #include "desktop/look/contrast.h"
 #include "desktop/look/look.h"
@@ -68,6 +69,39 @@ TEST_P(EveryTheme, WhatIsOnMapsCanBeTold) {
         ExpectInkOn({kind}, ink::kOutline, kShape);
     }
     ExpectInkOn({ink::kMoonSetsFirst, ink::kBeforeNewMoon, ink::kUnjudged}, ink::kOutline, kShape);
+}
+
+/// Lightness and the two pairs of opposite colours, in which equal distances look alike.
+std::array<double, 3> Seen(const QColor& colour) {
+    const auto linear = [](float part) {
+        return part <= 0.04045F ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    const double red = linear(colour.redF());
+    const double green = linear(colour.greenF());
+    const double blue = linear(colour.blueF());
+    const double x = std::cbrt((0.4124 * red + 0.3576 * green + 0.1805 * blue) / 0.95047);
+    const double y = std::cbrt(0.2126 * red + 0.7152 * green + 0.0722 * blue);
+    const double z = std::cbrt((0.0193 * red + 0.1192 * green + 0.9505 * blue) / 1.08883);
+    return {116.0 * y - 16.0, 500.0 * (x - y), 200.0 * (y - z)};
+}
+
+double Difference(const QColor& one, const QColor& other) {
+    const auto a = Seen(one);
+    const auto b = Seen(other);
+    return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
+}
+
+TEST_P(EveryTheme, ClassesOfACrescentCanBeToldApart) {
+    constexpr double kSideBySide = 11.0;
+    const Inks inks = WindowInks(PaletteOf(GetParam()));
+    std::vector<Colour> kinds(std::begin(ink::kYallop), std::end(ink::kYallop));
+    kinds.insert(kinds.end(), {ink::kMoonSetsFirst, ink::kBeforeNewMoon, ink::kUnjudged});
+    for (auto one = kinds.begin(); one != kinds.end(); ++one) {
+        for (auto other = std::next(one); other != kinds.end(); ++other) {
+            EXPECT_GE(Difference(inks(*one), inks(*other)), kSideBySide)
+                << inks(*one).name().toStdString() << " and " << inks(*other).name().toStdString();
+        }
+    }
 }
 
 TEST_P(EveryTheme, WhatIsOnCompassAndMoonCanBeTold) {
