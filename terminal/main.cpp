@@ -7,7 +7,9 @@
 #include <string>
 
 #include "base/plain_text.h"
+#include "terminal/screen/curses_screen.h"
 #include "terminal/service/service.h"
+#include "terminal/session/terminal_program.h"
 
 namespace {
 
@@ -34,10 +36,11 @@ int main(int argumentCount, char** arguments) {
     app.add_flag("--no-face", isFaceless, "Clock, athan and notifications alone, with a log");
     try {
         app.parse(argumentCount, arguments);
-        return isFaceless ? horavex::RunService()
-                          : Fail("there is no face yet; --no-face runs without", kBadUsage);
+        return isFaceless ? horavex::RunService() : horavex::RunTerminalProgram();
     } catch (const CLI::ParseError& error) {
         return EndParsing(app, error);
+    } catch (const horavex::NoTerminal& reason) {
+        return Fail(reason.what(), kBadUsage);
     } catch (const std::exception& fault) {
         return Fail(fault.what(), EXIT_FAILURE);
     }

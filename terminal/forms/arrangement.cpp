@@ -151,7 +151,10 @@ int Arrangement::PlaceWidget(const LayoutNode& node, int row, int column, int wi
     }
     int height = 0;
     if (node.children.empty()) {
-        height = leaf->HeightIn(width) + (leaf->Grows() ? extra_ : 0);
+        height = leaf->HeightIn(width);
+        if (leaf->Grows()) {
+            height = std::max(height, std::min(height + extra_, leaf->MostHeightIn(width)));
+        }
     } else {
         height = kFrameEdges + PlaceBelow(ShownChildren(node), row + 1, column + kFrameSide,
                                           width - 2 * kFrameSide);

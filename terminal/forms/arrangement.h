@@ -22,6 +22,9 @@ public:
     virtual bool Widens() const { return false; }
     virtual bool Grows() const { return false; }
 
+    /// Rows beyond which it does not grow.
+    virtual int MostHeightIn(int /*width*/) const { return 1000; }
+
     /// Of a leaf with pages inside: which is on view.
     virtual std::size_t Page() const { return 0; }
 };

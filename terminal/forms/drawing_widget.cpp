@@ -36,9 +36,15 @@ int DrawingWidget::WantedWidth() const {
     return std::clamp(static_cast<int>(twips / kTwipsPerColumn), 2, 72);
 }
 
+/// At the least a glimpse: there are texts beside it.
 int DrawingWidget::HeightIn(int width) const {
+    constexpr int kGlimpse = 4;
+    return std::min(kGlimpse, MostHeightIn(width));
+}
+
+int DrawingWidget::MostHeightIn(int width) const {
     const double rows = std::min(width, WantedWidth()) * Shape() * kTwipsPerColumn / kTwipsPerRow;
-    return std::clamp(static_cast<int>(std::lround(rows)), 1, 16);
+    return std::clamp(static_cast<int>(std::lround(rows)), 1, 18);
 }
 
 void DrawingWidget::Draw(Cells& cells, const Area& area, bool) {

@@ -21,7 +21,8 @@ public:
     int LeastWidth() const override;
     int WantedWidth() const override;
     int HeightIn(int width) const override;
-    bool Grows() const override { return form_ != nullptr; }
+    int MostHeightIn(int width) const override;
+    bool Grows() const override { return true; }
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
 
 private:

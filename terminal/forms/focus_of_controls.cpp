@@ -74,14 +74,17 @@ void ControlsSheet::MoveFocus(Widget& widget) {
     }
 }
 
+// From the tabs the way goes on to the page on view.
 void ControlsSheet::StepFocus(int step) {
     const auto count = static_cast<int>(order_.size());
-    const auto at = std::find(order_.begin(), order_.end(), Focused());
+    const Widget* const from = Focused();
+    const bool fromTabs = step > 0 && dynamic_cast<const PagesWidget*>(from) != nullptr;
+    const auto at = std::find(order_.begin(), order_.end(), from);
     int place = at == order_.end() ? 0 : static_cast<int>(at - order_.begin());
     for (int tried = 0; tried < count; ++tried) {
         place = (place + step + count) % count;
         Widget& widget = *order_[static_cast<std::size_t>(place)];
-        if (CanTakeKeys(widget)) {
+        if (CanTakeKeys(widget) && (!fromTabs || IsOnView(widget))) {
             MoveFocus(widget);
             return;
         }

@@ -1,12 +1,17 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
 #include "forms/form.h"
 #include "terminal/screen/desk.h"
 
 namespace horavex {
 
 /// What shows one form on the desk, from the form's load to its unload.
-class FormSheet : public Sheet, public FormObserver {
+class FormSheet : public Sheet,
+                  public FormObserver,
+                  public std::enable_shared_from_this<FormSheet> {
 public:
     /// What happens around the sheet of a form.
     struct Host {

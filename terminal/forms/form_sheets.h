@@ -28,6 +28,8 @@ public:
     /// nullptr for a form that is not loaded.
     std::shared_ptr<FormSheet> Find(const std::string& form) const;
 
+    FormSheet::Host& Surroundings() { return host_; }
+
     void Loaded(Form& form) override;
     void Unloaded(Form& form) override;
     void BroughtUp(Form& form) override;

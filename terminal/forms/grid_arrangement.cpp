@@ -6,7 +6,22 @@
 
 namespace horavex {
 
-/// What the columns of a grid want: what spans several adds to the last of them what they lack.
+namespace {
+
+/// Which of the columns that a cell spans is to take what it wants beyond them: one that stretches,
+/// or else the last.
+std::size_t TakerIn(const LayoutNode& grid, std::size_t first, std::size_t last) {
+    for (std::size_t i = first; i < std::min(last + 1, grid.columnStretch.size()); ++i) {
+        if (grid.columnStretch[i] > 0) {
+            return i;
+        }
+    }
+    return last;
+}
+
+}  // namespace
+
+/// What the columns of a grid want.
 std::vector<Arrangement::Widths> Arrangement::GridColumns(const LayoutNode& grid) const {
     std::vector<Widths> columns;
     for (const bool spanning : {false, true}) {
@@ -18,12 +33,13 @@ std::vector<Arrangement::Widths> Arrangement::GridColumns(const LayoutNode& grid
                 continue;
             }
             Widths lacking = WidthsOf(child);
-            for (std::size_t i = first; i < last; ++i) {
-                const int gap = columns[i].wanted > 0 ? kColumnGap : 0;
-                lacking.least -= columns[i].least + gap;
-                lacking.wanted -= columns[i].wanted + gap;
+            const std::size_t taking = TakerIn(grid, first, last);
+            for (std::size_t i = first; i <= last; ++i) {
+                const int gap = i != taking && columns[i].wanted > 0 ? kColumnGap : 0;
+                lacking.least -= i == taking ? 0 : columns[i].least + gap;
+                lacking.wanted -= i == taking ? 0 : columns[i].wanted + gap;
             }
-            Widths& taker = columns[last];
+            Widths& taker = columns[taking];
             taker.least = std::max(taker.least, lacking.least);
             taker.wanted = std::max(taker.wanted, lacking.wanted);
             taker.widens = taker.widens || lacking.widens;

@@ -1,7 +1,5 @@
 #include "terminal/forms/list_rows.h"
 
-#include <wctype.h>
-
 #include <algorithm>
 #include <optional>
 
@@ -13,14 +11,6 @@ namespace horavex {
 namespace {
 
 constexpr double kTypingPause = 1.0;  // seconds that end a beginning
-
-std::u32string Folded(const std::string& text) {
-    std::u32string folded = DecodeUtf8(text).value_or(std::u32string());
-    for (char32_t& c : folded) {
-        c = static_cast<char32_t>(::towlower(static_cast<wint_t>(c)));
-    }
-    return folded;
-}
 
 }  // namespace
 

@@ -213,9 +213,13 @@ void ComboWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     }
 }
 
+// In a text the keys across are the cursor's; else those down lead on to the next control, so that
+// nobody changes a list in passing.
 bool ComboWidget::Press(const KeyPress& key) {
-    if (key.code == KeyCode::kUp || key.code == KeyCode::kDown) {
-        Step(key.code == KeyCode::kUp ? -1 : 1);
+    const KeyCode back = box_.Typed() ? KeyCode::kUp : KeyCode::kLeft;
+    const KeyCode on = box_.Typed() ? KeyCode::kDown : KeyCode::kRight;
+    if (key.code == back || key.code == on) {
+        Step(key.code == back ? -1 : 1);
         return true;
     }
     if (!box_.Typed()) {

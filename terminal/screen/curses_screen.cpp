@@ -4,6 +4,7 @@
 #define NCURSES_NOMACROS 1
 #include <curses.h>
 #include <langinfo.h>
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -15,6 +16,7 @@
 #include <stdexcept>
 
 #include "base/utf8.h"
+#include "terminal/screen/cursor_ability.h"
 
 namespace horavex {
 
@@ -171,12 +173,11 @@ bool IsUnset(const char* variable) {
 CursesScreen::CursesScreen() {
     SetUtf8Locale();
     if (::isatty(STDIN_FILENO) == 0 || ::isatty(STDOUT_FILENO) == 0 || IsUnset("TERM")) {
-        throw std::runtime_error("needs a terminal; horavexctl prints the times without one");
+        throw NoTerminal("needs a terminal; horavexctl prints the times without one");
     }
-    if (::newterm(nullptr, stdout, stdin) == nullptr || ::tigetstr("cup") == nullptr ||
-        ::tigetstr("cup") == reinterpret_cast<char*>(-1)) {
-        throw std::runtime_error("the terminal \"" + std::string(std::getenv("TERM")) +
-                                 "\" cannot move its cursor; horavexctl prints the times on any");
+    if (!CanMoveCursor() || ::newterm(nullptr, stdout, stdin) == nullptr) {
+        throw NoTerminal("the terminal \"" + std::string(std::getenv("TERM")) +
+                         "\" cannot move its cursor; horavexctl prints the times on any");
     }
     ::cbreak();
     ::noecho();
@@ -248,6 +249,11 @@ void CursesScreen::Show(const Cells& cells) {
         ::move(cells.Cursor()->row, cells.Cursor()->column);
     }
     ::refresh();
+}
+
+bool CursesScreen::HasInput() const {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return ::poll(&input, 1, 0) < 0 || (input.revents & (POLLHUP | POLLERR | POLLNVAL)) == 0;
 }
 
 void CursesScreen::ReadKeys(const std::function<void(const KeyPress&)>& take) {

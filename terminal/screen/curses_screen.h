@@ -1,20 +1,24 @@
 #pragma once
 
 #include <functional>
-#include <map>
-#include <string>
-#include <utility>
+#include <stdexcept>
 
 #include "terminal/screen/cells.h"
 #include "terminal/screen/key_press.h"
 
 namespace horavex {
 
+/// There is no terminal that a face could be drawn in; the text says why and what to do.
+class NoTerminal : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// The terminal of the process, put into the mode of a full screen as long as this lives, and given
 /// back as it was by the end of it. Only what has changed is written.
 class CursesScreen {
 public:
-    /// Throws std::runtime_error where there is no terminal, or one that cannot move its cursor.
+    /// Throws NoTerminal where there is no terminal, or one that cannot move its cursor.
     CursesScreen();
     ~CursesScreen();
     CursesScreen(const CursesScreen&) = delete;
@@ -27,6 +31,9 @@ public:
     bool HasColours() const { return hasColours_; }
 
     void Show(const Cells& cells);
+
+    /// False once the terminal has gone.
+    bool HasInput() const;
 
     /// Takes the keys that have come. Never waits.
     void ReadKeys(const std::function<void(const KeyPress&)>& take);

@@ -76,6 +76,15 @@ void Desk::Press(const KeyPress& key) {
     Invalidate();
 }
 
+void Desk::PressBelow(const Sheet& sheet, const KeyPress& key) {
+    const auto found = std::find_if(sheets_.begin(), sheets_.end(),
+                                    [&](const auto& held) { return held.get() == &sheet; });
+    if (found != sheets_.end() && found != sheets_.begin()) {
+        const std::shared_ptr<Sheet> below = *(found - 1);
+        below->Press(key);
+    }
+}
+
 // What lies in front goes to the back of those that users may turn to.
 void Desk::TurnToNext() {
     const auto modal = std::find_if(sheets_.rbegin(), sheets_.rend(),

@@ -21,6 +21,8 @@ public:
 
     /// Rows and columns of the terminal.
     void SetSize(int rows, int columns);
+    int Rows() const { return cells_.Rows(); }
+    int Columns() const { return cells_.Columns(); }
 
     void BringUp(const std::shared_ptr<Sheet>& sheet);
     void TakeAway(const Sheet& sheet);
@@ -37,6 +39,9 @@ public:
     void Draw();
 
     void Press(const KeyPress& key);
+
+    /// Hands a key on to the sheet below one that has no use for it.
+    void PressBelow(const Sheet& sheet, const KeyPress& key);
 
     /// Keys while nothing lies on the desk.
     std::function<void()> onKeyOnEmpty;

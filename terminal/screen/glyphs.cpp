@@ -1,6 +1,7 @@
 #include "terminal/screen/glyphs.h"
 
 #include <wchar.h>
+#include <wctype.h>
 
 #include <algorithm>
 
@@ -149,6 +150,14 @@ int WidestWord(std::string_view text) {
         }
     }
     return widest;
+}
+
+std::u32string Folded(const std::string& text) {
+    std::u32string folded = DecodeUtf8(text).value_or(std::u32string());
+    for (char32_t& c : folded) {
+        c = static_cast<char32_t>(::towlower(static_cast<wint_t>(c)));
+    }
+    return folded;
 }
 
 bool RunsFromRight(std::string_view text) {

@@ -32,6 +32,9 @@ int WidestLine(std::string_view text);
 /// Columns of the longest word.
 int WidestWord(std::string_view text);
 
+/// The characters of a text, small where the script has such letters: for comparing.
+std::u32string Folded(const std::string& text);
+
 /// Whether a text is in a script that runs from right to left.
 bool RunsFromRight(std::string_view text);
 

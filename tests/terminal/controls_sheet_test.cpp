@@ -185,9 +185,17 @@ TEST_F(ControlsSheetTest, RefusedRowIsNotChosen) {
     form.Show();
     form.cboMethod.SetItemRefusal(1, "too far north");
     GoTo(form.cboMethod);
-    screen.Press(KeyCode::kDown);
-    screen.Press(KeyCode::kDown);
+    screen.Press(KeyCode::kRight);
+    screen.Press(KeyCode::kRight);
     EXPECT_EQ(form.cboMethod.Text(), "Makkah");
+}
+
+TEST_F(ControlsSheetTest, KeysDownPassAListThatDropsDown) {
+    form.Show();
+    GoTo(form.cboMethod);
+    screen.Press(KeyCode::kDown);
+    EXPECT_EQ(form.cboMethod.ListIndex(), -1);
+    EXPECT_TRUE(form.lstCities.HasFocus());
 }
 
 TEST_F(ControlsSheetTest, AltAndALetterReachAControl) {

@@ -1,0 +1,49 @@
+#include "terminal/face/athan_sheet.h"
+
+#include <algorithm>
+
+#include "lang/language_pack.h"
+#include "terminal/screen/glyphs.h"
+
+namespace horavex {
+
+AthanSheet::AthanSheet(Form& form, Host& host, TerminalFace& face)
+    : FormSheet(form, host), face_(face) {}
+
+// The program ends the athan by moving its window off the screen.
+bool AthanSheet::IsUp() const {
+    return Shown().Visible() && Shown().Top() >= 0.0;
+}
+
+void AthanSheet::FormChanged() {
+    Desk& desk = Around().desk;
+    if (IsUp() != desk.Holds(*this)) {
+        IsUp() ? desk.BringUp(shared_from_this()) : desk.TakeAway(*this);
+    }
+}
+
+void AthanSheet::Draw(Cells& screen) {
+    if (IsEnded() || !IsUp()) {
+        return;
+    }
+    constexpr int kRows = 7;
+    const std::string text = face_.Value("_root.character_textField");
+    const std::string stop = "[ ■ " + GetLangString("notices", "Stop", "Stop") + " ]";
+    const int width = std::clamp(WidthOf(text) + 8, 34, screen.Columns());
+    const Area card{screen.Rows() - kRows - 1, screen.Columns() - width - 1, kRows, width};
+    screen.Fill(card);
+    screen.Frame(card, {}, Tone::kAccent, Tone::kAccent);
+    screen.PutCentred(card.row + 1, card.column, "☾", Tone::kAccent, width);
+    screen.PutCentred(card.row + 3, card.column, Clipped(text, width - 4), Tone::kStrong, width);
+    screen.PutCentred(card.row + 5, card.column, stop, Tone::kFocus, width);
+}
+
+void AthanSheet::Press(const KeyPress& key) {
+    if (key.code == KeyCode::kEnter || key.code == KeyCode::kEscape) {
+        face_.Tell("IDC_FS_Stop");
+    } else {
+        Around().desk.PressBelow(*this, key);
+    }
+}
+
+}  // namespace horavex

@@ -1,0 +1,72 @@
+#include "terminal/ports/terminal_dialogs.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+
+#include "terminal/sheets/choice_sheet.h"
+#include "terminal/sheets/message_sheet.h"
+#include "terminal/sheets/path_sheet.h"
+
+namespace horavex {
+
+namespace {
+
+/// A title that names what is saved is a good name for its file.
+std::string NameFor(std::string title, const std::string& suffix) {
+    std::replace(title.begin(), title.end(), '/', '-');
+    std::erase(title, '.');
+    return "~/" + (title.empty() ? title : title + suffix);
+}
+
+bool HasSuffix(const std::string& path) {
+    return std::filesystem::path(path).has_extension();
+}
+
+bool IsThere(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::exists(path, error);
+}
+
+}  // namespace
+
+void TerminalDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon) {
+    RunSheet(std::make_shared<MessageSheet>(title.empty() ? "Horavex" : title, text), host_);
+}
+
+std::string TerminalDialogs::AskPath(const std::string& title, const std::string& proposed) {
+    const auto sheet = std::make_shared<PathSheet>(title, proposed);
+    RunSheet(sheet, host_);
+    return sheet->Path();
+}
+
+std::string TerminalDialogs::OpenFile(const FileRequest& request) {
+    std::string path = AskPath(request.title, "~/");
+    while (!path.empty() && !IsThere(path)) {
+        beep_();
+        path = AskPath(request.title, path);
+    }
+    return path;
+}
+
+bool TerminalDialogs::MayWrite(const std::string& path) {
+    if (!IsThere(path)) {
+        return true;
+    }
+    const auto question = std::make_shared<QuestionSheet>(path + " ?");
+    RunSheet(question, host_);
+    return question->IsYes();
+}
+
+std::string TerminalDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
+    std::string path = NameFor(request.title, suffix);
+    do {
+        path = AskPath(request.title, path);
+        if (!path.empty() && !HasSuffix(path)) {
+            path += suffix;
+        }
+    } while (!path.empty() && !MayWrite(path));
+    return path;
+}
+
+}  // namespace horavex

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <vterm.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "linux/system_call.h"
+#include "support/run_program.h"
+
+namespace horavex {
+
+/// A terminal with a screen of its own and the built horavex-terminal in it, which it controls.
+class VirtualTerminal {
+public:
+    VirtualTerminal(const std::vector<std::string>& arguments, const Environment& environment,
+                    int rows = 24, int columns = 80);
+    /// Ends the program if it still runs.
+    ~VirtualTerminal();
+    VirtualTerminal(const VirtualTerminal&) = delete;
+    VirtualTerminal& operator=(const VirtualTerminal&) = delete;
+
+    /// Waits until the screen is as it is to be, and returns its text. Throws after half a minute,
+    /// and where the program ends before.
+    std::string WaitUntil(const std::function<bool(const std::string&)>& isSo,
+                          const std::string& what);
+    std::string WaitFor(const std::string& text);
+    std::string WaitForNo(const std::string& text);
+
+    /// Types characters, or the sequences below.
+    void Type(const std::string& keys) const;
+
+    void Resize(int rows, int columns);
+    void Signal(int signal) const;
+
+    /// Waits for the end and tells the exit status, as ProgramRun has it.
+    int Wait();
+
+    /// The screen as rows of text.
+    std::string Text() const;
+
+    /// All that the program has written.
+    const std::string& Written() const { return written_; }
+
+    /// Whether the other screen, which a program has to itself, is on view.
+    bool IsOnOtherScreen() const { return isOnOtherScreen_; }
+
+private:
+    struct FreeScreen {
+        void operator()(VTerm* terminal) const { ::vterm_free(terminal); }
+    };
+
+    bool ReadMore(int milliseconds);
+    static int OnProperty(VTermProp property, VTermValue* value, void* self);
+
+    pid_t process_ = -1;
+    Descriptor terminal_;
+    std::unique_ptr<VTerm, FreeScreen> emulator_;
+    VTermScreen* screen_ = nullptr;
+    std::string written_;
+    bool isOnOtherScreen_ = false;
+};
+
+namespace key {
+
+inline constexpr const char* kUp = "\x1bOA";
+inline constexpr const char* kDown = "\x1bOB";
+inline constexpr const char* kRight = "\x1bOC";
+inline constexpr const char* kLeft = "\x1bOD";
+inline constexpr const char* kTab = "\t";
+inline constexpr const char* kEnter = "\r";
+inline constexpr const char* kEscape = "\x1b";
+inline constexpr const char* kF10 = "\x1b[21~";
+
+}  // namespace key
+
+}  // namespace horavex
