@@ -10,11 +10,9 @@
 #include <utility>
 
 #include "ctl_json.h"
-#include "e2e/harness/wait_until.h"
 #include "linux/bus/session_broadcast.h"
+#include "session_bus.h"
 #include "support/build_folder.h"
-#include "support/bus_configuration.h"
-#include "support/child_process.h"
 #include "support/scoped_variable.h"
 
 namespace horavex {
@@ -25,40 +23,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
-
-ToldState DayInCairo() {
-    return {.place = "Cairo, Egypt",
-            .zone = "Africa/Cairo",
-            .moments = {{"Fajr", "2026-11-21T04:56:00+02:00", "sun"},
-                        {"Shurooq", "2026-11-21T06:24:00+02:00", "sun"},
-                        {"Zuhr", "2026-11-21T11:41:00+02:00", "sun"},
-                        {"Asr", "2026-11-21T14:38:00+02:00", "sun"},
-                        {"Maghrib", "2026-11-21T16:57:00+02:00", "sun"},
-                        {"Isha", "", "rule"}},
-            .nextPrayer = "Asr",
-            .nextTime = "2026-11-21T14:38:00+02:00",
-            .hijriDate = "1448-06-11",
-            .athanPlaying = false,
-            .quietUntil = ""};
-}
-
-/// A session with a bus of its own.
-struct SessionBus : testing::Test {
-    SessionBus() {
-        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
-        ctl.variables["DBUS_SESSION_BUS_ADDRESS"] = Address();
-    }
-
-    std::string Address() const { return "unix:path=" + folder / "bus"; }
-
-    TemporaryFolder folder;
-    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
-                         "--config-file=" + WriteBusConfiguration(folder.Path())},
-                        {},
-                        folder / "out",
-                        folder / "err"};
-    Ctl ctl;
-};
 
 /// The same with a running program, as far as others can see it.
 struct RunningTest : SessionBus {
@@ -296,6 +260,9 @@ TEST_F(RunningTest, RequestsReachTheProgram) {
     EXPECT_THAT(asked, ElementsAre("Show", "Hide", "AthanNow", "StopAthan", "Quiet 30"));
     EXPECT_EQ(Run({"quiet", "0", "--json"}).out, "{\"asked\":\"Quiet\",\"minutes\":0}\n");
     EXPECT_EQ(Run({"show", "--json"}).out, "{\"asked\":\"Show\"}\n");
+    EXPECT_EQ(Run({"hide", "--json"}).out, "{\"asked\":\"Hide\"}\n");
+    EXPECT_EQ(Run({"athan", "now", "--json"}).out, "{\"asked\":\"AthanNow\"}\n");
+    EXPECT_EQ(Run({"athan", "stop", "--json"}).out, "{\"asked\":\"StopAthan\"}\n");
 }
 
 TEST_F(SessionBus, ProgramThatDoesNotRunIsAFailureWithOneLine) {
