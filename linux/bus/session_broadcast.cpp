@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "linux/bus/bus_names.h"
+#include "linux/bus/running_program.h"
 
 namespace horavex {
 
@@ -187,6 +188,14 @@ void SessionBroadcast::TellAthanStopped() {
 
 void SessionBroadcast::TellDayChanged(const std::string& date) {
     Speak([&](Connection& connection) { connection.Emit("DayChanged", date); });
+}
+
+bool SessionBroadcast::ShowRunning() {
+    try {
+        return RunningProgram().Ask("Show");
+    } catch (const BusFault&) {
+        return false;
+    }
 }
 
 int SessionBroadcast::Descriptor() const {

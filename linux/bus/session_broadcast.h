@@ -23,6 +23,7 @@ public:
     void TellReminderDue(const std::string& kind, const std::string& prayer, int minutes) override;
     void TellAthanStopped() override;
     void TellDayChanged(const std::string& date) override;
+    bool ShowRunning() override;
 
     /// What can be read from when somebody asks; -1 without a bus, or once that has ended.
     int Descriptor() const;

@@ -29,7 +29,9 @@
 #include "platform/platform.h"
 #include "store/angle_band.h"
 #include "store/location_record.h"
+#include "store/save_change.h"
 #include "store/settings_record.h"
+#include "store/start_options.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -226,9 +228,20 @@ void frmWizard_QueryUnload(const CloseRequest& request) {
     }
 }
 
+/// A new user's second start brings the face back.
+void SaveShowRunning() {
+    if (AnythingWasAccepted()) {
+        SaveChange(option::kShowRunning, 1, option::kShowRunning.base);
+    }
+}
+
 void Finish() {
+    const bool isFirst = IsFirstChoice();
     RunStep(SetSettings);
     SaveCalmAthan();
+    if (isFirst) {
+        SaveShowRunning();
+    }
     frmWizard->Unload();
 }
 

@@ -113,6 +113,7 @@ public:
     void TellReminderDue(const std::string&, const std::string&, int) override {}
     void TellAthanStopped() override {}
     void TellDayChanged(const std::string&) override {}
+    bool ShowRunning() override { return false; }
 };
 
 class AbsentSession : public DesktopSession {

@@ -30,7 +30,7 @@ struct ToldState {
 };
 
 /// Tells other programs of the session what this one shows, and takes what they ask of it. Never
-/// fails and never waits; where nobody can listen nothing happens.
+/// fails and, but for the one question, never waits; where nobody can listen nothing happens.
 class Broadcast {
 public:
     virtual ~Broadcast() = default;
@@ -50,7 +50,12 @@ public:
     /// date: "2026-11-22".
     virtual void TellDayChanged(const std::string& date) = 0;
 
-    // Set once by the program; called from the event loop.
+    /// Asks the program that runs already to come to the front. False where none answers within
+    /// seconds, or none can be seen.
+    virtual bool ShowRunning() = 0;
+
+    // Set once by the program; called from the event loop. A front end without a face leaves out
+    // the first two, which are then refused.
     std::function<void()> onShow;
     std::function<void()> onHide;
     std::function<void()> onAthanNow;

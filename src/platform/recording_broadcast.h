@@ -21,7 +21,12 @@ public:
     void TellDayChanged(const std::string& date) override {
         signals.push_back("DayChanged " + date);
     }
+    bool ShowRunning() override {
+        signals.emplace_back("ShowRunning");
+        return runningAnswers;
+    }
 
+    bool runningAnswers = false;
     ToldState state;
     std::vector<std::string> signals;
 };

@@ -24,6 +24,7 @@
 #include "store/location_record.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "store/start_options.h"
 #include "store/stored_values.h"
 #include "store/text_table.h"
 #include "update/update_check.h"
@@ -72,8 +73,10 @@ void RefuseSecondInstance() {
     if (!Ports().instanceGuard.AnotherIsRunning()) {
         return;
     }
-    Ports().dialogs.ShowMessage(TextItem(TextEntry::kAlreadyRunning, ActiveSettings.Language),
-                                kProgramTitle, MessageIcon::kCritical);
+    if (ReadOption(option::kShowRunning) == 0 || !Ports().broadcast.ShowRunning()) {
+        Ports().dialogs.ShowMessage(TextItem(TextEntry::kAlreadyRunning, ActiveSettings.Language),
+                                    kProgramTitle, MessageIcon::kCritical);
+    }
     Ports().eventLoop.EndProcess();
 }
 

@@ -9,6 +9,7 @@
 #include "config/working_options.h"
 #include "engine/day_driver.h"
 #include "store/athan_options.h"
+#include "store/start_options.h"
 #include "store/stored_values.h"
 
 namespace horavex {
@@ -74,6 +75,14 @@ TEST_F(UsualPickTest, FirstRunProposesAnAthanThatEndsByItself) {
     EXPECT_EQ(ReadOption(option::kAlarm), 0);
 }
 
+TEST_F(UsualPickTest, FirstRunHasASecondStartBringTheFaceBack) {
+    Start();
+    PickInWizard("new york");
+    EXPECT_EQ(ReadOption(option::kShowRunning), 0) << "until it is accepted";
+    Finish();
+    EXPECT_EQ(ReadOption(option::kShowRunning), 1);
+}
+
 TEST_F(UsualPickTest, UntickedTheBoxOfAFirstRunChangesNothing) {
     Start();
     PickInWizard("new york");
@@ -90,6 +99,7 @@ TEST_F(UsualPickTest, LaterWizardLeavesTheAthanAlone) {
     EXPECT_FALSE(wizard.chkCalmAthan.Visible());
     Finish();
     EXPECT_EQ(ReadOption(option::kAlarm), 1);
+    EXPECT_EQ(ReadOption(option::kShowRunning), 0);
 }
 
 TEST_F(UsualPickTest, FinishStoresAllOfThem) {

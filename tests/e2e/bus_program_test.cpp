@@ -87,6 +87,31 @@ TEST_F(BusProgramTest, ProgramRunsOnWhenTheBusEnds) {
     EXPECT_TRUE(program.IsRunning());
 }
 
+TEST_F(BusProgramTest, SecondStartBringsTheHiddenFaceToTheFrontAndEndsWithoutABox) {
+    StoreOptions({{"Show Running", "1"}});
+    StatusNotifierHost host(desktop);
+    const ChildProcess program = Start();
+    host.AwaitIcon();
+    Status("\"place\":\"Mecca");
+    Ctl({"hide"});
+    WaitUntil("no face", [&] { return desktop.WindowsOf(program).empty(); });
+    ChildProcess second = desktop.Start("horavex");
+    EXPECT_TRUE(WaitUntil("the face", [&] { return !desktop.WindowsOf(program).empty(); }));
+    EXPECT_EQ(second.Wait(), 0);
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(BusProgramTest, MinimisedFaceIsBroughtBackByASecondStart) {
+    StoreOptions({{"Show Running", "1"}});
+    const ChildProcess program = Start();
+    Status("\"place\":\"Mecca");
+    desktop.Use({"xdotool", "windowminimize", face});
+    WaitUntil("no face", [&] { return !desktop.IsOnView(program, face); });
+    ChildProcess second = desktop.Start("horavex");
+    EXPECT_TRUE(WaitUntil("the face", [&] { return desktop.IsOnView(program, face); }));
+    EXPECT_EQ(second.Wait(), 0);
+}
+
 TEST_F(BusProgramTest, AthanIsStartedAndStopped) {
     const ChildProcess program = Start();
     Ctl({"athan", "now"});

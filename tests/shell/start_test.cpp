@@ -5,6 +5,7 @@
 #include "config/wizard.h"
 #include "engine/day_driver.h"
 #include "lang/language_pack.h"
+#include "store/start_options.h"
 #include "support/program_test.h"
 #include "windows/frm_wizard.h"
 
@@ -167,6 +168,30 @@ TEST_F(StartTest, SecondInstanceEndsWithAMessageAndTouchesNothing) {
     EXPECT_EQ(platform.dialogs.messages[0].icon, MessageIcon::kCritical);
     EXPECT_THAT(platform.desktop.calls, testing::Not(testing::Contains(HasSubstr("show"))));
     EXPECT_THAT(platform.desktop.calls, testing::Not(testing::Contains(HasSubstr("Tray"))));
+}
+
+TEST_F(StartTest, SecondInstanceAsksNobodyWithoutTheOption) {
+    platform.instanceGuard.anotherIsRunning = true;
+    platform.broadcast.runningAnswers = true;
+    EXPECT_THROW(Start(), ProcessEnded);
+    EXPECT_THAT(platform.broadcast.signals, testing::IsEmpty());
+}
+
+TEST_F(StartTest, ByTheOptionASecondInstanceBringsTheFirstToTheFrontAndEndsSilently) {
+    SaveOption(option::kShowRunning, 1);
+    platform.instanceGuard.anotherIsRunning = true;
+    platform.broadcast.runningAnswers = true;
+    EXPECT_THROW(Start(), ProcessEnded);
+    EXPECT_THAT(platform.broadcast.signals, testing::ElementsAre("ShowRunning"));
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+}
+
+TEST_F(StartTest, SecondInstanceThatNobodyAnswersEndsWithTheMessage) {
+    SaveOption(option::kShowRunning, 1);
+    platform.instanceGuard.anotherIsRunning = true;
+    EXPECT_THROW(Start(), ProcessEnded);
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "Horavex is already running.");
 }
 
 TEST_F(StartTest, WithoutSettingsTheSettingsWindowOpens) {

@@ -6,6 +6,7 @@
 #include "base/fault.h"
 #include "store/face_options.h"
 #include "store/register.h"
+#include "store/start_options.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {
@@ -27,10 +28,11 @@ protected:
 
 /// Rows of the table that hold whole numbers.
 std::vector<WholeOption> WholeOptions() {
-    std::vector<WholeOption> options = {
-        option::kAutomaticZone,   option::kIshaInterval,   option::kIshaIntervalRamadan,
-        option::kHijriAdjustment, option::kSunOfTheDay,    option::kAlarm,
-        option::kFaceSmall,       option::kFaceFullScreen, option::kFaceAbove};
+    std::vector<WholeOption> options = {option::kAutomaticZone,       option::kIshaInterval,
+                                        option::kIshaIntervalRamadan, option::kHijriAdjustment,
+                                        option::kSunOfTheDay,         option::kAlarm,
+                                        option::kFaceSmall,           option::kFaceFullScreen,
+                                        option::kFaceAbove,           option::kShowRunning};
     options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }

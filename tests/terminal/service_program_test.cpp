@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 
 #include "e2e/harness/faked_clock.h"
@@ -43,8 +44,21 @@ protected:
         variables["DBUS_SESSION_BUS_ADDRESS"] = bus->FirstLine();
     }
 
+    void StoreOption(const std::string& name, const std::string& value) const {
+        std::ofstream(home / "config/horavex/registry.ini", std::ios::app)
+            << "[Software\\\\Horavex\\\\Options]\n"
+            << name << '=' << value << '\n';
+    }
+
+    /// Starts it and waits until it answers on the bus.
+    ChildProcess Start() {
+        ChildProcess program = Launch("service");
+        WaitUntil("a state", [this] { return Ctl({"status"}).status == 0; });
+        return program;
+    }
+
     /// Starts it and waits for its first line.
-    ChildProcess Start(const std::string& name = "service") {
+    ChildProcess Launch(const std::string& name) {
         Environment all = variables;
         clock.InstallIn(all);
         ChildProcess program({BuildPath("bin/horavex-terminal"), "--no-face"}, all,
@@ -141,7 +155,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ServiceSignalTest, testing::Values(SIGTERM, SIGIN
 
 TEST_F(ServiceProgramTest, WithoutAPlaceItSaysHowToChooseOneAndStoresNothing) {
     fs::remove_all(home / "config");
-    ChildProcess program = Start();
+    ChildProcess program = Launch("service");
     EXPECT_EQ(program.Wait(), 2);
     EXPECT_THAT(
         Log(),
@@ -151,10 +165,18 @@ TEST_F(ServiceProgramTest, WithoutAPlaceItSaysHowToChooseOneAndStoresNothing) {
 
 TEST_F(ServiceProgramTest, SecondOneSaysSoAndEnds) {
     const ChildProcess first = Start();
-    ChildProcess second = Start("second");
+    ChildProcess second = Launch("second");
     EXPECT_EQ(second.Wait(), 0);
     EXPECT_THAT(Log("second"), HasSubstr("already running"));
     EXPECT_TRUE(first.IsRunning());
+}
+
+TEST_F(ServiceProgramTest, SecondOneIsToldWhereNoFaceCanBeBroughtToTheFront) {
+    StoreOption("Show Running", "1");
+    const ChildProcess first = Start();
+    ChildProcess second = Launch("second");
+    EXPECT_EQ(second.Wait(), 0);
+    EXPECT_THAT(Log("second"), HasSubstr("already running"));
 }
 
 TEST_F(ServiceProgramTest, FaceThatThereIsNotCannotBeShown) {
@@ -178,6 +200,7 @@ TEST_F(ServiceProgramTest, LogThatNobodyReadsSilencesNothing) {
     const ChildProcess program({"bash", "-c", command + " 2> >(head -n 1)"}, all, home / "out",
                                home / "err");
     WaitUntil("the start", [&] { return !ContentOf(home / "out").empty(); });
+    WaitForStatus("\"place\":\"Mecca");
     EXPECT_EQ(Ctl({"athan", "now"}).status, 0);
     WaitForStatus("\"athanPlaying\":true");
     EXPECT_EQ(Ctl({"athan", "stop"}).status, 0);
