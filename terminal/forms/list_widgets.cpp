@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kWidestList = 50;
 constexpr int kLeastRows = 4;
+constexpr int kGap = 2;  // columns between those of a table
 
 }  // namespace
 
@@ -32,7 +33,7 @@ bool ListWidget::Grows() const {
 
 void ListWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     rows_.Draw(cells, area, {list_.Items(), list_.ListIndex()}, hasFocus, FromRight(),
-               ToneOf(false, Tone::kField));
+               ToneOf(false));
     if (hasFocus && list_.ListIndex() < 0) {
         cells.SetCursor(CellPlace{area.row, area.column});
     }
@@ -135,23 +136,32 @@ std::vector<int> GridWidget::Columns() const {
     return columns;
 }
 
-/// The widest give what is lacking.
-std::vector<int> GridWidget::ColumnsIn(int width) const {
-    std::vector<int> columns = Columns();
-    int lacking = static_cast<int>(columns.size()) - 1 - width;
-    for (const int column : columns) {
-        lacking += column;
+/// The columns on view in so much room, with their widths: the first one, and those from the one
+/// that was scrolled to.
+std::vector<GridWidget::Shown> GridWidget::ColumnsIn(int width) {
+    const std::vector<int> wanted = Columns();
+    const auto count = static_cast<int>(wanted.size());
+    std::vector<Shown> shown;
+    int used = 0;
+    const auto take = [&](int column) {
+        const int needed = wanted[static_cast<std::size_t>(column)] + (shown.empty() ? 0 : kGap);
+        const bool fits = shown.empty() || used + needed <= width;
+        if (fits) {
+            shown.push_back({static_cast<std::size_t>(column), used + (shown.empty() ? 0 : kGap),
+                             wanted[static_cast<std::size_t>(column)]});
+            used += needed;
+        }
+        return fits;
+    };
+    if (count > 0) {
+        take(0);
     }
-    for (; lacking > 0 && !columns.empty(); --lacking) {
-        --*std::max_element(columns.begin(), columns.end());
+    int column = 1 + skipped_;
+    while (column < count && take(column)) {
+        ++column;
     }
-    for (std::size_t i = 0; lacking < 0 && i + 1 < columns.size(); ++lacking) {
-        const int gap = -lacking / static_cast<int>(columns.size() - 1 - i);
-        const int given = std::min(gap, 3);
-        columns[i++] += given;
-        lacking += given;
-    }
-    return columns;
+    hasMoreColumns_ = column < count;
+    return shown;
 }
 
 int GridWidget::LeastWidth() const {
@@ -161,7 +171,7 @@ int GridWidget::LeastWidth() const {
 int GridWidget::WantedWidth() const {
     int all = 0;
     for (const int column : Columns()) {
-        all += column + 2;
+        all += column + kGap;
     }
     return std::max(all, 10);
 }
@@ -171,17 +181,19 @@ int GridWidget::HeightIn(int) const {
 }
 
 void GridWidget::DrawRow(Cells& cells, const Area& area, const std::vector<std::string>& texts,
-                         const std::vector<int>& columns, const Look& look) const {
-    int used = 0;
-    for (std::size_t i = 0; i < std::min(columns.size(), texts.size()); ++i) {
-        const std::string text = Clipped(texts[i], columns[i]);
-        if (FromRight()) {
-            cells.PutRight(area.row, area.column + area.width - used - columns[i], text, look,
-                           columns[i]);
-        } else {
-            cells.Put(area.row, area.column + used, text, look, columns[i]);
+                         const std::vector<Shown>& columns, const Look& look) const {
+    for (const Shown& column : columns) {
+        if (column.number >= texts.size()) {
+            return;
         }
-        used += columns[i] + 1;
+        const std::string& text = texts[column.number];
+        const int width = std::min(column.width, area.width - column.left);
+        if (FromRight()) {
+            cells.PutRight(area.row, area.column + area.width - column.left - width, text, look,
+                           width);
+        } else {
+            cells.Put(area.row, area.column + column.left, text, look, width);
+        }
     }
 }
 
@@ -197,7 +209,7 @@ void GridWidget::GoToCurrentRow() {
 }
 
 void GridWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
-    const std::vector<int> columns = ColumnsIn(area.width);
+    const std::vector<Shown> columns = ColumnsIn(area.width);
     const int count = static_cast<int>(grid_.rows.size());
     height_ = std::max(1, area.height - 1);
     GoToCurrentRow();
@@ -212,9 +224,20 @@ void GridWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
         DrawRow(cells, {area.row + 1 + row, area.column, 1, area.width}, shown.cells, columns,
                 look);
     }
+    if (hasMoreColumns_) {
+        cells.Put(area.row, FromRight() ? area.column : area.column + area.width - 1,
+                  FromRight() ? "◂" : "▸", Tone::kAccent);
+    }
     if (first_ + height_ < count) {
         cells.Put(area.row + height_, area.column + area.width - 1, "▾", Tone::kAccent);
     }
+}
+
+/// False where there are no more on that side.
+bool GridWidget::SkipColumns(int step) {
+    const bool can = step > 0 ? hasMoreColumns_ : skipped_ > 0;
+    skipped_ += can ? step : 0;
+    return can;
 }
 
 bool GridWidget::Press(const KeyPress& key) {
@@ -228,6 +251,9 @@ bool GridWidget::Press(const KeyPress& key) {
             first_ += more ? 1 : 0;
             return more;
         }
+        case KeyCode::kLeft:
+        case KeyCode::kRight:
+            return SkipColumns((key.code == KeyCode::kRight) != FromRight() ? 1 : -1);
         case KeyCode::kPageUp:
         case KeyCode::kPageDown:
             grid_.UserPage(key.code == KeyCode::kPageUp ? -1 : 1);

@@ -101,14 +101,23 @@ public:
     bool Press(const KeyPress& key) override;
 
 private:
+    struct Shown {
+        std::size_t number;
+        int left;
+        int width;
+    };
+
     std::vector<int> Columns() const;
-    std::vector<int> ColumnsIn(int width) const;
+    std::vector<Shown> ColumnsIn(int width);
+    bool SkipColumns(int step);
     void DrawRow(Cells& cells, const Area& area, const std::vector<std::string>& texts,
-                 const std::vector<int>& columns, const Look& look) const;
+                 const std::vector<Shown>& columns, const Look& look) const;
     void GoToCurrentRow();
 
     Grid& grid_;
     std::vector<Grid::Row> shown_;
+    int skipped_ = 0;  // columns behind the first one
+    bool hasMoreColumns_ = false;
     int first_ = 0;
     int height_ = 1;  // rows of the table when it was last drawn
 };

@@ -145,7 +145,7 @@ void LinesWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     const int count = static_cast<int>(lines.size());
     height_ = std::max(1, area.height);
     first_ = std::clamp(first_, 0, std::max(0, count - height_));
-    const Look look(ToneOf(false, Tone::kField));
+    const Look look(ToneOf(false));
     cells.Fill(area, look);
     for (int row = 0; row < std::min(height_, count - first_); ++row) {
         const std::string& line = lines[static_cast<std::size_t>(first_ + row)];

@@ -44,7 +44,7 @@ ToneLook LookOfTone(Tone tone) {
         case Tone::kFaint:
             return {0, COLOR_CYAN, 0};
         case Tone::kField:
-            return {0, COLOR_GREEN, 0};
+            return {A_UNDERLINE, kDefaultColour, A_UNDERLINE};
         case Tone::kFocus:
             return {A_REVERSE, kDefaultColour, A_REVERSE};
         case Tone::kSelected:

@@ -37,7 +37,8 @@ void DeskScreen::Press(const KeyPress& key) {
 }
 
 void DeskScreen::Type(const std::string& text) {
-    for (const char32_t character : DecodeUtf8(text).value()) {
+    const std::u32string characters = DecodeUtf8(text).value();
+    for (const char32_t character : characters) {
         Press(CharacterKey(character));
     }
 }

@@ -1,0 +1,60 @@
+#include "terminal/forms/raster.h"
+
+#include <gmock/gmock.h>
+
+#include <clocale>
+
+namespace horavex {
+namespace {
+
+using testing::ElementsAre;
+
+struct RasterTest : testing::Test {
+    RasterTest() { std::setlocale(LC_CTYPE, "C.UTF-8"); }
+
+    Cells Drawn(const Drawing& drawing, bool inOneColour = false) {
+        Raster raster(2, 4);
+        raster.Draw(drawing, 400.0, 400.0);
+        Cells cells(2, 4);
+        raster.Put(cells, {0, 0}, inOneColour);
+        return cells;
+    }
+};
+
+TEST_F(RasterTest, TwoSquaresShareAPlace) {
+    const Cells cells = Drawn({LineStep{{0.0, 50.0}, {399.0, 50.0}, {kWhite}},
+                               LineStep{{0.0, 350.0}, {199.0, 350.0}, {kWhite}}});
+    EXPECT_THAT(cells.Texts(), ElementsAre("▀▀▀▀", "▄▄"));
+    EXPECT_EQ(cells.At(0, 0).look.ink, kWhite);
+    EXPECT_EQ(cells.At(0, 0).look.ground, std::nullopt);
+}
+
+TEST_F(RasterTest, AreasAreFilled) {
+    const Cells cells =
+        Drawn({PolygonStep{{{0.0, 0.0}, {400.0, 0.0}, {400.0, 200.0}, {0.0, 200.0}}, kWhite},
+               FilledCircleStep{{100.0, 300.0}, 110.0, kBlack}});
+    EXPECT_EQ(cells.Texts().at(0), "▀▀▀▀");
+    EXPECT_EQ(cells.At(0, 0).look.ground, kWhite);
+    EXPECT_EQ(cells.At(1, 0).look.ink, kBlack);
+    EXPECT_EQ(cells.At(1, 3).text, " ");
+}
+
+TEST_F(RasterTest, LightnessStandsForColoursThatAreNotThere) {
+    const Cells cells =
+        Drawn({PolygonStep{{{0.0, 0.0}, {200.0, 0.0}, {200.0, 400.0}, {0.0, 400.0}}, kWhite},
+               PolygonStep{{{200.0, 0.0}, {400.0, 0.0}, {400.0, 400.0}, {200.0, 400.0}}, kBlack}},
+              true);
+    EXPECT_THAT(cells.Texts(), ElementsAre("██··", "██··"));
+}
+
+TEST_F(RasterTest, WholeDrawingFillsTheRasterWhateverItsSize) {
+    Raster raster(1, 4);
+    raster.DrawWhole({LineStep{{1000.0, 1000.0}, {5000.0, 1000.0}, {kWhite}},
+                      LineStep{{1000.0, 3000.0}, {1000.0, 3000.0}, {kWhite}}});
+    Cells cells(1, 4);
+    raster.Put(cells, {0, 0}, false);
+    EXPECT_THAT(cells.Texts(), ElementsAre("▀▀▀▀"));
+}
+
+}  // namespace
+}  // namespace horavex
