@@ -40,7 +40,6 @@ void OpenRemindersByMenu() {
 }
 
 void LookAtReminders(Stage& stage) {
-    ActiveSettings.AthanType = kSoundAthan;
     stage.ports.audioPlayer.devices = {{"speakers", "Built-in Audio Analog Stereo"}};
     stage.Visit(OpenRemindersByMenu, *frmReminders);
 }

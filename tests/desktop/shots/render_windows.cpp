@@ -8,6 +8,7 @@
 #include <QFont>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "desktop/application.h"
 #include "desktop/look/look.h"
@@ -87,7 +88,7 @@ int Draw(const QCommandLineParser& options) {
     for (const Scene& scene : ChosenScenes(options.values("scene"))) {
         Shot shot = ShotOf(scene, language);
         const QString file = folder.filePath(shot.name + ".png");
-        if (!shot.image.save(file)) {
+        if (!Save(shot.image, file)) {
             std::fprintf(stderr, "render_windows: cannot write %s\n", qPrintable(file));
             return EXIT_FAILURE;
         }
@@ -116,5 +117,10 @@ int main(int argc, char** argv) {
     QApplication::setCursorFlashTime(0);
     UseFont(options.value("font-scale").toDouble());
     QDir().mkpath(options.value("output"));
-    return Draw(options);
+    try {
+        return Draw(options);
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "render_windows: %s\n", fault.what());
+        return EXIT_FAILURE;
+    }
 }

@@ -15,7 +15,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kSettingsPages = 3;
+constexpr int kSettingsPages = 4;
 constexpr int kWizardPages = 4;
 
 Scene SettingsPage(int page) {

@@ -31,6 +31,13 @@ QImage Photograph(const std::vector<QWidget*>& windows) {
 
 }  // namespace
 
+bool Save(const QImage& picture, const QString& file) {
+    constexpr int kSmallest = 0;
+    const bool isOpaque = picture.pixelColor(0, 0).alpha() == 255;
+    return picture.convertToFormat(isOpaque ? QImage::Format_RGB888 : QImage::Format_ARGB32)
+        .save(file, "PNG", kSmallest);
+}
+
 Shot ShotOf(const Scene& scene, const std::string& language) {
     Shot shot;
     Stage stage(language, scene.setting, [&](const std::vector<QWidget*>& windows) {

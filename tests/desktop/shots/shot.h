@@ -19,4 +19,7 @@ struct Shot {
 /// one in which a message comes up.
 Shot ShotOf(const Scene& scene, const std::string& language);
 
+/// Writes a picture as a small PNG file. False where that cannot be done.
+bool Save(const QImage& picture, const QString& file);
+
 }  // namespace horavex

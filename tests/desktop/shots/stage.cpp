@@ -51,6 +51,21 @@ void AddZones(FixedZoneRules& zones) {
     zones.Turn("Europe/Oslo", UtcOf(DateSerial(2026, 10, 25)) + 1 * kHour, {1 * kHour, false});
 }
 
+/// This computer's clock, which stands where the city is.
+void SetLocalClock(TestPlatform& ports, const Setting& setting) {
+    const std::string zone = setting.city == "Oslo" ? "Europe/Oslo" : "Africa/Cairo";
+    const ZoneOffset offset = ports.zoneRules.OffsetAt(zone, UtcOf(setting.now));
+    ports.clock.Set(setting.now);
+    ports.clock.SetOffset(0.0, {static_cast<double>(offset.seconds) / kHour, offset.daylight});
+}
+
+/// Sounds of the athan, so that the program offers them.
+void AddSounds(MemoryFiles& files) {
+    for (const char* sound : {"athan", "fagr_athan"}) {
+        files.WriteWhole(std::string("/program/Athan/") + sound + ".mp3", Bytes(1));
+    }
+}
+
 std::int16_t CityNamed(const std::string& text) {
     static std::map<std::string, std::int16_t> known;
     const auto [city, isNew] = known.try_emplace(text);
@@ -66,6 +81,7 @@ void StoreSettings(const Setting& setting, std::int16_t column) {
     ActiveSettings.Language = column;
     ActiveSettings.CityIndex = CityNamed(setting.city);
     ActiveSettings.FajrAngle = 19.5;
+    ActiveSettings.AthanType = kSoundAthan;
     SaveActiveSettings();
     Settings = ActiveSettings;
     SaveWorkingSettings();
@@ -95,7 +111,7 @@ Stage::Stage(const std::string& language, const Setting& setting, Camera camera)
       formats_(QLocale(LandOf(language).locale)),
       face_(SpeakLanguageOfPack),
       windows_(AllLayouts()),
-      platform_{ports.clock,     ports.loop,
+      platform_{clock_,          ports.loop,
                 ports.files,     ports.folder,
                 formats_,        ports.dialogs,
                 ports.registry,  ports.instanceGuard,
@@ -108,9 +124,10 @@ Stage::Stage(const std::string& language, const Setting& setting, Camera camera)
                 ports.session,   ports.almanac,
                 ports.broadcast} {
     InstallPlatform(&platform_);
-    ports.clock.Set(setting.now);
     CopyBuiltProgramFolder(ports.files);
+    AddSounds(ports.files);
     AddZones(ports.zoneRules);
+    SetLocalClock(ports, setting);
     StoreSettings(setting, LandOf(language).column);
     SaveStoredLanguage(language);
     BindWindows();

@@ -23,6 +23,21 @@ struct Setting {
     HighLatitudeRule rule = HighLatitudeRule::kNone;
 };
 
+/// A clock set by hand in a zone that is not Greenwich.
+class ZonedClock : public Clock {
+public:
+    explicit ZonedClock(const ManualClock& local) : local_(local) {}
+
+    Date Now() const override { return local_.Now(); }
+    Date UniversalNow() const override { return Now() - OffsetAt(Now()).hours / 24.0; }
+    double SteadySeconds() const override { return local_.SteadySeconds(); }
+    ClockOffset OffsetOn(Date day) const override { return local_.OffsetOn(day); }
+    ClockOffset OffsetAt(Date local) const override { return local_.OffsetAt(local); }
+
+private:
+    const ManualClock& local_;
+};
+
 /// The whole program, set up for a city, in one language, with the real windows of the desktop over
 /// ports in memory: nothing of the machine, its clock or its user comes into view. Its face is up.
 /// One at a time.
@@ -70,6 +85,7 @@ private:
     void LookIntoMenu(std::optional<int> entry);
 
     Camera camera_;
+    ZonedClock clock_{ports.clock};
     QtFormats formats_;
     QtFace face_;
     AzanFace athanFace_;
