@@ -3,6 +3,7 @@
 #include <QDBusArgument>
 #include <QGuiApplication>
 #include <QImage>
+#include <QStringList>
 #include <QVariantMap>
 
 #include "desktop/ports/emblem.h"
@@ -12,15 +13,6 @@ namespace horavex {
 namespace {
 
 constexpr int kPictureSide = 64;
-
-// Urgencies of the service. Its lowest is of no use: some desktops show no banner for it, and keep
-// it in no list.
-constexpr uchar kNormal = 1;
-constexpr uchar kCritical = 2;
-
-// Milliseconds on view.
-constexpr int kAsTheServiceLikes = -1;
-constexpr int kForEver = 0;
 
 /// The emblem in the service's own form of a picture.
 QVariant Picture() {
@@ -39,42 +31,34 @@ QVariant Picture() {
     return QVariant::fromValue(picture);
 }
 
-QVariantMap Hints(NoticeKind kind, bool isQuiet) {
-    QVariantMap hints = {
-        {"urgency", QVariant::fromValue(isQuiet ? kNormal : kCritical)},
-        {"category", kind == NoticeKind::kMissed ? "x-horavex.missed" : "x-horavex.prayer"},
-        {"desktop-entry", QGuiApplication::desktopFileName()},
-        {"image-data", Picture()}};
-    hints.insert(isQuiet ? QStringLiteral("suppress-sound") : QStringLiteral("resident"), true);
+QVariantMap Hints(const NoticeCall& call) {
+    QVariantMap hints = {{"urgency", QVariant::fromValue(static_cast<uchar>(call.urgency))},
+                         {"category", QString::fromStdString(call.category)},
+                         {"desktop-entry", QGuiApplication::desktopFileName()},
+                         {"image-data", Picture()}};
+    hints.insert(call.quiet ? QStringLiteral("suppress-sound") : QStringLiteral("resident"), true);
     return hints;
 }
 
-QStringList Actions(const Notice& notice) {
-    QStringList actions;
-    const auto add = [&](const char* key, const std::string& caption) {
-        if (!caption.empty()) {
-            actions << QLatin1String(key) << QString::fromStdString(caption);
-        }
-    };
-    add(kClickKey, notice.openCaption);
-    add(kOpenKey, notice.openCaption);
-    add(kStopKey, notice.stopCaption);
-    return actions;
+QStringList Texts(const std::vector<std::string>& words) {
+    QStringList texts;
+    for (const std::string& word : words) {
+        texts << QString::fromStdString(word);
+    }
+    return texts;
 }
 
 }  // namespace
 
-QVariantList NotifyArguments(NoticeKind kind, const Notice& notice, uint replaced,
-                             const QStringList& abilities) {
-    const QString text = QString::fromStdString(notice.text);
+QVariantList NotifyArguments(const NoticeCall& call) {
     return {QGuiApplication::applicationName(),
-            replaced,
+            static_cast<uint>(call.replaced),
             QGuiApplication::desktopFileName(),  // the icon's name, too
-            QString::fromStdString(notice.title),
-            abilities.contains("body-markup") ? text.toHtmlEscaped() : text,
-            abilities.contains("actions") ? Actions(notice) : QStringList(),
-            Hints(kind, notice.quiet),
-            notice.quiet ? kAsTheServiceLikes : kForEver};
+            QString::fromStdString(call.title),
+            QString::fromStdString(call.text),
+            Texts(call.actions),
+            Hints(call),
+            call.timeout};
 }
 
 }  // namespace horavex

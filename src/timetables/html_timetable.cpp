@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "base/markup.h"
 #include "base/rounding.h"
 
 namespace horavex {
@@ -38,33 +39,10 @@ tbody th { font-weight: normal; }
 }
 )css";
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                escaped += c;
-        }
-    }
-    return escaped;
-}
-
 /// Name, value: a value without words runs from left to right in every language.
 std::string Fact(const TimetableWords& words, const std::string& name, const std::string& value) {
-    return "<div><dt>" + Escaped(name + words.colon) + "</dt><dd dir=\"auto\">" + Escaped(value) +
-           "</dd></div>\n";
+    return "<div><dt>" + EscapedForMarkup(name + words.colon) + "</dt><dd dir=\"auto\">" +
+           EscapedForMarkup(value) + "</dd></div>\n";
 }
 
 std::string Facts(const Timetable& table, const TimetableWords& words) {
@@ -86,15 +64,15 @@ std::string MonthId(int month) {
 std::string Contents(const Timetable& table, const TimetableWords& words) {
     std::string items;
     for (int month = 1; month <= 12; ++month) {
-        items += "<li><a href=\"#" + MonthId(month) + "\">" + Escaped(words.MonthAlone(month)) +
-                 "</a></li>\n";
+        items += "<li><a href=\"#" + MonthId(month) + "\">" +
+                 EscapedForMarkup(words.MonthAlone(month)) + "</a></li>\n";
     }
     return "<nav aria-label=\"" + std::to_string(table.year) + "\"><ol>\n" + items +
            "</ol></nav>\n";
 }
 
 std::string HeadCell(const std::string& text) {
-    return "<th scope=\"col\">" + Escaped(text) + "</th>";
+    return "<th scope=\"col\">" + EscapedForMarkup(text) + "</th>";
 }
 
 std::string TableHead(const TimetableDay& day, const TimetableWords& words) {
@@ -112,7 +90,7 @@ std::string TimeCell(const TimetableDay& day, const std::optional<Moment>& momen
     }
     const DayMinute at = MinuteOf(day.date, moment->hours);
     return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
-           "\" dir=\"auto\">" + Escaped(words.TimeIn(day, *moment)) + "</time></td>";
+           "\" dir=\"auto\">" + EscapedForMarkup(words.TimeIn(day, *moment)) + "</time></td>";
 }
 
 std::string RowAttributes(const TimetableDay& day, Date today) {
@@ -124,8 +102,9 @@ std::string RowAttributes(const TimetableDay& day, Date today) {
 std::string Row(const TimetableDay& day, const TimetableWords& words, Date today) {
     const std::string number = std::to_string(CivilFromDate(day.date).day);
     const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
-    std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
-                        mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
+    std::string cells = "<th scope=\"row\">" + number + " " +
+                        EscapedForMarkup(words.WeekdayOf(day.date)) + mark + "</th><td>" +
+                        EscapedForMarkup(words.HijriText(day.hijri)) + "</td>";
     for (const auto& moment : day.Columns()) {
         cells += TimeCell(day, moment, words);
     }
@@ -139,18 +118,19 @@ std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& d
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
             notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + words.colon +
-                     Escaped(begins ? words.daylightBegins : words.daylightEnds) + "</p>\n";
+                     EscapedForMarkup(begins ? words.daylightBegins : words.daylightEnds) +
+                     "</p>\n";
         }
     }
     for (const std::string& note : NotesOfDays(table, days)) {
-        notes += "<p>" + Escaped(note) + "</p>\n";
+        notes += "<p>" + EscapedForMarkup(note) + "</p>\n";
     }
     return notes;
 }
 
 std::string Month(const Timetable& table, const TimetableWords& words, int month, Date today) {
     const std::vector<TimetableDay> days = DaysOfMonth(table, month);
-    const std::string title = Escaped(words.MonthTitle(table.year, month));
+    const std::string title = EscapedForMarkup(words.MonthTitle(table.year, month));
     std::string rows;
     for (const TimetableDay& day : days) {
         rows += Row(day, words, today);
@@ -163,17 +143,17 @@ std::string Month(const Timetable& table, const TimetableWords& words, int month
 }  // namespace
 
 std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, Date today) {
-    const std::string title = Escaped(words.title) + " " + std::to_string(table.year);
+    const std::string title = EscapedForMarkup(words.title) + " " + std::to_string(table.year);
     std::string months;
     for (int month = 1; month <= 12; ++month) {
         months += Month(table, words, month, today);
     }
-    return "<!DOCTYPE html>\n<html lang=\"" + Escaped(words.code) + "\" dir=\"" +
+    return "<!DOCTYPE html>\n<html lang=\"" + EscapedForMarkup(words.code) + "\" dir=\"" +
            (words.rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n" +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           title + words.comma + Escaped(table.place) + "</title>\n<style>" + kStyle +
+           title + words.comma + EscapedForMarkup(table.place) + "</title>\n<style>" + kStyle +
            "</style>\n</head>\n<body>\n<header>\n<h1>" + title + "</h1>\n<p class=\"place\"><bdi>" +
-           Escaped(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
+           EscapedForMarkup(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
            Contents(table, words) + "<main>\n" + months + "</main>\n</body>\n</html>\n";
 }
 

@@ -43,8 +43,11 @@ public:
     ServiceParts(PollEventLoop& loop, const ServiceLog& log)
         : post_([&loop](PollEventLoop::Action event) { loop.Post(std::move(event)); }),
           dialogs_(log, post_),
-          notices_(log),
+          notices_(loop, log),
           broadcast_(log, post_) {}
+
+    /// The process is about to end.
+    void Leave() { notices_.Leave(); }
 
     TerminalParts Parts() {
         return {dialogs_, face_, windows_, tray_, shell_, athanFace_, notices_, broadcast_};
@@ -118,13 +121,15 @@ int RunService() {
     std::signal(SIGPIPE, SIG_IGN);  // a log that nobody reads any more silences no athan
     const ServiceLog log(std::cerr, GoesToJournal(STDERR_FILENO),
                          [] { return SystemClock().Now(); });
-    PollEventLoop loop;
+    std::function<void()> onEnd;
+    PollEventLoop loop([&onEnd] { onEnd(); });
     const FacelessForms forms(loop, [&log](const Form& form) {
         if (&form == &*fMessage && alarmActive != kFalse) {
             log.Write(Severity::kNotice, fMessage->lblMessage2.Caption());
         }
     });
     ServiceParts parts(loop, log);
+    onEnd = [&parts] { parts.Leave(); };
     const TerminalPlatform platform(loop, parts.Parts());
     const SignalPipe signals;
     const PollEventLoop::Reader reader(loop, signals.Number(), [&] {

@@ -20,6 +20,7 @@
 #include "terminal/face/face_sheet.h"
 #include "terminal/ports/form_timers.h"
 #include "terminal/ports/terminal_dialogs.h"
+#include "terminal/ports/terminal_notices.h"
 #include "terminal/ports/terminal_shell.h"
 #include "terminal/ports/terminal_windows.h"
 #include "terminal/screen/curses_screen.h"
@@ -113,7 +114,10 @@ private:
 
     CursesScreen screen_;  // the first to come and the last to go
     SignalPipe signals_{{SIGTERM, SIGINT, SIGHUP, SIGWINCH, SIGTSTP, SIGCONT}};
-    PollEventLoop loop_{[this] { screen_.Leave(); }};
+    PollEventLoop loop_{[this] {
+        notices_.Leave();
+        screen_.Leave();
+    }};
     FormTimers timers_{loop_};
     Desk desk_;
     TerminalFace face_;
@@ -129,7 +133,7 @@ private:
     TerminalShell shell_{sheets_.Surroundings()};
     TerminalWindows windows_{sheets_, desk_};
     AbsentTray tray_;
-    AbsentNotices notices_;
+    TerminalNotices notices_{loop_};
     SessionBroadcast broadcast_{
         [this](PollEventLoop::Action action) { loop_.Post(std::move(action)); }};
     TerminalPlatform platform_{

@@ -82,7 +82,8 @@ TEST_F(ServiceBroadcastTest, QuietTimesAreTold) {
 }
 
 TEST_F(ServiceBroadcastTest, MissedPrayersAreToldAndOtherNoticesAreNot) {
-    ServiceNotices notices(log);
+    PollEventLoop loop;
+    ServiceNotices notices(loop, log);
     Notice notice;
     notice.title = "Asr 2:38 PM";
     notices.Show(NoticeKind::kPrayer, notice);
