@@ -6,6 +6,7 @@
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/twips.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -51,8 +52,7 @@ public:
         painter_.save();
         painter_.resetTransform();
         painter_.setPen(inks_(text.colour));
-        painter_.drawText(at + QPointF(0.0, painter_.fontMetrics().ascent()),
-                          QString::fromStdString(text.text));
+        painter_.drawText(at + QPointF(0.0, painter_.fontMetrics().ascent()), UserText(text.text));
         painter_.restore();
     }
 

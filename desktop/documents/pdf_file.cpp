@@ -6,6 +6,7 @@
 
 #include "desktop/documents/month_page.h"
 #include "desktop/documents/usual_paper.h"
+#include "desktop/user_text.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -53,9 +54,8 @@ void WritePdf(const std::string& path, const PrintedYear& year) {
         writer.setResolution(kDotsPerInch);
         writer.setPageLayout(LayoutOf(year.paper));
         writer.setCreator(QStringLiteral("Horavex"));
-        writer.setTitle(QString::fromStdString(year.words.title + " " +
-                                               std::to_string(year.table.year) + year.words.comma +
-                                               year.table.place));
+        writer.setTitle(UserText(year.words.title + " " + std::to_string(year.table.year) +
+                                 year.words.comma + year.table.place));
         DrawPages(writer, year);
     }
     const QByteArray& bytes = buffer.data();

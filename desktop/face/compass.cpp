@@ -6,6 +6,7 @@
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -68,15 +69,17 @@ std::optional<double> ReadBearing(const QString& text) {
 }
 
 void Compass::ShowBearing(std::optional<double> degrees) {
-    if (degrees != degrees_) {
-        degrees_ = degrees;
+    const bool turns = degrees != degrees_;
+    degrees_ = degrees;
+    if (turns || Words() != accessibleName()) {
         setAccessibleName(Words());
         update();
     }
 }
 
 QString Compass::Words() const {
-    return degrees_ ? QString::number(std::lround(*degrees_) % 360) + QChar(0xB0) : QString();
+    return degrees_ ? UserText(QString::number(std::lround(*degrees_) % 360)) + QChar(0xB0)
+                    : QString();
 }
 
 void Compass::paintEvent(QPaintEvent*) {

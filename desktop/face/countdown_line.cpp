@@ -5,6 +5,7 @@
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -21,8 +22,8 @@ QString CountdownDigits(int seconds) {
     const auto padded = [](int number) {
         return QStringLiteral("%1").arg(number, 2, 10, QChar(u'0'));
     };
-    return QString::number(seconds / 3600) + u':' + padded(seconds / 60 % 60) + u':' +
-           padded(seconds % 60);
+    return UserText(QString::number(seconds / 3600) + u':' + padded(seconds / 60 % 60) + u':' +
+                    padded(seconds % 60));
 }
 
 void CountdownLine::ShowCountdown(const QString& words, int seconds) {

@@ -21,7 +21,7 @@ private:
     QString digits_;
 };
 
-/// Hours, minutes and seconds: "2:05:09".
+/// Hours, minutes and seconds, "2:05:09", in the digits that users chose.
 QString CountdownDigits(int seconds);
 
 }  // namespace horavex

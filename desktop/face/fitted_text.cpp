@@ -39,7 +39,7 @@ double OverhangOf(const QFont& font, const QString& text, double height) {
 
 QString WithTimesIsolated(QString text) {
     static const QRegularExpression time(
-        QStringLiteral(R"(((?:[A-Za-z]+ )*\d[\d:.]*(?: [A-Za-z.]+)?))"));
+        QStringLiteral(R"(((?:[A-Za-z]+ )*\p{Nd}[\p{Nd}:.]*(?: [A-Za-z.]+)?))"));
     return text.replace(time, QStringLiteral("\u2066\\1\u2069"));
 }
 

@@ -58,12 +58,25 @@ void AddFitted(std::vector<PosterText>& texts, std::vector<PosterText> row) {
     }
 }
 
-/// Of one width whatever the second: digits are equally wide.
-QString WidestOf(QString digits) {
-    for (QChar& sign : digits) {
-        sign = sign.isDigit() ? u'0' : sign;
+/// The widest digit of a set, which one of them tells.
+QChar WidestLike(QChar digit, const QFontMetricsF& metrics) {
+    const auto zero = static_cast<char16_t>(digit.unicode() - digit.digitValue());
+    QChar widest(zero);
+    for (char16_t value = 1; value < 10; ++value) {
+        const QChar other(static_cast<char16_t>(zero + value));
+        widest =
+            metrics.horizontalAdvance(other) > metrics.horizontalAdvance(widest) ? other : widest;
     }
-    return digits;
+    return widest;
+}
+
+/// Of one width whatever the second.
+QString WidestOf(QString counted, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    for (QChar& sign : counted) {
+        sign = sign.isDigit() ? WidestLike(sign, metrics) : sign;
+    }
+    return counted;
 }
 
 }  // namespace
@@ -114,7 +127,8 @@ std::vector<PosterText> PosterLayout::Countdown(const FaceDay& day) const {
         day.rows.at(day.next).name + QStringLiteral(" \u00b7 ") + day.countdownWords;
     const QString counted = CountdownDigits(day.seconds);
     PosterText words = Wanted(line, kWordsType, kCream, said);
-    PosterText digits = Wanted(line, kDigitsType, kGold, WidestOf(counted), true);
+    PosterText digits = Wanted(line, kDigitsType, kGold, counted, true);
+    digits.text = WidestOf(counted, FaceFont(digits.pixels, digits.bold));
     const double scale =
         std::min(1.0, (line.width() - gap) / std::max(1.0, WidthOf(words) + WidthOf(digits)));
     Scale(words, scale);

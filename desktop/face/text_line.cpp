@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "desktop/face/fitted_text.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -11,8 +12,8 @@ TextLine::TextLine(QWidget* parent, Look look) : QLabel(parent), look_(look) {
 }
 
 void TextLine::ShowText(const QString& text) {
-    if (text != this->text()) {
-        setText(text);
+    if (const QString shown = UserText(text); shown != this->text()) {
+        setText(shown);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/caption_text.h"
+#include "desktop/user_text.h"
 #include "forms/focusable.h"
 
 namespace horavex {
@@ -39,10 +40,10 @@ void Binder::Refresh() {
         widget_.setEnabled(control_.Enabled());
     }
     if (control_.Has(Property::kToolTipText)) {
-        widget_.setToolTip(QString::fromStdString(control_.ToolTipText()));
+        widget_.setToolTip(UserText(control_.ToolTipText()));
     }
     if (control_.Has(Property::kCaption)) {
-        SetOwnName(widget_, SpokenText(QString::fromStdString(control_.Caption())));
+        SetOwnName(widget_, SpokenText(UserText(control_.Caption())));
     }
     Show();
     widget_.setVisible(control_.Visible());

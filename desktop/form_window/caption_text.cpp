@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "desktop/form_window/widget_names.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -46,7 +47,7 @@ QString ShownText(const QString& text, const QWidget& widget) {
 }
 
 QString ShownCaption(const Control& control, const QWidget& widget) {
-    return ShownText(WithoutBrokenKey(QString::fromStdString(control.Caption())), widget);
+    return ShownText(WithoutBrokenKey(UserText(control.Caption())), widget);
 }
 
 QString WithoutBrokenKey(const QString& caption) {

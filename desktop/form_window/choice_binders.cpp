@@ -3,9 +3,11 @@
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QStringList>
+#include <utility>
 
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/caption_text.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -14,7 +16,7 @@ namespace {
 QStringList ItemsOf(const List& list) {
     QStringList items;
     for (const std::string& item : list.Items()) {
-        items << QString::fromStdString(item);
+        items << UserText(item);
     }
     return items;
 }
@@ -78,14 +80,24 @@ bool ListBoxBinder::eventFilter(QObject* watched, QEvent* event) {
     return BinderOf::eventFilter(watched, event);
 }
 
+void ListBoxBinder::ShowItemsAnewInOtherDigits() {
+    const QString zero = UserText(std::string("0"));
+    if (std::exchange(zero_, zero) != zero) {
+        for (int row = 0; row < widget.count(); ++row) {
+            widget.item(row)->setText(UserText(control.ListItem(row)));
+        }
+    }
+}
+
 void ListBoxBinder::ShowItems() {
     if (clearings_ != control.Clearings()) {
         clearings_ = control.Clearings();
         widget.clear();
     }
+    ShowItemsAnewInOtherDigits();
     QStringList added;
     for (int row = widget.count(); row < control.ListCount(); ++row) {
-        added << QString::fromStdString(control.ListItem(row));
+        added << UserText(control.ListItem(row));
     }
     widget.addItems(added);
 }
@@ -99,7 +111,8 @@ ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLate
         widget.setInsertPolicy(QComboBox::NoInsert);  // the list is the form's
         widget.setCompleter(nullptr);
         connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-            Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
+            line_.Type(text);
+            Hand([this, typed = TypedText(text)] { control.UserEdit(typed); });
         });
     }
 }
@@ -117,14 +130,22 @@ void ComboBoxBinder::Show() {
 // The toolkit writes the item of an index anew, with the cursor at its end.
 void ComboBoxBinder::ShowTyped(QLineEdit& line) {
     const int cursor = line.cursorPosition();
+    const QString former = line.text();
     widget.setCurrentIndex(control.ListIndex());
-    const QString text = QString::fromStdString(control.Text());
-    if (line.text() != text) {
-        line.setText(text);
+    if (line.text() != former) {
+        line.setText(former);
     }
+    line_.Show(line, control.Text());
     if (line.cursorPosition() != cursor) {
         line.setCursorPosition(cursor);
     }
+}
+
+bool ComboBoxBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (line_.IsLeftBy(*event)) {
+        Hand([] {});
+    }
+    return BinderOf::eventFilter(watched, event);
 }
 
 void ComboBoxBinder::ShowItems() {
@@ -142,7 +163,7 @@ void ComboBoxBinder::ShowItems() {
 void ComboBoxBinder::ShowRefusals() {
     const auto* model = dynamic_cast<QStandardItemModel*>(widget.model());
     for (int row = 0; model != nullptr && row < widget.count(); ++row) {
-        const QString reason = QString::fromStdString(control.ItemRefusal(row));
+        const QString reason = UserText(control.ItemRefusal(row));
         model->item(row)->setEnabled(reason.isEmpty());
         model->item(row)->setToolTip(reason);
     }

@@ -7,6 +7,7 @@
 #include <QTabBar>
 
 #include "desktop/form_window/binder_of.h"
+#include "desktop/form_window/typed_line.h"
 #include "forms/check_box.h"
 #include "forms/combo_box.h"
 #include "forms/list.h"
@@ -45,9 +46,11 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     void ShowItems();
+    void ShowItemsAnewInOtherDigits();
     void ShowCurrentInTheMiddle();
 
     int clearings_ = -1;  // of the control, when its items were last shown
+    QString zero_;        // of the digits that they were last shown in
 };
 
 /// What is typed goes to the form alone: it adds nothing to the list.
@@ -62,6 +65,9 @@ private:
     void ShowItems();
     void ShowRefusals();
     void ShowTyped(QLineEdit& line);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    TypedLine line_;
 };
 
 /// The tabs alone; what lies on a page is shown and hidden by the form.

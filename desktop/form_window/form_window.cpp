@@ -26,6 +26,7 @@
 #include "desktop/form_window/widget_names.h"
 #include "desktop/look/window_inks.h"
 #include "desktop/look/window_look.h"
+#include "desktop/user_text.h"
 #include "forms/focusable.h"
 #include "platform/fault_box.h"
 
@@ -120,6 +121,14 @@ void FormWindow::ControlChanged(Control& control) {
     RefreshLater(control);
 }
 
+void FormWindow::ShowTextsAnew() {
+    setWindowTitle(UserText(form_.Caption()));
+    for (const auto& [control, binder] : binders_) {
+        RefreshLater(*control);
+    }
+    update();
+}
+
 void FormWindow::FormChanged() {
     formChanged_ = true;
     FlushLater();
@@ -191,7 +200,7 @@ void FormWindow::GrowWithContent() {
 
 void FormWindow::FollowForm() {
     following_ = true;
-    setWindowTitle(QString::fromStdString(form_.Caption()));
+    setWindowTitle(UserText(form_.Caption()));
     setEnabled(form_.Enabled());
     FollowPlace();
     FollowVisibility();

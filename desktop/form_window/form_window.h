@@ -40,6 +40,9 @@ public:
     /// The form is unloaded: the window goes away as soon as no event of its own is running.
     void Retire();
 
+    /// Shows the present texts in the digits that users have chosen now.
+    void ShowTextsAnew();
+
     /// Shows what is pending now.
     void Flush();
 

@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "lang/own_digits.h"
+
 namespace horavex {
 
 FormWindows::FormWindows(Layouts layouts) : layouts_(std::move(layouts)) {
     InstallFormHost(this);
+    InstallDigitsFollower([this] { ShowTextsAnew(); });
 }
 
 FormWindows::~FormWindows() {
+    InstallDigitsFollower({});
     InstallFormHost(nullptr);
 }
 
@@ -38,6 +42,12 @@ void FormWindows::BroughtUp(Form& form) {
 
 void FormWindows::RunModal(Form& form) {
     windows_.at(&form)->RunUntilHidden();
+}
+
+void FormWindows::ShowTextsAnew() const {
+    for (const auto& [form, window] : windows_) {
+        window->ShowTextsAnew();
+    }
 }
 
 }  // namespace horavex

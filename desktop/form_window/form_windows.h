@@ -28,6 +28,8 @@ public:
     void RunModal(Form& form) override;
 
 private:
+    void ShowTextsAnew() const;
+
     // A window outlives its form by the event that it is in, so that it goes by Retire alone.
     struct RetireWindow {
         void operator()(FormWindow* window) const { window->Retire(); }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "desktop/form_window/caption_text.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -20,7 +21,7 @@ constexpr int kRowHeight = 20;    // pixels, unless the texts need more
 QStringList TextsOf(const std::vector<std::string>& texts) {
     QStringList shown;
     for (const std::string& text : texts) {
-        shown << QString::fromStdString(text);
+        shown << UserText(text);
     }
     return shown;
 }

@@ -7,6 +7,7 @@
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/menu_style.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -22,7 +23,7 @@ QIcon IconOf(const MenuItem& item) {
 }
 
 QString CaptionOf(const MenuItem& item) {
-    return WithoutBrokenKey(QString::fromStdString(item.Caption()));
+    return WithoutBrokenKey(UserText(item.Caption()));
 }
 
 void AddEntry(QMenu& menu, MenuItem& item) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/user_text.h"
+
 namespace horavex {
 
 MovableRangeBinder::MovableRangeBinder(Control& bound, QWidget& boundWidget,
@@ -31,6 +33,8 @@ void ProgressBarBinder::Show() {
     widget.setInvertedAppearance(control.Min() > control.Max());
     widget.setRange(lowest, highest);
     widget.setValue(control.Value());
+    const int percent = 100 * (control.Value() - lowest) / std::max(1, highest - lowest);
+    widget.setFormat(UserText(QString::number(percent)) + u'%');
 }
 
 }  // namespace horavex

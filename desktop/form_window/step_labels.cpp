@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "desktop/form_window/accessible_names.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -10,7 +11,8 @@ namespace {
 
 void ShowStep(QLabel& label, int number, const QWidget& window, bool onView) {
     label.setTextFormat(Qt::PlainText);
-    label.setText(QStringLiteral("%1. %2").arg(number).arg(NamesOfOthers(window, label, "stepOf")));
+    label.setText(UserText(QString::number(number)) + QStringLiteral(". ") +
+                  NamesOfOthers(window, label, "stepOf"));
     QFont font = window.font();
     font.setBold(onView);
     label.setFont(font);

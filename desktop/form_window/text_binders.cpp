@@ -8,6 +8,7 @@
 #include <QTextFrame>
 
 #include "desktop/form_window/caption_text.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -18,7 +19,7 @@ void FrameBinder::Show() {
 void LabelBinder::Show() {
     widget.setTextFormat(Qt::PlainText);
     // A label marks the key of the control that it stands before.
-    widget.setText(widget.buddy() == nullptr ? QString::fromStdString(control.Caption())
+    widget.setText(widget.buddy() == nullptr ? UserText(control.Caption())
                                              : ShownCaption(control, widget));
     const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
     widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
@@ -43,15 +44,13 @@ void CommandButtonBinder::Show() {
 TextBoxBinder::TextBoxBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
     : BinderOf(bound, boundWidget, std::move(refreshLater)) {
     connect(&widget, &QLineEdit::textEdited, this, [this](const QString& text) {
-        Hand([this, typed = text.toStdString()] { control.UserEdit(typed); });
+        line_.Type(text);
+        Hand([this, typed = TypedText(text)] { control.UserEdit(typed); });
     });
 }
 
 void TextBoxBinder::Show() {
-    const QString text = QString::fromStdString(control.Text());
-    if (widget.text() != text) {
-        widget.setText(text);
-    }
+    line_.Show(widget, control.Text());
 }
 
 QWidget* TextBoxBinder::SteeredList() const {
@@ -67,6 +66,9 @@ void TextBoxBinder::Steer(QWidget& list, QEvent& key) {
 }
 
 bool TextBoxBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (line_.IsLeftBy(*event)) {
+        Hand([] {});
+    }
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
     QWidget* const list = key == Qt::Key_Up || key == Qt::Key_Down ? SteeredList() : nullptr;
     if (list == nullptr) {
@@ -77,7 +79,7 @@ bool TextBoxBinder::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void LinesBinder::Show() {
-    const QString text = QString::fromStdString(control.Text()).remove('\r');
+    const QString text = UserText(control.Text()).remove('\r');
     if (widget.toPlainText() == text) {
         return;
     }

@@ -8,6 +8,7 @@
 #include <QTextEdit>
 
 #include "desktop/form_window/binder_of.h"
+#include "desktop/form_window/typed_line.h"
 #include "forms/command_button.h"
 #include "forms/frame.h"
 #include "forms/label.h"
@@ -67,6 +68,8 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     QWidget* SteeredList() const;
     void Steer(QWidget& list, QEvent& key);
+
+    TypedLine line_;
 };
 
 /// A text box of several lines that users can only read. A layout may give all lines a height in

@@ -7,6 +7,7 @@
 #include <QVariantMap>
 
 #include "desktop/ports/emblem.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -43,7 +44,7 @@ QVariantMap Hints(const NoticeCall& call) {
 QStringList Texts(const std::vector<std::string>& words) {
     QStringList texts;
     for (const std::string& word : words) {
-        texts << QString::fromStdString(word);
+        texts << UserText(word);
     }
     return texts;
 }
@@ -54,8 +55,8 @@ QVariantList NotifyArguments(const NoticeCall& call) {
     return {QGuiApplication::applicationName(),
             static_cast<uint>(call.replaced),
             QGuiApplication::desktopFileName(),  // the icon's name, too
-            QString::fromStdString(call.title),
-            QString::fromStdString(call.text),
+            UserText(call.title),
+            UserText(call.text),
             Texts(call.actions),
             Hints(call),
             call.timeout};

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include "desktop/form_window/usable_window.h"
+#include "desktop/user_text.h"
 
 namespace horavex {
 
@@ -44,7 +45,7 @@ QStringList FiltersOf(const QString& filter) {
 /// The path that the user chooses; empty for none.
 std::string Ask(QFileDialog& dialog, const FileRequest& request) {
     const QStringList filters = FiltersOf(QString::fromStdString(request.filter));
-    const QString title = QString::fromStdString(request.title);
+    const QString title = UserText(request.title);
     dialog.setWindowTitle(title);
     dialog.setLayoutDirection(title.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -86,8 +87,8 @@ QString SuffixOf(const QString& type, const QStringList& filters) {
 }  // namespace
 
 void QtDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon icon) {
-    const QString message = QString::fromStdString(text);
-    QMessageBox box(IconOf(icon), QString::fromStdString(title.empty() ? kTitle : title), message,
+    const QString message = UserText(text);
+    QMessageBox box(IconOf(icon), UserText(title.empty() ? kTitle : title), message,
                     QMessageBox::Ok, WindowInFront());
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Ok)->setIcon({});  // its word says it

@@ -7,6 +7,7 @@
 
 #include "desktop/form_window/menu.h"
 #include "desktop/ports/emblem.h"
+#include "desktop/user_text.h"
 #include "platform/fault_box.h"
 
 namespace horavex {
@@ -48,7 +49,7 @@ void QtTray::Follow(AreaKind kind) {
 }
 
 void QtTray::SetTip(const std::string& tip) {
-    tip_ = QString::fromStdString(tip);
+    tip_ = UserText(tip);
     if (icon_) {
         icon_->setToolTip(tip_);
     }

@@ -6,6 +6,10 @@
 #include "config/wizard.h"
 #include "forms/edited_values.h"
 #include "lang/form_language.h"
+#include "lang/language_pack.h"
+#include "lang/own_digits.h"
+#include "store/face_options.h"
+#include "store/save_change.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
@@ -46,15 +50,34 @@ void ChooseCalendar() {
     edited.options.hijriAdjustment = frmAdjust->cboDays.ListIndex() - kNoDaysAdded;
 }
 
+/// A language without digits of its own leaves the choice as it is.
+void OfferOwnDigits() {
+    CheckBox& box = frmAdjust->chkOwnDigits;
+    box.SetValue(ReadOption(option::kOwnDigits));
+    box.SetEnabled(PackHasOwnDigits());
+    if (!PackHasOwnDigits()) {
+        box.SetToolTipText(GetLangString("adjustments", "NoOwnDigits",
+                                         "The language in use has no digits of its own"));
+    }
+}
+
+void TakeOwnDigits() {
+    const int chosen = frmAdjust->chkOwnDigits.Value();
+    SaveChange(option::kOwnDigits, chosen, 0);
+    ShowOwnDigits(chosen != 0);
+}
+
 void frmAdjust_Load() {
     TranslateOnLoad(*frmAdjust);
     FillAdjustmentLists();
     edited = AcceptedAdjustments();
     values.Show();
+    OfferOwnDigits();
 }
 
 void cmdOK_Click() {
     if (SetAdjustments(edited)) {
+        TakeOwnDigits();
         frmAdjust->Unload();
     }
 }

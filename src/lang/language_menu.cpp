@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
+#include "lang/own_digits.h"
 #include "platform/platform.h"
 #include "windows/frm_main.h"
 
@@ -100,6 +101,7 @@ void mnuL_Click(int index) {
     }
     chosen.SetChecked(true);
     TranslateOnLoad(*frmMain);
+    FollowPackDigits();
 }
 
 void BindLanguageMenu() {

@@ -52,10 +52,10 @@ std::vector<std::string> OtherKeys() {
 /// What a written timetable says; its months and weekdays are numbered.
 std::vector<std::string> TimetableKeys() {
     std::vector<std::string> keys = {
-        "Code",      "Direction", "Title",       "Day",       "Hijri",      "Latitude",
-        "Longitude", "Zone",      "FajrAngle",   "IshaAngle", "AsrRatio",   "Qibla",
-        "Begins",    "Ends",      "MonthPage",   "YearPage",  "MonthTitle", "DayTitle",
-        "Colon",     "Comma",     "DecimalMark", "Clock"};
+        "Code",      "Direction", "Title",     "Day",         "Hijri",      "Latitude",
+        "Longitude", "Zone",      "FajrAngle", "IshaAngle",   "AsrRatio",   "Qibla",
+        "Begins",    "Ends",      "MonthPage", "YearPage",    "MonthTitle", "DayTitle",
+        "Colon",     "Comma",     "Digits",    "DecimalMark", "Clock"};
     keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);
@@ -152,7 +152,7 @@ const std::vector<PackSection>& PackVocabularies() {
         {"adjustments",
          {"Custom", "UsualIn", "ByAngle", "AsOtherwise", "AtSunset", "Minutes", "Arithmetic",
           "UmmAlQura", "RuleNone", "RuleMiddle", "RuleSeventh", "RuleAngle", "RuleNearest",
-          "OutOfRange", "Impossible"}},
+          "OutOfRange", "Impossible", "NoOwnDigits"}},
         {"reminders",
          {"Percent",
           "Seconds",

@@ -9,11 +9,13 @@
 #include "lang/form_language.h"
 #include "lang/language_menu.h"
 #include "lang/language_pack.h"
+#include "lang/own_digits.h"
 #include "platform/platform.h"
 #include "shell/close_face.h"
 #include "shell/face_shape.h"
 #include "shell/public_state.h"
 #include "shell/settings_start.h"
+#include "store/face_options.h"
 #include "store/location_record.h"
 #include "store/stored_values.h"
 #include "windows/frm_main.h"
@@ -41,6 +43,7 @@ void FrmMain_Load() {
     frmMain->tmrUpdate.SetEnabled(true);
     Qibla();
     currentLanguage = ReadStoredLanguage();
+    ShowOwnDigits(ReadOption(option::kOwnDigits) == 1);
     BringFaceUp();
     CenterOnScreen(*frmMain);
     frmMain->Show();

@@ -13,4 +13,7 @@ inline constexpr WholeOption kFaceFullScreen = {"Face Full Screen", 0, 1, 0};
 /// 1: it stays above other windows.
 inline constexpr WholeOption kFaceAbove = {"Face Above", 0, 1, 0};
 
+/// 1: users read numbers in the digits of the pack's language.
+inline constexpr WholeOption kOwnDigits = {"Own Digits", 0, 1, 0};
+
 }  // namespace horavex::option

@@ -1,9 +1,8 @@
 #include "timetables/html_timetable.h"
 
-#include <string_view>
-
 #include "base/markup.h"
 #include "base/rounding.h"
+#include "lang/own_digits.h"
 
 namespace horavex {
 
@@ -39,10 +38,15 @@ tbody th { font-weight: normal; }
 }
 )css";
 
+/// A text for readers, in the digits that they chose.
+std::string Escaped(const std::string& text) {
+    return EscapedForMarkup(InShownDigits(text));
+}
+
 /// Name, value: a value without words runs from left to right in every language.
 std::string Fact(const TimetableWords& words, const std::string& name, const std::string& value) {
-    return "<div><dt>" + EscapedForMarkup(name + words.colon) + "</dt><dd dir=\"auto\">" +
-           EscapedForMarkup(value) + "</dd></div>\n";
+    return "<div><dt>" + Escaped(name + words.colon) + "</dt><dd dir=\"auto\">" + Escaped(value) +
+           "</dd></div>\n";
 }
 
 std::string Facts(const Timetable& table, const TimetableWords& words) {
@@ -64,15 +68,15 @@ std::string MonthId(int month) {
 std::string Contents(const Timetable& table, const TimetableWords& words) {
     std::string items;
     for (int month = 1; month <= 12; ++month) {
-        items += "<li><a href=\"#" + MonthId(month) + "\">" +
-                 EscapedForMarkup(words.MonthAlone(month)) + "</a></li>\n";
+        items += "<li><a href=\"#" + MonthId(month) + "\">" + Escaped(words.MonthAlone(month)) +
+                 "</a></li>\n";
     }
-    return "<nav aria-label=\"" + std::to_string(table.year) + "\"><ol>\n" + items +
+    return "<nav aria-label=\"" + Escaped(std::to_string(table.year)) + "\"><ol>\n" + items +
            "</ol></nav>\n";
 }
 
 std::string HeadCell(const std::string& text) {
-    return "<th scope=\"col\">" + EscapedForMarkup(text) + "</th>";
+    return "<th scope=\"col\">" + Escaped(text) + "</th>";
 }
 
 std::string TableHead(const TimetableDay& day, const TimetableWords& words) {
@@ -90,7 +94,7 @@ std::string TimeCell(const TimetableDay& day, const std::optional<Moment>& momen
     }
     const DayMinute at = MinuteOf(day.date, moment->hours);
     return "<td><time datetime=\"" + IsoDate(CivilFromDate(at.day)) + "T" + IsoTime(at.minute) +
-           "\" dir=\"auto\">" + EscapedForMarkup(words.TimeIn(day, *moment)) + "</time></td>";
+           "\" dir=\"auto\">" + Escaped(words.TimeIn(day, *moment)) + "</time></td>";
 }
 
 std::string RowAttributes(const TimetableDay& day, Date today) {
@@ -100,11 +104,10 @@ std::string RowAttributes(const TimetableDay& day, Date today) {
 }
 
 std::string Row(const TimetableDay& day, const TimetableWords& words, Date today) {
-    const std::string number = std::to_string(CivilFromDate(day.date).day);
+    const std::string number = Escaped(std::to_string(CivilFromDate(day.date).day));
     const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
-    std::string cells = "<th scope=\"row\">" + number + " " +
-                        EscapedForMarkup(words.WeekdayOf(day.date)) + mark + "</th><td>" +
-                        EscapedForMarkup(words.HijriText(day.hijri)) + "</td>";
+    std::string cells = "<th scope=\"row\">" + number + " " + Escaped(words.WeekdayOf(day.date)) +
+                        mark + "</th><td>" + Escaped(words.HijriText(day.hijri)) + "</td>";
     for (const auto& moment : day.Columns()) {
         cells += TimeCell(day, moment, words);
     }
@@ -117,20 +120,19 @@ std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& d
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
-            notes += "<p>* " + std::to_string(CivilFromDate(day.date).day) + words.colon +
-                     EscapedForMarkup(begins ? words.daylightBegins : words.daylightEnds) +
-                     "</p>\n";
+            notes += "<p>* " + Escaped(std::to_string(CivilFromDate(day.date).day)) + words.colon +
+                     Escaped(begins ? words.daylightBegins : words.daylightEnds) + "</p>\n";
         }
     }
     for (const std::string& note : NotesOfDays(table, days)) {
-        notes += "<p>" + EscapedForMarkup(note) + "</p>\n";
+        notes += "<p>" + Escaped(note) + "</p>\n";
     }
     return notes;
 }
 
 std::string Month(const Timetable& table, const TimetableWords& words, int month, Date today) {
     const std::vector<TimetableDay> days = DaysOfMonth(table, month);
-    const std::string title = EscapedForMarkup(words.MonthTitle(table.year, month));
+    const std::string title = Escaped(words.MonthTitle(table.year, month));
     std::string rows;
     for (const TimetableDay& day : days) {
         rows += Row(day, words, today);
@@ -143,17 +145,17 @@ std::string Month(const Timetable& table, const TimetableWords& words, int month
 }  // namespace
 
 std::string HtmlTimetable(const Timetable& table, const TimetableWords& words, Date today) {
-    const std::string title = EscapedForMarkup(words.title) + " " + std::to_string(table.year);
+    const std::string title = Escaped(words.title + " " + std::to_string(table.year));
     std::string months;
     for (int month = 1; month <= 12; ++month) {
         months += Month(table, words, month, today);
     }
-    return "<!DOCTYPE html>\n<html lang=\"" + EscapedForMarkup(words.code) + "\" dir=\"" +
+    return "<!DOCTYPE html>\n<html lang=\"" + Escaped(words.code) + "\" dir=\"" +
            (words.rightToLeft ? "rtl" : "ltr") + "\">\n<head>\n<meta charset=\"utf-8\">\n" +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n<title>" +
-           title + words.comma + EscapedForMarkup(table.place) + "</title>\n<style>" + kStyle +
+           title + words.comma + Escaped(table.place) + "</title>\n<style>" + kStyle +
            "</style>\n</head>\n<body>\n<header>\n<h1>" + title + "</h1>\n<p class=\"place\"><bdi>" +
-           EscapedForMarkup(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
+           Escaped(table.place) + "</bdi></p>\n" + Facts(table, words) + "</header>\n" +
            Contents(table, words) + "<main>\n" + months + "</main>\n</body>\n</html>\n";
 }
 

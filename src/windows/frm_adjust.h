@@ -14,8 +14,8 @@
 namespace horavex {
 
 /// What goes beyond the settings: the method of an authority with its intervals and margins, the
-/// rule of high latitudes and the Hijri date, beside a preview of today. Labels that begin with
-/// lblShown say what the controls beside them stand for.
+/// rule of high latitudes and the Hijri date, beside a preview of today; and the digits of numbers.
+/// Labels that begin with lblShown say what the controls beside them stand for.
 class AdjustForm : public Form {
 public:
     AdjustForm() : Form("frmAdjust", {.caption = "Adjustments", .width = 13200, .height = 6300}) {}
@@ -76,6 +76,12 @@ public:
     Label lblDays{fraHijri, "lblDays", {.caption = "Days added"}};
     ComboBox cboDays{fraHijri, "cboDays", {.items = {"-2", "-1", "0", "+1", "+2"}, .typed = false}};
     Label lblShownHijri{fraHijri, "lblShownHijri"};
+
+    CheckBox chkOwnDigits{*this,
+                          "chkOwnDigits",
+                          {.caption = "Numbers in the digits of the language",
+                           .toolTipText = "Face, windows, notifications and printed pages write "
+                                          "numbers so"}};
 
     CommandButton cmdReset{
         *this,

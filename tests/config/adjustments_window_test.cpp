@@ -10,8 +10,10 @@
 #include "engine/day_driver.h"
 #include "engine/year_table.h"
 #include "lang/language_pack.h"
+#include "lang/own_digits.h"
 #include "lang/pack_keys.h"
 #include "store/city_search.h"
+#include "store/face_options.h"
 #include "store/location_files.h"
 #include "store/options.h"
 #include "store/register.h"
@@ -257,6 +259,34 @@ TEST_F(AdjustmentsTest, TimesAroundTheDayAreSwitchedByABox) {
     EXPECT_EQ(form.chkAroundTheDay.Value(), 1);
     form.cmdReset.UserClick();
     EXPECT_EQ(form.chkAroundTheDay.Value(), 0);
+}
+
+TEST_F(AdjustmentsTest, DigitsOfTheLanguageAreSwitchedByABoxWithOK) {
+    currentLanguage = "Arabic";
+    Open();
+    EXPECT_EQ(form.chkOwnDigits.Value(), 0);
+    EXPECT_TRUE(form.chkOwnDigits.Enabled());
+    form.chkOwnDigits.UserClick();
+    EXPECT_EQ(InShownDigits("12"), "12");
+    form.cmdOK.UserClick();
+    EXPECT_EQ(InShownDigits("12"), "١٢");
+    EXPECT_EQ(StoredOption("Own Digits"), "1");
+    Open();
+    EXPECT_EQ(form.chkOwnDigits.Value(), 1);
+    form.chkOwnDigits.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(InShownDigits("12"), "12");
+    EXPECT_EQ(StoredOption("Own Digits"), "absent");
+}
+
+TEST_F(AdjustmentsTest, LanguageWithoutDigitsOfItsOwnSaysWhyTheyCannotBeChosen) {
+    SaveOption(option::kOwnDigits, 1);
+    currentLanguage = "English";
+    Open();
+    EXPECT_FALSE(form.chkOwnDigits.Enabled());
+    EXPECT_EQ(form.chkOwnDigits.ToolTipText(), "The language in use has no digits of its own");
+    form.cmdOK.UserClick();
+    EXPECT_EQ(StoredOption("Own Digits"), "1") << "the choice waits for a language that has them";
 }
 
 TEST_F(AdjustmentsTest, HijriDateFollowsItsControls) {

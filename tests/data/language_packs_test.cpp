@@ -58,8 +58,9 @@ TEST_F(LanguagePacks, NoKeyIsReadByNothing) {
 
 TEST_F(LanguagePacks, ArabicTextsOfNoFormAreInArabicLetters) {
     const std::set<std::string> withoutWords = {
-        "Code",  "Direction",   "PrayerAt", "Percent",  "MonthTitle",   "DayTitle",    "Colon",
-        "Comma", "DecimalMark", "Clock",    "DayMonth", "DayMonthYear", "ClassInWords"};
+        "Code",     "Direction", "PrayerAt",     "Percent",     "MonthTitle",
+        "DayTitle", "Colon",     "Comma",        "Digits",      "DecimalMark",
+        "Clock",    "DayMonth",  "DayMonthYear", "ClassInWords"};
     currentLanguage = "Arabic";
     for (const PackSection& section : PackVocabularies()) {
         for (const std::string& key : section.keys) {

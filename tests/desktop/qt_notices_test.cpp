@@ -6,6 +6,10 @@
 #include <QDBusArgument>
 
 #include "desktop/notices_fixture.h"
+#include "lang/language_pack.h"
+#include "lang/own_digits.h"
+#include "support/data_folder.h"
+#include "support/test_platform.h"
 
 namespace horavex {
 namespace {
@@ -58,6 +62,17 @@ TEST_F(QtNoticesTest, PictureIsTheEmblem) {
     EXPECT_EQ(bytes.size(), 64 * 256);
     const auto middle = bytes.mid(32 * 256 + 4 * 10, 4);  // the crescent
     EXPECT_EQ(middle, QByteArray("\xe3\xc0\x6c\xff", 4));
+}
+
+TEST_F(QtNoticesTest, TextsHaveTheDigitsOfTheLanguage) {
+    TestPlatform platform;
+    DataFolder(platform.files).Write("lang/Urdu.ini", "[timetables]\nDigits=۰۱۲۳۴۵۶۷۸۹\n");
+    currentLanguage = "Urdu";
+    ShowOwnDigits(true);
+    MakeNotices();
+    Show(kAthan);
+    EXPECT_EQ(service->shown[0].text, "It is ۳:۱۲ PM");
+    ShowOwnDigits(false);
 }
 
 TEST_F(QtNoticesTest, OneOfAKindTakesThePlaceOfTheFormer) {

@@ -130,6 +130,16 @@ TEST_F(ShippedPacks, PatternsHaveTheMarksOfTheEnglishOnes) {
     }
 }
 
+TEST_F(ShippedPacks, NameTenDigitsOfOneSet) {
+    for (const std::string& language : kShippedLanguages) {
+        const std::u32string digits = DecodeUtf8(Text(language, "timetables", "Digits")).value();
+        ASSERT_EQ(digits.size(), 10U) << language;
+        for (std::size_t value = 0; value < digits.size(); ++value) {
+            EXPECT_EQ(digits[value], digits[0] + value) << language;
+        }
+    }
+}
+
 TEST_F(ShippedPacks, HaveEachKeyOnce) {
     for (const std::string& language : kShippedLanguages) {
         std::set<std::string> seen;

@@ -28,11 +28,11 @@ protected:
 
 /// Rows of the table that hold whole numbers.
 std::vector<WholeOption> WholeOptions() {
-    std::vector<WholeOption> options = {option::kAutomaticZone,       option::kIshaInterval,
-                                        option::kIshaIntervalRamadan, option::kHijriAdjustment,
-                                        option::kSunOfTheDay,         option::kAlarm,
-                                        option::kFaceSmall,           option::kFaceFullScreen,
-                                        option::kFaceAbove,           option::kShowRunning};
+    std::vector<WholeOption> options = {
+        option::kAutomaticZone,   option::kIshaInterval,   option::kIshaIntervalRamadan,
+        option::kHijriAdjustment, option::kSunOfTheDay,    option::kAlarm,
+        option::kFaceSmall,       option::kFaceFullScreen, option::kFaceAbove,
+        option::kShowRunning,     option::kOwnDigits};
     options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }
