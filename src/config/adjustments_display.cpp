@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 
-#include "base/number_text.h"
 #include "base/rounding.h"
 #include "calendar/hijri_converter.h"
 #include "config/adjusted_day.h"
@@ -10,6 +9,7 @@
 #include "engine/solar_event.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
+#include "lang/pack_number.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
 #include "windows/frm_adjust.h"
@@ -53,7 +53,7 @@ std::string RuleText(HighLatitudeRule rule) {
 }
 
 std::string DegreesText(double angle) {
-    return NumberToText(angle, Ports().formats.DecimalMark()) + "\u00b0";
+    return PackNumber(angle) + "\u00b0";
 }
 
 std::string MinutesText(const std::string& minutes) {

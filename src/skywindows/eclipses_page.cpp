@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/script.h"
 #include "lang/filled_text.h"
-#include "platform/platform.h"
+#include "lang/pack_number.h"
 #include "sky/local_eclipse.h"
 #include "sky/told_eclipses.h"
 #include "skywindows/sky_words.h"
@@ -42,7 +41,7 @@ std::string BodyName(bool solar) {
 }
 
 std::string MagnitudeText(double magnitude) {
-    return NumberToText(RoundToPlaces(magnitude, 3), Ports().formats.DecimalMark());
+    return PackNumber(RoundToPlaces(magnitude, 3));
 }
 
 /// In brackets where the body is below the horizon.

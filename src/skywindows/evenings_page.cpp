@@ -5,7 +5,7 @@
 #include "base/script.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
-#include "platform/platform.h"
+#include "lang/pack_number.h"
 #include "skywindows/crescent_words.h"
 #include "skywindows/sky_words.h"
 #include "timetables/timetable_words.h"
@@ -27,7 +27,7 @@ std::vector<std::string> EveningHeads() {
 }
 
 std::string PlacesText(double value, int places) {
-    return NumberToText(RoundToPlaces(value, places), Ports().formats.DecimalMark());
+    return PackNumber(RoundToPlaces(value, places));
 }
 
 /// A text of the pack with a number in the place of its mark.

@@ -1,11 +1,11 @@
 #include "skywindows/sky_words.h"
 
-#include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/script.h"
 #include "calendar/date_words.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
+#include "lang/pack_number.h"
 #include "platform/platform.h"
 
 namespace horavex {
@@ -50,7 +50,7 @@ std::string SkyDateAndTime(const ZoneClock& clock, Date universal) {
 }
 
 std::string DegreesText(double degrees) {
-    return NumberToText(RoundToPlaces(degrees, 1), Ports().formats.DecimalMark()) + "\u00b0";
+    return PackNumber(RoundToPlaces(degrees, 1)) + "\u00b0";
 }
 
 std::string DegreesIn(const std::string& text, double degrees) {

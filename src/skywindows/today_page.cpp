@@ -5,7 +5,7 @@
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "lang/filled_text.h"
-#include "platform/platform.h"
+#include "lang/pack_number.h"
 #include "skywindows/sky_words.h"
 
 namespace horavex {
@@ -60,7 +60,7 @@ std::string StandsText(const std::string& body, const HorizonPlace& place) {
 }
 
 std::string TenthsText(double value) {
-    return NumberToText(RoundToPlaces(value, 1), Ports().formats.DecimalMark());
+    return PackNumber(RoundToPlaces(value, 1));
 }
 
 std::string MoonText(const std::string& shape, double age, const SkyMoment& moment) {

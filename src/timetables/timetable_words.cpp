@@ -5,6 +5,7 @@
 #include "engine/moment_text.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
+#include "lang/pack_number.h"
 
 namespace horavex {
 
@@ -44,7 +45,7 @@ void TakeForms(TimetableWords& words) {
     words.minutesPattern = GetLangString("adjustments", "Minutes", "{minutes} min");
     words.colon = Word("Colon", ": ");
     words.comma = Word("Comma", ", ");
-    words.decimalMark = Word("DecimalMark", ".") == "," ? ',' : '.';
+    words.decimalMark = PackDecimalMark();
     words.hasClockOf24Hours = Word("Clock", "12") == "24";
 }
 

@@ -364,6 +364,13 @@ TEST_F(AdjustmentsTest, CancelAndCloseChangeNothing) {
     EXPECT_EQ(form.hsOffset(kFajr).Value(), 0) << "nothing is remembered";
 }
 
+TEST_F(AdjustmentsTest, AnglesHaveTheDecimalMarkOfThePack) {
+    currentLanguage = "German";
+    Open();
+    form.hsFajrAngle.UserSlide(175);
+    EXPECT_EQ(form.lblShownFajrAngle.Caption(), "17,5°");
+}
+
 TEST_F(AdjustmentsTest, ResetLeavesNoOptionAndBothAngles) {
     SaveOption(option::kIshaInterval, 90);
     SaveOption(option::kOffsets[kAsr], 4);

@@ -11,6 +11,7 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 using testing::SizeIs;
+using testing::StartsWith;
 
 class EveningsPageTest : public testing::Test {
 protected:
@@ -36,6 +37,14 @@ TEST_F(EveningsPageTest, HasTheFiguresOfEachEveningAndItsClassesInWords) {
                 ElementsAre("18 February 2026", "06:20 PM", "07:19 PM", "59 min", "27.7 h",
                             "13.3\u00b0", "6.4\u00b0", "13.3\u00b0", "0.42\u2032",
                             "A  easily visible", "A  visible by naked eye"));
+}
+
+TEST_F(EveningsPageTest, FiguresHaveTheDecimalMarkOfThePack) {
+    currentLanguage = "German";
+    const auto cells = EveningsPage(Month(1447, 9), place, 2).rows[2].cells;
+    EXPECT_THAT(cells[4], StartsWith("27,7"));
+    EXPECT_EQ(cells[5], "13,3\u00b0");
+    EXPECT_EQ(cells[8], "0,42\u2032");
 }
 
 TEST_F(EveningsPageTest, SetsOffTheEveningOfTheMap) {
