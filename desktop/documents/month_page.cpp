@@ -6,9 +6,12 @@
 #include <QPainterPath>
 #include <QRawFont>
 #include <QTextLayout>
+#include <numeric>
 
 #include "base/rounding.h"
+#include "desktop/documents/column_widths.h"
 #include "desktop/documents/drawing_steps.h"
+#include "desktop/user_text.h"
 #include "forms/inks.h"
 
 namespace horavex {
@@ -25,17 +28,20 @@ constexpr double kCellPadding = 3.0;
 constexpr double kFootLines = 5.0;
 
 constexpr int kFriday = 5;
-// Shares of the width: the day and the Hijri date, beside 1 for each of the six times.
-constexpr double kDates[] = {1.5, 2.0};
-constexpr double kUsualColumns = 8.0;
-
 const QColor kInk = OnPaper(ink::kPageText);
 const QColor kAccent = OnPaper(ink::kAccent);
 const QColor kShade = OnPaper(ink::kPageShade);
 const QColor kRule = OnPaper(ink::kPageRule);
 
-QString Text(const std::string& text) {
-    return QString::fromStdString(text);
+/// Shares of the width: of the day and the Hijri date, beside 1 for each of six times. Dates keep
+/// their part of the page where more times share the rest.
+std::vector<double> SharesOf(std::size_t columns) {
+    constexpr double kUsualColumns = 8.0;
+    const double more = static_cast<double>(columns) / kUsualColumns;
+    std::vector<double> shares(columns, 1.0);
+    shares[0] = 1.5 * more;
+    shares[1] = 2.0 * more;
+    return shares;
 }
 
 /// A line of text as outlines. A painter that records for a preview would lay each piece of it out
@@ -137,7 +143,7 @@ private:
     void WriteLine(const QString& text, double size, bool bold, const QColor& colour = kInk) {
         UseFont(size, bold);
         const double height = LineHeight(size);
-        Write({area_.left(), top_, area_.width(), height}, text, colour);
+        WriteFitted({area_.left(), top_, area_.width(), height}, text, colour);
         top_ += height;
     }
 
@@ -145,7 +151,7 @@ private:
     QString Fact(const std::string& name, const std::string& value) const {
         static const QChar kIsolate(0x2068);
         static const QChar kEndIsolate(0x2069);
-        return Text(name + Words().colon) + kIsolate + Text(value) + kEndIsolate;
+        return UserText(name + Words().colon) + kIsolate + UserText(value) + kEndIsolate;
     }
 
     static QString Joined(const QStringList& facts) { return facts.join(QStringLiteral("     ")); }
@@ -153,9 +159,9 @@ private:
     void DrawHead() {
         const Timetable& table = year_.table;
         const auto [ishaName, ishaValue] = IshaFact(table, Words());
-        WriteLine(Text(Words().title + " - " + Words().MonthTitle(table.year, month_)), kTitleSize,
-                  true, kAccent);
-        WriteLine(Text(table.place), kPlaceSize, true);
+        WriteLine(UserText(Words().title + " - " + Words().MonthTitle(table.year, month_)),
+                  kTitleSize, true, kAccent);
+        WriteLine(UserText(table.place), kPlaceSize, true);
         WriteLine(Joined({Fact(Words().latitude, Words().DegreesIn(table.latitude)),
                           Fact(Words().longitude, Words().DegreesIn(table.longitude)),
                           Fact(Words().zone, ZoneFact(table, Words()))}),
@@ -169,21 +175,11 @@ private:
         top_ += LineHeight(kTextSize) / 2.0;
     }
 
-    /// Dates keep their part of the page where more times share the rest.
-    double ShareOf(int column) const {
-        return column < 2 ? kDates[column] * columns_ / kUsualColumns : 1.0;
-    }
-
-    QRectF Cell(int column, double height) const {
-        double before = 0.0;
-        double all = 0.0;
-        for (int i = 0; i < columns_; ++i) {
-            before += i < column ? ShareOf(i) : 0.0;
-            all += ShareOf(i);
-        }
+    QRectF Cell(std::size_t column, double height) const {
         const double padding = kCellPadding * point_;
-        return {area_.left() + area_.width() * before / all + padding, top_,
-                area_.width() * ShareOf(column) / all - padding, height};
+        const auto before = widths_.begin() + static_cast<std::ptrdiff_t>(column);
+        return {std::accumulate(widths_.begin(), before, area_.left()) + padding, top_,
+                *before - padding, height};
     }
 
     void DrawRule(const QColor& colour, double width) {
@@ -191,15 +187,56 @@ private:
         painter_.drawLine(QPointF(area_.left(), top_), QPointF(area_.right(), top_));
     }
 
-    void DrawColumnHeads() {
-        UseFont(kTextSize, true);
-        const double height = LineHeight(kTextSize) * 1.2;
-        Write(Cell(0, height), Text(Words().day), kAccent);
-        Write(Cell(1, height), Text(Words().hijri), kAccent);
-        int column = 2;
+    QStringList Heads() const {
+        QStringList heads = {UserText(Words().day), UserText(Words().hijri)};
         for (const std::string& name : Words().Heads(days_.front())) {
-            WriteFitted(Cell(column++, height), Text(name), kAccent);
+            heads << UserText(name);
         }
+        return heads;
+    }
+
+    QStringList Cells(const TimetableDay& day) const {
+        const std::string mark = day.change == DaylightChange::kNone ? "" : " *";
+        QStringList cells = {UserText(std::to_string(CivilFromDate(day.date).day) + " " +
+                                      Words().WeekdayOf(day.date) + mark),
+                             UserText(Words().HijriText(day.hijri))};
+        for (const auto& moment : day.Columns()) {
+            cells << (moment ? UserText(Words().TimeIn(day, *moment)) : QString());
+        }
+        return cells;
+    }
+
+    /// Each column has room for its widest text, in bold as any row may be.
+    std::vector<double> Widths() {
+        UseFont(kTextSize, true);
+        const QFontMetricsF metrics(painter_.font());
+        std::vector<double> needs(static_cast<std::size_t>(Heads().size()), 0.0);
+        const auto take = [&](const QStringList& texts) {
+            for (std::size_t column = 0; column < needs.size(); ++column) {
+                const QString& text = texts[static_cast<qsizetype>(column)];
+                needs[column] = std::max(needs[column], metrics.horizontalAdvance(text));
+            }
+        };
+        take(Heads());
+        for (const TimetableDay& day : days_) {
+            take(Cells(day));
+        }
+        for (double& need : needs) {
+            need += 2.0 * kCellPadding * point_;
+        }
+        return ColumnWidths(needs, SharesOf(needs.size()), area_.width());
+    }
+
+    void WriteRow(const QStringList& texts, double height, const QColor& colour = kInk) {
+        for (qsizetype column = 0; column < texts.size(); ++column) {
+            WriteFitted(Cell(static_cast<std::size_t>(column), height), texts[column], colour);
+        }
+    }
+
+    void DrawColumnHeads() {
+        widths_ = Widths();
+        const double height = LineHeight(kTextSize) * 1.2;
+        WriteRow(Heads(), height, kAccent);
         top_ += height;
         DrawRule(kAccent, 1.0);
     }
@@ -212,7 +249,7 @@ private:
             painter_.fillRect(row, kShade);
         }
         UseFont(kTextSize, friday || today);
-        WriteCells(day, height);
+        WriteRow(Cells(day), height);
         top_ += height;
         DrawRule(kRule, 0.4);
         if (today) {
@@ -222,32 +259,20 @@ private:
         }
     }
 
-    void WriteCells(const TimetableDay& day, double height) {
-        const int number = CivilFromDate(day.date).day;
-        const QString mark = day.change == DaylightChange::kNone ? QString() : QStringLiteral(" *");
-        Write(Cell(0, height),
-              QString::number(number) + QChar(u' ') + Text(Words().WeekdayOf(day.date)) + mark);
-        Write(Cell(1, height), Text(Words().HijriText(day.hijri)));
-        int column = 2;
-        for (const auto& moment : day.Columns()) {
-            WriteFitted(Cell(column++, height),
-                        moment ? Text(Words().TimeIn(day, *moment)) : QString());
-        }
-    }
-
     void DrawFootnotes() {
         top_ += LineHeight(kTextSize) / 4.0;
         for (const TimetableDay& day : days_) {
             if (day.change != DaylightChange::kNone) {
                 const bool begins = day.change == DaylightChange::kBegins;
-                WriteLine(QStringLiteral("* ") + QString::number(CivilFromDate(day.date).day) +
-                              Text(Words().colon +
-                                   (begins ? Words().daylightBegins : Words().daylightEnds)),
+                WriteLine(QStringLiteral("* ") +
+                              UserText(std::to_string(CivilFromDate(day.date).day)) +
+                              UserText(Words().colon +
+                                       (begins ? Words().daylightBegins : Words().daylightEnds)),
                           kTextSize, false);
             }
         }
         for (const std::string& note : NotesOfDays(year_.table, days_)) {
-            WriteLine(Text(note), kTextSize, false);
+            WriteLine(UserText(note), kTextSize, false);
         }
     }
 
@@ -257,8 +282,8 @@ private:
     const PrintedYear& year_;
     int month_;
     std::vector<TimetableDay> days_;
-    int columns_ = 2 + static_cast<int>(days_.front().Columns().size());
-    double top_ = area_.top();  // where the next line begins
+    std::vector<double> widths_;  // of the columns, pixels
+    double top_ = area_.top();    // where the next line begins
 };
 
 }  // namespace
