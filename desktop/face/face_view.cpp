@@ -1,10 +1,12 @@
 #include "desktop/face/face_view.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QShortcut>
+#include <QStyleHints>
 #include <utility>
 
 #include "desktop/face/clock_dial.h"
@@ -148,6 +150,8 @@ void FaceView::MakeTexts() {
     date_ = Place(new TextLine(this, kDateLook), kDate);
     hijriDate_ = Place(new TextLine(this, kDateLook), kHijriDate);
     place_ = Place(new TextLine(this, kPlaceLook), kPlace);
+    place_->setObjectName(QStringLiteral("place"));
+    place_->setCursor(Qt::PointingHandCursor);
     clocks_ = Place(new TextLine(this, kClocksLook), kClocks);
     next_ = Place(new TextLine(this, kNextLook), kNext);
     remaining_ = Place(new CountdownLine(this, kRemainingLook), kRemaining);
@@ -329,10 +333,31 @@ void FaceView::Tell(const char* command) {
     }
 }
 
-// What is no button is a handle to move the window by.
+// What is no button is a handle to move the window by. The place is one only as soon as the pointer
+// moves, for a click on it asks for another place.
 void FaceView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    if (place_->geometry().contains(event->pos())) {
+        pressedAt_ = event->pos();
+    } else {
         Tell("IDC_FS_drag");
+    }
+}
+
+void FaceView::mouseMoveEvent(QMouseEvent* event) {
+    const bool moves = pressedAt_ && (event->pos() - *pressedAt_).manhattanLength() >=
+                                         QGuiApplication::styleHints()->startDragDistance();
+    if (moves) {
+        pressedAt_.reset();
+        Tell("IDC_FS_drag");
+    }
+}
+
+void FaceView::mouseReleaseEvent(QMouseEvent*) {
+    if (std::exchange(pressedAt_, std::nullopt)) {
+        Tell("IDC_FS_place");
     }
 }
 

@@ -56,6 +56,8 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -117,6 +119,7 @@ private:
     TextLine* date_;
     TextLine* hijriDate_;
     TextLine* place_;
+    std::optional<QPoint> pressedAt_;  // on the place, as long as it may become a click
     TextLine* next_;
     CountdownLine* remaining_;
     TextLine* clocks_;

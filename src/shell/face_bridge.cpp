@@ -68,6 +68,7 @@ constexpr FaceCommand kCommands[] = {
     {"IDC_FS_Qibla", [] { frmMain->mnuQibla.UserClick(); }},
     {"IDC_FS_Clock", [] { Ports().shell.OpenDateTimeTool(); }},
     {"IDC_FS_Day", [] { Ports().shell.OpenDateTimeTool(); }},
+    {"IDC_FS_place", [] { frmMain->mnumSettings.UserClick(); }},
     {"IDC_FS_azan", [] { PopUp(frmMain->mnuAthan, 50, kMenuTop); }},
     {"IDC_FS_settings", [] { PopUp(frmMain->mnuSettings, 100, kMenuTop); }},
     {"IDC_FS_tools", [] { PopUp(frmMain->mnuTools, 150, kMenuTop); }},

@@ -68,14 +68,18 @@ protected:
     }
 
     // What lies at the place gets the event, or else what lies behind it.
-    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+    void Mouse(QEvent::Type type, const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
         QWidget* target = View().childAt(at) == nullptr ? &View() : View().childAt(at);
         const QPointF local = target->mapFrom(&View(), at);
-        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, local, target->mapToGlobal(local), button, button,
-                              Qt::NoModifier);
-            QApplication::sendEvent(target, &event);
-        }
+        QMouseEvent event(type, local, target->mapToGlobal(local),
+                          type == QEvent::MouseMove ? Qt::NoButton : button, button,
+                          Qt::NoModifier);
+        QApplication::sendEvent(target, &event);
+    }
+
+    void Click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton) {
+        Mouse(QEvent::MouseButtonPress, at, button);
+        Mouse(QEvent::MouseButtonRelease, at, button);
     }
 
     TestPlatform platform;
@@ -392,6 +396,26 @@ TEST_F(FaceTest, PressOnTheGroundDragsAndTheRightButtonDoesNothing) {
     Click(QPoint(410, 350), Qt::RightButton);
     Click(Button("IDC_FS_azan").geometry().center(), Qt::RightButton);
     EXPECT_EQ(commands.size(), 2U);
+}
+
+TEST_F(FaceTest, ClickOnThePlaceAsksForItOnTheRelease) {
+    const QPoint place = window.findChild<QWidget*>("place")->geometry().center();
+    Mouse(QEvent::MouseButtonPress, place);
+    EXPECT_TRUE(commands.empty());
+    Mouse(QEvent::MouseMove, place + QPoint(2, 1));
+    Mouse(QEvent::MouseButtonRelease, place + QPoint(2, 1));
+    EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_place"});
+    Click(place, Qt::RightButton);
+    EXPECT_EQ(commands.size(), 1U);
+}
+
+TEST_F(FaceTest, DragThatBeginsOnThePlaceMovesTheFaceAndAsksForNothing) {
+    const QPoint place = window.findChild<QWidget*>("place")->geometry().center();
+    Mouse(QEvent::MouseButtonPress, place);
+    Mouse(QEvent::MouseMove, place + QPoint(30, 0));
+    Mouse(QEvent::MouseMove, place + QPoint(60, 0));
+    Mouse(QEvent::MouseButtonRelease, place + QPoint(60, 0));
+    EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_drag"});
 }
 
 TEST_F(FaceTest, MenusStandSideBySideAndFitWhateverTheirTexts) {

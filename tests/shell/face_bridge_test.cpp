@@ -221,6 +221,13 @@ TEST_F(FaceCommandTest, QiblaAndAllTimesAreTheirMenuEntries) {
     EXPECT_THAT(chosen, ElementsAre("qibla", "times"));
 }
 
+TEST_F(FaceCommandTest, PlaceIsTheMenuEntryOfTheSettings) {
+    int times = 0;
+    frmMain->mnumSettings.onClick = [&times] { ++times; };
+    Command("IDC_FS_place");
+    EXPECT_EQ(times, 1);
+}
+
 TEST_F(FaceCommandTest, OtherSpellingsAreIgnored) {
     Command("IDC_FS_CLOSE");
     Command("idc_fs_close");
