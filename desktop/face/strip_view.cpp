@@ -48,9 +48,8 @@ StripView::StripView()
 }
 
 void StripView::ShowDay(const FaceDay& day) {
-    const PrayerEntry& next = day.rows.at(day.next);
-    name_->ShowText(next.name);
-    time_->ShowText(next.time);
+    name_->ShowText(day.rows.at(day.next).name);
+    time_->ShowText(day.cells.at(day.next).time);
     PlaceTexts();
     countdown_->ShowText(CountdownDigits(day.seconds));
     if (day.sky != nullptr && day.sky != sky_) {

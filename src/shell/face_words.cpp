@@ -20,13 +20,11 @@ const std::string& NameOf(std::size_t prayer) {
     return frmMain->lblZoritNameArabic(static_cast<int>(prayer)).Caption();
 }
 
-/// A prayer of tomorrow that comes next stands in its row in place of today's: what is marked is
-/// what is told.
+/// What is marked is what is told: a prayer of tomorrow that comes next stands in its row in place
+/// of today's, and so does an Isha of yesterday that comes after midnight.
 DayMoments ShownMoments(const DayView& day) {
     DayMoments moments = day.moments;
-    if (day.next.isTomorrows) {
-        moments.at(static_cast<std::size_t>(day.next.prayer)) = day.next.moment;
-    }
+    moments.at(static_cast<std::size_t>(day.next.prayer)) = day.next.moment;
     return moments;
 }
 

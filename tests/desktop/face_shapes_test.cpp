@@ -52,6 +52,18 @@ TEST_F(FaceShapesTest, LineHasItsTimeWholeBesideALongName) {
     EXPECT_LT(lines.at(1)->geometry().right(), lines.at(2)->x());
 }
 
+TEST_F(FaceShapesTest, LineNamesThePrayerWhoseTimeLiesBehindMidnight) {
+    face.TakeShape({.small = true});
+    DayView day;
+    day.moments[kIsha] = {24.6};
+    day.moments[kIsha].dayShift = 1;
+    day.next = {kIsha, false, day.moments[kIsha], 60.0};
+    face.ShowDay(day);
+    const auto lines = Strip()->findChildren<TextLine*>();
+    EXPECT_EQ(lines.at(1)->text(), "12:36 AM+1");
+    EXPECT_GE(lines.at(0)->width(), QFontMetrics(FaceFont(17)).horizontalAdvance("Isha"));
+}
+
 TEST_F(FaceShapesTest, ButtonOfTheLineIsNamedAnewInAnotherLanguage) {
     face.TakeShape({.small = true});
     const std::string pack = "[desktop]\nNormalSize=Taille normale\n";

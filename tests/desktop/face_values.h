@@ -16,8 +16,7 @@ inline void TellTimes(Face& face, const std::array<const char*, kPrayerCount>& n
         frmMain->lblZoritNameArabic(static_cast<int>(prayer)).SetCaption(names[prayer]);
         day.moments[prayer].hours = kMinutes[prayer] / 60.0;
     }
-    day.next.prayer = kAsr;
-    day.next.remainingSeconds = 9360.0;
+    day.next = {kAsr, false, day.moments[kAsr], 9360.0};
     face.ShowDay(day);
 }
 

@@ -158,9 +158,19 @@ TEST_F(FaceTest, PrayerOfTomorrowStandsInItsRowInPlaceOfTodays) {
         return QAccessible::queryAccessibleInterface(times)->child(0)->text(QAccessible::Name);
     };
     EXPECT_EQ(firstRow(), "Fajr tomorrow 05:15 AM");
-    day.next.isTomorrows = false;
+    day.next = {kFajr, false, day.moments[kFajr], 3600.0};
     face.ShowDay(day);
     EXPECT_EQ(firstRow(), "Fajr 04:54 AM");
+}
+
+TEST_F(FaceTest, IshaOfYesterdayThatComesAfterMidnightStandsInItsRowAsItIsTold) {
+    DayView day;
+    day.moments[kIsha] = {24.7};
+    day.moments[kIsha].dayShift = 1;
+    day.next = {kIsha, false, {0.75}, 1800.0};
+    const FaceDay told = FaceDayOf(day);
+    EXPECT_EQ(told.rows.at(kIsha).time, "12:45 AM");
+    EXPECT_EQ(told.cells.at(kIsha).time, "12:45 AM");
 }
 
 TEST_F(FaceTest, FastStandsInFrontOfTheCountdown) {
