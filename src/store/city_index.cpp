@@ -1,7 +1,9 @@
 #include "store/city_index.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <numeric>
 #include <string_view>
 #include <utility>
 
@@ -33,17 +35,30 @@ std::uint32_t KeyOf(std::string_view foldedName) {
     return key;
 }
 
-/// Takes bytes into a mark, eight at a time: other bytes give another mark for all that is known,
-/// though not against whoever seeks the same.
-std::uint64_t Mark(ByteView bytes, std::uint64_t mark) {
-    mark ^= bytes.size();
-    for (std::size_t at = 0; at < bytes.size(); at += 8) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, bytes.data() + at, std::min<std::size_t>(8, bytes.size() - at));
-        mark = (mark ^ word) * 0x9E3779B97F4A7C15U;
-        mark ^= mark >> 32U;
+std::uint64_t Mixed(std::uint64_t mark, std::uint64_t word) {
+    mark = (mark ^ word) * 0x9E3779B97F4A7C15U;
+    return mark ^ mark >> 32U;
+}
+
+std::uint64_t WordAt(ByteView bytes, std::size_t at) {
+    std::uint64_t word = 0;
+    if (at < bytes.size()) {
+        std::memcpy(&word, bytes.data() + at, std::min(sizeof word, bytes.size() - at));
     }
-    return mark;
+    return word;
+}
+
+/// Takes bytes into a mark: other bytes give another mark, though not against whoever seeks the
+/// same. Four lanes of words go on beside each other, for the processor waits in one of them.
+std::uint64_t Mark(ByteView bytes, std::uint64_t mark) {
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
+    std::array<std::uint64_t, 4> lanes = {mark, mark + 1, mark + 2, mark + 3};
+    for (std::size_t at = 0; at < bytes.size(); at += lanes.size() * kWord) {
+        for (std::size_t lane = 0; lane < lanes.size(); ++lane) {
+            lanes[lane] = Mixed(lanes[lane], WordAt(bytes, at + lane * kWord));
+        }
+    }
+    return std::accumulate(lanes.begin(), lanes.end(), std::uint64_t{bytes.size()}, Mixed);
 }
 
 /// Of everything that names and places in the list come from.

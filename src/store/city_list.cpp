@@ -1,7 +1,7 @@
 #include "store/city_list.h"
 
 #include <algorithm>
-#include <optional>
+#include <cstring>
 
 #include "base/bytes.h"
 #include "base/fault.h"
@@ -64,37 +64,19 @@ ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const By
     return listed;
 }
 
-/// Reads the countries one by one, as long as the location files are open.
-class CountryWalk {
-public:
-    /// The next one; false behind the last.
-    bool GoOn() {
-        if (++number_ > count_) {
-            return false;
-        }
-        listed_ += country.CityCount;
-        ReadCountry(ToInt16(number_), country);
-        // A damaged index could otherwise list its cities over and over.
-        if (listed_ + country.CityCount > CityCount()) {
-            throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
-        }
-        return true;
-    }
-
-    /// The city at a place of the list of all, which is none before this country; none behind it.
-    std::optional<std::int16_t> CityAt(std::int64_t place) const {
-        return place - listed_ < country.CityCount
-                   ? std::optional(ToInt16(country.FirstCity + place - listed_))
-                   : std::nullopt;
-    }
-
+void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks,
+                 const std::vector<std::string>& otherNames) {
     CountryRecord country;
-
-private:
-    const std::int64_t count_ = CountryCount();
-    std::int64_t number_ = 0;
-    std::int64_t listed_ = 0;  // cities of the countries before
-};
+    ReadCountry(number, country);
+    // A damaged index could otherwise list its cities over and over.
+    if (std::ssize(cities) + country.CityCount > CityCount()) {
+        throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
+    }
+    for (std::int32_t i = 0; i < country.CityCount; ++i) {
+        const std::int16_t city = ToInt16(country.FirstCity + i);
+        cities.push_back(ListCity(city, country.Name, ranks, OtherNamesOf(otherNames, city)));
+    }
+}
 
 /// The lines of a file, one behind the other.
 class LineWalk {
@@ -111,7 +93,10 @@ public:
 
 private:
     std::size_t Length() const {
-        return static_cast<std::size_t>(std::ranges::find(rest_, '\n') - rest_.begin());
+        const void* end = rest_.empty() ? nullptr : std::memchr(rest_.data(), '\n', rest_.size());
+        return end == nullptr
+                   ? rest_.size()
+                   : static_cast<std::size_t>(static_cast<const std::uint8_t*>(end) - rest_.data());
     }
 
     ByteView rest_;  // from the line at_ on
@@ -125,12 +110,9 @@ std::vector<ListedCity> ListCities() {
     OpenLocationFiles();
     const Bytes ranks = ReadRanks();
     const std::vector<std::string> otherNames = OtherNamesOrNone();
-    CountryWalk walk;
-    while (walk.GoOn()) {
-        while (const auto city = walk.CityAt(std::ssize(cities))) {
-            cities.push_back(
-                ListCity(*city, walk.country.Name, ranks, OtherNamesOf(otherNames, *city)));
-        }
+    const std::int64_t count = CountryCount();
+    for (std::int64_t number = 1; number <= count; ++number) {
+        ListCountry(cities, ToInt16(number), ranks, otherNames);
     }
     CloseLocationFiles();
     return cities;
@@ -142,17 +124,18 @@ std::vector<ListedCity> ListCitiesAt(const std::vector<std::uint16_t>& places,
     OpenLocationFiles();
     const Bytes ranks = ReadRanks();
     LineWalk lines(otherNames);
-    CountryWalk walk;
+    std::int16_t number = 1;
+    std::int32_t before = 0;  // cities of the countries before this one
     auto place = places.begin();
-    while (place != places.end() && walk.GoOn()) {
-        for (; place != places.end(); ++place) {
-            const auto city = walk.CityAt(*place);
-            if (!city) {
-                break;
-            }
+    for (const CityRange& range : ReadCityRanges()) {
+        for (; place != places.end() && *place < before + range.count; ++place) {
+            CountryRecord country;
+            const std::int16_t city = ToInt16(range.first + *place - before);
             cities.push_back(
-                ListCity(*city, walk.country.Name, ranks, lines.Line(RecordOf(*city))));
+                ListCity(city, ReadCountry(number, country), ranks, lines.Line(RecordOf(city))));
         }
+        before += range.count;
+        ++number;
     }
     CloseLocationFiles();
     return cities;

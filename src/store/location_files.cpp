@@ -6,6 +6,7 @@
 #include "base/fault.h"
 #include "base/int16.h"
 #include "base/program_state.h"
+#include "platform/platform.h"
 #include "store/indexed_file.h"
 
 namespace horavex {
@@ -13,6 +14,8 @@ namespace horavex {
 namespace {
 
 constexpr std::int64_t kRecordOfCityZero = 32001;
+constexpr const char* kCountryIndex = "Dat\\SI.DAt";
+constexpr std::size_t kCountryLength = 6;
 
 /// An index of records beside the names that it points into.
 struct NameFiles {
@@ -60,7 +63,7 @@ bool HoldsCity(const CountryRecord& country, std::int16_t cityIndex) {
 }  // namespace
 
 void OpenCountryFiles() {
-    Open(countryFiles, "Dat\\SI.DAt", 6, "Dat\\S.DAT");
+    Open(countryFiles, kCountryIndex, kCountryLength, "Dat\\S.DAT");
 }
 
 void CloseCountryFiles() {
@@ -99,6 +102,15 @@ std::string ReadCountry(std::int16_t number, CountryRecord& country) {
     ReadCountryRange(number, country);
     country.Name = ReadName(Opened(countryFiles), number, ShortStart);
     return country.Name;
+}
+
+std::vector<CityRange> ReadCityRanges() {
+    const Bytes records = Ports().programFolder.ReadWhole(kCountryIndex);
+    std::vector<CityRange> ranges;
+    for (std::size_t at = 0; at + kCountryLength <= records.size(); at += kCountryLength) {
+        ranges.push_back({GetInt16(records, at + 2), GetInt16(records, at + 4)});
+    }
+    return ranges;
 }
 
 std::string ReadCity(std::int16_t cityIndex, CityRecord& city) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "store/location_record.h"
 
@@ -37,6 +38,15 @@ std::int64_t CityCount();
 /// Reads a country, number from 1, and returns its name. A number behind the last record comes
 /// back empty.
 std::string ReadCountry(std::int16_t number, CountryRecord& country);
+
+/// The cities of a country.
+struct CityRange {
+    std::int16_t first;  // CityIndex
+    std::int16_t count;
+};
+
+/// Those of all countries in their order, at one go.
+std::vector<CityRange> ReadCityRanges();
 
 /// Reads a city and returns its display name: the name, and with a province ", " and that.
 std::string ReadCity(std::int16_t cityIndex, CityRecord& city);
