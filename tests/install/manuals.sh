@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$1"
 
 pages=share/man/man1
-diff <(ls bin) <(ls $pages | sed 's/\.1$//')
+diff <(ls bin | sort) <(ls $pages | sed 's/\.1$//' | sort)
 for page in "$pages"/*; do
     warnings=$(groff -man -Tutf8 -ww "$page" 2>&1 >/dev/null)
     [ -z "$warnings" ] || {

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# The recipes of the Debian packages fit what is installed: every file is in exactly one package,
+# the version is the program's, and what builds the packages is on the list of the gate.
+#
+# Usage: recipes.sh PACKAGING VERSION LIST...
+set -euo pipefail
+cd "$1"
+version=$2
+shift 2
+failures=0
+fail() {
+    echo "$1"
+    failures=$((failures + 1))
+}
+
+# A package and a file or folder below the prefix a line.
+claims() {
+    for recipe in debian/*.install debian/not-installed; do
+        awk -v package="$(basename "$recipe" .install)" \
+            '/^usr\// { print package, substr($1, 5) }' "$recipe"
+    done
+}
+
+all_claims=$(claims)
+for file in $(grep -hv '^#' "$@"); do
+    owners=$(awk -v file="$file" 'index(file "/", $2 "/") == 1 { print $1 }' <<<"$all_claims" | xargs)
+    [[ $owners =~ ^[a-z-]+$ ]] || fail "$file is in: ${owners:-no package}"
+done
+
+[ "$(sed -n '1s/.*(\(.*\)).*/\1/p' debian/changelog)" = "$version" ] ||
+    fail "debian/changelog does not begin with $version"
+
+for package in $(sed -n '/^Build-Depends:/,/^[^ ]*:/s/^ \([^ ,]*\).*/\1/p' debian/control); do
+    [ "$package" = debhelper-compat ] || grep -qx -- "$package" debian-packages.txt ||
+        fail "$package is not in debian-packages.txt"
+done
+[ "$failures" -eq 0 ]
