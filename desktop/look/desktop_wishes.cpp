@@ -80,9 +80,9 @@ void DesktopWishes::Apply() const {
     if (desktopHasColours_) {
         return;
     }
-    const Theme theme = wantsContrast_ ? Theme::kContrast
-                        : wantsDark_   ? Theme::kDark
-                                       : Theme::kLight;
+    const Theme plain = wantsDark_ ? Theme::kDark : Theme::kLight;
+    const Theme stark = wantsDark_ ? Theme::kContrast : Theme::kLightContrast;
+    const Theme theme = wantsContrast_ ? stark : plain;
     if (QGuiApplication::palette() != PaletteOf(theme)) {
         Use(theme);
     }

@@ -31,6 +31,9 @@ Theme ThemeNamed(const QString& name) {
     if (name == QLatin1String("contrast")) {
         return Theme::kContrast;
     }
+    if (name == QLatin1String("light-contrast")) {
+        return Theme::kLightContrast;
+    }
     return name == QLatin1String("dark") ? Theme::kDark : Theme::kLight;
 }
 

@@ -10,8 +10,8 @@ void PutOn();
 /// Dresses all windows, those that are open too, in a theme.
 void Use(Theme theme);
 
-/// What stands for a theme in the command line of a tool: "light", "dark" or "contrast". Light for
-/// anything else.
+/// What stands for a theme in the command line of a tool: "light", "dark", "contrast" or
+/// "light-contrast". Light for anything else.
 Theme ThemeNamed(const QString& name);
 
 /// The theme that the windows have on, their own or the desktop's.

@@ -2,8 +2,10 @@
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QStyleOption>
+#include <QSlider>
+#include <QTabBar>
 #include <QWidget>
+#include <algorithm>
 
 #include "desktop/look/icons.h"
 #include "desktop/look/look.h"
@@ -36,8 +38,6 @@ QStyle::SubControl PartWithEdge(QStyle::ComplexControl control) {
             return QStyle::SC_SpinBoxFrame;
         case QStyle::CC_ScrollBar:
             return QStyle::SC_ScrollBarSlider;
-        case QStyle::CC_Slider:
-            return QStyle::SC_SliderHandle;
         default:
             return QStyle::SC_None;
     }
@@ -77,6 +77,7 @@ Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
 }
 
 constexpr double kCorner = 2.0;  // radius
+constexpr int kTick = 4;         // length of a slider's marks, pixels
 
 /// The button that Enter presses.
 bool IsDefault(const QStyleOption& option) {
@@ -155,10 +156,70 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_Slider && slider != nullptr && WantsEdges(*option)) {
+        DrawSlider(*slider, *painter, widget);
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     const SubControl part = PartWithEdge(control);
     if (part != SC_None && WantsEdges(*option)) {
         DrawEdge(*option, *painter, subControlRect(control, option, part, widget), kCorner);
+    }
+}
+
+// The lower edge of a tab is that of its page.
+void LookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+    if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth &&
+        WantsEdges(*option)) {
+        painter->save();
+        painter->setClipRect(option->rect);
+        DrawEdge(*option, *painter, option->rect.adjusted(0, 0, 0, 2), kCorner);
+        painter->restore();
+    }
+}
+
+// The handle lies over the groove, whose edge is not that of what has the focus.
+void LookStyle::DrawSlider(const QStyleOptionSlider& option, QPainter& painter,
+                           const QWidget* widget) const {
+    QStyleOptionSlider part = option;
+    part.subControls = SC_SliderGroove;
+    part.state.setFlag(State_HasFocus, false);
+    QProxyStyle::drawComplexControl(CC_Slider, &part, &painter, widget);
+    DrawEdge(part, painter, subControlRect(CC_Slider, &option, SC_SliderGroove, widget), kCorner);
+    if (option.subControls.testFlag(SC_SliderTickmarks)) {
+        DrawTicks(option, painter, widget);
+    }
+    part.subControls = SC_SliderHandle;
+    part.state = option.state;
+    QProxyStyle::drawComplexControl(CC_Slider, &part, &painter, widget);
+    DrawEdge(option, painter, subControlRect(CC_Slider, &option, SC_SliderHandle, widget), kCorner);
+}
+
+void LookStyle::DrawTicks(const QStyleOptionSlider& option, QPainter& painter,
+                          const QWidget* widget) const {
+    const bool goesAcross = option.orientation == Qt::Horizontal;
+    const int room = pixelMetric(PM_SliderSpaceAvailable, &option, widget);
+    const int begin = (goesAcross ? option.rect.x() : option.rect.y()) +
+                      pixelMetric(PM_SliderLength, &option, widget) / 2;
+    const int step = std::max(1, option.tickInterval > 0 ? option.tickInterval : option.pageStep);
+    const auto draw = [&](int along, int across) {
+        painter.drawLine(goesAcross ? QLine(along, across, along, across + kTick)
+                                    : QLine(across, along, across + kTick, along));
+    };
+    painter.setPen(ColourOf(ThemeOf(option.palette), Role::kEdge));
+    for (int value = option.minimum; value <= option.maximum; value += step) {
+        const int along = begin + sliderPositionFromValue(option.minimum, option.maximum, value,
+                                                          room, option.upsideDown);
+        if (option.tickPosition & QSlider::TicksAbove) {
+            draw(along, goesAcross ? option.rect.top() : option.rect.left());
+        }
+        if (option.tickPosition & QSlider::TicksBelow) {
+            draw(along, (goesAcross ? option.rect.bottom() : option.rect.right()) - kTick);
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOption>
 
 namespace horavex::look {
 
@@ -22,6 +23,14 @@ public:
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+
+private:
+    void DrawSlider(const QStyleOptionSlider& option, QPainter& painter,
+                    const QWidget* widget) const;
+    void DrawTicks(const QStyleOptionSlider& option, QPainter& painter,
+                   const QWidget* widget) const;
 };
 
 }  // namespace horavex::look

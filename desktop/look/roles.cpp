@@ -11,24 +11,24 @@ namespace {
 /// A colour in each of the themes.
 struct Shades {
     Role role;
-    std::array<QRgb, 3> values;
+    std::array<QRgb, 4> values;
 };
 
 // By day navy marks on a pale ground, by night gold ones on navy, as on the face.
 constexpr Shades kShades[] = {
-    {Role::kGround, {0xffeef1f5, 0xff17222f, 0xff000000}},
-    {Role::kField, {0xffffffff, 0xff0f1924, 0xff000000}},
-    {Role::kSetOff, {0xffe3ebf4, 0xff223248, 0xff262626}},
-    {Role::kRaised, {0xfff7f9fb, 0xff26374b, 0xff262626}},
-    {Role::kText, {0xff1a1f26, 0xffecebe4, 0xffffffff}},
-    {Role::kMuted, {0xff56616e, 0xffaab6c3, 0xffffffff}},
-    {Role::kOff, {0xff747e8a, 0xff8592a1, 0xffb0b0b0}},
-    {Role::kMarked, {0xff1e4876, 0xffe6c678, 0xffffd75e}},
-    {Role::kMarkedText, {0xffffffff, 0xff17222f, 0xff000000}},
-    {Role::kLink, {0xff1e4876, 0xff8fbbe8, 0xffffe27a}},
-    {Role::kWarning, {0xff8f5a00, 0xffe6c678, 0xffffd75e}},
-    {Role::kTrouble, {0xffb3261e, 0xffff8c78, 0xffff9d8f}},
-    {Role::kEdge, {0xff7b8694, 0xff778a9f, 0xffffffff}},
+    {Role::kGround, {0xffeef1f5, 0xff17222f, 0xff000000, 0xffffffff}},
+    {Role::kField, {0xffffffff, 0xff0f1924, 0xff000000, 0xffffffff}},
+    {Role::kSetOff, {0xffe3ebf4, 0xff223248, 0xff262626, 0xffe6e6e6}},
+    {Role::kRaised, {0xfff7f9fb, 0xff26374b, 0xff262626, 0xfff0f0f0}},
+    {Role::kText, {0xff1a1f26, 0xffecebe4, 0xffffffff, 0xff000000}},
+    {Role::kMuted, {0xff56616e, 0xffaab6c3, 0xffffffff, 0xff000000}},
+    {Role::kOff, {0xff747e8a, 0xff8592a1, 0xffb0b0b0, 0xff595959}},
+    {Role::kMarked, {0xff1e4876, 0xffe6c678, 0xffffd75e, 0xff00296b}},
+    {Role::kMarkedText, {0xffffffff, 0xff17222f, 0xff000000, 0xffffffff}},
+    {Role::kLink, {0xff1e4876, 0xff8fbbe8, 0xffffe27a, 0xff00296b}},
+    {Role::kWarning, {0xff8f5a00, 0xffe6c678, 0xffffd75e, 0xff6b4000}},
+    {Role::kTrouble, {0xffb3261e, 0xffff8c78, 0xffff9d8f, 0xff9c0000}},
+    {Role::kEdge, {0xff7b8694, 0xff778a9f, 0xffffffff, 0xff000000}},
 };
 static_assert(std::size(kShades) == static_cast<std::size_t>(Role::kCount));
 
@@ -73,16 +73,17 @@ QPalette PaletteOf(Theme theme) {
 }
 
 Theme ThemeOf(const QPalette& palette) {
-    if (Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) >
-        kBlackOnWhite) {
-        return Theme::kContrast;
+    const bool isDark = IsDark(palette);
+    if (Contrast(palette.color(QPalette::Active, QPalette::WindowText),
+                 palette.color(QPalette::Active, QPalette::Window)) > kBlackOnWhite) {
+        return isDark ? Theme::kContrast : Theme::kLightContrast;
     }
-    return IsDark(palette) ? Theme::kDark : Theme::kLight;
+    return isDark ? Theme::kDark : Theme::kLight;
 }
 
 bool IsDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() <
-           palette.color(QPalette::WindowText).lightness();
+    return palette.color(QPalette::Active, QPalette::Window).lightness() <
+           palette.color(QPalette::Active, QPalette::WindowText).lightness();
 }
 
 }  // namespace horavex::look

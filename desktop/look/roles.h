@@ -6,7 +6,7 @@
 namespace horavex::look {
 
 /// What all windows are dressed in.
-enum class Theme { kLight, kDark, kContrast };
+enum class Theme { kLight, kDark, kContrast, kLightContrast };
 
 /// What a colour of a window is for.
 enum class Role {
@@ -30,8 +30,8 @@ QColor ColourOf(Theme theme, Role role);
 
 QPalette PaletteOf(Theme theme);
 
-/// The theme that colours are nearest to, be they ours or a desktop's own. Contrast: nothing but
-/// black and white.
+/// The theme that colours are nearest to, be they ours or a desktop's own; whether widgets can be
+/// used now does not count. Contrast: nothing but black and white.
 Theme ThemeOf(const QPalette& palette);
 
 /// Light texts on dark ground.

@@ -97,6 +97,8 @@ TEST_F(DesktopWishesTest, ChangesAreFollowed) {
     portal.Change(kAppearance, "contrast", 1U);
     EXPECT_TRUE(Comes(Theme::kContrast));
     portal.Change(kAppearance, "color-scheme", 2U);
+    EXPECT_TRUE(Comes(Theme::kLightContrast));
+    portal.Change(kAppearance, "color-scheme", 2U);
     portal.Change(kAppearance, "contrast", 0U);
     EXPECT_TRUE(Comes(Theme::kLight));
 }

@@ -44,7 +44,8 @@ QStringList Signs() {
 }
 
 TEST(Icons, SignsAreInTheColourOfTextsOrOfTheirMessage) {
-    for (const Theme theme : {Theme::kLight, Theme::kDark, Theme::kContrast}) {
+    for (const Theme theme :
+         {Theme::kLight, Theme::kDark, Theme::kContrast, Theme::kLightContrast}) {
         const ScopedLook look(theme);
         for (const QString& sign : Signs()) {
             const std::set<QRgb> colours = ColoursOf(PictureOf(IconOf(sign)));

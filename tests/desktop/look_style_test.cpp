@@ -3,11 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStyleOption>
+#include <QTabBar>
 #include <QVBoxLayout>
 
 #include "desktop/look/contrast.h"
@@ -54,7 +61,8 @@ TEST(LookStyle, IsNotWornOverAStyleThatMayPaintInColoursOfItsOwn) {
 }
 
 TEST(LookStyle, DefaultButtonHasAnEdgeOfWhatIsMarked) {
-    for (const Theme theme : {Theme::kLight, Theme::kDark, Theme::kContrast}) {
+    for (const Theme theme :
+         {Theme::kLight, Theme::kDark, Theme::kContrast, Theme::kLightContrast}) {
         const ScopedLook look(theme);
         QDialog window;
         QPushButton button(&window);
@@ -65,7 +73,7 @@ TEST(LookStyle, DefaultButtonHasAnEdgeOfWhatIsMarked) {
 }
 
 TEST(LookStyle, EdgesAreSeenOnDarkGround) {
-    for (const Theme theme : {Theme::kDark, Theme::kContrast}) {
+    for (const Theme theme : {Theme::kDark, Theme::kContrast, Theme::kLightContrast}) {
         const ScopedLook look(theme);
         QWidget window;
         QLineEdit box(&window);
@@ -74,6 +82,100 @@ TEST(LookStyle, EdgesAreSeenOnDarkGround) {
         EXPECT_GE(EdgeOf(button), 3.0);
     }
 }
+
+/// The contrast between the lightest and the darkest dot of a picture.
+double ContrastIn(const QImage& picture) {
+    QColor lightest = picture.pixelColor(0, 0);
+    QColor darkest = lightest;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor dot = picture.pixelColor(x, y);
+            lightest = Contrast(dot, Qt::black) > Contrast(lightest, Qt::black) ? dot : lightest;
+            darkest = Contrast(dot, Qt::white) > Contrast(darkest, Qt::white) ? dot : darkest;
+        }
+    }
+    return Contrast(lightest, darkest);
+}
+
+class SignsOfTheme : public testing::TestWithParam<Theme> {
+protected:
+    /// Of a part of a widget, without its edge.
+    static double Within(QWidget& widget, const QRect& part) {
+        constexpr int kEdge = 3;
+        widget.resize(widget.sizeHint());
+        return ContrastIn(widget.grab(part.adjusted(kEdge, kEdge, -kEdge, -kEdge)).toImage());
+    }
+
+    template <class Option, class Widget>
+    static QRect PartOf(const Widget& widget, QStyle::ComplexControl control,
+                        QStyle::SubControl part) {
+        Option option;
+        option.initFrom(&widget);
+        option.subControls = QStyle::SC_All;
+        return widget.style()->subControlRect(control, &option, part, &widget);
+    }
+
+    const ScopedLook look{GetParam()};
+    QWidget window;
+};
+
+TEST_P(SignsOfTheme, MarksOfBoxesAreSeen) {
+    for (QAbstractButton* box : std::initializer_list<QAbstractButton*>{
+             new QCheckBox(&window), new QRadioButton(&window)}) {
+        box->setCheckable(true);
+        box->setChecked(true);
+        box->resize(box->sizeHint());
+        EXPECT_GE(Within(*box, box->rect()), 3.0) << box->metaObject()->className();
+    }
+}
+
+TEST_P(SignsOfTheme, ArrowsAreSeen) {
+    QComboBox combo(&window);
+    combo.resize(combo.sizeHint());
+    EXPECT_GE(Within(combo, PartOf<QStyleOptionComboBox>(combo, QStyle::CC_ComboBox,
+                                                         QStyle::SC_ComboBoxArrow)),
+              3.0);
+    QSpinBox spin(&window);
+    spin.resize(spin.sizeHint());
+    const QRect arrows(spin.width() - 16, 0, 16, spin.height());
+    EXPECT_GE(Within(spin, arrows), 3.0);
+}
+
+TEST_P(SignsOfTheme, TicksOfASliderAreSeen) {
+    if (GetParam() == Theme::kLight) {
+        return;  // the toolkit's own
+    }
+    for (const auto orientation : {Qt::Horizontal, Qt::Vertical}) {
+        QSlider slider(orientation, &window);
+        slider.setTickPosition(QSlider::TicksBothSides);
+        slider.resize(slider.sizeHint());
+        const QImage picture = slider.grab().toImage();
+        const bool goesAcross = orientation == Qt::Horizontal;
+        const QImage upper = goesAcross ? picture.copy(0, 0, picture.width(), 2)
+                                        : picture.copy(0, 0, 2, picture.height());
+        const QImage lower = goesAcross ? picture.copy(0, picture.height() - 2, picture.width(), 2)
+                                        : picture.copy(picture.width() - 2, 0, 2, picture.height());
+        EXPECT_GE(ContrastIn(upper), 3.0);
+        EXPECT_GE(ContrastIn(lower), 3.0);
+    }
+}
+
+TEST_P(SignsOfTheme, WhatCannotBeUsedHasAnEdgeToo) {
+    if (GetParam() == Theme::kLight) {
+        return;
+    }
+    QSpinBox spin(&window);
+    spin.setEnabled(false);
+    EXPECT_GE(EdgeOf(spin), 3.0);
+    QTabBar tabs(&window);
+    tabs.addTab(QStringLiteral("one"));
+    tabs.resize(tabs.sizeHint());
+    EXPECT_GE(EdgeOf(tabs), 3.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Themes, SignsOfTheme,
+                         testing::Values(Theme::kLight, Theme::kDark, Theme::kContrast,
+                                         Theme::kLightContrast));
 
 }  // namespace
 }  // namespace horavex::look

@@ -131,12 +131,14 @@ TEST_P(EveryTheme, ChartOfAYearIsReadable) {
 }
 
 std::string NameOf(const testing::TestParamInfo<Theme>& theme) {
-    constexpr std::array kNames = {"Light", "Dark", "Contrast"};
+    constexpr std::array kNames = {"Light", "Dark", "Contrast", "LightContrast"};
     return kNames.at(static_cast<std::size_t>(theme.param));
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, EveryTheme,
-                         testing::Values(Theme::kLight, Theme::kDark, Theme::kContrast), NameOf);
+                         testing::Values(Theme::kLight, Theme::kDark, Theme::kContrast,
+                                         Theme::kLightContrast),
+                         NameOf);
 
 TEST(Inks, OnPaperAreReadableAndTheirOwn) {
     for (const Colour& text : {ink::kPageText, ink::kAccent}) {
@@ -165,6 +167,10 @@ TEST(ThemeOf, SeesThroughTheColoursOfADesktop) {
     EXPECT_EQ(ThemeOf(QPalette(QColor(45, 48, 53))), Theme::kDark);
     EXPECT_EQ(ThemeOf(QPalette(QColor(239, 239, 239))), Theme::kLight);
     EXPECT_EQ(ThemeOf(QPalette(Qt::black)), Theme::kContrast);
+    EXPECT_EQ(ThemeOf(QPalette(Qt::white)), Theme::kLightContrast);
+    QPalette unused = PaletteOf(Theme::kContrast);
+    unused.setCurrentColorGroup(QPalette::Disabled);
+    EXPECT_EQ(ThemeOf(unused), Theme::kContrast);
 }
 
 TEST(Look, DressesTheWindowsOfTheProgram) {
@@ -181,6 +187,7 @@ TEST(Look, KnowsThemesByTheirNames) {
     EXPECT_EQ(ThemeNamed("light"), Theme::kLight);
     EXPECT_EQ(ThemeNamed("dark"), Theme::kDark);
     EXPECT_EQ(ThemeNamed("contrast"), Theme::kContrast);
+    EXPECT_EQ(ThemeNamed("light-contrast"), Theme::kLightContrast);
     EXPECT_EQ(ThemeNamed(""), Theme::kLight);
 }
 
