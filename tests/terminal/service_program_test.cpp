@@ -3,7 +3,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +15,8 @@
 #include "e2e/harness/sink_recording.h"
 #include "e2e/harness/sound_server.h"
 #include "e2e/harness/wait_until.h"
+#include "linux/replace_file.h"
+#include "store/settings_record.h"
 #include "support/build_folder.h"
 #include "support/bus_configuration.h"
 #include "support/child_process.h"
@@ -25,6 +29,7 @@ namespace fs = std::filesystem;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 constexpr const char* kBeforeAsr = "2026-11-21 12:10:00";  // in Mecca 15:10
 
@@ -48,6 +53,20 @@ protected:
         std::ofstream(home / "config/horavex/registry.ini", std::ios::app)
             << "[Software\\\\Horavex\\\\Options]\n"
             << name << '=' << value << '\n';
+    }
+
+    /// Stores the settings that are installed, with a change.
+    void StoreSettings(const std::function<void(SettingsRecord&)>& change) const {
+        const Bytes installed = BytesOf(ContentOf(BuiltProgramFolder() + "/Dat/AI.DAT"));
+        SettingsBytes bytes{};
+        std::copy_n(installed.begin(), bytes.size(), bytes.begin());
+        SettingsRecord record = DecodeSettings(bytes);
+        change(record);
+        bytes = EncodeSettings(record);
+        fs::create_directories(home / "data/horavex/Dat");
+        for (const std::string name : {"AI.DAT", "Settings.DAT"}) {
+            ReplaceFile(home / ("data/horavex/Dat/" + name), Bytes(bytes.begin(), bytes.end()));
+        }
     }
 
     /// Starts it and waits until it answers on the bus.
@@ -161,6 +180,44 @@ TEST_F(ServiceProgramTest, WithoutAPlaceItSaysHowToChooseOneAndStoresNothing) {
         Log(),
         EndsWith("no place has been chosen: choose one with horavex-terminal or with horavex\n"));
     EXPECT_FALSE(fs::exists(home / "config"));
+}
+
+TEST_F(ServiceProgramTest, DamagedSettingsAreToldAndSoundForNoOtherPlace) {
+    StoreSettings([](SettingsRecord& record) { record.CityIndex = 30000; });
+    ChildProcess program = Launch("service");
+    EXPECT_EQ(program.Wait(), 2);
+    EXPECT_THAT(Log(), HasSubstr("settings"));
+    EXPECT_THAT(Log(), HasSubstr("no place has been chosen"));
+}
+
+TEST_F(ServiceProgramTest, AlarmIsALineAndIsStoppedOverTheBus) {
+    constexpr std::int16_t kQuarterPastThree = 183;  // units of five minutes
+    StoreSettings([](SettingsRecord& record) { record.AlarmTime = kQuarterPastThree; });
+    const SoundServer server;
+    server.InstallIn(variables);
+    const SinkRecording recording(server);
+    const ChildProcess program = Start();
+    clock.Set("2026-11-21 12:15:00");
+    WaitForLog("03:15 PM : ");
+    recording.WaitForSound();
+    EXPECT_EQ(Ctl({"athan", "stop"}).status, 0);
+    recording.Continue(1.0);
+    const std::size_t beeps = SoundsIn(recording.Taken()).size();
+    recording.Continue(4.0);  // a beep comes every three seconds
+    EXPECT_EQ(SoundsIn(recording.Taken()).size(), beeps);
+}
+
+TEST_F(ServiceProgramTest, JournalGetsTheWeightOfEachLine) {
+    std::ofstream(home / "service.err").close();
+    struct stat status = {};
+    ::stat((home / "service.err").c_str(), &status);
+    variables["JOURNAL_STREAM"] =
+        std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+    ChildProcess program = Start();
+    program.Signal(SIGTERM);
+    program.Wait();
+    EXPECT_THAT(Log(), StartsWith("<5>Horavex "));
+    EXPECT_THAT(Log(), EndsWith("\n<5>ends: SIGTERM\n"));
 }
 
 TEST_F(ServiceProgramTest, SecondOneSaysSoAndEnds) {
