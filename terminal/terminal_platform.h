@@ -11,10 +11,10 @@
 #include "linux/system_network.h"
 #include "linux/zone_database.h"
 #include "platform/absent_desktop.h"
-#include "platform/fixed_formats.h"
 #include "platform/fixed_whereabouts.h"
 #include "platform/platform.h"
 #include "terminal/ports/bus_reader.h"
+#include "terminal/ports/pack_formats.h"
 #include "terminal/ports/poll_event_loop.h"
 
 namespace horavex {
@@ -44,7 +44,7 @@ private:
     SystemClock clock_;
     PosixFiles files_;
     ProgramFolder folder_;
-    FixedFormats formats_;
+    PackFormats formats_;
     RegistryFile registry_;
     InstanceLock instanceLock_;
     SystemNetwork network_;
