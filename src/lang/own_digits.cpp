@@ -15,11 +15,13 @@ namespace horavex {
 namespace {
 
 constexpr char32_t kPlainZero = U'0';
+constexpr char32_t kArabicZero = U'\u0660';
 constexpr char32_t kBase = 10;
+constexpr char32_t kLeftToRightMark = U'\u200e';
 
 /// Sets that a text may come with whatever is shown, a time in the form of the user's locale for
 /// one: plain, Arabic, Persian and Urdu, Bengali.
-constexpr std::array<char32_t, 4> kKnownZeros = {kPlainZero, U'\u0660', U'\u06f0', U'\u09e6'};
+constexpr std::array<char32_t, 4> kKnownZeros = {kPlainZero, kArabicZero, U'\u06f0', U'\u09e6'};
 
 bool ownDigitsAreWanted = false;
 char32_t shownZero = kPlainZero;
@@ -66,8 +68,15 @@ bool BeginsPath(std::u32string_view word) {
 
 using Letters = std::u32string::iterator;
 
+/// "A4", "UTF-8", and what ends like a file: "2026.pdf". A unit may follow its number: "11min".
+bool IsName(std::u32string_view word) {
+    const std::size_t point = word.find(U'.');
+    return IsLatin(word.front()) ||
+           (point != word.npos && point + 1 < word.size() && IsLatin(word[point + 1]));
+}
+
 void TurnWord(Letters begin, Letters end, char32_t zero) {
-    if (std::none_of(begin, end, IsLatin)) {
+    if (!IsName({begin, end})) {
         std::transform(begin, end, begin, [zero](char32_t letter) { return InSet(letter, zero); });
     }
 }
@@ -83,12 +92,52 @@ void TurnLine(Letters begin, Letters end, char32_t zero) {
     }
 }
 
-void TurnText(std::u32string& letters, char32_t zero) {
+/// Whether the first letter is one of a script that runs from left to right.
+bool RunsFromLeft(std::u32string_view line) {
+    constexpr char32_t kFirstFromRight = U'\u0590';
+    constexpr char32_t kLastFromRight = U'\u08ff';
+    const auto isStrong = [](char32_t letter) {
+        const bool fromRight = letter >= kFirstFromRight && letter <= kLastFromRight;
+        return IsLatin(letter) || (fromRight && InSet(letter, kPlainZero) == letter);
+    };
+    const auto first = std::ranges::find_if(line, isStrong);
+    return first != line.end() && IsLatin(*first);
+}
+
+/// Whether what lies behind a number leads to another one by blanks and marks alone. What joins the
+/// parts of one number does not.
+bool LeadsToNumber(std::u32string_view rest, char32_t zero) {
+    if (rest.empty() || !(IsBlank(rest.front()) || rest.front() == U',')) {
+        return false;
+    }
+    const std::size_t next = rest.find_first_not_of(U" \t\u00a0,;-\u2013/");
+    return next != rest.npos && ValueIn(rest[next], zero);
+}
+
+/// Arabic numbers with nothing but marks between them run from the right even where a line runs
+/// from the left: "April 4, 2026" would have its year first. A mark of direction keeps their order.
+std::u32string InOrder(std::u32string_view line, char32_t zero) {
+    std::u32string ordered;
+    const bool keepsOrder = zero == kArabicZero && RunsFromLeft(line);
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        ordered += line[at];
+        if (keepsOrder && ValueIn(line[at], zero) && LeadsToNumber(line.substr(at + 1), zero)) {
+            ordered += kLeftToRightMark;
+        }
+    }
+    return ordered;
+}
+
+std::u32string Turned(std::u32string letters, char32_t zero) {
+    std::u32string turned;
     for (Letters line = letters.begin(); line != letters.end();) {
         const Letters behind = std::find_if(line, letters.end(), EndsLine);
         TurnLine(line, behind, zero);
+        turned += InOrder({line, behind}, zero);
         line = std::find_if_not(behind, letters.end(), EndsLine);
+        turned.append(behind, line);
     }
+    return turned;
 }
 
 std::string Utf8Of(const std::u32string& letters) {
@@ -108,12 +157,8 @@ void Show(char32_t zero) {
 }  // namespace
 
 std::string WithDigits(const std::string& text, char32_t zero) {
-    auto letters = DecodeUtf8(text);
-    if (!letters) {
-        return text;
-    }
-    TurnText(*letters, zero);
-    return Utf8Of(*letters);
+    const auto letters = DecodeUtf8(text);
+    return letters ? Utf8Of(Turned(*letters, zero)) : text;
 }
 
 char32_t ZeroOfPack() {

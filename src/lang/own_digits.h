@@ -10,7 +10,7 @@ namespace horavex {
 // front end.
 
 /// A text with the digits of all its numbers from a set, which its zero tells: U'٠' for the Arabic
-/// one. Words with a letter of ASCII keep theirs ("A4", "UTF-8", "2026.pdf"), and so does what
+/// one. Names keep theirs ("A4", "UTF-8", "2026.pdf"), and so does what
 /// begins like a path or holds an address, to the end of its line. A text that is no UTF-8 stays
 /// as it is.
 std::string WithDigits(const std::string& text, char32_t zero);

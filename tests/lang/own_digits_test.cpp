@@ -34,8 +34,17 @@ TEST(WithDigits, MakesOneSetOfSeveral) {
     EXPECT_EQ(WithDigits("٣ ۴ ৫ 6", U'0'), "3 4 5 6");
 }
 
-TEST(WithDigits, LeavesWordsOfLatinLettersAlone) {
-    EXPECT_EQ(WithDigits("A4, 2026.pdf, v4.1 و 12", kArabic), "A4, 2026.pdf, v4.1 و ١٢");
+TEST(WithDigits, LeavesNamesAlone) {
+    EXPECT_EQ(WithDigits("في A4, 2026.pdf, v4.1 و 12", kArabic), "في A4, 2026.pdf, v4.1 و ١٢");
+    EXPECT_EQ(WithDigits("1hrs 11min", kBengali), "১hrs ১১min") << "units are no names";
+}
+
+TEST(WithDigits, ArabicNumbersKeepTheirOrderInALineThatRunsFromTheLeft) {
+    const std::string shown = "April ٤\u200e, ٢٠٢٦ at ٠٥:١٢";
+    EXPECT_EQ(WithDigits("April 4, 2026 at 05:12", kArabic), shown);
+    EXPECT_EQ(WithDigits(shown, kArabic), shown);
+    EXPECT_EQ(WithDigits("4، 2026 أبريل April", kArabic), "٤، ٢٠٢٦ أبريل April");
+    EXPECT_EQ(WithDigits("April 4, 2026", kUrdu), "April ۴, ۲۰۲۶");
 }
 
 TEST(WithDigits, LeavesPathsAndAddressesAloneToTheEndOfTheirLine) {

@@ -3,6 +3,7 @@
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "lang/language_pack.h"
+#include "lang/own_digits.h"
 #include "store/around_options.h"
 #include "timetables/sample_timetable.h"
 
@@ -51,6 +52,19 @@ TEST_F(HtmlTimetableTest, RowTellsTheDayInBothCalendarsAndTheTimesInTheUsersForm
         Page(),
         HasSubstr("<tr><th scope=\"row\">1 Thursday</th><td>12  1447</td>"
                   "<td><time datetime=\"2026-01-01T05:00\" dir=\"auto\">05:00 AM</time></td>"));
+}
+
+TEST_F(HtmlTimetableTest, ReadersHaveTheDigitsOfTheLanguageAndOtherProgramsPlainOnes) {
+    data.Write("lang/Bengali.ini", "[timetables]\nDigits=০১২৩৪৫৬৭৮৯\n");
+    currentLanguage = "Bengali";
+    ShowOwnDigits(true);
+    const std::string page = Page();
+    EXPECT_THAT(
+        page,
+        HasSubstr("<tr><th scope=\"row\">১ Thursday</th><td>১২  ১৪৪৭</td>"
+                  "<td><time datetime=\"2026-01-01T05:00\" dir=\"auto\">০৫:০০ AM</time></td>"));
+    EXPECT_THAT(page, HasSubstr("<h1>Prayer times ২০২৬</h1>"));
+    EXPECT_THAT(page, HasSubstr("<a href=\"#month-1\">"));
 }
 
 TEST_F(HtmlTimetableTest, IntervalIsToldInThePlaceOfTheAngleThatDoesNotCount) {
