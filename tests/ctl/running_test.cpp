@@ -241,6 +241,18 @@ TEST_F(RunningTest, FollowedItTellsTheNextMinuteWhenItBegins) {
     EXPECT_EQ(Follow("0:01\n"), "0:02\n0:01\n");
 }
 
+TEST_F(RunningTest, FollowedItAsksAProgramAgainThatDoesNotAnswer) {
+    const ChildProcess child = Start({"status", "--follow"});
+    EXPECT_TRUE(WaitUntil("its patience's end", [&] {
+        return std::atoi(TimerOf(child).c_str()) > 0;
+    })) << ContentOf(folder / "complaint");
+    EXPECT_EQ(ContentOf(folder / "told"), "");
+    ToldState state = DayInCairo();
+    state.athanPlaying = true;
+    broadcast->Publish(state);
+    EXPECT_EQ(Follow("\n"), "Asr 14:38\n");
+}
+
 TEST_F(RunningTest, FollowedItFailsWithOneLineWhenTheBusEnds) {
     ChildProcess child = Start({"status", "--follow"});
     Follow("\n");
