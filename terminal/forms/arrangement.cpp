@@ -69,14 +69,13 @@ Arrangement::Widths Arrangement::WidthsOf(const LayoutNode& node) const {
     if (node.kind == Kind::kGrid) {
         std::size_t used = 0;
         for (const Widths& column : GridColumns(node)) {
+            inside.least += std::max(column.least, 0);
             inside.wanted += column.wanted;
             inside.widens = inside.widens || column.widens;
             used += column.wanted > 0 ? 1 : 0;
         }
+        inside.least += GapsBetween(used);
         inside.wanted += GapsBetween(used);
-        for (const LayoutNode& child : node.children) {
-            inside.least = std::max(inside.least, WidthsOf(child).least);
-        }
     } else {
         for (const LayoutNode& child : node.children) {
             const Widths one = WidthsOf(child);
