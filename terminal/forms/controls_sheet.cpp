@@ -113,12 +113,20 @@ void ControlsSheet::DrawFrame(Cells& screen, const Area& window, int whole) {
         screen.Put(window.row + window.height - 2, right, "▾", Tone::kAccent);
     }
     const Widget* const focused = Focused();
-    const std::string hint = isFront && focused != nullptr ? focused->Hint() : std::string();
+    const std::string hint = isFront && focused != nullptr ? HintOf(*focused) : std::string();
     if (!hint.empty()) {
         screen.Fill({screen.Rows() - 1, 0, 1, screen.Columns()});
         screen.PutCentred(screen.Rows() - 1, 0, Clipped(hint, screen.Columns() - 2), Tone::kFaint,
                           screen.Columns());
     }
+}
+
+/// The names of the labels that it stands by, which may be far away in a narrow window, and what is
+/// told about it.
+std::string ControlsSheet::HintOf(const Widget& widget) const {
+    const std::string names = CaptionsOf(Shown(), widget.Node().Property("namedBy"));
+    const std::string told = widget.Hint();
+    return names + (names.empty() || told.empty() ? "" : " · ") + told;
 }
 
 int ControlsSheet::Choose(const std::vector<std::string>& texts, int chosen,

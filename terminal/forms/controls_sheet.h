@@ -47,6 +47,7 @@ private:
     int ArrangeIn(int width, int height);
     void KeepFocusInView(int rows);
     void DrawInside(Cells& inside);
+    std::string HintOf(const Widget& widget) const;
     void DrawFrame(Cells& screen, const Area& window, int rows);
 
     LayoutNode layout_;

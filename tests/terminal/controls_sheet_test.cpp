@@ -30,7 +30,8 @@ constexpr const char* kLayout = R"(<ui><widget class="QWidget" name="sample">
   </layout></item>
   <item><widget class="QGroupBox" name="fraMore"><layout class="QVBoxLayout" name="inside">
    <item><widget class="QCheckBox" name="chkAlarm"/></item>
-   <item><widget class="QScrollBar" name="hsAngle"/></item>
+   <item><widget class="QScrollBar" name="hsAngle">
+    <property name="namedBy"><string notr="true">fraMore lblName</string></property></widget></item>
    <item><widget class="QLabel" name="lblShown"/></item>
    <item><widget class="QComboBox" name="cboMethod"/></item>
   </layout></widget></item>
@@ -145,6 +146,12 @@ TEST_F(ControlsSheetTest, BlankTicksABoxAndItsHintIsTold) {
     screen.Type(" ");
     EXPECT_EQ(form.chkAlarm.Value(), 1);
     EXPECT_THAT(screen.Text(), HasSubstr("[x] Alarm"));
+}
+
+TEST_F(ControlsSheetTest, LabelsOfAControlAreToldWhileItHasTheFocus) {
+    form.Show();
+    GoTo(form.hsAngle);
+    EXPECT_THAT(screen.Rows().back(), HasSubstr("More, Name"));
 }
 
 TEST_F(ControlsSheetTest, ArrowKeysMoveABarWithinItsLimits) {
