@@ -2,6 +2,7 @@
 
 #include "platform/windows.h"
 #include "terminal/forms/form_sheets.h"
+#include "terminal/ports/no_printer.h"
 
 namespace horavex {
 
@@ -18,7 +19,7 @@ public:
     void Activate(const std::string& form) override;
     void SetForeground(const std::string& form) override { Activate(form); }
     void SetTopMost(const std::string&, bool) override {}
-    void Print(const std::string&) override {}  // no printer is spoken to from here
+    void Print(const std::string&) override { SayNoPrinter(); }
 
 private:
     FormSheets& sheets_;

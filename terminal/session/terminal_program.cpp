@@ -25,6 +25,7 @@
 #include "terminal/ports/terminal_windows.h"
 #include "terminal/screen/curses_screen.h"
 #include "terminal/terminal_platform.h"
+#include "timetables/document_tools.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
@@ -147,6 +148,8 @@ private:
 int RunTerminalProgram() {
     TerminalSession session;
     InstallSoundTools({KindOfSoundFile, FlacOf});
+    const auto sayNoPrinter = [](const PrintedYear&, int) { SayNoPrinter(); };
+    InstallDocumentTools({.previewMonth = sayNoPrinter, .printMonth = sayNoPrinter});
     BindWindows();
     if (!session.Start()) {
         return EXIT_FAILURE;
