@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/utf8.h"
+#include "lang/own_digits.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -117,7 +118,7 @@ bool TextWidget::Press(const KeyPress& key) {
     bool kept = false;
     const auto text = line_.After(key, box_.Text(), kept);
     if (text) {
-        box_.UserEdit(*text);
+        box_.UserEdit(InPlainDigits(*text));
     }
     return kept;
 }
@@ -232,7 +233,7 @@ bool ComboWidget::Press(const KeyPress& key) {
     bool kept = false;
     const auto text = line_.After(key, box_.Text(), kept);
     if (text) {
-        box_.UserEdit(*text);
+        box_.UserEdit(InPlainDigits(*text));
     }
     return kept;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "lang/own_digits.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -27,7 +28,8 @@ void Cells::Set(int row, int column, Cell cell) {
 
 // A character of two columns is not written over the right edge, where it has one.
 void Cells::Put(int row, int column, std::string_view text, const Look& look, int width) {
-    for (const Glyph& glyph : GlyphsOf(Clipped(text, std::min(width, columns_ - column)))) {
+    const std::string shown = InShownDigits(std::string(text));
+    for (const Glyph& glyph : GlyphsOf(Clipped(shown, std::min(width, columns_ - column)))) {
         Set(row, column, {glyph.text, look});
         if (glyph.width == 2) {
             Set(row, column + 1, {"", look});

@@ -66,7 +66,8 @@ public:
     int Columns() const { return columns_; }
     const Cell& At(int row, int column) const;
 
-    /// Writes a text of one line in at most the given columns, cut with an ellipsis.
+    /// Writes a text of one line in at most the given columns, cut with an ellipsis, in the digits
+    /// that users chose.
     void Put(int row, int column, std::string_view text, const Look& look = {}, int width = 10000);
 
     /// The same from the right edge of so many columns.

@@ -13,6 +13,9 @@
 #include "forms/list.h"
 #include "forms/range.h"
 #include "forms/text_box.h"
+#include "lang/language_pack.h"
+#include "lang/own_digits.h"
+#include "support/data_folder.h"
 #include "terminal/desk_screen.h"
 
 namespace horavex {
@@ -119,6 +122,18 @@ TEST_F(ControlsSheetTest, ControlsThatTakeNoUserArePassedOver) {
     screen.Press(KeyCode::kTab);
     EXPECT_TRUE(form.hsAngle.HasFocus());
     EXPECT_EQ(screen.LookOf("[ ] Alarm").tone, Tone::kFaint);
+}
+
+TEST_F(ControlsSheetTest, NumbersAreShownInTheDigitsOfTheLanguageAndTypedInEither) {
+    DataFolder(platform.files).Write("lang/Bengali.ini", "[timetables]\nDigits=০১২৩৪৫৬৭৮৯\n");
+    currentLanguage = "Bengali";
+    ShowOwnDigits(true);
+    form.lblShown.SetCaption("18.5");
+    form.Show();
+    screen.Type("1২");
+    EXPECT_EQ(form.txtName.Text(), "12");
+    EXPECT_THAT(screen.Text(), HasSubstr("১২"));
+    EXPECT_THAT(screen.Text(), HasSubstr("১৮.৫"));
 }
 
 TEST_F(ControlsSheetTest, TextIsTypedAtTheCursor) {
