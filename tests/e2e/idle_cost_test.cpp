@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "e2e/harness/faked_clock.h"
+#include "e2e/harness/status_notifier_host.h"
 #include "e2e/harness/test_desktop.h"
 #include "e2e/harness/wait_until.h"
 
@@ -67,6 +68,16 @@ public:
         desktop.Use({"xdotool", "windowminimize", face});
     }
 
+    /// Into the notification area, which a panel must have. The face may still be moving.
+    void Hide() const {
+        const std::string face = desktop.WaitForWindow(*program_, "Horavex");
+        WaitUntil("a hidden face", [&] {
+            desktop.Click(face, 397, 23);
+            std::this_thread::sleep_for(kLookEvery);
+            return !desktop.IsOnView(*program_, face);
+        });
+    }
+
     void Watch() { before_ = CostOf(*program_); }
 
     /// Of one core, in percent.
@@ -96,6 +107,9 @@ protected:
         dawn.Start();
         minimised.Start();
         minimised.Minimise();
+        hidden.Start();
+        panel.AwaitIcon();
+        hidden.Hide();
         line.StoreOption("Face Small");
         line.Start();
         fullScreen.StoreOption("Face Full Screen");
@@ -107,12 +121,14 @@ protected:
     Scene visible{"face on view"};
     Scene dawn{"face at dawn, by a faked clock"};
     Scene minimised{"face minimised"};
+    Scene hidden{"face in the notification area"};
+    StatusNotifierHost panel{hidden.desktop};
     Scene line{"face as a line"};
     Scene fullScreen{"face over the whole screen"};
 };
 
 TEST_F(IdleCostTest, FaceTakesLessThanHalfAPercentOfACoreInEachShape) {
-    Scene* const scenes[] = {&bare, &visible, &dawn, &minimised, &line, &fullScreen};
+    Scene* const scenes[] = {&bare, &visible, &dawn, &minimised, &hidden, &line, &fullScreen};
     std::this_thread::sleep_for(kSettling);
     for (Scene* scene : scenes) {
         scene->Watch();
