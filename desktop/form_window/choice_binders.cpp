@@ -106,6 +106,7 @@ ComboBoxBinder::ComboBoxBinder(Control& bound, QWidget& boundWidget, RefreshLate
     : BinderOf(bound, boundWidget, std::move(refreshLater)) {
     connect(&widget, &QComboBox::activated, this,
             [this](int row) { Hand([this, row] { control.UserSelect(row); }); });
+    connect(&widget, &QComboBox::currentTextChanged, this, [this] { TellWhole(); });
     widget.setEditable(control.Typed());
     if (control.Typed()) {
         widget.setInsertPolicy(QComboBox::NoInsert);  // the list is the form's
@@ -124,6 +125,14 @@ void ComboBoxBinder::Show() {
         ShowTyped(*widget.lineEdit());
     } else {
         widget.setCurrentIndex(control.ListIndex());
+        TellWhole();  // another language may have come
+    }
+}
+
+// A long choice may have less room than its text.
+void ComboBoxBinder::TellWhole() {
+    if (!control.Typed() && control.ToolTipText().empty()) {
+        widget.setToolTip(widget.currentText());
     }
 }
 

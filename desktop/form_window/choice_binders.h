@@ -64,6 +64,7 @@ protected:
 private:
     void ShowItems();
     void ShowRefusals();
+    void TellWhole();
     void ShowTyped(QLineEdit& line);
     bool eventFilter(QObject* watched, QEvent* event) override;
 

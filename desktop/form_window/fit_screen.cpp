@@ -31,6 +31,17 @@ void MakeInnerLayoutsTell(const QWidget& window) {
     });
 }
 
+/// Texts that wrap may want more height at a width than at their narrowest.
+QSize LeastSize(const QWidget& window) {
+    const QSize least = window.minimumSizeHint();
+    const QLayout* layout = window.layout();
+    if (layout == nullptr || !layout->hasHeightForWidth()) {
+        return least;
+    }
+    const int width = std::max(least.width(), window.width());
+    return {least.width(), std::max(least.height(), layout->totalMinimumHeightForWidth(width))};
+}
+
 }  // namespace
 
 QSize WholeSize(QWidget& window) {
@@ -40,7 +51,7 @@ QSize WholeSize(QWidget& window) {
         area->setMinimumSize(WholeContent(*area));
     }
     MakeInnerLayoutsTell(window);
-    const QSize size = window.minimumSizeHint();
+    const QSize size = LeastSize(window);
     for (QScrollArea* area : areas) {
         area->setMinimumSize(0, 0);
     }

@@ -4,10 +4,10 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QWindow>
 #include <utility>
 
@@ -189,7 +189,8 @@ void FormWindow::Flush() {
 
 // A window that a user has made smaller stays so until it has more to show.
 void FormWindow::GrowWithContent() {
-    if (!isVisible() || placedByProgram_ || findChild<QScrollArea*>() == nullptr) {
+    if (!isVisible() || placedByProgram_ || layout() == nullptr ||
+        layout()->sizeConstraint() == QLayout::SetFixedSize) {
         return;
     }
     const QSize former = std::exchange(whole_, WholeSize(*this));

@@ -24,6 +24,17 @@ void LabelBinder::Show() {
     const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
     widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                         Qt::AlignVCenter);
+    MakeRoom();
+}
+
+// What a layout states keeps its columns still, and must not cut a longer text.
+void LabelBinder::MakeRoom() {
+    if (!widget.wordWrap() && !least_.isNull()) {
+        widget.ensurePolished();
+        const QSize room = least_.expandedTo(widget.sizeHint());
+        widget.setMinimumSize(least_.width() > 0 ? room.width() : 0,
+                              least_.height() > 0 ? room.height() : 0);
+    }
 }
 
 void LabelBinder::Clicked() {

@@ -44,6 +44,11 @@ public:
 protected:
     void Show() override;
     void Clicked() override;
+
+private:
+    void MakeRoom();
+
+    const QSize least_ = widget.minimumSize();  // as the layout states it
 };
 
 class CommandButtonBinder : public BinderOf<CommandButton, QPushButton> {

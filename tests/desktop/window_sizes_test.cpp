@@ -52,7 +52,7 @@ struct Language {
 };
 
 constexpr Language kLanguages[] = {
-    {"Arabic", 4},     {"English", 1}, {"French", 2},  {"German", 3},
+    {"Arabic", 4},     {"Bengali", 1}, {"English", 1}, {"French", 2}, {"German", 3},
     {"Indonesian", 1}, {"Spanish", 5}, {"Turkish", 1}, {"Urdu", 1},
 };
 
@@ -228,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(LanguagesAndTextSizes, WindowSizesTest,
                          });
 
 struct WindowKeysTest : WindowsOfTheProgram {
-    WindowKeysTest() : WindowsOfTheProgram(kLanguages[1], 1.0) {}
+    WindowKeysTest() : WindowsOfTheProgram(kLanguages[2], 1.0) {}
 
     void PressEscape(const Form& form) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
