@@ -175,7 +175,7 @@ TEST_F(FaceWindowsTest, NameOfTheFullScreenIsToldWhenItChangesAlone) {
     namesTold = 0;
     Tick();
     EXPECT_EQ(namesTold, 0);
-    EXPECT_EQ(Poster()->accessibleName(), "Asr 12:00 AM");
+    EXPECT_EQ(Poster()->accessibleName(), "Asr 03:00 PM");
     QAccessible::installUpdateHandler(former);
 }
 
