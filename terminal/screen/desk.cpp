@@ -19,6 +19,11 @@ void DrawTooSmall(Cells& screen) {
 
 Desk::Desk(Show show, Later later) : show_(std::move(show)), later_(std::move(later)) {}
 
+// A sheet that ends takes itself away, which must not be from a list that is ending.
+Desk::~Desk() {
+    const auto held = std::exchange(sheets_, {});
+}
+
 void Desk::SetSize(int rows, int columns) {
     cells_ = Cells(rows, columns);
     Invalidate();

@@ -18,6 +18,9 @@ public:
     using Later = std::function<void(std::function<void()>)>;
 
     Desk(Show show, Later later);
+    ~Desk();
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
 
     /// Rows and columns of the terminal.
     void SetSize(int rows, int columns);
