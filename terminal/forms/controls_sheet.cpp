@@ -187,7 +187,9 @@ void ControlsSheet::PressElsewhere(const KeyPress& key) {
             Shown().UserHelp();
             break;
         case KeyCode::kCharacter:
-            PressAccessKey(key.character);
+            if (key.alt) {
+                PressAccessKey(key.character);
+            }
             break;
         default:
             break;

@@ -156,6 +156,9 @@ void ControlsSheet::TurnPages(int step) {
 /// pages.
 bool ControlsSheet::PressAccessKey(char32_t letter) {
     const auto capital = static_cast<char32_t>(::towupper(static_cast<wint_t>(letter)));
+    if (capital == 0) {
+        return false;  // control and blank; a widget without a key has none either
+    }
     for (const bool onView : {true, false}) {
         for (const auto& widget : widgets_) {
             const Control* control = widget->Bound();

@@ -22,7 +22,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kEscapeDelay = 25;    // milliseconds in which a key's sequence comes whole
+constexpr int kEscapeDelay = 100;   // milliseconds in which a key's sequence comes whole
 constexpr int kDefaultColour = -1;  // of the terminal itself
 
 /// Colours by their numbers in a terminal: of the 16 that each user has chosen, so that they suit
@@ -111,8 +111,6 @@ std::optional<KeyCode> CodeOf(wint_t key) {
             return KeyCode::kF9;
         case KEY_F(10):
             return KeyCode::kF10;
-        case KEY_F(11):
-            return KeyCode::kF11;
         default:
             return std::nullopt;
     }
@@ -136,23 +134,36 @@ KeyPress CharacterPress(wint_t character) {
     }
 }
 
-/// The next key. The escape key and another one at once are that one with Alt.
+/// The escape key, or a character with Alt, which comes as both at once. Any other key behind the
+/// escape key stays to be read.
+KeyPress EscapeOrAlt() {
+    wint_t next = 0;
+    const int kind = ::get_wch(&next);
+    if (kind == KEY_CODE_YES) {
+        ::ungetch(static_cast<int>(next));
+    } else if (kind == OK) {
+        const KeyPress press = CharacterPress(next);
+        if (press.code == KeyCode::kCharacter) {
+            return CharacterKey(press.character, true);
+        }
+        ::unget_wch(static_cast<wchar_t>(next));
+    }
+    return {KeyCode::kEscape};
+}
+
+/// The next key that the program has a use for; nothing where none has come.
 std::optional<KeyPress> NextKey() {
     wint_t key = 0;
-    const int kind = ::get_wch(&key);
-    if (kind == KEY_CODE_YES) {
-        const auto code = CodeOf(key);
-        return code ? KeyPress{*code} : KeyPress{};
+    for (int kind = ::get_wch(&key); kind != ERR; kind = ::get_wch(&key)) {
+        if (kind == OK) {
+            const KeyPress press = CharacterPress(key);
+            return press.code == KeyCode::kEscape ? EscapeOrAlt() : press;
+        }
+        if (const auto code = CodeOf(key)) {
+            return KeyPress{*code};
+        }
     }
-    if (kind != OK) {
-        return std::nullopt;
-    }
-    KeyPress press = CharacterPress(key);
-    if (press.code == KeyCode::kEscape && ::get_wch(&key) == OK) {
-        press = CharacterPress(key);
-        press.alt = press.code == KeyCode::kCharacter;
-    }
-    return press;
+    return std::nullopt;
 }
 
 /// Texts are UTF-8, whatever the environment says.
@@ -184,7 +195,9 @@ CursesScreen::CursesScreen() {
     ::nonl();
     ::keypad(stdscr, TRUE);
     ::nodelay(stdscr, TRUE);
-    ::set_escdelay(kEscapeDelay);
+    if (IsUnset("ESCDELAY")) {
+        ::set_escdelay(kEscapeDelay);
+    }
     SetUpColours();
 }
 
@@ -279,6 +292,10 @@ void CursesScreen::Leave() {
 
 void CursesScreen::Return() {
     isLeft_ = false;
+    Redraw();
+}
+
+void CursesScreen::Redraw() {
     ::clearok(stdscr, TRUE);
     ::refresh();
 }

@@ -45,6 +45,9 @@ public:
     void Leave();
     void Return();
 
+    /// Writes the whole screen anew, over what another program has written there.
+    void Redraw();
+
     void Beep();
 
 private:

@@ -45,6 +45,10 @@ bool Desk::Holds(const Sheet& sheet) const {
                        [&](const auto& held) { return held.get() == &sheet; });
 }
 
+bool Desk::IsTooSmall() const {
+    return cells_.Rows() < kLeastRows || cells_.Columns() < kLeastColumns;
+}
+
 void Desk::Invalidate() {
     if (!std::exchange(invalid_, true)) {
         later_([this] { Draw(); });
@@ -56,7 +60,7 @@ void Desk::Draw() {
         return;
     }
     cells_ = Cells(cells_.Rows(), cells_.Columns());
-    if (cells_.Rows() < kLeastRows || cells_.Columns() < kLeastColumns) {
+    if (IsTooSmall()) {
         DrawTooSmall(cells_);
     } else {
         for (const auto& sheet : std::vector(sheets_)) {
@@ -68,6 +72,9 @@ void Desk::Draw() {
 }
 
 void Desk::Press(const KeyPress& key) {
+    if (IsTooSmall()) {
+        return;  // nobody sees what a key would do
+    }
     if (sheets_.empty()) {
         if (onKeyOnEmpty) {
             onKeyOnEmpty();

@@ -50,6 +50,8 @@ public:
     std::function<void()> onKeyOnEmpty;
 
 private:
+    /// There is no room to show any sheet.
+    bool IsTooSmall() const;
     void TurnToNext();
 
     Show show_;

@@ -24,7 +24,6 @@ enum class KeyCode {
     kF6,
     kF9,
     kF10,
-    kF11,
 };
 
 /// One key that a user has pressed.

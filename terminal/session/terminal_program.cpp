@@ -24,6 +24,7 @@
 #include "terminal/ports/terminal_shell.h"
 #include "terminal/ports/terminal_windows.h"
 #include "terminal/screen/curses_screen.h"
+#include "terminal/session/typed_keys.h"
 #include "terminal/terminal_platform.h"
 #include "timetables/document_tools.h"
 #include "windows/frm_main.h"
@@ -31,6 +32,8 @@
 namespace horavex {
 
 namespace {
+
+constexpr char32_t kRedraw = U'\f';  // Control-L
 
 /// Everything that stands between the user's terminal and the program.
 class TerminalSession {
@@ -85,7 +88,13 @@ private:
         if (!screen_.HasInput()) {
             loop_.EndProcess();
         }
-        screen_.ReadKeys([this](const KeyPress& key) { desk_.Press(key); });
+        screen_.ReadKeys([this](const KeyPress& key) { typed_.Add(key); });
+    }
+
+    /// Keys go by what is to be seen.
+    void Press(const KeyPress& key) {
+        desk_.Draw();
+        key.Is(kRedraw) ? screen_.Redraw() : desk_.Press(key);
     }
 
     void TakeSignals() {
@@ -114,7 +123,7 @@ private:
     }
 
     CursesScreen screen_;  // the first to come and the last to go
-    SignalPipe signals_{{SIGTERM, SIGINT, SIGHUP, SIGWINCH, SIGTSTP, SIGCONT}};
+    SignalPipe signals_{{SIGTERM, SIGINT, SIGQUIT, SIGHUP, SIGWINCH, SIGTSTP, SIGCONT}};
     PollEventLoop loop_{[this] {
         notices_.Leave();
         screen_.Leave();
@@ -139,6 +148,7 @@ private:
         [this](PollEventLoop::Action action) { loop_.Post(std::move(action)); }};
     TerminalPlatform platform_{
         loop_, {dialogs_, face_, windows_, tray_, shell_, athanFace_, notices_, broadcast_}};
+    TypedKeys typed_{loop_, [this](const KeyPress& key) { Press(key); }};
     PollEventLoop::Reader keys_;
     PollEventLoop::Reader signalled_;
 };

@@ -229,6 +229,28 @@ TEST_F(ControlsSheetTest, AltAndALetterReachAControl) {
     EXPECT_TRUE(form.txtName.HasFocus()) << "what the label stands before";
 }
 
+TEST_F(ControlsSheetTest, LetterWithoutAltReachesNoControl) {
+    int accepted = 0;
+    form.cmdOK.onClick = [&] { ++accepted; };
+    form.Show();
+    GoTo(form.chkAlarm);
+    screen.Type("o");
+    EXPECT_EQ(accepted, 0);
+    EXPECT_TRUE(form.chkAlarm.HasFocus());
+}
+
+TEST_F(ControlsSheetTest, NoCharacterIsTheKeyOfAControlWithoutOne) {
+    form.cmdOK.SetCaption("OK");
+    int accepted = 0;
+    form.cmdOK.onClick = [&] { ++accepted; };
+    form.Show();
+    GoTo(form.hsAngle);
+    screen.PressAlt(0);
+    EXPECT_EQ(accepted, 0);
+    EXPECT_EQ(form.chkAlarm.Value(), 0);
+    EXPECT_TRUE(form.hsAngle.HasFocus());
+}
+
 TEST_F(ControlsSheetTest, EnterPressesTheDefaultButtonAndEscapeTheOther) {
     int accepted = 0;
     int cancelled = 0;
@@ -331,6 +353,8 @@ TEST_F(ControlsSheetTest, TooSmallATerminalSaysWhatItNeeds) {
     form.Show();
     screen.SetSize(10, 30);
     EXPECT_THAT(screen.Rows(), Contains(HasSubstr("Horavex: 40 × 16")));
+    screen.Type("unseen");
+    EXPECT_EQ(form.txtName.Text(), "");
     screen.SetSize(24, 80);
     EXPECT_THAT(screen.Text(), HasSubstr("Sample"));
 }

@@ -177,7 +177,7 @@ TEST_F(TerminalProgramTest, EndGivesTheTerminalBack) {
 
 TEST_F(TerminalProgramTest, SignalsEndItInOrder) {
     StoreSettings();
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGQUIT, SIGHUP}) {
         VirtualTerminal terminal({}, variables);
         terminal.WaitFor("Next Athan: Asr");
         terminal.Signal(signal);
@@ -196,6 +196,45 @@ TEST_F(TerminalProgramTest, StopGivesTheTerminalBackForAWhile) {
     terminal.WaitUntil([&](const std::string&) { return terminal.IsOnOtherScreen(); },
                        "the return");
     terminal.WaitFor("Next Athan: Asr");
+}
+
+TEST_F(TerminalProgramTest, KeyBehindTheEscapeKeyIsNotLost) {
+    StoreSettings();
+    VirtualTerminal terminal({}, variables);
+    terminal.WaitFor("Next Athan: Asr");
+    OpenSettingsMenu(terminal);
+    terminal.Type(std::string(key::kEscape) + key::kF10);
+    terminal.WaitFor("Athan Now");
+}
+
+TEST_F(TerminalProgramTest, KeyWithoutUseHoldsUpNoneBehindIt) {
+    StoreSettings();
+    VirtualTerminal terminal({}, variables);
+    terminal.WaitFor("Next Athan: Asr");
+    terminal.Type(std::string(key::kF2) + key::kF10);
+    terminal.WaitFor("Athan Now");
+}
+
+TEST_F(TerminalProgramTest, EscapeKeyIsWaitedOutAsLongAsTheUserHasSet) {
+    StoreSettings();
+    variables["ESCDELAY"] = "60000";
+    VirtualTerminal terminal({}, variables);
+    terminal.WaitFor("Next Athan: Asr");
+    terminal.Type(key::kEscape);
+    terminal.WaitForSilence();
+    terminal.Type("[21~");  // the rest of F10
+    terminal.WaitFor("Athan Now");
+}
+
+TEST_F(TerminalProgramTest, ControlAndLDrawTheWholeScreenAnew) {
+    StoreSettings();
+    VirtualTerminal terminal({}, variables);
+    terminal.WaitFor("Next Athan: Asr");
+    const std::size_t before = CountOf("Next Athan: Asr", terminal.Written());
+    terminal.Type("\f");
+    terminal.WaitUntil(
+        [&](const std::string&) { return CountOf("Next Athan: Asr", terminal.Written()) > before; },
+        "the screen anew");
 }
 
 TEST_F(TerminalProgramTest, NoColourIsWrittenWhereNoneIsWanted) {

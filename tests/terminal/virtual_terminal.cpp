@@ -91,14 +91,13 @@ bool VirtualTerminal::ReadMore(int milliseconds) {
 
 std::string VirtualTerminal::WaitUntil(const std::function<bool(const std::string&)>& isSo,
                                        const std::string& what) {
-    constexpr int kTurn = 200;  // milliseconds
     const auto end = std::chrono::steady_clock::now() + kPatience;
     bool runs = true;
     while (!isSo(Text())) {
         if (!runs || std::chrono::steady_clock::now() > end) {
             throw std::runtime_error("waited in vain: " + what + "\n" + Text());
         }
-        runs = ReadMore(kTurn);
+        runs = ReadMore();
     }
     return Text();
 }
@@ -111,6 +110,14 @@ std::string VirtualTerminal::WaitFor(const std::string& text) {
 std::string VirtualTerminal::WaitForNo(const std::string& text) {
     return WaitUntil([&](const std::string& screen) { return screen.find(text) == screen.npos; },
                      "no " + text);
+}
+
+void VirtualTerminal::WaitForSilence() {
+    std::size_t before = 0;
+    do {
+        before = written_.size();
+        ReadMore();
+    } while (written_.size() > before);
 }
 
 void VirtualTerminal::Type(const std::string& keys) const {
@@ -131,8 +138,7 @@ void VirtualTerminal::Signal(int signal) const {
 }
 
 int VirtualTerminal::Wait() {
-    constexpr int kTurn = 200;  // milliseconds
-    while (ReadMore(kTurn)) {
+    while (ReadMore()) {
     }
     int status = 0;
     ::waitpid(std::exchange(process_, -1), &status, 0);

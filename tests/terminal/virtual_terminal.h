@@ -29,6 +29,10 @@ public:
     std::string WaitFor(const std::string& text);
     std::string WaitForNo(const std::string& text);
 
+    /// Waits until the program has nothing to write for a fifth of a second, which is longer than
+    /// it takes for a key.
+    void WaitForSilence();
+
     /// Types characters, or the sequences below.
     void Type(const std::string& keys) const;
 
@@ -48,11 +52,13 @@ public:
     bool IsOnOtherScreen() const { return isOnOtherScreen_; }
 
 private:
+    static constexpr int kTurn = 200;  // milliseconds
+
     struct FreeScreen {
         void operator()(VTerm* terminal) const { ::vterm_free(terminal); }
     };
 
-    bool ReadMore(int milliseconds);
+    bool ReadMore(int milliseconds = kTurn);
     static int OnProperty(VTermProp property, VTermValue* value, void* self);
 
     pid_t process_ = -1;
@@ -72,6 +78,7 @@ inline constexpr const char* kLeft = "\x1bOD";
 inline constexpr const char* kTab = "\t";
 inline constexpr const char* kEnter = "\r";
 inline constexpr const char* kEscape = "\x1b";
+inline constexpr const char* kF2 = "\x1bOQ";
 inline constexpr const char* kF10 = "\x1b[21~";
 
 }  // namespace key
