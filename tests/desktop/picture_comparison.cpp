@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
+#include <utility>
 
 namespace horavex {
 
@@ -21,22 +23,41 @@ QRgb Pale(QRgb dot) {
     return qRgb(pale(qRed(dot)), pale(qGreen(dot)), pale(qBlue(dot)));
 }
 
+constexpr int kSquare = 32;  // dots
+
+/// How many dots differ in each square, by its upper left corner in halves of a square.
+using Squares = std::map<std::pair<int, int>, int>;
+
+/// Counts a dot in the four squares that it lies in.
+void Count(int x, int y, Squares& squares) {
+    constexpr int kHalf = kSquare / 2;
+    for (const int left : {x / kHalf - 1, x / kHalf}) {
+        for (const int top : {y / kHalf - 1, y / kHalf}) {
+            ++squares[{left, top}];
+        }
+    }
+}
+
 }  // namespace
 
 PictureDifference Compare(const QImage& kept, const QImage& present) {
     if (kept.size() != present.size()) {
-        return {1.0, present};
+        return {kSquare * kSquare, present};
     }
-    PictureDifference difference{0.0, present.convertToFormat(QImage::Format_ARGB32)};
-    int differing = 0;
+    PictureDifference difference{0, present.convertToFormat(QImage::Format_ARGB32)};
+    Squares squares;
     for (int y = 0; y < present.height(); ++y) {
         for (int x = 0; x < present.width(); ++x) {
             const bool differs = Differ(kept.pixel(x, y), present.pixel(x, y));
-            differing += differs ? 1 : 0;
+            if (differs) {
+                Count(x, y, squares);
+            }
             difference.marked.setPixel(x, y, differs ? kMark : Pale(present.pixel(x, y)));
         }
     }
-    difference.share = double(differing) / (double(present.width()) * present.height());
+    for (const auto& [corner, dots] : squares) {
+        difference.dots = std::max(difference.dots, dots);
+    }
     return difference;
 }
 

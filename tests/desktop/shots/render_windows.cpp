@@ -1,14 +1,18 @@
 // Draws the program's windows into PNG files, one a scene, and what they have on one sheet, for
 // people who look at them. The bytes are the same at each run.
 //
-//     render_windows --output FOLDER [--language English] [--theme light|dark|contrast]
+//     render_windows --output FOLDER [--language English] [--theme light]
 //                    [--scale 1|2] [--font-scale 1.5] [--scene NAME]... [--sheet FILE] [--list]
+//
+// Ends with 1 where a picture cannot be drawn, with 2 for a scene that there is not.
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFont>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <stdexcept>
 
 #include "desktop/application.h"
 #include "desktop/look/look.h"
@@ -21,6 +25,7 @@ namespace {
 using namespace horavex;
 
 constexpr double kPointSize = 10.0;
+constexpr int kWrongUse = 2;  // the exit status
 
 void Pin(const char* variable, const std::string& value) {
     setenv(variable, value.c_str(), 1);
@@ -57,7 +62,7 @@ void DescribeOptions(QCommandLineParser& parser) {
     parser.addOptions({
         {"output", "Folder of the pictures.", "folder"},
         {"language", "Name of a language pack.", "name", "English"},
-        {"theme", "light, dark or contrast.", "theme", "light"},
+        {"theme", "light, dark, contrast or light-contrast.", "theme", "light"},
         {"scale", "Dots a pixel: 1 or 2.", "dots", "1"},
         {"font-scale", "Size of the texts, 1 for usual.", "factor", "1"},
         {"scene", "This scene alone; may be given again.", "name"},
@@ -73,11 +78,19 @@ void UseFont(double scale) {
     QApplication::setFont(font);
 }
 
+/// Throws std::invalid_argument for a name that no scene has.
 std::vector<Scene> ChosenScenes(const QStringList& names) {
-    std::vector<Scene> chosen = Scenes();
-    std::erase_if(chosen, [&](const Scene& scene) {
-        return !names.isEmpty() && !names.contains(QString::fromStdString(scene.name));
-    });
+    if (names.isEmpty()) {
+        return Scenes();
+    }
+    std::vector<Scene> chosen;
+    for (const QString& name : names) {
+        const auto scene = std::ranges::find(Scenes(), name.toStdString(), &Scene::name);
+        if (scene == Scenes().end()) {
+            throw std::invalid_argument("no scene " + name.toStdString());
+        }
+        chosen.push_back(*scene);
+    }
     return chosen;
 }
 
@@ -119,6 +132,9 @@ int main(int argc, char** argv) {
     QDir().mkpath(options.value("output"));
     try {
         return Draw(options);
+    } catch (const std::invalid_argument& fault) {
+        std::fprintf(stderr, "render_windows: %s\n", fault.what());
+        return kWrongUse;
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "render_windows: %s\n", fault.what());
         return EXIT_FAILURE;
