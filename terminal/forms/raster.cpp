@@ -4,6 +4,8 @@
 #include <cmath>
 #include <string>
 
+#include "terminal/screen/glyphs.h"
+
 namespace horavex {
 
 namespace {
@@ -184,7 +186,9 @@ void Raster::Put(Cells& cells, CellPlace to, bool inOneColour) const {
         }
     }
     for (const Text& text : texts_) {
-        cells.Put(to.row + text.row, to.column + text.column, text.words);
+        const int column = std::clamp(text.column, 0, std::max(0, columns_ - WidthOf(text.words)));
+        cells.Put(to.row + std::clamp(text.row, 0, rows_ - 1), to.column + column, text.words, {},
+                  columns_ - column);
     }
 }
 

@@ -47,6 +47,14 @@ TEST_F(RasterTest, LightnessStandsForColoursThatAreNotThere) {
     EXPECT_THAT(cells.Texts(), ElementsAre("██··", "██··"));
 }
 
+TEST_F(RasterTest, TextsStayInside) {
+    Raster raster(2, 4);
+    raster.Draw({TextStep{{300.0, 0.0}, "12"}, TextStep{{0.0, 399.0}, "longer"}}, 400.0, 400.0);
+    Cells cells(4, 8);
+    raster.Put(cells, {1, 2}, false);
+    EXPECT_THAT(cells.Texts(), ElementsAre("", "    12", "  lon…", ""));
+}
+
 TEST_F(RasterTest, WholeDrawingFillsTheRasterWhateverItsSize) {
     Raster raster(1, 4);
     raster.DrawWhole({LineStep{{1000.0, 1000.0}, {5000.0, 1000.0}, {kWhite}},
