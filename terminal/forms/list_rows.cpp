@@ -1,18 +1,10 @@
 #include "terminal/forms/list_rows.h"
 
 #include <algorithm>
-#include <optional>
 
-#include "base/utf8.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
-
-namespace {
-
-constexpr double kTypingPause = 1.0;  // seconds that end a beginning
-
-}  // namespace
 
 int ListRows::After(const KeyPress& key, const State& state, double seconds) {
     const int last = static_cast<int>(state.texts.size()) - 1;
@@ -34,22 +26,9 @@ int ListRows::After(const KeyPress& key, const State& state, double seconds) {
         case KeyCode::kEnd:
             return last;
         default:
-            return key.IsText() ? Find(key, state, seconds) : -1;
+            return key.IsText() ? search_.After(key.character, state.texts, state.chosen, seconds)
+                                : -1;
     }
-}
-
-int ListRows::Find(const KeyPress& key, const State& state, double seconds) {
-    if (seconds - typedAt_ > kTypingPause) {
-        typed_.clear();
-    }
-    typedAt_ = seconds;
-    AppendUtf8(typed_, key.character);
-    const std::u32string beginning = Folded(typed_);
-    const auto found =
-        std::find_if(state.texts.begin(), state.texts.end(),
-                     [&](const std::string& text) { return Folded(text).starts_with(beginning); });
-    return found == state.texts.end() ? std::max(state.chosen, 0)
-                                      : static_cast<int>(found - state.texts.begin());
 }
 
 void ListRows::KeepInView(const State& state, int height) {

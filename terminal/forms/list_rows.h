@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "terminal/forms/beginning_search.h"
 #include "terminal/screen/cells.h"
 #include "terminal/screen/key_press.h"
 
@@ -17,21 +18,19 @@ public:
         int chosen;  // -1 for none
     };
 
-    /// The row that a key leads to; -1 for a key that leads nowhere. Letters look for a row that
-    /// begins with what was typed within a second each. seconds: of a clock that goes forward.
+    /// The row that a key leads to; -1 for a key that leads nowhere. Letters look for a row, as
+    /// BeginningSearch does. seconds: of a clock that goes forward.
     int After(const KeyPress& key, const State& state, double seconds);
 
     void Draw(Cells& cells, const Area& area, const State& state, bool hasFocus, bool fromRight,
               Tone usual);
 
 private:
-    int Find(const KeyPress& key, const State& state, double seconds);
     void KeepInView(const State& state, int height);
 
     int first_ = 0;   // row at the top
     int height_ = 1;  // when it was last drawn
-    std::string typed_;
-    double typedAt_ = 0.0;
+    BeginningSearch search_;
 };
 
 }  // namespace horavex

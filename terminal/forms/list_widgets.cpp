@@ -44,7 +44,7 @@ bool ListWidget::Press(const KeyPress& key) {
     if (row >= 0) {
         list_.UserSelect(row);
     }
-    return row >= 0;
+    return row >= 0 || (key.IsText() && list_.ListCount() > 0);
 }
 
 /// Why the chosen row could not be.

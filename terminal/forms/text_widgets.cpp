@@ -220,15 +220,12 @@ bool ComboWidget::Press(const KeyPress& key) {
     const KeyCode back = box_.Typed() ? KeyCode::kUp : KeyCode::kLeft;
     const KeyCode on = box_.Typed() ? KeyCode::kDown : KeyCode::kRight;
     if (key.code == back || key.code == on) {
-        Step(key.code == back ? -1 : 1);
+        const int step = key.code == back ? -1 : 1;
+        Step(box_.ListIndex() + step, step);
         return true;
     }
     if (!box_.Typed()) {
-        const bool opens = key.Is(U' ') || key.code == KeyCode::kEnter;
-        if (opens) {
-            Open();
-        }
-        return opens;
+        return PressClosed(key);
     }
     bool kept = false;
     const auto text = line_.After(key, box_.Text(), kept);
@@ -236,6 +233,26 @@ bool ComboWidget::Press(const KeyPress& key) {
         box_.UserEdit(InPlainDigits(*text));
     }
     return kept;
+}
+
+/// Letters choose the item that begins so without opening the list.
+bool ComboWidget::PressClosed(const KeyPress& key) {
+    if (key.Is(U' ') || key.code == KeyCode::kEnter) {
+        Open();
+    } else if (key.code == KeyCode::kHome) {
+        Step(0, 1);
+    } else if (key.code == KeyCode::kEnd) {
+        Step(box_.ListCount() - 1, -1);
+    } else if (key.IsText()) {
+        const int found =
+            search_.After(key.character, box_.Items(), box_.ListIndex(), Around().Seconds());
+        if (CanChoose(found)) {
+            box_.UserSelect(found);
+        }
+    } else {
+        return false;
+    }
+    return true;
 }
 
 void ComboWidget::Open() {
@@ -249,13 +266,17 @@ void ComboWidget::Open() {
     }
 }
 
-/// To the next item that can be chosen.
-void ComboWidget::Step(int step) {
-    int item = box_.ListIndex() + step;
-    while (item >= 0 && item < box_.ListCount() && !box_.ItemRefusal(item).empty()) {
+bool ComboWidget::CanChoose(int item) const {
+    return item >= 0 && item < box_.ListCount() && box_.ItemRefusal(item).empty();
+}
+
+/// To the first item that can be chosen, from the given one on.
+void ComboWidget::Step(int from, int step) {
+    int item = from;
+    while (item >= 0 && item < box_.ListCount() && !CanChoose(item)) {
         item += step;
     }
-    if (item >= 0 && item < box_.ListCount()) {
+    if (CanChoose(item)) {
         line_.MoveToEnd();
         box_.UserSelect(item);
     }

@@ -5,6 +5,7 @@
 
 #include "forms/combo_box.h"
 #include "forms/text_box.h"
+#include "terminal/forms/beginning_search.h"
 #include "terminal/forms/widget.h"
 
 namespace horavex {
@@ -83,11 +84,14 @@ public:
     bool Press(const KeyPress& key) override;
 
 private:
+    bool PressClosed(const KeyPress& key);
     void Open();
-    void Step(int step);
+    bool CanChoose(int item) const;
+    void Step(int from, int step);
 
     ComboBox& box_;
     EditedLine line_;
+    BeginningSearch search_;
 };
 
 }  // namespace horavex

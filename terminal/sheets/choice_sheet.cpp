@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "base/utf8.h"
+#include "platform/platform.h"
 #include "terminal/forms/widget.h"
 #include "terminal/screen/glyphs.h"
 
@@ -13,13 +13,6 @@ namespace horavex {
 namespace {
 
 constexpr int kSides = 6;  // columns of the frame, the mark and the sign of what lies inside
-
-char32_t FirstLetter(const std::string& text) {
-    const auto characters = DecodeUtf8(text).value_or(std::u32string());
-    return characters.empty()
-               ? 0
-               : static_cast<char32_t>(::towupper(static_cast<wint_t>(characters.front())));
-}
 
 /// Begun without a choice, and ended with the sheet whatever happens.
 class OnDesk {
@@ -81,25 +74,40 @@ void ChoiceSheet::LeaveSideways(int step) {
     }
 }
 
-/// One of its keys takes it; one that others begin with, too, goes from one to the next.
 void ChoiceSheet::Find(char32_t character) {
+    if (TakeByKey(character)) {
+        return;
+    }
+    std::vector<std::string> captions;
+    for (const Choice& choice : choices_) {
+        captions.push_back(WithoutKey(choice.caption));
+    }
+    const int found = search_.After(character, captions, at_, Ports().clock.SteadySeconds());
+    if (CanStandOn(found)) {
+        at_ = found;
+    }
+}
+
+/// A key of one alone takes it; one of several goes from one to the next. False for no key.
+bool ChoiceSheet::TakeByKey(char32_t character) {
     const auto wanted = static_cast<char32_t>(::towupper(static_cast<wint_t>(character)));
     const auto count = static_cast<int>(choices_.size());
     std::vector<int> found;
     for (int tried = 1; tried <= count; ++tried) {
         const int index = (at_ + tried + count) % count;
-        const Choice& choice = choices_[static_cast<std::size_t>(index)];
-        const char32_t key = AccessKey(choice.caption);
-        if (CanStandOn(index) && (key != 0 ? key : FirstLetter(choice.caption)) == wanted) {
+        if (CanStandOn(index) &&
+            AccessKey(choices_[static_cast<std::size_t>(index)].caption) == wanted) {
             found.push_back(index);
         }
     }
-    if (!found.empty()) {
-        at_ = found.front();
+    if (found.empty()) {
+        return false;
     }
-    if (found.size() == 1 && AccessKey(choices_[static_cast<std::size_t>(at_)].caption) != 0) {
+    at_ = found.front();
+    if (found.size() == 1) {
         Take();
     }
+    return true;
 }
 
 void ChoiceSheet::Press(const KeyPress& key) {
@@ -117,6 +125,14 @@ void ChoiceSheet::Press(const KeyPress& key) {
         case KeyCode::kPageDown:
             at_ = std::min(at_ + height_, static_cast<int>(choices_.size()) - 1) - 1;
             Move(1);
+            break;
+        case KeyCode::kHome:
+            at_ = -1;
+            Move(1);
+            break;
+        case KeyCode::kEnd:
+            at_ = 0;
+            Move(-1);
             break;
         case KeyCode::kLeft:
             LeaveSideways(-1);

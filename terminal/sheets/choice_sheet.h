@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "terminal/forms/beginning_search.h"
 #include "terminal/forms/form_sheet.h"
 #include "terminal/sheets/ending_sheet.h"
 
@@ -20,8 +21,8 @@ struct Choice {
     bool separator = false;  // a mere line
 };
 
-/// Lets the user choose one of several, by the arrow keys, by their keys or first letters. It ends
-/// with the choice, with the escape key, and sideways where that is allowed.
+/// Lets the user choose one of several, by the arrow keys, by their keys or the letters that they
+/// begin with. It ends with the choice, with the escape key, and sideways where that is allowed.
 class ChoiceSheet : public EndingSheet {
 public:
     struct Look {
@@ -48,11 +49,13 @@ private:
     void Take();
     void LeaveSideways(int step);
     void Find(char32_t character);
+    bool TakeByKey(char32_t character);
     void DrawChoice(Cells& screen, const Area& line, int index) const;
 
     std::vector<Choice> choices_;
     Look look_;
     int at_ = -1;
+    BeginningSearch search_;
     int first_ = 0;
     int height_ = 1;
     int chosen_ = -1;

@@ -193,6 +193,43 @@ TEST_F(ControlsSheetTest, LettersLookForARowOfAList) {
     EXPECT_EQ(form.lstCities.Text(), "Dubai");
 }
 
+TEST_F(ControlsSheetTest, LetterOverAndOverGoesThroughTheRowsThatBeginWithIt) {
+    form.Show();
+    GoTo(form.lstCities);
+    for (const char* expected : {"Dhaka", "Dubai", "Dhaka"}) {
+        screen.Type("d");
+        EXPECT_EQ(form.lstCities.Text(), expected);
+    }
+}
+
+TEST_F(ControlsSheetTest, LetterThatNoRowBeginsWithLeavesTheListAsItIs) {
+    form.Show();
+    GoTo(form.lstCities);
+    screen.Type("x");
+    EXPECT_EQ(form.lstCities.ListIndex(), -1);
+    platform.clock.Advance(2.0);
+    screen.Type("o");
+    EXPECT_TRUE(form.lstCities.HasFocus()) << "no key of the button either";
+    form.lstCities.SetListIndex(2);
+    screen.Type("xyz");
+    EXPECT_EQ(form.lstCities.ListIndex(), 2);
+}
+
+TEST_F(ControlsSheetTest, LettersAndTheEndsOfAListThatDropsDownChooseWithoutOpeningIt) {
+    form.Show();
+    GoTo(form.cboMethod);
+    screen.Type("m");
+    EXPECT_EQ(form.cboMethod.Text(), "Makkah");
+    screen.Press(KeyCode::kHome);
+    EXPECT_EQ(form.cboMethod.Text(), "Egypt");
+    screen.Press(KeyCode::kEnd);
+    EXPECT_EQ(form.cboMethod.Text(), "Makkah");
+    platform.clock.Advance(2.0);
+    screen.Type("a");
+    EXPECT_EQ(form.chkAlarm.Value(), 0) << "letters are the list's";
+    EXPECT_EQ(form.cboMethod.Text(), "Makkah");
+}
+
 TEST_F(ControlsSheetTest, ListThatDropsDownIsChosenFrom) {
     form.Show();
     GoTo(form.cboMethod);
