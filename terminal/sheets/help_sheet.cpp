@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "lang/own_digits.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -11,6 +12,11 @@ namespace {
 constexpr int kSides = 3;
 constexpr int kRowsAround = 3;  // frame, and a line below it
 constexpr int kWidest = 90;
+
+/// A text as it is compared: numbers may stand and be typed in either digits.
+std::u32string Sought(const std::string& text) {
+    return Folded(InPlainDigits(text));
+}
 
 }  // namespace
 
@@ -27,7 +33,8 @@ void HelpSheet::Turn(const HelpView& view) {
 void HelpSheet::OpenPage(std::size_t page) {
     page_ = page;
     first_ = 0;
-    width_ = 0;  // the lines are made when they are drawn
+    lines_.clear();  // they are made when they are drawn
+    found_.reset();
 }
 
 bool HelpSheet::FromRight() const {
@@ -38,10 +45,12 @@ std::vector<HelpSheet::Line> HelpSheet::LinesOf(std::size_t page, int width) con
     std::vector<Line> lines;
     for (const HelpParagraph& paragraph : HelpParagraphs(read_(view_.pages.at(page).path))) {
         if (!lines.empty() && !paragraph.text.starts_with("•")) {
-            lines.push_back({"", false});
+            lines.push_back({"", false, false});
         }
+        bool goesOn = false;
         for (std::string& text : Wrapped(paragraph.text, width)) {
-            lines.push_back({std::move(text), paragraph.isHeading});
+            lines.push_back({std::move(text), paragraph.isHeading, goesOn});
+            goesOn = true;
         }
     }
     return lines;
@@ -50,6 +59,10 @@ std::vector<HelpSheet::Line> HelpSheet::LinesOf(std::size_t page, int width) con
 void HelpSheet::Draw(Cells& screen) {
     const int width = std::min(kWidest, screen.Columns() - 2 * kSides);
     if (width != width_) {
+        lines_.clear();
+        found_.reset();  // lines have other numbers
+    }
+    if (lines_.empty()) {
         width_ = width;
         lines_ = LinesOf(page_, width);
     }
@@ -62,7 +75,9 @@ void HelpSheet::Draw(Cells& screen) {
                  view_.title + " · " + view_.pages.at(page_).title, Tone::kFaint, Tone::kStrong);
     for (int row = 0; row < std::min(height_, count - first_); ++row) {
         const Line& line = lines_[static_cast<std::size_t>(first_ + row)];
-        const Look look(line.isHeading ? Tone::kAccent : Tone::kPlain);
+        const bool isFound = found_ == static_cast<std::size_t>(first_ + row);
+        const Look look(isFound ? Tone::kSelected
+                                : (line.isHeading ? Tone::kAccent : Tone::kPlain));
         if (FromRight()) {
             screen.PutRight(row + 1, screen.Columns() - kSides - width, line.text, look, width);
         } else {
@@ -93,41 +108,49 @@ void HelpSheet::Scroll(int lines) {
     first_ += lines;
 }
 
-/// From the line after the first on view, through the other pages, back to it.
-void HelpSheet::Search() {
+/// From the line after the one found last, or else from the first on view, through the other pages,
+/// back to it. False where the text is nowhere.
+bool HelpSheet::FindNext() {
     const std::size_t pages = view_.pages.size();
-    if (sought_.empty() || FindFrom(page_, static_cast<std::size_t>(first_) + 1)) {
-        return;
+    if (sought_.empty() ||
+        FindFrom(page_, found_ ? *found_ + 1 : static_cast<std::size_t>(first_))) {
+        return true;
     }
     for (std::size_t step = 1; step <= pages; ++step) {
         if (FindFrom((page_ + step) % pages, 0)) {
-            return;
-        }
-    }
-}
-
-bool HelpSheet::FindFrom(std::size_t page, std::size_t line) {
-    const std::vector<Line> lines = LinesOf(page, std::max(width_, 1));
-    const std::u32string sought = Folded(sought_);
-    for (std::size_t at = line; at < lines.size(); ++at) {
-        if (Folded(lines[at].text).find(sought) != sought.npos) {
-            if (page != page_) {
-                OpenPage(page);
-            }
-            first_ = static_cast<int>(at);
             return true;
         }
     }
     return false;
 }
 
+bool HelpSheet::FindFrom(std::size_t page, std::size_t line) {
+    const std::vector<Line> lines = LinesOf(page, std::max(width_, 1));
+    const std::u32string sought = Sought(sought_);
+    for (std::size_t at = line; at < lines.size(); ++at) {
+        const std::string rest =
+            at + 1 < lines.size() && lines[at + 1].goesOn ? " " + lines[at + 1].text : "";
+        if (Sought(lines[at].text + rest).find(sought) < Sought(lines[at].text).size()) {
+            if (page != page_) {
+                OpenPage(page);
+            }
+            first_ = static_cast<int>(at);
+            found_ = at;
+            return true;
+        }
+    }
+    return false;
+}
+
+/// A text that is nowhere stays to be mended.
+void HelpSheet::EndTyping(KeyCode by) {
+    isTyping_ = by == KeyCode::kEnter && !FindNext();
+}
+
 void HelpSheet::PressInSearch(const KeyPress& key) {
     bool kept = false;
     if (key.code == KeyCode::kEnter || key.code == KeyCode::kEscape) {
-        isTyping_ = false;
-        if (key.code == KeyCode::kEnter) {
-            Search();
-        }
+        EndTyping(key.code);
         return;
     }
     sought_ = typed_.After(key, sought_, kept).value_or(sought_);
@@ -139,6 +162,9 @@ void HelpSheet::Press(const KeyPress& key) {
         return;
     }
     const int onward = FromRight() ? -1 : 1;
+    if (key.code != KeyCode::kCharacter) {
+        found_.reset();
+    }
     switch (key.code) {
         case KeyCode::kUp:
             Scroll(-1);
@@ -155,6 +181,9 @@ void HelpSheet::Press(const KeyPress& key) {
         case KeyCode::kHome:
             first_ = 0;
             break;
+        case KeyCode::kEnd:
+            Scroll(static_cast<int>(lines_.size()));
+            break;
         case KeyCode::kLeft:
             TurnPage(-onward);
             break;
@@ -170,7 +199,7 @@ void HelpSheet::Press(const KeyPress& key) {
                 sought_.clear();
                 typed_.MoveToEnd();
             } else if (key.Is(U'n')) {
-                Search();
+                FindNext();
             } else if (key.Is(U' ')) {
                 Scroll(height_);
             } else if (key.Is(U'q')) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,13 +33,15 @@ private:
     struct Line {
         std::string text;
         bool isHeading;
+        bool goesOn;  // with the paragraph of the line before
     };
 
     void OpenPage(std::size_t page);
     void TurnPage(int step);
     void Scroll(int lines);
-    void Search();
     bool FindFrom(std::size_t page, std::size_t line);
+    bool FindNext();
+    void EndTyping(KeyCode by);
     std::vector<Line> LinesOf(std::size_t page, int width) const;
     void PressInSearch(const KeyPress& key);
     bool FromRight() const;
@@ -51,7 +54,8 @@ private:
     int width_ = 0;   // columns that the lines are broken for
     int height_ = 1;  // rows when it was last drawn
     int first_ = 0;
-    bool isTyping_ = false;  // what to look for
+    std::optional<std::size_t> found_;  // line of the page, until it is moved through
+    bool isTyping_ = false;             // what to look for
     std::string sought_;
     EditedLine typed_;
 };
