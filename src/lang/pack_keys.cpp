@@ -198,7 +198,8 @@ const std::vector<PackSection>& PackVocabularies() {
          {"algeria",      "brunei",    "canada", "dubai",   "egypt",   "france",     "gulf",
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
           "moonsighting", "morocco",   "mwl",    "oman",    "paris",   "portugal",   "qatar",
-          "russia",       "singapore", "tehran", "tunisia", "turkey",  "umm-al-qura"}}};
+          "russia",       "singapore", "tehran", "tunisia", "turkey",  "umm-al-qura"}},
+        {"terminal", {"NoPrinter", "Exists", "Replace", "Cancel", "OK"}}};
     return sections;
 }
 

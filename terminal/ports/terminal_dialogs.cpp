@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "lang/filled_text.h"
+#include "lang/language_pack.h"
 #include "terminal/sheets/choice_sheet.h"
 #include "terminal/sheets/message_sheet.h"
 #include "terminal/sheets/path_sheet.h"
@@ -19,8 +21,18 @@ std::string NameFor(std::string title, const std::string& suffix) {
     return "~/" + (title.empty() ? title : title + suffix);
 }
 
+std::string TerminalWord(const char* key, const char* english) {
+    return GetLangString("terminal", key, english);
+}
+
 bool HasSuffix(const std::string& path) {
     return std::filesystem::path(path).has_extension();
+}
+
+/// What can be read as a file; a folder cannot.
+bool IsFile(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_regular_file(path, error);
 }
 
 bool IsThere(const std::string& path) {
@@ -31,7 +43,15 @@ bool IsThere(const std::string& path) {
 }  // namespace
 
 void TerminalDialogs::ShowMessage(const std::string& text, const std::string& title, MessageIcon) {
-    RunSheet(std::make_shared<MessageSheet>(title.empty() ? "Horavex" : title, text), host_);
+    Ask(title.empty() ? "Horavex" : title, text, {TerminalWord("OK", "&OK")});
+}
+
+/// Returns the number of the button that was pressed.
+std::size_t TerminalDialogs::Ask(const std::string& title, const std::string& text,
+                                 const std::vector<std::string>& buttons) {
+    const auto sheet = std::make_shared<MessageSheet>(title, text, buttons);
+    RunSheet(sheet, host_);
+    return sheet->Pressed();
 }
 
 std::string TerminalDialogs::AskPath(const std::string& title, const std::string& proposed) {
@@ -42,7 +62,7 @@ std::string TerminalDialogs::AskPath(const std::string& title, const std::string
 
 std::string TerminalDialogs::OpenFile(const FileRequest& request) {
     std::string path = AskPath(request.title, "~/");
-    while (!path.empty() && !IsThere(path)) {
+    while (!path.empty() && !IsFile(path)) {
         beep_();
         path = AskPath(request.title, path);
     }
@@ -53,9 +73,10 @@ bool TerminalDialogs::MayWrite(const std::string& path) {
     if (!IsThere(path)) {
         return true;
     }
-    const auto question = std::make_shared<QuestionSheet>(path + " ?");
-    RunSheet(question, host_);
-    return question->IsYes();
+    const std::string question =
+        FilledText(TerminalWord("Exists", "{file} exists already."), "{file}", path);
+    return Ask({}, question,
+               {TerminalWord("Replace", "&Replace"), TerminalWord("Cancel", "&Cancel")}) == 0;
 }
 
 std::string TerminalDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {

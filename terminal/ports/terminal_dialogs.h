@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "platform/dialogs.h"
 #include "terminal/forms/form_sheet.h"
@@ -19,6 +21,8 @@ public:
     std::string SaveFile(const FileRequest& request, const std::string& suffix) override;
 
 private:
+    std::size_t Ask(const std::string& title, const std::string& text,
+                    const std::vector<std::string>& buttons);
     std::string AskPath(const std::string& title, const std::string& proposed);
     bool MayWrite(const std::string& path);
 

@@ -1,36 +1,39 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "terminal/sheets/ending_sheet.h"
 
 namespace horavex {
 
-/// A box with a text and a button, which any of the keys that press one closes.
+/// A box in the middle, with a text and a line of buttons, one of which ends it. A text that is
+/// higher than the screen is moved through by the keys of lists.
 class MessageSheet : public EndingSheet {
 public:
-    MessageSheet(std::string title, std::string text);
+    /// buttons: one at least, with "&" before their keys. The last one has the focus, and is what
+    /// Escape presses.
+    MessageSheet(std::string title, std::string text, std::vector<std::string> buttons);
 
     void Draw(Cells& screen) override;
     void Press(const KeyPress& key) override;
 
+    /// The button that ended it, by its number.
+    std::size_t Pressed() const { return at_; }
+
 private:
+    int WidthOfButtons() const;
+    void DrawText(Cells& screen, const Area& room);
+    void DrawButtons(Cells& screen, CellPlace at) const;
+    void Step(int step);
+    void PressAccessKey(char32_t letter);
+
     std::string title_;
     std::string text_;
-};
-
-/// A question that is answered with yes or no.
-class QuestionSheet : public EndingSheet {
-public:
-    explicit QuestionSheet(std::string text) : text_(std::move(text)) {}
-
-    void Draw(Cells& screen) override;
-    void Press(const KeyPress& key) override;
-    bool IsYes() const { return isYes_; }
-
-private:
-    std::string text_;
-    bool isYes_ = false;
+    std::vector<std::string> buttons_;
+    std::size_t at_;
+    int first_ = 0;
+    int height_ = 1;  // rows of the text when it was last drawn
 };
 
 }  // namespace horavex

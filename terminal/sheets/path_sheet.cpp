@@ -19,15 +19,28 @@ std::string OwnFolder() {
     return home == nullptr ? "" : home;
 }
 
-/// What all have in common at their beginnings.
+/// Whether a byte is one of a UTF-8 character behind its first.
+bool GoesOn(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
+}
+
+/// The whole characters that all have in common at their beginnings.
 std::string CommonBeginning(const std::vector<std::string>& texts) {
-    std::string common = texts.front();
+    const std::string& first = texts.front();
+    std::size_t length = first.size();
     for (const std::string& text : texts) {
-        const auto differs =
-            std::mismatch(common.begin(), common.end(), text.begin(), text.end()).first;
-        common.erase(differs, common.end());
+        const auto differs = std::mismatch(first.begin(), first.end(), text.begin(), text.end());
+        length = std::min(length, static_cast<std::size_t>(differs.first - first.begin()));
     }
-    return common;
+    while (length < first.size() && GoesOn(first[length])) {
+        --length;
+    }
+    return first.substr(0, length);
+}
+
+bool IsFolder(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
 }
 
 std::string LastPart(const std::string& path) {
@@ -74,21 +87,36 @@ void PathSheet::Complete() {
     if (found.empty()) {
         return;
     }
-    typed_ = CommonBeginning(found);
-    line_.MoveToEnd();
+    Put(CommonBeginning(found));
     for (std::size_t i = 0; found.size() > 1 && i < std::min(found.size(), kMostNames); ++i) {
         names_.push_back(LastPart(found[i]));
     }
+}
+
+void PathSheet::Put(const std::string& path) {
+    typed_ = path;
+    line_.MoveToEnd();
+}
+
+/// A folder is gone into; no file is meant yet.
+void PathSheet::Accept() {
+    const std::string path = ExpandedPath(typed_);
+    if (IsFolder(path) && !path.ends_with('/')) {
+        Put(typed_ + "/");
+    }
+    if (path.empty() || typed_.ends_with('/')) {
+        Complete();
+        return;
+    }
+    accepted_ = true;
+    End();
 }
 
 void PathSheet::Press(const KeyPress& key) {
     if (key.code == KeyCode::kTab) {
         Complete();
     } else if (key.code == KeyCode::kEnter) {
-        accepted_ = !typed_.empty() && !typed_.ends_with('/');
-        if (accepted_) {
-            End();
-        }
+        Accept();
     } else if (key.code == KeyCode::kEscape) {
         End();
     } else {

@@ -9,7 +9,7 @@
 namespace horavex {
 
 /// A line to type the path of a file into. The Tab key completes it, "~" stands for the user's own
-/// folder, and the names that it may go on with stand below.
+/// folder, and the names that it may go on with stand below. Enter goes into a folder.
 class PathSheet : public EndingSheet {
 public:
     PathSheet(std::string title, std::string path);
@@ -22,6 +22,8 @@ public:
 
 private:
     void Complete();
+    void Accept();
+    void Put(const std::string& path);
 
     std::string title_;
     std::string typed_;

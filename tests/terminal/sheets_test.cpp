@@ -7,6 +7,9 @@
 #include <fstream>
 
 #include "forms/menu_item.h"
+#include "lang/language_pack.h"
+#include "lang/own_digits.h"
+#include "support/data_folder.h"
 #include "support/temporary_folder.h"
 #include "terminal/desk_screen.h"
 #include "terminal/sheets/help_sheet.h"
@@ -89,7 +92,8 @@ TEST_F(Sheets, MenuIsLeftSidewaysForItsNeighbour) {
 TEST_F(Sheets, MessageIsWrappedAndClosed) {
     const auto box = std::make_shared<MessageSheet>(
         "Horavex",
-        "These settings ask for a smaller angle than the sun reaches in the night there.");
+        "These settings ask for a smaller angle than the sun reaches in the night there.",
+        std::vector<std::string>{"&OK"});
     screen.desk.BringUp(box);
     EXPECT_THAT(screen.Text(), HasSubstr("─ Horavex ─"));
     EXPECT_THAT(screen.Text(), HasSubstr("[ OK ]"));
@@ -99,14 +103,57 @@ TEST_F(Sheets, MessageIsWrappedAndClosed) {
     EXPECT_TRUE(box->HasEnded());
 }
 
-TEST_F(Sheets, QuestionTakesYesAlone) {
-    const auto box = std::make_shared<QuestionSheet>("/tmp/times.txt ?");
-    screen.desk.BringUp(box);
-    screen.Press(KeyCode::kEnter);
-    EXPECT_FALSE(box->HasEnded());
-    screen.Type("y");
-    EXPECT_TRUE(box->HasEnded());
-    EXPECT_TRUE(box->IsYes());
+struct Questions : Sheets {
+    /// The button that keys lead to.
+    std::size_t Answer(const std::vector<KeyPress>& keys) {
+        const auto box = std::make_shared<MessageSheet>("", "Replace it?",
+                                                        std::vector<std::string>{"&Ja", "&Nein"});
+        screen.LayOut(keys);
+        RunSheet(box, screen.host);
+        return box->Pressed();
+    }
+};
+
+TEST_F(Questions, AnsweredByTheKeysOfItsButtons) {
+    EXPECT_EQ(Answer({CharacterKey('j')}), 0u);
+    EXPECT_EQ(Answer({CharacterKey('x'), CharacterKey('N')}), 1u);
+}
+
+TEST_F(Questions, TheLastButtonIsTakenWhereNobodyChoosesTheOther) {
+    EXPECT_EQ(Answer({kEnter}), 1u);
+    EXPECT_EQ(Answer({KeyPress{KeyCode::kTab}, kEscape}), 1u);
+    EXPECT_EQ(Answer({KeyPress{KeyCode::kTab}, kEnter}), 0u);
+    EXPECT_EQ(Answer({KeyPress{KeyCode::kLeft}, CharacterKey(' ')}), 0u);
+}
+
+TEST_F(Sheets, LongMessageIsMovedThrough) {
+    std::string text;
+    for (int line = 0; line < 60; ++line) {
+        text += "line " + std::to_string(line) + "\n";
+    }
+    screen.desk.BringUp(
+        std::make_shared<MessageSheet>("", text + "the end", std::vector<std::string>{"&OK"}));
+    EXPECT_THAT(screen.Text(), AllOf(HasSubstr("line 0 "), Not(HasSubstr("line 30 "))));
+    screen.Press(KeyCode::kPageDown);
+    EXPECT_THAT(screen.Text(), AllOf(Not(HasSubstr("line 0 ")), HasSubstr("line 30 ")));
+    screen.Press(KeyCode::kPageDown);
+    screen.Press(KeyCode::kPageDown);
+    EXPECT_THAT(screen.Text(), HasSubstr("the end"));
+    screen.Press(KeyCode::kUp);
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("the end")));
+}
+
+TEST_F(Sheets, ListThatDropsDownIsSearchedByWhatIsTyped) {
+    const std::vector<std::string> cities = {"Cairo", "Dhaka", "Dubai", "Lahore"};
+    const auto chosen = [&](const std::vector<KeyPress>& keys) {
+        screen.LayOut(keys);
+        return ChooseFrom(cities, 0, {}, false, screen.host);
+    };
+    EXPECT_EQ(chosen({CharacterKey('d'), CharacterKey('u'), kEnter}), 2);
+    EXPECT_EQ(chosen({KeyPress{KeyCode::kEnd}, kEnter}), 3);
+    EXPECT_EQ(chosen({KeyPress{KeyCode::kEnd}, KeyPress{KeyCode::kHome}, kEnter}), 0);
+    EXPECT_EQ(chosen({KeyPress{KeyCode::kPageDown}, kEnter}), 3);
+    EXPECT_EQ(chosen({CharacterKey('x'), kEnter}), 0) << "nothing begins so";
 }
 
 struct Paths : Sheets {
@@ -148,11 +195,28 @@ TEST_F(Paths, GivenUpLineHasNoPath) {
     EXPECT_EQ(line->Path(), "");
 }
 
-TEST_F(Paths, FolderIsNoFile) {
-    const auto line = std::make_shared<PathSheet>("Save As", folder / "tables/");
+TEST_F(Paths, FolderIsGoneInto) {
+    std::ofstream(folder / "tables/one.txt");
+    std::ofstream(folder / "tables/other.txt");
+    for (const char* typed : {"tables/", "tables"}) {
+        const auto line = std::make_shared<PathSheet>("Save As", folder / typed);
+        screen.desk.BringUp(line);
+        screen.Press(KeyCode::kEnter);
+        EXPECT_FALSE(line->HasEnded());
+        EXPECT_THAT(screen.Text(), HasSubstr("tables/o"));
+        EXPECT_THAT(screen.Text(), HasSubstr("one.txt"));
+        screen.desk.TakeAway(*line);
+    }
+}
+
+TEST_F(Paths, TabCompletesWholeCharacters) {
+    std::ofstream(folder / "عصر");
+    std::ofstream(folder / "عشاء");
+    const auto line = std::make_shared<PathSheet>("Save As", folder / "ع");
     screen.desk.BringUp(line);
+    screen.Press(KeyCode::kTab);
     screen.Press(KeyCode::kEnter);
-    EXPECT_FALSE(line->HasEnded());
+    EXPECT_EQ(line->Path(), folder / "ع");
 }
 
 TEST(HelpText, PageWithoutItsMarks) {
@@ -172,6 +236,16 @@ TEST(HelpText, WhatIsNoEntityStays) {
 
 struct Help : Sheets {
     Help() {
+        OpenPages([](const std::string& path) {
+            std::string page = "<h1>About the " + path + "</h1>";
+            for (int line = 0; line < 40; ++line) {
+                page += "<p>line " + std::to_string(line) + " of the " + path + "</p>";
+            }
+            return page;
+        });
+    }
+
+    void OpenPages(HelpSheet::Read read) {
         const HelpView view{"frmMain",
                             {},
                             "Horavex Help",
@@ -180,16 +254,7 @@ struct Help : Sheets {
                             "Forward",
                             {{"Face", "face"}, {"Moon", "moon"}},
                             0};
-        sheet = std::make_shared<HelpSheet>(
-            view,
-            [](const std::string& path) {
-                std::string page = "<h1>About the " + path + "</h1>";
-                for (int line = 0; line < 40; ++line) {
-                    page += "<p>line " + std::to_string(line) + " of the " + path + "</p>";
-                }
-                return page;
-            },
-            [this] { isClosed = true; });
+        sheet = std::make_shared<HelpSheet>(view, std::move(read), [this] { isClosed = true; });
         screen.desk.BringUp(sheet);
     }
 
@@ -221,6 +286,49 @@ TEST_F(Help, NextOneIsFoundByItsKey) {
     EXPECT_THAT(screen.Rows().at(1), HasSubstr("line 1 of the face"));
     screen.Type("n");
     EXPECT_THAT(screen.Rows().at(1), HasSubstr("line 10 of the face"));
+}
+
+TEST_F(Help, LastOneOfAPageIsFollowedByTheNextPage) {
+    screen.Type("/line 39");
+    screen.Press(KeyCode::kEnter);
+    EXPECT_THAT(screen.Text(), HasSubstr("line 39 of the face"));
+    EXPECT_EQ(screen.LookOf("line 39").tone, Tone::kSelected);
+    screen.Type("n");
+    EXPECT_THAT(screen.Text(), HasSubstr("line 39 of the moon"));
+    screen.Type("n");
+    EXPECT_THAT(screen.Text(), HasSubstr("line 39 of the face"));
+}
+
+TEST_F(Help, SearchBeginsWithTheFirstLineOnView) {
+    screen.Type("/about the");
+    screen.Press(KeyCode::kEnter);
+    EXPECT_THAT(screen.Text(), HasSubstr("About the face"));
+}
+
+TEST_F(Help, TextIsFoundAcrossTheEndOfALine) {
+    OpenPages([](const std::string&) { return "<p>" + std::string(66, '-') + " last third</p>"; });
+    screen.Type("/last third");
+    screen.Press(KeyCode::kEnter);
+    EXPECT_EQ(screen.LookOf("last").tone, Tone::kSelected);
+    EXPECT_EQ(screen.LookOf("third").tone, Tone::kPlain) << "stands on the next line";
+}
+
+TEST_F(Help, TextThatIsNowhereStaysToBeMended) {
+    screen.Type("/nobody");
+    screen.Press(KeyCode::kEnter);
+    EXPECT_EQ(screen.Rows().back(), "/nobody");
+}
+
+TEST_F(Help, NumbersAreFoundInEitherDigits) {
+    DataFolder(platform.files).Write("lang/Arabic.ini", "[timetables]\nDigits=٠١٢٣٤٥٦٧٨٩\n");
+    currentLanguage = "Arabic";
+    ShowOwnDigits(true);
+    for (const char* typed : {"/line ٣٩", "/line 39"}) {
+        screen.Type(typed);
+        screen.Press(KeyCode::kEnter);
+        EXPECT_EQ(screen.LookOf("line ٣٩").tone, Tone::kSelected);
+        screen.Press(KeyCode::kHome);
+    }
 }
 
 TEST_F(Help, EscapeLeavesIt) {
