@@ -13,7 +13,8 @@ inline constexpr const char* kSoftwareTitle = "Horavex Prayer Time Software ";
 /// The version for people, of four fields: major, minor, a zero that never changes, and revision.
 std::string FullVersionText();
 
-/// The version that the web server's file is compared with: major, minor and revision.
+/// The version that the web server's file is compared with: major, minor and revision, as the
+/// release is called.
 std::string RunningVersionText();
 
 }  // namespace horavex

@@ -5,12 +5,14 @@
 namespace horavex {
 namespace {
 
-TEST(ProgramVersion, TextForPeopleHasFourFieldsWithAFixedZero) {
-    EXPECT_EQ(FullVersionText(), "4.1.0.1");
+TEST(ProgramVersion, TextForTheComparisonIsThatOfTheRelease) {
+    EXPECT_EQ(RunningVersionText(), HORAVEX_VERSION);
 }
 
-TEST(ProgramVersion, TextForTheComparisonHasThree) {
-    EXPECT_EQ(RunningVersionText(), "4.1.1");
+TEST(ProgramVersion, TextForPeopleHasAZeroBeforeItsLastField) {
+    std::string expected = RunningVersionText();
+    expected.insert(expected.rfind('.'), ".0");
+    EXPECT_EQ(FullVersionText(), expected);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "config/about_window.h"
 
+#include "base/program_version.h"
 #include "lang/language_pack.h"
 #include "support/program_test.h"
 #include "windows/frm_about.h"
@@ -18,7 +19,7 @@ TEST_F(AboutWindowTest, ShowsTitleAndVersion) {
     ShowAboutWindow();
     EXPECT_EQ(frmAbout->Caption(), "About Horavex");
     EXPECT_EQ(frmAbout->lblTitle.Caption(), "Horavex");
-    EXPECT_EQ(frmAbout->lblVersion.Caption(), "4.1.0.1");
+    EXPECT_EQ(frmAbout->lblVersion.Caption(), FullVersionText());
 }
 
 TEST_F(AboutWindowTest, PackGivesTheTextsButTitleVersionAndCaption) {
@@ -27,7 +28,7 @@ TEST_F(AboutWindowTest, PackGivesTheTextsButTitleVersionAndCaption) {
     EXPECT_THAT(frmAbout->lblDescription.Caption(), HasSubstr("Gebetszeiten"));
     EXPECT_THAT(frmAbout->SkinLabel1.Caption(), HasSubstr("Horavex"));
     EXPECT_EQ(frmAbout->Caption(), "About Horavex");
-    EXPECT_EQ(frmAbout->lblVersion.Caption(), "4.1.0.1");
+    EXPECT_EQ(frmAbout->lblVersion.Caption(), FullVersionText());
 }
 
 TEST_F(AboutWindowTest, WithoutPacksTheDefinitionSpeaks) {

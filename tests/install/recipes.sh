@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The recipes of the Debian packages fit what is installed: every file is in exactly one package,
-# the version is the program's, and what builds the packages is on the list of the gate.
+# the version is the program's, what builds the packages is on the list of the gate, and software
+# centres are told the licences of all that is in them.
 #
 # Usage: recipes.sh PACKAGING VERSION LIST...
 set -euo pipefail
@@ -34,4 +35,9 @@ for package in $(sed -n '/^Build-Depends:/,/^[^ ]*:/s/^ \([^ ,]*\).*/\1/p' debia
     [ "$package" = debhelper-compat ] || grep -qx -- "$package" debian-packages.txt ||
         fail "$package is not in debian-packages.txt"
 done
+
+# Debian has a name of its own for that of MIT; what nobody owns needs no licence.
+licences=$(sed -n 's/^License: //p' debian/copyright | sed 's/^Expat$/MIT/; /^public-domain$/d' | sort -u)
+diff <(sed -n 's/.*<project_license>\(.*\)<.*/\1/p' org.horavex.horavex.metainfo.xml |
+    sed 's/ AND /\n/g' | sort) <(echo "$licences") || fail "the metainfo names other licences"
 [ "$failures" -eq 0 ]

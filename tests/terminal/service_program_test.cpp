@@ -11,6 +11,7 @@
 #include <fstream>
 #include <optional>
 
+#include "base/program_version.h"
 #include "e2e/harness/faked_clock.h"
 #include "e2e/harness/sink_recording.h"
 #include "e2e/harness/sound_server.h"
@@ -120,9 +121,9 @@ protected:
 
 TEST_F(ServiceProgramTest, StartTellsPlaceZoneAndNextPrayer) {
     const ChildProcess program = Start();
-    EXPECT_THAT(
-        Log(), HasSubstr(" Horavex 4.1.0.1 without a face: Mecca, Mecca - Saudi Arabia, UTC+03:00; "
-                         "next Asr at 2026-11-21T15:"));
+    EXPECT_THAT(Log(), HasSubstr(" Horavex " + FullVersionText() +
+                                 " without a face: Mecca, Mecca - Saudi Arabia, UTC+03:00; "
+                                 "next Asr at 2026-11-21T15:"));
 }
 
 TEST_F(ServiceProgramTest, AthanSoundsIsToldAndStoppedOverTheBus) {

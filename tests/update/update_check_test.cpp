@@ -1,6 +1,7 @@
 #include "update/update_check.h"
 
 #include "base/fault.h"
+#include "base/program_version.h"
 #include "lang/language_pack.h"
 #include "support/test_platform.h"
 #include "windows/horavex_main_form.h"
@@ -11,6 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+const std::string kRunning = RunningVersionText();
 constexpr const char* kFile = "/program/Dat/update.txt";
 constexpr const char* kNothingNew = "No software update available at this time.";
 constexpr const char* kNoAnswer = "Please check your internet connection and try again.";
@@ -67,35 +69,34 @@ protected:
 };
 
 TEST_F(UpdateCheckTest, EqualVersionIsNothingNew) {
-    ExpectAnswer("4.1.1", kNothingNew);
+    ExpectAnswer(kRunning, kNothingNew);
 }
 
 TEST_F(UpdateCheckTest, AnyDifferenceIsAnUpdateOlderNumbersIncluded) {
-    ExpectAnswer("4.1.2", kUpdate);
-    ExpectAnswer("5.0.0", kUpdate);
-    ExpectAnswer("3.9.9", kUpdate);
-    ExpectAnswer("4.1.0.1", kUpdate);
+    ExpectAnswer("999.0.0", kUpdate);
+    ExpectAnswer("0.9.9", kUpdate);
+    ExpectAnswer(FullVersionText(), kUpdate);
 }
 
 TEST_F(UpdateCheckTest, ComparisonIsExact) {
-    ExpectAnswer("4.1.1 ", kUpdate);
-    ExpectAnswer(" 4.1.1", kUpdate);
-    ExpectAnswer("4.1.1\t\r\n", kUpdate);
+    ExpectAnswer(kRunning + " ", kUpdate);
+    ExpectAnswer(" " + kRunning, kUpdate);
+    ExpectAnswer(kRunning + "\t\r\n", kUpdate);
 }
 
 TEST_F(UpdateCheckTest, EndOfTheLineIsNoPartOfIt) {
-    ExpectAnswer("4.1.1\n", kNothingNew);
-    ExpectAnswer("4.1.1\r\n", kNothingNew);
+    ExpectAnswer(kRunning + "\n", kNothingNew);
+    ExpectAnswer(kRunning + "\r\n", kNothingNew);
 }
 
 TEST_F(UpdateCheckTest, LastLineAloneCounts) {
-    ExpectAnswer("4.1.2\r\nwhat is new\r\n4.1.1\r\n", kNothingNew);
-    ExpectAnswer("4.1.1\n4.1.1\n4.1.2", kUpdate);
+    ExpectAnswer("0.9.9\r\nwhat is new\r\n" + kRunning + "\r\n", kNothingNew);
+    ExpectAnswer(kRunning + "\n" + kRunning + "\n0.9.9", kUpdate);
 }
 
 TEST_F(UpdateCheckTest, EmptyLastLineIsAnEmptyAnswer) {
-    ExpectAnswer("4.1.1\n\n", kNoAnswer);
-    ExpectAnswer("4.1.1\r\n\r\n", kNoAnswer);
+    ExpectAnswer(kRunning + "\n\n", kNoAnswer);
+    ExpectAnswer(kRunning + "\r\n\r\n", kNoAnswer);
 }
 
 TEST_F(UpdateCheckTest, EmptyBodyAsksForTheConnection) {
@@ -164,7 +165,7 @@ TEST_F(UpdateCheckTest, SilentCheckShowsItsProgressToo) {
     platform.network.answer = [] {
         EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
         EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
-        return "4.1.1";
+        return kRunning;
     };
     CheckForUpdateSilently();
     EXPECT_EQ(platform.network.requests.size(), 1U);
@@ -178,11 +179,11 @@ TEST_F(UpdateCheckTest, MessagesSpeakTheLanguageOfThePack) {
                               BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
     ExpectAnswer("5", "new\r\nfrom there");
     ExpectAnswer("", "none");
-    ExpectAnswer("4.1.1", "same");
+    ExpectAnswer(kRunning, "same");
 }
 
 TEST_F(UpdateCheckTest, ProgressIsToldProbeByProbeAndGoes) {
-    Publish("4.1.1");
+    Publish(kRunning);
     ProgressLog log;
     CheckForUpdate();
     EXPECT_THAT(
@@ -206,7 +207,7 @@ TEST_F(UpdateCheckTest, LabelAndBarStandWhileTheFetchBlocks) {
     platform.network.answer = [] {
         EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
         EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
-        return "4.1.1";
+        return kRunning;
     };
     CheckForUpdate();
     EXPECT_EQ(platform.network.requests.size(), 1U);
@@ -225,14 +226,14 @@ TEST_F(UpdateCheckTest, FormerFileIsDeletedBeforeTheFetch) {
     platform.files.WriteWhole(kFile, BytesOf("old"));
     platform.network.answer = [this] {
         EXPECT_FALSE(platform.files.Exists(kFile));
-        return "4.1.1";
+        return kRunning;
     };
     CheckForUpdate();
-    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), "4.1.1");
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), kRunning);
 }
 
 TEST_F(UpdateCheckTest, FileThatCannotBeWrittenIsAFault) {
-    Publish("4.1.1");
+    Publish(kRunning);
     platform.files.WriteWhole("/program/Dat/update.txt/in the way", BytesOf(""));
     EXPECT_THROW(CheckForUpdate(), FileFault);
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
@@ -244,7 +245,7 @@ TEST_F(UpdateCheckTest, SilentCheckTellsADifferenceInEnglishAlone) {
                               BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
     Publish("5");
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), ElementsAre(kUpdate));
-    Publish("4.1.1");
+    Publish(kRunning);
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
     Publish("");
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
@@ -259,10 +260,10 @@ TEST_F(UpdateCheckTest, SilentCheckKeepsTheFormerFileUntilItIsWrittenOver) {
     platform.files.WriteWhole(kFile, BytesOf("old"));
     platform.network.answer = [this] {
         EXPECT_TRUE(platform.files.Exists(kFile));
-        return "4.1.1";
+        return kRunning;
     };
     CheckForUpdateSilently();
-    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), "4.1.1");
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), kRunning);
 }
 
 TEST_F(UpdateCheckTest, TimerOfHalfAMinuteStandsStillAndChecksOnceWhereItIsStarted) {
@@ -279,7 +280,7 @@ TEST_F(UpdateCheckTest, TimerOfHalfAMinuteStandsStillAndChecksOnceWhereItIsStart
 TEST_F(UpdateCheckTest, LabelChecksAndTheButtonOpensTheSite) {
     BindUpdateCheck();
     HoravexMainForm->Show();
-    Publish("4.1.1");
+    Publish(kRunning);
     EXPECT_THAT(MessagesOf([] { HoravexMainForm->VisitWebSiteLabel.UserClick(); }),
                 ElementsAre(kNothingNew));
     EXPECT_THAT(MessagesOf([] { HoravexMainForm->AboutUpdateButton.UserClick(); }), IsEmpty());

@@ -1,5 +1,6 @@
 // The update check over real transfers from a server of this machine.
 
+#include "base/program_version.h"
 #include "linux/http_get.h"
 #include "support/loopback_server.h"
 #include "support/scoped_variable.h"
@@ -47,10 +48,11 @@ protected:
 };
 
 TEST_F(UpdateOverHttpTest, VersionOfTheServerIsCompared) {
-    ExpectMessageFor("4.1.2\n", kUpdate);
-    ExpectMessageFor("4.1.1\n", kNothingNew);
-    ExpectMessageFor("4.1.1 \n", kUpdate);
-    ExpectMessageFor("4.1.2\r\n4.1.1", kNothingNew);
+    const std::string running = RunningVersionText();
+    ExpectMessageFor("0.9.9\n", kUpdate);
+    ExpectMessageFor(running + "\n", kNothingNew);
+    ExpectMessageFor(running + " \n", kUpdate);
+    ExpectMessageFor("0.9.9\r\n" + running, kNothingNew);
     ExpectMessageFor("", kNoAnswer);
     EXPECT_THAT(server.Requests(), ElementsAre(kPath, kPath, kPath, kPath, kPath));
 }
@@ -66,7 +68,7 @@ TEST_F(UpdateOverHttpTest, ServerThatClosesAtOnceIsNoAnswer) {
 }
 
 TEST_F(UpdateOverHttpTest, ServerThatIsSlowWithinTheTimeIsHeard) {
-    server.Drip(kPath, "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n4.1.1", 7);
+    server.Drip(kPath, "HTTP/1.1 200 OK\r\n\r\n" + RunningVersionText(), 7);
     ExpectMessage(kNothingNew);
 }
 
