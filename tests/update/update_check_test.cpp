@@ -12,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::string kRunning = RunningVersionText();
 constexpr const char* kFile = "/program/Dat/update.txt";
 constexpr const char* kNothingNew = "No software update available at this time.";
 constexpr const char* kNoAnswer = "Please check your internet connection and try again.";
@@ -69,7 +68,7 @@ protected:
 };
 
 TEST_F(UpdateCheckTest, EqualVersionIsNothingNew) {
-    ExpectAnswer(kRunning, kNothingNew);
+    ExpectAnswer(RunningVersionText(), kNothingNew);
 }
 
 TEST_F(UpdateCheckTest, AnyDifferenceIsAnUpdateOlderNumbersIncluded) {
@@ -79,24 +78,24 @@ TEST_F(UpdateCheckTest, AnyDifferenceIsAnUpdateOlderNumbersIncluded) {
 }
 
 TEST_F(UpdateCheckTest, ComparisonIsExact) {
-    ExpectAnswer(kRunning + " ", kUpdate);
-    ExpectAnswer(" " + kRunning, kUpdate);
-    ExpectAnswer(kRunning + "\t\r\n", kUpdate);
+    ExpectAnswer(RunningVersionText() + " ", kUpdate);
+    ExpectAnswer(" " + RunningVersionText(), kUpdate);
+    ExpectAnswer(RunningVersionText() + "\t\r\n", kUpdate);
 }
 
 TEST_F(UpdateCheckTest, EndOfTheLineIsNoPartOfIt) {
-    ExpectAnswer(kRunning + "\n", kNothingNew);
-    ExpectAnswer(kRunning + "\r\n", kNothingNew);
+    ExpectAnswer(RunningVersionText() + "\n", kNothingNew);
+    ExpectAnswer(RunningVersionText() + "\r\n", kNothingNew);
 }
 
 TEST_F(UpdateCheckTest, LastLineAloneCounts) {
-    ExpectAnswer("0.9.9\r\nwhat is new\r\n" + kRunning + "\r\n", kNothingNew);
-    ExpectAnswer(kRunning + "\n" + kRunning + "\n0.9.9", kUpdate);
+    ExpectAnswer("0.9.9\r\nwhat is new\r\n" + RunningVersionText() + "\r\n", kNothingNew);
+    ExpectAnswer(RunningVersionText() + "\n" + RunningVersionText() + "\n0.9.9", kUpdate);
 }
 
 TEST_F(UpdateCheckTest, EmptyLastLineIsAnEmptyAnswer) {
-    ExpectAnswer(kRunning + "\n\n", kNoAnswer);
-    ExpectAnswer(kRunning + "\r\n\r\n", kNoAnswer);
+    ExpectAnswer(RunningVersionText() + "\n\n", kNoAnswer);
+    ExpectAnswer(RunningVersionText() + "\r\n\r\n", kNoAnswer);
 }
 
 TEST_F(UpdateCheckTest, EmptyBodyAsksForTheConnection) {
@@ -165,7 +164,7 @@ TEST_F(UpdateCheckTest, SilentCheckShowsItsProgressToo) {
     platform.network.answer = [] {
         EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
         EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
-        return kRunning;
+        return RunningVersionText();
     };
     CheckForUpdateSilently();
     EXPECT_EQ(platform.network.requests.size(), 1U);
@@ -179,11 +178,11 @@ TEST_F(UpdateCheckTest, MessagesSpeakTheLanguageOfThePack) {
                               BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
     ExpectAnswer("5", "new\r\nfrom there");
     ExpectAnswer("", "none");
-    ExpectAnswer(kRunning, "same");
+    ExpectAnswer(RunningVersionText(), "same");
 }
 
 TEST_F(UpdateCheckTest, ProgressIsToldProbeByProbeAndGoes) {
-    Publish(kRunning);
+    Publish(RunningVersionText());
     ProgressLog log;
     CheckForUpdate();
     EXPECT_THAT(
@@ -207,7 +206,7 @@ TEST_F(UpdateCheckTest, LabelAndBarStandWhileTheFetchBlocks) {
     platform.network.answer = [] {
         EXPECT_TRUE(HoravexMainForm->lblInternetConnect.Visible());
         EXPECT_TRUE(HoravexMainForm->ProgressBar1.Visible());
-        return kRunning;
+        return RunningVersionText();
     };
     CheckForUpdate();
     EXPECT_EQ(platform.network.requests.size(), 1U);
@@ -226,14 +225,14 @@ TEST_F(UpdateCheckTest, FormerFileIsDeletedBeforeTheFetch) {
     platform.files.WriteWhole(kFile, BytesOf("old"));
     platform.network.answer = [this] {
         EXPECT_FALSE(platform.files.Exists(kFile));
-        return kRunning;
+        return RunningVersionText();
     };
     CheckForUpdate();
-    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), kRunning);
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), RunningVersionText());
 }
 
 TEST_F(UpdateCheckTest, FileThatCannotBeWrittenIsAFault) {
-    Publish(kRunning);
+    Publish(RunningVersionText());
     platform.files.WriteWhole("/program/Dat/update.txt/in the way", BytesOf(""));
     EXPECT_THROW(CheckForUpdate(), FileFault);
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
@@ -245,7 +244,7 @@ TEST_F(UpdateCheckTest, SilentCheckTellsADifferenceInEnglishAlone) {
                               BytesOf("[msg]\n19=new\n20=from there\n21=none\n22=same\n"));
     Publish("5");
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), ElementsAre(kUpdate));
-    Publish(kRunning);
+    Publish(RunningVersionText());
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
     Publish("");
     EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
@@ -260,10 +259,10 @@ TEST_F(UpdateCheckTest, SilentCheckKeepsTheFormerFileUntilItIsWrittenOver) {
     platform.files.WriteWhole(kFile, BytesOf("old"));
     platform.network.answer = [this] {
         EXPECT_TRUE(platform.files.Exists(kFile));
-        return kRunning;
+        return RunningVersionText();
     };
     CheckForUpdateSilently();
-    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), kRunning);
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), RunningVersionText());
 }
 
 TEST_F(UpdateCheckTest, TimerOfHalfAMinuteStandsStillAndChecksOnceWhereItIsStarted) {
@@ -280,7 +279,7 @@ TEST_F(UpdateCheckTest, TimerOfHalfAMinuteStandsStillAndChecksOnceWhereItIsStart
 TEST_F(UpdateCheckTest, LabelChecksAndTheButtonOpensTheSite) {
     BindUpdateCheck();
     HoravexMainForm->Show();
-    Publish(kRunning);
+    Publish(RunningVersionText());
     EXPECT_THAT(MessagesOf([] { HoravexMainForm->VisitWebSiteLabel.UserClick(); }),
                 ElementsAre(kNothingNew));
     EXPECT_THAT(MessagesOf([] { HoravexMainForm->AboutUpdateButton.UserClick(); }), IsEmpty());
