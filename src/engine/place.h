@@ -19,6 +19,8 @@ struct YearPlace {
     double latitudeRad = 0.0;       // as LatitudeRad
     double longitudeWestRad = 0.0;  // as LongitudeWestRad
     double timeZone = 0.0;          // hours east of Greenwich
+
+    bool operator==(const YearPlace&) const = default;
 };
 
 /// The place of a city. timeZone: hours east of Greenwich.

@@ -26,44 +26,51 @@ struct Sky {
     SunPosition sun;
 };
 
-Sky SkyAt(const YearConstants& constants, const YearPlace& place, std::int16_t day, double hours) {
-    const double lonH = place.longitudeWestRad * kHoursPerRadian;
-    const double t = day + (lonH + hours) / 24.0;
+Sky SkyAt(const YearConstants& constants, const EventPlace& at, std::int16_t day, double hours) {
+    const double t = day + (at.longitudeWest + hours) / 24.0;
     return {t, SunAt(constants, t)};
 }
 
 /// Cosine of the hour angle at which the sun stands at a zenith distance; beyond 1 it never does.
-double CosHourAngle(const YearPlace& place, double s, double zenith) {
+double CosHourAngle(const EventPlace& at, double s, double cosZenith) {
     const double c = std::sqrt(1.0 - s * s);
-    return (std::cos(zenith) - std::sin(place.latitudeRad) * s) / (std::cos(place.latitudeRad) * c);
+    return (cosZenith - at.sinLatitude * s) / (at.cosLatitude * c);
 }
 
 /// The clock's hour at which the sun has gone H hours from its transit, whole days aside.
-double ClockHour(const YearConstants& constants, const YearPlace& place, const Sky& sky, double H) {
-    const double lonH = place.longitudeWestRad * kHoursPerRadian;
-    return lonH +
+double ClockHour(const YearConstants& constants, const EventPlace& at, const Sky& sky, double H) {
+    return at.longitudeWest +
            (sky.sun.rightAscension + H - constants.SiderealRate * sky.t - constants.SiderealEpoch) +
-           place.timeZone;
+           at.timeZone;
 }
 
 }  // namespace
 
-double SolarTransit(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+EventPlace EventPlaceOf(const YearPlace& place) {
+    return {place.latitudeRad, std::sin(place.latitudeRad), std::cos(place.latitudeRad),
+            place.longitudeWestRad * kHoursPerRadian, place.timeZone};
+}
+
+double SolarTransit(const YearConstants& constants, const EventPlace& at, std::int16_t day,
                     double& latDecGap) {
-    const double lonH = place.longitudeWestRad * kHoursPerRadian;
-    const double t = day + (lonH + 12.0) / 24.0;
-    const SunPosition sun = SunAt(constants, t);
-    const double declination = ArcSin(sun.sinDeclination);
-    const double R = (sun.rightAscension - constants.SiderealRate * t - constants.SiderealEpoch) +
-                     lonH + place.timeZone;
-    latDecGap = std::fabs(place.latitudeRad - declination);
+    const Sky sky = SkyAt(constants, at, day, 12.0);
+    const double declination = ArcSin(sky.sun.sinDeclination);
+    const double R =
+        (sky.sun.rightAscension - constants.SiderealRate * sky.t - constants.SiderealEpoch) +
+        at.longitudeWest + at.timeZone;
+    latDecGap = std::fabs(at.latitudeRad - declination);
     return WrapOnce(R);
 }
 
-double EventTime(const YearConstants& constants, const YearPlace& place, std::int16_t day,
-                 double zenith, double guess) {
-    const Sky sky = SkyAt(constants, place, day, guess);
-    const double x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
+double SolarTransit(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+                    double& latDecGap) {
+    return SolarTransit(constants, EventPlaceOf(place), day, latDecGap);
+}
+
+double EventTimeByCosine(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                         double cosZenith, double guess) {
+    const Sky sky = SkyAt(constants, at, day, guess);
+    const double x = CosHourAngle(at, sky.sun.sinDeclination, cosZenith);
     if (std::fabs(x) > 1.0) {
         return NoEvent;
     }
@@ -73,7 +80,12 @@ double EventTime(const YearConstants& constants, const YearPlace& place, std::in
     if (guess < 12.0) {
         H = 24.0 - H;
     }
-    return WrapOnce(ClockHour(constants, place, sky, H));
+    return WrapOnce(ClockHour(constants, at, sky, H));
+}
+
+double EventTime(const YearConstants& constants, const YearPlace& place, std::int16_t day,
+                 double zenith, double guess) {
+    return EventTimeByCosine(constants, EventPlaceOf(place), day, std::cos(zenith), guess);
 }
 
 double EventBeside(const YearConstants& constants, const YearPlace& place, std::int16_t day,
@@ -81,14 +93,16 @@ double EventBeside(const YearConstants& constants, const YearPlace& place, std::
     constexpr int kRounds = 6;  // each takes the error of the guess to a tenth at least
     constexpr double kEdge = 1.0 - 1e-12;
     const double side = half == DayHalf::kMorning ? -1.0 : 1.0;
+    const EventPlace at = EventPlaceOf(place);
+    const double cosZenith = std::cos(zenith);
     double hours = transit;
     double x = 0.0;
     for (int round = 0; round < kRounds; ++round) {
-        const Sky sky = SkyAt(constants, place, day, hours);
-        x = CosHourAngle(place, sky.sun.sinDeclination, zenith);
+        const Sky sky = SkyAt(constants, at, day, hours);
+        x = CosHourAngle(at, sky.sun.sinDeclination, cosZenith);
         // On the way the sun of another hour may not get there; the last round decides.
         const double H = side * ArcCos(std::clamp(x, -kEdge, kEdge)) * kHoursPerRadian;
-        const double hour = ClockHour(constants, place, sky, H);
+        const double hour = ClockHour(constants, at, sky, H);
         hours = hour + 24.0 * std::round((transit + H - hour) / 24.0);
     }
     return std::fabs(x) < 1.0 ? hours : NoEvent;

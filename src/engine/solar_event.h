@@ -18,8 +18,21 @@ constexpr bool IsEvent(double hours) {
 /// Degrees from the zenith at sunrise and sunset: refraction and the sun's semi-diameter.
 inline constexpr double kHorizonZenith = 90.83;
 
+/// A place with what each event takes of it.
+struct EventPlace {
+    double latitudeRad;
+    double sinLatitude;
+    double cosLatitude;
+    double longitudeWest;  // hours
+    double timeZone;       // hours east of Greenwich
+};
+
+EventPlace EventPlaceOf(const YearPlace& place);
+
 /// Clock hour of the sun's transit on a day of the year of the constants, 1 for the first of
 /// January; 0 to 24. latDecGap takes abs(latitude - declination) at transit, radians.
+double SolarTransit(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                    double& latDecGap);
 double SolarTransit(const YearConstants& constants, const YearPlace& place, std::int16_t day,
                     double& latDecGap);
 
@@ -28,6 +41,10 @@ double SolarTransit(const YearConstants& constants, const YearPlace& place, std:
 /// DivisionByZeroFault for a sun that just touches the zenith distance.
 double EventTime(const YearConstants& constants, const YearPlace& place, std::int16_t day,
                  double zenith, double guess);
+
+/// The same with the cosine of the zenith distance, for callers that keep it.
+double EventTimeByCosine(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                         double cosZenith, double guess);
 
 /// Which side of the transit.
 enum class DayHalf { kMorning, kEvening };

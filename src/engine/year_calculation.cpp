@@ -32,32 +32,42 @@ constexpr Limits kShiftedLimits = {0.1, 23.99};  // wider, once the daylight hou
 struct Run {
     const YearConstants& constants;
     const YearInputs& inputs;
+    PrayerRow cosZenith{};
     PrayerRow guess = kFirstGuess;
-    PrayerRow zenith{};  // radians
+    YearPlace place = inputs.place;  // of eventPlace; that of the inputs may change in a run
+    EventPlace eventPlace = EventPlaceOf(place);
 };
 
 Run StartRun(const YearConstants& constants, const YearInputs& inputs) {
     Run run{constants, inputs};
-    run.zenith[kFajr] = DegToRad(inputs.method.fajrAngle + 90.0);
-    run.zenith[kShurooq] = DegToRad(kHorizonZenith);
-    run.zenith[kMaghrib] = run.zenith[kShurooq];
-    run.zenith[kIsha] = DegToRad(inputs.method.ishaAngle + 90.0);
+    run.cosZenith[kFajr] = std::cos(DegToRad(inputs.method.fajrAngle + 90.0));
+    run.cosZenith[kShurooq] = std::cos(DegToRad(kHorizonZenith));
+    run.cosZenith[kMaghrib] = run.cosZenith[kShurooq];
+    run.cosZenith[kIsha] = std::cos(DegToRad(inputs.method.ishaAngle + 90.0));
     return run;
 }
 
+void TakePresentPlace(Run& run) {
+    if (run.place != run.inputs.place) {
+        run.place = run.inputs.place;
+        run.eventPlace = EventPlaceOf(run.place);
+    }
+}
+
 double SolveEvent(Run& run, std::int16_t day, Prayer prayer) {
-    const double t =
-        EventTime(run.constants, run.inputs.place, day, run.zenith[prayer], run.guess[prayer]);
+    const double t = EventTimeByCosine(run.constants, run.eventPlace, day, run.cosZenith[prayer],
+                                       run.guess[prayer]);
     run.guess[prayer] = t < 24.0 ? t : kFirstGuess[prayer];
     return t;
 }
 
 /// day: 1 for the first of January; 0 warms the guesses up on the last day of the year before.
 PrayerRow SolveDay(Run& run, std::int16_t day) {
+    TakePresentPlace(run);
     PrayerRow times{};
     double gap = 0.0;
-    times[kZuhr] = SolarTransit(run.constants, run.inputs.place, day, gap);
-    run.zenith[kAsr] = std::atan(std::tan(gap) + run.inputs.method.asrRatio);
+    times[kZuhr] = SolarTransit(run.constants, run.eventPlace, day, gap);
+    run.cosZenith[kAsr] = std::cos(std::atan(std::tan(gap) + run.inputs.method.asrRatio));
     for (const Prayer prayer : kTimedPrayers) {
         times[prayer] = SolveEvent(run, day, prayer);
     }
