@@ -8,7 +8,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kMostTurns = 1000;
+constexpr double kMostTurns = 1000.0;
 constexpr double kTurn = 360.0;
 
 double lastAngle = 0.0;  // what ReduceAngle answered last
@@ -32,11 +32,15 @@ double ReducedRadians(double degrees) {
     return ReduceAngle(degrees) * kSeriesPi / 180.0;
 }
 
+// Both stages ask for the least number of turns that brings an angle onto its turn. A quotient that
+// is rounded up to a whole number tells one turn too many, never too few.
+
 /// Stage of a negative angle of a turn or more. True when the answer stands.
 bool TurnUp(double degrees) {
-    for (int i = 1; i <= kMostTurns; ++i) {
-        lastAngle = i * kTurn + degrees;
-        if (lastAngle > 0.0 && lastAngle <= kTurn) {
+    const double whole = std::floor(-degrees / kTurn);
+    for (const double turns : {whole, whole + 1.0}) {
+        lastAngle = turns * kTurn + degrees;
+        if (turns <= kMostTurns && lastAngle > 0.0 && lastAngle <= kTurn) {
             return true;
         }
     }
@@ -44,12 +48,14 @@ bool TurnUp(double degrees) {
 }
 
 void TurnDown(double degrees) {
-    for (int i = 1; i <= kMostTurns; ++i) {
-        lastAngle = degrees - i * kTurn;
-        if (lastAngle > 0.0 && lastAngle < kTurn) {
+    const double whole = std::floor(degrees / kTurn);
+    for (const double turns : {whole - 1.0, whole}) {
+        lastAngle = degrees - turns * kTurn;
+        if (turns <= kMostTurns && lastAngle > 0.0 && lastAngle < kTurn) {
             return;
         }
     }
+    lastAngle = degrees - kMostTurns * kTurn;
 }
 
 }  // namespace

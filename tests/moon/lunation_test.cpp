@@ -60,6 +60,30 @@ TEST_F(LunationTest, BeyondAThousandTurnsNothingIsReduced) {
     EXPECT_EQ(ReduceAngle(-400000.0), -400000.0);
 }
 
+/// Turns taken off or put on one by one.
+double TurnedOneByOne(double degrees) {
+    const double sign = degrees < 0.0 ? -1.0 : 1.0;
+    for (int turns = 1; turns <= 1000; ++turns) {
+        const double angle = degrees - sign * turns * 360.0;
+        if (angle > 0.0 && (angle < 360.0 || (sign < 0.0 && angle == 360.0))) {
+            return angle;
+        }
+    }
+    return sign < 0.0 ? degrees : degrees - 360000.0;
+}
+
+TEST_F(LunationTest, LeastNumberOfTurnsCounts) {
+    for (int turns = 1; turns <= 1003; ++turns) {
+        const double whole = turns * 360.0;
+        for (const double degrees :
+             {std::nextafter(whole, 0.0), whole + 1e-9, whole + 123.456, whole + 359.999999,
+              std::nextafter(whole + 360.0, 0.0), std::nextafter(whole, 1e9)}) {
+            EXPECT_EQ(ReduceAngle(-degrees), degrees < 360.0 ? -degrees : TurnedOneByOne(-degrees));
+            EXPECT_EQ(ReduceAngle(degrees), degrees < 360.0 ? degrees : TurnedOneByOne(degrees));
+        }
+    }
+}
+
 TEST_F(LunationTest, EstimateCountsFromTheYear2000) {
     EXPECT_EQ(YearFraction(2001, 6), 2001.5);
     EXPECT_EQ(LunationEstimate(2000.0), 0.0);
