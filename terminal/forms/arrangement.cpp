@@ -217,6 +217,13 @@ int Arrangement::PlaceBeside(const Nodes& nodes, int row, int column, int width)
     return height;
 }
 
+/// What a part asks for to stand on a line with others: a single one that takes what is left makes
+/// do with its least.
+int Arrangement::WidthInFlow(const LayoutNode& node) const {
+    const Widths widths = WidthsOf(node);
+    return widths.widens && node.children.empty() ? widths.least : widths.wanted;
+}
+
 /// As many on a line as go there.
 int Arrangement::PlaceFlowing(const Nodes& nodes, int row, int column, int width) {
     Nodes line;
@@ -226,13 +233,13 @@ int Arrangement::PlaceFlowing(const Nodes& nodes, int row, int column, int width
         if (node->kind == Kind::kSpace) {
             continue;
         }
-        const Widths one = WidthsOf(*node);
-        if (!line.empty() && used + kColumnGap + one.wanted > width) {
+        const int wanted = WidthInFlow(*node);
+        if (!line.empty() && used + kColumnGap + wanted > width) {
             height += PlaceBeside(line, row + height, column, width);
             line.clear();
             used = 0;
         }
-        used += (line.empty() ? 0 : kColumnGap) + one.wanted;
+        used += (line.empty() ? 0 : kColumnGap) + wanted;
         line.push_back(node);
     }
     if (line.size() == 1) {

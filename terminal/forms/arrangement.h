@@ -75,6 +75,7 @@ private:
     int PlaceGrid(const LayoutNode& grid, int row, int column, int width);
     int PlaceCells(const LayoutNode& grid, const std::vector<int>& widths, int row, int column);
     int PlaceGridBelow(const LayoutNode& grid, int row, int column, int width);
+    int WidthInFlow(const LayoutNode& node) const;
     int PlaceFlowing(const Nodes& nodes, int row, int column, int width);
     int HeightOf(const LayoutNode& page, int width) const;
 

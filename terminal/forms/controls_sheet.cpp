@@ -50,45 +50,42 @@ void ControlsSheet::Draw(Cells& screen) {
     const int wanted =
         std::max(arrangement_.WantedWidth(layout_), WidthOf(Shown().Caption()) + kEdges + kSide);
     const int width = std::clamp(wanted, std::min(kLeastWidth, mostWidth), mostWidth);
-    const int whole = ArrangeIn(width, mostHeight);
-    const int rows = std::min(whole, mostHeight);
-    KeepFocusInView(rows);
-    const Area window{(screen.Rows() - 1 - rows - kEdges) / 2,
-                      (screen.Columns() - width) / 2 - kSide - 1, rows + kEdges,
+    whole_ = ArrangeIn(width, mostHeight);
+    rows_ = std::min(whole_, mostHeight);
+    FollowFocus();
+    const Area window{(screen.Rows() - 1 - rows_ - kEdges) / 2,
+                      (screen.Columns() - width) / 2 - kSide - 1, rows_ + kEdges,
                       width + 2 * (kSide + 1)};
-    Cells inside(whole, width);
+    Cells inside(whole_, width);
     DrawInside(inside);
     screen.Fill(window);
-    screen.Copy(inside, {first_, 0, rows, width}, {window.row + 1, window.column + 1 + kSide});
+    screen.Copy(inside, {first_, 0, rows_, width}, {window.row + 1, window.column + 1 + kSide});
     if (const auto& cursor = inside.Cursor()) {
         screen.SetCursor(CellPlace{cursor->row - first_ + window.row + 1,
                                    cursor->column + window.column + 1 + kSide});
     }
-    DrawFrame(screen, window, whole);
+    DrawFrame(screen, window);
 }
 
 int ControlsSheet::ArrangeIn(int width, int height) {
     return arrangement_.Arrange(layout_, width, height, fromRight_);
 }
 
-void ControlsSheet::KeepFocusInView(int rows) {
+/// Wherever the focus has gone to, or what has it; a user may have scrolled away since.
+void ControlsSheet::FollowFocus() {
     Widget* const focused = Focused();
     if (focused != nullptr && focused != seen_) {
         TurnToPageOf(*focused);
     }
+    const auto found = focused == nullptr ? arrangement_.Areas().end()
+                                          : arrangement_.Areas().find(&focused->Node());
+    const Area area = found == arrangement_.Areas().end() ? Area() : found->second;
+    if (focused != seen_ || area != seenAt_) {
+        first_ = std::min(std::max(first_, area.row + std::max(area.height, 1) - rows_), area.row);
+    }
     seen_ = focused;
-    const auto area = focused == nullptr ? arrangement_.Areas().end()
-                                         : arrangement_.Areas().find(&focused->Node());
-    if (area != arrangement_.Areas().end()) {
-        const int top = area->second.row;
-        const int bottom = top + std::max(area->second.height, 1);
-        first_ = std::min(std::max(first_, bottom - rows), top);
-    }
-    int whole = 0;
-    for (const auto& [node, placed] : arrangement_.Areas()) {
-        whole = std::max(whole, placed.row + placed.height);
-    }
-    first_ = std::clamp(first_, 0, std::max(0, whole - rows));
+    seenAt_ = area;
+    first_ = std::clamp(first_, 0, whole_ - rows_);
 }
 
 // Frames come before what lies in them.
@@ -102,14 +99,14 @@ void ControlsSheet::DrawInside(Cells& inside) {
     }
 }
 
-void ControlsSheet::DrawFrame(Cells& screen, const Area& window, int whole) {
+void ControlsSheet::DrawFrame(Cells& screen, const Area& window) {
     const bool isFront = Around().desk.Front() == this;
     screen.Frame(window, Shown().Caption(), isFront ? Tone::kPlain : Tone::kFaint, Tone::kStrong);
     const int right = window.column + window.width - 1;
     if (first_ > 0) {
         screen.Put(window.row + 1, right, "▴", Tone::kAccent);
     }
-    if (first_ + window.height - kEdges < whole) {
+    if (first_ + rows_ < whole_) {
         screen.Put(window.row + window.height - 2, right, "▾", Tone::kAccent);
     }
     const Widget* const focused = Focused();

@@ -42,13 +42,14 @@ private:
     bool PressButton(const char* property, const char* value = "true");
     void PressEnter();
     void TurnPages(int step);
+    void ScrollPage(int step);
 
     // Drawing.
     int ArrangeIn(int width, int height);
-    void KeepFocusInView(int rows);
+    void FollowFocus();
     void DrawInside(Cells& inside);
     std::string HintOf(const Widget& widget) const;
-    void DrawFrame(Cells& screen, const Area& window, int rows);
+    void DrawFrame(Cells& screen, const Area& window);
 
     LayoutNode layout_;
     std::vector<std::unique_ptr<Widget>> widgets_;
@@ -56,9 +57,13 @@ private:
     ArrangedNodes nodes_;
     Arrangement arrangement_{nodes_};
     Widget* ownFocus_ = nullptr;  // one that no control's focus stands for
-    Widget* seen_ = nullptr;      // the focus when it was last drawn
     bool fromRight_ = false;
     int first_ = 0;  // row of the inside at the top of the window
+    // When it was last drawn.
+    Widget* seen_ = nullptr;  // the focus
+    Area seenAt_;
+    int rows_ = 0;   // of the inside on view
+    int whole_ = 0;  // of all the inside
 };
 
 }  // namespace horavex

@@ -149,7 +149,30 @@ void ControlsSheet::TurnPages(int step) {
             return;
         }
     }
-    StepFocus(step);
+    ScrollPage(step);
+}
+
+/// By a screen, of which a row stays on view. The focus goes along to the nearest control there.
+void ControlsSheet::ScrollPage(int step) {
+    first_ = std::clamp(first_ + step * std::max(1, rows_ - 1), 0, whole_ - rows_);
+    Widget* nearest = nullptr;
+    int least = whole_;
+    for (Widget* widget : order_) {
+        if (!IsOnView(*widget) || !CanTakeKeys(*widget)) {
+            continue;
+        }
+        const Area& area = arrangement_.Areas().at(&widget->Node());
+        const int far = step * (area.row - seenAt_.row);
+        if (area.row >= first_ && area.row + area.height <= first_ + rows_ && far > 0 &&
+            far < least) {
+            least = far;
+            nearest = widget;
+        }
+    }
+    if (nearest != nullptr) {
+        MoveFocus(*nearest);
+    }
+    Around().desk.Invalidate();
 }
 
 /// A label's key goes to what the label stands before. One on view comes before those on other

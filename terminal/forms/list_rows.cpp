@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "terminal/forms/scroll_mark.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -59,10 +60,7 @@ void ListRows::Draw(Cells& cells, const Area& area, const State& state, bool has
             cells.Put(area.row + row, area.column + 1, text, look, width - 2);
         }
     }
-    if (scrolls) {
-        const int mark = area.row + first_ * (height_ - 1) / std::max(1, count - height_);
-        cells.Put(mark, area.column + width, "█", hasFocus ? Tone::kAccent : Tone::kFaint);
-    }
+    PutScrollMark(cells, area, {first_, height_, count}, hasFocus);
 }
 
 }  // namespace horavex

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "terminal/forms/scroll_mark.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -137,30 +138,30 @@ std::vector<int> GridWidget::Columns() const {
 }
 
 /// The columns on view in so much room, with their widths: the first one, and those from the one
-/// that was scrolled to.
+/// that was scrolled to. The first yields to the one beside it, which would be on view nowhere,
+/// until a user goes back to it.
 std::vector<GridWidget::Shown> GridWidget::ColumnsIn(int width) {
+    constexpr int kLeastFirst = 8;
     const std::vector<int> wanted = Columns();
-    const auto count = static_cast<int>(wanted.size());
     std::vector<Shown> shown;
-    int used = 0;
-    const auto take = [&](int column) {
-        const int needed = wanted[static_cast<std::size_t>(column)] + (shown.empty() ? 0 : kGap);
-        const bool fits = shown.empty() || used + needed <= width;
-        if (fits) {
-            shown.push_back({static_cast<std::size_t>(column), used + (shown.empty() ? 0 : kGap),
-                             wanted[static_cast<std::size_t>(column)]});
-            used += needed;
-        }
-        return fits;
+    int left = 0;
+    const auto put = [&](std::size_t column, int columns) {
+        shown.push_back({column, left, columns});
+        left += columns + kGap;
     };
-    if (count > 0) {
-        take(0);
+    if (wanted.empty()) {
+        return shown;
     }
-    int column = 1 + skipped_;
-    while (column < count && take(column)) {
+    auto column = static_cast<std::size_t>(1 + skipped_);
+    const int second = column < wanted.size() ? wanted[column] + kGap : 0;
+    const int yielding = std::clamp(width - second, std::min(kLeastFirst, wanted[0]), wanted[0]);
+    firstIsCut_ = !firstIsWhole_ && yielding < wanted[0];
+    put(0, firstIsWhole_ ? std::min(wanted[0], width) : yielding);
+    while (column < wanted.size() && (shown.size() == 1 || left + wanted[column] <= width)) {
+        put(column, std::clamp(width - left, 0, wanted[column]));
         ++column;
     }
-    hasMoreColumns_ = column < count;
+    hasMoreColumns_ = column < wanted.size();
     return shown;
 }
 
@@ -169,7 +170,7 @@ int GridWidget::LeastWidth() const {
 }
 
 int GridWidget::WantedWidth() const {
-    int all = 0;
+    int all = -kGap;
     for (const int column : Columns()) {
         all += column + kGap;
     }
@@ -209,32 +210,35 @@ void GridWidget::GoToCurrentRow() {
 }
 
 void GridWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
-    const std::vector<Shown> columns = ColumnsIn(area.width);
     const int count = static_cast<int>(grid_.rows.size());
     height_ = std::max(1, area.height - 1);
+    const bool hasMarks = count > height_ || WantedWidth() > area.width;
+    const int width = area.width - (hasMarks ? 1 : 0);
+    const std::vector<Shown> columns = ColumnsIn(width);
     GoToCurrentRow();
     first_ = std::clamp(first_, 0, std::max(0, count - height_));
     cells.Fill({area.row, area.column, 1, area.width}, hasFocus ? Tone::kFocus : Tone::kSelected);
-    DrawRow(cells, {area.row, area.column, 1, area.width}, grid_.heads, columns,
+    DrawRow(cells, {area.row, area.column, 1, width}, grid_.heads, columns,
             hasFocus ? Tone::kFocus : Tone::kSelected);
     for (int row = 0; row < std::min(height_, count - first_); ++row) {
         const Grid::Row& shown = grid_.rows[static_cast<std::size_t>(first_ + row)];
         const Look look(shown.current ? Tone::kAccent
                                       : (shown.setOff ? Tone::kStrong : Tone::kPlain));
-        DrawRow(cells, {area.row + 1 + row, area.column, 1, area.width}, shown.cells, columns,
-                look);
+        DrawRow(cells, {area.row + 1 + row, area.column, 1, width}, shown.cells, columns, look);
     }
     if (hasMoreColumns_) {
-        cells.Put(area.row, FromRight() ? area.column : area.column + area.width - 1,
-                  FromRight() ? "◂" : "▸", Tone::kAccent);
+        cells.Put(area.row, area.column + area.width - 1, FromRight() ? "◂" : "▸", Tone::kAccent);
     }
-    if (first_ + height_ < count) {
-        cells.Put(area.row + height_, area.column + area.width - 1, "▾", Tone::kAccent);
-    }
+    PutScrollMark(cells, {area.row + 1, area.column, height_, area.width}, {first_, height_, count},
+                  hasFocus);
 }
 
 /// False where there are no more on that side.
 bool GridWidget::SkipColumns(int step) {
+    if (step < 0 ? skipped_ == 0 && firstIsCut_ : firstIsWhole_) {
+        firstIsWhole_ = !firstIsWhole_;
+        return true;
+    }
     const bool can = step > 0 ? hasMoreColumns_ : skipped_ > 0;
     skipped_ += can ? step : 0;
     return can;

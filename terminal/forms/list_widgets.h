@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -16,9 +17,10 @@ public:
     ListWidget(ListBox& list, const LayoutNode& node, WidgetSurroundings& around)
         : Widget(&list, node, around), list_(list) {}
 
-    int LeastWidth() const override { return 14; }
+    int LeastWidth() const override { return std::min(WantedWidth(), 24); }
     int WantedWidth() const override;
     int HeightIn(int width) const override;
+    int MostHeightIn(int) const override { return list_.ListCount(); }
     bool Widens() const override { return true; }
     bool Grows() const override;
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
@@ -118,6 +120,8 @@ private:
     std::vector<Grid::Row> shown_;
     int skipped_ = 0;  // columns behind the first one
     bool hasMoreColumns_ = false;
+    bool firstIsCut_ = false;
+    bool firstIsWhole_ = false;  // it yields to none
     int first_ = 0;
     int height_ = 1;  // rows of the table when it was last drawn
 };

@@ -185,10 +185,24 @@ void Raster::Put(Cells& cells, CellPlace to, bool inOneColour) const {
             cells.Put(to.row + row, to.column + column, upper ? "▀" : "▄", look);
         }
     }
-    for (const Text& text : texts_) {
-        const int column = std::clamp(text.column, 0, std::max(0, columns_ - WidthOf(text.words)));
-        cells.Put(to.row + std::clamp(text.row, 0, rows_ - 1), to.column + column, text.words, {},
-                  columns_ - column);
+    PutTexts(cells, to);
+}
+
+/// Texts are moved inside. One that would run into another is left out: the first one stands.
+void Raster::PutTexts(Cells& cells, CellPlace to) const {
+    std::vector<Text> put;
+    for (Text text : texts_) {
+        text.column = std::clamp(text.column, 0, std::max(0, columns_ - WidthOf(text.words)));
+        text.row = std::clamp(text.row, 0, rows_ - 1);
+        const bool isFree = std::none_of(put.begin(), put.end(), [&text](const Text& other) {
+            return other.row == text.row && text.column <= other.column + WidthOf(other.words) &&
+                   other.column <= text.column + WidthOf(text.words);
+        });
+        if (isFree) {
+            cells.Put(to.row + text.row, to.column + text.column, text.words, {},
+                      columns_ - text.column);
+            put.push_back(text);
+        }
     }
 }
 

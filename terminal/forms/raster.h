@@ -22,8 +22,8 @@ public:
     /// The same, of whatever size, in the whole of the raster.
     void DrawWhole(const Drawing& drawing);
 
-    /// Squares that nothing was drawn on leave the ground; texts are moved inside. inOneColour: how
-    /// light a place is stands for its colour.
+    /// Squares that nothing was drawn on leave the ground. inOneColour: how light a place is stands
+    /// for its colour.
     void Put(Cells& cells, CellPlace to, bool inOneColour) const;
 
 private:
@@ -35,6 +35,7 @@ private:
 
     class Painter;
 
+    void PutTexts(Cells& cells, CellPlace to) const;
     void Dot(int x, int y, const Colour& colour);
     void Line(Point from, Point to, const Colour& colour);
     void Disc(Point centre, double radiusAcross, double radiusDown, const Colour& colour);

@@ -4,6 +4,7 @@
 
 #include "base/utf8.h"
 #include "lang/own_digits.h"
+#include "terminal/forms/scroll_mark.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -123,6 +124,20 @@ bool TextWidget::Press(const KeyPress& key) {
     return kept;
 }
 
+bool LinesWidget::Wraps() const {
+    return Node().Property("lineWrapMode") != "QTextEdit::NoWrap";
+}
+
+/// A column is left for the mark of a text that scrolls. Blank lines at the end are none.
+std::vector<std::string> LinesWidget::LinesIn(int width) const {
+    constexpr int kAnyWidth = 10000;
+    auto lines = Wrapped(box_.Text(), Wraps() ? std::max(1, width - 1) : kAnyWidth);
+    while (lines.size() > 1 && lines.back().empty()) {
+        lines.pop_back();
+    }
+    return lines;
+}
+
 int LinesWidget::LeastWidth() const {
     return std::min(20, WantedWidth());
 }
@@ -133,52 +148,75 @@ int LinesWidget::WantedWidth() const {
 
 int LinesWidget::HeightIn(int width) const {
     constexpr int kLeast = 3;
-    const auto lines = static_cast<int>(Wrapped(box_.Text(), std::max(1, width - 1)).size());
-    return std::min(lines, kLeast);
+    return Wraps() ? std::min(MostHeightIn(width), kLeast) : MostHeightIn(width);
+}
+
+int LinesWidget::MostHeightIn(int width) const {
+    return static_cast<int>(LinesIn(width).size());
 }
 
 bool LinesWidget::Grows() const {
-    return !box_.Text().empty();
+    return Wraps() && !box_.Text().empty();
+}
+
+void LinesWidget::DrawLine(Cells& cells, const Area& place, const std::string& line) const {
+    const Look look(ToneOf(false));
+    const std::string shown = WithoutColumns(line, left_);
+    if (FromRight()) {
+        cells.PutRight(place.row, place.column, shown, look, place.width);
+    } else {
+        cells.Put(place.row, place.column, shown, look, place.width);
+    }
 }
 
 void LinesWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
-    const auto lines = Wrapped(box_.Text(), std::max(1, area.width - 1));
-    const int count = static_cast<int>(lines.size());
+    const std::vector<std::string> lines = LinesIn(area.width);
+    count_ = static_cast<int>(lines.size());
     height_ = std::max(1, area.height);
-    first_ = std::clamp(first_, 0, std::max(0, count - height_));
-    const Look look(ToneOf(false));
-    cells.Fill(area, look);
-    for (int row = 0; row < std::min(height_, count - first_); ++row) {
-        const std::string& line = lines[static_cast<std::size_t>(first_ + row)];
-        if (FromRight()) {
-            cells.PutRight(area.row + row, area.column, line, look, area.width);
-        } else {
-            cells.Put(area.row + row, area.column, line, look, area.width);
-        }
+    width_ = area.width;
+    first_ = std::clamp(first_, 0, std::max(0, count_ - height_));
+    cells.Fill(area, ToneOf(false));
+    for (int row = 0; row < std::min(height_, count_ - first_); ++row) {
+        DrawLine(cells, {area.row + row, area.column, 1, area.width},
+                 lines[static_cast<std::size_t>(first_ + row)]);
     }
-    if (count > height_) {
-        const int mark = area.row + first_ * (height_ - 1) / std::max(1, count - height_);
-        cells.Put(mark, area.column + area.width - 1, "█", hasFocus ? Tone::kAccent : Tone::kFaint);
-    } else if (hasFocus) {
-        cells.SetCursor(CellPlace{area.row, area.column});
+    PutScrollMark(cells, area, {first_, height_, count_}, hasFocus);
+    if (hasFocus) {
+        cells.SetCursor(
+            CellPlace{area.row, FromRight() ? area.column + area.width - 1 : area.column});
     }
 }
 
-bool LinesWidget::Press(const KeyPress& key) {
+/// False where there is nothing on that side.
+bool LinesWidget::Scroll(int lines) {
     const int before = first_;
+    first_ = std::clamp(first_ + lines, 0, std::max(0, count_ - height_));
+    return first_ != before;
+}
+
+bool LinesWidget::ScrollSideways(int columns) {
+    const int before = left_;
+    const int most = Wraps() ? 0 : std::max(0, WidestLine(box_.Text()) - width_);
+    left_ = std::clamp(left_ + columns, 0, most);
+    return left_ != before;
+}
+
+bool LinesWidget::Press(const KeyPress& key) {
+    constexpr int kSideways = 8;
+    const int onward = FromRight() ? -kSideways : kSideways;
     switch (key.code) {
         case KeyCode::kUp:
-            first_ = std::max(0, first_ - 1);
-            return first_ != before;
+            return Scroll(-1);
         case KeyCode::kDown:
-            ++first_;
-            return true;
+            return Scroll(1);
         case KeyCode::kPageUp:
-            first_ = std::max(0, first_ - height_);
-            return true;
+            return Scroll(-height_);
         case KeyCode::kPageDown:
-            first_ += height_;
-            return true;
+            return Scroll(height_);
+        case KeyCode::kLeft:
+            return ScrollSideways(-onward);
+        case KeyCode::kRight:
+            return ScrollSideways(onward);
         default:
             return false;
     }

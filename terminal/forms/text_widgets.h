@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/combo_box.h"
 #include "forms/text_box.h"
@@ -49,7 +50,9 @@ private:
     EditedLine line_;
 };
 
-/// A text box of several lines, which is read and moved through.
+/// A text box of several lines, which is read and moved through. Lines that its layout does not
+/// wrap stand beside those of its neighbours: all of them are on view, and what has no room is
+/// moved through sideways.
 class LinesWidget : public Widget {
 public:
     LinesWidget(TextBox& box, const LayoutNode& node, WidgetSurroundings& around)
@@ -58,6 +61,7 @@ public:
     int LeastWidth() const override;
     int WantedWidth() const override;
     int HeightIn(int width) const override;
+    int MostHeightIn(int width) const override;
     bool Widens() const override { return true; }
     bool Grows() const override;
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
@@ -65,9 +69,19 @@ public:
     bool Press(const KeyPress& key) override;
 
 private:
+    bool Wraps() const;
+    std::vector<std::string> LinesIn(int width) const;
+    void DrawLine(Cells& cells, const Area& place, const std::string& line) const;
+    bool Scroll(int lines);
+    bool ScrollSideways(int columns);
+
     TextBox& box_;
-    int first_ = 0;   // line at the top
-    int height_ = 1;  // rows when it was last drawn
+    int first_ = 0;  // line at the top
+    int left_ = 0;   // columns before the first on view
+    // When it was last drawn.
+    int height_ = 1;
+    int width_ = 1;
+    int count_ = 0;  // lines
 };
 
 /// A list under a text, which can be typed where the box says so.

@@ -119,6 +119,21 @@ std::string Clipped(std::string_view text, int width) {
     return width > 0 ? clipped + "…" : std::string();
 }
 
+std::string WithoutColumns(std::string_view text, int columns) {
+    if (columns <= 0) {
+        return std::string(text);
+    }
+    std::string rest = "…";
+    int passed = -1;  // the ellipsis takes one
+    for (const Glyph& glyph : GlyphsOf(text)) {
+        if (passed >= columns) {
+            rest += glyph.text;
+        }
+        passed += glyph.width;
+    }
+    return passed >= columns ? rest : std::string();
+}
+
 std::vector<std::string> Wrapped(std::string_view text, int width) {
     std::vector<std::string> lines;
     for (const std::string& paragraph : Parts(text, '\n')) {

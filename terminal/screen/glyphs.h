@@ -22,6 +22,9 @@ int WidthOf(std::string_view text);
 /// A text of at most the given columns; one that is cut ends with an ellipsis.
 std::string Clipped(std::string_view text, int width);
 
+/// What is left of a text of one line without its first columns; it begins with an ellipsis then.
+std::string WithoutColumns(std::string_view text, int columns);
+
 /// The lines of a text, each within the given columns, 1 or more. They end between words where
 /// that can be done; a line feed ends one in any case.
 std::vector<std::string> Wrapped(std::string_view text, int width);

@@ -8,7 +8,6 @@
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
 #include "forms/frame.h"
-#include "forms/grid.h"
 #include "forms/label.h"
 #include "forms/list.h"
 #include "forms/range.h"
@@ -353,37 +352,6 @@ TEST_F(ControlsSheetTest, RightToLeftCaptionsBeginAtTheRight) {
         }
     }
     FAIL() << screen.Text();
-}
-
-class TableForm : public Form {
-public:
-    TableForm() : Form("table") {}
-    Grid grdTable{*this, "grdTable"};
-};
-
-TEST_F(ControlsSheetTest, TableThatIsTooWideIsMovedThroughByColumns) {
-    DeskScreen narrow(24, 50, [](Form& shown, FormSheet::Host& host) -> std::shared_ptr<FormSheet> {
-        return std::make_shared<ControlsSheet>(
-            shown,
-            ReadLayout(R"(<ui><widget class="QWidget" name="table"><layout class="QVBoxLayout"
-                name="page"><item><widget class="QTableWidget" name="grdTable"/></item></layout>
-                </widget></ui>)"),
-            host);
-    });
-    TableForm table;
-    table.grdTable.heads = {"Evening", "Sunset at the place", "Moonset at the place", "Yallop"};
-    table.grdTable.rows = {{{"8 December", "05:39 PM", "05:02 PM", "before"}, false, true}};
-    table.Show();
-    EXPECT_THAT(narrow.Text(), HasSubstr("Sunset at the place"));
-    EXPECT_THAT(narrow.Text(), Not(HasSubstr("Yallop")));
-    narrow.Press(KeyCode::kRight);
-    narrow.Press(KeyCode::kRight);
-    EXPECT_THAT(narrow.Text(), HasSubstr("Evening"));
-    EXPECT_THAT(narrow.Text(), Not(HasSubstr("Sunset")));
-    EXPECT_THAT(narrow.Text(), HasSubstr("Yallop"));
-    narrow.Press(KeyCode::kLeft);
-    narrow.Press(KeyCode::kLeft);
-    EXPECT_THAT(narrow.Text(), HasSubstr("Sunset at the place"));
 }
 
 TEST_F(ControlsSheetTest, TooSmallATerminalSaysWhatItNeeds) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "base/utf8.h"
 #include "terminal/screen/glyphs.h"
@@ -21,6 +22,10 @@ DeskScreen::DeskScreen(int rows, int columns, FormSheets::Maker special)
 
 void DeskScreen::RunWhile(const std::function<bool()>& isSo) {
     while (isSo()) {
+        if (keys_.empty() && whileWaiting) {
+            std::exchange(whileWaiting, nullptr)();
+            continue;
+        }
         if (keys_.empty()) {
             throw std::runtime_error("no key for what waits:\n" + Text());
         }

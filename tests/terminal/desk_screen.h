@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,9 @@ public:
 
     void SetSize(int rows, int columns);
     const Cells& Shown();
+
+    /// Done once, as soon as something waits for the user and no keys are laid out for it.
+    std::function<void()> whileWaiting;
 
     Desk desk;
     FormSheet::Host host;

@@ -13,6 +13,13 @@ struct Glyphs : testing::Test {
     Glyphs() { std::setlocale(LC_CTYPE, "C.UTF-8"); }
 };
 
+TEST_F(Glyphs, TextIsCutAtItsBeginning) {
+    EXPECT_EQ(WithoutColumns("December", 0), "December");
+    EXPECT_EQ(WithoutColumns("December", 3), "…mber");
+    EXPECT_EQ(WithoutColumns("December", 7), "…");
+    EXPECT_EQ(WithoutColumns("December", 8), "");
+}
+
 TEST_F(Glyphs, WideCharactersTakeTwoColumnsAndMarksNone) {
     EXPECT_EQ(WidthOf("Mecca"), 5);
     EXPECT_EQ(WidthOf("مكة"), 3);

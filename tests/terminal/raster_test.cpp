@@ -55,6 +55,16 @@ TEST_F(RasterTest, TextsStayInside) {
     EXPECT_THAT(cells.Texts(), ElementsAre("", "    12", "  lon…", ""));
 }
 
+TEST_F(RasterTest, TextsThatWouldRunIntoOneAnotherAreLeftOut) {
+    Raster raster(1, 6);
+    raster.Draw(
+        {TextStep{{0.0, 0.0}, "0°"}, TextStep{{300.0, 0.0}, "9"}, TextStep{{400.0, 0.0}, "12"}},
+        600.0, 400.0);
+    Cells cells(1, 6);
+    raster.Put(cells, {0, 0}, false);
+    EXPECT_THAT(cells.Texts(), ElementsAre("0° 9"));
+}
+
 TEST_F(RasterTest, WholeDrawingFillsTheRasterWhateverItsSize) {
     Raster raster(1, 4);
     raster.DrawWhole({LineStep{{1000.0, 1000.0}, {5000.0, 1000.0}, {kWhite}},
