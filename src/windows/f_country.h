@@ -18,7 +18,8 @@ namespace horavex {
 /// over the cities of all of them.
 class CountryForm : public Form {
 public:
-    CountryForm() : Form("fCountry", {.caption = "Chose a City", .width = 9600, .height = 9000}) {}
+    CountryForm();
+    ~CountryForm() override;
 
     Label lblSearch{*this, "lblSearch", {.caption = "&Search"}};
     TextBox txtSearch{*this, "txtSearch"};

@@ -12,7 +12,8 @@ namespace horavex {
 /// The small window of progress and of the alarm.
 class MessageForm : public Form {
 public:
-    MessageForm() : Form("fMessage", {.caption = "Horavex", .width = 5400, .height = 2100}) {}
+    MessageForm();
+    ~MessageForm() override;
 
     Label lblMessage1{*this, "lblMessage1"};
     Label lblMessage2{*this, "lblMessage2"};

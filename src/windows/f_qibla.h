@@ -12,7 +12,8 @@ namespace horavex {
 /// there, and below both the sentence, the place and the distance.
 class QiblaForm : public Form {
 public:
-    QiblaForm() : Form("fQibla", {.caption = "Qibla", .width = 12600, .height = 7200}) {}
+    QiblaForm();
+    ~QiblaForm() override;
 
     Label lblNorth{*this, "lblNorth", {.caption = "North"}};
     Label lblEast{*this, "lblEast", {.caption = "East"}};

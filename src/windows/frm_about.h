@@ -11,7 +11,8 @@ namespace horavex {
 /// What the program is, and the way to the desktop's own system information.
 class AboutForm : public Form {
 public:
-    AboutForm() : Form("frmAbout", {.caption = "About", .width = 7200, .height = 4500}) {}
+    AboutForm();
+    ~AboutForm() override;
 
     Picture picIcon{*this, "picIcon", {.width = 1200, .height = 1200}};
     Label lblTitle{*this, "lblTitle", {.caption = "Horavex"}};

@@ -18,7 +18,8 @@ namespace horavex {
 /// Labels that begin with lblShown say what the controls beside them stand for.
 class AdjustForm : public Form {
 public:
-    AdjustForm() : Form("frmAdjust", {.caption = "Adjustments", .width = 13200, .height = 6300}) {}
+    AdjustForm();
+    ~AdjustForm() override;
 
     horavex::Frame fraMethod{*this, "fraMethod", {.caption = "Method"}};
     Label lblMethod{fraMethod, "lblMethod", {.caption = "Authority"}};

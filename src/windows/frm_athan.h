@@ -14,7 +14,8 @@ namespace horavex {
 /// buttons are numbered 0 for Fajr and 1 for the other prayers.
 class FrmAthan : public Form {
 public:
-    FrmAthan() : Form("frmAthan", {.caption = "Athan Settings", .width = 7800, .height = 6300}) {}
+    FrmAthan();
+    ~FrmAthan() override;
 
     horavex::Frame fraFajr{*this, "fraFajr", {.caption = "Fajr Prayer Athan:"}};
     OptionButton DessamFajr{fraFajr, "DessamFajr", {.caption = "Dessam, Harram-Mekkah"}};

@@ -11,7 +11,8 @@ namespace horavex {
 /// stop. It speaks no language itself.
 class FrmAzan : public Form {
 public:
-    FrmAzan() : Form("frmAzan", {.caption = "Athan", .width = 5400, .height = 3390}) {}
+    FrmAzan();
+    ~FrmAzan() override;
 
     /// Moves the window up while it rises.
     Timer Timer1{*this, "Timer1", {.enabled = false, .intervalMs = 50}};

@@ -16,8 +16,8 @@ namespace horavex {
 /// days that follow from them beside those of the calendars, and one evening over the world.
 class CrescentForm : public Form {
 public:
-    CrescentForm()
-        : Form("frmCrescent", {.caption = "Crescent", .width = 18000, .height = 10050}) {}
+    CrescentForm();
+    ~CrescentForm() override;
 
     Label lblMonth{*this, "lblMonth", {.caption = "Hijri month"}};
     ComboBox cboMonth{*this, "cboMonth", {.typed = false}};

@@ -13,8 +13,8 @@ namespace horavex {
 /// Conversion of a date between the calendars.
 class DateConvertForm : public Form {
 public:
-    DateConvertForm()
-        : Form("frmDateConvert", {.caption = "Date Conversion", .width = 6000, .height = 3900}) {}
+    DateConvertForm();
+    ~DateConvertForm() override;
 
     horavex::Frame fraDirection{*this, "fraDirection", {.caption = "Convert to"}};
     OptionButton choHijri{fraDirection,

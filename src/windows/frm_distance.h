@@ -13,9 +13,8 @@ namespace horavex {
 /// The distance between two places. A south or west coordinate has its sign in all three boxes.
 class DistanceForm : public Form {
 public:
-    DistanceForm()
-        : Form("frmDistance",
-               {.caption = "Distance between 2 cities", .width = 9600, .height = 7200}) {}
+    DistanceForm();
+    ~DistanceForm() override;
 
     horavex::Frame fraMode{*this, "fraMode", {.caption = "Distance"}};
     OptionButton OptionTwoCities{

@@ -16,7 +16,8 @@ namespace horavex {
 /// tray, never shown as a bar.
 class FrmMain : public Form {
 public:
-    FrmMain() : Form("frmMain", {.caption = "Horavex", .width = 6300, .height = 7500}) {}
+    FrmMain();
+    ~FrmMain() override;
 
     /// What the face tells: today's times, the date and the time of day.
     ControlArray<Label> lblZoritName{*this, "lblZoritName", EverydayPrayerLabels()};

@@ -13,7 +13,8 @@ namespace horavex {
 /// The year's table by months, and as one picture on a second page.
 class MonthForm : public Form {
 public:
-    MonthForm() : Form("frmMonth", {.caption = "Month", .width = 14400, .height = 12000}) {}
+    MonthForm();
+    ~MonthForm() override;
 
     TabStrip tabPages{*this, "tabPages", {.items = {"Month", "Year"}, .listIndex = 0}};
 

@@ -11,7 +11,8 @@ namespace horavex {
 /// Help on finding the first day of a lunar month with the moon tables.
 class RamadanForm : public Form {
 public:
-    RamadanForm() : Form("frmRamadan", {.caption = "Help", .width = 7200, .height = 4800}) {}
+    RamadanForm();
+    ~RamadanForm() override;
 
     SkinLabel SkinLabel1{*this,
                          "SkinLabel1",

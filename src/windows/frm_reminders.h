@@ -18,9 +18,8 @@ namespace horavex {
 /// the controls beside them stand for. The bars of the quiet hours stand for five minutes a step.
 class RemindersForm : public Form {
 public:
-    RemindersForm()
-        : Form("frmReminders", {.caption = "Athan and Reminders", .width = 15000, .height = 6300}) {
-    }
+    RemindersForm();
+    ~RemindersForm() override;
 
     horavex::Frame fraPrayers{*this, "fraPrayers", {.caption = "Each prayer"}};
     Label lblSound{fraPrayers, "lblSound", {.caption = "Sound"}};

@@ -15,7 +15,8 @@ namespace horavex {
 /// has a picture between them, the others are of a year that can be turned.
 class SkyForm : public Form {
 public:
-    SkyForm() : Form("frmSky", {.caption = "Sky", .width = 13800, .height = 9300}) {}
+    SkyForm();
+    ~SkyForm() override;
 
     TabStrip tabPages{
         *this, "tabPages", {.items = {"Today", "Moon phases", "Eclipses", "Qibla by the sun"}}};

@@ -14,7 +14,8 @@ namespace horavex {
 /// The day browser: the six times of one day of the year's table.
 class TimesForm : public Form {
 public:
-    TimesForm() : Form("frmTimes", {.caption = "Paryer Times", .width = 6600, .height = 5700}) {}
+    TimesForm();
+    ~TimesForm() override;
 
     Label lblCity{*this, "lblCity"};
     Label lblDate{*this, "lblDate"};

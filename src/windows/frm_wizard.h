@@ -21,10 +21,8 @@ namespace horavex {
 /// Frame, and a body, Frame2, of the page's number.
 class WizardForm : public Form {
 public:
-    WizardForm()
-        : Form("frmWizard", {.caption = "Horavex Prayer Times Configuration Wizard",
-                             .width = 9300,
-                             .height = 7350}) {}
+    WizardForm();
+    ~WizardForm() override;
 
     ControlArray<horavex::Frame> Frame{
         *this,

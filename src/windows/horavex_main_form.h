@@ -21,8 +21,8 @@ namespace horavex {
 /// controls hold the values and texts of the place and the method that others read.
 class SettingsForm : public Form {
 public:
-    SettingsForm()
-        : Form("HoravexMainForm", {.caption = "Horavex Settings", .width = 9600, .height = 7200}) {}
+    SettingsForm();
+    ~SettingsForm() override;
 
     horavex::Frame fraCity{*this, "fraCity", {.caption = "Location"}};
     Label lblCityBanner{fraCity, "lblCityBanner", {.caption = "City"}};

@@ -18,8 +18,8 @@ namespace horavex {
 /// picture beside each table has the disc of every row; one more shows tonight's moon.
 class MoonPhasesForm : public Form {
 public:
-    MoonPhasesForm()
-        : Form("Moon_Phases", {.caption = "Moon Phases", .width = 12900, .height = 7200}) {}
+    MoonPhasesForm();
+    ~MoonPhasesForm() override;
 
     SkinLabel SkinLabel1{
         *this,

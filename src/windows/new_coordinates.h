@@ -14,8 +14,8 @@ namespace horavex {
 /// minutes and seconds. Nothing is done with them yet.
 class NewCoordinatesForm : public Form {
 public:
-    NewCoordinatesForm()
-        : Form("NewCoordinates", {.caption = "New Coordinates", .width = 6000, .height = 5400}) {}
+    NewCoordinatesForm();
+    ~NewCoordinatesForm() override;
 
     Label lblName{*this, "lblName", {.caption = "City"}};
     TextBox Text1{*this, "Text1"};

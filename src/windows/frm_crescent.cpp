@@ -1,0 +1,10 @@
+#include "windows/frm_crescent.h"
+
+namespace horavex {
+
+CrescentForm::CrescentForm()
+    : Form("frmCrescent", {.caption = "Crescent", .width = 18000, .height = 10050}) {}
+
+CrescentForm::~CrescentForm() = default;
+
+}  // namespace horavex

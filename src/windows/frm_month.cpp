@@ -1,0 +1,9 @@
+#include "windows/frm_month.h"
+
+namespace horavex {
+
+MonthForm::MonthForm() : Form("frmMonth", {.caption = "Month", .width = 14400, .height = 12000}) {}
+
+MonthForm::~MonthForm() = default;
+
+}  // namespace horavex
