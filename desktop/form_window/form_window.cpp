@@ -14,6 +14,7 @@
 #include "desktop/documents/drawing_steps.h"
 #include "desktop/form_window/accessible_names.h"
 #include "desktop/form_window/arrow_buttons.h"
+#include "desktop/form_window/button_rows.h"
 #include "desktop/form_window/canvas.h"
 #include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/face_screen.h"
@@ -178,6 +179,7 @@ void FormWindow::Flush() {
         TitlePages(*this);
         GivePageKeys(*this);
         ShowSteps(*this);
+        EvenButtonRows(*this);
     }
     if (std::exchange(formChanged_, false)) {
         FollowForm();

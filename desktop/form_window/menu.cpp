@@ -6,7 +6,6 @@
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/caption_text.h"
-#include "desktop/form_window/menu_style.h"
 #include "desktop/user_text.h"
 
 namespace horavex {
@@ -81,9 +80,6 @@ void FillMenu(QMenu& menu, const MenuItem& source) {
     const QList<QAction*> actions = menu.actions();
     const bool rightToLeft = !actions.isEmpty() && actions.first()->text().isRightToLeft();
     menu.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    if (rightToLeft) {
-        menu.setStyle(RightToLeftMenuStyle());
-    }
 }
 
 bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source) {

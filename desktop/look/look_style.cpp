@@ -103,6 +103,41 @@ bool WantsEdges(const QStyleOption& option) {
            option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
 }
 
+/// Where a bar is done, in the direction of reading.
+QRect DonePart(const QStyleOptionProgressBar& bar) {
+    const int whole = std::max(1, bar.maximum - bar.minimum);
+    QRect done = bar.rect;
+    done.setWidth(int(double(bar.rect.width()) * (bar.progress - bar.minimum) / whole));
+    const bool goesLeft = (bar.direction == Qt::RightToLeft) != bar.invertedAppearance;
+    return goesLeft
+               ? QRect(bar.rect.right() - done.width() + 1, done.y(), done.width(), done.height())
+               : done;
+}
+
+/// The toolkit takes its colours the wrong way round where one reads from the right.
+void DrawProgressText(const QStyleOptionProgressBar& bar, QPainter& painter) {
+    if (!bar.textVisible) {
+        return;
+    }
+    const QRect done = DonePart(bar);
+    const auto draw = [&](QPalette::ColorRole role, const QRegion& part) {
+        painter.setClipRegion(part);
+        painter.setPen(bar.palette.color(role));
+        painter.drawText(bar.rect, Qt::AlignCenter | Qt::TextSingleLine, bar.text);
+    };
+    painter.save();
+    draw(QPalette::HighlightedText, done);
+    draw(QPalette::Text, QRegion(bar.rect) - done);
+    painter.restore();
+}
+
+/// With the current choice cut before the end of a box that is too narrow for it, so that this is
+/// seen.
+QStyleOptionComboBox ShortenedIn(int room, QStyleOptionComboBox box) {
+    box.currentText = box.fontMetrics.elidedText(box.currentText, Qt::ElideRight, room);
+    return box;
+}
+
 }  // namespace
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -168,9 +203,24 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     }
 }
 
-// The lower edge of a tab is that of its page.
+// The lower edge of a tab is that of its page. The toolkit would write the entries of a menu that
+// runs from right to left where the application's own language begins, which is the left always.
 void LookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
+    if (element == CE_MenuItem) {
+        painter->setLayoutDirection(option->direction);
+    }
+    const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+    if (element == CE_ProgressBarLabel && bar != nullptr) {
+        DrawProgressText(*bar, *painter);
+        return;
+    }
+    const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (element == CE_ComboBoxLabel && box != nullptr) {
+        const QStyleOptionComboBox shortened = ShortenedIn(ChoiceRoom(*box, widget), *box);
+        QProxyStyle::drawControl(element, &shortened, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
     if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth &&
@@ -180,6 +230,12 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
         DrawEdge(*option, *painter, option->rect.adjusted(0, 0, 0, 2), kCorner);
         painter->restore();
     }
+}
+
+int LookStyle::ChoiceRoom(const QStyleOptionComboBox& box, const QWidget* widget) const {
+    constexpr int kAround = 2;  // that the toolkit keeps around a choice, in pixels
+    const int whole = subControlRect(CC_ComboBox, &box, SC_ComboBoxEditField, widget).width();
+    return whole - kAround - (box.currentIcon.isNull() ? 0 : box.iconSize.width() + 2 * kAround);
 }
 
 // The handle lies over the groove, whose edge is not that of what has the focus.

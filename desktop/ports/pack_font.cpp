@@ -13,7 +13,7 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kFamily = "packFontFamily";  // of the application: what was put in front
+constexpr const char* kFamily = "packFontFamily";  // of the application: what was added to its own
 
 /// Those of the pack's longest text, which has nearly every one.
 QString LettersOfPack() {
@@ -36,20 +36,37 @@ bool ComeFromOneFont(const QString& letters, const QFont& font) {
     return families.size() <= 1;
 }
 
-QFont Behind(const QString& family, QFont font) {
+/// One that writes what a font does not have, as high as its own lines are.
+QFont FollowedBy(const QString& family, QFont font) {
+    font.setFamilies(font.families() + QStringList(family));
+    return font;
+}
+
+/// One that also writes what a font has in part. Its lines may be half as high again.
+QFont LedBy(const QString& family, QFont font) {
     font.setFamilies(QStringList(family) + font.families());
     return font;
 }
 
-/// The letters of scripts other than the Arabic do not join, or lie in one font.
-QString FamilyWith(const QString& letters, const QFont& font) {
-    const QStringList families = QStringList(QStringLiteral("Noto Sans Arabic")) +
-                                 QFontDatabase::families(QFontDatabase::Arabic);
-    const auto fits = [&](const QString& family) {
-        return ComeFromOneFont(letters, Behind(family, font));
-    };
-    const auto found = std::find_if(families.begin(), families.end(), fits);
-    return found == families.end() ? QString() : *found;
+/// A font in which these letters come from one family, the desktop's own where they do already. The
+/// letters of scripts other than the Arabic do not join, or lie in one font.
+QFont FontWith(const QString& letters, const QFont& own) {
+    if (ComeFromOneFont(letters, own)) {
+        return own;
+    }
+    // The first has lines hardly higher than those of Latin letters.
+    const QStringList families =
+        QStringList{QStringLiteral("Noto Naskh Arabic"), QStringLiteral("Noto Sans Arabic")} +
+        QFontDatabase::families(QFontDatabase::Arabic);
+    for (const auto& with : {FollowedBy, LedBy}) {
+        for (const QString& family : families) {
+            if (const QFont font = with(family, own); ComeFromOneFont(letters, font)) {
+                qApp->setProperty(kFamily, family);
+                return font;
+            }
+        }
+    }
+    return own;
 }
 
 QFont WithoutFamilyOfPack(QFont font) {
@@ -62,13 +79,9 @@ QFont WithoutFamilyOfPack(QFont font) {
 }  // namespace
 
 void UseFontOfPack() {
-    const QString letters = LettersOfPack();
-    QFont font = WithoutFamilyOfPack(QApplication::font());
-    const QString family = ComeFromOneFont(letters, font) ? QString() : FamilyWith(letters, font);
-    qApp->setProperty(kFamily, family);
-    if (!family.isEmpty()) {
-        font = Behind(family, font);
-    }
+    const QFont own = WithoutFamilyOfPack(QApplication::font());
+    qApp->setProperty(kFamily, QString());
+    const QFont font = FontWith(LettersOfPack(), own);
     if (font.families() != QApplication::font().families()) {
         QApplication::setFont(font);
     }

@@ -12,8 +12,8 @@
 namespace horavex {
 namespace {
 
-constexpr int kToleratedDots =
-    6;  // of a square of 32 x 32; digits of the smallest texts differ by 8
+// Of a square of 32 x 32; digits of the smallest texts differ by 8.
+constexpr int kToleratedDots = 6;
 
 QDir KeptPictures() {
     return {QString::fromStdString(SourcePath("tests/desktop/pictures"))};

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
@@ -176,6 +177,64 @@ TEST_P(SignsOfTheme, WhatCannotBeUsedHasAnEdgeToo) {
 INSTANTIATE_TEST_SUITE_P(Themes, SignsOfTheme,
                          testing::Values(Theme::kLight, Theme::kDark, Theme::kContrast,
                                          Theme::kLightContrast));
+
+/// What a bar from right to left paints of its text in its left and its right half.
+class ProgressText : public QWidget {
+public:
+    explicit ProgressText(int progress) {
+        bar_.initFrom(this);
+        bar_.rect = QRect(0, 0, 200, 24);
+        bar_.direction = Qt::RightToLeft;
+        bar_.maximum = 100;
+        bar_.progress = progress;
+        bar_.text = "MMMMMMMM";
+        bar_.textVisible = true;
+        picture_.fill(Qt::transparent);
+        QPainter painter(&picture_);
+        style()->drawControl(QStyle::CE_ProgressBarLabel, &bar_, &painter, this);
+    }
+
+    bool Has(QPalette::ColorRole role, int left) const {
+        for (int y = 0; y < picture_.height(); ++y) {
+            for (int x = left; x < left + 90; ++x) {
+                if (picture_.pixelColor(x, y) == palette().color(role)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+private:
+    QStyleOptionProgressBar bar_;
+    QImage picture_{200, 24, QImage::Format_ARGB32};
+};
+
+TEST(LookStyle, TextOfAFullBarIsThatOfItsColourFromRightToLeftToo) {
+    const ProgressText full(100);
+    EXPECT_TRUE(full.Has(QPalette::HighlightedText, 0));
+    EXPECT_TRUE(full.Has(QPalette::HighlightedText, 110));
+    EXPECT_FALSE(full.Has(QPalette::Text, 0));
+}
+
+TEST(LookStyle, BarFromRightToLeftIsDoneAtTheRightFirst) {
+    const ProgressText half(50);
+    EXPECT_TRUE(half.Has(QPalette::HighlightedText, 110));
+    EXPECT_FALSE(half.Has(QPalette::HighlightedText, 0));
+    EXPECT_TRUE(half.Has(QPalette::Text, 0));
+    EXPECT_FALSE(half.Has(QPalette::Text, 110));
+}
+
+TEST(LookStyle, ChoiceThatIsTooLongEndsInPoints) {
+    const auto drawn = [](const QString& choice) {
+        QComboBox box;
+        box.addItem(choice);
+        box.resize(80, 24);
+        return box.grab().toImage();
+    };
+    EXPECT_EQ(drawn("Egyptian General Authority of Survey"), drawn("Egyptian General Committee"));
+    EXPECT_NE(drawn("Egypt"), drawn("Egyptian General Committee"));
+}
 
 }  // namespace
 }  // namespace horavex::look

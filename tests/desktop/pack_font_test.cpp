@@ -1,6 +1,7 @@
 #include "desktop/ports/pack_font.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QGlyphRun>
 #include <QRawFont>
 #include <QSet>
@@ -69,6 +70,15 @@ TEST_F(PackFontTest, FontOfTheDesktopComesBackWithAnotherPack) {
     EXPECT_EQ(QApplication::font().pointSizeF(), own.pointSizeF());
     Speak("English");
     EXPECT_EQ(QApplication::font(), own);
+}
+
+TEST_F(PackFontTest, LinesStayAsHighAsThoseOfADesktopWithoutArabicLetters) {
+    QFont font = before;
+    font.setFamilies({"Noto Sans"});
+    QApplication::setFont(font);
+    Speak("Urdu");
+    EXPECT_EQ(FamiliesOf("مہینے").size(), 1);
+    EXPECT_EQ(QFontMetrics(QApplication::font()).height(), QFontMetrics(font).height());
 }
 
 TEST_F(PackFontTest, LatinLettersAreThoseOfTheDesktopsFont) {

@@ -6,8 +6,8 @@ namespace horavex {
 
 /// How much of a picture is another one.
 struct PictureDifference {
-    int dots =
-        0;  // that differ, in the square of 32 x 32 in which most do; 1024 where sizes differ
+    /// Those that differ, in the square of 32 x 32 in which most do; 1024 where sizes differ.
+    int dots = 0;
     QImage marked;  // the second picture, pale, with the dots that differ in red
 };
 
