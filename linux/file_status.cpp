@@ -2,7 +2,9 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <ctime>
 
 #include "linux/system_call.h"
 
@@ -13,6 +15,23 @@ namespace {
 bool IsLink(const std::string& path) {
     struct stat status = {};
     return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+// A name that is free is as settled as a file.
+std::string StampOfError(int error) {
+    return error == ENOENT ? "none" : "";
+}
+
+std::string StampOf(const struct stat& status) {
+    std::string stamp;
+    for (const auto number :
+         {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
+          std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
+          std::int64_t{status.st_mtim.tv_nsec}, std::int64_t{status.st_ctim.tv_sec},
+          std::int64_t{status.st_ctim.tv_nsec}}) {
+        stamp += std::to_string(number) + " ";
+    }
+    return stamp;
 }
 
 }  // namespace
@@ -32,18 +51,17 @@ std::optional<struct stat> StatusBehind(const std::string& path) {
 
 std::string StampOfFile(const std::string& path) {
     struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 ? StampOf(status) : StampOfError(errno);
+}
+
+std::string SettledStamp(const std::string& path) {
+    constexpr std::int64_t kLongestStep = 2;  // seconds
+    struct stat status = {};
     if (::stat(path.c_str(), &status) != 0) {
-        return errno == ENOENT ? "none" : "";
+        return StampOfError(errno);
     }
-    std::string stamp;
-    for (const auto number :
-         {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino),
-          std::int64_t{status.st_size}, std::int64_t{status.st_mtim.tv_sec},
-          std::int64_t{status.st_mtim.tv_nsec}, std::int64_t{status.st_ctim.tv_sec},
-          std::int64_t{status.st_ctim.tv_nsec}}) {
-        stamp += std::to_string(number) + " ";
-    }
-    return stamp;
+    const auto changed = std::max<std::int64_t>(status.st_mtim.tv_sec, status.st_ctim.tv_sec);
+    return std::time(nullptr) - changed > kLongestStep ? StampOf(status) : "";
 }
 
 void RefuseSpecial(const struct stat& status, const std::string& path) {

@@ -16,6 +16,10 @@ std::optional<struct stat> StatusBehind(const std::string& path);
 /// same for all names that are free; empty where nothing is told.
 std::string StampOfFile(const std::string& path);
 
+/// The stamp of what has rested for longer than a file system's clock takes for a step, up to two
+/// seconds; empty for what has not, which may change once more under the same stamp.
+std::string SettledStamp(const std::string& path);
+
 /// Throws FileFault for a folder, a pipe, a device or a socket.
 void RefuseSpecial(const struct stat& status, const std::string& path);
 

@@ -142,4 +142,8 @@ std::vector<std::string> PosixFiles::List(const std::string& folder) {
     return names;
 }
 
+std::string PosixFiles::StampOf(const std::string& path) {
+    return SettledStamp(path);
+}
+
 }  // namespace horavex

@@ -1,5 +1,7 @@
 #include "lang/language_pack.h"
 
+#include <utility>
+
 #include "base/code_page.h"
 #include "base/fault.h"
 #include "base/int16.h"
@@ -18,9 +20,18 @@ namespace {
 
 constexpr const char* kPackFolder = "\\Lang\\";
 
+/// The text of a pack, and the stamp that its file had before it was read.
+struct Pack {
+    std::string stamp;
+    std::string text;
+    bool isUtf8 = true;
+};
+Pack lastRead;
+
 const ProgramStateReset reset([] {
     currentLanguage.clear();
     languageFilesPresent = kFalse;
+    lastRead = {};
 });
 
 /// The name of the file without its folder and without what follows its last point.
@@ -37,13 +48,26 @@ CodePage EightBitPage(const std::string& packPath) {
     return IsArabic(BaseName(packPath)) ? CodePage::kWindows1256 : CodePage::kWindows1252;
 }
 
-/// A missing or unreadable pack is as good as an empty one.
-std::string ReadPack(const std::string& packPath) {
-    try {
-        return StringOf(Ports().programFolder.ReadWhole(packPath, kLargestText));
-    } catch (const FileFault&) {
-        return {};
+/// Every text of the program is asked for anew, some each second: the file is read again only when
+/// it is another one or has changed.
+void ReadAgainIfChanged(const std::string& packPath) {
+    const ProgramFolder& folder = Ports().programFolder;
+    const std::string stamp = folder.StampOf(packPath);
+    if (stamp.empty() || stamp != lastRead.stamp) {
+        std::string text = StringOf(folder.ReadWhole(packPath, kLargestText));
+        const bool isUtf8 = IsUtf8(text);
+        lastRead = {stamp, std::move(text), isUtf8};
     }
+}
+
+/// A missing or unreadable pack is as good as an empty one.
+const Pack& ReadPack(const std::string& packPath) {
+    try {
+        ReadAgainIfChanged(packPath);
+    } catch (const FileFault&) {
+        lastRead = {};
+    }
+    return lastRead;
 }
 
 bool EndsIn(const std::string& name, const std::string& suffix) {
@@ -64,12 +88,12 @@ bool IsArabicPack() {
 std::string ReadPackString(const std::string& packPath, const std::string& section,
                            const std::string& key, const std::string& defaultText,
                            std::size_t bufferSize) {
-    const std::string pack = ReadPack(packPath);
-    const auto value = FindProfileValue(pack, section, key);
+    const Pack& pack = ReadPack(packPath);
+    const auto value = FindProfileValue(pack.text, section, key);
     if (!value) {
         return defaultText;
     }
-    if (IsUtf8(pack)) {
+    if (pack.isUtf8) {
         return std::string(Utf8Prefix(*value, bufferSize - 1));
     }
     return DecodeCodePage(BytesOf(std::string(value->substr(0, bufferSize - 1))),

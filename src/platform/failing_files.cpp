@@ -99,4 +99,8 @@ std::vector<std::string> FailingFiles::List(const std::string& folder) {
     return files_.List(folder);
 }
 
+std::string FailingFiles::StampOf(const std::string& path) {
+    return files_.StampOf(path);
+}
+
 }  // namespace horavex

@@ -32,6 +32,7 @@ public:
     void Delete(const std::string& path) override;
     bool Exists(const std::string& path) override;
     std::vector<std::string> List(const std::string& folder) override;
+    std::string StampOf(const std::string& path) override;
 
 private:
     Files& files_;

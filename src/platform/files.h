@@ -64,6 +64,10 @@ public:
     /// True for a file or a folder.
     virtual bool Exists(const std::string& path) = 0;
 
+    /// Tells one state of a file or of a folder's names from any other; empty where that is not
+    /// known, and where one more change could leave it as it is.
+    virtual std::string StampOf(const std::string& /*path*/) { return {}; }
+
     /// Names in a folder, without "." and "..", in the order of their bytes. A missing folder is
     /// empty.
     virtual std::vector<std::string> List(const std::string& folder) = 0;

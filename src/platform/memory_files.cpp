@@ -89,6 +89,17 @@ std::vector<std::string> MemoryFiles::List(const std::string& folder) {
     return names;
 }
 
+std::string MemoryFiles::StampOf(const std::string& path) {
+    if (const auto file = files_.find(path); file != files_.end()) {
+        return "file " + StringOf(*file->second);
+    }
+    std::string stamp = "folder";
+    for (const std::string& name : List(path)) {
+        stamp += "/" + name;
+    }
+    return stamp;
+}
+
 Bytes& MemoryFiles::Contents(const std::string& path) {
     RefuseFolder(path);
     const auto at = files_.find(path);

@@ -20,6 +20,9 @@ public:
     bool Exists(const std::string& path) override;
     std::vector<std::string> List(const std::string& folder) override;
 
+    /// The content itself.
+    std::string StampOf(const std::string& path) override;
+
     /// The bytes of an existing file, to be changed in place as another program would: files
     /// that are open see the change, while WriteWhole leaves them the old content. Throws
     /// FileFault for a missing file.

@@ -27,14 +27,6 @@ std::vector<std::string> ComponentsOf(std::string path) {
 
 // What cannot be looked into (a folder without rights, a link to itself) counts as missing, so that
 // the installed folder stands in for it.
-std::vector<std::string> NamesIn(Files& files, const std::string& folder) {
-    try {
-        return files.List(folder);
-    } catch (const FileFault&) {
-        return {};
-    }
-}
-
 bool IsThere(Files& files, const std::string& path) {
     try {
         return files.Exists(path);
@@ -44,9 +36,9 @@ bool IsThere(Files& files, const std::string& path) {
 }
 
 // Names of a folder that equal the wanted one but for letter case, the exact one in front.
-std::vector<std::string> Spellings(Files& files, const std::string& folder,
+std::vector<std::string> Spellings(FolderNames& names, const std::string& folder,
                                    const std::string& name) {
-    std::vector<std::string> found = NamesIn(files, folder);
+    std::vector<std::string> found = names.In(folder);
     std::erase_if(found, [&](const std::string& n) { return !EqualsIgnoringCase(n, name); });
     std::stable_partition(found.begin(), found.end(),
                           [&](const std::string& n) { return n == name; });
@@ -54,12 +46,13 @@ std::vector<std::string> Spellings(Files& files, const std::string& folder,
 }
 
 // Where folders differ in letter case alone, each is searched.
-std::optional<std::string> Find(Files& files, const std::string& folder, Components path) {
+std::optional<std::string> Find(Files& files, FolderNames& names, const std::string& folder,
+                                Components path) {
     if (path.empty()) {
         return IsThere(files, folder) ? std::optional(folder) : std::nullopt;
     }
-    for (const std::string& name : Spellings(files, folder, path.front())) {
-        if (auto found = Find(files, folder + "/" + name, path.subspan(1))) {
+    for (const std::string& name : Spellings(names, folder, path.front())) {
+        if (auto found = Find(files, names, folder + "/" + name, path.subspan(1))) {
             return found;
         }
     }
@@ -68,10 +61,10 @@ std::optional<std::string> Find(Files& files, const std::string& folder, Compone
 
 // The path of a new file below front: each component as front spells it, or else as back does,
 // or else as given.
-std::string NewPath(Files& files, std::string front, std::string back, Components path) {
+std::string NewPath(FolderNames& known, std::string front, std::string back, Components path) {
     for (const std::string& component : path) {
-        std::vector<std::string> names = Spellings(files, front, component);
-        const std::vector<std::string> behind = Spellings(files, back, component);
+        std::vector<std::string> names = Spellings(known, front, component);
+        const std::vector<std::string> behind = Spellings(known, back, component);
         names.insert(names.end(), behind.begin(), behind.end());
         const std::string& name = names.empty() ? component : names.front();
         front += "/" + name;
@@ -84,6 +77,7 @@ std::string NewPath(Files& files, std::string front, std::string back, Component
 
 ProgramFolder::ProgramFolder(Files& files, std::string userFolder, std::string installedFolder)
     : files_(files),
+      names_(files),
       userFolder_(std::move(userFolder)),
       installedFolder_(std::move(installedFolder)) {}
 
@@ -94,24 +88,31 @@ std::unique_ptr<OpenFile> ProgramFolder::OpenForReading(const std::string& path)
     return file;
 }
 
+std::string ProgramFolder::StampOf(const std::string& path) const {
+    const std::string real = RealPath(path);
+    const std::string stamp = files_.StampOf(real);
+    return stamp.empty() ? "" : real + "\n" + stamp;
+}
+
 Bytes ProgramFolder::ReadWhole(const std::string& path, std::int64_t largest) const {
     return horavex::ReadWhole(files_, RealPath(path), largest);
 }
 
 bool ProgramFolder::Exists(const std::string& path) const {
     const auto components = ComponentsOf(path);
-    return Find(files_, userFolder_, components) || Find(files_, installedFolder_, components);
+    return Find(files_, names_, userFolder_, components) ||
+           Find(files_, names_, installedFolder_, components);
 }
 
 std::vector<std::string> ProgramFolder::List(const std::string& path) const {
     const auto components = ComponentsOf(path);
     std::vector<std::string> names;
-    if (const auto folder = Find(files_, userFolder_, components)) {
-        names = NamesIn(files_, *folder);
+    if (const auto folder = Find(files_, names_, userFolder_, components)) {
+        names = names_.In(*folder);
     }
-    if (const auto folder = Find(files_, installedFolder_, components)) {
+    if (const auto folder = Find(files_, names_, installedFolder_, components)) {
         const std::vector<std::string> users = names;
-        std::ranges::copy_if(NamesIn(files_, *folder), std::back_inserter(names), [&](auto& name) {
+        std::ranges::copy_if(names_.In(*folder), std::back_inserter(names), [&](auto& name) {
             return std::ranges::none_of(users,
                                         [&](auto& user) { return EqualsIgnoringCase(user, name); });
         });
@@ -130,7 +131,7 @@ void ProgramFolder::Delete(const std::string& path) const {
 std::string ProgramFolder::RealPath(const std::string& path) const {
     const auto components = ComponentsOf(path);
     for (const std::string& folder : {userFolder_, installedFolder_}) {
-        if (auto found = Find(files_, folder, components)) {
+        if (auto found = Find(files_, names_, folder, components)) {
             return *found;
         }
     }
@@ -139,8 +140,8 @@ std::string ProgramFolder::RealPath(const std::string& path) const {
 
 std::string ProgramFolder::UserPath(const std::string& path) const {
     const auto components = ComponentsOf(path);
-    const auto found = Find(files_, userFolder_, components);
-    return found ? *found : NewPath(files_, userFolder_, installedFolder_, components);
+    const auto found = Find(files_, names_, userFolder_, components);
+    return found ? *found : NewPath(names_, userFolder_, installedFolder_, components);
 }
 
 }  // namespace horavex

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/folder_names.h"
 
 namespace horavex {
 
@@ -21,6 +22,10 @@ public:
     /// Opens the user's file, or else the installed one. Throws FileFault where neither is, and for
     /// one larger than kLargestTable.
     std::unique_ptr<OpenFile> OpenForReading(const std::string& path) const;
+
+    /// Tells one state of the file that OpenForReading finds from any other, and from those of
+    /// other files; empty where that is not known.
+    std::string StampOf(const std::string& path) const;
 
     /// The whole content, found as OpenForReading finds it. Throws FileFault for a larger file.
     Bytes ReadWhole(const std::string& path, std::int64_t largest = kLargestTable) const;
@@ -45,6 +50,7 @@ private:
     std::string UserPath(const std::string& path) const;
 
     Files& files_;
+    mutable FolderNames names_;
     std::string userFolder_;
     std::string installedFolder_;
 };

@@ -156,10 +156,29 @@ TEST_F(LanguagePackTest, EveryFailingCallGivesTheDefault) {
     const int calls = platform.failingFiles.Calls();
     ASSERT_EQ(calls, 2);  // the open and the read
     for (int n = 1; n <= calls; ++n) {
+        const std::string changed = "Hello " + std::to_string(n);
+        WritePack(changed);
         platform.failingFiles.FailCall(n);
         EXPECT_EQ(Message(), "default");
-        EXPECT_EQ(Message(), "Hello");
+        EXPECT_EQ(Message(), changed);
     }
+}
+
+TEST_F(LanguagePackTest, PackIsReadAgainOnlyWhenItIsAnotherOrHasChanged) {
+    WritePack("Hello");
+    Message();
+    platform.failingFiles.FailCall(0);
+    EXPECT_EQ(Message(), "Hello");
+    EXPECT_EQ(platform.failingFiles.Calls(), 0);
+    WritePack("Good day");
+    EXPECT_EQ(Message(), "Good day");
+    currentLanguage = "French";
+    WritePack("Bonjour");
+    EXPECT_EQ(Message(), "Bonjour");
+    data.Remove("lang/French.ini");
+    EXPECT_EQ(Message(), "default");
+    currentLanguage = "English";
+    EXPECT_EQ(Message(), "Good day");
 }
 
 TEST_F(LanguagePackTest, EveryCutOfAPackGivesABeginningOrTheDefault) {

@@ -276,6 +276,19 @@ TEST(StampOfFileTest, ChangesWithTheFileAndIsTheSameForNamesThatAreFree) {
     EXPECT_NE(first, StampOfFile(folder / "a"));
 }
 
+TEST(SettledStampTest, OnlyWhatHasRestedForAWhileHasOne) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(SettledStamp("/proc/version/none"), "");  // no folder
+    EXPECT_EQ(SettledStamp(folder / "free"), StampOfFile(folder / "free"));
+    EXPECT_EQ(SettledStamp("/bin/sh"), StampOfFile("/bin/sh"));
+    EXPECT_NE(SettledStamp("/bin/sh"), "");
+    PosixFiles files;
+    files.WriteWhole(folder / "new", BytesOf("1"));
+    EXPECT_EQ(SettledStamp(folder / "new"), "");
+    EXPECT_EQ(files.StampOf(folder / "new"), "");
+    EXPECT_EQ(files.StampOf("/bin/sh"), StampOfFile("/bin/sh"));
+}
+
 TEST_F(RegistryFileTest, FileOfMoreThanAMegabyteIsNoneAndNoneIsWritten) {
     files.WriteWhole(kUser, Bytes(kLargestText, '#'));
     EXPECT_EQ(registry.CreateKey(kKey), kRegistryWriteFault);

@@ -235,6 +235,16 @@ TEST_F(RunningClockTest, HiddenFaceIsSentAllTheSame) {
     EXPECT_EQ(platform.face.variables.size(), 11U);
 }
 
+TEST_F(RunningClockTest, IdleTickOpensNoFile) {
+    frmMain->tmrUpdate.Tick();
+    platform.failingFiles.FailCall(0);
+    for (int second = 1; second <= 100; ++second) {
+        SetClock(2026, 11, 21, 12, second / 60, second % 60);
+        frmMain->tmrUpdate.Tick();
+    }
+    EXPECT_EQ(platform.failingFiles.Calls(), 0);
+}
+
 TEST_F(RunningClockTest, HiddenFaceDoesNotKeepTheAlarmAway) {
     frmMain->UserClose();
     AlarmInMoment();
