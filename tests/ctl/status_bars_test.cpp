@@ -11,6 +11,7 @@
 #include "linux/bus/session_broadcast.h"
 #include "session_bus.h"
 #include "support/build_folder.h"
+#include "support/document_blocks.h"
 #include "support/pseudo_terminal.h"
 #include "support/scoped_variable.h"
 
@@ -22,25 +23,9 @@ using testing::StartsWith;
 
 constexpr const char* kLine = "Asr 14:38  0:00";
 
-/// The lines of a section of the document that are meant to be typed.
-std::vector<std::string> Snippet(const std::string& section) {
-    std::vector<std::string> lines;
-    bool isOurs = false;
-    for (const std::string& line : Split(ContentOf(SourcePath("docs/status-bars.md")), '\n')) {
-        isOurs = line.starts_with("## ") ? line == "## " + section : isOurs;
-        if (isOurs && line.starts_with("    ")) {
-            lines.push_back(line.substr(4));
-        }
-    }
-    return lines;
-}
-
-std::string TextOf(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines) {
-        text += line + "\n";
-    }
-    return text;
+/// The lines of the document's block in a language.
+std::vector<std::string> Snippet(const std::string& language, const std::string& part) {
+    return BlockOf("docs/status-bars.md", language, part);
 }
 
 /// What stands behind "key" and an equals sign.
@@ -97,19 +82,19 @@ struct StatusBars : SessionBus {
 
 TEST_F(StatusBars, PromptOfBashTellsThePrayer) {
     PseudoTerminal shell("/bin/bash", {"--norc", "--noprofile", "-i"}, ctl.variables);
-    shell.Type(Snippet("A shell's prompt").at(0) + "\n");
+    shell.Type(Snippet("bash", "PS1").at(0) + "\n");
     shell.ReadTo("Asr 0:00 ");
 }
 
 TEST_F(StatusBars, PromptOfZshTellsThePrayer) {
     PseudoTerminal shell("/usr/bin/zsh", {"-f", "-i"}, ctl.variables);
-    shell.Type("setopt PROMPT_SUBST\n" + Snippet("A shell's prompt").at(1) + "\n");
+    shell.Type("setopt PROMPT_SUBST\n" + Snippet("zsh", "PROMPT").at(0) + "\n");
     shell.ReadTo("Asr 0:00 ");
 }
 
 TEST_F(StatusBars, TmuxShowsTheLine) {
     ctl.variables["TMUX_TMPDIR"] = folder.Path();
-    const std::string file = Write("tmux.conf", TextOf(Snippet("tmux")));
+    const std::string file = Write("tmux.conf", TextOf(Snippet("tmux", "status-right")));
     {
         PseudoTerminal terminal("/usr/bin/tmux", {"-f", file, "new-session", "cat"}, ctl.variables);
         terminal.ReadTo(kLine);
@@ -118,7 +103,7 @@ TEST_F(StatusBars, TmuxShowsTheLine) {
 }
 
 TEST_F(StatusBars, I3blocksPrintsTheLine) {
-    const std::string file = Write("i3blocks.conf", TextOf(Snippet("i3blocks")));
+    const std::string file = Write("i3blocks.conf", TextOf(Snippet("ini", "interval=persist")));
     EXPECT_THAT(AwaitFrom({"i3blocks", "-c", file}, kLine), HasSubstr("\"full_text\":\"Asr"));
 }
 
@@ -126,19 +111,19 @@ TEST_F(StatusBars, ConkyPrintsTheLine) {
     const std::string file = Write(
         "conky.conf",
         "conky.config = { out_to_x = false, out_to_console = true, update_interval = 0.1 }\n" +
-            TextOf(Snippet("Conky")));
+            TextOf(Snippet("lua", "conky.text")));
     EXPECT_THAT(AwaitFrom({"conky", "-c", file}, kLine), HasSubstr(kLine));
 }
 
 TEST_F(StatusBars, ScriptOfPolybarPrintsTheLine) {
-    const auto lines = Snippet("Polybar");
+    const auto lines = Snippet("ini", "[module/");
     EXPECT_EQ(ValueIn(lines, "type"), "custom/script");
     EXPECT_EQ(ValueIn(lines, "tail"), "true");
     EXPECT_THAT(AwaitFrom({"/bin/sh", "-c", ValueIn(lines, "exec")}, kLine), StartsWith(kLine));
 }
 
 TEST_F(StatusBars, ModuleOfWaybarIsSoundAndPrintsTheLine) {
-    const Json module = Json::parse("{" + TextOf(Snippet("Waybar")) + "}")["custom/horavex"];
+    const Json module = Json::parse("{" + TextOf(Snippet("json", "exec")) + "}")["custom/horavex"];
     EXPECT_EQ(module["escape"], true);
     EXPECT_THAT(AwaitFrom({"/bin/sh", "-c", module["exec"].get<std::string>()}, kLine),
                 StartsWith(kLine));

@@ -2,13 +2,13 @@
 
 #include <gmock/gmock.h>
 
-#include <fstream>
 #include <regex>
 
 #include "e2e/harness/athan_fixture.h"
 #include "e2e/harness/status_notifier_host.h"
 #include "e2e/harness/wait_until.h"
 #include "support/build_folder.h"
+#include "support/document_blocks.h"
 
 namespace horavex {
 namespace {
@@ -36,18 +36,6 @@ struct BusProgramTest : AthanProgramTest {
             .value();
     }
 };
-
-/// The lines of a document that are meant to be typed.
-std::vector<std::string> CommandsOf(const std::string& document, const std::string& tool) {
-    std::ifstream file(SourcePath(document));
-    std::vector<std::string> commands;
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with("    " + tool + " ")) {
-            commands.push_back(line.substr(4));
-        }
-    }
-    return commands;
-}
 
 TEST_F(BusProgramTest, StateIsThatOfTheFace) {
     const ChildProcess program = Start();
@@ -134,7 +122,7 @@ TEST_F(BusProgramTest, CommandsOfTheDocumentWork) {
     const ChildProcess program = Start();
     Status("\"next\":{\"prayer\":\"Zuhr\"");
     for (const char* tool : {"gdbus", "busctl"}) {
-        const std::vector<std::string> commands = CommandsOf("docs/bus.md", tool);
+        const std::vector<std::string> commands = BlockOf("docs/bus.md", "sh", tool);
         ASSERT_THAT(commands, SizeIs(3)) << tool;
         EXPECT_THAT(desktop.Use({"sh", "-c", commands[0]}), HasSubstr("PrayerArrived"));
         EXPECT_THAT(desktop.Use({"sh", "-c", commands[1]}), ContainsRegex("Zuhr|Mecca"));

@@ -2,6 +2,8 @@
 
 #include <malloc.h>
 
+#include "support/document_blocks.h"
+
 #ifdef __SANITIZE_ADDRESS__
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -70,6 +72,12 @@ TEST(RegistryText, HandWrittenFormsAreUnderstood) {
     EXPECT_THAT(registry.Value(kKey, "Language"), Optional(std::string("Arabic")));
     EXPECT_THAT(registry.Value(kKey, "Empty"), Optional(std::string()));
     EXPECT_THAT(registry.Value(kKey, "Path"), Optional(std::string("a=b")));
+}
+
+TEST(RegistryText, SampleOfTheDocumentIsRead) {
+    const RegistryText registry(TextOf(BlockOf("docs/data-formats.md", "ini", "Isha Dep Angle")));
+    EXPECT_THAT(registry.Value(kKey, "Isha Dep Angle"), Optional<std::string>("18"));
+    EXPECT_THAT(registry.Value(kKey, "Language"), Optional<std::string>("Arabic"));
 }
 
 TEST(RegistryText, LetterCaseOfKeysAndNamesIsIgnored) {

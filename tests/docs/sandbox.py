@@ -1,0 +1,61 @@
+"""A copy of the sources, with a home of its own, in which commands of documents may do anything."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+
+SECONDS = 120  # that a block may take; the slowest one takes a few
+
+
+class Sandbox:
+    """Programs are those of a build; "./run" finds nothing to install and nothing to build."""
+
+    def __init__(self, source, build):
+        self._folder = tempfile.TemporaryDirectory()
+        self.home = os.path.join(self._folder.name, "home")
+        self.tree = os.path.join(self._folder.name, "tree")
+        stubs = os.path.join(self._folder.name, "stubs")
+        shutil.copytree(source, self.tree, symlinks=True,
+                        ignore=shutil.ignore_patterns("build", ".git", "node_modules", "pictures"))
+        os.makedirs(os.path.join(self.tree, "build"))
+        os.symlink(build, os.path.join(self.tree, "build", "release"))
+        runtime = os.path.join(self.home, "runtime")
+        os.makedirs(runtime, mode=0o700)
+        os.makedirs(stubs)
+        for program in (os.path.join(stubs, "cmake"),
+                        os.path.join(self.tree, "packaging", "install-packages")):
+            _write_program(program, "#!/bin/sh\n")
+        self.environment = {
+            "HOME": self.home, "XDG_RUNTIME_DIR": runtime, "LC_ALL": "C.UTF-8", "TZ": "UTC",
+            "TERM": "dumb", "PATH": f"{stubs}:{build}/bin:/usr/bin:/bin:/usr/sbin:/sbin"}
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self._folder.cleanup()
+
+    def run(self, words, text=""):
+        """Runs a program over a text. Returns its status and what it has printed."""
+        try:
+            done = subprocess.run(words, input=text, cwd=self.tree, env=self.environment,
+                                  capture_output=True, text=True, timeout=SECONDS, check=False)
+        except subprocess.TimeoutExpired:
+            return 1, f"not done after {SECONDS} seconds\n"
+        return done.returncode, done.stdout + done.stderr
+
+    def first_line(self, command):
+        """Starts a command that does not end by itself, and ends it after its first line."""
+        words = ["timeout", "--kill-after=5", str(SECONDS), "/bin/bash", "-c", f"exec {command}"]
+        with subprocess.Popen(words, cwd=self.tree, env=self.environment, text=True,
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT) as process:
+            line = process.stdout.readline()
+            process.terminate()
+        return line
+
+
+def _write_program(path, text):
+    with open(path, "w", encoding="utf-8") as file:
+        file.write(text)
+    os.chmod(path, 0o755)
