@@ -17,7 +17,7 @@ class Sandbox:
         self.tree = os.path.join(self._folder.name, "tree")
         stubs = os.path.join(self._folder.name, "stubs")
         shutil.copytree(source, self.tree, symlinks=True,
-                        ignore=shutil.ignore_patterns("build", ".git", "node_modules", "pictures"))
+                        ignore=shutil.ignore_patterns("build", ".git", "node_modules"))
         os.makedirs(os.path.join(self.tree, "build"))
         os.symlink(build, os.path.join(self.tree, "build", "release"))
         runtime = os.path.join(self.home, "runtime")
