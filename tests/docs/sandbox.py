@@ -5,7 +5,7 @@ import shutil
 import subprocess
 import tempfile
 
-SECONDS = 120  # that a block may take; the slowest one takes a few
+SECONDS = 900  # that a block may take; the slowest takes a quarter of a minute, sanitized ten times that
 
 
 class Sandbox:
