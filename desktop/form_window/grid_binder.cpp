@@ -126,12 +126,21 @@ int GridBinder::WidthOf(int column) const {
     return width + 3 * metrics.averageCharWidth();
 }
 
+/// Where texts are read from the left.
+Qt::Alignment GridBinder::SideOf(int column) const {
+    return control.figures.contains(static_cast<std::size_t>(column)) ? Qt::AlignRight
+                                                                      : Qt::AlignLeft;
+}
+
 void GridBinder::ShowHeads() {
     widget.setColumnCount(static_cast<int>(control.heads.size()));
     widget.setHorizontalHeaderLabels(TextsOf(control.heads));
-    // The head of a column does not turn round with its window by itself.
-    const Qt::Alignment side = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft);
-    widget.horizontalHeader()->setDefaultAlignment(side | Qt::AlignVCenter);
+    for (int column = 0; column < widget.columnCount(); ++column) {
+        // The head of a column does not turn round with its window by itself.
+        const Qt::Alignment side =
+            QStyle::visualAlignment(widget.layoutDirection(), SideOf(column));
+        widget.horizontalHeaderItem(column)->setTextAlignment(side | Qt::AlignVCenter);
+    }
 }
 
 void GridBinder::ShowRow(int row) {
@@ -139,7 +148,7 @@ void GridBinder::ShowRow(int row) {
     const QStringList texts = TextsOf(shown.cells);
     for (int column = 0; column < texts.size(); ++column) {
         auto* item = new QTableWidgetItem(ShownText(texts[column], widget));
-        item->setTextAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+        item->setTextAlignment(SideOf(column) | Qt::AlignVCenter);
         Dress(*item, shown, widget.palette());
         widget.setItem(row, column, item);
     }

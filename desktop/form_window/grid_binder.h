@@ -19,6 +19,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    Qt::Alignment SideOf(int column) const;
     void ShowHeads();
     void ShowRow(int row);
     void GoToCurrentRow();

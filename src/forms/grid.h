@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,9 +27,11 @@ public:
     /// A user turns the page, by the wheel or the page keys: -1 back, 1 on.
     std::function<void(int step)> onPage;
 
-    /// Both stay until they are changed or the form unloads; Refresh shows a change.
+    /// They stay until they are changed or the form unloads; Refresh shows a change.
     std::vector<std::string> heads;
     std::vector<Row> rows;
+    /// The columns of times and numbers, counted from 0: they end at one edge.
+    std::set<std::size_t> figures;
 
     void UserPage(int step) {
         if (AcceptsUser() && onPage) {
@@ -41,6 +44,7 @@ protected:
         Focusable::Restore();
         heads.clear();
         rows.clear();
+        figures.clear();
     }
 };
 

@@ -130,6 +130,7 @@ void ShowChoices() {
 void FillTable(Grid& grid, const SkyPage& page) {
     grid.heads = page.heads;
     grid.rows = page.rows;
+    grid.figures = page.figures;
     grid.Refresh();
 }
 

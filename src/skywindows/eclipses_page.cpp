@@ -154,7 +154,7 @@ std::string Note(bool hasNone) {
 }  // namespace
 
 SkyPage EclipsesPage(const Almanac& almanac, const SkyPlace& place, int year) {
-    SkyPage page{Heads(), {}, ""};
+    SkyPage page{Heads(), {}, "", {4, 5, 6, 8}};
     bool hasNone = false;
     for (DatedRow& dated : DatedRows(almanac, place, year)) {
         dated.row.cells.resize(page.heads.size());

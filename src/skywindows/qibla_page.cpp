@@ -68,7 +68,8 @@ SkyPage QiblaPage(const Almanac& almanac, const SkyPlace& place, int year, Date 
     }
     return {{"", SkyWord("When", "Time"), SkyWord("SunHeight", "Sun's altitude")},
             list.rows,
-            Note(bearing)};
+            Note(bearing),
+            {1, 2}};
 }
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,8 @@ namespace horavex {
 struct SkyPage {
     std::vector<std::string> heads;
     std::vector<Grid::Row> rows;
-    std::string note;  // lines below the table
+    std::string note;                 // lines below the table
+    std::set<std::size_t> figures{};  // as of Grid
 };
 
 }  // namespace horavex

@@ -74,6 +74,7 @@ void ShowPage(const SkyPage& page) {
     SkyForm& form = *frmSky;
     form.grdTable.heads = page.heads;
     form.grdTable.rows = page.rows;
+    form.grdTable.figures = page.figures;
     form.grdTable.Refresh();
     form.lblShownNote.SetCaption(page.note);
     form.lblShownNote.SetVisible(!page.note.empty());

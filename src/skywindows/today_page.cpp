@@ -78,10 +78,12 @@ SkyPage TodayPage(const Almanac& almanac, const SkyPlace& place, Date now) {
     const SkyDay day = SkyDayOf(almanac, place.observer, DayAround(place.clock, now));
     const SkyMoment moment = SkyMomentAt(almanac, place.observer, now);
     const std::string shape = ShapeName(MoonShapeAt(almanac, day.span, now));
-    return {Heads(), Rows(place.clock, day),
+    return {Heads(),
+            Rows(place.clock, day),
             StandsText(SkyWord("Sun", "Sun"), moment.sun) + "\n" +
                 StandsText(SkyWord("Moon", "Moon"), moment.moon) + "\n" +
-                MoonText(shape, AgeOfMoon(almanac, now), moment)};
+                MoonText(shape, AgeOfMoon(almanac, now), moment),
+            {1, 2, 3}};
 }
 
 }  // namespace horavex

@@ -35,6 +35,9 @@ std::optional<Shown> shown;
 
 const ProgramStateReset reset([] { shown.reset(); });
 
+/// Behind the day and its Hijri date.
+constexpr std::size_t kFirstTime = 2;
+
 /// The present month; January in a year that today does not lie in.
 int PresentMonth() {
     const CivilDate today = CivilFromDate(Ports().clock.Today());
@@ -85,6 +88,9 @@ void FillGrid(const std::vector<TimetableDay>& days) {
     Grid& grid = frmMonth->grdMonth;
     grid.heads = {shown->words.day, shown->words.hijri};
     std::ranges::copy(shown->words.Heads(days.front()), std::back_inserter(grid.heads));
+    for (std::size_t column = kFirstTime; column < grid.heads.size(); ++column) {
+        grid.figures.insert(column);
+    }
     grid.rows.clear();
     std::transform(days.begin(), days.end(), std::back_inserter(grid.rows), RowOf);
     grid.Refresh();

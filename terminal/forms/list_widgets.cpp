@@ -189,11 +189,11 @@ void GridWidget::DrawRow(Cells& cells, const Area& area, const std::vector<std::
         }
         const std::string& text = texts[column.number];
         const int width = std::min(column.width, area.width - column.left);
-        if (FromRight()) {
-            cells.PutRight(area.row, area.column + area.width - column.left - width, text, look,
-                           width);
+        const int left = FromRight() ? area.width - column.left - width : column.left;
+        if (FromRight() != grid_.figures.contains(column.number)) {
+            cells.PutRight(area.row, area.column + left, text, look, width);
         } else {
-            cells.Put(area.row, area.column + column.left, text, look, width);
+            cells.Put(area.row, area.column + left, text, look, width);
         }
     }
 }

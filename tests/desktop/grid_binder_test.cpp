@@ -75,6 +75,26 @@ TEST_F(GridBinderTest, ShowsHeadsAndTexts) {
     EXPECT_EQ(Table().item(2, 1)->text(), "05:02");
 }
 
+TEST_F(GridBinderTest, FiguresAndTheirHeadsStandAtTheEndOfTheirColumn) {
+    form.grid.figures = {1};
+    form.grid.Refresh();
+    QApplication::processEvents();
+    EXPECT_TRUE(Table().item(0, 0)->textAlignment() & Qt::AlignLeft);
+    EXPECT_TRUE(Table().item(0, 1)->textAlignment() & Qt::AlignRight);
+    EXPECT_TRUE(Table().horizontalHeaderItem(0)->textAlignment() & Qt::AlignLeft);
+    EXPECT_TRUE(Table().horizontalHeaderItem(1)->textAlignment() & Qt::AlignRight);
+}
+
+TEST_F(GridBinderTest, HeadsTurnRoundWithTheirWindow) {
+    form.grid.heads = {"يوم", "فجر"};
+    form.grid.figures = {1};
+    Table().setLayoutDirection(Qt::RightToLeft);
+    form.grid.Refresh();
+    QApplication::processEvents();
+    EXPECT_TRUE(Table().horizontalHeaderItem(0)->textAlignment() & Qt::AlignRight);
+    EXPECT_TRUE(Table().horizontalHeaderItem(1)->textAlignment() & Qt::AlignLeft);
+}
+
 TEST_F(GridBinderTest, RowsThatStandOutAreBoldAndThePresentOneIsColoured) {
     EXPECT_FALSE(Table().item(0, 0)->font().bold());
     EXPECT_TRUE(Table().item(1, 0)->font().bold());

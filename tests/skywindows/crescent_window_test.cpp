@@ -170,6 +170,7 @@ TEST_F(CrescentWindowTest, SpeaksTheCurrentLanguage) {
     EXPECT_EQ(form.Caption(), "Mondsichel");
     EXPECT_EQ(form.cboMonth.Text(), "Radschab");
     EXPECT_EQ(form.grdEvenings.heads.at(1), "Sonnenuntergang");
+    EXPECT_TRUE(form.grdEvenings.figures.contains(1));
     EXPECT_EQ(form.grdEvenings.rows[2].cells[9].substr(3), "leicht sichtbar");
     EXPECT_THAT(MapTitle(), HasSubstr("Abend des 10. Dezember 2026"));
 }

@@ -53,6 +53,7 @@ TEST_F(SkyWindowTest, ComesUpWithTheDayOfTheAcceptedPlaceByItsClock) {
     EXPECT_EQ(form.lblShownPlace.Caption(), ActiveCityText);
     EXPECT_THAT(Time(), StartsWith("21 November 2026  "));
     EXPECT_THAT(form.grdTable.rows, SizeIs(5));
+    EXPECT_EQ(form.grdTable.figures, std::set<std::size_t>({1, 2, 3}));
     EXPECT_THAT(form.lblShownNote.Caption(), HasSubstr("Sun now: "));
     EXPECT_FALSE(form.picArcs.drawing.empty());
     EXPECT_FALSE(form.cmdNext.Visible());

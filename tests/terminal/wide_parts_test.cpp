@@ -69,6 +69,16 @@ TEST_F(WideTable, IsMovedThroughByColumns) {
     EXPECT_THAT(screen.Text(), HasSubstr("Sunset at the place"));
 }
 
+TEST_F(WideTable, FiguresStandAtTheEndOfTheirColumn) {
+    table.grdTable.heads = {"Evening", "Sunset at the place"};
+    table.grdTable.rows = {{{"8 December", "05:39 PM"}}};
+    table.Show();
+    EXPECT_THAT(screen.Text(), HasSubstr("8 December  05:39 PM"));
+    table.grdTable.figures = {1};
+    table.grdTable.Refresh();
+    EXPECT_THAT(screen.Text(), HasSubstr("8 December             05:39 PM"));
+}
+
 TEST_F(WideTable, FirstColumnYieldsToOneThatHasNoRoomBesideIt) {
     table.grdTable.heads = {"The month begins by the rule of", "First day", "Age"};
     table.grdTable.rows = {{{"Yallop, seen by the naked eye", "Friday, 11 December", "38 h"}}};

@@ -131,6 +131,7 @@ TEST_F(MonthWindowTest, TimesAroundTheDayHaveColumnsWhereAnOptionAsksForThem) {
     ShowMonthWindow();
     EXPECT_EQ(frmMonth->grdMonth.heads.size(), 12U);
     EXPECT_EQ(frmMonth->grdMonth.heads.back(), "Last third");
+    EXPECT_EQ(frmMonth->grdMonth.figures.size(), 10U) << "all but the two of the date";
     EXPECT_EQ(frmMonth->grdMonth.rows.at(0).cells.size(), 12U);
 }
 
