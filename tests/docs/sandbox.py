@@ -44,6 +44,7 @@ class Sandbox:
             _write_program(program, "#!/bin/sh\n")
         self.environment = {
             "HOME": home, "XDG_RUNTIME_DIR": runtime, "LC_ALL": "C.UTF-8", "TZ": "UTC",
+            "LSAN_OPTIONS": f"suppressions={source}/tests/leaks.supp:print_suppressions=0",
             "TERM": "dumb", "PATH": f"{stubs}:{build}/bin:/usr/bin:/bin:/usr/sbin:/sbin"}
 
     def run(self, words, text=""):
