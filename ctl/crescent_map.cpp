@@ -1,6 +1,5 @@
 #include "ctl/crescent_map.h"
 
-#include "ctl/document_fonts.h"
 #include "ctl/place_clock.h"
 #include "sky/map_drawing.h"
 #include "timetables/drawing_file.h"
@@ -60,7 +59,6 @@ std::optional<WrittenMap> WriteMap(const Almanac& almanac, const Lookout& lookou
     while (!map.IsComplete()) {
         map.ComputeRow();
     }
-    InstallDocumentFonts();
     WriteDrawing(
         written.file,
         MapDrawing(map, CriterionOf(options), WorkingObserver(), TextOf(written, month.newMoon)),

@@ -2,8 +2,8 @@
 
 namespace horavex {
 
-/// Installs what sets documents in type, where this build has it: with the desktop, the toolkit's
-/// fonts without any display.
-void InstallDocumentFonts();
+/// Installs what sets documents in type: the toolkit's fonts without any display, or the program
+/// that has them, where it is installed. The arguments are the command's own, as main gets them.
+void InstallDocumentFonts(char** arguments);
 
 }  // namespace horavex

@@ -6,7 +6,6 @@
 #include "base/text.h"
 #include "ctl/basis.h"
 #include "ctl/calculation.h"
-#include "ctl/document_fonts.h"
 #include "ctl/place_options.h"
 #include "engine/current_year.h"
 #include "lang/language_pack.h"
@@ -50,7 +49,6 @@ void Accept(std::int16_t textColumn) {
 }
 
 void Write(Session& session, const ExportOptions& options) {
-    InstallDocumentFonts();
     WriteTimetable(*TimetableFormatOf(options.format), options.output,
                    options.paper == "letter" ? PaperSize::kLetter : PaperSize::kA4);
     if (options.output != kStandardOutput) {

@@ -7,6 +7,7 @@
 #include "base/fault.h"
 #include "base/plain_text.h"
 #include "ctl/command.h"
+#include "ctl/document_fonts.h"
 
 namespace horavex {
 
@@ -80,6 +81,7 @@ int Run(int argumentCount, char** arguments) {
     try {
         ConsolePlatform platform;
         Session session{platform};
+        InstallDocumentFonts(arguments);
         AddCommands(app, session);
         WithMemoryFaults([&] { app.parse(argumentCount, arguments); });
         if (app.get_subcommands().empty()) {

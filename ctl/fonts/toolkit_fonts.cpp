@@ -22,7 +22,7 @@ void StartToolkit() {
 
 }  // namespace
 
-void InstallDocumentFonts() {
+void InstallDocumentFonts(char** /*arguments*/) {
     InstallDocumentTools(
         {.writePdf =
              [](const std::string& path, const PrintedYear& year) {

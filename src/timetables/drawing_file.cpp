@@ -38,7 +38,7 @@ void WriteDrawing(const std::string& path, const Drawing& drawing, double width,
     } else if (const DocumentTools& tools = InstalledDocumentTools(); tools.writePng) {
         tools.writePng(path, drawing, width, height);
     } else {
-        throw Fault("this program was built without the desktop, which draws PNG pictures");
+        throw Fault("what draws PNG comes with the desktop program, which is not installed");
     }
 }
 

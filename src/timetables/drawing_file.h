@@ -10,7 +10,7 @@ namespace horavex {
 bool IsDrawingPath(const std::string& path);
 
 /// Replaces or makes the file: a PNG where its path ends so, else an SVG. Size in twips. Throws
-/// FileFault, and Fault for a PNG in a program that was built without the desktop.
+/// FileFault, and Fault for a PNG where nothing is installed that draws one.
 void WriteDrawing(const std::string& path, const Drawing& drawing, double width, double height);
 
 }  // namespace horavex

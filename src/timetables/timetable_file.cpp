@@ -27,7 +27,7 @@ constexpr NamedFormat kFormats[] = {
 void WritePdf(const std::string& path, const PrintedYear& year) {
     const DocumentTools& tools = InstalledDocumentTools();
     if (!tools.writePdf) {
-        throw Fault("this program was built without the desktop, which sets PDF in type");
+        throw Fault("what sets PDF in type comes with the desktop program, which is not installed");
     }
     tools.writePdf(path, year);
 }

@@ -37,6 +37,16 @@ TEST(CtlToday, ObjectHasTheAgreedKeysAndTypes) {
     EXPECT_TRUE(day["qibla"]["degrees"].is_number_float());
 }
 
+// Loading takes most of the time of a short call, and a status bar makes one every few seconds.
+TEST(CtlToday, LoadsNothingOfTheToolkitThatDocumentsAreSetWith) {
+    Ctl ctl;
+    ctl.variables["LD_DEBUG"] = "libs";
+    const std::string loaded = ctl.Run("today --city Cairo").err;
+    EXPECT_THAT(loaded, testing::HasSubstr("libstdc++"));
+    EXPECT_THAT(loaded, testing::Not(testing::HasSubstr("libQt")));
+    EXPECT_THAT(loaded, testing::Not(testing::HasSubstr("libX11")));
+}
+
 TEST(CtlToday, FreshInstallStandsInMecca) {
     const Json day = JsonOf(Ctl(), kNoon);
     EXPECT_EQ(day["city"], "Mecca, Mecca - Saudi Arabia");

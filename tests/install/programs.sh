@@ -22,6 +22,10 @@ expect() {
 expect Africa/Cairo horavexctl today --city Cairo
 expect Maghrib horavexctl today
 expect " 0 failed" horavexctl validate
+if [ -x "$prefix/libexec/horavexctl-documents" ]; then
+    expect "365 days" horavexctl export --city Cairo --year 2026 --format pdf --output "$home/year.pdf"
+    rm "$home/year.pdf"
+fi
 [ -z "$(find "$home" -mindepth 1)" ] || {
     echo "a command that only asks left files behind"
     exit 1

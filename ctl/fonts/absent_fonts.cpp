@@ -1,7 +1,0 @@
-#include "ctl/document_fonts.h"
-
-namespace horavex {
-
-void InstallDocumentFonts() {}
-
-}  // namespace horavex
