@@ -30,7 +30,7 @@ constexpr MenuTitle kTitles[] = {
     {"_root.help", "Help", "IDC_FS_help", "mnuHelp"},
 };
 
-constexpr int kTitleGap = 3;
+constexpr int kWidestTitleGap = 3;
 constexpr int kTimesRows = 8;  // six times in their frame
 constexpr int kTimesWidth = 36;
 constexpr int kArcRows = 3;  // at the least
@@ -61,10 +61,23 @@ std::array<char32_t, FaceSheet::kMenus> FaceSheet::MenuKeys() const {
     return keys;
 }
 
+/// Columns behind each title: fewer where the clock would have no room behind the last.
+int FaceSheet::TitleGap() const {
+    int free = Around().desk.Columns() - 1 - WidthOf(ClockText());
+    for (std::size_t menu = 0; menu < kMenus; ++menu) {
+        free -= WidthOf(TitleOf(menu));
+    }
+    return std::clamp(free / static_cast<int>(kMenus), 1, kWidestTitleGap);
+}
+
+std::string FaceSheet::ClockText() const {
+    return face_.Day().clock + " ";
+}
+
 CellPlace FaceSheet::PlaceOf(const std::string& menu) const {
     int column = 1;
     for (std::size_t i = 0; i < kMenus && kTitles[i].menu != menu; ++i) {
-        column += WidthOf(TitleOf(i)) + kTitleGap;
+        column += WidthOf(TitleOf(i)) + TitleGap();
     }
     return {1, column - 1};
 }
@@ -119,10 +132,11 @@ void FaceSheet::DrawMenus(Cells& screen) const {
             screen.Put(0, column, glyph.text, {Tone::kSelected, isKey});
             column += glyph.width;
         }
-        column += kTitleGap;
+        column += TitleGap();
     }
-    const std::string clock = face_.Day().clock + " ";
-    screen.PutRight(0, 0, clock, Tone::kSelected, screen.Columns());
+    if (column + WidthOf(ClockText()) <= screen.Columns()) {
+        screen.PutRight(0, 0, ClockText(), Tone::kSelected, screen.Columns());
+    }
 }
 
 /// The dates, the place and the clocks. Returns the row below them.
@@ -130,7 +144,12 @@ int FaceSheet::DrawHeader(Cells& screen, int row) const {
     const FaceWords& day = face_.Day();
     const int width = screen.Columns();
     const std::string dates = face_.DayTitle() + "  ·  " + face_.HijriText();
-    screen.PutCentred(row++, 0, Clipped(dates, width - 2), Tone::kStrong, width);
+    if (WidthOf(dates) <= width - 2) {
+        screen.PutCentred(row++, 0, dates, Tone::kStrong, width);
+    } else {
+        screen.PutCentred(row++, 0, Clipped(face_.DayTitle(), width - 2), Tone::kStrong, width);
+        screen.PutCentred(row++, 0, Clipped(face_.HijriText(), width - 2), Tone::kStrong, width);
+    }
     screen.PutCentred(row++, 0, Clipped(day.place, width - 2), Tone::kFaint, width);
     if (!day.clocks.empty()) {
         screen.PutCentred(row++, 0, Clipped(day.clocks, width - 2), Tone::kFaint, width);

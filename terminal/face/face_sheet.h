@@ -28,6 +28,8 @@ private:
 
     std::string TitleOf(std::size_t menu) const;
     std::array<char32_t, kMenus> MenuKeys() const;
+    int TitleGap() const;
+    std::string ClockText() const;
     void OpenMenu(std::size_t menu);
     void DrawMenus(Cells& screen) const;
     int DrawHeader(Cells& screen, int row) const;

@@ -224,28 +224,53 @@ int Arrangement::WidthInFlow(const LayoutNode& node) const {
     return widths.widens && node.children.empty() ? widths.least : widths.wanted;
 }
 
+/// Whether a part says something of the one before it, and a line has room for both.
+bool Arrangement::AreOne(const LayoutNode& before, const LayoutNode& node, int width) const {
+    const Arranged* const leaf = Of(node);
+    const Arranged* const told = Of(before);
+    return leaf != nullptr && leaf->TellsOfPrevious() && told != nullptr && told->Widens() &&
+           WidthInFlow(before) + kColumnGap + WidthInFlow(node) <= width;
+}
+
+/// The parts of a line that stay together: two at the most.
+std::vector<Arrangement::Nodes> Arrangement::UnitsOf(const Nodes& nodes, int width) const {
+    std::vector<Nodes> units;
+    for (const LayoutNode* node : nodes) {
+        if (node->kind == Kind::kSpace) {
+            continue;
+        }
+        const bool joins = !units.empty() && units.back().size() == 1 &&
+                           AreOne(*units.back().front(), *node, width);
+        joins ? units.back().push_back(node) : units.push_back({node});
+    }
+    return units;
+}
+
 /// As many on a line as go there.
 int Arrangement::PlaceFlowing(const Nodes& nodes, int row, int column, int width) {
     Nodes line;
     int used = 0;
     int height = 0;
-    for (const LayoutNode* node : nodes) {
-        if (node->kind == Kind::kSpace) {
-            continue;
+    for (const Nodes& unit : UnitsOf(nodes, width)) {
+        int wanted = GapsBetween(unit.size());
+        for (const LayoutNode* node : unit) {
+            wanted += WidthInFlow(*node);
         }
-        const int wanted = WidthInFlow(*node);
         if (!line.empty() && used + kColumnGap + wanted > width) {
-            height += PlaceBeside(line, row + height, column, width);
+            height += PlaceLine(line, row + height, column, width);
             line.clear();
             used = 0;
         }
         used += (line.empty() ? 0 : kColumnGap) + wanted;
-        line.push_back(node);
+        line.insert(line.end(), unit.begin(), unit.end());
     }
-    if (line.size() == 1) {
-        return height + Place(*line.front(), row + height, column, width);
-    }
-    return height + (line.empty() ? 0 : PlaceBeside(line, row + height, column, width));
+    return height + (line.empty() ? 0 : PlaceLine(line, row + height, column, width));
+}
+
+/// A part that is alone may be wider than the line.
+int Arrangement::PlaceLine(const Nodes& line, int row, int column, int width) {
+    return line.size() == 1 ? Place(*line.front(), row, column, width)
+                            : PlaceBeside(line, row, column, width);
 }
 
 }  // namespace horavex

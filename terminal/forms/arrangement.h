@@ -25,6 +25,10 @@ public:
     /// Rows beyond which it does not grow.
     virtual int MostHeightIn(int /*width*/) const { return 1000; }
 
+    /// Says something of what stands before it in its row, the value of a bar for one, and is not
+    /// parted from it.
+    virtual bool TellsOfPrevious() const { return false; }
+
     /// Of a leaf with pages inside: which is on view.
     virtual std::size_t Page() const { return 0; }
 };
@@ -76,6 +80,9 @@ private:
     int PlaceCells(const LayoutNode& grid, const std::vector<int>& widths, int row, int column);
     int PlaceGridBelow(const LayoutNode& grid, int row, int column, int width);
     int WidthInFlow(const LayoutNode& node) const;
+    bool AreOne(const LayoutNode& before, const LayoutNode& node, int width) const;
+    std::vector<Nodes> UnitsOf(const Nodes& nodes, int width) const;
+    int PlaceLine(const Nodes& line, int row, int column, int width);
     int PlaceFlowing(const Nodes& nodes, int row, int column, int width);
     int HeightOf(const LayoutNode& page, int width) const;
 

@@ -1,6 +1,7 @@
 #include "terminal/forms/caption_widgets.h"
 
 #include <algorithm>
+#include <map>
 
 #include "terminal/screen/glyphs.h"
 
@@ -12,6 +13,18 @@ constexpr int kNarrowest = 16;  // columns that a text is wrapped to, at the lea
 
 bool IsPress(const KeyPress& key) {
     return key.Is(U' ') || key.code == KeyCode::kEnter;
+}
+
+/// Signs as they stand on the other side: " [x]" for "[x] ".
+std::string Mirrored(const std::string& signs) {
+    static const std::map<std::string, std::string> others = {
+        {"[", "]"}, {"]", "["}, {"(", ")"}, {")", "("}};
+    std::string mirrored;
+    for (const Glyph& glyph : GlyphsOf(signs)) {
+        const auto other = others.find(glyph.text);
+        mirrored.insert(0, other == others.end() ? glyph.text : other->second);
+    }
+    return mirrored;
 }
 
 }  // namespace
@@ -116,10 +129,8 @@ void PressedWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     const int before = WidthOf(FromRight() ? Behind() : Before());
     const Area inside{area.row, left + before, 1, width - signs};
     cells.Fill({area.row, left, static_cast<int>(lines.size()), width}, look);
-    const std::string& first = FromRight() ? Behind() : Before();
-    const std::string& last = FromRight() ? Before() : Behind();
-    cells.Put(area.row, left, FromRight() && !first.empty() ? "[ " : first, look);
-    cells.PutRight(area.row, left, FromRight() && !Behind().empty() ? " ]" : last, look, width);
+    cells.Put(area.row, left, FromRight() ? Mirrored(Behind()) : Before(), look);
+    cells.PutRight(area.row, left, FromRight() ? Mirrored(Before()) : Behind(), look, width);
     if (lines.size() == 1) {
         PutCaption(cells, inside, Bound()->Caption(), look, FromRight());
         return;

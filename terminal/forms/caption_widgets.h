@@ -18,6 +18,7 @@ public:
     int LeastWidth() const override;
     int WantedWidth() const override;
     int HeightIn(int width) const override;
+    bool TellsOfPrevious() const override { return Node().Property("buddy").empty(); }
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return static_cast<bool>(label_.onClick); }
     bool Press(const KeyPress& key) override;

@@ -146,6 +146,9 @@ double ControlsSheet::Seconds() const {
 
 void ControlsSheet::Press(const KeyPress& key) {
     Widget* const focused = Focused();
+    if (key.IsText() || key.code == KeyCode::kEnter) {
+        seen_ = nullptr;  // what it changes comes into view
+    }
     if (focused != nullptr && !key.alt && focused->Press(key)) {
         auto* focusable = dynamic_cast<Focusable*>(focused->Bound());
         if (!IsEnded() && focusable != nullptr) {
@@ -164,6 +167,10 @@ void ControlsSheet::PressElsewhere(const KeyPress& key) {
             break;
         case KeyCode::kUp:
         case KeyCode::kDown:
+            if (!StepBeside(key)) {
+                Scroll(key.code == KeyCode::kUp ? -1 : 1);
+            }
+            break;
         case KeyCode::kLeft:
         case KeyCode::kRight:
             StepBeside(key);

@@ -42,7 +42,8 @@ private:
     bool PressButton(const char* property, const char* value = "true");
     void PressEnter();
     void TurnPages(int step);
-    void ScrollPage(int step);
+    bool Scroll(int rows);
+    void TakeFocusAlong(int step);
 
     // Drawing.
     int ArrangeIn(int width, int height);

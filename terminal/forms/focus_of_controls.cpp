@@ -141,24 +141,35 @@ void ControlsSheet::TurnToPageOf(const Widget& widget) {
     }
 }
 
+/// A window that is higher than the screen is moved through before its tabs are turned.
 void ControlsSheet::TurnPages(int step) {
+    if (Scroll(step * std::max(1, rows_ - 1))) {
+        TakeFocusAlong(step);
+        return;
+    }
     for (Widget* widget : order_) {
-        if (dynamic_cast<TabsWidget*>(widget) != nullptr && CanTakeKeys(*widget)) {
+        const auto* tabs = dynamic_cast<TabsWidget*>(widget);
+        if (tabs != nullptr && tabs->HasTabBeside(step) && CanTakeKeys(*widget)) {
             MoveFocus(*widget);
             widget->Press({(step < 0) != fromRight_ ? KeyCode::kLeft : KeyCode::kRight});
             return;
         }
     }
-    ScrollPage(step);
 }
 
-/// By a screen, of which a row stays on view. The focus goes along to the nearest control there.
-void ControlsSheet::ScrollPage(int step) {
-    first_ = std::clamp(first_ + step * std::max(1, rows_ - 1), 0, whole_ - rows_);
+/// False at the end of the window.
+bool ControlsSheet::Scroll(int rows) {
+    const int before = first_;
+    first_ = std::clamp(first_ + rows, 0, whole_ - rows_);
+    return first_ != before;
+}
+
+/// To the nearest control on view in a direction that leaves the page keys to the window.
+void ControlsSheet::TakeFocusAlong(int step) {
     Widget* nearest = nullptr;
     int least = whole_;
     for (Widget* widget : order_) {
-        if (!IsOnView(*widget) || !CanTakeKeys(*widget)) {
+        if (!IsOnView(*widget) || !CanTakeKeys(*widget) || widget->UsesPageKeys()) {
             continue;
         }
         const Area& area = arrangement_.Areas().at(&widget->Node());
@@ -172,7 +183,6 @@ void ControlsSheet::ScrollPage(int step) {
     if (nearest != nullptr) {
         MoveFocus(*nearest);
     }
-    Around().desk.Invalidate();
 }
 
 /// A label's key goes to what the label stands before. One on view comes before those on other

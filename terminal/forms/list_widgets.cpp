@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kWidestList = 50;
 constexpr int kLeastRows = 4;
+constexpr int kLeastTableRows = 6;
 constexpr int kGap = 2;  // columns between those of a table
 
 }  // namespace
@@ -103,6 +104,11 @@ void TabsWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     }
 }
 
+bool TabsWidget::HasTabBeside(int step) const {
+    const int tab = Chosen() + step;
+    return tab >= 0 && tab < static_cast<int>(Captions().size());
+}
+
 bool TabsWidget::Press(const KeyPress& key) {
     if (key.code != KeyCode::kLeft && key.code != KeyCode::kRight) {
         return false;
@@ -178,7 +184,7 @@ int GridWidget::WantedWidth() const {
 }
 
 int GridWidget::HeightIn(int) const {
-    return 1 + std::clamp(static_cast<int>(grid_.rows.size()), 1, kLeastRows);
+    return 1 + std::clamp(static_cast<int>(grid_.rows.size()), 1, kLeastTableRows);
 }
 
 void GridWidget::DrawRow(Cells& cells, const Area& area, const std::vector<std::string>& texts,
@@ -244,24 +250,35 @@ bool GridWidget::SkipColumns(int step) {
     return can;
 }
 
-bool GridWidget::Press(const KeyPress& key) {
+/// False where there are no more on that side.
+bool GridWidget::Scroll(int rows) {
     const int before = first_;
+    first_ =
+        std::clamp(first_ + rows, 0, std::max(0, static_cast<int>(grid_.rows.size()) - height_));
+    return first_ != before;
+}
+
+bool GridWidget::TurnPage(int step) {
+    if (!grid_.onPage) {
+        return Scroll(step * height_);
+    }
+    grid_.UserPage(step);
+    return true;
+}
+
+bool GridWidget::Press(const KeyPress& key) {
     switch (key.code) {
         case KeyCode::kUp:
-            first_ = std::max(0, first_ - 1);
-            return first_ != before;
-        case KeyCode::kDown: {
-            const bool more = first_ + height_ < static_cast<int>(grid_.rows.size());
-            first_ += more ? 1 : 0;
-            return more;
-        }
+            return Scroll(-1);
+        case KeyCode::kDown:
+            return Scroll(1);
         case KeyCode::kLeft:
         case KeyCode::kRight:
             return SkipColumns((key.code == KeyCode::kRight) != FromRight() ? 1 : -1);
         case KeyCode::kPageUp:
+            return TurnPage(-1);
         case KeyCode::kPageDown:
-            grid_.UserPage(key.code == KeyCode::kPageUp ? -1 : 1);
-            return true;
+            return TurnPage(1);
         default:
             return false;
     }

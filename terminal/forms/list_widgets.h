@@ -25,6 +25,7 @@ public:
     bool Grows() const override;
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return true; }
+    bool UsesPageKeys() const override { return true; }
     bool Press(const KeyPress& key) override;
     std::string Hint() const override;
 
@@ -44,6 +45,9 @@ public:
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return true; }
     bool Press(const KeyPress& key) override;
+
+    /// Whether there is a tab before the chosen one, -1, or behind it, 1.
+    bool HasTabBeside(int step) const;
 
 protected:
     virtual std::vector<std::string> Captions() const = 0;
@@ -87,7 +91,7 @@ private:
     std::size_t page_ = 0;
 };
 
-/// A table that is moved through; what goes beyond it turns its page.
+/// A table that is moved through; the page keys turn its page where it has some.
 class GridWidget : public Widget {
 public:
     GridWidget(Grid& grid, const LayoutNode& node, WidgetSurroundings& around)
@@ -100,6 +104,7 @@ public:
     bool Widens() const override { return true; }
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return true; }
+    bool UsesPageKeys() const override { return true; }
     bool Press(const KeyPress& key) override;
 
 private:
@@ -112,6 +117,8 @@ private:
     std::vector<int> Columns() const;
     std::vector<Shown> ColumnsIn(int width);
     bool SkipColumns(int step);
+    bool Scroll(int rows);
+    bool TurnPage(int step);
     void DrawRow(Cells& cells, const Area& area, const std::vector<std::string>& texts,
                  const std::vector<Shown>& columns, const Look& look) const;
     void GoToCurrentRow();

@@ -17,6 +17,7 @@ public:
     bool Widens() const override { return range_.Kind() == ControlKind::kScrollBar; }
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return true; }
+    bool UsesPageKeys() const override { return true; }
     bool Press(const KeyPress& key) override;
 
 private:

@@ -66,6 +66,7 @@ public:
     bool Grows() const override;
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;
     bool TakesKeys() const override { return true; }
+    bool UsesPageKeys() const override { return true; }
     bool Press(const KeyPress& key) override;
 
 private:

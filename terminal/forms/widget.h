@@ -48,6 +48,9 @@ public:
     /// Takes a key while it has the focus. False for one that it has no use for.
     virtual bool Press(const KeyPress&) { return false; }
 
+    /// Whether the page keys are its own, which may change its value.
+    virtual bool UsesPageKeys() const { return false; }
+
     /// Does what its access key asks for.
     virtual void Reach() {}
 

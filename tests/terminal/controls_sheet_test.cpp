@@ -347,7 +347,7 @@ TEST_F(ControlsSheetTest, RightToLeftCaptionsBeginAtTheRight) {
     form.Show();
     for (const std::string& row : screen.Rows()) {
         if (row.find("المنبه") != std::string::npos) {
-            EXPECT_LT(row.find("المنبه"), row.find(" ]"));
+            EXPECT_THAT(row, HasSubstr("المنبه [ ]"));
             return;
         }
     }

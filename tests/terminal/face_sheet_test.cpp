@@ -78,6 +78,27 @@ TEST_F(FaceSheetTest, LowScreenHasNoLargeDigits) {
     EXPECT_THAT(screen.Text(), HasSubstr("Isha"));
 }
 
+TEST_F(FaceSheetTest, DatesThatHaveNoRoomBesideEachOtherStandInTwoRows) {
+    Start();
+    EXPECT_THAT(screen.Rows().at(2), HasSubstr("November 2026  ·  10 "));
+    screen.SetSize(16, 40);
+    EXPECT_THAT(screen.Rows().at(1), HasSubstr("Saturday, 21 November 2026"));
+    EXPECT_THAT(screen.Rows().at(2), HasSubstr(" 1448"));
+    EXPECT_THAT(screen.Text(), HasSubstr("Isha"));
+}
+
+TEST_F(FaceSheetTest, TitlesOfMenusAndTheClockLeaveEachOtherRoom) {
+    Start();
+    face.SetVariable("_root.settings", "Einstellungen");
+    face.SetVariable("_root.tools", "Werkzeuge");
+    screen.SetSize(16, 45);
+    EXPECT_THAT(screen.Rows().at(0), HasSubstr("Athan Einstellungen Werkzeuge Help 12:00 PM"));
+    face.SetVariable("_root.settings", "Alle Einstellungen");
+    screen.SetSize(16, 45);
+    EXPECT_THAT(screen.Rows().at(0), HasSubstr("Help"));
+    EXPECT_THAT(screen.Rows().at(0), Not(HasSubstr("12:00"))) << "it stands on the machine, too";
+}
+
 TEST_F(FaceSheetTest, KeysOpenMenus) {
     Start();
     screen.Press(KeyCode::kF10);

@@ -7,6 +7,7 @@
 #include "forms/command_button.h"
 #include "forms/grid.h"
 #include "forms/label.h"
+#include "forms/range.h"
 #include "forms/text_box.h"
 #include "terminal/desk_screen.h"
 #include "terminal/forms/controls_sheet.h"
@@ -105,6 +106,19 @@ TEST_F(WideTable, MarkOfItsRowsStandsBesideThem) {
         }
     }
     EXPECT_THAT(screen.Text(), HasSubstr("█"));
+}
+
+TEST_F(WideTable, PageKeysMoveThroughTheRowsOfATableWithoutPages) {
+    table.grdTable.heads = {"Day", "Fajr"};
+    for (int day = 0; day < 60; ++day) {
+        table.grdTable.rows.push_back({{"day " + std::to_string(day), "05:10"}});
+    }
+    table.Show();
+    screen.Press(KeyCode::kPageDown);
+    EXPECT_THAT(screen.Text(), HasSubstr("day 30 "));
+    screen.Press(KeyCode::kPageDown);
+    screen.Press(KeyCode::kPageDown);
+    EXPECT_THAT(screen.Text(), HasSubstr("day 59 "));
 }
 
 class TextsForm : public Form {
@@ -207,6 +221,55 @@ TEST_F(HighWindow, PageKeysMoveThroughIt) {
     EXPECT_THAT(screen.Text(), HasSubstr("line 30 "));
     screen.Press(KeyCode::kTab);
     EXPECT_THAT(screen.Text(), HasSubstr("[ First ]")) << "the window follows the focus";
+}
+
+TEST_F(HighWindow, ArrowKeysMoveThroughWhatHasNoControls) {
+    form.cmdFirst.SetVisible(false);
+    EXPECT_THAT(screen.Text(), HasSubstr("[ Last ]"));
+    for (int key = 0; key < 30; ++key) {
+        screen.Press(KeyCode::kUp);
+    }
+    EXPECT_THAT(screen.Text(), HasSubstr("line 20 "));
+    screen.Press(KeyCode::kDown);
+    EXPECT_THAT(screen.Text(), HasSubstr("line 30 "));
+}
+
+TEST_F(HighWindow, KeyThatPressesSomethingBringsItIntoView) {
+    int clicks = 0;
+    form.cmdFirst.SetVisible(false);
+    form.cmdLast.onClick = [&clicks] { ++clicks; };
+    screen.Press(KeyCode::kPageUp);
+    screen.Press(KeyCode::kPageUp);
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("[ Last ]")));
+    screen.Type(" ");
+    EXPECT_EQ(clicks, 1);
+    EXPECT_THAT(screen.Text(), HasSubstr("[ Last ]"));
+}
+
+class ValueForm : public Form {
+public:
+    ValueForm() : Form("value") {}
+    Label lblName{*this, "lblName", {.caption = "A reminder before"}};
+    ScrollBar hsMinutes{*this, "hsMinutes", {.value = 5, .max = 60}};
+    Label lblMinutes{*this, "lblMinutes", {.caption = "5 minutes"}};
+};
+
+TEST_F(WideParts, ValueOfABarIsNotPartedFromIt) {
+    layout =
+        R"(<ui><widget class="QWidget" name="value"><layout class="QHBoxLayout" name="line">)" +
+        Part("QLabel", "lblName",
+             R"(<property name="buddy"><cstring>hsMinutes</cstring></property>)") +
+        Part("QScrollBar", "hsMinutes") + Part("QLabel", "lblMinutes") + "</layout></widget></ui>";
+    ValueForm form;
+    screen.SetSize(16, 40);
+    form.lblName.SetCaption("A reminder long before");
+    form.Show();
+    for (const std::string& row : screen.Rows()) {
+        if (row.find("5 minutes") != std::string::npos) {
+            EXPECT_THAT(row, HasSubstr("▸  5 minutes"));
+        }
+    }
+    EXPECT_THAT(screen.Text(), HasSubstr("5 minutes"));
 }
 
 }  // namespace
