@@ -107,11 +107,16 @@ char32_t InRun(char32_t codePoint) {
     return codePoint;
 }
 
+bool IsAscii(char c) {
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
+char SmallLetter(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// codePoint: beyond ASCII.
 void AppendFolded(std::string& folded, char32_t codePoint) {
-    if (codePoint < 0x80) {
-        folded += static_cast<char>(codePoint);
-        return;
-    }
     const auto* found = std::lower_bound(
         kFoldings.begin(), kFoldings.end(), codePoint,
         [](const Folding& folding, char32_t wanted) { return folding.from < wanted; });
@@ -125,15 +130,19 @@ void AppendFolded(std::string& folded, char32_t codePoint) {
 }  // namespace
 
 std::string FoldForSearch(std::string_view text) {
-    const auto codePoints = DecodeUtf8(text);
-    if (!codePoints) {
-        return AsciiLower(text);
-    }
     std::string folded;
-    for (const char32_t codePoint : *codePoints) {
-        AppendFolded(folded, codePoint);
+    folded.reserve(text.size());
+    for (std::string_view rest = text; !rest.empty();) {
+        if (IsAscii(rest.front())) {
+            folded += SmallLetter(rest.front());
+            rest.remove_prefix(1);
+        } else if (const auto codePoint = TakeCodePoint(rest)) {
+            AppendFolded(folded, *codePoint);
+        } else {
+            return AsciiLower(text);
+        }
     }
-    return AsciiLower(folded);
+    return folded;
 }
 
 }  // namespace horavex

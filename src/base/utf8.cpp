@@ -36,27 +36,6 @@ bool IsSurrogate(char32_t codePoint) {
     return codePoint >= 0xD800 && codePoint <= 0xDFFF;
 }
 
-/// Takes one character off the front of rest; nothing when it is malformed.
-std::optional<char32_t> TakeCodePoint(std::string_view& rest) {
-    const auto lead = static_cast<unsigned char>(rest.front());
-    const std::size_t length = SequenceLength(lead);
-    if (length == 0 || length > rest.size()) {
-        return std::nullopt;
-    }
-    char32_t codePoint = length == 1 ? lead : lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if (!IsContinuation(rest[i])) {
-            return std::nullopt;
-        }
-        codePoint = codePoint << 6 | (static_cast<unsigned char>(rest[i]) & 0x3FU);
-    }
-    if (codePoint < SmallestOfLength(length) || codePoint > kHighest || IsSurrogate(codePoint)) {
-        return std::nullopt;
-    }
-    rest.remove_prefix(length);
-    return codePoint;
-}
-
 }  // namespace
 
 void AppendUtf8(std::string& text, char32_t codePoint) {
@@ -78,6 +57,26 @@ void AppendUtf8(std::string& text, char32_t codePoint) {
         tail(6);
         tail(0);
     }
+}
+
+std::optional<char32_t> TakeCodePoint(std::string_view& rest) {
+    const auto lead = static_cast<unsigned char>(rest.front());
+    const std::size_t length = SequenceLength(lead);
+    if (length == 0 || length > rest.size()) {
+        return std::nullopt;
+    }
+    char32_t codePoint = length == 1 ? lead : lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        if (!IsContinuation(rest[i])) {
+            return std::nullopt;
+        }
+        codePoint = codePoint << 6 | (static_cast<unsigned char>(rest[i]) & 0x3FU);
+    }
+    if (codePoint < SmallestOfLength(length) || codePoint > kHighest || IsSurrogate(codePoint)) {
+        return std::nullopt;
+    }
+    rest.remove_prefix(length);
+    return codePoint;
 }
 
 std::optional<std::u32string> DecodeUtf8(std::string_view text) {

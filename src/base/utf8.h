@@ -10,6 +10,10 @@ namespace horavex {
 /// Appends one code point, 0 to 0x10FFFF without surrogates, as UTF-8.
 void AppendUtf8(std::string& text, char32_t codePoint);
 
+/// Takes the first character off a text, which has some; nothing, and the text as it was, where
+/// that is malformed.
+std::optional<char32_t> TakeCodePoint(std::string_view& text);
+
 /// The code points of a text; nothing when it is no well-formed UTF-8.
 std::optional<std::u32string> DecodeUtf8(std::string_view text);
 

@@ -1,6 +1,6 @@
 #include "geo/city_picker.h"
 
-#include <algorithm>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -12,7 +12,7 @@
 #include "engine/progress_window.h"
 #include "geo/world_map.h"
 #include "lang/form_language.h"
-#include "store/city_search.h"
+#include "store/best_cities.h"
 #include "store/location_files.h"
 #include "store/text_table.h"
 #include "windows/f_country.h"
@@ -35,12 +35,18 @@ int lastFill = 0;
 /// While the picker is loaded its lists yield to the user, who may ask for it once more.
 bool isLoading = false;
 
-/// All cities, as long as the picker is open, and those that lstFound shows.
-std::vector<ListedCity> cities;
+/// All cities, made ready for a search at each key.
+struct Gazetteer {
+    std::vector<ListedCity> cities = ListCities();
+    BestCities best{cities};
+};
+
+/// That of the picker, as long as it is open, and the cities that lstFound shows.
+std::unique_ptr<const Gazetteer> gazetteer;
 std::vector<std::int16_t> hits;
 
 void ForgetCities() {
-    cities = {};
+    gazetteer.reset();
     hits = {};
 }
 
@@ -237,10 +243,11 @@ void ShowHits() {
     CountryForm& form = *fCountry;
     form.lstFound.Clear();
     hits.clear();
-    const auto found = SearchCities(cities, form.txtSearch.Text());
-    for (std::size_t hit = 0; hit < std::min(found.size(), kHitsShown); ++hit) {
-        form.lstFound.AddItem(DisplayText(found[hit]));
-        hits.push_back(found[hit].city->cityIndex);
+    if (gazetteer) {
+        for (const CityHit& hit : gazetteer->best.Find(form.txtSearch.Text(), kHitsShown)) {
+            form.lstFound.AddItem(DisplayText(hit));
+            hits.push_back(hit.city->cityIndex);
+        }
     }
     const bool asks = !Trim(form.txtSearch.Text()).empty();
     form.lstFound.SetVisible(asks && !hits.empty());
@@ -338,7 +345,7 @@ bool LoadCityPicker() {
         fCountry->Unload();
         return false;
     }
-    cities = ListCities();
+    gazetteer = std::make_unique<Gazetteer>();
     SelectCountryOf(Settings.CityIndex);
     return true;
 }
