@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The recipes of the Debian packages fit what is installed: every file is in exactly one package,
 # the version is the program's, what builds the packages is on the list of the gate, and software
-# centres are told the licences of all that is in them.
+# centres are told the licences of all that is in them. That of the Flatpak has the names of the rest.
 #
 # Usage: recipes.sh PACKAGING VERSION LIST...
 set -euo pipefail
@@ -40,4 +40,11 @@ done
 licences=$(sed -n 's/^License: //p' debian/copyright | sed 's/^Expat$/MIT/; /^public-domain$/d' | sort -u)
 diff <(sed -n 's/.*<project_license>\(.*\)<.*/\1/p' org.horavex.horavex.metainfo.xml |
     sed 's/ AND /\n/g; s/LicenseRef-//g' | sort) <(echo "$licences") || fail "the metainfo names other licences"
+
+metainfo() { sed -n "s|.*<$1[^>]*>\(.*\)</.*|\1|p" org.horavex.horavex.metainfo.xml | head -n 1; }
+flatpak=$(cat flatpak/org.horavex.horavex.yml)
+for line in "id: $(metainfo id)" "command: $(metainfo binary)" "  - --own-name=$(metainfo dbus)" \
+    "rename-desktop-file: $(metainfo launchable)" "rename-icon: $(metainfo icon)"; do
+    grep -qxF -- "$line" <<<"$flatpak" || fail "the Flatpak has no line \"$line\""
+done
 [ "$failures" -eq 0 ]
