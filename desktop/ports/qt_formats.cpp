@@ -11,7 +11,11 @@ namespace horavex {
 
 namespace {
 
+/// The program works in plain digits and blanks; users may see others (lang/own_digits.h).
 std::string Plain(QString text) {
+    for (QChar& letter : text) {
+        letter = letter.isDigit() ? QChar(u'0' + letter.digitValue()) : letter;
+    }
     text.replace(QChar(0x202F), QChar(u' '));  // the narrow no-break space
     text.replace(QChar(QChar::Nbsp), QChar(u' '));
     return text.toStdString();

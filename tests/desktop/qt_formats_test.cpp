@@ -55,19 +55,19 @@ TEST(QtFormats, OtherLocalesHaveTheirOwnForms) {
     EXPECT_EQ(In("fr_CA").MediumTime(kEarly), "05 h 31");
     EXPECT_EQ(In("fr_CA").LongTime(kLate), "17 h 05 min 00 s");
     EXPECT_EQ(In("C").MediumTime(kLate), "17:05");
-    EXPECT_EQ(In("ar_EG").MediumTime(kEarly), "٠٥:٣١ ص");
+    EXPECT_EQ(In("ar_EG").MediumTime(kEarly), "05:31 ص") << "in plain digits";
     EXPECT_EQ(In("zh_TW").MediumTime(kLate), "下午05:05");
 }
 
 TEST(QtFormats, TwelveHourTimeKeepsTheDialWhereTheLocaleCountsToTwentyFour) {
     EXPECT_EQ(In("de_DE").TwelveHourTime(kLate), "05:05 PM");
-    EXPECT_EQ(In("ar_EG").TwelveHourTime(kEarly), "٠٥:٣١ ص");
+    EXPECT_EQ(In("ar_EG").TwelveHourTime(kEarly), "05:31 ص");
 }
 
 TEST(QtFormats, MonthAndYearStandAlone) {
     EXPECT_EQ(In("de_DE").MonthAndYear(kDay), "November 2026");
     EXPECT_EQ(In("pl_PL").MonthAndYear(kDay), "listopad 2026");
-    EXPECT_EQ(In("ar_EG").MonthAndYear(kDay), "نوفمبر ٢٠٢٦");
+    EXPECT_EQ(In("ar_EG").MonthAndYear(kDay), "نوفمبر 2026");
 }
 
 TEST(QtFormats, LongTimeOfEachLocaleTellsAllSecondsApart) {
