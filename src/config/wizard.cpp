@@ -28,6 +28,7 @@
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "store/angle_band.h"
+#include "store/distance_options.h"
 #include "store/location_record.h"
 #include "store/save_change.h"
 #include "store/settings_record.h"
@@ -228,10 +229,11 @@ void frmWizard_QueryUnload(const CloseRequest& request) {
     }
 }
 
-/// A new user's second start brings the face back.
-void SaveShowRunning() {
+/// A new user's second start brings the face back, and distances are those from the user's city.
+void SaveHelpfulStart() {
     if (AnythingWasAccepted()) {
         SaveChange(option::kShowRunning, 1, option::kShowRunning.base);
+        SaveChange(option::kDistanceFromHere, 1, option::kDistanceFromHere.base);
     }
 }
 
@@ -240,7 +242,7 @@ void Finish() {
     RunStep(SetSettings);
     SaveCalmAthan();
     if (isFirst) {
-        SaveShowRunning();
+        SaveHelpfulStart();
     }
     frmWizard->Unload();
 }

@@ -79,6 +79,17 @@ double DistanceKilometres(const DistancePoints& points) {
                              HalfDiffLat(points));
 }
 
+double BearingDegrees(const DistancePoints& points) {
+    constexpr double kCircle = 360.0;
+    const double a = Radians(points.DistanceLatA);
+    const double b = Radians(points.DistanceLatB);
+    const double along = Radians(points.DistanceLonB - points.DistanceLonA);
+    const double east = std::sin(along) * std::cos(b);
+    const double north = std::cos(a) * std::sin(b) - std::sin(a) * std::cos(b) * std::cos(along);
+    const double degrees = std::atan2(east, north) * 180.0 / kPi;
+    return degrees < 0.0 ? degrees + kCircle : degrees;
+}
+
 double InUnit(double kilometres, DistanceUnit unit) {
     if (unit == DistanceUnit::kKilometres) {
         return kilometres;

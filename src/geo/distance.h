@@ -34,6 +34,10 @@ double AndoyerKilometres(double S, double C, double F, double G);
 /// Kilometres between the two points. Throws as above.
 double DistanceKilometres(const DistancePoints& points);
 
+/// The direction of the great circle from the first point to the second, degrees clockwise from
+/// north, [0, 360).
+double BearingDegrees(const DistancePoints& points);
+
 enum class DistanceUnit { kKilometres, kMiles, kNauticalMiles };
 
 /// Kilometres in a unit: statute miles of 1609.344 metres, and 0.8689927583936801 of these for a

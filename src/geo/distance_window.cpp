@@ -6,14 +6,20 @@
 #include <optional>
 
 #include "base/number_text.h"
+#include "base/program_state.h"
+#include "base/script.h"
 #include "engine/angle.h"
 #include "forms/show_modal.h"
 #include "geo/city_picker.h"
 #include "geo/distance.h"
+#include "lang/filled_text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "store/distance_options.h"
+#include "store/location_record.h"
 #include "store/location_text.h"
+#include "store/settings_record.h"
 #include "windows/frm_distance.h"
 #include "windows/frm_main.h"
 
@@ -23,6 +29,12 @@ namespace {
 
 constexpr const char* kFillAll = "Please, Fill in all text boxes with valid values.";
 constexpr const char* kEmptyField = "Form field is empty!";
+
+/// The column of the text table whose words are read back.
+constexpr std::int16_t kEnglishTexts = 1;
+
+std::string summaryPattern;  // of the language, while the window is open
+const ProgramStateReset reset([] { summaryPattern.clear(); });
 
 /// One coordinate in the window. Its sign lies in all three boxes.
 struct CoordinateControls {
@@ -170,6 +182,38 @@ DistancePoints PointsInBoxes() {
             .DistanceLonB = ReadBoxes(coordinates[kLongitudeB])};
 }
 
+OptionButton& OptionOf(DistanceUnit unit) {
+    DistanceForm& form = *frmDistance;
+    switch (unit) {
+        case DistanceUnit::kMiles:
+            return form.optMiles;
+        case DistanceUnit::kNauticalMiles:
+            return form.optNauticalMiles;
+        case DistanceUnit::kKilometres:
+            break;
+    }
+    return form.optKilometers;
+}
+
+std::string DegreesAndMinutes(double degrees) {
+    constexpr int kMinutes = 60;
+    constexpr int kCircle = 360 * kMinutes;
+    const int minutes = static_cast<int>(std::lround(degrees * kMinutes)) % kCircle;
+    const std::string odd = std::to_string(minutes % kMinutes);
+    return std::to_string(minutes / kMinutes) + "\u00b0" + (odd.size() < 2 ? "0" : "") + odd +
+           "\u2032";
+}
+
+/// The distance as one says it, with the direction of the way, below the number of many digits.
+void ShowSummary(double distance, DistanceUnit unit) {
+    std::string text =
+        FilledText(summaryPattern, "{distance}", std::to_string(std::lround(distance)));
+    text = FilledText(text, "{unit}", OptionOf(unit).Caption());
+    const std::string bearing = DegreesAndMinutes(BearingDegrees(PointsInBoxes()));
+    frmDistance->lblSummary.SetCaption(
+        FilledText(text, "{bearing}", KeptTogether(bearing, summaryPattern)));
+}
+
 void cmdCalcDistance_Click() {
     const auto unit = CheckedUnit();
     if (!unit) {
@@ -180,6 +224,23 @@ void cmdCalcDistance_Click() {
     const double kilometres = DistanceKilometres(PointsInBoxes());
     frmDistance->txtDistanceRsult.SetText(NumberInBox(InUnit(kilometres, *unit)));
     frmDistance->metricsLabel.SetCaption(UnitName(*unit));
+    ShowSummary(InUnit(kilometres, *unit), *unit);
+}
+
+/// Mecca's place is known.
+void EnableCityB(bool enabled) {
+    DistanceForm& form = *frmDistance;
+    for (Control* control : std::initializer_list<Control*>{
+             &form.cmdCityB, &form.txtDegBLong, &form.txtMinBLong, &form.txtSecBLong,
+             &form.txtDegBLat, &form.txtMinBLat, &form.txtSecBLat, &form.CityBEast, &form.CityBWest,
+             &form.CityBNorth, &form.CityBSouth}) {
+        control->SetEnabled(enabled);
+    }
+}
+
+void OptionTwoCities_Click() {
+    EnableCityB(true);
+    EmptyBoxes();
 }
 
 void OptionDistanceToMecca_Click() {
@@ -188,6 +249,7 @@ void OptionDistanceToMecca_Click() {
     ShowCoordinate(coordinates[kLatitudeB], kMeccaLatitudeTexts);
     frmDistance->CityBEast.SetValue(true);
     frmDistance->CityBNorth.SetValue(true);
+    EnableCityB(false);
 }
 
 void NameNoCity() {
@@ -199,6 +261,8 @@ void NameNoCity() {
 void cmdDistanceClear_Click() {
     DistanceForm& form = *frmDistance;
     EmptyBoxes();
+    EnableCityB(true);
+    form.lblSummary.SetCaption("");
     form.txtDistanceRsult.SetText("");
     form.OptionDistanceToMecca.SetValue(false);
     form.OptionTwoCities.SetValue(true);
@@ -214,9 +278,22 @@ void PickCity(DistanceCity city) {
     });
 }
 
+/// The accepted city stands as the first one.
+void BeginHere() {
+    FillPickedCity(DistanceCity::kA, ActiveCityText,
+                   FormatLatitude(StoredCoord(ActiveLocation.City.Latitude), kEnglishTexts),
+                   FormatLongitude(StoredCoord(ActiveLocation.City.Longitude), kEnglishTexts));
+    frmDistance->optKilometers.SetValue(true);
+}
+
 void frmDistance_Load() {
     TranslateOnLoad(*frmDistance);
     frmDistance->metricsLabel.SetCaption("");  // until there is a distance
+    summaryPattern = frmDistance->lblSummary.Caption();
+    frmDistance->lblSummary.SetCaption("");
+    if (ReadOption(option::kDistanceFromHere) != 0) {
+        BeginHere();
+    }
 }
 
 void BindHemispheres() {
@@ -230,7 +307,7 @@ void BindHemispheres() {
 void Bind() {
     DistanceForm& form = *frmDistance;
     form.onLoad = frmDistance_Load;
-    form.OptionTwoCities.onClick = EmptyBoxes;
+    form.OptionTwoCities.onClick = OptionTwoCities_Click;
     form.OptionDistanceToMecca.onClick = OptionDistanceToMecca_Click;
     form.cmdCityA.onClick = [] { PickCity(DistanceCity::kA); };
     form.cmdCityB.onClick = [] { PickCity(DistanceCity::kB); };

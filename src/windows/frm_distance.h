@@ -75,6 +75,8 @@ public:
     CommandButton cmdDistanceClear{*this, "cmdDistanceClear", {.caption = "C&lear"}};
     TextBox txtDistanceRsult{*this, "txtDistanceRsult"};
     Label metricsLabel{*this, "metricsLabel"};
+    Label lblSummary{
+        *this, "lblSummary", {.caption = "{distance} {unit}, {bearing} clockwise from north"}};
 };
 
 inline const FormInstance<DistanceForm> frmDistance;

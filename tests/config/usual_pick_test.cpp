@@ -9,6 +9,7 @@
 #include "config/working_options.h"
 #include "engine/day_driver.h"
 #include "store/athan_options.h"
+#include "store/distance_options.h"
 #include "store/start_options.h"
 #include "store/stored_values.h"
 
@@ -81,6 +82,7 @@ TEST_F(UsualPickTest, FirstRunHasASecondStartBringTheFaceBack) {
     EXPECT_EQ(ReadOption(option::kShowRunning), 0) << "until it is accepted";
     Finish();
     EXPECT_EQ(ReadOption(option::kShowRunning), 1);
+    EXPECT_EQ(ReadOption(option::kDistanceFromHere), 1);
 }
 
 TEST_F(UsualPickTest, UntickedTheBoxOfAFirstRunChangesNothing) {

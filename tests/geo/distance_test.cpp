@@ -65,6 +65,14 @@ TEST_F(DistanceTest, OrderOfThePointsDoesNotMatter) {
     EXPECT_EQ(Between(30.0, 31.0, 21.0, 39.0), Between(21.0, 39.0, 30.0, 31.0));
 }
 
+TEST_F(DistanceTest, BearingTurnsClockwiseFromNorth) {
+    EXPECT_DOUBLE_EQ(BearingDegrees({0.0, 0.0, 1.0, 0.0}), 0.0);
+    EXPECT_NEAR(BearingDegrees({0.0, 0.0, 0.0, 1.0}), 90.0, 1e-9);
+    EXPECT_NEAR(BearingDegrees({0.0, 0.0, -1.0, 0.0}), 180.0, 1e-9);
+    EXPECT_NEAR(BearingDegrees({0.0, 0.0, 0.0, -1.0}), 270.0, 1e-9);
+    EXPECT_NEAR(BearingDegrees({43.65, -79.38, 21.4225, 39.8262}), 54.56, 0.05) << "Toronto";
+}
+
 TEST_F(DistanceTest, OppositePointsOnTheEquatorDivideByZero) {
     EXPECT_THROW(AndoyerKilometres(1.0, 0.0, 0.0, 0.0), DivisionByZeroFault);
 }

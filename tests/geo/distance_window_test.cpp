@@ -5,6 +5,8 @@
 #include "geo/city_picker.h"
 #include "geo/distance.h"
 #include "lang/language_pack.h"
+#include "store/distance_options.h"
+#include "store/location_record.h"
 #include "support/program_test.h"
 #include "windows/f_country.h"
 #include "windows/frm_distance.h"
@@ -91,6 +93,37 @@ TEST_F(DistanceWindowTest, DegreeOnTheEquator) {
     EXPECT_NEAR(Result(), 111.3, 0.05);
     EXPECT_EQ(form.metricsLabel.Caption(), "Kilometers");
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
+}
+
+TEST_F(DistanceWindowTest, SaysDistanceAndDirectionInOneLine) {
+    EXPECT_EQ(form.lblSummary.Caption(), "");
+    FillIn();
+    form.cmdCalcDistance.UserClick();
+    EXPECT_EQ(form.lblSummary.Caption(), "111 Kilometers, 90\u00b000\u2032 clockwise from north");
+    form.cmdDistanceClear.UserClick();
+    EXPECT_EQ(form.lblSummary.Caption(), "");
+}
+
+TEST_F(DistanceWindowTest, BeginsWithTheAcceptedCityWhereAnOptionAsksForIt) {
+    form.Unload();
+    SaveOption(option::kDistanceFromHere, 1);
+    ShowDistance();
+    EXPECT_EQ(form.lblCityA.Caption(), ActiveCityText);
+    EXPECT_EQ(form.txtDegALat.Text(), "21");
+    EXPECT_TRUE(form.CityANorth.Value());
+    EXPECT_TRUE(form.optKilometers.Value());
+    EXPECT_EQ(form.txtDegBLat.Text(), "");
+}
+
+TEST_F(DistanceWindowTest, CityBCannotBeChangedWhereItIsMecca) {
+    form.OptionDistanceToMecca.UserClick();
+    EXPECT_FALSE(form.cmdCityB.Enabled());
+    EXPECT_FALSE(form.txtDegBLong.Enabled());
+    form.OptionTwoCities.UserClick();
+    EXPECT_TRUE(form.cmdCityB.Enabled());
+    form.OptionDistanceToMecca.UserClick();
+    form.cmdDistanceClear.UserClick();
+    EXPECT_TRUE(form.txtDegBLong.Enabled());
 }
 
 TEST_F(DistanceWindowTest, EqualPointsAreNothingApart) {

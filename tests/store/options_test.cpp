@@ -4,6 +4,7 @@
 #include <set>
 
 #include "base/fault.h"
+#include "store/distance_options.h"
 #include "store/face_options.h"
 #include "store/register.h"
 #include "store/start_options.h"
@@ -32,7 +33,7 @@ std::vector<WholeOption> WholeOptions() {
         option::kAutomaticZone,   option::kIshaInterval,   option::kIshaIntervalRamadan,
         option::kHijriAdjustment, option::kSunOfTheDay,    option::kAlarm,
         option::kFaceSmall,       option::kFaceFullScreen, option::kFaceAbove,
-        option::kShowRunning,     option::kOwnDigits};
+        option::kShowRunning,     option::kOwnDigits,      option::kDistanceFromHere};
     options.insert(options.end(), option::kOffsets.begin(), option::kOffsets.end());
     return options;
 }
