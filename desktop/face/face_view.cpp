@@ -355,8 +355,8 @@ void FaceView::mouseMoveEvent(QMouseEvent* event) {
     }
 }
 
-void FaceView::mouseReleaseEvent(QMouseEvent*) {
-    if (std::exchange(pressedAt_, std::nullopt)) {
+void FaceView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && std::exchange(pressedAt_, std::nullopt)) {
         Tell("IDC_FS_place");
     }
 }

@@ -11,14 +11,22 @@ namespace horavex {
 
 namespace {
 
+/// In ASCII digits, whatever the locale's own are.
+QString WithPlainDigits(const QString& text) {
+    QString plain;
+    for (const uint letter : text.toUcs4()) {
+        const bool isDigit = QChar::category(letter) == QChar::Number_DecimalDigit;
+        const uint shown = isDigit ? u'0' + static_cast<uint>(QChar::digitValue(letter)) : letter;
+        plain += QString::fromUcs4(reinterpret_cast<const char32_t*>(&shown), 1);
+    }
+    return plain;
+}
+
 /// The program works in plain digits and blanks; users may see others (lang/own_digits.h).
 std::string Plain(QString text) {
-    for (QChar& letter : text) {
-        letter = letter.isDigit() ? QChar(u'0' + letter.digitValue()) : letter;
-    }
     text.replace(QChar(0x202F), QChar(u' '));  // the narrow no-break space
     text.replace(QChar(QChar::Nbsp), QChar(u' '));
-    return text.toStdString();
+    return WithPlainDigits(text).toStdString();
 }
 
 QTime TimeOf(Date moment) {
@@ -35,9 +43,14 @@ QDate DayOf(Date moment) {
 
 }  // namespace
 
+QtFormats::QtFormats(QLocale locale)
+    : locale_(std::move(locale)),
+      mediumTime_(MediumTimePattern(locale_.timeFormat(QLocale::ShortFormat))),
+      longTime_(LongTimePattern(locale_.timeFormat(QLocale::LongFormat))),
+      shortDate_(ShortDatePattern(locale_.dateFormat(QLocale::ShortFormat))) {}
+
 std::string QtFormats::MediumTime(Date time) const {
-    const QString pattern = MediumTimePattern(locale_.timeFormat(QLocale::ShortFormat));
-    return Plain(locale_.toString(TimeOf(time), pattern));
+    return Plain(locale_.toString(TimeOf(time), mediumTime_));
 }
 
 std::string QtFormats::TwelveHourTime(Date time) const {
@@ -45,8 +58,7 @@ std::string QtFormats::TwelveHourTime(Date time) const {
 }
 
 std::string QtFormats::LongTime(Date time) const {
-    const QString pattern = LongTimePattern(locale_.timeFormat(QLocale::LongFormat));
-    return Plain(locale_.toString(TimeOf(time), pattern));
+    return Plain(locale_.toString(TimeOf(time), longTime_));
 }
 
 std::string QtFormats::LongDate(Date date) const {
@@ -54,8 +66,7 @@ std::string QtFormats::LongDate(Date date) const {
 }
 
 std::string QtFormats::ShortDate(Date date) const {
-    const QString pattern = ShortDatePattern(locale_.dateFormat(QLocale::ShortFormat));
-    return Plain(locale_.toString(DayOf(date), pattern));
+    return Plain(locale_.toString(DayOf(date), shortDate_));
 }
 
 std::string QtFormats::WeekdayName(Date date) const {

@@ -17,11 +17,13 @@ namespace {
 constexpr char32_t kPlainZero = U'0';
 constexpr char32_t kArabicZero = U'\u0660';
 constexpr char32_t kBase = 10;
+constexpr char32_t kUrduZero = U'\u06f0';
 constexpr char32_t kLeftToRightMark = U'\u200e';
+constexpr char32_t kArabicDecimalMark = U'\u066b';
 
 /// Sets that a text may come with whatever is shown, a time in the form of the user's locale for
 /// one: plain, Arabic, Persian and Urdu, Bengali.
-constexpr std::array<char32_t, 4> kKnownZeros = {kPlainZero, kArabicZero, U'\u06f0', U'\u09e6'};
+constexpr std::array<char32_t, 4> kKnownZeros = {kPlainZero, kArabicZero, kUrduZero, U'\u09e6'};
 
 bool ownDigitsAreWanted = false;
 char32_t shownZero = kPlainZero;
@@ -60,31 +62,69 @@ bool EndsLine(char32_t letter) {
     return letter == U'\n' || letter == U'\r';
 }
 
-/// A slash with something behind it, or an address.
+/// A word without the brackets and quotation marks before it.
+std::u32string_view Unwrapped(std::u32string_view word) {
+    const std::size_t begin =
+        word.find_first_not_of(U"([{<\"'\u00ab\u2018\u201c\u2066\u2067\u2068");
+    return begin == word.npos ? word : word.substr(begin);
+}
+
+/// A slash with something behind it, the home folder, or an address.
 bool BeginsPath(std::u32string_view word) {
     const bool beginsWithSlash = word.starts_with(U'/') || word.starts_with(U'\\');
-    return (beginsWithSlash && word.size() > 1) || word.find(U"://") != word.npos;
+    return (beginsWithSlash && word.size() > 1) || word.starts_with(U"~/") ||
+           word.find(U"://") != word.npos;
 }
 
 using Letters = std::u32string::iterator;
 
-/// "A4", "UTF-8", and what ends like a file: "2026.pdf". A unit may follow its number: "11min".
+/// "A4", "UTC+2", and what ends like a file: "2026.pdf". A unit may follow its number: "11min".
 bool IsName(std::u32string_view word) {
     const std::size_t point = word.find(U'.');
     return IsLatin(word.front()) ||
            (point != word.npos && point + 1 < word.size() && IsLatin(word[point + 1]));
 }
 
-void TurnWord(Letters begin, Letters end, char32_t zero) {
-    if (!IsName({begin, end})) {
-        std::transform(begin, end, begin, [zero](char32_t letter) { return InSet(letter, zero); });
+bool IsDigit(char32_t letter) {
+    return ValueIn(InSet(letter, kPlainZero), kPlainZero).has_value();
+}
+
+bool IsDecimalMark(char32_t letter) {
+    return letter == U'.' || letter == kArabicDecimalMark;
+}
+
+char32_t DecimalMarkOf(char32_t zero) {
+    return zero == kArabicZero || zero == kUrduZero ? kArabicDecimalMark : U'.';
+}
+
+/// The mark of a number that has just one, among whole hours and minutes at most: dates and times
+/// of day keep their points. The end where there is none.
+Letters DecimalMarkIn(Letters begin, Letters end) {
+    const auto isWhole = [](char32_t letter) { return IsDigit(letter) || letter == U':'; };
+    const Letters first = std::find_if(begin, end, IsDigit);
+    const Letters mark = std::find_if_not(first, end, isWhole);
+    if (mark == end || !IsDecimalMark(*mark)) {
+        return end;
     }
+    const Letters behind = std::find_if_not(mark + 1, end, IsDigit);
+    const bool endsNumber = behind != mark + 1 && std::none_of(behind, end, IsDigit);
+    return endsNumber ? mark : end;
+}
+
+void TurnWord(Letters begin, Letters end, char32_t zero) {
+    if (IsName(Unwrapped({begin, end}))) {
+        return;
+    }
+    if (const Letters mark = DecimalMarkIn(begin, end); mark != end) {
+        *mark = DecimalMarkOf(zero);
+    }
+    std::transform(begin, end, begin, [zero](char32_t letter) { return InSet(letter, zero); });
 }
 
 void TurnLine(Letters begin, Letters end, char32_t zero) {
     for (Letters word = std::find_if_not(begin, end, IsBlank); word != end;) {
         const Letters behind = std::find_if(word, end, IsBlank);
-        if (BeginsPath({word, behind})) {
+        if (BeginsPath(Unwrapped({word, behind}))) {
             return;
         }
         TurnWord(word, behind, zero);
@@ -188,7 +228,12 @@ std::string InShownDigits(const std::string& text) {
 }
 
 std::string InPlainDigits(const std::string& typed) {
-    return shownZero == kPlainZero ? typed : WithDigits(typed, kPlainZero);
+    if (shownZero == kPlainZero) {
+        return typed;
+    }
+    auto letters = DecodeUtf8(typed).value_or(U"");
+    std::erase(letters, kLeftToRightMark);
+    return IsUtf8(typed) ? Utf8Of(Turned(std::move(letters), kPlainZero)) : typed;
 }
 
 }  // namespace horavex

@@ -10,9 +10,9 @@ namespace horavex {
 // front end.
 
 /// A text with the digits of all its numbers from a set, which its zero tells: U'٠' for the Arabic
-/// one. Names keep theirs ("A4", "UTF-8", "2026.pdf"), and so does what
-/// begins like a path or holds an address, to the end of its line. A text that is no UTF-8 stays
-/// as it is.
+/// one. Arabic, Persian and Urdu digits have a decimal mark of their own. Names keep theirs ("A4",
+/// "UTC+2", "2026.pdf"), in brackets and quotation marks too, and so does what begins like a path
+/// or holds an address, to the end of its line. A text that is no UTF-8 stays as it is.
 std::string WithDigits(const std::string& text, char32_t zero);
 
 /// The zero of the current pack's digits; U'0' for a pack that names no other ones.
@@ -34,7 +34,7 @@ void InstallDigitsFollower(std::function<void()> follower);
 std::string InShownDigits(const std::string& text);
 
 /// A text that a user has typed, as the program reads it: with plain digits where own ones are
-/// shown, whichever were typed.
+/// shown, whichever were typed, and without the marks that kept the order of what was copied.
 std::string InPlainDigits(const std::string& typed);
 
 }  // namespace horavex

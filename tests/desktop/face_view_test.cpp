@@ -413,6 +413,8 @@ TEST_F(FaceTest, ClickOnThePlaceAsksForItOnTheRelease) {
     Mouse(QEvent::MouseButtonPress, place);
     EXPECT_TRUE(commands.empty());
     Mouse(QEvent::MouseMove, place + QPoint(2, 1));
+    Mouse(QEvent::MouseButtonRelease, place + QPoint(2, 1), Qt::RightButton);
+    EXPECT_TRUE(commands.empty());
     Mouse(QEvent::MouseButtonRelease, place + QPoint(2, 1));
     EXPECT_EQ(commands, std::vector<std::string>{"IDC_FS_place"});
     Click(place, Qt::RightButton);

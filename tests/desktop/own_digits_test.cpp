@@ -93,7 +93,7 @@ TEST_F(OwnDigitsInWindows, EitherDigitsAreTypedAndReadAndStayAsTypedUntilTheLine
     EXPECT_EQ(line.cursorPosition(), 2);
     Find<QPushButton>("button").setFocus();
     Settle();
-    EXPECT_EQ(line.text(), "١٥٢.٣");
+    EXPECT_EQ(line.text(), "١٥٢٫٣");
     EXPECT_EQ(form.text.Text(), "152.3");
 }
 

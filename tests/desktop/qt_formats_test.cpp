@@ -1,5 +1,6 @@
 #include "desktop/ports/qt_formats.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -62,6 +63,13 @@ TEST(QtFormats, OtherLocalesHaveTheirOwnForms) {
 TEST(QtFormats, TwelveHourTimeKeepsTheDialWhereTheLocaleCountsToTwentyFour) {
     EXPECT_EQ(In("de_DE").TwelveHourTime(kLate), "05:05 PM");
     EXPECT_EQ(In("ar_EG").TwelveHourTime(kEarly), "05:31 ص");
+}
+
+TEST(QtFormats, DigitsArePlainWhateverTheLocalesOwn) {
+    for (const char* locale : {"ar_EG", "fa_IR", "bn_BD", "my_MM", "ff_Adlm_GN"}) {
+        EXPECT_THAT(In(locale).LongTime(kLate), testing::HasSubstr("05:00")) << locale;
+        EXPECT_THAT(In(locale).ShortDate(kDay), testing::HasSubstr("2026")) << locale;
+    }
 }
 
 TEST(QtFormats, MonthAndYearStandAlone) {

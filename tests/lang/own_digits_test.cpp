@@ -37,6 +37,25 @@ TEST(WithDigits, MakesOneSetOfSeveral) {
 TEST(WithDigits, LeavesNamesAlone) {
     EXPECT_EQ(WithDigits("في A4, 2026.pdf, v4.1 و 12", kArabic), "في A4, 2026.pdf, v4.1 و ١٢");
     EXPECT_EQ(WithDigits("1hrs 11min", kBengali), "১hrs ১১min") << "units are no names";
+    EXPECT_EQ(WithDigits("UTC+2 (UTC+02:00) و 2", kArabic), "UTC+2 (UTC+02:00) و ٢");
+}
+
+TEST(WithDigits, KnowsNamesAndPathsInBracketsAndQuotationMarks) {
+    EXPECT_EQ(WithDigits("(A4) «2026.pdf» [v4.1] (12) \"7\"", kUrdu),
+              "(A4) «2026.pdf» [v4.1] (۱۲) \"۷\"");
+    EXPECT_EQ(WithDigits("2 (/home/u/2026 3", kUrdu), "۲ (/home/u/2026 3");
+    EXPECT_EQ(WithDigits("2 \"~/2026 3\"", kUrdu), "۲ \"~/2026 3\"");
+    EXPECT_EQ(WithDigits("2 ~/2026 3\n~5", kUrdu), "۲ ~/2026 3\n~۵");
+}
+
+TEST(WithDigits, NumberHasTheDecimalMarkOfItsDigits) {
+    EXPECT_EQ(WithDigits("18.5° -0.25، 3.", kArabic), "١٨٫٥° -٠٫٢٥، ٣.");
+    EXPECT_EQ(WithDigits("5:12:3.25", kArabic), "٥:١٢:٣٫٢٥");
+    EXPECT_EQ(WithDigits("(18.5)", kUrdu), "(۱۸٫۵)");
+    EXPECT_EQ(WithDigits("۱۸٫۵ 18.5", kBengali), "১৮.৫ ১৮.৫");
+    EXPECT_EQ(WithDigits("١٨٫٥ ۱۸٫۵", U'0'), "18.5 18.5");
+    EXPECT_EQ(WithDigits("21.11.2026 5.30:10 .5", kArabic), "٢١.١١.٢٠٢٦ ٥.٣٠:١٠ .٥")
+        << "dates and times";
 }
 
 TEST(WithDigits, ArabicNumbersKeepTheirOrderInALineThatRunsFromTheLeft) {
@@ -102,6 +121,14 @@ TEST_F(OwnDigitsTest, WhatIsTypedInThemIsReadInPlainOnes) {
     EXPECT_EQ(InPlainDigits("٣.٥"), "3.5");
     EXPECT_EQ(InPlainDigits("3.5"), "3.5");
     EXPECT_EQ(InPlainDigits("۳"), "3");
+    EXPECT_EQ(InPlainDigits("٣٫٥"), "3.5");
+    EXPECT_EQ(InPlainDigits("12 \xC1"), "12 \xC1");
+}
+
+TEST_F(OwnDigitsTest, WhatIsCopiedBackIsReadWithoutTheMarksThatKeptItsOrder) {
+    currentLanguage = "Arabic";
+    ShowOwnDigits(true);
+    EXPECT_EQ(InPlainDigits(InShownDigits("April 4, 2026")), "April 4, 2026");
 }
 
 TEST_F(OwnDigitsTest, OpenWindowsShowTheirTextsAnewWithEveryChange) {
