@@ -6,6 +6,7 @@
 #include "desktop/end_signals.h"
 #include "desktop/look/desktop_wishes.h"
 #include "desktop/printing/document_desk.h"
+#include "desktop/spare_memory.h"
 #include "linux/sound/sound_import.h"
 #include "platform/fault_box.h"
 #include "shell/wiring.h"
@@ -36,5 +37,6 @@ int main(int argc, char** argv) {
     horavex::InstallDesktopDocuments();
     horavex::InstallSoundTools({horavex::KindOfSoundFile, horavex::FlacOf});
     horavex::BindWindows();
+    horavex::ReturnMemorySoon();
     return Start() ? horavex::Application::exec() : EXIT_FAILURE;
 }

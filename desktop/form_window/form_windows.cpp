@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/spare_memory.h"
 #include "lang/own_digits.h"
 
 namespace horavex {
@@ -34,6 +35,7 @@ void FormWindows::Loaded(Form& form) {
 
 void FormWindows::Unloaded(Form& form) {
     windows_.erase(&form);
+    ReturnMemorySoon();
 }
 
 void FormWindows::BroughtUp(Form& form) {

@@ -2,15 +2,17 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDateTime>
 #include <utility>
 
 #include "desktop/ports/display.h"
+#include "forms/timer_delay.h"
 
 namespace horavex {
 
 namespace {
 
-constexpr int kLookEveryMs = 2000;  // a panel starts anew within one look
+constexpr int kLookEverySeconds = 2;  // a panel starts anew within one look
 
 bool HasStatusNotifier() {
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -33,7 +35,8 @@ bool HasXEmbedHost() {
 }  // namespace
 
 NotificationArea::NotificationArea() {
-    looking_.setInterval(kLookEveryMs);
+    looking_.setSingleShot(true);
+    looking_.setTimerType(Qt::PreciseTimer);
     looking_.callOnTimeout([this] { Look(); });
 }
 
@@ -46,11 +49,11 @@ AreaKind NotificationArea::Present() const {
 
 void NotificationArea::Watch(std::function<void(AreaKind)> onChange) {
     onChange_ = std::move(onChange);
-    looking_.start();
     Look();
 }
 
 void NotificationArea::Look() {
+    looking_.start(DelayToTurn(kLookEverySeconds, QDateTime::currentMSecsSinceEpoch()));
     const AreaKind kind = Present();
     looksWithout_ = kind == AreaKind::kNone ? looksWithout_ + 1 : 0;
     if (kind != told_ && looksWithout_ != 1) {

@@ -16,5 +16,13 @@ TEST(DelayToTick, EveryOtherTimerWaitsForItsInterval) {
     EXPECT_EQ(DelayToTick(40, 1'700'000'000'999), 40);
 }
 
+TEST(DelayToTurn, EndsAtTheTurnOfASecond) {
+    EXPECT_EQ(DelayToTurn(2, 1'700'000'000'000), 2000);
+    EXPECT_EQ(DelayToTurn(2, 1'700'000'000'250), 1750);
+    EXPECT_EQ(DelayToTurn(2, 1'700'000'000'499), 1501);
+    EXPECT_EQ(DelayToTurn(2, 1'700'000'000'500), 2500);
+    EXPECT_EQ(DelayToTurn(2, 1'700'000'000'999), 2001) << "early by a millisecond";
+}
+
 }  // namespace
 }  // namespace horavex
