@@ -128,7 +128,8 @@ private:
         object_->registerMethod(name).onInterface(kBusInterface).implementedAs([this, request] {
             if (!(owner_.*request)) {
                 throw sdbus::Error("org.freedesktop.DBus.Error.NotSupported",
-                                   "it runs without a face");
+                                   owner_.onShow ? "it runs in a terminal, which it cannot hide"
+                                                 : "it runs without a face");
             }
             owner_.post_([owner = &owner_, request] { (owner->*request)(); });
         });

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "athan/athan_state.h"
+#include "base/int16.h"
 #include "lang/language_pack.h"
 #include "terminal/screen/glyphs.h"
 
@@ -10,16 +12,14 @@ namespace horavex {
 AthanSheet::AthanSheet(Form& form, Host& host, TerminalFace& face)
     : FormSheet(form, host), face_(face) {}
 
-// The program ends the athan by moving its window off the screen.
+// The program may show the window before any athan, and moves it off the screen behind one.
 bool AthanSheet::IsUp() const {
-    return Shown().Visible() && Shown().Top() >= 0.0;
+    return Shown().Visible() && athanActive != kFalse;
 }
 
 void AthanSheet::FormChanged() {
     Desk& desk = Around().desk;
-    if (IsUp() != desk.Holds(*this)) {
-        IsUp() ? desk.BringUp(shared_from_this()) : desk.TakeAway(*this);
-    }
+    IsUp() ? desk.BringUp(shared_from_this()) : desk.TakeAway(*this);
 }
 
 void AthanSheet::Draw(Cells& screen) {

@@ -15,6 +15,7 @@ public:
     void Press(const KeyPress& key) override;
     void FormChanged() override;
     bool IsModal() const override { return false; }
+    bool StaysInFront() const override { return true; }
 
 private:
     bool IsUp() const;

@@ -1,6 +1,7 @@
 #include "terminal/screen/desk.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace horavex {
@@ -31,7 +32,8 @@ void Desk::SetSize(int rows, int columns) {
 
 void Desk::BringUp(const std::shared_ptr<Sheet>& sheet) {
     std::erase(sheets_, sheet);
-    sheets_.push_back(sheet);
+    sheets_.insert(sheet->StaysInFront() ? sheets_.end() : sheets_.begin() + CountOfOthers(),
+                   sheet);
     Invalidate();
 }
 
@@ -40,9 +42,14 @@ void Desk::TakeAway(const Sheet& sheet) {
     Invalidate();
 }
 
-bool Desk::Holds(const Sheet& sheet) const {
-    return std::any_of(sheets_.begin(), sheets_.end(),
-                       [&](const auto& held) { return held.get() == &sheet; });
+const Sheet* Desk::Front() const {
+    const std::ptrdiff_t count = CountOfOthers();
+    return count == 0 ? nullptr : sheets_[static_cast<std::size_t>(count) - 1].get();
+}
+
+std::ptrdiff_t Desk::CountOfOthers() const {
+    return std::count_if(sheets_.begin(), sheets_.end(),
+                         [](const auto& sheet) { return !sheet->StaysInFront(); });
 }
 
 bool Desk::IsTooSmall() const {
@@ -99,10 +106,13 @@ void Desk::PressBelow(const Sheet& sheet, const KeyPress& key) {
 
 // What lies in front goes to the back of those that users may turn to.
 void Desk::TurnToNext() {
-    const auto modal = std::find_if(sheets_.rbegin(), sheets_.rend(),
+    const auto end = sheets_.begin() + CountOfOthers();
+    const auto modal = std::find_if(std::make_reverse_iterator(end), sheets_.rend(),
                                     [](const auto& sheet) { return sheet->IsModal(); });
     const auto first = modal == sheets_.rend() ? sheets_.begin() : modal.base() - 1;
-    std::rotate(first, sheets_.end() - 1, sheets_.end());
+    if (first != end) {
+        std::rotate(first, end - 1, end);
+    }
 }
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -8,7 +9,8 @@
 
 namespace horavex {
 
-/// All sheets on the screen, the last one in front. Keys go to that one. Drawing is put off until
+/// All sheets on the screen, the last one in front. Keys go to that one. Those that stay in front
+/// lie behind all others in the list. Drawing is put off until
 /// what is going on has ended, and done once for all that has changed.
 class Desk {
 public:
@@ -29,11 +31,10 @@ public:
 
     void BringUp(const std::shared_ptr<Sheet>& sheet);
     void TakeAway(const Sheet& sheet);
-    bool Holds(const Sheet& sheet) const;
     bool IsEmpty() const { return sheets_.empty(); }
 
-    /// The sheet that gets the keys; nullptr for none.
-    const Sheet* Front() const { return sheets_.empty() ? nullptr : sheets_.back().get(); }
+    /// The sheet in front, but for those that stay there; nullptr for none.
+    const Sheet* Front() const;
 
     /// Something has changed.
     void Invalidate();
@@ -53,6 +54,9 @@ private:
     /// There is no room to show any sheet.
     bool IsTooSmall() const;
     void TurnToNext();
+
+    /// How many there are but for those that stay in front.
+    std::ptrdiff_t CountOfOthers() const;
 
     Show show_;
     Later later_;

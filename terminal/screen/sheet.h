@@ -18,6 +18,9 @@ public:
 
     /// Whether those below it get no keys.
     virtual bool IsModal() const { return false; }
+
+    /// Whether it stays before all that comes later, and hands on what keys it has no use for.
+    virtual bool StaysInFront() const { return false; }
 };
 
 }  // namespace horavex

@@ -24,6 +24,7 @@
 #include "terminal/ports/terminal_shell.h"
 #include "terminal/ports/terminal_windows.h"
 #include "terminal/screen/curses_screen.h"
+#include "terminal/session/terminal_broadcast.h"
 #include "terminal/session/typed_keys.h"
 #include "terminal/terminal_platform.h"
 #include "timetables/document_tools.h"
@@ -127,6 +128,7 @@ private:
     PollEventLoop loop_{[this] {
         notices_.Leave();
         screen_.Leave();
+        std::cerr << broadcast_.LastWords();
     }};
     FormTimers timers_{loop_};
     Desk desk_;
@@ -144,7 +146,7 @@ private:
     TerminalWindows windows_{sheets_, desk_};
     AbsentTray tray_;
     TerminalNotices notices_{loop_};
-    SessionBroadcast broadcast_{
+    TerminalBroadcast broadcast_{
         [this](PollEventLoop::Action action) { loop_.Post(std::move(action)); }};
     TerminalPlatform platform_{
         loop_, {dialogs_, face_, windows_, tray_, shell_, athanFace_, notices_, broadcast_}};
@@ -161,6 +163,7 @@ int RunTerminalProgram() {
     const auto sayNoPrinter = [](const PrintedYear&, int) { SayNoPrinter(); };
     InstallDocumentTools({.previewMonth = sayNoPrinter, .printMonth = sayNoPrinter});
     BindWindows();
+    Ports().broadcast.onHide = nullptr;
     if (!session.Start()) {
         return EXIT_FAILURE;
     }

@@ -4,12 +4,14 @@
 
 #include <clocale>
 
+#include "athan/azan_window.h"
 #include "engine/day_view.h"
 #include "support/program_copy.h"
 #include "support/program_test.h"
 #include "terminal/desk_screen.h"
 #include "terminal/face/athan_sheet.h"
 #include "terminal/face/big_digits.h"
+#include "terminal/sheets/message_sheet.h"
 #include "windows/frm_azan.h"
 
 namespace horavex {
@@ -47,6 +49,11 @@ struct FaceSheetTest : testing::Test {
             return std::make_shared<FaceSheet>(form, host, face);
         }
         return &form == &*frmAzan ? std::make_shared<AthanSheet>(form, host, athanFace) : nullptr;
+    }
+
+    static void Athan() {
+        frmAzan->Load();
+        ShowMe();
     }
 
     TestPlatform platform;
@@ -116,12 +123,11 @@ TEST_F(FaceSheetTest, MenusOpenBelowTheirTitles) {
 
 TEST_F(FaceSheetTest, AthanWindowTakesItsStopAndNoOtherKey) {
     Start();
-    frmAzan->Load();
+    Athan();
     athanFace.SetVariable("_root.character_textField", "It is time for Asr");
     athanFace.onFSCommand = [this](const std::string& command, const std::string&) {
         commands.push_back(command);
     };
-    frmAzan->Show();
     EXPECT_THAT(screen.Text(), HasSubstr("It is time for Asr"));
     EXPECT_THAT(screen.Text(), HasSubstr("[ ■ Stop ]"));
     screen.Type("h");
@@ -130,14 +136,32 @@ TEST_F(FaceSheetTest, AthanWindowTakesItsStopAndNoOtherKey) {
     EXPECT_EQ(commands.back(), "IDC_FS_Stop");
 }
 
-TEST_F(FaceSheetTest, AthanWindowOffTheScreenIsGone) {
+TEST_F(FaceSheetTest, AthanWindowIsThereAsLongAsTheAthanIs) {
     Start();
     frmAzan->Load();
     frmAzan->Show();
-    frmAzan->SetTop(-5000.0);
-    EXPECT_THAT(screen.Text(), Not(HasSubstr("■")));
-    frmAzan->SetTop(5000.0);
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("■"))) << "before any";
+    ShowMe();
+    frmAzan->Timer1.Tick();
     EXPECT_THAT(screen.Text(), HasSubstr("■"));
+    StopAthan();
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("■")));
+    ShowMe();
+    EXPECT_THAT(screen.Text(), HasSubstr("■"));
+}
+
+TEST_F(FaceSheetTest, AthanWindowStaysInFrontOfWhatOpens) {
+    Start();
+    Athan();
+    const auto box =
+        std::make_shared<MessageSheet>("", std::string(3000, 'x'), std::vector<std::string>{"&OK"});
+    screen.desk.BringUp(box);
+    EXPECT_THAT(screen.Text(), HasSubstr("[ ■ Stop ]"));
+    EXPECT_EQ(screen.desk.Front(), box.get());
+    screen.Press(KeyCode::kF6);
+    EXPECT_THAT(screen.Text(), HasSubstr("[ ■ Stop ]"));
+    screen.Type(" ");
+    EXPECT_TRUE(box->HasEnded()) << "other keys go to what has opened";
 }
 
 TEST(BigDigits, CountdownInHoursMinutesAndSeconds) {
