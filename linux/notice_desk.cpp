@@ -66,6 +66,25 @@ NoticeCall CallFor(NoticeKind kind, const Notice& notice, std::uint32_t replaced
 
 }  // namespace
 
+void NoticeDesk::HearRunning(bool isRunning) {
+    isRunning_ = isRunning;
+    SettleWhereServed();
+}
+
+void NoticeDesk::HearStartable(bool isStartable) {
+    isStartable_ = isStartable;
+    SettleWhereServed();
+}
+
+void NoticeDesk::HearEnd() {
+    isStartable_ = false;
+    areAbilitiesAsked_ = false;
+    for (auto& [kind, place] : places_) {
+        place.isAwaited = false;
+    }
+    HearOwner(false);
+}
+
 // A service of a new owner shows nothing of ours, and has not failed yet.
 void NoticeDesk::HearOwner(bool isThere) {
     ++owners_;
@@ -75,9 +94,7 @@ void NoticeDesk::HearOwner(bool isThere) {
     for (auto& [kind, place] : places_) {
         Renew(place);
     }
-    if (HasService()) {
-        SettleAll();
-    }
+    SettleWhereServed();
 }
 
 // What goes by itself has had its time.
@@ -135,6 +152,12 @@ void NoticeDesk::Settle(NoticeKind kind) {
 void NoticeDesk::SettleAll() {
     for (const auto& [kind, place] : places_) {
         Settle(kind);
+    }
+}
+
+void NoticeDesk::SettleWhereServed() {
+    if (HasService()) {
+        SettleAll();
     }
 }
 

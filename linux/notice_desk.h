@@ -56,11 +56,14 @@ protected:
 
     // What the bus tells.
 
-    void HearRunning(bool isRunning) { isRunning_ = isRunning; }
-    void HearStartable(bool isStartable) { isStartable_ = isStartable; }
+    void HearRunning(bool isRunning);
+    void HearStartable(bool isStartable);
 
     /// The name has another owner, or none any more.
     void HearOwner(bool isThere);
+
+    /// The bus has ended: nothing that was asked for is answered any more.
+    void HearEnd();
 
     /// A button was pressed, of a notice that may be another program's.
     void HearPress(Number number, const std::string& key);
@@ -83,6 +86,7 @@ private:
     bool IsLate() const;
     void Settle(NoticeKind kind);
     void SettleAll();
+    void SettleWhereServed();
     void Send(NoticeKind kind);
     void Take(NoticeKind kind, std::optional<Number> number, int owners);
     void LearnAbilities();

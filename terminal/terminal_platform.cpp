@@ -33,6 +33,7 @@ TerminalPlatform::TerminalPlatform(PollEventLoop& loop, const TerminalParts& par
       registry_(FindRegistry(files_)),
       instanceLock_(InstanceLockPath()),
       audioPlayer_([&loop](PollEventLoop::Action event) { loop.Post(std::move(event)); }),
+      session_(loop),
       busReader_(loop, parts.broadcast),
       platform_{clock_,        loop,        files_,         folder_,         formats_,
                 parts.dialogs, registry_,   instanceLock_,  parts.face,      parts.windows,

@@ -16,6 +16,7 @@
 #include "terminal/ports/bus_reader.h"
 #include "terminal/ports/pack_formats.h"
 #include "terminal/ports/poll_event_loop.h"
+#include "terminal/ports/terminal_session_watch.h"
 
 namespace horavex {
 
@@ -53,7 +54,7 @@ private:
     ZoneDatabase zoneRules_;
     FixedWhereabouts whereabouts_;  // none
     AbsentMediaPlayers mediaPlayers_;
-    AbsentSession session_;
+    TerminalSessionWatch session_;
     ErfaAlmanac almanac_;
     BusReader busReader_;
     Platform platform_;

@@ -78,8 +78,10 @@ private:
             });
         service_->uponSignal("NotificationClosed")
             .onInterface(kService)
-            .call(
-                [this](Number number, std::uint32_t reason) { owner_.HearClose(number, reason); });
+            .call([this](Number number, std::uint32_t reason) {
+                owner_.post_(
+                    [owner = &owner_, number, reason] { owner->HearClose(number, reason); });
+            });
         service_->finishRegistration();
     }
 
@@ -118,6 +120,15 @@ private:
 
 BusNotices::BusNotices(Post post, std::function<Time()> now)
     : NoticeDesk(std::move(now)), post_(std::move(post)) {
+    LookForBus();
+}
+
+BusNotices::~BusNotices() = default;
+
+void BusNotices::LookForBus() {
+    HearEnd();
+    connection_.reset();
+    isLost_ = false;
     try {
         connection_ = std::make_unique<Connection>(*this);
     } catch (const sdbus::Error&) {
@@ -125,8 +136,6 @@ BusNotices::BusNotices(Post post, std::function<Time()> now)
     }
     Serve();  // what has come while the connection was made
 }
-
-BusNotices::~BusNotices() = default;
 
 int BusNotices::Descriptor() const {
     return connection_ && !isLost_ ? connection_->Descriptor() : -1;
@@ -157,8 +166,7 @@ void BusNotices::OnTheBus(const std::function<void(Connection&)>& step) {
         step(*connection_);
     } catch (const sdbus::Error&) {
         isLost_ = true;
-        HearRunning(false);
-        HearStartable(false);
+        HearEnd();
     }
 }
 

@@ -7,7 +7,7 @@
 namespace horavex {
 
 /// The notification service over a connection of its own to the session bus. Without a bus, or once
-/// that has ended, there is no service.
+/// that has ended, there is no service until another bus is found.
 class BusNotices : public NoticeDesk {
 public:
     /// Runs a function from the program's event loop, later.
@@ -19,8 +19,12 @@ public:
     /// What can be read from when the bus tells something; -1 without one.
     int Descriptor() const;
 
-    /// Takes what the bus has told. What the user did is posted.
+    /// Takes what the bus has told. What the user did, and what became of a notice, is posted.
     void Serve();
+
+    /// Looks for a bus again, from the event loop itself, where there is none; what is wanted goes
+    /// to the service on it.
+    void LookForBus();
 
 private:
     class Connection;

@@ -4,10 +4,22 @@
 
 namespace horavex {
 
-TerminalNotices::TerminalNotices(PollEventLoop& loop)
-    : BusNotices([&loop](PollEventLoop::Action event) { loop.Post(std::move(event)); }) {
+TerminalNotices::TerminalNotices(PollEventLoop& loop, std::chrono::milliseconds betweenLooks)
+    : BusNotices([&loop](PollEventLoop::Action event) { loop.Post(std::move(event)); }),
+      loop_(loop),
+      betweenLooks_(betweenLooks),
+      search_(loop, [this] {
+          LookForBus();
+          Follow();
+      }) {
+    Follow();
+}
+
+void TerminalNotices::Follow() {
     if (Descriptor() != -1) {
-        reader_.emplace(loop, Descriptor(), [this] { Hear(); });
+        reader_.emplace(loop_, Descriptor(), [this] { Hear(); });
+    } else {
+        search_.Set(betweenLooks_);
     }
 }
 
@@ -22,6 +34,7 @@ void TerminalNotices::Hear() {
     Serve();
     if (Descriptor() == -1) {
         reader_.reset();
+        search_.Set(betweenLooks_);
     }
 }
 

@@ -105,7 +105,7 @@ protected:
     }
 
     void MakeNotices() {
-        notices.emplace(loop);
+        notices.emplace(loop, std::chrono::milliseconds(1));
         notices->onAction = [this](NoticeKind kind, NoticeAction action) {
             actions.emplace_back(kind, action);
         };
@@ -188,6 +188,19 @@ TEST_F(BusNoticesTest, OneThatTheUserPutsAwayTellsSo) {
     EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kPrayer, NoticeAction::kDismiss)));
 }
 
+TEST_F(BusNoticesTest, PressCountsThatIsReadTogetherWithTheCloseBehindIt) {
+    desktop.emplace(loop);
+    MakeNotices();
+    notices->Show(NoticeKind::kAthan, kAthan);
+    ASSERT_TRUE(Until([&] { return desktop->shown.size() == 1; }));
+    notices->Show(NoticeKind::kAthan, kAthan);
+    ASSERT_TRUE(Until([&] { return desktop->shown.size() == 2; }));
+    desktop->Press(1, "open");
+    desktop->Dismiss(1);
+    EXPECT_TRUE(Until([&] { return desktop->shown.size() == 3; })) << "it is to stand";
+    EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kAthan, NoticeAction::kOpen)));
+}
+
 TEST_F(BusNoticesTest, ServiceThatComesLaterIsThereAndOneThatEndsIsNot) {
     MakeNotices();
     loop.Rest(0);
@@ -217,6 +230,35 @@ TEST_F(BusNoticesTest, BusThatEndsTakesTheServiceAlongAndWakesNobody) {
     EXPECT_TRUE(Until([&] { return notices->Descriptor() == -1; }));
     EXPECT_FALSE(notices->HasService());
     notices->Show(NoticeKind::kAthan, kAthan);
+}
+
+TEST_F(BusNoticesTest, BusThatComesLateIsFoundAndGetsWhatIsToStand) {
+    std::optional<ScopedVariable> nowhere;
+    nowhere.emplace("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    MakeNotices();
+    notices->Show(NoticeKind::kAthan, kAthan);
+    EXPECT_FALSE(notices->HasService());
+    nowhere.reset();
+    desktop.emplace(loop);
+    ASSERT_TRUE(Until([&] { return !desktop->shown.empty(); }));
+    EXPECT_EQ(desktop->shown[0].title, "Asr");
+}
+
+TEST_F(BusNoticesTest, WhatStoodOnABusThatHasEndedStandsOnTheNext) {
+    desktop.emplace(loop);
+    MakeNotices();
+    notices->Show(NoticeKind::kAthan, kAthan);
+    ASSERT_TRUE(Until([&] { return desktop->shown.size() == 1; }));
+    desktop.reset();
+    daemon.Signal(SIGTERM);
+    daemon.Wait();
+    ASSERT_TRUE(Until([&] { return notices->Descriptor() == -1; }));
+    const ChildProcess next({"dbus-daemon", "--nofork", "--print-address=1",
+                             "--config-file=" + WriteBusConfiguration(folder.Path())},
+                            {}, folder / "next", folder / "err");
+    WaitUntil("the next bus", [this] { return ContentOf(folder / "next").ends_with('\n'); });
+    desktop.emplace(loop);
+    EXPECT_TRUE(Until([&] { return desktop->shown.size() == 1; }));
 }
 
 }  // namespace

@@ -192,6 +192,7 @@ TEST_F(TerminalProgramTest, StopGivesTheTerminalBackForAWhile) {
     terminal.WaitFor("Next Athan: Asr");
     terminal.Signal(SIGTSTP);
     terminal.WaitUntil([&](const std::string&) { return !terminal.IsOnOtherScreen(); }, "the stop");
+    terminal.WaitForStop();  // what goes on before it has stopped would stop for ever
     terminal.Signal(SIGCONT);
     terminal.WaitUntil([&](const std::string&) { return terminal.IsOnOtherScreen(); },
                        "the return");

@@ -137,6 +137,14 @@ void VirtualTerminal::Signal(int signal) const {
     ::kill(process_, signal);
 }
 
+void VirtualTerminal::WaitForStop() const {
+    int status = 0;
+    ::waitpid(process_, &status, WUNTRACED);
+    if (!WIFSTOPPED(status)) {
+        throw std::runtime_error("the program has ended instead");
+    }
+}
+
 int VirtualTerminal::Wait() {
     while (ReadMore()) {
     }

@@ -39,6 +39,9 @@ public:
     void Resize(int rows, int columns);
     void Signal(int signal) const;
 
+    /// Waits until the program has been stopped, which comes behind all that it writes before.
+    void WaitForStop() const;
+
     /// Waits for the end and tells the exit status, as ProgramRun has it.
     int Wait();
 

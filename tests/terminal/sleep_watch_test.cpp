@@ -1,0 +1,99 @@
+// A computer's sleeps on a real bus, with a login manager of the test.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sdbus-c++/sdbus-c++.h>
+
+#include "e2e/harness/wait_until.h"
+#include "support/bus_configuration.h"
+#include "support/child_process.h"
+#include "support/scoped_variable.h"
+#include "support/temporary_folder.h"
+#include "support/test_platform.h"
+#include "terminal/ports/terminal_session_watch.h"
+
+namespace horavex {
+namespace {
+
+constexpr const char* kManagerInterface = "org.freedesktop.login1.Manager";
+
+/// Tells of sleeps.
+class LoginManager {
+public:
+    LoginManager()
+        : bus_(sdbus::createSystemBusConnection()),
+          object_(sdbus::createObject(*bus_, "/org/freedesktop/login1")) {
+        object_->registerSignal("PrepareForSleep")
+            .onInterface(kManagerInterface)
+            .withParameters<bool>("start");
+        object_->finishRegistration();
+        bus_->requestName("org.freedesktop.login1");
+    }
+
+    void Tell(bool isAhead) {
+        object_->emitSignal("PrepareForSleep")
+            .onInterface(kManagerInterface)
+            .withArguments(isAhead);
+    }
+
+private:
+    std::unique_ptr<sdbus::IConnection> bus_;
+    std::unique_ptr<sdbus::IObject> object_;
+};
+
+class SleepWatchTest : public testing::Test {
+protected:
+    SleepWatchTest() {
+        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
+    }
+
+    /// Runs the loop until something is so, within a limit.
+    bool Until(const std::function<bool()>& isSo) {
+        bool isLate = false;
+        PollEventLoop::Alarm limit(loop, [&] { isLate = true; });
+        limit.Set(std::chrono::seconds(20));
+        loop.RunWhile([&] { return !isSo() && !isLate; });
+        return isSo();
+    }
+
+    TestPlatform platform;
+    TemporaryFolder folder;
+    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
+                         "--config-file=" + WriteBusConfiguration(folder.Path())},
+                        {},
+                        folder / "out",
+                        folder / "err"};
+    const ScopedVariable address{"DBUS_SYSTEM_BUS_ADDRESS",
+                                 ("unix:path=" + folder / "bus").c_str()};
+    PollEventLoop loop;
+};
+
+TEST_F(SleepWatchTest, EndOfASleepIsToldAndNotItsBeginning) {
+    LoginManager manager;
+    TerminalSessionWatch watch(loop);
+    int resumed = 0;
+    watch.onResume = [&] { ++resumed; };
+    manager.Tell(true);
+    manager.Tell(false);
+    EXPECT_TRUE(Until([&] { return resumed > 0; }));
+    manager.Tell(true);
+    manager.Tell(false);
+    EXPECT_TRUE(Until([&] { return resumed > 1; }));
+    EXPECT_EQ(resumed, 2);
+}
+
+TEST_F(SleepWatchTest, BusThatEndsWakesNobody) {
+    TerminalSessionWatch watch(loop);
+    daemon.Signal(SIGTERM);
+    daemon.Wait();
+    EXPECT_TRUE(Until([&] { return watch.Descriptor() == -1; }));
+}
+
+TEST_F(SleepWatchTest, WithoutABusNothingFails) {
+    const ScopedVariable nowhere("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    const TerminalSessionWatch watch(loop);
+    EXPECT_EQ(watch.Descriptor(), -1);
+}
+
+}  // namespace
+}  // namespace horavex
