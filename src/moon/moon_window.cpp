@@ -49,6 +49,9 @@ constexpr TabText kTabs[] = {{"15", "New moon / First Quarter"},
                              {"17", "Moon Rise / Set"},
                              {"18", "Solar / Lunar Eclipses"}};
 
+constexpr int kRiseSetPage = 2;
+constexpr int kEclipsesPage = 3;
+
 void EmptyTexts() {
     MoonPhasesForm& form = *Moon_Phases;
     for (TextBox* text : {&form.Text1, &form.Text2, &form.Text3, &form.Text4, &form.Text5,
@@ -125,7 +128,7 @@ void CaptionTabs() {
 }
 
 // What lies on the tabs stands in the form page by page; these controls begin one each.
-void SSTab1_Click() {
+void ShowPage() {
     MoonPhasesForm& form = *Moon_Phases;
     const Control* const firsts[] = {&form.lblMonth1, &form.lblMonth2, &form.lblDay,
                                      &form.Cmdeclipse_sun};
@@ -156,10 +159,21 @@ void Cmdeclipse_moon_Click() {
     Moon_Phases->Text7.SetText(ListLunarEclipses(eclipses, PresentYear(), ZoneInBox()));
 }
 
+/// A page that is turned to has something to read: a press of its button is for another choice.
+void SSTab1_Click() {
+    ShowPage();
+    const int page = Moon_Phases->SSTab1.ListIndex();
+    if (page == kRiseSetPage) {
+        FillRiseSetPage();
+    } else if (page == kEclipsesPage && Moon_Phases->Text7.Text().empty()) {
+        Cmdeclipse_sun_Click();
+    }
+}
+
 void Moon_Phases_Load() {
     TranslateOnLoad(*Moon_Phases);
     CaptionTabs();
-    SSTab1_Click();
+    ShowPage();
     LoadRiseSetPage();
     DrawPhaseDiscs();
     RunStep(DrawTonightsMoon);  // a picture keeps no window away

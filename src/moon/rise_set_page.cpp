@@ -241,4 +241,11 @@ void LoadRiseSetPage() {
     FillNumbers(Moon_Phases->cboYear, kFirstYear, kLastYear);
 }
 
+void FillRiseSetPage() {
+    const bool isAnswered = !Moon_Phases->picDay.drawing.empty();
+    if (!isAnswered && Moon_Phases->optCurrentLocation.Value()) {
+        cmdCalculate_Click();
+    }
+}
+
 }  // namespace horavex

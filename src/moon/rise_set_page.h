@@ -10,4 +10,8 @@ void BindRiseSetPage();
 /// Shows the place and the zone of the settings window, and today.
 void LoadRiseSetPage();
 
+/// Tells rise and set of the day and the place on view where none was asked for yet. A place that
+/// is to be typed waits for its button.
+void FillRiseSetPage();
+
 }  // namespace horavex

@@ -156,6 +156,27 @@ TEST_F(MoonWindowTest, EachTabHasItsPage) {
                 ElementsAre("Cmdeclipse_sun", "Cmdeclipse_moon", "Cmdclear", "Text7"));
 }
 
+TEST_F(MoonWindowTest, PagesThatAreTurnedToHaveSomethingToRead) {
+    EXPECT_EQ(form.Text7.Text(), "") << "until it is on view";
+    form.SSTab1.UserSelect(2);
+    EXPECT_THAT(form.lblMoonRise.Caption(), testing::StartsWith("Moon Rise at:"));
+    form.SSTab1.UserSelect(3);
+    Eclipses eclipses;
+    EXPECT_EQ(form.Text7.Text(), ListSolarEclipses(eclipses, 2026, Zone()));
+}
+
+TEST_F(MoonWindowTest, PageOfRiseAndSetKeepsItsAnswer) {
+    form.SSTab1.UserSelect(2);
+    const std::string today = form.lblMoonRise.Caption();
+    form.cboYear.UserSelect(0);
+    form.cmdCalculate.UserClick();
+    const std::string other = form.lblMoonRise.Caption();
+    ASSERT_NE(other, today);
+    form.SSTab1.UserSelect(0);
+    form.SSTab1.UserSelect(2);
+    EXPECT_EQ(form.lblMoonRise.Caption(), other);
+}
+
 TEST_F(MoonWindowTest, EclipseButtonsListTheYearOfTheClockWhateverTheDateSays) {
     form.SSTab1.UserSelect(2);
     form.cboYear.UserSelect(0);
