@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyleOption>
@@ -14,6 +15,8 @@
 #include <QWindow>
 
 #include "base/fault.h"
+#include "desktop/user_text.h"
+#include "lang/language_pack.h"
 #include "linux/posix_files.h"
 
 namespace horavex {
@@ -24,6 +27,7 @@ constexpr int kWholeScreen = 1024;  // the unit of HelpPlace
 constexpr int kContentsWidth = 220;
 constexpr int kPageWidth = 520;
 constexpr int kPageMargin = 14;
+constexpr int kSearchWidth = 240;
 
 /// A modal window takes the viewer along, for nothing else would let users into it.
 QWindow* OwnerWindow(const QString& form) {
@@ -51,6 +55,11 @@ void NameButton(QToolButton& button, const std::string& text, QStyle::StandardPi
     option.initFrom(&button);
     button.setText(QString::fromStdString(text));
     button.setIcon(button.style()->standardIcon(arrow, &option, &button));
+}
+
+/// The word beside the search for a city, without its key.
+QString SearchWord() {
+    return UserText(GetLangString("fCountry", "lblSearch", "&Search")).remove(QChar(u'&'));
 }
 
 QImage NoPicture() {
@@ -96,6 +105,9 @@ HelpWindow::HelpWindow() {
     forward_.setObjectName(QStringLiteral("forward"));
     contents_.setObjectName(QStringLiteral("contents"));
     page_.setObjectName(QStringLiteral("page"));
+    search_.setObjectName(QStringLiteral("search"));
+    search_.setClearButtonEnabled(true);
+    search_.setFixedWidth(kSearchWidth);
     SetUpButton(back_);
     SetUpButton(forward_);
     back_.setShortcut(QKeySequence::Back);
@@ -108,6 +120,7 @@ HelpWindow::HelpWindow() {
     buttons->addWidget(&back_);
     buttons->addWidget(&forward_);
     buttons->addStretch();
+    buttons->addWidget(&search_);
     auto* parts = new QSplitter;
     parts->addWidget(&contents_);
     parts->addWidget(&page_);
@@ -122,6 +135,12 @@ HelpWindow::HelpWindow() {
     connect(&page_, &QTextBrowser::backwardAvailable, &back_, &QWidget::setEnabled);
     connect(&page_, &QTextBrowser::forwardAvailable, &forward_, &QWidget::setEnabled);
     connect(&page_, &QTextBrowser::historyChanged, this, [this] { FollowPage(); });
+    connect(&search_, &QLineEdit::returnPressed, this, [this] { FindNext(); });
+    auto* find = new QShortcut(QKeySequence::Find, this);
+    connect(find, &QShortcut::activated, this,
+            [this] { search_.setFocus(Qt::ShortcutFocusReason); });
+    auto* next = new QShortcut(QKeySequence::FindNext, this);
+    connect(next, &QShortcut::activated, this, [this] { FindNext(); });
     connect(&contents_, &QListWidget::currentRowChanged, this, [this](int row) { OpenRow(row); });
 }
 
@@ -144,6 +163,8 @@ void HelpWindow::Name(const HelpView& view) {
     setWindowTitle(QString::fromStdString(view.title));
     NameButton(back_, view.back, QStyle::SP_ArrowBack);
     NameButton(forward_, view.forward, QStyle::SP_ArrowForward);
+    search_.setPlaceholderText(SearchWord());
+    search_.setAccessibleName(SearchWord());
     contents_.setAccessibleName(QString::fromStdString(view.contents));
     page_.setAccessibleName(QString::fromStdString(view.title));
 }
@@ -182,6 +203,34 @@ void HelpWindow::FollowPage() {
             contents_.setCurrentRow(row);
         }
     }
+}
+
+bool HelpWindow::Holds(int row, const QString& text) {
+    const QUrl url = contents_.item(row)->data(Qt::UserRole).toUrl();
+    QTextDocument document;
+    document.setHtml(
+        QString::fromUtf8(page_.loadResource(QTextDocument::HtmlResource, url).toByteArray()));
+    return document.toPlainText().contains(text, Qt::CaseInsensitive);
+}
+
+/// From the place that is marked on, page by page and round the end; the text that stands nowhere
+/// is marked itself.
+void HelpWindow::FindNext() {
+    const QString text = search_.text().trimmed();
+    if (text.isEmpty() || page_.find(text)) {
+        return;
+    }
+    const int first = contents_.currentRow();
+    for (int step = 1; step <= contents_.count(); ++step) {
+        const int row = (first + step) % contents_.count();
+        if (Holds(row, text)) {
+            OpenRow(row);
+            page_.moveCursor(QTextCursor::Start);
+            page_.find(text);
+            return;
+        }
+    }
+    search_.selectAll();
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTextBrowser>
 #include <QToolButton>
@@ -19,7 +20,8 @@ protected:
     void changeEvent(QEvent* event) override;
 };
 
-/// The help viewer: the list of pages beside the page that is read, and the way back and forward.
+/// The help viewer: the list of pages beside the page that is read, the way back and forward, and a
+/// search through all pages.
 /// Closing hides it, and it keeps its place until the program ends.
 class HelpWindow : public QWidget {
 public:
@@ -38,9 +40,12 @@ private:
     void PlaceFirst(const HelpPlace& place);
     void OpenRow(int row);
     void FollowPage();
+    void FindNext();
+    bool Holds(int row, const QString& text);
 
     QToolButton back_;
     QToolButton forward_;
+    QLineEdit search_;
     QListWidget contents_;
     PageView page_;
     UsableWindow usable_{*this};

@@ -18,6 +18,7 @@
 #include "desktop/scoped_look.h"
 #include "linux/posix_files.h"
 #include "support/temporary_folder.h"
+#include "support/test_platform.h"
 
 namespace horavex {
 namespace {
@@ -62,9 +63,39 @@ protected:
     }
     int Row() { return Find<QListWidget>("contents").currentRow(); }
 
+    TestPlatform platform;
     TemporaryFolder folder;
     HelpWindow window;
 };
+
+TEST_F(HelpWindowTest, SearchGoesFromPlaceToPlaceAndRoundTheEnd) {
+    Write("one.html", "One", "<p>a word, and a Word</p>");
+    Write("two.html", "Two", "<p>another word</p>");
+    Show(0);
+    auto& search = Find<QLineEdit>("search");
+    const auto& page = Find<QTextBrowser>("page");
+    search.setText("word");
+    std::vector<std::pair<int, int>> places;  // page, and place in it
+    for (int press = 0; press < 4; ++press) {
+        Q_EMIT search.returnPressed();
+        places.emplace_back(Row(), page.textCursor().selectionStart());
+        EXPECT_EQ(page.textCursor().selectedText().toLower(), "word");
+    }
+    EXPECT_EQ(places[1].first, 0);
+    EXPECT_GT(places[1].second, places[0].second);
+    EXPECT_EQ(places[2].first, 1);
+    EXPECT_EQ(places[3], places[0]);
+}
+
+TEST_F(HelpWindowTest, SearchForWhatStandsNowhereLeavesThePageAndMarksTheText) {
+    Show(1);
+    auto& search = Find<QLineEdit>("search");
+    search.setText("nowhere");
+    Q_EMIT search.returnPressed();
+    EXPECT_EQ(Row(), 1);
+    EXPECT_EQ(search.selectedText(), "nowhere");
+    EXPECT_EQ(search.accessibleName(), "Search");
+}
 
 TEST_F(HelpWindowTest, LinksFollowTheThemeWhileAPageIsReadAndThePageStaysInItsPlace) {
     std::string lines;
@@ -214,7 +245,6 @@ TEST_F(HelpWindowTest, EscapeHidesIt) {
 }
 
 TEST_F(HelpWindowTest, ShellOpensAndClosesIt) {
-    const TestPlatform platform;
     PosixFiles files;
     QtShell shell(files);
     shell.CloseHelp();
