@@ -29,7 +29,7 @@ namespace {
 // so that their buttons stand close together above that line.
 constexpr QRect kFace(0, 0, 420, 500);
 constexpr QRect kClock(20, 10, 84, 84);
-constexpr QRect kDay(116, 4, 234, 26);
+constexpr QRect kDay(116, 2, 234, 30);  // signs over Bengali letters reach high
 constexpr QRect kDate(116, 29, 234, 20);
 constexpr QRect kHijriDate(116, 49, 234, 20);
 constexpr QRect kPlace(108, 69, 250, 18);

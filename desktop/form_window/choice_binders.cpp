@@ -166,6 +166,14 @@ void ComboBoxBinder::ShowItems() {
     if (shown != items) {
         widget.clear();
         widget.addItems(items);
+        KeepWidest();
+    }
+}
+
+// The toolkit goes on to tell the least size that the box had with its former items.
+void ComboBoxBinder::KeepWidest() {
+    if (widget.sizeAdjustPolicy() == QComboBox::AdjustToContents) {
+        widget.setMinimumWidth(widget.sizeHint().width());
     }
 }
 

@@ -63,6 +63,7 @@ protected:
 
 private:
     void ShowItems();
+    void KeepWidest();
     void ShowRefusals();
     void TellWhole();
     void ShowTyped(QLineEdit& line);

@@ -8,8 +8,10 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include "desktop/form_window/caption_text.h"
 #include "desktop/form_window/usable_window.h"
 #include "desktop/user_text.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
 
@@ -91,7 +93,10 @@ void QtDialogs::ShowMessage(const std::string& text, const std::string& title, M
     QMessageBox box(IconOf(icon), UserText(title.empty() ? kTitle : title), message,
                     QMessageBox::Ok, WindowInFront());
     box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Ok)->setIcon({});  // its word says it
+    QAbstractButton& ok = *box.button(QMessageBox::Ok);
+    ok.setIcon({});  // its word says it
+    // The toolkit has not all languages of the packs.
+    ok.setText(WithoutBrokenKey(UserText(GetLangString("frmAbout", "cmdOK", "&OK"))));
     box.setLayoutDirection(message.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     box.exec();
 }

@@ -1,5 +1,5 @@
-// Every text of every window, in the language with the longest words and in one from right to left,
-// at the usual size and at twice that: all of it is to be read.
+// Every text of every window, in each language, at the usual size and at twice that: all of it is
+// to be read as it is drawn. What users name themselves, files and devices, may be of any length.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -17,10 +17,9 @@ namespace horavex {
 namespace {
 
 /// The windows that a scene looks at hold their texts in widgets; faces fit theirs as they paint.
-/// The boxes of the moon window's third page are still too low for large texts.
 bool IsOfWidgets(const Scene& scene) {
     for (const char* painted :
-         {"face-", "line-", "poster-", "menu-", "athan", "help-", "preview", "moon-3"}) {
+         {"face-", "line-", "poster-", "menu-", "athan", "help-", "preview"}) {
         if (scene.name.starts_with(painted) && scene.name != "athan-settings") {
             return false;
         }
@@ -57,19 +56,36 @@ bool IsWhole(const QHeaderView& header) {
     return true;
 }
 
+/// Twice the size of texts may be more than a screen has room for. The tabs then stand behind
+/// buttons that scroll to them, the one on view before all.
+bool IsWhole(const QTabBar& tabs, bool isLarge) {
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        const QRect room = tabs.tabRect(tab);
+        const bool mayHide = isLarge && tab != tabs.currentIndex();
+        if ((!mayHide && !tabs.rect().contains(room)) ||
+            tabs.fontMetrics().horizontalAdvance(tabs.tabText(tab)) > room.width()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// A choice that a user has named by a file.
+bool IsOfUser(const QComboBox& box) {
+    return box.currentText().endsWith(".ogg");
+}
+
 bool HasRoom(const QWidget& widget) {
     return widget.width() >= widget.sizeHint().width() &&
            widget.height() >= widget.fontMetrics().height();
 }
 
-/// A text that has no room is whole where it is told in a tooltip.
-bool IsWhole(const QWidget& widget) {
+bool IsWhole(const QWidget& widget, bool isLarge) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
         return IsWhole(*label);
     }
     if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
-        return IsWhole(*box) || box->toolTip().contains(box->currentText()) ||
-               box->objectName() == "cboShow";  // still too narrow for its longest choice
+        return IsWhole(*box) || IsOfUser(*box);
     }
     if (const auto* header = qobject_cast<const QHeaderView*>(&widget)) {
         return header->orientation() == Qt::Vertical || IsWhole(*header);
@@ -81,7 +97,7 @@ bool IsWhole(const QWidget& widget) {
         return line->height() >= line->fontMetrics().height();
     }
     if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
-        return tabs->usesScrollButtons() || HasRoom(widget);
+        return IsWhole(*tabs, isLarge);
     }
     const auto* button = qobject_cast<const QAbstractButton*>(&widget);
     return button == nullptr || button->text().isEmpty() || HasRoom(widget);
@@ -100,10 +116,15 @@ protected:
     }
     ~CutTextsTest() override { QApplication::setFont(usual_); }
 
+    static bool IsLarge() { return std::get<1>(GetParam()) > 1.0; }
+
     static void ExpectWhole(const Scene& scene, const QWidget& window) {
+        if (IsLarge() && scene.name == "moon-3") {
+            return;  // its boxes are still too low for large texts
+        }
         for (const QWidget* widget : window.findChildren<QWidget*>()) {
             if (widget->isVisible()) {
-                EXPECT_TRUE(IsWhole(*widget))
+                EXPECT_TRUE(IsWhole(*widget, IsLarge()))
                     << scene.name << ": " << widget->metaObject()->className() << " "
                     << widget->objectName().toStdString() << " has " << widget->width() << " x "
                     << widget->height() << " of " << widget->sizeHint().width() << " x "
@@ -128,7 +149,9 @@ TEST_P(CutTextsTest, EveryTextIsShownWhole) {
 }
 
 INSTANTIATE_TEST_SUITE_P(LanguagesAndTextSizes, CutTextsTest,
-                         testing::Combine(testing::Values("Arabic", "English", "German"),
+                         testing::Combine(testing::Values("Arabic", "Bengali", "English", "French",
+                                                          "German", "Indonesian", "Spanish",
+                                                          "Turkish", "Urdu"),
                                           testing::Values(1.0, 2.0)),
                          [](const auto& test) {
                              return std::get<0>(test.param) +

@@ -59,8 +59,9 @@ TEST_P(KeptPicturesTest, WindowsLookAsTheyWereKept) {
     }
 }
 
-const std::string kFolders[] = {"Arabic-light", "English-contrast", "English-dark", "English-light",
-                                "German-light"};
+const std::string kFolders[] = {"Arabic-light", "Bengali-light", "English-contrast",
+                                "English-dark", "English-light", "German-light",
+                                "Urdu-light"};
 
 INSTANTIATE_TEST_SUITE_P(Folders, KeptPicturesTest, testing::ValuesIn(kFolders),
                          [](const auto& test) {

@@ -6,13 +6,21 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <fstream>
 
+#include "lang/language_pack.h"
+#include "support/program_copy.h"
 #include "support/temporary_folder.h"
+#include "support/test_platform.h"
 
 namespace horavex {
 namespace {
+
+struct QtDialogsTest : testing::Test {
+    TestPlatform platform;
+};
 
 /// Shows a box, looks at it while it is open, and closes it.
 template <class Look>
@@ -26,7 +34,7 @@ void Show(const std::string& text, const std::string& title, MessageIcon icon, L
     QtDialogs([] {}).ShowMessage(text, title, icon);
 }
 
-TEST(QtDialogs, BoxShowsTextTitleIconAndOneButton) {
+TEST_F(QtDialogsTest, BoxShowsTextTitleIconAndOneButton) {
     Show("a <b>text</b>", "A title", MessageIcon::kCritical, [](const QMessageBox& box) {
         EXPECT_EQ(box.text(), "a <b>text</b>");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
@@ -36,21 +44,30 @@ TEST(QtDialogs, BoxShowsTextTitleIconAndOneButton) {
     });
 }
 
-TEST(QtDialogs, EmptyTitleIsTheApplications) {
+TEST_F(QtDialogsTest, ButtonOfABoxSpeaksTheLanguageOfThePack) {
+    CopyBuiltProgramFolder(platform.files);
+    currentLanguage = "Urdu";
+    Show("text", "", MessageIcon::kNone, [](const QMessageBox& box) {
+        EXPECT_TRUE(box.button(QMessageBox::Ok)->text().contains("ٹھیک ہے"));
+    });
+    currentLanguage = "English";
+}
+
+TEST_F(QtDialogsTest, EmptyTitleIsTheApplications) {
     Show("text", "", MessageIcon::kNone, [](const QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Horavex");
         EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
     });
 }
 
-TEST(QtDialogs, ArabicTextTurnsTheBoxRound) {
+TEST_F(QtDialogsTest, ArabicTextTurnsTheBoxRound) {
     Show("خطأ في الإدخال", "", MessageIcon::kExclamation, [](const QMessageBox& box) {
         EXPECT_EQ(box.layoutDirection(), Qt::RightToLeft);
         EXPECT_EQ(box.icon(), QMessageBox::Warning);
     });
 }
 
-TEST(QtDialogs, BeepIsWhatItWasGiven) {
+TEST_F(QtDialogsTest, BeepIsWhatItWasGiven) {
     int beeps = 0;
     QtDialogs([&] { ++beeps; }).Beep();
     EXPECT_EQ(beeps, 1);
@@ -69,7 +86,7 @@ std::string Open(const FileRequest& request, Look look) {
 
 const FileRequest kRequest{"Open it", "All (*.*)|*.wav;*.mp+|Ogg files (*.ogg)|*.ogg|", 2};
 
-TEST(QtDialogs, FileDialogueShowsItsTitleAndFilters) {
+TEST_F(QtDialogsTest, FileDialogueShowsItsTitleAndFilters) {
     const std::string chosen = Open(kRequest, [](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Open it");
         EXPECT_EQ(dialog.nameFilters(),
@@ -81,7 +98,7 @@ TEST(QtDialogs, FileDialogueShowsItsTitleAndFilters) {
     EXPECT_EQ(chosen, "");
 }
 
-TEST(QtDialogs, FileDialogueAnswersTheRealPath) {
+TEST_F(QtDialogsTest, FileDialogueAnswersTheRealPath) {
     const TemporaryFolder folder;
     const std::string path = folder / "نداء.ogg";
     std::ofstream(path) << "sound";
@@ -110,7 +127,7 @@ void Accept(QFileDialog& dialog) {
     QMetaObject::invokeMethod(&dialog, "accept");
 }
 
-TEST(QtDialogs, SaveDialogueOffersTheTypesAndBeginsWithTheOneOfTheRequest) {
+TEST_F(QtDialogsTest, SaveDialogueOffersTheTypesAndBeginsWithTheOneOfTheRequest) {
     const std::string path = Save([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Save");
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
@@ -122,7 +139,7 @@ TEST(QtDialogs, SaveDialogueOffersTheTypesAndBeginsWithTheOneOfTheRequest) {
     EXPECT_EQ(path, "");
 }
 
-TEST(QtDialogs, SaveDialogueBeginsInTheDocumentsAndProposesItsTitleAsTheName) {
+TEST_F(QtDialogsTest, SaveDialogueBeginsInTheDocumentsAndProposesItsTitleAsTheName) {
     const TemporaryFolder home;
     const QByteArray former = qgetenv("HOME");
     qputenv("HOME", QByteArray::fromStdString(home / ""));
@@ -135,7 +152,7 @@ TEST(QtDialogs, SaveDialogueBeginsInTheDocumentsAndProposesItsTitleAsTheName) {
     qputenv("HOME", former);
 }
 
-TEST(QtDialogs, ProposedNameOfAPlaceWithAPointGetsItsSuffix) {
+TEST_F(QtDialogsTest, ProposedNameOfAPlaceWithAPointGetsItsSuffix) {
     const TemporaryFolder folder;
     FileRequest request = kSaveRequest;
     request.title = "Prayer times St. Louis 2026";
@@ -146,7 +163,7 @@ TEST(QtDialogs, ProposedNameOfAPlaceWithAPointGetsItsSuffix) {
     EXPECT_EQ(Save(accept, request), folder / "Prayer times St Louis 2026.txt");
 }
 
-TEST(QtDialogs, SavedNameWithoutASuffixGetsThatOfTheRequest) {
+TEST_F(QtDialogsTest, SavedNameWithoutASuffixGetsThatOfTheRequest) {
     const TemporaryFolder folder;
     EXPECT_EQ(Save([&](QFileDialog& dialog) {
                   dialog.selectFile(QString::fromStdString(folder / "year"));
@@ -160,7 +177,7 @@ TEST(QtDialogs, SavedNameWithoutASuffixGetsThatOfTheRequest) {
               folder / "year.json");
 }
 
-TEST(QtDialogs, ChosenTypeOfOneSuffixGivesItsOwn) {
+TEST_F(QtDialogsTest, ChosenTypeOfOneSuffixGivesItsOwn) {
     const TemporaryFolder folder;
     EXPECT_EQ(Save([&](QFileDialog& dialog) {
                   Q_EMIT dialog.filterSelected("CSV");
