@@ -145,7 +145,7 @@ protected:
         const ProgramRun run =
             ctl.Run("export " + std::string(kCairo) + " --format pdf", {"--output", ctl / "x.pdf"});
         if (run.status == 1) {
-            EXPECT_THAT(run.err, HasSubstr("without the desktop"));
+            EXPECT_THAT(run.err, HasSubstr("comes with the desktop program"));
             GTEST_SKIP() << run.err;
         }
         EXPECT_EQ(run.err, "");

@@ -40,20 +40,6 @@ void Keep(const std::string& name, const std::string& screen) {
     std::ofstream(BuildPath("screenshots/terminal-" + name + ".txt")) << screen;
 }
 
-/// Presses a key anew until a text is to be seen: a window that fills its lists takes none.
-void PressUntil(VirtualTerminal& terminal, const char* key, const std::string& text) {
-    int looks = 0;
-    terminal.WaitUntil(
-        [&](const std::string& screen) {
-            const bool isThere = screen.find(text) != screen.npos;
-            if (!isThere && looks++ % 5 == 0) {
-                terminal.Type(key);
-            }
-            return isThere;
-        },
-        text);
-}
-
 /// A user of a machine in Mecca, whose clock the test sets.
 class TerminalProgramTest : public testing::Test {
 protected:
@@ -94,13 +80,15 @@ TEST_F(TerminalProgramTest, FirstRunGoesThroughTheWizardToTheFace) {
     terminal.WaitFor("Choose a City");
     terminal.WaitUntil([](const std::string& text) { return CountOf("Mecca, Mecca", text) == 1; },
                        "the cities of a country");
-    terminal.Type("Cairo");
-    terminal.WaitFor("New Cairo, Cairo - Egypt");
+    terminal.Type("Suez");
+    terminal.WaitFor("Ain Sukhna, Suez - Egypt");
     terminal.Type(key::kDown);
+    // The list of its country comes as far as this city once it is filled and the city selected.
     Keep("city", terminal.WaitUntil(
-                     [](const std::string& text) { return CountOf("Cairo, Cairo", text) == 2; },
+                     [](const std::string& text) { return CountOf("Suez, Suez", text) == 2; },
                      "the city in the list of its country"));
-    PressUntil(terminal, key::kEnter, "Picked city:  Cairo, Cairo - Egypt");
+    terminal.Type(key::kEnter);
+    terminal.WaitFor("Picked city:  Suez, Suez - Egypt");
     for (const char* page : {"Set Time-Zone", "Begins on", "Depression Angles"}) {
         terminal.Type("\x1bn");  // Next
         terminal.WaitFor(page);
@@ -110,10 +98,10 @@ TEST_F(TerminalProgramTest, FirstRunGoesThroughTheWizardToTheFace) {
         "f");  // Finish
     terminal.WaitForNo("Depression Angles");
     terminal.WaitFor("Next Athan: Asr");
-    const std::string face = terminal.WaitFor("Cairo, Cairo - Egypt\n");
+    const std::string face = terminal.WaitFor("Suez, Suez - Egypt\n");
     Keep("face", face);
     EXPECT_THAT(face, HasSubstr("Saturday, 21 November 2026"));
-    EXPECT_THAT(face, HasSubstr("▸ Asr                   02:36 PM"));
+    EXPECT_THAT(face, HasSubstr("▸ Asr                   02:31 PM"));
     EXPECT_THAT(ContentOf(home / "config/horavex/registry.ini"), HasSubstr("Isha Dep Angle"));
 }
 

@@ -36,7 +36,7 @@ TEST_F(DrawingFileTest, SaysThatAPngNeedsTheDesktop) {
         WriteDrawing("/home/map.png", {}, 150.0, 150.0);
         FAIL();
     } catch (const Fault& fault) {
-        EXPECT_THAT(fault.what(), testing::HasSubstr("without the desktop"));
+        EXPECT_THAT(fault.what(), testing::HasSubstr("comes with the desktop program"));
     }
 }
 
