@@ -129,6 +129,7 @@ HelpWindow::HelpWindow() {
     auto* all = new QVBoxLayout(this);
     all->addLayout(buttons);
     all->addWidget(parts, 1);
+    contents_.setFocus();
 
     connect(&back_, &QToolButton::clicked, &page_, &QTextBrowser::backward);
     connect(&forward_, &QToolButton::clicked, &page_, &QTextBrowser::forward);

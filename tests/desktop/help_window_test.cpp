@@ -87,6 +87,11 @@ TEST_F(HelpWindowTest, SearchGoesFromPlaceToPlaceAndRoundTheEnd) {
     EXPECT_EQ(places[3], places[0]);
 }
 
+TEST_F(HelpWindowTest, ArrowKeysGoThroughTheListUntilASearchIsWanted) {
+    Show(0);
+    EXPECT_EQ(window.focusWidget(), &Find<QListWidget>("contents"));
+}
+
 TEST_F(HelpWindowTest, SearchForWhatStandsNowhereLeavesThePageAndMarksTheText) {
     Show(1);
     auto& search = Find<QLineEdit>("search");
