@@ -80,6 +80,11 @@ std::string FrameWidget::Caption() const {
     return Bound()->Has(Property::kCaption) ? WithoutKey(Bound()->Caption()) : std::string();
 }
 
+/// A short caption is not cut: a frame that has no room for it goes below its neighbour.
+int FrameWidget::LeastWidth() const {
+    return std::min(WantedWidth(), kNarrowest);
+}
+
 int FrameWidget::WantedWidth() const {
     return WidthOf(Caption()) + 2;
 }

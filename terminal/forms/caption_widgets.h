@@ -33,7 +33,7 @@ class FrameWidget : public Widget {
 public:
     using Widget::Widget;
 
-    int LeastWidth() const override { return 0; }
+    int LeastWidth() const override;
     int WantedWidth() const override;
     int HeightIn(int) const override { return 2; }
     void Draw(Cells& cells, const Area& area, bool hasFocus) override;

@@ -347,12 +347,20 @@ TEST_P(WindowsOnScreensTest, EveryControlIsReachedAndEveryCaptionRead) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(LanguagesAndSizes, WindowsOnScreensTest,
+std::string NameOfCase(const testing::TestParamInfo<std::tuple<std::string, ScreenSize>>& test) {
+    return std::get<0>(test.param) + NameOf(std::get<1>(test.param));
+}
+
+INSTANTIATE_TEST_SUITE_P(UsualSize, WindowsOnScreensTest,
                          testing::Combine(testing::ValuesIn(kShippedLanguages),
                                           testing::Values(ScreenSize{80, 24})),
-                         [](const auto& test) {
-                             return std::get<0>(test.param) + NameOf(std::get<1>(test.param));
-                         });
+                         NameOfCase);
+
+// Long words, a script from the right, and letters of several characters.
+INSTANTIATE_TEST_SUITE_P(SmallestSize, WindowsOnScreensTest,
+                         testing::Combine(testing::Values("German", "Arabic", "Bengali"),
+                                          testing::Values(ScreenSize{40, 16})),
+                         NameOfCase);
 
 }  // namespace
 }  // namespace horavex
