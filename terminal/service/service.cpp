@@ -34,7 +34,7 @@ namespace horavex {
 
 namespace {
 
-constexpr int kNoSettings = 2;
+constexpr int kRefused = 2;        // another start would find the same
 constexpr int kUnseenMinutes = 1;  // until a silent athan ends, so that the next one comes
 
 /// What stands in for a face.
@@ -105,7 +105,12 @@ bool HasSettings() {
 int RefuseWithoutSettings(const ServiceLog& log) {
     log.Write(Severity::kError,
               "no place has been chosen: choose one with horavex-terminal or with horavex");
-    return kNoSettings;
+    return kRefused;
+}
+
+int RefuseBesideAnother(const ServiceLog& log) {
+    log.Write(Severity::kError, "Horavex is already running in this session");
+    return kRefused;
 }
 
 void TellStart(const ServiceLog& log) {
@@ -137,6 +142,9 @@ int RunService() {
             End(std::string("SIG") + ::sigabbrev_np(*signal), log);
         }
     });
+    if (Ports().instanceGuard.AnotherIsRunning()) {
+        return RefuseBesideAnother(log);
+    }
     if (!IshaAngleIsStored()) {
         return RefuseWithoutSettings(log);
     }

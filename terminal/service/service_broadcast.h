@@ -18,9 +18,6 @@ public:
     void TellReminderDue(const std::string& kind, const std::string& prayer, int minutes) override;
     void TellAthanStopped() override;
 
-    /// Never: nobody who starts a service asks for a face.
-    bool ShowRunning() override { return false; }
-
 private:
     void TellTrouble();
 

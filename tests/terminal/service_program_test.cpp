@@ -50,12 +50,6 @@ protected:
         variables["DBUS_SESSION_BUS_ADDRESS"] = bus->FirstLine();
     }
 
-    void StoreOption(const std::string& name, const std::string& value) const {
-        std::ofstream(home / "config/horavex/registry.ini", std::ios::app)
-            << "[Software\\\\Horavex\\\\Options]\n"
-            << name << '=' << value << '\n';
-    }
-
     /// Stores the settings that are installed, with a change.
     void StoreSettings(const std::function<void(SettingsRecord&)>& change) const {
         const Bytes installed = BytesOf(ContentOf(BuiltProgramFolder() + "/Dat/AI.DAT"));
@@ -221,20 +215,12 @@ TEST_F(ServiceProgramTest, JournalGetsTheWeightOfEachLine) {
     EXPECT_THAT(Log(), EndsWith("\n<5>ends: SIGTERM\n"));
 }
 
-TEST_F(ServiceProgramTest, SecondOneSaysSoAndEnds) {
+TEST_F(ServiceProgramTest, SecondOneSaysSoAndFailsForGood) {
     const ChildProcess first = Start();
     ChildProcess second = Launch("second");
-    EXPECT_EQ(second.Wait(), 0);
-    EXPECT_THAT(Log("second"), HasSubstr("already running"));
+    EXPECT_EQ(second.Wait(), 2);
+    EXPECT_THAT(Log("second"), EndsWith("Horavex is already running in this session\n"));
     EXPECT_TRUE(first.IsRunning());
-}
-
-TEST_F(ServiceProgramTest, SecondOneIsToldWhereNoFaceCanBeBroughtToTheFront) {
-    StoreOption("Show Running", "1");
-    const ChildProcess first = Start();
-    ChildProcess second = Launch("second");
-    EXPECT_EQ(second.Wait(), 0);
-    EXPECT_THAT(Log("second"), HasSubstr("already running"));
 }
 
 TEST_F(ServiceProgramTest, FaceThatThereIsNotCannotBeShown) {
