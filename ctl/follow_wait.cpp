@@ -54,11 +54,13 @@ FollowWait::Woken FollowWait::For(int descriptor, std::optional<std::time_t> ins
     return all[1].revents != 0 ? Woken::kClock : Woken::kNews;
 }
 
-// Setting it anew takes what it has told.
+// Setting it anew takes what it has told. One that is stopped would tell of a clock set anew, too,
+// if it were asked for that.
 void FollowWait::SetTimer(std::optional<std::time_t> instant) const {
     itimerspec time{};
     time.it_value.tv_sec = instant.value_or(0);  // 0 stops it
-    timerfd_settime(timer_, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &time, nullptr);
+    const int flags = instant ? TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET : 0;
+    timerfd_settime(timer_, flags, &time, nullptr);
 }
 
 bool ReaderHasGone() {
