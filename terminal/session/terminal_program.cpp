@@ -24,6 +24,7 @@
 #include "terminal/ports/terminal_shell.h"
 #include "terminal/ports/terminal_windows.h"
 #include "terminal/screen/curses_screen.h"
+#include "terminal/session/frame_pace.h"
 #include "terminal/session/terminal_broadcast.h"
 #include "terminal/session/typed_keys.h"
 #include "terminal/terminal_platform.h"
@@ -41,7 +42,7 @@ class TerminalSession {
 public:
     TerminalSession()
         : desk_([this](const Cells& cells) { screen_.Show(cells); },
-                [this](PollEventLoop::Action action) { loop_.Post(std::move(action)); }),
+                [this](PollEventLoop::Action draw) { pace_.Later(std::move(draw)); }),
           keys_(loop_, STDIN_FILENO, [this] { TakeKeys(); }),
           signalled_(loop_, signals_.Number(), [this] { TakeSignals(); }) {
         desk_.SetSize(screen_.Rows(), screen_.Columns());
@@ -130,6 +131,7 @@ private:
         screen_.Leave();
         std::cerr << broadcast_.LastWords();
     }};
+    FramePace pace_{loop_};
     FormTimers timers_{loop_};
     Desk desk_;
     TerminalFace face_;
