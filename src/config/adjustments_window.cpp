@@ -10,6 +10,7 @@
 #include "lang/own_digits.h"
 #include "store/face_options.h"
 #include "store/save_change.h"
+#include "store/start_options.h"
 #include "windows/frm_adjust.h"
 #include "windows/frm_main.h"
 #include "windows/frm_wizard.h"
@@ -73,11 +74,14 @@ void frmAdjust_Load() {
     edited = AcceptedAdjustments();
     values.Show();
     OfferOwnDigits();
+    frmAdjust->chkShowRunning.SetValue(ReadOption(option::kShowRunning));
 }
 
 void cmdOK_Click() {
     if (SetAdjustments(edited)) {
         TakeOwnDigits();
+        SaveChange(option::kShowRunning, frmAdjust->chkShowRunning.Value(),
+                   option::kShowRunning.base);
         frmAdjust->Unload();
     }
 }

@@ -14,7 +14,8 @@
 namespace horavex {
 
 /// What goes beyond the settings: the method of an authority with its intervals and margins, the
-/// rule of high latitudes and the Hijri date, beside a preview of today; and the digits of numbers.
+/// rule of high latitudes and the Hijri date, beside a preview of today; the digits of numbers; and
+/// what a second start does.
 /// Labels that begin with lblShown say what the controls beside them stand for.
 class AdjustForm : public Form {
 public:
@@ -83,6 +84,11 @@ public:
                           {.caption = "Numbers in the digits of the language",
                            .toolTipText = "Face, windows, notifications and printed pages write "
                                           "numbers so"}};
+    CheckBox chkShowRunning{*this,
+                            "chkShowRunning",
+                            {.caption = "A second start shows the running program",
+                             .toolTipText = "Without it the second start only says that the "
+                                            "program runs already"}};
 
     CommandButton cmdReset{
         *this,

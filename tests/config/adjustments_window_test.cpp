@@ -289,6 +289,23 @@ TEST_F(AdjustmentsTest, LanguageWithoutDigitsOfItsOwnSaysWhyTheyCannotBeChosen) 
     EXPECT_EQ(StoredOption("Own Digits"), "1") << "the choice waits for a language that has them";
 }
 
+TEST_F(AdjustmentsTest, WhatASecondStartDoesIsSwitchedByABoxWithOK) {
+    Open();
+    EXPECT_EQ(form.chkShowRunning.Value(), 0);
+    form.chkShowRunning.UserClick();
+    form.cmdCancel.UserClick();
+    EXPECT_EQ(StoredOption("Show Running"), "absent");
+    Open();
+    form.chkShowRunning.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(StoredOption("Show Running"), "1");
+    Open();
+    EXPECT_EQ(form.chkShowRunning.Value(), 1);
+    form.chkShowRunning.UserClick();
+    form.cmdOK.UserClick();
+    EXPECT_EQ(StoredOption("Show Running"), "absent");
+}
+
 TEST_F(AdjustmentsTest, HijriDateFollowsItsControls) {
     Open();
     EXPECT_EQ(form.lblShownHijri.Caption(), "10 Jamad Thani 1448");
