@@ -3,25 +3,13 @@
 #include <cmath>
 
 #include "engine/angle.h"
-#include "moon/periodic_sum.h"
+#include "moon/eclipse_terms.h"
 
 namespace horavex {
 
 namespace {
 
 constexpr const char* kCentral = "The Eclipse is Central";
-
-// Multiples of M', M, the corrected F, O and A1; the power of E; column 0 the Sun, 1 the Moon.
-constexpr PeriodicTerm kTerms[] = {
-    {1, 0, 0, 0, 0, 0, {-0.4075, -0.4065}},  {0, 1, 0, 0, 0, 1, {0.1721, 0.1727}},
-    {2, 0, 0, 0, 0, 0, {0.0161, 0.0161}},    {0, 0, 2, 0, 0, 0, {-0.0097, -0.0097}},
-    {1, -1, 0, 0, 0, 1, {0.0073, 0.0073}},   {1, 1, 0, 0, 0, 1, {-0.005, -0.005}},
-    {1, 0, -2, 0, 0, 0, {-0.0023, -0.0023}}, {0, 2, 0, 0, 0, 1, {0.0021, 0.0021}},
-    {1, 0, 2, 0, 0, 0, {0.0012, 0.0012}},    {2, 1, 0, 0, 0, 1, {0.0006, 0.0006}},
-    {3, 0, 0, 0, 0, 0, {-0.0004, -0.0004}},  {0, 1, 2, 0, 0, 1, {-0.0003, -0.0003}},
-    {0, 0, 0, 0, 1, 0, {0.0003, 0.0003}},    {0, 1, -2, 0, 0, 1, {-0.0002, -0.0002}},
-    {2, -1, 0, 0, 0, 1, {-0.0002, -0.0002}}, {0, 0, 0, 1, 0, 0, {-0.0002, -0.0002}},
-};
 
 struct Body {
     double offset;  // of the lunation number
@@ -41,7 +29,7 @@ double UnreducedA1(const Lunation& at) {
 /// Julian day of the greatest eclipse.
 double InstantOf(const Body& body, const Lunation& at, double latitude) {
     const SeriesAngles angles = {at.moonAnomaly, at.sunAnomaly, latitude, at.node, UnreducedA1(at)};
-    return PeriodicSum(kTerms, body.column, angles, at.eccentricity) + at.day;
+    return PeriodicSum(kEclipseTerms, body.column, angles, at.eccentricity) + at.day;
 }
 
 void TakeTexts(double instant, double zone, Eclipses& eclipses) {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/program_state.h"
+#include "moon/phase_terms.h"
 
 namespace horavex {
 
@@ -14,19 +15,6 @@ constexpr double kTurn = 360.0;
 double lastAngle = 0.0;  // what ReduceAngle answered last
 
 const ProgramStateReset reset([] { lastAngle = 0.0; });
-
-/// Base and rate of a planetary argument, degrees and degrees a lunation, for n = 1 to 14.
-struct Planetary {
-    double base;
-    double rate;
-};
-
-constexpr Planetary kPlanetary[kPlanetaryArguments] = {
-    {299.77, 0.107408},  {251.88, 0.016321},  {251.83, 26.651886}, {349.42, 36.412478},
-    {84.66, 18.206239},  {141.74, 53.303771}, {207.14, 2.453732},  {154.84, 7.30686},
-    {34.52, 27.261239},  {207.19, 0.121824},  {291.34, 1.844379},  {161.72, 24.198154},
-    {239.56, 25.513099}, {331.55, 3.592518},
-};
 
 double ReducedRadians(double degrees) {
     return ReduceAngle(degrees) * kSeriesPi / 180.0;
