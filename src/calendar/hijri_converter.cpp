@@ -23,14 +23,11 @@ std::string AsOneWord(std::string text) {
 }  // namespace
 
 HijriDate HijriConverter::ToHijri(Date date) const {
-    const Date adjusted = date + adjustment_;
-    const auto published = ummAlQura_.HijriOf(adjusted);
-    return published ? *published : HijriFromDate(adjusted);
+    return HijriOf(ummAlQura_, date + adjustment_);
 }
 
 Date HijriConverter::ToGregorian(const HijriDate& hijri) const {
-    const auto published = ummAlQura_.DateOf(hijri);
-    return (published ? *published : DateFromHijri(hijri)) - adjustment_;
+    return DateOf(ummAlQura_, hijri) - adjustment_;
 }
 
 std::string HijriConverter::CalculateHijri(std::int16_t year, int month, int day) const {

@@ -5,13 +5,10 @@
 
 #include "base/bytes.h"
 #include "base/fault.h"
-#include "platform/platform.h"
 
 namespace horavex {
 
 namespace {
-
-constexpr const char* kFile = "Dat\\UQ.DAT";
 
 // A record is a year: its number, the date of its first day, the days of its twelve months.
 constexpr std::size_t kRecordLength = 18;
@@ -22,25 +19,19 @@ constexpr std::size_t kMonths = 12;
 constexpr std::uint8_t kShortestMonth = 28;  // days
 constexpr std::uint8_t kLongestMonth = 30;
 
-Bytes ReadTable() {
-    Bytes table = Ports().programFolder.ReadWhole(kFile);
-    if (table.empty() || table.size() % kRecordLength != 0) {
-        throw BoundsFault(std::string(kFile) + ": a record is cut short");
-    }
-    return table;
-}
-
 void Expect(bool sound, std::size_t record, const char* problem) {
     if (!sound) {
-        throw BoundsFault(std::string(kFile) + ": record " +
+        throw BoundsFault(std::string(UmmAlQura::kFile) + ": record " +
                           std::to_string(record / kRecordLength + 1) + ": " + problem);
     }
 }
 
 }  // namespace
 
-UmmAlQura::UmmAlQura() {
-    const Bytes table = ReadTable();
+UmmAlQura::UmmAlQura(ByteView table) {
+    if (table.empty() || table.size() % kRecordLength != 0) {
+        throw BoundsFault(std::string(kFile) + ": a record is cut short");
+    }
     firstYear_ = GetInt16(table, 0);
     monthStarts_ = {static_cast<Date>(GetInt32(table, kFirstDayOffset))};
     for (std::size_t record = 0; record < table.size(); record += kRecordLength) {
@@ -72,6 +63,14 @@ std::optional<Date> UmmAlQura::DateOf(const HijriDate& hijri) const {
         return std::nullopt;
     }
     return monthStarts_[static_cast<std::size_t>(month)] + hijri.day - 1;
+}
+
+HijriDate HijriOf(const UmmAlQura& published, Date date) {
+    return published.HijriOf(date).value_or(HijriFromDate(date));
+}
+
+Date DateOf(const UmmAlQura& published, const HijriDate& hijri) {
+    return published.DateOf(hijri).value_or(DateFromHijri(hijri));
 }
 
 }  // namespace horavex

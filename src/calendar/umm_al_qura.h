@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/bytes.h"
 #include "base/date.h"
 #include "calendar/hijri_calendar.h"
 
@@ -13,8 +14,13 @@ namespace horavex {
 /// ends it meets the arithmetic calendar on the day, so that one goes over into the other.
 class UmmAlQura {
 public:
-    /// Reads "Dat/UQ.DAT". Throws FileFault for a missing file and BoundsFault for a damaged one.
+    static constexpr const char* kFile = "Dat\\UQ.DAT";
+
+    /// Reads the file. Throws FileFault for a missing one and BoundsFault for a damaged one.
     UmmAlQura();
+
+    /// What the file holds. Throws BoundsFault for damaged bytes.
+    explicit UmmAlQura(ByteView table);
 
     /// The day that holds the moment; nothing outside the table.
     std::optional<HijriDate> HijriOf(Date date) const;
@@ -27,5 +33,9 @@ private:
     int firstYear_ = 0;
     std::vector<Date> monthStarts_;  // of every month, and of the one behind the last
 };
+
+/// The same for every day: by the arithmetic calendar outside the table.
+HijriDate HijriOf(const UmmAlQura& published, Date date);
+Date DateOf(const UmmAlQura& published, const HijriDate& hijri);
 
 }  // namespace horavex

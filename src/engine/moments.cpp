@@ -5,11 +5,8 @@
 #include "base/rounding.h"
 #include "engine/around_day.h"
 #include "engine/current_year.h"
-#include "engine/ruled_year.h"
 #include "engine/solar_event.h"
-#include "engine/year_table.h"
 #include "engine/zone_spans.h"
-#include "store/around_options.h"
 
 namespace horavex {
 
@@ -168,6 +165,12 @@ private:
 
 }  // namespace
 
+YearMethod MethodUnder(const MomentRules& rules, YearMethod method) {
+    method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
+    method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
+    return method;
+}
+
 DayMoments TableMoments(const PrayerRow& hours) {
     DayMoments moments;
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
@@ -192,15 +195,6 @@ AroundMoments AroundOf(const YearSource& year, std::size_t row, int imsakMinutes
     const Night night = {isNight ? fajr.hours + 24.0 - maghrib.hours : NoEvent,
                          fajr.by == MomentBy::kRule};
     return DayMaker(year, row).Around(night, imsakMinutes);
-}
-
-AroundMoments AroundOfRow(std::size_t row) {
-    return AroundOf({RuledYear.inputs, Times, RuledYear.rules.moments}, row,
-                    ReadOption(option::kImsakMinutes));
-}
-
-DayMoments MomentsOfRow(std::size_t row) {
-    return MomentsOf({RuledYear.inputs, Times, RuledYear.rules.moments}, row);
 }
 
 }  // namespace horavex

@@ -10,6 +10,9 @@ namespace horavex {
 // A year's moments are made from its table and from what the options ask for. With no option they
 // are the table's own numbers.
 
+/// A method whose year gives up for no twilight that the rules have an answer for.
+YearMethod MethodUnder(const MomentRules& rules, YearMethod method);
+
 /// Those of a row as it stands: by the sun, without a rule.
 DayMoments TableMoments(const PrayerRow& hours);
 

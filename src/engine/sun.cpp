@@ -3,17 +3,12 @@
 #include <cmath>
 
 #include "base/date.h"
-#include "base/program_state.h"
 #include "base/rounding.h"
 #include "engine/angle.h"
 
 namespace horavex {
 
-YearConstants CurrentYearConstants;
-
 namespace {
-
-const ProgramStateReset reset([] { CurrentYearConstants = {}; });
 
 // Days from 1900 January 0 to the start of the year. The quarter days are rounded and not dropped,
 // so that the number is one day late in every year divisible by 4 (.75 rounds up) and in every
@@ -84,10 +79,6 @@ YearConstants YearConstantsOf(std::int16_t year, YearStart start) {
     ComputeSiderealTime(T, constants);
     ComputeCenter(T, constants);
     return constants;
-}
-
-void ComputeYearConstants(std::int16_t year, YearStart start) {
-    CurrentYearConstants = YearConstantsOf(year, start);
 }
 
 SunPosition SunAt(const YearConstants& constants, double t) {

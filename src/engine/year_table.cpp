@@ -6,6 +6,7 @@
 #include "base/program_state.h"
 #include "engine/current_year.h"
 #include "engine/limit_message.h"
+#include "engine/moments.h"
 #include "engine/ruled_year.h"
 #include "store/settings_record.h"
 
@@ -36,12 +37,6 @@ void TellFailure(const std::optional<YearFailure>& failure) {
 
 PrayerRow TimesOfRow(std::size_t row) {
     return RowOf(Times, row);
-}
-
-YearMethod MethodUnder(const MomentRules& rules, YearMethod method) {
-    method.needsFajr = rules.highLatitude == HighLatitudeRule::kNone;
-    method.needsIsha = method.needsFajr && rules.ishaInterval == 0;
-    return method;
 }
 
 YearInputs PresentInputs() {

@@ -22,9 +22,6 @@ extern std::int16_t CalcFailed;
 /// Why the last calculation gave up, for tools that cannot read a message box.
 extern std::optional<YearFailure> LastYearFailure;
 
-/// A method whose year gives up for no twilight that the rules have an answer for.
-YearMethod MethodUnder(const MomentRules& rules, YearMethod method);
-
 /// CurrentYear at the program's place by the working settings, and by the rules of RuledYear.
 YearInputs PresentInputs();
 

@@ -1,6 +1,5 @@
 #include "geo/qibla.h"
 
-#include <cmath>
 #include <cstdlib>
 
 #include "base/program_state.h"
@@ -22,11 +21,6 @@ const ProgramStateReset reset([] {
     QiblaText.clear();
 });
 
-// Mecca: 21.42333 degrees north, 39.82333 degrees east, in radians to seven and eight places, which
-// is within a metre.
-constexpr double kMeccaLatitude = 0.3739077;         // radians
-constexpr double kMeccaLongitudeWest = -0.69504828;  // radians, west positive
-
 std::string BearingSentence(double degrees, std::int16_t language) {
     const auto text = [language](TextEntry entry) { return TextItem(entry, language); };
     const DegreesMinutes split = SplitDegrees(degrees);
@@ -41,14 +35,6 @@ std::string BearingSentence(double degrees, std::int16_t language) {
 
 // Both methods that the settings offer are this great circle; the option is kept and has no
 // effect on the number.
-double BearingOfMecca(double latitude, double longitudeWest) {
-    const double D = longitudeWest - kMeccaLongitudeWest;
-    const double y = std::sin(D);
-    const double x =
-        std::tan(kMeccaLatitude) * std::cos(latitude) - std::cos(D) * std::sin(latitude);
-    return Atan2Checked(y, x);
-}
-
 void ComputeQibla() {
     if (Settings.QiblaMethod == 1 || Settings.QiblaMethod == 2) {
         QiblaRad = BearingOfMecca(LatitudeRad, LongitudeWestRad);
