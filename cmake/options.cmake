@@ -39,7 +39,8 @@ if(NOT HORAVEX_SANITIZE)
     # It needs an optimised build, and hides from the sanitizers what it catches itself.
     add_compile_options($<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
 endif()
-add_link_options(-pie -Wl,-z,relro,-z,now,-z,noexecstack)
+add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>
+                 -Wl,-z,relro,-z,now,-z,noexecstack)
 
 # A program loads only the libraries that it uses, and not all that its own libraries could.
 add_link_options(-Wl,--as-needed)

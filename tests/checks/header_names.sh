@@ -8,7 +8,7 @@ export LC_ALL=C
 cd "$1"
 
 folders=()
-for folder in src ctl desktop linux terminal; do
+for folder in src ctl desktop lib linux terminal; do
     [[ ! -d $folder ]] || folders+=("$folder")
 done
 if ((${#folders[@]} == 0)); then
