@@ -5,7 +5,8 @@ A block says its language. These are run, in a copy of the sources with an empty
 
     sh        as a script that ends at its first failure
     console   each line behind "$ "; what it prints is what stands below it
-    python    as a program
+    python    as a program, with the module over the library
+    c         as a program with the library
 
 A comment in front of a block says something else about it:
 
@@ -25,7 +26,9 @@ from blocks import blocks_of
 from cover import is_command, is_test
 from sandbox import Sandbox
 
-RUN = {"sh": ["/bin/bash", "-euo", "pipefail"], "python": ["/usr/bin/python3"]}
+RUN = {"sh": ["/bin/bash", "-euo", "pipefail"],
+       "python": ["tests/docs/with_library.sh", "/usr/bin/python3"],
+       "c": ["tests/docs/with_library.sh", "tests/docs/run_c.sh"]}
 
 
 def main(document, source, build):

@@ -56,6 +56,15 @@ class TryBlocks(unittest.TestCase):
         self.expect_none("```python\nprint(1)\n```\n")
         self.expect_fault("```python\nraise ValueError\n```\n", "ValueError")
 
+    def test_python_has_the_module(self):
+        self.expect_none("```python\nimport horavex\nhoravex.qibla(30.05, 31.25)\n```\n")
+
+    def test_c_is_built_strictly_and_run(self):
+        main = "#include <horavex.h>\nint main(void) { %s }"
+        self.expect_none("```c\n" + main % "return horavex_version()[0] != '0';" + "\n```\n")
+        self.expect_fault("```c\n" + main % "return 3;" + "\n```\n", "status 3")
+        self.expect_fault("```c\n" + main % "int unused; return 0;" + "\n```\n", "unused")
+
     def test_a_line_without_an_end_has_to_print_something(self):
         self.expect_none("<!-- until ended -->\n```sh\nyes\n```\n")
         self.expect_fault("<!-- until ended -->\n```sh\ntrue\n```\n", "prints nothing: true")

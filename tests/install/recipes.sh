@@ -35,8 +35,9 @@ done
     fail "debian/changelog does not begin with $version"
 
 for package in $(sed -n '/^Build-Depends:/,/^[^ ]*:/s/^ \([^ ,]*\).*/\1/p' debian/control); do
-    [ "$package" = debhelper-compat ] || grep -qx -- "$package" debian-packages.txt ||
-        fail "$package is not in debian-packages.txt"
+    [ "$package" = debhelper-compat ] ||
+        grep -qx -- "$package" debian-packages.txt packaging-packages.txt ||
+        fail "$package is in none of the lists of packages"
 done
 
 # Debian has a name of its own for that of MIT; what nobody owns needs no licence.
