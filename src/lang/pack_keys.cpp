@@ -199,7 +199,7 @@ const std::vector<PackSection>& PackVocabularies() {
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
           "moonsighting", "morocco",   "mwl",    "oman",    "paris",   "portugal",   "qatar",
           "russia",       "singapore", "tehran", "tunisia", "turkey",  "umm-al-qura"}},
-        {"terminal", {"NoPrinter", "Exists", "Replace", "Cancel", "OK"}}};
+        {"terminal", {"NoPrinter", "SaveAs", "Exists", "Replace", "Cancel", "OK"}}};
     return sections;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "lang/own_digits.h"
 #include "terminal/screen/glyphs.h"
 
 namespace horavex {
@@ -58,13 +59,9 @@ void LabelWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     }
     look.key = TakesKeys();  // underlined, as what can be followed
     int row = area.row;
-    for (const std::string& line : Wrapped(WithoutKey(label_.Caption()), area.width)) {
-        if (FromRight()) {
-            cells.PutRight(row, area.column, line, look, area.width);
-        } else {
-            cells.Put(row, area.column, line, look, area.width);
-        }
-        ++row;
+    for (const std::string& line :
+         Wrapped(InShownDigits(WithoutKey(label_.Caption())), area.width)) {
+        cells.PutAsIs(row++, area.column, line, look, area.width, FromRight());
     }
 }
 
@@ -127,7 +124,8 @@ int PressedWidget::HeightIn(int width) const {
 void PressedWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     const Look look(ToneOf(hasFocus));
     const int signs = WidthOf(Before() + Behind());
-    const auto lines = Wrapped(WithoutKey(Bound()->Caption()), std::max(1, area.width - signs));
+    const auto lines =
+        Wrapped(InShownDigits(WithoutKey(Bound()->Caption())), std::max(1, area.width - signs));
     const int longest = WidestLine(WithoutKey(Bound()->Caption()));
     const int width = std::min(area.width, longest + signs);
     const int left = area.column + (FromRight() ? area.width - width : 0);
@@ -141,12 +139,8 @@ void PressedWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
         return;
     }
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const int row = area.row + static_cast<int>(i);
-        if (FromRight()) {
-            cells.PutRight(row, inside.column, lines[i], look, inside.width);
-        } else {
-            cells.Put(row, inside.column, lines[i], look, inside.width);
-        }
+        cells.PutAsIs(area.row + static_cast<int>(i), inside.column, lines[i], look, inside.width,
+                      FromRight());
     }
 }
 

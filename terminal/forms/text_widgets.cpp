@@ -76,7 +76,7 @@ void EditedLine::Draw(Cells& cells, const Area& area, const std::string& text, c
         ++first;
     }
     cells.Fill({area.row, area.column, 1, area.width}, look);
-    cells.Put(area.row, area.column, Joined(glyphs, first, glyphs.size()), look, area.width);
+    cells.PutAsIs(area.row, area.column, Joined(glyphs, first, glyphs.size()), look, area.width);
     if (hasFocus) {
         cells.SetCursor(CellPlace{area.row, area.column + WidthOf(Joined(glyphs, first, at))});
     }
@@ -106,7 +106,7 @@ bool TextWidget::Widens() const {
 }
 
 void TextWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
-    line_.Draw(cells, area, box_.Text(), ToneOf(false, Tone::kField), hasFocus);
+    line_.Draw(cells, area, InShownDigits(box_.Text()), ToneOf(false, Tone::kField), hasFocus);
 }
 
 bool TextWidget::Press(const KeyPress& key) {
@@ -131,7 +131,7 @@ bool LinesWidget::Wraps() const {
 /// A column is left for the mark of a text that scrolls. Blank lines at the end are none.
 std::vector<std::string> LinesWidget::LinesIn(int width) const {
     constexpr int kAnyWidth = 10000;
-    auto lines = Wrapped(box_.Text(), Wraps() ? std::max(1, width - 1) : kAnyWidth);
+    auto lines = Wrapped(InShownDigits(box_.Text()), Wraps() ? std::max(1, width - 1) : kAnyWidth);
     while (lines.size() > 1 && lines.back().empty()) {
         lines.pop_back();
     }
@@ -160,13 +160,8 @@ bool LinesWidget::Grows() const {
 }
 
 void LinesWidget::DrawLine(Cells& cells, const Area& place, const std::string& line) const {
-    const Look look(ToneOf(false));
-    const std::string shown = WithoutColumns(line, left_);
-    if (FromRight()) {
-        cells.PutRight(place.row, place.column, shown, look, place.width);
-    } else {
-        cells.Put(place.row, place.column, shown, look, place.width);
-    }
+    cells.PutAsIs(place.row, place.column, WithoutColumns(line, left_), ToneOf(false), place.width,
+                  FromRight());
 }
 
 void LinesWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
@@ -243,7 +238,7 @@ void ComboWidget::Draw(Cells& cells, const Area& area, bool hasFocus) {
     cells.Put(area.row, left + width - 1, FromRight() ? " " : "▾", look);
     const Area inside{area.row, left + 2, 1, width - 4};
     if (box_.Typed()) {
-        line_.Draw(cells, inside, box_.Text(), look, hasFocus);
+        line_.Draw(cells, inside, InShownDigits(box_.Text()), look, hasFocus);
     } else if (FromRight()) {
         cells.PutRight(inside.row, inside.column, Clipped(box_.Text(), inside.width), look,
                        inside.width);

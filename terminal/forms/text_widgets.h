@@ -18,7 +18,8 @@ public:
     /// one for the line at all.
     std::optional<std::string> After(const KeyPress& key, const std::string& text, bool& kept);
 
-    /// Draws the line and, with the focus, the cursor.
+    /// Draws the line and, with the focus, the cursor. text: as it is shown, a character for each
+    /// of the text itself.
     void Draw(Cells& cells, const Area& area, const std::string& text, const Look& look,
               bool hasFocus);
 

@@ -80,9 +80,11 @@ bool TerminalDialogs::MayWrite(const std::string& path) {
 }
 
 std::string TerminalDialogs::SaveFile(const FileRequest& request, const std::string& suffix) {
+    const std::string title =
+        request.title.empty() ? TerminalWord("SaveAs", "Save as") : request.title;
     std::string path = NameFor(request.title, suffix);
     do {
-        path = AskPath(request.title, path);
+        path = AskPath(title, path);
         if (!path.empty() && !HasSuffix(path)) {
             path += suffix;
         }

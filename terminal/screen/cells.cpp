@@ -26,10 +26,15 @@ void Cells::Set(int row, int column, Cell cell) {
     }
 }
 
-// A character of two columns is not written over the right edge, where it has one.
 void Cells::Put(int row, int column, std::string_view text, const Look& look, int width) {
-    const std::string shown = InShownDigits(std::string(text));
-    for (const Glyph& glyph : GlyphsOf(Clipped(shown, std::min(width, columns_ - column)))) {
+    PutAsIs(row, column, InShownDigits(std::string(text)), look, width);
+}
+
+// A character of two columns is not written over the right edge, where it has one.
+void Cells::PutAsIs(int row, int column, std::string_view text, const Look& look, int width,
+                    bool fromRight) {
+    column += fromRight ? std::max(0, width - WidthOf(text)) : 0;
+    for (const Glyph& glyph : GlyphsOf(Clipped(text, std::min(width, columns_ - column)))) {
         Set(row, column, {glyph.text, look});
         if (glyph.width == 2) {
             Set(row, column + 1, {"", look});

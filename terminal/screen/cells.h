@@ -70,7 +70,12 @@ public:
     /// that users chose.
     void Put(int row, int column, std::string_view text, const Look& look = {}, int width = 10000);
 
-    /// The same from the right edge of so many columns.
+    /// Writes a name, a path or what is in those digits already, with its digits as they are; from
+    /// the right edge of so many columns if that is wanted.
+    void PutAsIs(int row, int column, std::string_view text, const Look& look, int width,
+                 bool fromRight = false);
+
+    /// As Put, from the right edge of so many columns.
     void PutRight(int row, int column, std::string_view text, const Look& look, int width);
 
     /// In the middle of so many columns.

@@ -48,7 +48,7 @@ std::vector<HelpSheet::Line> HelpSheet::LinesOf(std::size_t page, int width) con
             lines.push_back({"", false, false});
         }
         bool goesOn = false;
-        for (std::string& text : Wrapped(paragraph.text, width)) {
+        for (std::string& text : Wrapped(InShownDigits(paragraph.text), width)) {
             lines.push_back({std::move(text), paragraph.isHeading, goesOn});
             goesOn = true;
         }
@@ -78,11 +78,8 @@ void HelpSheet::Draw(Cells& screen) {
         const bool isFound = found_ == static_cast<std::size_t>(first_ + row);
         const Look look(isFound ? Tone::kSelected
                                 : (line.isHeading ? Tone::kAccent : Tone::kPlain));
-        if (FromRight()) {
-            screen.PutRight(row + 1, screen.Columns() - kSides - width, line.text, look, width);
-        } else {
-            screen.Put(row + 1, kSides, line.text, look, width);
-        }
+        const int left = FromRight() ? screen.Columns() - kSides - width : kSides;
+        screen.PutAsIs(row + 1, left, line.text, look, width, FromRight());
     }
     if (first_ + height_ < count) {
         screen.Put(height_, screen.Columns() - 1, "▾", Tone::kAccent);
@@ -90,7 +87,8 @@ void HelpSheet::Draw(Cells& screen) {
     const int last = screen.Rows() - 1;
     if (isTyping_) {
         screen.Put(last, 0, "/", Tone::kStrong);
-        typed_.Draw(screen, {last, 1, 1, screen.Columns() - 1}, sought_, Tone::kPlain, true);
+        typed_.Draw(screen, {last, 1, 1, screen.Columns() - 1}, InShownDigits(sought_),
+                    Tone::kPlain, true);
     } else {
         const std::string place =
             std::to_string(page_ + 1) + "/" + std::to_string(view_.pages.size());

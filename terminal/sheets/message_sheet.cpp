@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "lang/own_digits.h"
 #include "terminal/forms/widget.h"
 #include "terminal/screen/glyphs.h"
 
@@ -52,17 +53,13 @@ void MessageSheet::Draw(Cells& screen) {
 }
 
 void MessageSheet::DrawText(Cells& screen, const Area& room) {
-    const std::vector<std::string> lines = Wrapped(text_, room.width);
+    const std::vector<std::string> lines = Wrapped(InShownDigits(text_), room.width);
     const int most = static_cast<int>(lines.size()) - room.height;
     first_ = std::clamp(first_, 0, most);
     const bool fromRight = RunsFromRight(text_);
     for (int row = 0; row < room.height; ++row) {
         const std::string& line = lines[static_cast<std::size_t>(first_ + row)];
-        if (fromRight) {
-            screen.PutRight(room.row + row, room.column, line, Tone::kPlain, room.width);
-        } else {
-            screen.Put(room.row + row, room.column, line, Tone::kPlain, room.width);
-        }
+        screen.PutAsIs(room.row + row, room.column, line, Tone::kPlain, room.width, fromRight);
     }
     const int edge = room.column + room.width + kSides - 1;
     if (first_ > 0) {

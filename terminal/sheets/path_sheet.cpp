@@ -135,7 +135,7 @@ void PathSheet::Draw(Cells& screen) {
                Tone::kSelected, true);
     int row = box.row + 4;
     for (const std::string& name : names_) {
-        screen.Put(row++, box.column + kSides, name, Tone::kFaint, width - 2 * kSides);
+        screen.PutAsIs(row++, box.column + kSides, name, Tone::kFaint, width - 2 * kSides);
     }
 }
 

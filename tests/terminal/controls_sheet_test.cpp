@@ -135,6 +135,22 @@ TEST_F(ControlsSheetTest, NumbersAreShownInTheDigitsOfTheLanguageAndTypedInEithe
     EXPECT_THAT(screen.Text(), HasSubstr("১৮.৫"));
 }
 
+TEST_F(ControlsSheetTest, PathsKeepTheirDigitsWhereALineBegins) {
+    DataFolder(platform.files).Write("lang/Bengali.ini", "[timetables]\nDigits=০১২৩৪৫৬৭৮৯\n");
+    currentLanguage = "Bengali";
+    ShowOwnDigits(true);
+    const std::string path = "/home/" + std::string(80, 'x') + " 2026";
+    form.lblShown.SetCaption(path);
+    form.txtName.SetText(path);
+    form.chkAlarm.SetCaption("12 " + path);
+    form.Show();
+    EXPECT_THAT(screen.Text(), HasSubstr("[ ] ১২"));
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("২০")));
+    form.txtName.UserFocus();
+    screen.Press(KeyCode::kEnd);
+    EXPECT_THAT(screen.Text(), HasSubstr("x 2026"));
+}
+
 TEST_F(ControlsSheetTest, TextIsTypedAtTheCursor) {
     int changes = 0;
     int releases = 0;

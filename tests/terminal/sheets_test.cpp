@@ -219,6 +219,38 @@ TEST_F(Paths, TabCompletesWholeCharacters) {
     EXPECT_EQ(line->Path(), folder / "ع");
 }
 
+struct DigitsOfBengali : Paths {
+    DigitsOfBengali() {
+        DataFolder(platform.files).Write("lang/Bengali.ini", "[timetables]\nDigits=০১২৩৪৫৬৭৮৯\n");
+        currentLanguage = "Bengali";
+        ShowOwnDigits(true);
+    }
+};
+
+TEST_F(DigitsOfBengali, NamesOfFilesKeepTheirsWhereOthersAreShown) {
+    std::ofstream(folder / "of 2026");
+    std::ofstream(folder / "of 2027");
+    const auto line = std::make_shared<PathSheet>("Save As", folder / "of");
+    screen.desk.BringUp(line);
+    screen.Press(KeyCode::kTab);
+    EXPECT_THAT(screen.Text(), HasSubstr("of 2026"));
+    EXPECT_THAT(screen.Text(), HasSubstr("of 2027"));
+}
+
+TEST_F(DigitsOfBengali, PathKeepsItsOwnWhereItsBeginningIsOutOfView) {
+    const auto line =
+        std::make_shared<PathSheet>("Save As", "/home/" + std::string(80, 'x') + " 2026");
+    screen.desk.BringUp(line);
+    EXPECT_THAT(screen.Text(), HasSubstr("x 2026"));
+}
+
+TEST_F(DigitsOfBengali, PathInAMessageKeepsItsOwnInAllItsLines) {
+    screen.desk.BringUp(std::make_shared<MessageSheet>(
+        "", "12 /home/" + std::string(80, 'x') + " 2026", std::vector<std::string>{"&OK"}));
+    EXPECT_THAT(screen.Text(), HasSubstr("১২ "));
+    EXPECT_THAT(screen.Text(), HasSubstr(" 2026"));
+}
+
 TEST(HelpText, PageWithoutItsMarks) {
     EXPECT_THAT(
         HelpParagraphs("<html><head><title>T</title><style>p{}</style></head><body>\n<h1>Qibla</h1>"

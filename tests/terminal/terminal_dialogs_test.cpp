@@ -62,6 +62,17 @@ TEST_F(TerminalDialogsTest, FileThatIsThereIsAskedAboutBeforeItIsWrittenAnew) {
     EXPECT_EQ(dialogs.SaveFile({"Save As", "", 1}, ".wav"), folder / "athan.wav");
 }
 
+TEST_F(TerminalDialogsTest, LineForAPathSaysWhatItIsForWhereNothingElseDoes) {
+    std::string seen;
+    screen.whileWaiting = [&] {
+        seen = screen.Text();
+        screen.LayOut({kEscape});
+    };
+    EXPECT_EQ(dialogs.SaveFile({"", "", 1}, ".txt"), "");
+    EXPECT_THAT(seen, HasSubstr("Save as"));
+    EXPECT_THAT(seen, HasSubstr(" ~/ "));
+}
+
 TEST_F(TerminalDialogsTest, NewFileIsNotAskedAbout) {
     LayOutPath(folder / "other");
     EXPECT_EQ(dialogs.SaveFile({"Save As", "", 1}, ".wav"), folder / "other.wav");
