@@ -281,7 +281,7 @@ private:
     double point_;  // pixels of the device
     const PrintedYear& year_;
     int month_;
-    std::vector<TimetableDay> days_;
+    std::span<const TimetableDay> days_;
     std::vector<double> widths_;  // of the columns, pixels
     double top_ = area_.top();    // where the next line begins
 };

@@ -47,8 +47,10 @@ std::string MomentText(const Moment& moment) {
 }
 
 std::string CellWithMarks(const std::string& clock, const Moment& moment) {
-    const char* shift = IsOnNextDay(moment) ? "+1" : IsOnPreviousDay(moment) ? "-1" : "";
-    return clock + shift + (HasDagger(moment) ? kRuleMark : "");
+    std::string text = clock;
+    text += IsOnNextDay(moment) ? "+1" : IsOnPreviousDay(moment) ? "-1" : "";
+    text += HasDagger(moment) ? kRuleMark : "";
+    return text;
 }
 
 std::string MomentCell(const Moment& moment) {

@@ -37,7 +37,11 @@ Date DayOf(Date moment) {
 
 std::string FixedFormats::MediumTime(Date time) const {
     const ClockTime t = ClockTimeOf(time);
-    return TwoDigits(HourOfDial(t.hour)) + ":" + TwoDigits(t.minute) + HalfOfDay(t.hour);
+    std::string text = TwoDigits(HourOfDial(t.hour));
+    text += ':';
+    text += TwoDigits(t.minute);
+    text += HalfOfDay(t.hour);
+    return text;
 }
 
 std::string FixedFormats::LongTime(Date time) const {

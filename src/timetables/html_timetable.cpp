@@ -114,7 +114,7 @@ std::string Row(const TimetableDay& day, const TimetableWords& words, Date today
     return "<tr" + RowAttributes(day, today) + ">" + cells + "</tr>\n";
 }
 
-std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& days,
+std::string Footnotes(const Timetable& table, std::span<const TimetableDay> days,
                       const TimetableWords& words) {
     std::string notes;
     for (const TimetableDay& day : days) {
@@ -131,7 +131,7 @@ std::string Footnotes(const Timetable& table, const std::vector<TimetableDay>& d
 }
 
 std::string Month(const Timetable& table, const TimetableWords& words, int month, Date today) {
-    const std::vector<TimetableDay> days = DaysOfMonth(table, month);
+    const std::span<const TimetableDay> days = DaysOfMonth(table, month);
     const std::string title = Escaped(words.MonthTitle(table.year, month));
     std::string rows;
     for (const TimetableDay& day : days) {

@@ -67,7 +67,7 @@ Grid::Row RowOf(const TimetableDay& day) {
     return row;
 }
 
-std::string Footnotes(const std::vector<TimetableDay>& days) {
+std::string Footnotes(std::span<const TimetableDay> days) {
     std::vector<std::string> notes;
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
@@ -84,7 +84,7 @@ std::string Footnotes(const std::vector<TimetableDay>& days) {
     return line;
 }
 
-void FillGrid(const std::vector<TimetableDay>& days) {
+void FillGrid(std::span<const TimetableDay> days) {
     Grid& grid = frmMonth->grdMonth;
     grid.heads = {shown->words.day, shown->words.hijri};
     std::ranges::copy(shown->words.Heads(days.front()), std::back_inserter(grid.heads));

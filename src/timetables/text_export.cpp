@@ -40,8 +40,21 @@ std::string Rule(std::size_t width = kPageWidth) {
     return std::string(width, '-') + Crlf;
 }
 
-std::string Cell(const std::string& text) {
-    return " " + CenterText(text, kTimeWidth);
+void AppendCentered(std::string& page, std::string_view text, std::size_t width) {
+    const std::size_t length = Utf8Length(text);
+    if (length >= width) {
+        page += Utf8FirstCharacters(text, width);
+        return;
+    }
+    const std::size_t before = (width - length) / 2;
+    page.append(before, ' ');
+    page += text;
+    page.append(width - length - before, ' ');
+}
+
+void AppendCell(std::string& page, std::string_view text) {
+    page += ' ';
+    AppendCentered(page, text, kTimeWidth);
 }
 
 std::string PlaceLines() {
@@ -68,8 +81,8 @@ std::string ColumnLines() {
     std::string translated(kDayCaptionWidth, ' ');
     std::string fixed = CenterText(Text(TextEntry::kDay), kDayCaptionWidth);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        translated += Cell(Text(PrayerNameEntry(prayer)));
-        fixed += Cell(prayerNames.at(prayer));
+        AppendCell(translated, Text(PrayerNameEntry(prayer)));
+        AppendCell(fixed, prayerNames.at(prayer));
     }
     return translated + Crlf + fixed + Crlf;
 }
@@ -79,9 +92,9 @@ std::string Header(const Timetable& table) {
     return PlaceLines() + ZoneLine(table) + QiblaLine() + Rule() + ColumnLines() + Rule();
 }
 
-std::string MonthTitle(Date date) {
-    const std::string title =
-        Text(TextEntry::kPrayerTimesOf) + " " + Ports().formats.MonthAndYear(date) + ".";
+/// prayerTimesOf: the words before the month.
+std::string MonthTitle(const std::string& prayerTimesOf, Date date) {
+    const std::string title = prayerTimesOf + " " + Ports().formats.MonthAndYear(date) + ".";
     return Rule() + CenterText(title, kPageWidth) + Crlf + Crlf;
 }
 
@@ -121,13 +134,13 @@ std::string DaylightMark(DaylightChange change, DaylightNote& flag) {
 }
 
 /// day: 1-based day of the year.
-std::string DayCells(const ExportedYear& year, int day, int dayOfMonth) {
-    std::string cells = CenterText(std::to_string(dayOfMonth), kDayWidth);
+void AppendDayCells(std::string& page, const ExportedYear& year, int day, int dayOfMonth) {
+    AppendCentered(page, std::to_string(dayOfMonth), kDayWidth);
     const YearSource source = {year.basis.inputs, year.times, year.basis.rules.moments};
     for (const Moment& moment : MomentsOf(source, static_cast<std::size_t>(day) - 1)) {
-        cells += Cell(MomentCell(moment));
+        AppendCell(page, MomentCell(moment));
     }
-    return cells + Crlf;
+    page += Crlf;
 }
 
 /// Groups of five days; the last one of a month runs into the rule.
@@ -166,12 +179,9 @@ std::string MarkLines(const Timetable& table, int month) {
 }  // namespace
 
 std::string CenterText(std::string_view text, std::size_t width) {
-    const std::size_t length = Utf8Length(text);
-    if (length >= width) {
-        return std::string(Utf8FirstCharacters(text, width));
-    }
-    const std::size_t before = (width - length) / 2;
-    return std::string(before, ' ') + std::string(text) + std::string(width - length - before, ' ');
+    std::string centered;
+    AppendCentered(centered, text, width);
+    return centered;
 }
 
 void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& file) {
@@ -188,6 +198,7 @@ void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& 
 void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) {
     const ExportedYear year;
     const std::string header = Header(year.table);
+    const std::string prayerTimesOf = Text(TextEntry::kPrayerTimesOf);
     std::string page;
     DaylightNote flag = kNoNote;
     int monthIndex = 0;
@@ -201,9 +212,10 @@ void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) 
                 sub0529(flag, monthIndex, page, file);
                 page = kFormFeed;
             }
-            page += MonthTitle(date) + header;
+            page += MonthTitle(prayerTimesOf, date) + header;
         }
-        page += DaylightMark(ChangeOn(year, n), flag) + DayCells(year, n, civil.day);
+        page += DaylightMark(ChangeOn(year, n), flag);
+        AppendDayCells(page, year, n, civil.day);
         page += EndsGroup(civil.day) ? Crlf : "";
         if (isCancelled()) {
             break;

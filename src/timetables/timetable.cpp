@@ -40,7 +40,7 @@ std::optional<Moment> IfExists(const Moment& moment) {
     return std::fabs(moment.hours) < NoEvent ? std::optional(moment) : std::nullopt;
 }
 
-TimetableDay TakeDay(std::size_t row) {
+TimetableDay TakeDay(std::size_t row, bool withTimesAround) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
     const ZoneSpan clock = ClockOf(date);
     TimetableDay day = {
@@ -49,7 +49,7 @@ TimetableDay TakeDay(std::size_t row) {
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         day.moments[prayer] = IfExists(moments[prayer]);
     }
-    if (ReadOption(option::kAroundTheDay) == 1) {
+    if (withTimesAround) {
         std::ranges::transform(AroundOfRow(row), std::back_inserter(day.around), IfExists);
     }
     return day;
@@ -106,8 +106,10 @@ Timetable TakeTimetable() {
                        .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        .days = {}};
     const std::size_t count = LeapFlag == 1 ? 366 : 365;
+    const bool withTimesAround = ReadOption(option::kAroundTheDay) == 1;
+    table.days.reserve(count);
     for (std::size_t row = 0; row < count; ++row) {
-        table.days.push_back(TakeDay(row));
+        table.days.push_back(TakeDay(row, withTimesAround));
     }
     MarkChanges(table.days);
     if (!table.zone.empty()) {
@@ -120,23 +122,24 @@ double OffsetOf(const Timetable& table, const TimetableDay& day, Date local) {
     return table.zone.empty() ? day.offset : SpanOfLocal(table.zone, local).hours;
 }
 
-std::vector<std::string> NotesOfDays(const Timetable& table,
-                                     const std::vector<TimetableDay>& days) {
+std::vector<std::string> NotesOfDays(const Timetable& table, std::span<const TimetableDay> days) {
     std::vector<Moment> moments;
+    const auto take = [&](const std::optional<Moment>& moment) {
+        moments.push_back(moment.value_or(Moment{}));
+    };
     for (const TimetableDay& day : days) {
-        for (const auto& moment : day.Columns()) {
-            moments.push_back(moment.value_or(Moment{}));
-        }
+        std::ranges::for_each(day.moments, take);
+        std::ranges::for_each(day.around, take);
     }
     return ColumnNotes(moments, table.highLatitude);
 }
 
-std::vector<TimetableDay> DaysOfMonth(const Timetable& table, int month) {
-    std::vector<TimetableDay> days;
-    std::copy_if(
-        table.days.begin(), table.days.end(), std::back_inserter(days),
-        [month](const TimetableDay& day) { return CivilFromDate(day.date).month == month; });
-    return days;
+std::span<const TimetableDay> DaysOfMonth(const Timetable& table, int month) {
+    const auto rowOf = [&](int first) {
+        return static_cast<std::size_t>(DateSerial(table.year, first, 1) -
+                                        DateSerial(table.year, 1, 1));
+    };
+    return std::span(table.days).subspan(rowOf(month), rowOf(month + 1) - rowOf(month));
 }
 
 DayMinute MinuteOf(Date day, double hours) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -55,15 +56,15 @@ struct Timetable {
 /// The table of CurrentYear under the accepted settings.
 Timetable TakeTimetable();
 
-/// The days of a month, 1 to 12.
-std::vector<TimetableDay> DaysOfMonth(const Timetable& table, int month);
+/// The days of a month, 1 to 12. The table must live as long.
+std::span<const TimetableDay> DaysOfMonth(const Timetable& table, int month);
 
 /// Hours that the clock which shows a local time is ahead of Greenwich. day: the one whose moment
 /// it is.
 double OffsetOf(const Timetable& table, const TimetableDay& day, Date local);
 
 /// What the marks beside the times of some days mean, a line each.
-std::vector<std::string> NotesOfDays(const Timetable& table, const std::vector<TimetableDay>& days);
+std::vector<std::string> NotesOfDays(const Timetable& table, std::span<const TimetableDay> days);
 
 /// The hour of a prayer in whole minutes, as every display shows it: rounded to the second, the
 /// seconds then dropped. An hour of 24 or more lies on the day after.

@@ -124,7 +124,8 @@ TEST_F(TimetableModelTest, MomentHasTheOffsetOfItsOwnTime) {
 }
 
 TEST_F(TimetableModelTest, NotesTellTheMarksOfTheirDays) {
-    EXPECT_THAT(NotesOfDays(TakeTimetable(), DaysOfMonth(TakeTimetable(), 6)), IsEmpty());
+    const Timetable plain = TakeTimetable();
+    EXPECT_THAT(NotesOfDays(plain, DaysOfMonth(plain, 6)), IsEmpty());
     Oslo();
     const Timetable table = TakeTimetable();
     EXPECT_THAT(NotesOfDays(table, DaysOfMonth(table, 6)),
