@@ -134,6 +134,9 @@ TEST_F(FaceSheetTest, AthanWindowTakesItsStopAndNoOtherKey) {
     EXPECT_THAT(commands, testing::ElementsAre("IDC_FS_help")) << "for what lies below";
     screen.Press(KeyCode::kEnter);
     EXPECT_EQ(commands.back(), "IDC_FS_Stop");
+    commands.clear();
+    screen.Press(KeyCode::kEscape);
+    EXPECT_THAT(commands, testing::ElementsAre("IDC_FS_Stop"));
 }
 
 TEST_F(FaceSheetTest, AthanWindowIsThereAsLongAsTheAthanIs) {

@@ -141,6 +141,9 @@ TEST_F(Sheets, LongMessageIsMovedThrough) {
     EXPECT_THAT(screen.Text(), HasSubstr("the end"));
     screen.Press(KeyCode::kUp);
     EXPECT_THAT(screen.Text(), Not(HasSubstr("the end")));
+    screen.Press(KeyCode::kPageUp);
+    EXPECT_THAT(screen.Text(), Not(HasSubstr("line 58 ")));
+    EXPECT_THAT(screen.Text(), HasSubstr("line 30 "));
 }
 
 TEST_F(Sheets, ListThatDropsDownIsSearchedByWhatIsTyped) {
