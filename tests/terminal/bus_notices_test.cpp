@@ -60,6 +60,9 @@ public:
             .withArguments(number, kByTheUser);
     }
 
+    /// Returns once the bus has handed on what was told.
+    void Flush() { bus_->requestName("org.horavex.Flushed"); }
+
     std::vector<Shown> shown;
     std::vector<std::uint32_t> closed;
 
@@ -197,6 +200,7 @@ TEST_F(BusNoticesTest, PressCountsThatIsReadTogetherWithTheCloseBehindIt) {
     ASSERT_TRUE(Until([&] { return desktop->shown.size() == 2; }));
     desktop->Press(1, "open");
     desktop->Dismiss(1);
+    desktop->Flush();
     EXPECT_TRUE(Until([&] { return desktop->shown.size() == 3; })) << "it is to stand";
     EXPECT_THAT(actions, ElementsAre(Pair(NoticeKind::kAthan, NoticeAction::kOpen)));
 }
