@@ -6,6 +6,8 @@
 set -euo pipefail
 library=$PWD/build/release/lib/libhoravex.so.0
 export PYTHONDONTWRITEBYTECODE=1 PYTHONPATH=$PWD/python HORAVEX_LIBRARY=$library
-sanitizers=$(ldd "$library" | sed -nE 's/.*libasan.* => (\S+) .*/\1/p')
-[ -z "$sanitizers" ] || export LD_PRELOAD=$sanitizers ASAN_OPTIONS=detect_leaks=0
+path_of() { ldd "$library" | sed -nE "s/.*$1.* => (\S+) .*/\1/p"; }
+sanitizers=$(path_of libasan)
+[ -z "$sanitizers" ] ||
+    export LD_PRELOAD=$sanitizers:$(path_of libstdc++) ASAN_OPTIONS=detect_leaks=0
 exec "$@"
