@@ -12,7 +12,8 @@ install(FILES docs/org.horavex.PrayerTimes.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/interfaces)
 
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/horavex)
-install(FILES LICENSE CHANGELOG.md docs/bus.md docs/service.md docs/status-bars.md docs/terminal.md
+install(FILES LICENSE CHANGELOG.md docs/bus.md docs/library.md docs/service.md docs/status-bars.md
+              docs/terminal.md
         DESTINATION ${documents})
 # Whose the data are, in the folders that the texts name.
 foreach(file data/README.md data/gazetteer/LICENSE.md data/athan/README.md)
