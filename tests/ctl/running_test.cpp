@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -260,6 +261,17 @@ TEST_F(RunningTest, FollowedItFailsWithOneLineWhenTheBusEnds) {
     EXPECT_EQ(child.Wait(), 1);
     EXPECT_THAT(ContentOf(folder / "complaint"),
                 MatchesRegex("horavexctl: the session bus: [^\n]+\n"));
+}
+
+TEST_F(RunningTest, ProgramThatEndsBeforeItAnswersDoesNotRun) {
+    Serve();
+    ChildProcess child = Start({"status"});
+    pollfd question{broadcast->Descriptor(), POLLIN, 0};
+    ASSERT_EQ(poll(&question, 1, 20000), 1);
+    broadcast.reset();
+    EXPECT_EQ(child.Wait(), 1);
+    EXPECT_EQ(ContentOf(folder / "complaint"),
+              "horavexctl: Horavex does not run in this session\n");
 }
 
 TEST_F(RunningTest, RequestsReachTheProgram) {
