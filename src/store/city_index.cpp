@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <memory>
 #include <numeric>
 #include <string_view>
 #include <utility>
@@ -48,24 +49,57 @@ std::uint64_t WordAt(ByteView bytes, std::size_t at) {
     return word;
 }
 
-/// Takes bytes into a mark: other bytes give another mark, though not against whoever seeks the
-/// same. Four lanes of words go on beside each other, for the processor waits in one of them.
-std::uint64_t Mark(ByteView bytes, std::uint64_t mark) {
-    constexpr std::size_t kWord = sizeof(std::uint64_t);
-    std::array<std::uint64_t, 4> lanes = {mark, mark + 1, mark + 2, mark + 3};
-    for (std::size_t at = 0; at < bytes.size(); at += lanes.size() * kWord) {
-        for (std::size_t lane = 0; lane < lanes.size(); ++lane) {
-            lanes[lane] = Mixed(lanes[lane], WordAt(bytes, at + lane * kWord));
+/// The mark of bytes: other bytes give another mark, though not against whoever seeks the same.
+/// Four lanes of words go on beside each other, for the processor waits in one of them.
+class Marking {
+public:
+    static constexpr std::size_t kBlock = 65536;  // bytes, a round of the lanes over and over
+
+    explicit Marking(std::uint64_t mark) : lanes_{mark, mark + 1, mark + 2, mark + 3} {}
+
+    /// Goes on with a block; all but the last are of kBlock bytes.
+    void Take(ByteView block) {
+        constexpr std::size_t kWord = sizeof(std::uint64_t);
+        for (std::size_t at = 0; at < block.size(); at += lanes_.size() * kWord) {
+            for (std::size_t lane = 0; lane < lanes_.size(); ++lane) {
+                lanes_[lane] = Mixed(lanes_[lane], WordAt(block, at + lane * kWord));
+            }
         }
+        size_ += block.size();
     }
-    return std::accumulate(lanes.begin(), lanes.end(), std::uint64_t{bytes.size()}, Mixed);
+
+    std::uint64_t Mark() const {
+        return std::accumulate(lanes_.begin(), lanes_.end(), size_, Mixed);
+    }
+
+private:
+    std::array<std::uint64_t, 4> lanes_;
+    std::uint64_t size_ = 0;
+};
+
+std::uint64_t Mark(ByteView bytes, std::uint64_t mark) {
+    Marking marking(mark);
+    marking.Take(bytes);
+    return marking.Mark();
+}
+
+/// Of a file from an offset on, block by block: the room for all of it costs more than its mark.
+std::uint64_t MarkOf(OpenFile& file, std::size_t offset, std::uint64_t mark) {
+    Marking marking(mark);
+    Bytes block;
+    do {
+        block = file.ReadAt(static_cast<std::int64_t>(offset), Marking::kBlock);
+        marking.Take(block);
+        offset += block.size();
+    } while (block.size() == Marking::kBlock);
+    return marking.Mark();
 }
 
 /// Of everything that names and places in the list come from.
 std::uint64_t MarkOfFiles(ByteView otherNames) {
     std::uint64_t mark = Mark(otherNames, 0);
     for (const char* file : {"Dat\\SI.DAt", "Dat\\CI.DAT", "Dat\\C.DAt"}) {
-        mark = Mark(Ports().programFolder.ReadWhole(file), mark);
+        mark = MarkOf(*Ports().programFolder.OpenForReading(file), 0, mark);
     }
     return mark;
 }
@@ -113,44 +147,69 @@ Bytes RecordsOf(const std::vector<Entry>& entries) {
     return records;
 }
 
-std::uint32_t KeyAt(ByteView records, std::size_t number) {
-    return static_cast<std::uint32_t>(GetInt32(records, number * kRecord));
-}
+/// The index on the disk, of which a search reads a few records.
+class IndexFile {
+public:
+    IndexFile() : file_(Ports().programFolder.OpenForReading(kIndex)) {}
 
-/// The places under a key, which rise.
-std::vector<std::uint16_t> PlacesOf(ByteView records, std::uint32_t key) {
-    std::size_t first = 0;
-    for (std::size_t end = records.size() / kRecord; first < end;) {
-        const std::size_t middle = first + (end - first) / 2;
-        (KeyAt(records, middle) < key ? first = middle + 1 : end = middle);
+    bool IsSound(ByteView otherNames) const {
+        const Bytes head = file_->ReadAt(0, kHead);
+        return head.size() == kHead && RecordsAreWhole() &&
+               IsMark(head, 0, MarkOfFiles(otherNames)) &&
+               IsMark(head, 8, MarkOf(*file_, kHead, 0));
     }
-    std::vector<std::uint16_t> places;
-    for (; first < records.size() / kRecord && KeyAt(records, first) == key; ++first) {
-        places.push_back(static_cast<std::uint16_t>(GetInt16(records, first * kRecord + 4)));
-    }
-    return places;
-}
 
-bool IsSound(ByteView index, ByteView otherNames) {
-    if (index.size() < kHead || (index.size() - kHead) % kRecord != 0) {
-        return false;
+    /// The places under a key, which rise.
+    std::vector<std::uint16_t> PlacesOf(std::uint32_t key) const {
+        const std::size_t count = Count();
+        std::size_t first = 0;
+        for (std::size_t end = count; first < end;) {
+            const std::size_t middle = first + (end - first) / 2;
+            (At(middle).first < key ? first = middle + 1 : end = middle);
+        }
+        std::vector<std::uint16_t> places;
+        for (Entry entry; first < count && (entry = At(first)).first == key; ++first) {
+            places.push_back(entry.second);
+        }
+        return places;
     }
-    const Bytes files = BytesOfMark(MarkOfFiles(otherNames));
-    const Bytes records = BytesOfMark(Mark(index.subspan(kHead), 0));
-    return std::equal(files.begin(), files.end(), index.begin()) &&
-           std::equal(records.begin(), records.end(), index.begin() + 8);
-}
+
+private:
+    static bool IsMark(ByteView head, std::size_t at, std::uint64_t mark) {
+        return std::ranges::equal(head.subspan(at, 8), BytesOfMark(mark));
+    }
+
+    std::size_t Count() const {
+        return (static_cast<std::size_t>(file_->Size()) - kHead) / kRecord;
+    }
+
+    bool RecordsAreWhole() const {
+        return (static_cast<std::size_t>(file_->Size()) - kHead) % kRecord == 0;
+    }
+
+    Entry At(std::size_t number) const {
+        const Bytes record =
+            file_->ReadAt(static_cast<std::int64_t>(kHead + number * kRecord), kRecord);
+        if (record.size() != kRecord) {
+            throw BoundsFault(std::string(kIndex) + ": cut short while it was read");
+        }
+        return {static_cast<std::uint32_t>(GetInt32(record, 0)),
+                static_cast<std::uint16_t>(GetInt16(record, 4))};
+    }
+
+    std::unique_ptr<OpenFile> file_;
+};
 
 }  // namespace
 
 std::optional<std::vector<ListedCity>> CitiesThatMayBe(const std::string& name) {
     std::optional<std::vector<ListedCity>> cities;
     RunStep([&] {
-        const Bytes index = Ports().programFolder.ReadWhole(kIndex);
+        const IndexFile index;
         const Bytes otherNames = Ports().programFolder.ReadWhole(kOtherNames);
-        if (IsSound(index, otherNames)) {
+        if (index.IsSound(otherNames)) {
             const std::uint32_t key = KeyOf(FoldCityName(std::string(Trim(name))));
-            cities = ListCitiesAt(PlacesOf(ByteView(index).subspan(kHead), key), otherNames);
+            cities = ListCitiesAt(index.PlacesOf(key), otherNames);
         }
     });
     return cities;

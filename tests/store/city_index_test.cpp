@@ -82,6 +82,16 @@ TEST_F(CityIndexTest, OfOtherLocationFilesThereIsNoAnswer) {
     EXPECT_FALSE(CitiesThatMayBe("Cairo"));
 }
 
+TEST_F(CityIndexTest, LastByteOfALargeFileCounts) {
+    Bytes large = data.Read("Dat/C.DAt");
+    large.resize(200000);
+    data.Write("Dat/C.DAt", large);
+    data.Write("Dat/NI.DAT", MakeCityIndex());
+    EXPECT_TRUE(CitiesThatMayBe("Cairo"));
+    data.SetByte("Dat/C.DAt", large.size() - 1, 1);
+    EXPECT_FALSE(CitiesThatMayBe("Cairo"));
+}
+
 TEST_F(CityIndexTest, DamagedFileGivesNoAnswer) {
     const Bytes sound = data.Read("Dat/NI.DAT");
     for (std::size_t size = 0; size < sound.size(); ++size) {
