@@ -9,7 +9,7 @@ export LC_ALL=C
 cd "$1"
 
 folders=()
-for folder in CMakeLists.txt cmake src ctl data desktop linux terminal tools; do
+for folder in CMakeLists.txt cmake src ctl data desktop lib linux terminal tools; do
     [[ ! -e $folder ]] || folders+=("$folder")
 done
 if ((${#folders[@]} == 0)); then
