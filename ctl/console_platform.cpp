@@ -11,22 +11,12 @@
 #include "engine/limit_message.h"
 #include "engine/year_table.h"
 #include "geo/qibla.h"
-#include "linux/folders.h"
+#include "linux/program_stores.h"
 #include "store/settings_record.h"
 
 namespace horavex {
 
 namespace {
-
-ProgramFolder FindProgramFolder(Files& files) {
-    const ProgramFolders folders = FindProgramFolders();
-    return {files, folders.user, folders.installed};
-}
-
-RegistryFile FindRegistry(Files& files) {
-    const RegistryFiles paths = FindRegistryFiles();
-    return {files, paths.user, paths.machine};
-}
 
 Date WorkingZoneTime() {
     const Date universal = SystemClock().UniversalNow();

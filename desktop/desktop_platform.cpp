@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <utility>
 
-#include "linux/file_status.h"
 #include "linux/folders.h"
 #include "linux/left_overs.h"
+#include "linux/program_stores.h"
 #include "platform/fault_box.h"
 #include "shell/close_face.h"
 #include "windows/frm_main.h"
@@ -13,16 +13,6 @@
 namespace horavex {
 
 namespace {
-
-ProgramFolder FindProgramFolder(Files& files) {
-    const ProgramFolders folders = FindProgramFolders();
-    return {files, folders.user, folders.installed};
-}
-
-RegistryFile FindRegistry(Files& files) {
-    const RegistryFiles paths = FindRegistryFiles();
-    return {files, paths.user, paths.machine, StampOfFile};
-}
 
 // The folders that the program writes into.
 std::vector<std::string> OwnFolders() {

@@ -3,23 +3,13 @@
 #include <utility>
 #include <vector>
 
-#include "linux/file_status.h"
 #include "linux/folders.h"
 #include "linux/left_overs.h"
+#include "linux/program_stores.h"
 
 namespace horavex {
 
 namespace {
-
-ProgramFolder FindProgramFolder(Files& files) {
-    const ProgramFolders folders = FindProgramFolders();
-    return {files, folders.user, folders.installed};
-}
-
-RegistryFile FindRegistry(Files& files) {
-    const RegistryFiles paths = FindRegistryFiles();
-    return {files, paths.user, paths.machine, StampOfFile};
-}
 
 // The folders that the program writes into.
 std::vector<std::string> OwnFolders() {
