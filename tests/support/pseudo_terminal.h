@@ -1,25 +1,19 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <string>
 #include <vector>
 
-#include "linux/system_call.h"
-#include "support/run_program.h"
+#include "support/terminal_process.h"
 
 namespace horavex {
 
-/// A program, by its path or out of the build's bin folder, in a terminal of its own, which it
-/// controls.
+/// A program in a terminal of its own, and what it prints there.
 class PseudoTerminal {
 public:
+    /// name: a path, or a program of the build's bin folder.
     PseudoTerminal(const std::string& name, const std::vector<std::string>& arguments,
-                   const Environment& environment);
-    /// Ends the program if it still runs.
-    ~PseudoTerminal();
-    PseudoTerminal(const PseudoTerminal&) = delete;
-    PseudoTerminal& operator=(const PseudoTerminal&) = delete;
+                   const Environment& environment)
+        : process_(name, arguments, environment) {}
 
     /// What is printed from here to the end of the mark, which it waits for. Throws where half a
     /// minute brings nothing new, and where the program ends before it.
@@ -29,19 +23,18 @@ public:
     std::string ReadToEnd();
 
     /// Types characters.
-    void Type(const std::string& keys) const;
+    void Type(const std::string& keys) const { process_.Type(keys); }
 
-    void Signal(int signal) const;
+    void Signal(int signal) const { process_.Signal(signal); }
 
     /// Waits for the end and tells the exit status, as ProgramRun has it.
-    int Wait();
+    int Wait() { return process_.Wait(); }
 
 private:
     /// False at the end of what the program prints.
     bool ReadMore();
 
-    pid_t process_ = -1;
-    Descriptor terminal_;
+    TerminalProcess process_;
     std::string unread_;
 };
 

@@ -1,19 +1,9 @@
 #include "terminal/virtual_terminal.h"
 
-#include <poll.h>
-#include <pty.h>
-#include <signal.h>
-#include <sys/ioctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
 #include <chrono>
 #include <stdexcept>
-#include <utility>
 
 #include "base/utf8.h"
-#include "support/build_folder.h"
 
 namespace horavex {
 
@@ -32,7 +22,8 @@ winsize SizeOf(int rows, int columns) {
 
 VirtualTerminal::VirtualTerminal(const std::vector<std::string>& arguments,
                                  const Environment& environment, int rows, int columns)
-    : emulator_(::vterm_new(rows, columns)) {
+    : process_("horavex-terminal", arguments, environment, SizeOf(rows, columns)),
+      emulator_(::vterm_new(rows, columns)) {
     ::vterm_set_utf8(emulator_.get(), 1);
     screen_ = ::vterm_obtain_screen(emulator_.get());
     static VTermScreenCallbacks callbacks{};
@@ -40,30 +31,6 @@ VirtualTerminal::VirtualTerminal(const std::vector<std::string>& arguments,
     ::vterm_screen_set_callbacks(screen_, &callbacks, this);
     ::vterm_screen_enable_altscreen(screen_, 1);
     ::vterm_screen_reset(screen_, 1);
-    std::vector<std::string> words = {BuildPath("bin/horavex-terminal")};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    auto variables = AssignmentsOf(environment);
-    const auto wordPointers = PointersOf(words);
-    const auto variablePointers = PointersOf(variables);
-    winsize size = SizeOf(rows, columns);
-    int terminal = -1;
-    process_ = ::forkpty(&terminal, nullptr, nullptr, &size);
-    if (process_ == 0) {
-        ::execve(wordPointers[0], wordPointers.data(), variablePointers.data());
-        ::_exit(127);
-    }
-    if (process_ < 0) {
-        throw std::runtime_error("no pseudo terminal");
-    }
-    terminal_ = Descriptor(terminal);
-}
-
-VirtualTerminal::~VirtualTerminal() {
-    if (process_ > 0) {
-        Signal(SIGKILL);
-        int status = 0;
-        ::waitpid(process_, &status, 0);
-    }
 }
 
 int VirtualTerminal::OnProperty(VTermProp property, VTermValue* value, void* self) {
@@ -74,19 +41,10 @@ int VirtualTerminal::OnProperty(VTermProp property, VTermValue* value, void* sel
 }
 
 bool VirtualTerminal::ReadMore(int milliseconds) {
-    pollfd wanted{terminal_.Number(), POLLIN, 0};
-    if (::poll(&wanted, 1, milliseconds) <= 0) {
-        return true;
-    }
-    std::array<char, 4096> block{};
-    // The last process to leave a terminal makes its reads fail.
-    const ssize_t count = ::read(terminal_.Number(), block.data(), block.size());
-    if (count <= 0) {
-        return false;
-    }
-    written_.append(block.data(), static_cast<std::size_t>(count));
-    ::vterm_input_write(emulator_.get(), block.data(), static_cast<std::size_t>(count));
-    return true;
+    const std::size_t before = written_.size();
+    const TerminalProcess::Came came = process_.ReadInto(written_, milliseconds);
+    ::vterm_input_write(emulator_.get(), written_.data() + before, written_.size() - before);
+    return came != TerminalProcess::Came::kEnd;
 }
 
 std::string VirtualTerminal::WaitUntil(const std::function<bool(const std::string&)>& isSo,
@@ -120,37 +78,15 @@ void VirtualTerminal::WaitForSilence() {
     } while (written_.size() > before);
 }
 
-void VirtualTerminal::Type(const std::string& keys) const {
-    if (::write(terminal_.Number(), keys.data(), keys.size()) !=
-        static_cast<ssize_t>(keys.size())) {
-        throw std::runtime_error("the terminal takes no keys");
-    }
-}
-
 void VirtualTerminal::Resize(int rows, int columns) {
     ::vterm_set_size(emulator_.get(), rows, columns);
-    const winsize size = SizeOf(rows, columns);
-    ::ioctl(terminal_.Number(), TIOCSWINSZ, &size);
-}
-
-void VirtualTerminal::Signal(int signal) const {
-    ::kill(process_, signal);
-}
-
-void VirtualTerminal::WaitForStop() const {
-    int status = 0;
-    ::waitpid(process_, &status, WUNTRACED);
-    if (!WIFSTOPPED(status)) {
-        throw std::runtime_error("the program has ended instead");
-    }
+    process_.Resize(SizeOf(rows, columns));
 }
 
 int VirtualTerminal::Wait() {
     while (ReadMore()) {
     }
-    int status = 0;
-    ::waitpid(std::exchange(process_, -1), &status, 0);
-    return ExitStatus(status);
+    return process_.Wait();
 }
 
 std::string VirtualTerminal::Text() const {

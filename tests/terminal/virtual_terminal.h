@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "linux/system_call.h"
-#include "support/run_program.h"
+#include "support/terminal_process.h"
 
 namespace horavex {
 
@@ -17,8 +16,6 @@ class VirtualTerminal {
 public:
     VirtualTerminal(const std::vector<std::string>& arguments, const Environment& environment,
                     int rows = 24, int columns = 80);
-    /// Ends the program if it still runs.
-    ~VirtualTerminal();
     VirtualTerminal(const VirtualTerminal&) = delete;
     VirtualTerminal& operator=(const VirtualTerminal&) = delete;
 
@@ -34,13 +31,13 @@ public:
     void WaitForSilence();
 
     /// Types characters, or the sequences below.
-    void Type(const std::string& keys) const;
+    void Type(const std::string& keys) const { process_.Type(keys); }
 
     void Resize(int rows, int columns);
-    void Signal(int signal) const;
+    void Signal(int signal) const { process_.Signal(signal); }
 
     /// Waits until the program has been stopped, which comes behind all that it writes before.
-    void WaitForStop() const;
+    void WaitForStop() const { process_.WaitForStop(); }
 
     /// Waits for the end and tells the exit status, as ProgramRun has it.
     int Wait();
@@ -64,8 +61,7 @@ private:
     bool ReadMore(int milliseconds = kTurn);
     static int OnProperty(VTermProp property, VTermValue* value, void* self);
 
-    pid_t process_ = -1;
-    Descriptor terminal_;
+    TerminalProcess process_;
     std::unique_ptr<VTerm, FreeScreen> emulator_;
     VTermScreen* screen_ = nullptr;
     std::string written_;
