@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <poll.h>
 #include <sys/stat.h>
+#include <sys/timerfd.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -187,17 +188,29 @@ TEST_F(RunningTest, OutputThatCannotBeWrittenEndsItWithAFailure) {
               "horavexctl: the standard output cannot be written\n");
 }
 
-/// Seconds for which the timer of a process is set; 0 where it is not.
-std::string TimerOf(const ChildProcess& child) {
+/// What the system tells of the timer of a process behind a word, to a sign.
+std::string OfTimer(const ChildProcess& child, const std::string& word, char sign) {
     for (const auto& entry :
          std::filesystem::directory_iterator("/proc/" + std::to_string(child.Id()) + "/fdinfo")) {
         const std::string text = ContentOf(entry.path());
-        const std::size_t at = text.find("it_value: (");
+        const std::size_t at = text.find(word);
         if (at != std::string::npos) {
-            return text.substr(at + 11, text.find(',', at) - at - 11);
+            const std::size_t begin = at + word.size();
+            return text.substr(begin, text.find(sign, begin) - begin);
         }
     }
     return "no timer";
+}
+
+/// Seconds for which it is set; 0 where it is not.
+std::string TimerOf(const ChildProcess& child) {
+    return OfTimer(child, "it_value: (", ',');
+}
+
+/// Whether a clock that is set anew wakes it.
+bool MindsTheClock(const ChildProcess& child) {
+    return (std::stoi(OfTimer(child, "settime flags: ", '\n'), nullptr, 8) &
+            TFD_TIMER_CANCEL_ON_SET) != 0;
 }
 
 /// "2026-11-21T14:38:00+00:00", so many seconds from now.
@@ -218,11 +231,13 @@ TEST_F(RunningTest, FollowedItIsWokenByTheClockOnlyWhereTheLineTellsTheTimeLeft)
         const ChildProcess child = Start({"status", "--follow", "--format", "{next} {time}"});
         Follow("\n");
         EXPECT_TRUE(WaitUntil("its sleep", [&] { return TimerOf(child) == "0"; }));
+        EXPECT_FALSE(MindsTheClock(child));
     }
     const ChildProcess child = Start({"status", "--follow", "--format", "{remaining}"});
     Follow("\n");
     EXPECT_TRUE(WaitUntil("its sleep", [&] { return std::atoi(TimerOf(child).c_str()) > 0; }));
     EXPECT_LE(std::stoi(TimerOf(child)), 60);
+    EXPECT_TRUE(MindsTheClock(child));
 }
 
 TEST_F(RunningTest, FollowedItSleepsWhenTheTimeHasComeUntilTheProgramTellsOfIt) {
