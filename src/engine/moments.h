@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include "engine/moment.h"
 #include "engine/night_rules.h"
@@ -21,5 +22,8 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row);
 
 /// The moments of a day of the program's year by the rules in force.
 DayMoments MomentsOfRow(std::size_t row);
+
+/// Those of all days of CurrentYear, by row: the same, but what days share is worked out once.
+std::vector<DayMoments> MomentsOfAllRows();
 
 }  // namespace horavex

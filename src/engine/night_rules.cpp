@@ -96,7 +96,7 @@ double EventOf(const YearSource& year, std::size_t row, Prayer prayer) {
 
 /// A day that has Shurooq, Asr and Maghrib. On the first and last days of a polar night the sun's
 /// limb rises by refraction alone, and there is no shadow for Asr.
-std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
+std::optional<PrayerRow> FindWholeDay(const YearSource& year, std::size_t row) {
     PrayerRow hours = StandardRow(year, row);
     for (const Prayer prayer : {kShurooq, kAsr, kMaghrib}) {
         hours[prayer] = EventOf(year, row, prayer);
@@ -105,6 +105,18 @@ std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
         }
     }
     return hours;
+}
+
+/// The same, looked for once where the days are kept.
+std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
+    if (year.wholeDays == nullptr) {
+        return FindWholeDay(year, row);
+    }
+    auto& kept = (*year.wholeDays)[row];
+    if (!kept) {
+        kept = FindWholeDay(year, row);
+    }
+    return *kept;
 }
 
 /// The night before a day's sunrise, or the one after its sunset; NoEvent in a year without days.

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <optional>
 
 #include "engine/moment.h"
 #include "engine/moment_rules.h"
@@ -20,11 +22,16 @@ namespace horavex {
 // Hours here are of the record's standard time, without the daylight hour, from the midnight that
 // begins the day.
 
+/// The days of a year that have Shurooq, Asr and Maghrib, by row, as far as they have been looked
+/// for.
+using WholeDays = std::array<std::optional<std::optional<PrayerRow>>, kYearRows>;
+
 /// What a year's moments are made from.
 struct YearSource {
     const YearInputs& inputs;
     const YearTimes& times;  // by the same inputs
     const MomentRules& rules;
+    WholeDays* wholeDays = nullptr;  // keeps them for the next rows, where there are some
 };
 
 /// A day by the sun alone.

@@ -1,4 +1,5 @@
 #include "engine/around_day.h"
+#include "engine/current_year.h"
 #include "engine/moments.h"
 #include "engine/ruled_year.h"
 #include "engine/year_table.h"
@@ -20,6 +21,17 @@ AroundMoments AroundOfRow(std::size_t row) {
 
 DayMoments MomentsOfRow(std::size_t row) {
     return MomentsOf(ProgramYear(), row);
+}
+
+std::vector<DayMoments> MomentsOfAllRows() {
+    WholeDays wholeDays;
+    YearSource year = ProgramYear();
+    year.wholeDays = &wholeDays;
+    std::vector<DayMoments> moments(365U + static_cast<std::size_t>(LeapFlag));
+    for (std::size_t row = 0; row < moments.size(); ++row) {
+        moments[row] = MomentsOf(year, row);
+    }
+    return moments;
 }
 
 }  // namespace horavex

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <iterator>
 
@@ -40,12 +39,11 @@ std::optional<Moment> IfExists(const Moment& moment) {
     return std::fabs(moment.hours) < NoEvent ? std::optional(moment) : std::nullopt;
 }
 
-TimetableDay TakeDay(std::size_t row, bool withTimesAround) {
+TimetableDay TakeDay(std::size_t row, const DayMoments& moments, bool withTimesAround) {
     const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
     const ZoneSpan clock = ClockOf(date);
     TimetableDay day = {
         date, RuledHijriDate(date), clock.hours, clock.daylight, DaylightChange::kNone, {}, {}};
-    const DayMoments moments = MomentsOfRow(row);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         day.moments[prayer] = IfExists(moments[prayer]);
     }
@@ -73,9 +71,27 @@ double StandardHours(const std::vector<TimetableDay>& days) {
     return standard == days.end() ? days.front().offset : standard->offset;
 }
 
+/// Appends a number with zeros in front up to a width, which a sign is part of.
+void AppendPadded(std::string& text, int value, int width) {
+    char digits[16];
+    char* const end = std::to_chars(digits, digits + sizeof digits, std::abs(value)).ptr;
+    if (value < 0) {
+        text += '-';
+        --width;
+    }
+    for (auto written = end - digits; written < width; ++written) {
+        text += '0';
+    }
+    text.append(digits, end);
+}
+
 std::string IsoDate(int year, int month, int day) {
-    char text[40];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d", year, month, day);
+    std::string text;
+    AppendPadded(text, year, 4);
+    text += '-';
+    AppendPadded(text, month, 2);
+    text += '-';
+    AppendPadded(text, day, 2);
     return text;
 }
 
@@ -105,11 +121,11 @@ Timetable TakeTimetable() {
                        .asrRatio = ActiveSettings.AsrRatio,
                        .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        .days = {}};
-    const std::size_t count = LeapFlag == 1 ? 366 : 365;
+    const std::vector<DayMoments> moments = MomentsOfAllRows();
     const bool withTimesAround = ReadOption(option::kAroundTheDay) == 1;
-    table.days.reserve(count);
-    for (std::size_t row = 0; row < count; ++row) {
-        table.days.push_back(TakeDay(row, withTimesAround));
+    table.days.reserve(moments.size());
+    for (std::size_t row = 0; row < moments.size(); ++row) {
+        table.days.push_back(TakeDay(row, moments[row], withTimesAround));
     }
     MarkChanges(table.days);
     if (!table.zone.empty()) {
@@ -161,15 +177,24 @@ std::string IsoMoment(Date day, double hours, double offset) {
     const double days = std::floor(seconds / kSecondsPerDay);
     const int second = NearestInt(seconds - days * kSecondsPerDay);
     const int zone = std::abs(NearestInt(offset * 60.0));
-    char text[32];
-    std::snprintf(text, sizeof text, "T%02d:%02d:%02d%c%02d:%02d", second / 3600, second / 60 % 60,
-                  second % 60, offset < 0.0 ? '-' : '+', zone / 60, zone % 60);
-    return IsoDate(CivilFromDate(day + days)) + text;
+    std::string text = IsoDate(CivilFromDate(day + days));
+    const auto append = [&text](char mark, int value) {
+        text += mark;
+        AppendPadded(text, value, 2);
+    };
+    append('T', second / 3600);
+    append(':', second / 60 % 60);
+    append(':', second % 60);
+    append(offset < 0.0 ? '-' : '+', zone / 60);
+    append(':', zone % 60);
+    return text;
 }
 
 std::string IsoTime(int minuteOfDay) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d:%02d", minuteOfDay / 60, minuteOfDay % 60);
+    std::string text;
+    AppendPadded(text, minuteOfDay / 60, 2);
+    text += ':';
+    AppendPadded(text, minuteOfDay % 60, 2);
     return text;
 }
 

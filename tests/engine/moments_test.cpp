@@ -501,5 +501,22 @@ TEST(HighLatitude, PoleItselfHasNoMomentsButZuhr) {
     EXPECT_EQ(day[kIsha].hours, NoEvent);
 }
 
+TEST(MomentsOf, DaysThatAreKeptBetweenRowsChangeNoMoment) {
+    for (const double latitude : {30.05, 59.91, 69.65, 78.22, -89.0}) {
+        for (const auto rule : {HighLatitudeRule::kNone, HighLatitudeRule::kMiddle,
+                                HighLatitudeRule::kSeventh, HighLatitudeRule::kNearest}) {
+            Case place = Case(latitude, 18.95, 1.0, 18.0).Rule(rule);
+            place.rules.offsets[kFajr] = 1;  // there are rules whatever the rule
+            place.Calculate();
+            WholeDays kept;
+            for (std::size_t row = 0; row < 365; ++row) {
+                const YearSource alone = {place.inputs, place.table.times, place.rules};
+                const YearSource year = {place.inputs, place.table.times, place.rules, &kept};
+                EXPECT_EQ(MomentsOf(year, row), MomentsOf(alone, row)) << latitude << " " << row;
+            }
+        }
+    }
+}
+
 }  // namespace
 }  // namespace horavex
