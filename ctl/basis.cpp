@@ -33,15 +33,6 @@ Json LocalJson(Date day, double hours) {
     return stamp.empty() ? Json() : Json(stamp);
 }
 
-Json YearMomentsJson() {
-    Json days = Json::array();
-    const Date newYear = DateSerial(CurrentYear, 1, 1);
-    for (std::size_t row = 0; row < DaysOfYear(); ++row) {
-        days.push_back(MomentsJson(newYear + static_cast<double>(row), MomentsOfRow(row)));
-    }
-    return days;
-}
-
 }  // namespace
 
 void AddBasis(Json& object, Date now) {
@@ -87,11 +78,6 @@ void AddAround(Json& object, Date day) {
                                     {"local", LocalJson(day, around[time].hours)},
                                     {"by", WordOf(around[time].by)}});
     }
-}
-
-void AddYearBasis(Json& object) {
-    AddBasis(object, DateSerial(CurrentYear, 1, 1));
-    object["moments"] = CalcFailed == 0 ? YearMomentsJson() : Json();
 }
 
 std::size_t DaysOfYear() {

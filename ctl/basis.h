@@ -21,10 +21,6 @@ Json MomentsJson(Date day, const DayMoments& moments);
 /// "around" with the times around a day of the calculated year, where an option asks for them.
 void AddAround(Json& object, Date day);
 
-/// AddBasis at the first day of the calculated year, and "moments" with those of every day; null
-/// for a year that gave up.
-void AddYearBasis(Json& object);
-
 /// The days of CurrentYear.
 std::size_t DaysOfYear();
 

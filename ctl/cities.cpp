@@ -4,6 +4,7 @@
 
 #include "base/fold.h"
 #include "ctl/command.h"
+#include "ctl/csv_record.h"
 #include "engine/angle.h"
 #include "store/city_search.h"
 
@@ -18,6 +19,7 @@ struct CityFilter {
     std::optional<std::string> country;
     std::optional<int> index;
     std::size_t limit = 0;  // 0 is no limit
+    bool lines = false;     // as those that the command years takes
 };
 
 using Selection = std::vector<CityHit>;
@@ -71,13 +73,17 @@ std::string CityLine(const CityHit& hit) {
     return std::to_string(hit.city->cityIndex) + "\t" + DisplayText(hit) + "\n";
 }
 
+std::string CsvLine(const CityHit& hit) {
+    return std::to_string(hit.city->cityIndex) + "," + CsvField(hit.city->name) + "\n";
+}
+
 void PrintCities(const Session& session, const CityFilter& filter) {
     const auto cities = ListCities();
     Json array = Json::array();
-    std::string text;
+    std::string text = filter.lines ? "city-index,name\n" : "";
     for (const CityHit& hit : Select(cities, filter)) {
         array.push_back(CityJson(hit));
-        text += CityLine(hit);
+        text += filter.lines ? CsvLine(hit) : CityLine(hit);
     }
     session.Print(array, text);
 }
@@ -94,6 +100,7 @@ void AddCitiesCommand(CLI::App& app, Session& session) {
     command->add_option("--index", filter->index, "The city's number");
     command->add_option("--limit", filter->limit, "The most that are listed")
         ->check(CLI::Range(1, kMostListed));
+    command->add_flag("--lines", filter->lines, "As CSV that the command years takes");
     command->callback([&session, filter] { PrintCities(session, *filter); });
 }
 

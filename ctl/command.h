@@ -23,10 +23,14 @@ struct Session {
 
     /// One JSON object with --json, else the text for people.
     void Print(const Json& object, const std::string& text) const;
+
+    /// One that is a text already.
+    void PrintJson(const std::string& object) const;
 };
 
 // Each adds one subcommand or a few of one subject; the session outlives the parsing.
 void AddYearCommand(CLI::App& app, Session& session);
+void AddYearsCommand(CLI::App& app, Session& session);
 void AddTodayCommand(CLI::App& app, Session& session);
 void AddQiblaCommand(CLI::App& app, Session& session);
 void AddZoneCommands(CLI::App& app, Session& session);
@@ -45,6 +49,9 @@ void AddValidateCommand(CLI::App& app, Session& session);
 
 /// A subcommand with the --json flag that all of them have.
 CLI::App* AddCommand(CLI::App& app, Session& session, const char* name, const char* description);
+
+/// One line on standard error. The reason may repeat words of the user, which hold any character.
+void Complain(std::string reason);
 
 /// Ends the command with one line on standard error and kBadUsage.
 [[noreturn]] void RefuseUsage(const std::string& reason);

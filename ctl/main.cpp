@@ -8,28 +8,31 @@
 #include "base/plain_text.h"
 #include "ctl/command.h"
 #include "ctl/document_fonts.h"
+#include "ctl/json_text.h"
 
 namespace horavex {
 
-namespace {
-
-/// Words of the user and names of files may hold bytes that are no UTF-8; these come out as
-/// U+FFFD.
-std::string Dump(const Json& object) {
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+void Session::Print(const Json& object, const std::string& text) const {
+    if (json) {
+        PrintJson(TextOf(object));
+    } else {
+        std::cout << WithoutControls(text) << std::flush;
+    }
 }
 
-}  // namespace
-
-void Session::Print(const Json& object, const std::string& text) const {
-    std::cout << (json ? WithEscapedControls(Dump(object)) + "\n" : WithoutControls(text))
-              << std::flush;
+void Session::PrintJson(const std::string& object) const {
+    std::cout << object << '\n' << std::flush;
 }
 
 CLI::App* AddCommand(CLI::App& app, Session& session, const char* name, const char* description) {
     CLI::App* command = app.add_subcommand(name, description);
     command->add_flag("--json", session.json, "Print one JSON object");
     return command;
+}
+
+void Complain(std::string reason) {
+    std::replace(reason.begin(), reason.end(), '\n', ' ');
+    std::cerr << "horavexctl: " << WithoutControls(reason) << '\n';
 }
 
 void RefuseUsage(const std::string& reason) {
@@ -42,10 +45,8 @@ namespace {
 
 using namespace horavex;
 
-/// A reason may repeat words of the user, which hold any character; it is one line all the same.
-int Fail(std::string reason, int status) {
-    std::replace(reason.begin(), reason.end(), '\n', ' ');
-    std::cerr << "horavexctl: " << WithoutControls(reason) << '\n';
+int Fail(const std::string& reason, int status) {
+    Complain(reason);
     return status;
 }
 
@@ -56,6 +57,7 @@ int EndParsing(const CLI::App& app, const CLI::ParseError& error) {
 
 void AddCommands(CLI::App& app, Session& session) {
     AddYearCommand(app, session);
+    AddYearsCommand(app, session);
     AddTodayCommand(app, session);
     AddQiblaCommand(app, session);
     AddZoneCommands(app, session);

@@ -228,6 +228,15 @@ void TakeNamedPlace(const PlaceOptions& options) {
     }
 }
 
+void ForgetPlace() {
+    Settings = {};
+    IshaAngle = 0.0;
+    Location = {};
+    CityText.clear();
+    ChosenOptions = {};
+    ChosenMethod = nullptr;
+}
+
 void ApplyPlace(const PlaceOptions& options, Date day) {
     TakeNamedPlace(options);
     if (NamesCity(options)) {

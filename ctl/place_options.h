@@ -55,6 +55,9 @@ extern const Authority* ChosenMethod;
 /// usage for a city that is not there.
 void TakeNamedPlace(const PlaceOptions& options);
 
+/// Brings what ApplyPlace fills back to what a fresh process holds, for one more place.
+void ForgetPlace();
+
 /// Fills the working settings, place, Isha angle, ChosenOptions and ChosenMethod; day: one of the
 /// year to calculate. Without a place the accepted ones count. A city takes its own zone with
 /// daylight saving, the method that is usual in its country and a rule for nights without twilight;

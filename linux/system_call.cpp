@@ -12,4 +12,8 @@ void WriteAll(const Descriptor& file, ByteView bytes, const std::string& path) {
     }
 }
 
+void WriteText(const Descriptor& file, std::string_view text, const std::string& path) {
+    WriteAll(file, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}, path);
+}
+
 }  // namespace horavex

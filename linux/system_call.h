@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -50,5 +51,8 @@ inline const char* SystemPath(const std::string& path) {
 
 /// Writes all bytes, however many calls it takes. Throws FileFault with the path.
 void WriteAll(const Descriptor& file, ByteView bytes, const std::string& path);
+
+/// The same with the bytes of a text, none of which are copied.
+void WriteText(const Descriptor& file, std::string_view text, const std::string& path);
 
 }  // namespace horavex

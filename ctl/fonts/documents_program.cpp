@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <string>
 
@@ -30,6 +31,9 @@ std::string DocumentsProgram() {
     throw Fault(program + ": " + std::strerror(errno));
 }
 
+/// Of this call; empty where the program is not installed.
+std::function<void()> becomeProgram;
+
 }  // namespace
 
 void InstallDocumentFonts(char** arguments) {
@@ -37,10 +41,16 @@ void InstallDocumentFonts(char** arguments) {
     if (::access(program.c_str(), X_OK) != 0) {
         return;
     }
+    becomeProgram = [=] { Become(program, arguments); };
     InstallDocumentTools(
-        {.writePdf = [=](const std::string&, const PrintedYear&) { Become(program, arguments); },
-         .writePng = [=](const std::string&, const Drawing&, double,
-                         double) { Become(program, arguments); }});
+        {.writePdf = [](const std::string&, const PrintedYear&) { becomeProgram(); },
+         .writePng = [](const std::string&, const Drawing&, double, double) { becomeProgram(); }});
+}
+
+void TakeDocumentFonts() {
+    if (becomeProgram) {
+        becomeProgram();
+    }
 }
 
 }  // namespace horavex

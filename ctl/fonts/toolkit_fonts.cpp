@@ -36,4 +36,8 @@ void InstallDocumentFonts(char** /*arguments*/) {
              }});
 }
 
+void TakeDocumentFonts() {
+    // They are here.
+}
+
 }  // namespace horavex

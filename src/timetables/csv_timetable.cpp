@@ -12,20 +12,11 @@ bool HasMark(const Moment& moment) {
     return moment.by == MomentBy::kRule || moment.dayShift != 0;
 }
 
-/// A column for marks is there only in a year that has some.
 bool HasMarks(const Timetable& table) {
     return std::ranges::any_of(table.days, [](const TimetableDay& day) {
         return std::ranges::any_of(day.moments,
                                    [](const auto& moment) { return moment && HasMark(*moment); });
     });
-}
-
-std::string Head(bool marks) {
-    std::string line = "Date,Hijri";
-    for (const char* prayer : kPrayerKeys) {
-        line += std::string(",") + prayer;
-    }
-    return line + ",Daylight" + (marks ? ",Marks" : "") + kLineEnd;
 }
 
 /// "Fajr:rule Isha:rule Isha:+1".
@@ -57,13 +48,26 @@ std::string DayLine(const TimetableDay& day, bool marks) {
 
 }  // namespace
 
-std::string CsvTimetable(const Timetable& table) {
-    const bool marks = HasMarks(table);
-    std::string text = Head(marks);
+std::string CsvHead(bool marks) {
+    std::string line = "Date,Hijri";
+    for (const char* prayer : kPrayerKeys) {
+        line += std::string(",") + prayer;
+    }
+    return line + ",Daylight" + (marks ? ",Marks" : "") + kLineEnd;
+}
+
+std::string CsvDays(const Timetable& table, bool marks, const std::string& first) {
+    std::string text;
     for (const TimetableDay& day : table.days) {
+        text += first;
         text += DayLine(day, marks);
     }
     return text;
+}
+
+std::string CsvTimetable(const Timetable& table) {
+    const bool marks = HasMarks(table);
+    return CsvHead(marks) + CsvDays(table, marks, "");
 }
 
 }  // namespace horavex

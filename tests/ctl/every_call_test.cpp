@@ -19,6 +19,7 @@ using testing::UnorderedElementsAreArray;
 /// A call that succeeds by itself; its first word is the subcommand. Files go into a new folder.
 constexpr const char* kCalls[] = {
     "year --year 2026 --city Cairo",
+    "years --from /dev/null --output years.jsonl",
     "today --city Cairo",
     "qibla --city Cairo",
     "dst --year 2026",

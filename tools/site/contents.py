@@ -5,8 +5,9 @@ import os
 # The parts of the contents, each with its documents. A title is that of the document.
 PARTS = (
     ("Horavex", ("README.md", "docs/settings.md", "docs/exactness.md", "CHANGELOG.md")),
-    ("Command line and programs", ("docs/command-line.md", "docs/terminal.md", "docs/service.md",
-                                   "docs/status-bars.md", "docs/bus.md", "docs/library.md")),
+    ("Command line and programs", ("docs/command-line.md", "docs/scale.md", "docs/terminal.md",
+                                   "docs/service.md", "docs/status-bars.md", "docs/bus.md",
+                                   "docs/library.md")),
     ("Figures", ("docs/accuracy.md", "docs/methods.md", "docs/crescent.md",
                  "docs/performance.md")),
     ("Languages", ("docs/languages.md", "data/lang/README.md", "data/texts/README.md")),
