@@ -1,6 +1,8 @@
 #include "desktop/form_window/canvas.h"
 
+#include <QFontInfo>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/documents/drawing_steps.h"
 #include "desktop/form_window/twips.h"
@@ -37,6 +39,20 @@ QSize Canvas::sizeHint() const {
     return {PixelsOf(twips_.width()), PixelsOf(twips_.height())};
 }
 
+// Texts are placed for lines of that height; larger ones would lie over each other where the
+// picture has not grown with them.
+QFont Canvas::FontIn(const QRectF& target) const {
+    constexpr double kLine = 20.0;  // pixels, at the picture's own size
+    const double scale = kTwipsPerPixel * std::min(target.width() / twips_.width(),
+                                                   target.height() / twips_.height());
+    const double share = kLine * scale / fontMetrics().height();
+    QFont fitting = font();
+    if (share < 1.0) {
+        fitting.setPixelSize(std::max(1, int(QFontInfo(fitting).pixelSize() * share)));
+    }
+    return fitting;
+}
+
 void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Inks inks = look::WindowInks(palette());
@@ -45,6 +61,7 @@ void Canvas::paintEvent(QPaintEvent*) {
         const QMargins room(kRoomForPens, kRoomForPens, kRoomForPens, kRoomForPens);
         DrawWhole(painter, rect().marginsRemoved(room), drawing_, inks);
     } else {
+        painter.setFont(FontIn(Target()));
         DrawSteps(painter, Target(), twips_, drawing_, inks);
     }
 }

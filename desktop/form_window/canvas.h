@@ -10,7 +10,7 @@ namespace horavex {
 /// The widget of a picture control: its picture file and the drawing over it. Under the name
 /// "qt_form" it is the place in a layout where a form's own drawing is shown, whole, in its own
 /// shape. A layout may have a picture keep its shape, too, by the property "keepsShape". All of it
-/// is in the colours of the window.
+/// is in the colours of the window, its texts in the window's font as far as the picture has room.
 class Canvas : public QWidget {
 public:
     explicit Canvas(QWidget* parent = nullptr) : QWidget(parent) {}
@@ -27,6 +27,7 @@ protected:
 
 private:
     QRectF Target() const;
+    QFont FontIn(const QRectF& target) const;
 
     QSizeF twips_;  // empty for a drawing that is shown whole
     Drawing drawing_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/form_window/binder_of.h"
@@ -9,6 +10,8 @@
 
 namespace horavex {
 
+/// A layout may have a picture with texts in it grow with them, by the number of lines that it is
+/// high at least: the property "textLines".
 class PictureBinder : public BinderOf<Picture, Canvas> {
 public:
     PictureBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
@@ -29,6 +32,10 @@ protected:
     }
 
     void Show() override {
+        if (const int lines = widget.property("textLines").toInt(); lines > 0) {
+            widget.setFixedHeight(
+                std::max(widget.minimumHeight(), lines * widget.fontMetrics().height()));
+        }
         widget.Show({control.ScaleWidth(), control.ScaleHeight()}, control.PictureName(),
                     control.drawing);
     }

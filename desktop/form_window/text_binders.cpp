@@ -2,10 +2,13 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTextBlock>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QtMath>
+#include <algorithm>
 
 #include "desktop/form_window/caption_text.h"
 #include "desktop/user_text.h"
@@ -24,7 +27,17 @@ void LabelBinder::Show() {
     const bool fromRight = widget.layoutDirection() == Qt::RightToLeft;
     widget.setAlignment((fromRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
                         Qt::AlignVCenter);
+    if (widget.wordWrap()) {
+        KeepEndsOfLines(fromRight);
+    }
     MakeRoom();
+}
+
+// The toolkit shifts a line that runs from the right by the blank where it was broken: the end of a
+// full one would be cut.
+void LabelBinder::KeepEndsOfLines(bool fromRight) {
+    const int blank = fromRight ? widget.fontMetrics().horizontalAdvance(u' ') : 0;
+    widget.setContentsMargins(blank, 0, 0, 0);
 }
 
 // What a layout states keeps its columns still, and must not cut a longer text.
@@ -91,13 +104,55 @@ bool TextBoxBinder::eventFilter(QObject* watched, QEvent* event) {
 
 void LinesBinder::Show() {
     const QString text = UserText(control.Text()).remove('\r');
-    if (widget.toPlainText() == text) {
+    if (widget.toPlainText() == text && marked_ == control.MarkedLine()) {
         return;
     }
+    marked_ = control.MarkedLine();
     widget.setPlainText(text);
     SetSideMargins();
     if (const int height = widget.property("lineHeight").toInt(); height > 0) {
-        SetLineHeight(height);
+        FitRows(height);
+    }
+    MarkLine();
+}
+
+bool LinesBinder::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        MarkLine();
+    }
+    return BinderOf::eventFilter(watched, event);
+}
+
+void LinesBinder::MarkLine() {
+    const QTextBlock line = widget.document()->findBlockByNumber(marked_);
+    if (!line.isValid()) {
+        widget.setExtraSelections({});
+        return;
+    }
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = QTextCursor(line);
+    mark.format.setBackground(widget.palette().highlight());
+    mark.format.setForeground(widget.palette().highlightedText());
+    mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+    widget.setExtraSelections({mark});
+}
+
+void LinesBinder::FitRows(int leastHeight) {
+    widget.ensurePolished();
+    const int height = std::max(leastHeight, widget.fontMetrics().height());
+    SetLineHeight(height);
+    const int rows = widget.property("rows").toInt();
+    if (rows == 0) {
+        return;
+    }
+    const int frame = 2 * widget.frameWidth();
+    widget.setFixedHeight(rows * height + frame);
+    widget.setMinimumWidth(
+        std::max(widget.minimumWidth(), qCeil(widget.document()->idealWidth()) + frame));
+    const QString pictures = widget.property("rowPictures").toString();
+    auto* canvas = pictures.isEmpty() ? nullptr : widget.window()->findChild<QWidget*>(pictures);
+    if (canvas != nullptr) {
+        canvas->setFixedSize(height, rows * height);
     }
 }
 

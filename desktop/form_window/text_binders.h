@@ -46,6 +46,7 @@ protected:
     void Clicked() override;
 
 private:
+    void KeepEndsOfLines(bool fromRight);
     void MakeRoom();
 
     const QSize least_ = widget.minimumSize();  // as the layout states it
@@ -77,8 +78,9 @@ private:
     TypedLine line_;
 };
 
-/// A text box of several lines that users can only read. A layout may give all lines a height in
-/// pixels, its property "lineHeight", so that pictures can stand beside them.
+/// A text box of several lines that users can only read. For a table whose rows have pictures at
+/// their side a layout gives the rows' least height in pixels, the property "lineHeight", their
+/// number, "rows", and the name of the canvas, "rowPictures": box and canvas grow with the text.
 class LinesBinder : public BinderOf<TextBox, QTextEdit> {
 public:
     using BinderOf::BinderOf;
@@ -87,8 +89,13 @@ protected:
     void Show() override;
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void SetSideMargins();
+    void FitRows(int leastHeight);
     void SetLineHeight(int pixels);
+    void MarkLine();
+
+    int marked_ = -1;
 };
 
 }  // namespace horavex

@@ -1,6 +1,7 @@
 #include "desktop/look/look_style.h"
 
 #include <QGuiApplication>
+#include <QMenu>
 #include <QPainter>
 #include <QSlider>
 #include <QTabBar>
@@ -103,6 +104,24 @@ bool WantsEdges(const QStyleOption& option) {
            option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
 }
 
+/// A chosen entry has a plain check mark: the toolkit's box, of the ground of fields, would stand
+/// out of a menu in other colours.
+void DrawMenuMark(const QStyleOption& option, QPainter& painter) {
+    if (!option.state.testFlag(QStyle::State_On)) {
+        return;
+    }
+    const QRectF box(option.rect);
+    const auto at = [&](double x, double y) {
+        return QPointF(box.x() + x * box.width(), box.y() + y * box.height());
+    };
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(QPalette::Text), 2.0, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{at(0.2, 0.55), at(0.4, 0.75), at(0.8, 0.3)});
+    painter.restore();
+}
+
 /// Where a bar is done, in the direction of reading.
 QRect DonePart(const QStyleOptionProgressBar& bar) {
     const int whole = std::max(1, bar.maximum - bar.minimum);
@@ -131,10 +150,14 @@ void DrawProgressText(const QStyleOptionProgressBar& bar, QPainter& painter) {
     painter.restore();
 }
 
-/// With the current choice cut before the end of a box that is too narrow for it, so that this is
-/// seen.
+/// In the direction of its box: the toolkit would write it from the left, and turn a name in Latin
+/// letters out of its brackets. And with the current choice cut before the end of a box that is too
+/// narrow for it, so that this is seen.
 QStyleOptionComboBox ShortenedIn(int room, QStyleOptionComboBox box) {
     box.currentText = box.fontMetrics.elidedText(box.currentText, Qt::ElideRight, room);
+    if (box.direction == Qt::RightToLeft) {
+        box.currentText = QChar(0x2067) + box.currentText + QChar(0x2069);
+    }
     return box;
 }
 
@@ -182,6 +205,10 @@ QPixmap LookStyle::standardPixmap(StandardPixmap picture, const QStyleOption* op
 
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const {
+    if (element == PE_IndicatorCheckBox && qobject_cast<const QMenu*>(widget) != nullptr) {
+        DrawMenuMark(*option, *painter);
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (HasEdge(element) && WantsEdges(*option)) {
         const bool isRound = element == PE_IndicatorRadioButton;

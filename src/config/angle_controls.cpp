@@ -2,9 +2,11 @@
 
 #include <cmath>
 
+#include "base/number_text.h"
 #include "base/rounding.h"
 #include "config/angle_range.h"
 #include "config/working_options.h"
+#include "platform/platform.h"
 #include "store/text_table.h"
 
 namespace horavex {
@@ -17,6 +19,13 @@ std::string Refusal(std::int16_t language) {
     const AngleLimits range = AngleRange();
     return TextItem(TextEntry::kOutsideBand, language) + " " + std::to_string(range.smallest) +
            " - " + std::to_string(range.largest);
+}
+
+/// "Umm al-Qura (18.5°/17.5°)": Fajr and Isha.
+std::string RowOf(const Method& method, std::int16_t language) {
+    const char mark = Ports().formats.DecimalMark();
+    return TextItem(method.name, language) + " (" + NumberToText(method.fajrAngle, mark) + "°/" +
+           NumberToText(method.ishaAngle, mark) + "°)";
 }
 
 }  // namespace
@@ -38,7 +47,7 @@ void FillMethodRows(ComboBox& list, std::int16_t language) {
     list.AddItem(TextItem(TextEntry::kCustom, language));
     const std::string refusal = Refusal(language);
     for (const Method& method : Methods()) {
-        list.AddItem(TextItem(method.name, language));
+        list.AddItem(RowOf(method, language));
         list.SetItemRefusal(list.ListCount() - 1, FitsBand(method) ? "" : refusal);
     }
 }

@@ -21,7 +21,8 @@ void MoveSliders(double angle, ScrollBar& whole, Slider& quarters);
 // Row 0 is "custom"; it only tells that no convention has the angles on the sliders, or that
 // options of another one are in force beside them.
 
-/// The rows in a language column of the text table; what lies outside the band is refused.
+/// The rows in a language column of the text table, with their two angles; what lies outside the
+/// band is refused.
 void FillMethodRows(ComboBox& list, std::int16_t language);
 
 /// The row of the convention with these angles; 0 for none.

@@ -14,6 +14,10 @@ public:
     const std::string& Text() const override { return Now().text; }
     void SetText(const std::string& text) override;
 
+    /// The line where the present stands, from 0; -1 for none. For boxes of several lines.
+    int MarkedLine() const { return Now().listIndex; }
+    void SetMarkedLine(int line) { Assign(&ControlValues::listIndex, line); }
+
     /// The whole text after a user's key: with the key's release, and without it where the
     /// front end reports that by UserKeyUp.
     void UserType(const std::string& text) { Type(text); }

@@ -86,7 +86,7 @@ std::vector<std::string> CellsWithoutSunset(const DatedEvening& evening) {
 }  // namespace
 
 SkyPage EveningsPage(const MonthEvenings& month, const SkyPlace& place, std::size_t current) {
-    SkyPage page{EveningHeads(), {}, "", {1, 2, 3, 4, 5, 6, 7}};
+    SkyPage page{EveningHeads(), {}, "", {1, 2, 3, 4, 5, 6, 7, 8}};
     for (const DatedEvening& evening : month.evenings) {
         const EveningKind kind = KindOf(evening.crescent, month.newMoon);
         const bool isCurrent = page.rows.size() == current;

@@ -77,6 +77,16 @@ void ShowAround(double day) {
     frmTimes->lblTimesAround.SetVisible(shown);
 }
 
+/// In the form of the times below.
+void ShowClock(Date now) {
+    const std::string byTwelve = Ports().formats.TwelveHourTime(now);
+    const std::string asBelow = Ports().formats.MediumTime(now);
+    frmTimes->lblCurrTime.SetCaption(byTwelve);
+    frmTimes->lblShownClock.SetCaption(asBelow);
+    frmTimes->lblCurrTime.SetVisible(byTwelve == asBelow);
+    frmTimes->lblShownClock.SetVisible(byTwelve != asBelow);
+}
+
 void ShowDay(Date date) {
     frmTimes->shownDay = date;
     SetTimes(date);
@@ -137,7 +147,7 @@ void SetTimes(Date date) {
     RunStep([&] { ShowHijriDate(date); });
     MarkNext(date);
     frmTimes->lblDate.SetCaption(Ports().formats.LongDate(date));
-    frmTimes->lblCurrTime.SetCaption(Ports().formats.TwelveHourTime(Ports().clock.Now()));
+    ShowClock(Ports().clock.Now());
 }
 
 void BindTimesWindow() {

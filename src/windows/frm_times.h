@@ -20,6 +20,8 @@ public:
     Label lblCity{*this, "lblCity"};
     Label lblDate{*this, "lblDate"};
     Label lblCurrTime{*this, "lblCurrTime"};
+    /// The same time where the language writes hours by 24.
+    Label lblShownClock{*this, "lblShownClock", {.visible = false}};
     Label lblShownHijri{*this, "lblShownHijri"};
 
     /// Stands before the prayer that comes next, on today alone.

@@ -47,7 +47,7 @@ TEST_F(MethodsTest, ListHasTheAnglesThatUsersKnowItBy) {
 
 TEST_F(MethodsTest, ListShowsTheConventionOfTheSliders) {
     EXPECT_EQ(list.ListCount(), static_cast<int>(Methods().size()) + 1);
-    EXPECT_EQ(list.Text(), "University of Islamic Sciences, Karachi");
+    EXPECT_EQ(list.Text(), "University of Islamic Sciences, Karachi (18°/18°)");
     form.hsDepr2.UserSlide(17);
     EXPECT_EQ(list.ListIndex(), kWorldLeague);
     form.hsDepr21.UserSlide(1);

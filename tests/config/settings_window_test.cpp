@@ -496,7 +496,7 @@ TEST_F(SettingsWindowTest, ComesUpWithTheWorkingRecordInEveryControl) {
     EXPECT_EQ(form.hsDepr.Value(), 15);
     EXPECT_EQ(form.hsDepr2.Value(), 15);
     EXPECT_EQ(form.lblDepr1.Caption(), "degrees 15");
-    EXPECT_EQ(form.cboMethod.Text(), "Islamic Society of North America");
+    EXPECT_EQ(form.cboMethod.Text(), "Islamic Society of North America (15°/15°)");
     EXPECT_TRUE(form.optAsrRatio(2).Value());
     EXPECT_EQ(form.hsBegin.Value(), 120);
 }

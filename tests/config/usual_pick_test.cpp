@@ -55,7 +55,7 @@ TEST_F(UsualPickTest, FirstRunsPickTakesTheMethodOfTheCountry) {
     EXPECT_EQ(IshaAngle, 15.0);
     EXPECT_EQ(wizard.hsDepr.Value(), 15);
     EXPECT_EQ(form.hsDepr2.Value(), 15);
-    EXPECT_EQ(wizard.cboMethod.Text(), "Islamic Society of North America");
+    EXPECT_EQ(wizard.cboMethod.Text(), "Islamic Society of North America (15°/15°)");
     EXPECT_EQ(wizard.lblUsual.Caption(),
               "Usual in United States: Islamic Society of North America");
     EXPECT_EQ(wizard.lblDepr.Caption(), "degrees 15");

@@ -390,6 +390,32 @@ TEST_F(BinderTest, PictureShowsItsDrawingStretchedOverTheWidget) {
     EXPECT_NE(image.pixelColor(image.width() * 3 / 4, image.height() / 2), QColor(250, 0, 0));
 }
 
+TEST_F(BinderTest, TextsOfAPictureGrowNoFurtherThanItHasRoom) {
+    const auto heightOfText = [](double pointSize) {
+        Canvas canvas;
+        QFont font = canvas.font();
+        font.setPointSizeF(pointSize);
+        canvas.setFont(font);
+        canvas.resize(80, 80);
+        QPalette palette(Qt::white);
+        palette.setColor(QPalette::Base, Qt::white);
+        canvas.setPalette(palette);
+        canvas.Show({1200.0, 1200.0}, "", {TextStep{{0.0, 0.0}, "H", ink::kScale}});
+        const QImage image = canvas.grab().toImage();
+        int rows = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            bool drawn = false;
+            for (int x = 0; x < image.width(); ++x) {
+                drawn = drawn || image.pixelColor(x, y).lightness() < 128;
+            }
+            rows += drawn ? 1 : 0;
+        }
+        return rows;
+    };
+    EXPECT_GT(heightOfText(10.0), 5);
+    EXPECT_LE(heightOfText(40.0), 16);
+}
+
 TEST_F(BinderTest, PictureIsInTheColoursOfADarkWindow) {
     const ScopedLook look(look::Theme::kDark);
     form.picture.drawing = {

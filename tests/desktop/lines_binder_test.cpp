@@ -70,6 +70,45 @@ TEST_F(LinesBinderTest, LinesHaveTheHeightThatTheLayoutGivesThem) {
     }
 }
 
+TEST_F(LinesBinderTest, RowsOfATableGrowWithTheTextAndTheirPicturesWithThem) {
+    auto* pictures = new QWidget(windows.Find(&form));
+    pictures->setObjectName("discs");
+    Edit().setProperty("rows", 3);
+    Edit().setProperty("rowPictures", "discs");
+    form.text.SetText("one\r\ntwo\r\nthree\r\n");
+    Settle();
+    EXPECT_EQ(pictures->size(), QSize(20, 60));
+    QFont large = Edit().font();
+    large.setPointSizeF(3.0 * large.pointSizeF());
+    Edit().setFont(large);
+    form.text.SetText("one\r\ntwo and what a narrow box would cut off\r\nthree\r\n");
+    Settle();
+    const int height = Edit().fontMetrics().height();
+    ASSERT_GT(height, 20);
+    EXPECT_EQ(pictures->size(), QSize(height, 3 * height));
+    EXPECT_GE(Edit().viewport()->height(), 3 * height);
+    EXPECT_GE(Edit().minimumWidth(),
+              Edit().fontMetrics().horizontalAdvance("two and what a narrow box would cut off"));
+}
+
+TEST_F(LinesBinderTest, MarksOneLineInTheColoursOfTheMoment) {
+    form.text.SetText("one\r\ntwo\r\n");
+    form.text.SetMarkedLine(1);
+    Settle();
+    ASSERT_EQ(Edit().extraSelections().size(), 1);
+    const QTextEdit::ExtraSelection mark = Edit().extraSelections().first();
+    EXPECT_EQ(mark.cursor.block().text(), "two");
+    EXPECT_TRUE(mark.format.boolProperty(QTextFormat::FullWidthSelection));
+    EXPECT_FALSE(mark.cursor.hasSelection()) << "of the text alone";
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, Qt::red);
+    Edit().setPalette(palette);
+    EXPECT_EQ(Edit().extraSelections().first().format.background().color(), Qt::red);
+    form.text.SetMarkedLine(-1);
+    Settle();
+    EXPECT_TRUE(Edit().extraSelections().isEmpty());
+}
+
 TEST_F(LinesBinderTest, SameTextLeavesTheSelectionAlone) {
     form.text.SetText("one\r\ntwo\r\n");
     Settle();

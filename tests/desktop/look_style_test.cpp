@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QPushButton>
@@ -59,6 +60,35 @@ TEST(LookStyle, IsNotWornOverAStyleThatMayPaintInColoursOfItsOwn) {
     const auto* worn = qobject_cast<QProxyStyle*>(QApplication::style());
     ASSERT_NE(worn, nullptr);
     EXPECT_EQ(worn->baseStyle()->name(), "fusion");
+}
+
+TEST(LookStyle, ChosenEntryOfAMenuHasAMarkAndNoBox) {
+    for (const bool chosen : {false, true}) {
+        QMenu menu;
+        QImage picture(16, 16, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        QStyleOptionButton mark;
+        mark.rect = picture.rect();
+        mark.palette.setColor(QPalette::Text, Qt::white);
+        mark.state.setFlag(QStyle::State_On, chosen);
+        QPainter painter(&picture);
+        menu.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &mark, &painter, &menu);
+        const auto isDrawn = [&](int x, int y) { return picture.pixelColor(x, y) != Qt::black; };
+        EXPECT_EQ(isDrawn(6, 11), chosen);
+        EXPECT_FALSE(isDrawn(1, 1) || isDrawn(14, 1) || isDrawn(1, 14));
+    }
+}
+
+TEST(LookStyle, ChoiceRunsInTheDirectionOfItsBox) {
+    const auto shown = [](const QString& text) {
+        QComboBox box;
+        box.setLayoutDirection(Qt::RightToLeft);
+        box.addItem(text);
+        box.resize(300, 30);
+        return box.grab().toImage();
+    };
+    const QString text = QStringLiteral("هيئة المساحة (المعتادة في Egypt)");
+    EXPECT_EQ(shown(text), shown(QChar(0x2067) + text + QChar(0x2069)));
 }
 
 TEST(LookStyle, DefaultButtonHasAnEdgeOfWhatIsMarked) {

@@ -254,13 +254,7 @@ TEST_F(TextPagesTest, ZoneHasTheDecimalMarkOfTheUser) {
         char DecimalMark() const override { return ','; }
     } formats;
     const Platform& former = Ports();
-    const Platform ports{
-        former.clock,     former.eventLoop,   former.files,     former.programFolder,
-        formats,          former.dialogs,     former.registry,  former.instanceGuard,
-        former.face,      former.windows,     former.tray,      former.shell,
-        former.network,   former.athanFace,   former.audioFile, former.audioPlayer,
-        former.zoneRules, former.whereabouts, former.notices,   former.mediaPlayers,
-        former.session,   former.almanac,     former.broadcast};
+    const Platform ports = WithFormats(former, formats);
     InstallPlatform(&ports);
     ActiveSettings.TimeZone = 5.75;
     const std::string january = Pages().at(0);

@@ -6,6 +6,7 @@
 #include "engine/year_table.h"
 #include "shell/tick.h"
 #include "store/around_options.h"
+#include "support/other_formats.h"
 #include "support/program_test.h"
 #include "windows/frm_times.h"
 
@@ -142,6 +143,23 @@ TEST_F(TimesWindowTest, ClockOfTheWindowIsTheTimeOfTheLastFill) {
     EXPECT_EQ(frmTimes->lblCurrTime.Caption(), "03:04 PM");
     frmTimes->cmdNext.UserClick();
     EXPECT_EQ(frmTimes->lblCurrTime.Caption(), "03:14 PM");
+}
+
+TEST_F(TimesWindowTest, ClockHasTheFormOfTheTimesBelow) {
+    EXPECT_TRUE(frmTimes->lblCurrTime.Visible());
+    EXPECT_FALSE(frmTimes->lblShownClock.Visible());
+    class HoursBy24 : public FixedFormats {
+        std::string MediumTime(Date) const override { return "15:04"; }
+        std::string TwelveHourTime(Date) const override { return "03:04 PM"; }
+    } formats;
+    const Platform& former = Ports();
+    const Platform ports = WithFormats(former, formats);
+    InstallPlatform(&ports);
+    frmTimes->cmdToday.UserClick();
+    InstallPlatform(&former);
+    EXPECT_FALSE(frmTimes->lblCurrTime.Visible());
+    EXPECT_TRUE(frmTimes->lblShownClock.Visible());
+    EXPECT_EQ(frmTimes->lblShownClock.Caption(), "15:04");
 }
 
 TEST_F(TimesWindowTest, ButtonsGoOneDayOnAndBackAndHome) {
