@@ -15,11 +15,12 @@ namespace {
 // All places in pixels of the face. The window stands with its lowest 26 pixels below the screen.
 constexpr QRect kFace(0, 0, 360, 226);
 constexpr QRect kOnScreen(0, 0, 360, 199);
-constexpr QRect kText(24, 92, 312, 34);
-constexpr QRect kStop(140, 144, 80, 34);
-constexpr QPointF kMoon(176.0, 52.0);
+constexpr QRect kText(24, 80, 312, 34);
+constexpr QRect kPlace(24, 112, 312, 24);
+constexpr QRect kStop(140, 146, 80, 34);
+constexpr QPointF kMoon(176.0, 46.0);
 constexpr double kMoonRadius = 25.0;
-constexpr QPointF kShadow(185.0, 47.0);  // the disc that makes a crescent of the moon
+constexpr QPointF kShadow(185.0, 41.0);  // the disc that makes a crescent of the moon
 constexpr double kShadowRadius = 21.0;
 constexpr double kFrame = 6.5;        // of the inner frame from the edge
 constexpr double kFrameCorner = 5.0;  // its radius
@@ -27,6 +28,7 @@ constexpr double kSignSize = 11.0;
 constexpr double kPill = 8.0;  // radius of the button's corners
 
 const TextLine::Look kTextLook{20, kCream, Qt::AlignCenter};
+const TextLine::Look kPlaceLook{14, kGold, Qt::AlignCenter};
 
 /// The square that means stop in every language.
 class StopButton : public FaceButton {
@@ -68,10 +70,14 @@ void DrawRays(QPainter& painter) {
 
 }  // namespace
 
-AzanView::AzanView() : text_(new TextLine(this, kTextLook)), stop_(new StopButton(this)) {
+AzanView::AzanView()
+    : text_(new TextLine(this, kTextLook)),
+      place_(new TextLine(this, kPlaceLook)),
+      stop_(new StopButton(this)) {
     setFixedSize(kFace.size());
     setContextMenuPolicy(Qt::PreventContextMenu);
     text_->setGeometry(kText);
+    place_->setGeometry(kPlace);
     NameStop(QStringLiteral("Stop"));
     stop_->setObjectName(QStringLiteral("IDC_FS_Stop"));
     stop_->setGeometry(kStop);
@@ -85,6 +91,8 @@ AzanView::AzanView() : text_(new TextLine(this, kTextLook)), stop_(new StopButto
 void AzanView::SetVariable(const std::string& name, const QString& value) {
     if (name == "_root.character_textField") {
         text_->ShowText(value);
+    } else if (name == "_root.place_textField") {
+        place_->ShowText(value);
     }
 }
 

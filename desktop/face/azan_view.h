@@ -9,8 +9,8 @@ namespace horavex {
 
 class TextLine;
 
-/// The face of the athan window, a still one: a crescent over the prayer's text, and a button to
-/// stop. It knows its one variable and its one command by their names.
+/// The face of the athan window, a still one: a crescent over the prayer's text, place and time
+/// below, and a button to stop. It knows its variables and its one command by their names.
 class AzanView : public QWidget {
 public:
     AzanView();
@@ -29,6 +29,7 @@ protected:
 
 private:
     TextLine* text_;
+    TextLine* place_;
     QAbstractButton* stop_;
 };
 

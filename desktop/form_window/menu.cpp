@@ -21,9 +21,22 @@ QIcon IconOf(const MenuItem& item) {
     return PictureAt(item.Picture());
 }
 
+/// The toolkit writes what follows a tab at the far edge.
 QString CaptionOf(const MenuItem& item) {
-    return WithoutBrokenKey(UserText(item.Caption()));
+    const QString caption = WithoutBrokenKey(UserText(item.Caption()));
+    const bool saysMore = !item.Aside().empty() && item.Aside() != item.Caption();
+    return saysMore ? caption + u'\t' + UserText(item.Aside()) : caption;
 }
+
+/// A caption may begin with a name in other letters.
+bool RunsFromRight(const MenuItem& menu) {
+    const std::vector<MenuItem*> entries = menu.Entries();
+    return std::any_of(entries.begin(), entries.end(), [](const MenuItem* entry) {
+        return UserText(entry->Caption()).isRightToLeft();
+    });
+}
+
+void FillFrom(QMenu& menu, const MenuItem& source, Qt::LayoutDirection direction);
 
 void AddEntry(QMenu& menu, MenuItem& item) {
     const QString caption = CaptionOf(item);
@@ -36,11 +49,23 @@ void AddEntry(QMenu& menu, MenuItem& item) {
         action->setChecked(item.Checked());
     } else {
         QMenu* inner = menu.addMenu(IconOf(item), caption);
-        FillMenu(*inner, item);
+        FillFrom(*inner, item, menu.layoutDirection());
         action = inner->menuAction();
     }
     action->setEnabled(item.Enabled());
+    action->setToolTip(UserText(item.Hint()));
     action->setData(QVariant::fromValue<void*>(&item));
+}
+
+/// What lies inside runs as the menu does around it: its entries may be names of another script.
+void FillFrom(QMenu& menu, const MenuItem& source, Qt::LayoutDirection direction) {
+    menu.setLayoutDirection(direction);
+    menu.setToolTipsVisible(true);
+    for (MenuItem* entry : source.Entries()) {
+        if (entry->Visible()) {
+            AddEntry(menu, *entry);
+        }
+    }
 }
 
 /// A menu that may be left sideways by the arrow keys, as one of a bar.
@@ -72,14 +97,7 @@ private:
 }  // namespace
 
 void FillMenu(QMenu& menu, const MenuItem& source) {
-    for (MenuItem* entry : source.Entries()) {
-        if (entry->Visible()) {
-            AddEntry(menu, *entry);
-        }
-    }
-    const QList<QAction*> actions = menu.actions();
-    const bool rightToLeft = !actions.isEmpty() && actions.first()->text().isRightToLeft();
-    menu.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    FillFrom(menu, source, RunsFromRight(source) ? Qt::RightToLeft : Qt::LeftToRight);
 }
 
 bool ShowsEntriesOf(const QMenu& menu, const MenuItem& source) {

@@ -9,6 +9,7 @@
 #include "base/int16.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
+#include "store/location_record.h"
 #include "windows/frm_azan.h"
 
 namespace horavex {
@@ -55,6 +56,13 @@ void frmAzan_QueryUnload(CloseRequest& request) {
     }
 }
 
+/// Where and when, below the text. Each keeps the direction of its own script.
+std::string PlaceAndTime() {
+    const auto isolated = [](const std::string& text) { return "\u2068" + text + "\u2069"; };
+    return isolated(ActiveLocation.City.Name) + "  ·  " +
+           isolated(Ports().formats.MediumTime(Ports().clock.Now()));
+}
+
 }  // namespace
 
 void SetAzanText() {
@@ -88,6 +96,7 @@ void BringAthanWindowUp(Alert alert) {
     if (alert != Alert::kAthanNow) {
         SetAzanText();
     }
+    Ports().athanFace.SetVariable("_root.place_textField", PlaceAndTime());
     ShowMe();
 }
 

@@ -20,6 +20,14 @@ public:
     const std::string& Picture() const { return Now().picture; }
     void SetPicture(std::string name) { Assign(&ControlValues::picture, std::move(name)); }
 
+    /// What a menu shows at its far edge, beside the caption; empty for nothing.
+    const std::string& Aside() const { return Now().text; }
+    void SetAside(std::string text) { Assign(&ControlValues::text, std::move(text)); }
+
+    /// What is told of the entry while it is pointed at; empty for nothing.
+    const std::string& Hint() const { return Now().toolTipText; }
+    void SetHint(std::string text) { Assign(&ControlValues::toolTipText, std::move(text)); }
+
     /// The entries directly inside, in the form's order.
     std::vector<MenuItem*> Entries() const;
 

@@ -52,6 +52,11 @@ void SetEmblem(MenuItem& item, const std::vector<std::string>& emblems) {
     }
 }
 
+/// As those who speak the language write it.
+std::string OwnName(const std::string& language) {
+    return ReadPackString(LanguagePackPath(language), "desktop", "OwnName", "", kPackNameBuffer);
+}
+
 std::int16_t AddLanguages(const std::string& language, const std::vector<std::string>& emblems) {
     std::int16_t count = 0;
     for (const std::string& file : ListLanguageFiles(".ini")) {
@@ -61,6 +66,7 @@ std::int16_t AddLanguages(const std::string& language, const std::vector<std::st
         item.SetCaption(name);
         item.SetChecked(EqualsIgnoringCase(name, language));
         SetEmblem(item, emblems);
+        item.SetAside(OwnName(name));
         count = AddInt16(count, 1);
     }
     return count;

@@ -106,14 +106,17 @@ Drawing PhaseDiscs(double width, const MoonRows& rows, double elongation) {
     return drawing;
 }
 
-Drawing TonightsMoon(double width, double height) {
+double TonightsElongation() {
     const Date today = Ports().clock.Today();
     const double daylightHour = IsDaylightDay(today, ActiveSettings) ? 1.0 : 0.0;
     const MoonPlace moon =
         MoonPosition(24.0 - ActiveSettings.TimeZone - daylightHour, CivilFromDate(today));
+    return Normalize360(moon.longitude - moon.sunLongitude);
+}
+
+Drawing TonightsMoon(double width, double height, double elongation) {
     Drawing drawing;
-    AddMoonDisc(drawing, {width / 2.0, height / 2.0}, 0.44 * height,
-                moon.longitude - moon.sunLongitude, PlaceIsSouth());
+    AddMoonDisc(drawing, {width / 2.0, height / 2.0}, 0.44 * height, elongation, PlaceIsSouth());
     return drawing;
 }
 

@@ -22,9 +22,12 @@ void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongatio
 /// A disc beside each row of a table whose moons stand that far from the sun.
 Drawing PhaseDiscs(double width, const MoonRows& rows, double elongation);
 
-/// The moon as it stands lit at the coming midnight of the accepted place. Throws
-/// DivisionByZeroFault where the moon's theory has no answer.
-Drawing TonightsMoon(double width, double height);
+/// How far the moon stands from the sun at the coming midnight of the accepted place, degrees from
+/// 0 to 360. Throws DivisionByZeroFault where the moon's theory has no answer.
+double TonightsElongation();
+
+/// The moon of that night.
+Drawing TonightsMoon(double width, double height, double elongation);
 
 /// The day from 0 to 24 hours with the time of the moon above the horizon in light; an empty strip
 /// without times.

@@ -1,5 +1,6 @@
 #include "moon/moon_window.h"
 
+#include <cmath>
 #include <cstddef>
 #include <iterator>
 #include <string>
@@ -10,6 +11,7 @@
 #include "engine/angle.h"
 #include "engine/center_on_screen.h"
 #include "forms/show_modal.h"
+#include "lang/filled_text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
 #include "moon/eclipses.h"
@@ -85,20 +87,27 @@ void FillLabels(std::int16_t year) {
     Moon_Phases->Text4.SetText(text);
 }
 
-void FillRows(TextBox& box, const MoonRows& rows) {
+/// The clock's moment as the rows count theirs, a Julian day.
+double PresentDay() {
+    constexpr double kDayZero = 2415018.5;  // of the program's dates, as a Julian day
+    return Ports().clock.UniversalNow() + kDayZero;
+}
+
+void FillRows(TextBox& box, const MoonRows& rows, MoonPhase phase, std::int16_t year) {
     std::string text;
     for (std::size_t i = 0; i < kMoonRows; ++i) {
         text += rows[i] + Crlf;
     }
     box.SetText(text);
+    box.SetMarkedLine(NextMoonRow(phase, year, PresentDay()));
 }
 
 void FillTables(std::int16_t year) {
     FillLabels(year);
-    FillRows(Moon_Phases->Text2, NewMoonRows);
-    FillRows(Moon_Phases->Text3, FirstQuarterRows);
-    FillRows(Moon_Phases->Text5, FullMoonRows);
-    FillRows(Moon_Phases->Text6, LastQuarterRows);
+    FillRows(Moon_Phases->Text2, NewMoonRows, MoonPhase::kNewMoon, year);
+    FillRows(Moon_Phases->Text3, FirstQuarterRows, MoonPhase::kFirstQuarter, year);
+    FillRows(Moon_Phases->Text5, FullMoonRows, MoonPhase::kFullMoon, year);
+    FillRows(Moon_Phases->Text6, LastQuarterRows, MoonPhase::kLastQuarter, year);
 }
 
 void DrawDiscs(Picture& picture, const MoonRows& rows, double elongation) {
@@ -114,9 +123,25 @@ void DrawPhaseDiscs() {
     DrawDiscs(form.picLastQuarter, LastQuarterRows, 270.0);
 }
 
-void DrawTonightsMoon() {
+void CaptionTonightsMoon(double elongation) {
+    constexpr double kMonth = 29.53059;  // days from a new moon to the next
+    const long lit = std::lround(50.0 * (1.0 - std::cos(DegToRad(elongation))));
+    const int day = 1 + static_cast<int>(kMonth * elongation / 360.0);
+    const std::string words = Moon_Phases->lblTonight.Caption();  // as the pack gives them
+    Moon_Phases->lblTonight.SetCaption(
+        FilledText(FilledText(words, "{lit}", std::to_string(lit)), "{day}", std::to_string(day)));
+}
+
+/// A picture keeps no window away.
+void ShowTonightsMoon() {
     Picture& picture = Moon_Phases->picTonight;
-    picture.drawing = TonightsMoon(picture.ScaleWidth(), picture.ScaleHeight());
+    try {
+        const double elongation = TonightsElongation();
+        picture.drawing = TonightsMoon(picture.ScaleWidth(), picture.ScaleHeight(), elongation);
+        CaptionTonightsMoon(elongation);
+    } catch (const Fault&) {
+        Moon_Phases->lblTonight.SetCaption("");
+    }
     picture.Refresh();
 }
 
@@ -176,7 +201,7 @@ void Moon_Phases_Load() {
     ShowPage();
     LoadRiseSetPage();
     DrawPhaseDiscs();
-    RunStep(DrawTonightsMoon);  // a picture keeps no window away
+    ShowTonightsMoon();
 }
 
 void Bind() {

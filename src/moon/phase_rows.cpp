@@ -81,6 +81,18 @@ MoonRows ComputeLastQuarterRows(std::int16_t year, double zone) {
     return RowsOf(kLastQuarter, year, zone);
 }
 
+int NextMoonRow(MoonPhase phase, std::int16_t year, double day) {
+    constexpr Phase kPhases[] = {kNewMoon, kFirstQuarter, kFullMoon, kLastQuarter};
+    const Phase& wanted = kPhases[static_cast<std::size_t>(phase)];
+    for (std::size_t i = 0; i < kMoonRows; ++i) {
+        if (InstantOf(wanted, LunationOf(year, static_cast<std::int16_t>(i), wanted.offset)) >=
+            day) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
+}
+
 std::vector<std::string> MoonRowLabels(std::int16_t year, const MoonRows& newMoons) {
     const MoonMonthLabels table = BuildMoonMonthLabels(year);
     if (const auto slice = MoonLabelRows(year)) {

@@ -21,6 +21,12 @@ MoonRows ComputeFirstQuarterRows(std::int16_t year, double zone);
 MoonRows ComputeFullMoonRows(std::int16_t year, double zone);
 MoonRows ComputeLastQuarterRows(std::int16_t year, double zone);
 
+enum class MoonPhase { kNewMoon, kFirstQuarter, kFullMoon, kLastQuarter };
+
+/// The first row of a table whose moon comes at a moment or behind it; -1 where none does. day: a
+/// Julian day of Universal Time.
+int NextMoonRow(MoonPhase phase, std::int16_t year, double day);
+
 /// The Hijri labels beside the rows of the moon tables of a Gregorian year: up to 2020 a slice of
 /// the table of labels, 12 or 13 of them; later those of the calendar converter, one for each row
 /// of the year's new moons.

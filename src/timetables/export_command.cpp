@@ -3,6 +3,7 @@
 #include "athan/athan_state.h"
 #include "base/int16.h"
 #include "engine/wait.h"
+#include "lang/language_pack.h"
 #include "platform/platform.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
@@ -57,6 +58,16 @@ void WaitUntilRead(double start) {
     WaitSeconds((kShortestExport - elapsed) / kSecondsPerDay);
 }
 
+/// In place of the bar, which stands short of its end.
+void TellSaved(const std::string& path) {
+    fMessage->lblMessage1.SetCaption(GetLangString("desktop", "SavedAs", "Saved as"));
+    fMessage->Shape1.SetVisible(false);
+    fMessage->cmdFolder.onClick = [folder = path.substr(0, path.find_last_of('/') + 1)] {
+        Ports().shell.OpenAddress(folder);
+    };
+    fMessage->cmdFolder.SetVisible(true);
+}
+
 void Export(const std::string& path) {
     const auto file = Ports().files.OpenForWriting(path);
     fMessage->Show();
@@ -67,6 +78,7 @@ void Export(const std::string& path) {
         DeleteFile(path);
     } else {
         file->Commit();
+        TellSaved(path);
         WaitUntilRead(start);
     }
 }

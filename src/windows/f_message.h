@@ -23,6 +23,7 @@ public:
     Picture picProgress{*this, "picProgress", {.width = 4770, .height = 270}};
 
     CommandButton Athan_Sound{*this, "Athan_Sound", {.caption = "Listen"}};
+    CommandButton cmdFolder{*this, "cmdFolder", {.caption = "Open &folder", .visible = false}};
     CommandButton CmdCancel{*this, "CmdCancel", {.caption = "Cancel", .visible = false}};
     CommandButton cmdAlarmClose{*this, "cmdAlarmClose", {.caption = "Close", .visible = false}};
 };

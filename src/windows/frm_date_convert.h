@@ -36,6 +36,10 @@ public:
     CommandButton TodaysDate{
         *this, "TodaysDate", {.caption = "Today's Date", .toolTipText = "Convert todays date"}};
     Label lblResult{*this, "lblResult"};
+    Label lblNote{*this,
+                  "lblNote",
+                  {.caption = "Calculated by an arithmetic of its own, which can differ by a day "
+                              "from the date on the face."}};
     CommandButton HijriDateConversionHelp{*this, "HijriDateConversionHelp", {.caption = "&Help"}};
     CommandButton cmdClose{*this, "cmdClose", {.caption = "&Close"}};
 };

@@ -76,6 +76,8 @@ public:
     MenuItem mnuUpdate{mnuHelp, "mnuUpdate", {.caption = "Update"}};
 
     MenuItem mnuPopup{*this, "mnuPopup", {.caption = "Popup", .enabled = false}};
+    MenuItem mnuPopFront{mnuPopup, "mnuPopFront", {.caption = "Sho&w Horavex"}};
+    MenuItem mnuLine4{mnuPopup, "mnuLine4", {.caption = "-"}};
     MenuItem mnuPopAthan{mnuPopup, "mnuPopAthan", {.caption = "&Athan", .enabled = false}};
     MenuItem mnuPopMoonPhases{
         mnuPopup, "mnuPopMoonPhases", {.caption = "&Moon Phases", .enabled = false}};
@@ -85,15 +87,19 @@ public:
     MenuItem mnuPopHelp{mnuPopup, "mnuPopHelp", {.caption = "&Help"}};
     MenuItem mnuPopVisitWebSite{mnuPopup, "mnuPopVisitWebSite", {.caption = "&Visit Our Site"}};
     MenuItem mnuPopEmailUS{mnuPopup, "mnuPopEmailUS", {.caption = "&Email Us"}};
+    MenuItem mnuLine5{mnuPopup, "mnuLine5", {.caption = "-"}};
     MenuItem mnuPopAdjustments{mnuPopup, "mnuPopAdjustments", {.caption = "Ad&justments"}};
     MenuItem mnuPopReminders{mnuPopup, "mnuPopReminders", {.caption = "Athan and &Reminders"}};
+    MenuItem mnuLine6{mnuPopup, "mnuLine6", {.caption = "-"}};
     MenuItem mnuPopQuietNext{
         mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &next prayer"}};
     MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &today"}};
     MenuItem mnuPopQuietHours{mnuPopup, "mnuPopQuietHours", {.caption = "Quiet h&ours"}};
+    MenuItem mnuLine7{mnuPopup, "mnuLine7", {.caption = "-"}};
     MenuItem mnuPopSmall{mnuPopup, "mnuPopSmall", {.caption = "&Small face"}};
     MenuItem mnuPopFullScreen{mnuPopup, "mnuPopFullScreen", {.caption = "&Full screen"}};
     MenuItem mnuPopAbove{mnuPopup, "mnuPopAbove", {.caption = "&Keep above other windows"}};
+    MenuItem mnuLine8{mnuPopup, "mnuLine8", {.caption = "-"}};
     MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
 };
 

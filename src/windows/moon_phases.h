@@ -15,7 +15,8 @@
 namespace horavex {
 
 /// The moon window: four pages with the tables of the phases, rise and set, and the eclipses. A
-/// picture beside each table has the disc of every row; one more shows tonight's moon.
+/// picture beside each table has the disc of every row, and the row that comes next is marked; one
+/// more shows tonight's moon.
 class MoonPhasesForm : public Form {
 public:
     MoonPhasesForm();
@@ -26,6 +27,8 @@ public:
         "SkinLabel1",
         {.caption = "To define astronomically the 1st.day of RAMADAN(or any month) click here"}};
     Picture picTonight{*this, "picTonight", {.width = 900, .height = 900}};
+    Label lblTonight{
+        *this, "lblTonight", {.caption = "Tonight: {lit}% of the disc lit, day {day} of the moon"}};
     TabStrip SSTab1{*this,
                     "SSTab1",
                     {.items = {"New moon / First Quarter", "Full Moon / Last Quarter",

@@ -26,16 +26,18 @@ void AthanSheet::Draw(Cells& screen) {
     if (IsEnded() || !IsUp()) {
         return;
     }
-    constexpr int kRows = 7;
+    constexpr int kRows = 8;
     const std::string text = face_.Value("_root.character_textField");
+    const std::string place = face_.Value("_root.place_textField");
     const std::string stop = "[ ■ " + GetLangString("notices", "Stop", "Stop") + " ]";
-    const int width = std::clamp(WidthOf(text) + 8, 34, screen.Columns());
+    const int width = std::clamp(std::max(WidthOf(text), WidthOf(place)) + 8, 34, screen.Columns());
     const Area card{screen.Rows() - kRows - 1, screen.Columns() - width - 1, kRows, width};
     screen.Fill(card);
     screen.Frame(card, {}, Tone::kAccent, Tone::kAccent);
     screen.PutCentred(card.row + 1, card.column, "☾", Tone::kAccent, width);
     screen.PutCentred(card.row + 3, card.column, Clipped(text, width - 4), Tone::kStrong, width);
-    screen.PutCentred(card.row + 5, card.column, stop, Tone::kFocus, width);
+    screen.PutCentred(card.row + 4, card.column, Clipped(place, width - 4), Tone::kPlain, width);
+    screen.PutCentred(card.row + 6, card.column, stop, Tone::kFocus, width);
 }
 
 void AthanSheet::Press(const KeyPress& key) {

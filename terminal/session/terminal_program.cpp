@@ -68,11 +68,12 @@ public:
     }
 
 private:
-    /// A face that is the whole terminal takes no other shape.
+    /// A face that is the whole terminal is always in front, and takes no other shape.
     static void HideEntriesOfWindows() {
         for (MenuItem* entry :
              {&frmMain->mnuLine3, &frmMain->mnuSmall, &frmMain->mnuFullScreen, &frmMain->mnuAbove,
-              &frmMain->mnuPopSmall, &frmMain->mnuPopFullScreen, &frmMain->mnuPopAbove}) {
+              &frmMain->mnuPopFront, &frmMain->mnuLine4, &frmMain->mnuLine7, &frmMain->mnuPopSmall,
+              &frmMain->mnuPopFullScreen, &frmMain->mnuPopAbove}) {
             entry->SetVisible(false);
         }
     }

@@ -3,6 +3,7 @@
 #include "athan/athan_state.h"
 #include "athan/player.h"
 #include "lang/language_pack.h"
+#include "store/location_record.h"
 #include "support/program_test.h"
 #include "windows/frm_azan.h"
 
@@ -60,6 +61,17 @@ TEST_F(AzanWindowTest, ShowBringsItUpAndReturns) {
     EXPECT_TRUE(frmAzan->Timer1.Running());
     EXPECT_EQ(frmAzan->Timer1.Interval(), 50);
     EXPECT_THAT(platform.desktop.calls, ElementsAre("show frmAzan", "athan Play"));
+}
+
+TEST_F(AzanWindowTest, TellsPlaceAndTimeOfAnAthanThatTheUserAskedForToo) {
+    for (const Alert alert : {Alert::kAthanNow, Alert::kAsr}) {
+        platform.athanFace.SetVariable("_root.place_textField", "");
+        BringAthanWindowUp(alert);
+        EXPECT_EQ(platform.athanFace.Value("_root.place_textField"),
+                  "\u2068" + ActiveLocation.City.Name + "\u2069  ·  \u2068" +
+                      platform.formats.MediumTime(platform.clock.Now()) + "\u2069");
+        StopAthan();
+    }
 }
 
 TEST_F(AzanWindowTest, RisesFortyTwipsATick) {

@@ -33,6 +33,17 @@ TEST_F(AzanFaceTest, ShowsTheTextOfItsVariable) {
     EXPECT_EQ(Shown(), "");
 }
 
+TEST_F(AzanFaceTest, TellsPlaceAndTimeBelow) {
+    face.LoadMovie(0, "");
+    face.SetVariable(kText, "It is time");
+    face.SetVariable("_root.place_textField", "Cairo, 4:56 PM");
+    const auto lines = window.findChildren<QLabel*>();
+    EXPECT_EQ(lines.back()->text(), "Cairo, 4:56 PM");
+    EXPECT_GE(lines.back()->y(), lines.front()->geometry().bottom() - 2);
+    const auto* button = window.findChild<QAbstractButton*>("IDC_FS_Stop");
+    EXPECT_GT(button->y(), lines.back()->geometry().bottom());
+}
+
 TEST_F(AzanFaceTest, ItsButtonIsNamedInTheLanguageOfThePack) {
     platform.files.WriteWhole("/program/lang/German.ini", BytesOf("[notices]\nStop=Stopp\n"));
     currentLanguage = "German";

@@ -73,6 +73,7 @@ TEST_F(LinesBinderTest, LinesHaveTheHeightThatTheLayoutGivesThem) {
 TEST_F(LinesBinderTest, RowsOfATableGrowWithTheTextAndTheirPicturesWithThem) {
     auto* pictures = new QWidget(windows.Find(&form));
     pictures->setObjectName("discs");
+    Edit().setLineWrapMode(QTextEdit::NoWrap);
     Edit().setProperty("rows", 3);
     Edit().setProperty("rowPictures", "discs");
     form.text.SetText("one\r\ntwo\r\nthree\r\n");

@@ -47,15 +47,32 @@ TEST_F(MenuTest, EntriesComeInOrderWithTheirKeysAndState) {
     frmMain->mnuPopShow.SetChecked(true);
     frmMain->mnuPopHelp.SetVisible(false);
     FillMenu(menu, frmMain->mnuPopup);
-    EXPECT_EQ(Texts(menu),
-              (QStringList{"&Athan", "&Moon Phases", "&Prayer Time", "&Qibla", "E&xport",
-                           "&Visit Our Site", "&Email Us", "Ad&justments", "Athan and &Reminders",
-                           "Quiet until the &next prayer", "Quiet &today", "Quiet h&ours",
-                           "&Small face", "&Full screen", "&Keep above other windows", "&Exit"}));
-    EXPECT_FALSE(menu.actions().at(0)->isEnabled());
-    EXPECT_TRUE(menu.actions().at(2)->isEnabled());
-    EXPECT_TRUE(menu.actions().at(2)->isChecked());
-    EXPECT_FALSE(menu.actions().at(4)->isCheckable());
+    EXPECT_EQ(Texts(menu), (QStringList{"Sho&w Horavex",
+                                        "",
+                                        "&Athan",
+                                        "&Moon Phases",
+                                        "&Prayer Time",
+                                        "&Qibla",
+                                        "E&xport",
+                                        "&Visit Our Site",
+                                        "&Email Us",
+                                        "",
+                                        "Ad&justments",
+                                        "Athan and &Reminders",
+                                        "",
+                                        "Quiet until the &next prayer",
+                                        "Quiet &today",
+                                        "Quiet h&ours",
+                                        "",
+                                        "&Small face",
+                                        "&Full screen",
+                                        "&Keep above other windows",
+                                        "",
+                                        "&Exit"}));
+    EXPECT_FALSE(menu.actions().at(2)->isEnabled());
+    EXPECT_TRUE(menu.actions().at(4)->isEnabled());
+    EXPECT_TRUE(menu.actions().at(4)->isChecked());
+    EXPECT_FALSE(menu.actions().at(6)->isCheckable());
 }
 
 TEST_F(MenuTest, EntriesWithEntriesAreSubmenusAndADashIsALine) {
@@ -66,6 +83,27 @@ TEST_F(MenuTest, EntriesWithEntriesAreSubmenusAndADashIsALine) {
     ASSERT_NE(language->menu(), nullptr);
     EXPECT_TRUE(language->menu()->actions().at(0)->isSeparator());
     EXPECT_EQ(language->menu()->actions().at(1)->text(), "Arabic");
+}
+
+TEST_F(MenuTest, LanguagesStandInTheDirectionOfTheMenuWithTheirOwnNamesAtTheEdge) {
+    frmMain->mnuL.Load(1).SetCaption("English");
+    frmMain->mnuL(1).SetAside("English");
+    frmMain->mnuL.Load(2).SetCaption("Urdu");
+    frmMain->mnuL(2).SetAside("اردو");
+    frmMain->mnuWizard.SetCaption("معالج");
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuSettings);
+    const QMenu* languages = menu.actions().at(4)->menu();
+    EXPECT_TRUE(languages->isRightToLeft());
+    EXPECT_EQ(Texts(*languages), (QStringList{"", "English", "Urdu\tاردو"}));
+}
+
+TEST_F(MenuTest, EntriesThatDoNothingSayWhy) {
+    frmMain->mnuPopQibla.SetHint("elsewhere");
+    QMenu menu;
+    FillMenu(menu, frmMain->mnuPopup);
+    EXPECT_TRUE(menu.toolTipsVisible());
+    EXPECT_EQ(menu.actions().at(5)->toolTip(), "elsewhere");
 }
 
 TEST_F(MenuTest, PictureOfTheProgramFolderIsTheIconWhileUnchecked) {

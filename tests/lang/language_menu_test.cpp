@@ -57,6 +57,14 @@ TEST_F(LanguageMenuTest, EachPackIsAnItemInTheOrderOfTheFolder) {
     EXPECT_THAT(platform.dialogs.messages, IsEmpty());
 }
 
+TEST_F(LanguageMenuTest, EachLanguageStandsWithItsOwnNameWhereItsPackTellsThat) {
+    WritePack("French.ini", "[desktop]\nOwnName=Français\n");
+    WritePack("German.ini", "[frmMain]\n");
+    BuildLanguageMenu("German");
+    EXPECT_EQ(frmMain->mnuL(0).Aside(), "Français");
+    EXPECT_EQ(frmMain->mnuL(1).Aside(), "");
+}
+
 TEST_F(LanguageMenuTest, FirstPackTakesTheItemOfTheDefinition) {
     WritePacks({"Arabic.ini"});
     BuildLanguageMenu("English");

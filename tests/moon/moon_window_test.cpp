@@ -64,6 +64,11 @@ protected:
         return names;
     }
 
+    int NextRow(MoonPhase phase) {
+        constexpr double kDayZero = 2415018.5;
+        return NextMoonRow(phase, 2026, platform.clock.UniversalNow() + kDayZero);
+    }
+
     MoonPhasesForm& form = *Moon_Phases;
 };
 
@@ -82,6 +87,19 @@ TEST_F(MoonWindowTest, TablesAreFilledForTheYearOfTheClock) {
     EXPECT_EQ(LinesOf(form.Text6), Filled(ComputeLastQuarterRows));
     EXPECT_THAT(LinesOf(form.Text2)[6], testing::HasSubstr(" 2026, "));
     EXPECT_EQ(form.Text7.Text(), "");
+}
+
+TEST_F(MoonWindowTest, EachTableMarksTheMoonThatComesNext) {
+    EXPECT_EQ(form.Text2.MarkedLine(), NextRow(MoonPhase::kNewMoon));
+    EXPECT_EQ(form.Text3.MarkedLine(), NextRow(MoonPhase::kFirstQuarter));
+    EXPECT_EQ(form.Text5.MarkedLine(), NextRow(MoonPhase::kFullMoon));
+    EXPECT_EQ(form.Text6.MarkedLine(), NextRow(MoonPhase::kLastQuarter));
+    EXPECT_GT(form.Text2.MarkedLine(), 0);
+}
+
+TEST_F(MoonWindowTest, TellsHowMuchOfTonightsMoonIsLit) {
+    EXPECT_THAT(form.lblTonight.Caption(),
+                testing::MatchesRegex("Tonight: [0-9]+% of the disc lit, day [0-9]+ of the moon"));
 }
 
 TEST_F(MoonWindowTest, BothTablesHaveTheSameLabels) {

@@ -43,6 +43,15 @@ TEST_F(MoonPhasesTest, NewMoonsOf2001) {
                                      "14 December 2001, 20hrs 48min"));
 }
 
+TEST_F(MoonPhasesTest, RowThatComesNextIsTheFirstNotYetBehindTheMoment) {
+    constexpr double kNewYear = 2451910.5;  // 2001, as a Julian day
+    EXPECT_EQ(NextMoonRow(MoonPhase::kNewMoon, 2001, kNewYear), 1);
+    EXPECT_EQ(NextMoonRow(MoonPhase::kFirstQuarter, 2001, kNewYear), 0);
+    EXPECT_EQ(NextMoonRow(MoonPhase::kFirstQuarter, 2001, kNewYear + 1.9), 0);
+    EXPECT_EQ(NextMoonRow(MoonPhase::kFirstQuarter, 2001, kNewYear + 2.0), 1);
+    EXPECT_EQ(NextMoonRow(MoonPhase::kNewMoon, 2001, kNewYear + 364.0), -1);
+}
+
 TEST_F(MoonPhasesTest, FirstQuartersOf2001) {
     ComputeAll(2001);
     EXPECT_THAT(

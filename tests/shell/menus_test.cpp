@@ -56,10 +56,11 @@ TEST_F(MenusTest, FourMenusOfTheFaceAndTheOneOfTheIcon) {
     EXPECT_THAT(NamesIn(frmMain->mnuHelp), ElementsAre("mnuAbout", "mnuHelpIndex", "mnuUpdate"));
     EXPECT_THAT(
         NamesIn(frmMain->mnuPopup),
-        ElementsAre("mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow", "mnuPopQibla", "mnuPopExport",
-                    "mnuPopHelp", "mnuPopVisitWebSite", "mnuPopEmailUS", "mnuPopAdjustments",
-                    "mnuPopReminders", "mnuPopQuietNext", "mnuPopQuietToday", "mnuPopQuietHours",
-                    "mnuPopSmall", "mnuPopFullScreen", "mnuPopAbove", "mnuPopExit"));
+        ElementsAre("mnuPopFront", "mnuLine4", "mnuPopAthan", "mnuPopMoonPhases", "mnuPopShow",
+                    "mnuPopQibla", "mnuPopExport", "mnuPopHelp", "mnuPopVisitWebSite",
+                    "mnuPopEmailUS", "mnuLine5", "mnuPopAdjustments", "mnuPopReminders", "mnuLine6",
+                    "mnuPopQuietNext", "mnuPopQuietToday", "mnuPopQuietHours", "mnuLine7",
+                    "mnuPopSmall", "mnuPopFullScreen", "mnuPopAbove", "mnuLine8", "mnuPopExit"));
 }
 
 TEST_F(MenusTest, FiveEntriesAreDisabled) {
@@ -71,6 +72,21 @@ TEST_F(MenusTest, FiveEntriesAreDisabled) {
     }
     EXPECT_THAT(disabled, ElementsAre("mnuChangeCity", "mnuPopup", "mnuPopAthan",
                                       "mnuPopMoonPhases", "mnuPopQibla"));
+}
+
+TEST_F(MenusTest, EntriesThatDoNothingSayWhyOnceTheirMenuOpens) {
+    PopUpAtPointer(frmMain->mnuPopup);
+    EXPECT_EQ(frmMain->mnuPopQibla.Hint(), "Choose this in the menus of the window.");
+    EXPECT_EQ(frmMain->mnuPopEmailUS.Hint(), "Horavex has no mail address.");
+    EXPECT_EQ(frmMain->mnuPopExport.Hint(), "");
+    PopUp(frmMain->mnuSettings, 0, 0);
+    EXPECT_EQ(frmMain->mnuChangeCity.Hint(), "Change the city in the settings window.");
+}
+
+TEST_F(MenusTest, IconsMenuBeginsWithWhatBringsAHiddenFaceBack) {
+    frmMain->Hide();
+    frmMain->mnuPopup.Entries().front()->UserClick();
+    EXPECT_TRUE(frmMain->Visible());
 }
 
 TEST_F(MenusTest, SettingsEntryBringsTheSettingsWindowUpInFrontOfTheFace) {

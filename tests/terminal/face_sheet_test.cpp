@@ -128,7 +128,9 @@ TEST_F(FaceSheetTest, AthanWindowTakesItsStopAndNoOtherKey) {
     athanFace.onFSCommand = [this](const std::string& command, const std::string&) {
         commands.push_back(command);
     };
+    athanFace.SetVariable("_root.place_textField", "Cairo, 3:15 PM");
     EXPECT_THAT(screen.Text(), HasSubstr("It is time for Asr"));
+    EXPECT_THAT(screen.Text(), HasSubstr("Cairo, 3:15 PM"));
     EXPECT_THAT(screen.Text(), HasSubstr("[ ■ Stop ]"));
     screen.Type("h");
     EXPECT_THAT(commands, testing::ElementsAre("IDC_FS_help")) << "for what lies below";

@@ -82,6 +82,23 @@ TEST_F(ExportCommandTest, CancelIsGoneWhileTheWindowOnlyWaits) {
     EXPECT_TRUE(platform.files.Exists("/home/year.txt"));
 }
 
+TEST_F(ExportCommandTest, EndsWithThePathOfTheFileAndAWayToItsFolder) {
+    bool isTold = false;
+    platform.loop.After(3.0, [&] {
+        isTold = true;
+        EXPECT_EQ(fMessage->lblMessage1.Caption(), "Saved as");
+        EXPECT_EQ(fMessage->lblMessage2.Caption(), "/home/year.txt");
+        EXPECT_FALSE(fMessage->Shape1.Visible());
+        fMessage->cmdFolder.UserClick();
+        EXPECT_THAT(platform.desktop.calls, testing::Contains("OpenAddress /home/"));
+    });
+    mnuExport_Click();
+    EXPECT_TRUE(isTold);
+    fMessage->Load();
+    EXPECT_FALSE(fMessage->cmdFolder.Visible());
+    EXPECT_TRUE(fMessage->Shape1.Visible());
+}
+
 TEST_F(ExportCommandTest, SlowExportWaitsForTheRestOnly) {
     platform.loop.AtPump(10, [&] { platform.clock.Advance(5.0); });
     EXPECT_NEAR(SecondsOfExport(), 7.0, 0.02);
