@@ -201,6 +201,24 @@ TEST(CtlYears, FolderTakesAFileForEachLine) {
     }
 }
 
+// Without the desktop there are no fonts, and each line is told so.
+TEST(CtlYears, FolderTakesDocumentsWhereThereAreFonts) {
+    YearsRun years;
+    years.Write("city\nCairo\nOslo\nParis\n");
+    const std::string folder = years.ctl / "documents";
+    std::filesystem::create_directory(folder);
+    const ProgramRun run =
+        years.Run("--year 2026 --format pdf --paper letter --jobs 2 --output " + folder);
+    if (run.status == 1) {
+        EXPECT_THAT(run.err, HasSubstr("line 4: what sets PDF in type comes with the desktop"));
+        return;
+    }
+    EXPECT_EQ(run.err, "");
+    for (const char* name : {"000002-Cairo", "000003-Oslo", "000004-Paris"}) {
+        EXPECT_THAT(ContentOf(folder + "/" + name + ".pdf"), StartsWith("%PDF-")) << name;
+    }
+}
+
 TEST(CtlYears, CitiesAreLinesForIt) {
     const YearsRun years;
     const ProgramRun run = years.Shell(
