@@ -272,6 +272,8 @@ protected:
         LoadActiveSettings();
         ActiveSettings.Language = ColumnOf(std::get<0>(GetParam()));
         SaveActiveSettings();
+        CopyActiveToWorking();  // of which the settings window speaks
+        SaveWorkingSettings();
         IshaAngle = 18.0;  // whoever has one gets no wizard
         SaveIshaAngle();
         SaveStoredLanguage(std::get<0>(GetParam()));
