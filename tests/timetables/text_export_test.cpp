@@ -4,6 +4,7 @@
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
+#include "support/other_formats.h"
 #include "timetables/sample_timetable.h"
 #include "windows/f_message.h"
 
