@@ -86,13 +86,19 @@ bool IsDefault(const QStyleOption& option) {
     return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
 }
 
+/// Twice as thick around what has the keyboard: another colour alone would hardly be seen where
+/// edges are black or white.
 void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, double corner) {
-    const bool isMarked = option.state.testFlag(QStyle::State_HasFocus) || IsDefault(option);
+    const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
+    const Role role = hasFocus || IsDefault(option) ? Role::kMarked : Role::kEdge;
+    const double width = hasFocus ? 2.0 : 1.0;
+    const double inside = width / 2.0;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(ColourOf(ThemeOf(option.palette), isMarked ? Role::kMarked : Role::kEdge));
+    painter.setPen(QPen(ColourOf(ThemeOf(option.palette), role), width));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+    painter.drawRoundedRect(QRectF(rect).adjusted(inside, inside, -inside, -inside), corner,
+                            corner);
     painter.restore();
 }
 
@@ -100,7 +106,8 @@ void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, 
 /// A desktop's own colours are left to its style.
 bool WantsEdges(const QStyleOption& option) {
     const Theme theme = ThemeOf(option.palette);
-    return (theme != Theme::kLight || IsDefault(option)) &&
+    return (theme != Theme::kLight || IsDefault(option) ||
+            option.state.testFlag(QStyle::State_HasFocus)) &&
            option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
 }
 
@@ -174,6 +181,8 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
             return kSpacing;
+        case PM_FocusFrameHMargin:
+            return kCellMargin;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -188,6 +197,14 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
         return 0;
     }
     return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                                  const QWidget* widget) const {
+    const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const bool hasWords = type == CT_PushButton && button != nullptr && !button->text.isEmpty();
+    return hasWords ? whole + QSize(kButtonPadding, 0) : whole;
 }
 
 QIcon LookStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
@@ -219,7 +236,8 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
-    if (control == CC_Slider && slider != nullptr && WantsEdges(*option)) {
+    if (control == CC_Slider && slider != nullptr && WantsEdges(*option) &&
+        ThemeOf(option->palette) != Theme::kLight) {
         DrawSlider(*slider, *painter, widget);
         return;
     }

@@ -15,6 +15,8 @@ public:
                     const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap picture, const QStyleOption* option,

@@ -44,6 +44,17 @@ TEST(LookStyle, ButtonsOfADialogueAreToldByTheirWordsAlone) {
     EXPECT_TRUE(box.button(QDialogButtonBox::Cancel)->icon().isNull());
 }
 
+TEST(LookStyle, WordsOfAButtonKeepOffItsEdges) {
+    QPushButton button(QStringLiteral("Wiederholungen im Kalender"));
+    button.ensurePolished();
+    const int words = button.fontMetrics().horizontalAdvance(button.text());
+    EXPECT_GE(button.sizeHint().width(), words + kButtonPadding + 8);
+}
+
+TEST(LookStyle, CellsOfATableKeepApart) {
+    EXPECT_EQ(QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin), kCellMargin);
+}
+
 /// The strongest contrast to the ground of the window in a column of the widget's picture.
 double EdgeOf(QWidget& widget) {
     const QImage picture = widget.grab().toImage();
@@ -100,6 +111,36 @@ TEST(LookStyle, DefaultButtonHasAnEdgeOfWhatIsMarked) {
         button.setDefault(true);
         const QImage picture = button.grab().toImage();
         EXPECT_EQ(picture.pixelColor(0, button.height() / 2), ColourOf(theme, Role::kMarked));
+    }
+}
+
+/// What a style draws of a button or a box with and without the keyboard.
+QImage PictureOf(QStyle::PrimitiveElement element, bool hasFocus) {
+    QImage picture(60, 30, QImage::Format_RGB32);
+    picture.fill(QApplication::palette().color(QPalette::Window));
+    QStyleOptionButton button;
+    QStyleOptionFrame frame;
+    QStyleOption& option = element == QStyle::PE_FrameLineEdit ? static_cast<QStyleOption&>(frame)
+                                                               : static_cast<QStyleOption&>(button);
+    option.rect = picture.rect();
+    option.palette = QApplication::palette();
+    option.state = QStyle::State_Enabled | QStyle::State_Active | QStyle::State_Raised;
+    option.state.setFlag(QStyle::State_HasFocus, hasFocus);
+    QPainter painter(&picture);
+    QApplication::style()->drawPrimitive(element, &option, &painter);
+    return picture;
+}
+
+TEST(LookStyle, FocusIsARingThatIsSeenBesideAnEdge) {
+    for (const Theme theme :
+         {Theme::kLight, Theme::kDark, Theme::kContrast, Theme::kLightContrast}) {
+        const ScopedLook look(theme);
+        for (const auto element : {QStyle::PE_PanelButtonCommand, QStyle::PE_FrameLineEdit}) {
+            const auto inside = [&](bool hasFocus) {
+                return PictureOf(element, hasFocus).pixelColor(1, 15);
+            };
+            EXPECT_GE(Contrast(inside(true), inside(false)), 3.0);
+        }
     }
 }
 
