@@ -79,6 +79,7 @@ Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
 
 constexpr double kCorner = 2.0;  // radius
 constexpr int kTick = 4;         // length of a slider's marks, pixels
+constexpr int kHeadShift = 3;    // of the head of a column, to stand over its cells, pixels
 
 /// The button that Enter presses.
 bool IsDefault(const QStyleOption& option) {
@@ -203,6 +204,9 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const {
     const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_HeaderSection) {
+        return whole + QSize(2 * kHeadShift, 0);
+    }
     const bool hasWords = type == CT_PushButton && button != nullptr && !button->text.isEmpty();
     return hasWords ? whole + QSize(kButtonPadding, 0) : whole;
 }
@@ -254,6 +258,13 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
                             const QWidget* widget) const {
     if (element == CE_MenuItem) {
         painter->setLayoutDirection(option->direction);
+    }
+    const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_HeaderLabel && head != nullptr) {
+        QStyleOptionHeader shifted = *head;
+        shifted.rect.adjust(kHeadShift, 0, -kHeadShift, 0);
+        QProxyStyle::drawControl(element, &shifted, painter, widget);
+        return;
     }
     const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (element == CE_ProgressBarLabel && bar != nullptr) {
