@@ -12,6 +12,7 @@
 #include <QTabBar>
 
 #include "desktop/shots/scenes.h"
+#include "support/shipped_languages.h"
 
 namespace horavex {
 namespace {
@@ -149,9 +150,7 @@ TEST_P(CutTextsTest, EveryTextIsShownWhole) {
 }
 
 INSTANTIATE_TEST_SUITE_P(LanguagesAndTextSizes, CutTextsTest,
-                         testing::Combine(testing::Values("Arabic", "Bengali", "English", "French",
-                                                          "German", "Indonesian", "Spanish",
-                                                          "Turkish", "Urdu"),
+                         testing::Combine(testing::ValuesIn(kLookedAtLanguages),
                                           testing::Values(1.0, 2.0)),
                          [](const auto& test) {
                              return std::get<0>(test.param) +

@@ -354,7 +354,7 @@ std::string NameOfCase(const testing::TestParamInfo<std::tuple<std::string, Scre
 }
 
 INSTANTIATE_TEST_SUITE_P(UsualSize, WindowsOnScreensTest,
-                         testing::Combine(testing::ValuesIn(kShippedLanguages),
+                         testing::Combine(testing::ValuesIn(kLookedAtLanguages),
                                           testing::Values(ScreenSize{80, 24})),
                          NameOfCase);
 
