@@ -6,12 +6,9 @@
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
 
-#include "e2e/harness/wait_until.h"
 #include "support/bus_configuration.h"
 #include "support/child_process.h"
-#include "support/scoped_variable.h"
-#include "support/temporary_folder.h"
-#include "support/test_platform.h"
+#include "terminal/bus_loop_test.h"
 #include "terminal/ports/terminal_notices.h"
 
 namespace horavex {
@@ -101,11 +98,9 @@ private:
     std::optional<PollEventLoop::Reader> reader_;
 };
 
-class BusNoticesTest : public testing::Test {
+class BusNoticesTest : public BusLoopTest {
 protected:
-    BusNoticesTest() {
-        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
-    }
+    BusNoticesTest() : BusLoopTest("DBUS_SESSION_BUS_ADDRESS") {}
 
     void MakeNotices() {
         notices.emplace(loop, std::chrono::milliseconds(1));
@@ -114,25 +109,6 @@ protected:
         };
     }
 
-    /// Runs the loop until something is so, within a limit.
-    bool Until(const std::function<bool()>& isSo) {
-        bool isLate = false;
-        PollEventLoop::Alarm limit(loop, [&] { isLate = true; });
-        limit.Set(std::chrono::seconds(20));
-        loop.RunWhile([&] { return !isSo() && !isLate; });
-        return isSo();
-    }
-
-    TestPlatform platform;
-    TemporaryFolder folder;
-    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
-                         "--config-file=" + WriteBusConfiguration(folder.Path())},
-                        {},
-                        folder / "out",
-                        folder / "err"};
-    const ScopedVariable address{"DBUS_SESSION_BUS_ADDRESS",
-                                 ("unix:path=" + folder / "bus").c_str()};
-    PollEventLoop loop;
     std::optional<Desktop> desktop;
     std::optional<TerminalNotices> notices;
     std::vector<std::pair<NoticeKind, NoticeAction>> actions;

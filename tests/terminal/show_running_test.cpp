@@ -5,22 +5,15 @@
 
 #include <thread>
 
-#include "e2e/harness/wait_until.h"
-#include "support/bus_configuration.h"
-#include "support/child_process.h"
-#include "support/scoped_variable.h"
-#include "support/temporary_folder.h"
-#include "support/test_platform.h"
+#include "terminal/bus_loop_test.h"
 #include "terminal/ports/bus_reader.h"
 
 namespace horavex {
 namespace {
 
-class ShowRunningTest : public testing::Test {
+class ShowRunningTest : public BusLoopTest {
 protected:
-    ShowRunningTest() {
-        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
-    }
+    ShowRunningTest() : BusLoopTest("DBUS_SESSION_BUS_ADDRESS") {}
 
     /// The answer to a second start, while the first program goes on.
     bool Ask() {
@@ -34,17 +27,6 @@ protected:
         second.join();
         return isAnswered;
     }
-
-    TestPlatform platform;
-    TemporaryFolder folder;
-    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
-                         "--config-file=" + WriteBusConfiguration(folder.Path())},
-                        {},
-                        folder / "out",
-                        folder / "err"};
-    const ScopedVariable address{"DBUS_SESSION_BUS_ADDRESS",
-                                 ("unix:path=" + folder / "bus").c_str()};
-    PollEventLoop loop;
 };
 
 /// A program that runs already.

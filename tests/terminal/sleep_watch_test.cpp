@@ -4,12 +4,7 @@
 #include <gtest/gtest.h>
 #include <sdbus-c++/sdbus-c++.h>
 
-#include "e2e/harness/wait_until.h"
-#include "support/bus_configuration.h"
-#include "support/child_process.h"
-#include "support/scoped_variable.h"
-#include "support/temporary_folder.h"
-#include "support/test_platform.h"
+#include "terminal/bus_loop_test.h"
 #include "terminal/ports/terminal_session_watch.h"
 
 namespace horavex {
@@ -44,31 +39,9 @@ private:
     std::unique_ptr<sdbus::IObject> object_;
 };
 
-class SleepWatchTest : public testing::Test {
+class SleepWatchTest : public BusLoopTest {
 protected:
-    SleepWatchTest() {
-        WaitUntil("the bus", [this] { return ContentOf(folder / "out").ends_with('\n'); });
-    }
-
-    /// Runs the loop until something is so, within a limit.
-    bool Until(const std::function<bool()>& isSo) {
-        bool isLate = false;
-        PollEventLoop::Alarm limit(loop, [&] { isLate = true; });
-        limit.Set(std::chrono::seconds(20));
-        loop.RunWhile([&] { return !isSo() && !isLate; });
-        return isSo();
-    }
-
-    TestPlatform platform;
-    TemporaryFolder folder;
-    ChildProcess daemon{{"dbus-daemon", "--nofork", "--print-address=1",
-                         "--config-file=" + WriteBusConfiguration(folder.Path())},
-                        {},
-                        folder / "out",
-                        folder / "err"};
-    const ScopedVariable address{"DBUS_SYSTEM_BUS_ADDRESS",
-                                 ("unix:path=" + folder / "bus").c_str()};
-    PollEventLoop loop;
+    SleepWatchTest() : BusLoopTest("DBUS_SYSTEM_BUS_ADDRESS") {}
 };
 
 TEST_F(SleepWatchTest, EndOfASleepIsToldAndNotItsBeginning) {
