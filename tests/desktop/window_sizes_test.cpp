@@ -20,6 +20,7 @@
 #include "shell/wiring.h"
 #include "store/settings_files.h"
 #include "store/settings_record.h"
+#include "support/opened_window.h"
 #include "support/program_copy.h"
 #include "support/test_platform.h"
 #include "timetables/month_window.h"
@@ -57,20 +58,6 @@ constexpr Language kLanguages[] = {
 };
 
 constexpr QSize kFrame(8, 44);  // what a window manager draws around a window, at most
-
-/// A window, and what opens it.
-struct Opened {
-    Form& form;
-    std::function<void()> open;
-};
-
-std::function<void()> By(MenuItem& entry) {
-    return [&entry] { entry.UserClick(); };
-}
-
-std::function<void()> Shown(Form& form) {
-    return [&form] { form.Show(); };
-}
 
 /// The program in one language, with texts of one size.
 class WindowsOfTheProgram : public testing::Test {

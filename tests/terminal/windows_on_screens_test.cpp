@@ -23,6 +23,7 @@
 #include "store/settings_record.h"
 #include "store/stored_values.h"
 #include "support/build_folder.h"
+#include "support/opened_window.h"
 #include "support/program_copy.h"
 #include "support/shipped_languages.h"
 #include "terminal/desk_screen.h"
@@ -71,20 +72,6 @@ std::int16_t ColumnOf(const std::string& language) {
         {"French", 2}, {"German", 3}, {"Arabic", 4}, {"Spanish", 5}};
     const auto found = columns.find(language);
     return found == columns.end() ? 1 : found->second;
-}
-
-/// A window, and what opens it.
-struct Opened {
-    Form& form;
-    std::function<void()> open;
-};
-
-std::function<void()> By(MenuItem& entry) {
-    return [&entry] { entry.UserClick(); };
-}
-
-std::function<void()> Shown(Form& form) {
-    return [&form] { form.Show(); };
 }
 
 std::vector<Opened> AllWindows() {
