@@ -10,6 +10,7 @@
 
 #include <array>
 #include <clocale>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <optional>
@@ -174,6 +175,29 @@ void SetUtf8Locale() {
     }
 }
 
+/// Holds back the key that stops a program while the screen is drawn: the library ignores its
+/// signal meanwhile, and one that came then would be lost. What is held back comes at the end.
+class HeldStop {
+public:
+    HeldStop() {
+        sigset_t stop;
+        ::sigemptyset(&stop);
+        ::sigaddset(&stop, SIGTSTP);
+        ::pthread_sigmask(SIG_BLOCK, &stop, &before_);
+    }
+    ~HeldStop() { ::pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+    HeldStop(const HeldStop&) = delete;
+    HeldStop& operator=(const HeldStop&) = delete;
+
+private:
+    sigset_t before_;
+};
+
+void RefreshScreen() {
+    const HeldStop held;
+    ::refresh();
+}
+
 bool IsUnset(const char* variable) {
     const char* value = std::getenv(variable);
     return value == nullptr || *value == '\0';
@@ -261,7 +285,7 @@ void CursesScreen::Show(const Cells& cells) {
     if (cells.Cursor()) {
         ::move(cells.Cursor()->row, cells.Cursor()->column);
     }
-    ::refresh();
+    RefreshScreen();
 }
 
 bool CursesScreen::HasInput() const {
@@ -297,7 +321,7 @@ void CursesScreen::Return() {
 
 void CursesScreen::Redraw() {
     ::clearok(stdscr, TRUE);
-    ::refresh();
+    RefreshScreen();
 }
 
 void CursesScreen::Beep() {

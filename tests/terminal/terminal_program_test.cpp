@@ -60,6 +60,16 @@ protected:
         terminal.WaitFor("Configuration Wizard");
     }
 
+    static void StopAndContinue(VirtualTerminal& terminal) {
+        terminal.Signal(SIGTSTP);
+        terminal.WaitUntil([&](const std::string&) { return !terminal.IsOnOtherScreen(); },
+                           "the stop");
+        terminal.WaitForStop();  // what goes on before it has stopped would stop for ever
+        terminal.Signal(SIGCONT);
+        terminal.WaitUntil([&](const std::string&) { return terminal.IsOnOtherScreen(); },
+                           "the return");
+    }
+
     TemporaryFolder home;
     FakedClock clock{kAfterNoon};
     Environment variables = {{"HOME", home.Path()},
@@ -178,13 +188,21 @@ TEST_F(TerminalProgramTest, StopGivesTheTerminalBackForAWhile) {
     StoreSettings();
     VirtualTerminal terminal({}, variables);
     terminal.WaitFor("Next Athan: Asr");
-    terminal.Signal(SIGTSTP);
-    terminal.WaitUntil([&](const std::string&) { return !terminal.IsOnOtherScreen(); }, "the stop");
-    terminal.WaitForStop();  // what goes on before it has stopped would stop for ever
-    terminal.Signal(SIGCONT);
-    terminal.WaitUntil([&](const std::string&) { return terminal.IsOnOtherScreen(); },
-                       "the return");
+    StopAndContinue(terminal);
     terminal.WaitFor("Next Athan: Asr");
+}
+
+TEST_F(TerminalProgramTest, StopWhileTheScreenIsDrawnIsNotLost) {
+    StoreSettings();
+    VirtualTerminal terminal({}, variables);
+    terminal.WaitFor("Next Athan: Asr");
+    for (int i = 0; i < 5; ++i) {
+        terminal.Type(std::string(100, '\f'));  // each draws all of it anew
+        const std::size_t before = terminal.Written().size();
+        terminal.WaitUntil([&](const std::string&) { return terminal.Written().size() > before; },
+                           "the first drawing");
+        StopAndContinue(terminal);
+    }
 }
 
 TEST_F(TerminalProgramTest, KeyBehindTheEscapeKeyIsNotLost) {
