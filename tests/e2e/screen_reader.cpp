@@ -43,6 +43,9 @@ std::string StatesOf(AtspiAccessible* object) {
         {ATSPI_STATE_CHECKED, " | checked"}};
     std::unique_ptr<AtspiStateSet, Unref> states(atspi_accessible_get_state_set(object));
     std::string told;
+    if (states != nullptr && !atspi_state_set_contains(states.get(), ATSPI_STATE_ENABLED)) {
+        told = " | disabled";
+    }
     for (const auto& [state, word] : kTold) {
         if (states != nullptr && atspi_state_set_contains(states.get(), state)) {
             told += word;

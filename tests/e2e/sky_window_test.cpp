@@ -3,9 +3,11 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
-#include <utility>
+#include <sstream>
+#include <string>
 
 #include "e2e/harness/program_fixture.h"
+#include "e2e/harness/screen_reader.h"
 #include "e2e/harness/wait_until.h"
 
 namespace horavex {
@@ -16,6 +18,16 @@ using testing::IsEmpty;
 
 constexpr const char* kSavedMap =
     "Crescent of Sha'ban 1448, evening of 9 January 2027, criterion of Yallop";
+
+bool CanBePressed(const std::string& button, const std::string& tree) {
+    std::istringstream in(tree);
+    for (std::string line; std::getline(in, line);) {
+        if (line.find("push button | " + button) != line.npos) {
+            return line.find(" | disabled") == line.npos;
+        }
+    }
+    return false;
+}
 
 class SkyProgramTest : public ProgramFixture {
 protected:
@@ -40,14 +52,6 @@ protected:
         desktop.PressKey(key);
         EXPECT_TRUE(WaitUntil("another view", [&] { return desktop.Fingerprint() != before; }))
             << key;
-    }
-
-    void WaitForStillView() const {
-        std::string before;
-        EXPECT_TRUE(WaitUntil("a still view", [&] {
-            const std::string last = std::exchange(before, desktop.Fingerprint());
-            return last == before;
-        }));
     }
 
     void ExpectClosedByEscape(const ChildProcess& program, const std::string& window) const {
@@ -81,10 +85,13 @@ TEST_F(SkyProgramTest, OpensFromTheMoonWindowAndGivesTheKeysBackToIt) {
 }
 
 TEST_F(SkyProgramTest, CrescentTurnsItsMonthAndSavesItsMapByTheKeyboard) {
+    const ScreenReader reader(desktop);
     const ChildProcess program = StartProgram();
     const std::string crescent = OpenTool(program, "r", "Crescent");
-    PressForAnotherView("alt+n");  // the next month
-    WaitForStillView();            // until the map is complete there is nothing to save
+    desktop.PressKey("alt+n");  // the next month
+    reader.WaitFor("Evening of the map: 9 January 2027");
+    EXPECT_TRUE(WaitUntil("a complete map, which alone can be saved",
+                          [&] { return CanBePressed("Save Map", reader.Tree()); }));
     desktop.SaveScreen("crescent");
     desktop.PressKey("alt+s");
     Activated(desktop.WaitForWindow(program, kSavedMap));
