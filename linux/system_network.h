@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "linux/http_get.h"
+#include "linux/signed_get.h"
 #include "platform/network.h"
 
 namespace horavex {
@@ -17,6 +17,9 @@ public:
 
     ConnectionState Connection() override;
     Bytes Get(const std::string& address) override { return HttpGet(address, FetchLimits()); }
+    SignedBody GetSigned(const std::string& address, const std::string& key) override {
+        return HttpGetSigned(address, key, FetchLimits());
+    }
 
 private:
     std::string root_;

@@ -24,4 +24,9 @@ Bytes QtNetwork::Get(const std::string& address) {
     return SystemNetwork::Get(address);
 }
 
+SignedBody QtNetwork::GetSigned(const std::string& address, const std::string& key) {
+    PaintWindows();
+    return SystemNetwork::GetSigned(address, key);
+}
+
 }  // namespace horavex

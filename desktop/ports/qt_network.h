@@ -9,6 +9,7 @@ namespace horavex {
 class QtNetwork : public SystemNetwork {
 public:
     Bytes Get(const std::string& address) override;
+    SignedBody GetSigned(const std::string& address, const std::string& key) override;
 };
 
 }  // namespace horavex

@@ -64,6 +64,7 @@ class AbsentNetwork : public Network {
 public:
     ConnectionState Connection() override { return {false, 0}; }
     Bytes Get(const std::string&) override { return {}; }
+    SignedBody GetSigned(const std::string&, const std::string&) override { return {{}, false}; }
 };
 
 /// No file opens.

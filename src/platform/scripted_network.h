@@ -19,9 +19,15 @@ public:
         return answer ? BytesOf(answer()) : Bytes();
     }
 
+    /// Writes key and address down, and asks answer and isSigned.
+    SignedBody GetSigned(const std::string& address, const std::string& key) override {
+        return {Get(key + " " + address), isSigned};
+    }
+
     ConnectionState connection{false, 0};
     std::vector<std::string> requests;
     std::function<std::string()> answer;
+    bool isSigned = false;
 };
 
 }  // namespace horavex

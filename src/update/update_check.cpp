@@ -26,6 +26,8 @@ const ProgramStateReset reset([] { updateFilePath.clear(); });
 constexpr const char* kRemotePath = "/update/update.txt";
 constexpr const char* kDownload =
     "Please download the latest version of Horavex Prayer Time Software from {address}";
+constexpr const char* kSigned = "The answer of the server is signed.";
+constexpr const char* kUnsigned = "The answer of the server is not signed and may be false.";
 constexpr int kBarFull = 10;
 
 void NameUpdateFile() {
@@ -76,9 +78,15 @@ Connection AskProbes() {
     return {isOnline, Ask("Checking connection type", GetConnectionSummary)};
 }
 
-void Fetch() {
-    Ports().programFolder.WriteWhole(updateFilePath,
-                                     Ports().network.Get(WebServer() + kRemotePath));
+/// Puts the web server's file into the scratch file. True if its signature counts, which nobody
+/// looks for where there is no key.
+bool Fetch(const std::string& key) {
+    const std::string address = WebServer() + kRemotePath;
+    Network& network = Ports().network;
+    const SignedBody body =
+        key.empty() ? SignedBody{network.Get(address), false} : network.GetSigned(address, key);
+    Ports().programFolder.WriteWhole(updateFilePath, body.bytes);
+    return body.isSigned;
 }
 
 /// The last line of the scratch file, without its end. An end of line behind it begins no line.
@@ -94,25 +102,60 @@ std::string PublishedVersion() {
     return last;
 }
 
-void TellAnswer(const std::string& published) {
-    if (published.empty()) {
+/// What the web server has answered, and what there is to say about its signature.
+struct Published {
+    std::string version;
+    bool isKeySet;
+    bool isSigned;
+};
+
+Published AskServer() {
+    const std::string key = UpdateKey();
+    const bool isSigned = Fetch(key);
+    return {PublishedVersion(), !key.empty(), isSigned};
+}
+
+/// A message with a line on the signature below it where a key is set.
+std::string WithSignature(const std::string& message, const Published& published,
+                          std::string (*textOf)(const char* name, const char* text)) {
+    if (!published.isKeySet) {
+        return message;
+    }
+    return message + Crlf +
+           (published.isSigned ? textOf("SignedAnswer", kSigned)
+                               : textOf("UnsignedAnswer", kUnsigned));
+}
+
+std::string InThePack(const char* name, const char* text) {
+    return GetLangString("desktop", name, text);
+}
+
+std::string InEnglish(const char*, const char* text) {
+    return text;
+}
+
+void TellAnswer(const Published& published) {
+    if (published.version.empty()) {
         Tell(GetLangString("msg", "21", "Please check your internet connection and try again."));
-    } else if (published == RunningVersionText()) {
-        Tell(GetLangString("msg", "22", "No software update available at this time."));
+    } else if (published.version == RunningVersionText()) {
+        Tell(WithSignature(GetLangString("msg", "22", "No software update available at this time."),
+                           published, InThePack));
     } else {
-        Tell(GetLangString("msg", "19", "Update Available.") + Crlf +
-             WithWebAddress(GetLangString("msg", "20", kDownload)));
+        Tell(WithSignature(GetLangString("msg", "19", "Update Available.") + Crlf +
+                               WithWebAddress(GetLangString("msg", "20", kDownload)),
+                           published, InThePack));
     }
 }
 
-void TellDifference(const std::string& published) {
-    if (!published.empty() && published != RunningVersionText()) {
-        Tell("Update Available." + Crlf + WithWebAddress(kDownload));
+void TellDifference(const Published& published) {
+    if (!published.version.empty() && published.version != RunningVersionText()) {
+        Tell(WithSignature("Update Available." + Crlf + WithWebAddress(kDownload), published,
+                           InEnglish));
     }
 }
 
 using Step = void (*)();
-using Answer = void (*)(const std::string& published);
+using Answer = void (*)(const Published& published);
 
 /// A file that cannot be written or read ends the check where it stands.
 void Check(Step prepare, Answer answer) {
@@ -123,8 +166,7 @@ void Check(Step prepare, Answer answer) {
     HoravexMainForm->ProgressBar1.SetValue(kBarFull);
     if (connection.isOnline) {
         prepare();
-        Fetch();
-        answer(PublishedVersion());
+        answer(AskServer());
     } else {
         Tell(connection.summary);
     }

@@ -33,6 +33,12 @@ std::string HomePage() {
     return Configured("Home Page", WebServer() + "/");
 }
 
+std::string UpdateKey() {
+    std::string key;
+    CRegister().REGGetSetting(kLocalMachine, kSettingsKey, "Update Key", "", key);
+    return key;
+}
+
 std::string WithWebAddress(std::string text) {
     if (const std::size_t at = text.find(kMark); at != std::string::npos) {
         text.replace(at, kMark.size(), WebServer() + "/");

@@ -14,6 +14,10 @@ std::string WebServer();
 /// The vendor's home page: the setting "Home Page", or else the root page of the web server.
 std::string HomePage();
 
+/// The public key of whoever signs the web server's file, as minisign prints it: the machine-wide
+/// setting "Update Key". Empty where none is set: then nobody asks for a signature.
+std::string UpdateKey();
+
 /// A text of a pack with the root page of the web server in the place of its mark "{address}".
 std::string WithWebAddress(std::string text);
 

@@ -35,5 +35,15 @@ TEST_F(QtNetworkTest, WindowsArePaintedBeforeAFetchBlocks) {
     EXPECT_GT(paintings.count, 0);
 }
 
+TEST_F(QtNetworkTest, WindowsArePaintedBeforeAFetchWithASignatureBlocks) {
+    Show();
+    auto& label = Find<QLabel>("label");
+    const Paintings paintings(label);
+    form.label.SetCaption("Checking");
+    EXPECT_FALSE(network.GetSigned("", "").isSigned);
+    EXPECT_EQ(label.text(), "Checking");
+    EXPECT_GT(paintings.count, 0);
+}
+
 }  // namespace
 }  // namespace horavex

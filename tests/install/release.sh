@@ -57,6 +57,12 @@ git checkout --quiet CMakeLists.txt
 tools/release --dry-run 9.1.0 "$folder/dry" >/dev/null
 unchanged
 
+minisign -G -W -p "$folder/public" -s "$folder/secret" >/dev/null
+refuses "there is no key $folder/none" --key "$folder/none" 9.1.0
+tools/release --dry-run --key "$folder/secret" 9.1.0 "$folder/signed" >/dev/null
+minisign -V -q -p "$folder/public" -m "$folder/signed/update.txt"
+grep -q ' update.txt.minisig$' "$folder/signed/SHA256SUMS" || fail "the signature has no sum"
+
 tools/release 9.1.0 "$folder/files" >/dev/null
 [ "$(git log -1 --format=%s v9.1.0)" = "Release 9.1.0" ]
 [ "$(git rev-parse 'v9.1.0^{commit}' main)" = "$(git rev-parse HEAD HEAD)" ] || fail "the tag is elsewhere"

@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "base/program_version.h"
+#include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "support/test_platform.h"
 #include "windows/horavex_main_form.h"
@@ -285,6 +286,60 @@ TEST_F(UpdateCheckTest, LabelChecksAndTheButtonOpensTheSite) {
     EXPECT_THAT(MessagesOf([] { HoravexMainForm->AboutUpdateButton.UserClick(); }), IsEmpty());
     EXPECT_THAT(platform.desktop.calls, ElementsAre("OpenAddress https://horavex.invalid/"));
     EXPECT_EQ(platform.network.requests.size(), 1U);
+}
+
+constexpr const char* kSigned = "The answer of the server is signed.";
+constexpr const char* kUnsigned = "The answer of the server is not signed and may be false.";
+
+class SignedUpdateTest : public UpdateCheckTest {
+protected:
+    SignedUpdateTest() {
+        platform.registry.CreateKey("Software\\Horavex\\Settings");
+        platform.registry.SetValue("Software\\Horavex\\Settings", "Update Key", "RWkey");
+    }
+
+    void ExpectBelow(const std::string& body, const std::string& message) {
+        platform.network.isSigned = true;
+        ExpectAnswer(body, message + Crlf + kSigned);
+        platform.network.isSigned = false;
+        ExpectAnswer(body, message + Crlf + kUnsigned);
+    }
+};
+
+TEST_F(SignedUpdateTest, SignedAnswerIsToldApartFromOneThatIsNot) {
+    ExpectBelow("999.0.0", kUpdate);
+    ExpectBelow(RunningVersionText() + "\n", kNothingNew);
+}
+
+TEST_F(SignedUpdateTest, SignatureIsAskedForByTheKeyThatIsSet) {
+    Publish("5");
+    CheckForUpdate();
+    EXPECT_THAT(platform.network.requests,
+                ElementsAre("RWkey https://horavex.invalid/update/update.txt"));
+    EXPECT_EQ(StringOf(platform.files.Contents(kFile)), "5");
+}
+
+TEST_F(SignedUpdateTest, NoAnswerHasNoSignature) {
+    ExpectAnswer("", kNoAnswer);
+}
+
+TEST_F(SignedUpdateTest, LineSpeaksTheLanguageOfThePack) {
+    currentLanguage = "Test";
+    platform.files.WriteWhole(
+        "/program/lang/Test.ini",
+        BytesOf("[msg]\n22=same\n[desktop]\nSignedAnswer=yes\nUnsignedAnswer=no\n"));
+    ExpectAnswer(RunningVersionText(), "same\r\nno");
+    platform.network.isSigned = true;
+    ExpectAnswer(RunningVersionText(), "same\r\nyes");
+}
+
+TEST_F(SignedUpdateTest, SilentCheckTellsItInEnglish) {
+    currentLanguage = "Test";
+    platform.files.WriteWhole("/program/lang/Test.ini", BytesOf("[desktop]\nUnsignedAnswer=no\n"));
+    Publish("5");
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), ElementsAre(kUpdate + Crlf + kUnsigned));
+    Publish(RunningVersionText());
+    EXPECT_THAT(MessagesOf(CheckForUpdateSilently), IsEmpty());
 }
 
 TEST_F(UpdateCheckTest, ScratchFileOfTheLastRunGoesAtTheStart) {
