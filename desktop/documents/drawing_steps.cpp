@@ -56,6 +56,16 @@ public:
         painter_.restore();
     }
 
+    void operator()(const TextRowStep& row) const {
+        const double scale = painter_.transform().m11();
+        const auto widthOf = [&](const std::string& text) {
+            return painter_.fontMetrics().horizontalAdvance(UserText(text)) / scale;
+        };
+        for (const TextStep& text : TextsOf(row, widthOf)) {
+            (*this)(text);
+        }
+    }
+
     void operator()(const PictureStep& picture) const {
         const QPixmap pixmap = PictureAt(picture.name);
         painter_.drawPixmap(QRectF(picture.at.x, picture.at.y, picture.width, picture.height),
@@ -86,6 +96,13 @@ struct StepBounds {
         return CornersOf(polygon).boundingRect();
     }
     QRectF operator()(const TextStep& text) const { return {PointOf(text.at), QSizeF()}; }
+    QRectF operator()(const TextRowStep& row) const {
+        QPolygonF corners;
+        for (const TextRowStep::Entry& entry : row.entries) {
+            corners << PointOf(entry.at);
+        }
+        return corners.boundingRect();
+    }
     QRectF operator()(const PictureStep& picture) const {
         return {picture.at.x, picture.at.y, picture.width, picture.height};
     }

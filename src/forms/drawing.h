@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -60,6 +61,23 @@ struct TextStep {
     Colour colour = kBlack;
 };
 
+/// Texts beside each other, of which none may run into the next: all are drawn in their brief form
+/// where one would be wider than there is room.
+struct TextRowStep {
+    struct Entry {
+        Point at;
+        std::string text;
+        std::string brief;
+    };
+    std::vector<Entry> entries;
+    double room;  // of each, twips
+    Colour colour = kBlack;
+};
+
+/// The texts of a row as they fit. widthOf: of a text, in twips.
+std::vector<TextStep> TextsOf(const TextRowStep& row,
+                              const std::function<double(const std::string&)>& widthOf);
+
 /// A picture by its name, stretched to the given size in twips.
 struct PictureStep {
     Point at;
@@ -68,7 +86,8 @@ struct PictureStep {
     std::string name;
 };
 
-using DrawingStep = std::variant<LineStep, FilledCircleStep, PolygonStep, TextStep, PictureStep>;
+using DrawingStep =
+    std::variant<LineStep, FilledCircleStep, PolygonStep, TextStep, TextRowStep, PictureStep>;
 
 /// What lies on a form or picture, from the first drawn to the last.
 using Drawing = std::vector<DrawingStep>;

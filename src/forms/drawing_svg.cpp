@@ -4,6 +4,7 @@
 
 #include "base/number_text.h"
 #include "base/rounding.h"
+#include "base/utf8.h"
 
 namespace horavex {
 
@@ -41,6 +42,12 @@ std::string Escaped(const std::string& text) {
     return escaped;
 }
 
+/// In twips, by the letters of a usual font: which one will draw it is not known here.
+double UsualWidth(const std::string& text) {
+    constexpr double kLetter = 0.6;  // of the size
+    return static_cast<double>(Utf8Length(text)) * kLetter * kTextSize * kTwipsPerPixel;
+}
+
 struct StepWriter {
     std::string operator()(const LineStep& line) const {
         return "<line x1=\"" + Pixels(line.from.x) + "\" y1=\"" + Pixels(line.from.y) + "\" x2=\"" +
@@ -67,6 +74,14 @@ struct StepWriter {
         return "<text x=\"" + Pixels(text.at.x) + "\" y=\"" +
                Pixels(text.at.y + kTextAscent * kTwipsPerPixel) + "\" fill=\"" + Hex(text.colour) +
                "\">" + Escaped(text.text) + "</text>\n";
+    }
+
+    std::string operator()(const TextRowStep& row) const {
+        std::string svg;
+        for (const TextStep& text : TextsOf(row, UsualWidth)) {
+            svg += (*this)(text);
+        }
+        return svg;
     }
 
     std::string operator()(const PictureStep&) const { return {}; }

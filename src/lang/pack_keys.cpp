@@ -59,6 +59,7 @@ std::vector<std::string> TimetableKeys() {
     keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);
+        keys.push_back("ShortMonth" + month);
     }
     for (const std::string& weekday : Numbers(0, 6)) {
         keys.push_back("Weekday" + weekday);

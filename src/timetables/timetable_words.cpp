@@ -32,6 +32,7 @@ void TakeNames(TimetableWords& words) {
     for (std::size_t month = 0; month < 12; ++month) {
         const auto number = static_cast<int>(month) + 1;
         words.months[month] = GregorianMonthName(number);
+        words.shortMonths[month] = NumberedWord("ShortMonth", month + 1, words.months[month]);
         words.hijriMonths[month] = HijriMonthName(number);
     }
     for (std::size_t weekday = 0; weekday < 7; ++weekday) {
@@ -65,6 +66,10 @@ std::string MonthIn(const std::string& pattern, const std::string& month, int ye
 
 std::string TimetableWords::MonthAlone(int month) const {
     return WithCapital(months.at(static_cast<std::size_t>(month) - 1));
+}
+
+std::string TimetableWords::MonthBriefly(int month) const {
+    return WithCapital(shortMonths.at(static_cast<std::size_t>(month) - 1));
 }
 
 std::string TimetableWords::MonthInLine(int year, int month) const {

@@ -24,6 +24,7 @@ struct TimetableWords {
     std::array<std::string, kPrayerCount> prayers;
     std::array<std::string, kAroundCount> around;
     std::array<std::string, 12> months;       // January first
+    std::array<std::string, 12> shortMonths;  // the same ones, abbreviated
     std::array<std::string, 7> weekdays;      // Sunday first
     std::array<std::string, 12> hijriMonths;  // Muharram first
     std::string latitude;
@@ -47,6 +48,9 @@ struct TimetableWords {
 
     /// A month by itself, with a capital: "November".
     std::string MonthAlone(int month) const;
+
+    /// The same, abbreviated: "Nov".
+    std::string MonthBriefly(int month) const;
 
     /// A month inside a line of words: "november 2026" where the language writes it small.
     std::string MonthInLine(int year, int month) const;

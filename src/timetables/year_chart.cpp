@@ -30,7 +30,9 @@ constexpr Band kBands[] = {{kFajr, kShurooq, ink::kDawn, ink::kOnDark},
                            {kMaghrib, kIsha, ink::kDusk, ink::kOnDark}};
 
 constexpr int kHoursPerLine = 3;
-constexpr std::size_t kNameRow = 8;  // where the names of the times begin
+constexpr double kShortestMonth = 28.0;  // days
+constexpr double kMonthGap = 60.0;       // between the names of two months at least, twips
+constexpr std::size_t kNameRow = 8;      // where the names of the times begin
 
 }  // namespace
 
@@ -114,15 +116,18 @@ void YearChart::DrawHours(Drawing& drawing) const {
 }
 
 void YearChart::DrawMonths(Drawing& drawing) const {
+    TextRowStep names{{}, X(kShortestMonth) - X(0.0) - kMonthGap, ink::kChartText};
     for (std::size_t row = 0; row < table_.days.size(); ++row) {
         const CivilDate date = CivilFromDate(table_.days[row].date);
         if (date.day == 1) {
             const double x = X(static_cast<double>(row));
             drawing.push_back(LineStep{{x, Y(0.0)}, {x, Y(24.0)}, {ink::kChartGrid}});
-            drawing.push_back(TextStep{
-                {x + 30.0, Y(24.0) + 90.0}, words_.MonthAlone(date.month), ink::kChartText});
+            names.entries.push_back({{x + 30.0, Y(24.0) + 90.0},
+                                     words_.MonthAlone(date.month),
+                                     words_.MonthBriefly(date.month)});
         }
     }
+    drawing.push_back(std::move(names));
 }
 
 /// A name stands below the time that it names.

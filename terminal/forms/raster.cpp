@@ -44,6 +44,11 @@ struct Extent {
         }
     }
     void operator()(const TextStep& text) { Take(text.at); }
+    void operator()(const TextRowStep& row) {
+        for (const TextRowStep::Entry& entry : row.entries) {
+            Take(entry.at);
+        }
+    }
     void operator()(const PictureStep& picture) {
         Take(picture.at);
         Take({picture.at.x + picture.width, picture.at.y + picture.height});
@@ -81,6 +86,12 @@ public:
         const Point place = At(text.at);
         raster_.texts_.push_back(
             {static_cast<int>(place.y / 2.0 + 0.5), static_cast<int>(place.x), text.text});
+    }
+    void operator()(const TextRowStep& row) const {
+        const auto widthOf = [this](const std::string& text) { return WidthOf(text) / across_; };
+        for (const TextStep& text : TextsOf(row, widthOf)) {
+            (*this)(text);
+        }
     }
     void operator()(const PictureStep&) const {}  // a file of a kind that is not read here
 

@@ -36,6 +36,12 @@ TEST(DrawingSvg, TextStandsOnItsBaseAndIsEscaped) {
               Framed("<text x=\"1\" y=\"12\" fill=\"#000000\">a &lt; b &amp; الفجر</text>\n"));
 }
 
+TEST(DrawingSvg, RowOfTextsIsWrittenBrieflyWhereOneIsTooWide) {
+    const TextRowStep row{{{{0.0, 0.0}, "May", "M"}, {{750.0, 0.0}, "Septembre", "S"}}, 600.0};
+    EXPECT_EQ(SvgOf(row), Framed("<text x=\"0\" y=\"11\" fill=\"#000000\">M</text>\n"
+                                 "<text x=\"50\" y=\"11\" fill=\"#000000\">S</text>\n"));
+}
+
 TEST(DrawingSvg, PicturesAreLeftOut) {
     EXPECT_EQ(SvgOf(PictureStep{{0.0, 0.0}, 15.0, 15.0, "moon.png"}), Framed(""));
 }

@@ -65,6 +65,20 @@ TEST_F(RasterTest, TextsThatWouldRunIntoOneAnotherAreLeftOut) {
     EXPECT_THAT(cells.Texts(), ElementsAre("0° 9"));
 }
 
+TEST_F(RasterTest, RowOfTextsIsBriefWhereOneIsWiderThanItsRoom) {
+    TextRowStep row{{{{0.0, 0.0}, "May", "M"}, {{500.0, 0.0}, "June", "J"}}, 400.0};
+    const auto shown = [&row] {
+        Raster raster(1, 10);
+        raster.Draw({row}, 1000.0, 400.0);
+        Cells cells(1, 10);
+        raster.Put(cells, {0, 0}, false);
+        return cells.Texts();
+    };
+    EXPECT_THAT(shown(), ElementsAre("May  June"));
+    row.room = 300.0;
+    EXPECT_THAT(shown(), ElementsAre("M    J"));
+}
+
 TEST_F(RasterTest, WholeDrawingFillsTheRasterWhateverItsSize) {
     Raster raster(1, 4);
     raster.DrawWhole({LineStep{{1000.0, 1000.0}, {5000.0, 1000.0}, {kWhite}},

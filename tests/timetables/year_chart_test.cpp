@@ -96,16 +96,25 @@ TEST_F(YearChartTest, OtherYearHasNoLine) {
     }
 }
 
-TEST_F(YearChartTest, HoursMonthsAndTimesHaveTheirNames) {
+TEST_F(YearChartTest, HoursAndTimesHaveTheirNames) {
     std::vector<std::string> texts;
     for (const TextStep& text : StepsOf<TextStep>(Draw())) {
         texts.push_back(text.text);
     }
     EXPECT_THAT(texts,
                 ElementsAre("00:00", "03:00", "06:00", "09:00", "12:00", "15:00", "18:00", "21:00",
-                            "24:00", "January", "February", "March", "April", "May", "June", "July",
-                            "August", "September", "October", "November", "December", "Fajr",
-                            "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"));
+                            "24:00", "Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"));
+}
+
+TEST_F(YearChartTest, MonthsAreNamedInARowByWholeOrBriefNames) {
+    words.shortMonths[1] = "Feb";
+    const auto rows = StepsOf<TextRowStep>(Draw());
+    ASSERT_THAT(rows, SizeIs(1));
+    ASSERT_THAT(rows[0].entries, SizeIs(12));
+    EXPECT_EQ(rows[0].entries[1].text, "February");
+    EXPECT_EQ(rows[0].entries[1].brief, "Feb");
+    EXPECT_EQ(rows[0].entries[1].at, (Point{At(31, 24).x + 30.0, At(31, 24).y + 90.0}));
+    EXPECT_EQ(rows[0].room, 24.0 * 15.0) << "four pixels less than February";
 }
 
 TEST_F(YearChartTest, PlaceOfThePictureIsADay) {
