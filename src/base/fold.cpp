@@ -127,19 +127,65 @@ void AppendFolded(std::string& folded, char32_t codePoint) {
     }
 }
 
+constexpr char32_t kFirstOfTwoBytes = 0x80;
+constexpr char32_t kFirstOfThreeBytes = 0x800;
+
+/// What each character of two bytes in UTF-8 folds to, for nearly all that fold are among them.
+class ShortFoldings {
+public:
+    ShortFoldings() {
+        for (char32_t codePoint = kFirstOfTwoBytes; codePoint < kFirstOfThreeBytes; ++codePoint) {
+            AppendFolded(texts_.at(codePoint - kFirstOfTwoBytes), codePoint);
+        }
+    }
+
+    const std::string& Of(char32_t codePoint) const { return texts_[codePoint - kFirstOfTwoBytes]; }
+
+private:
+    std::array<std::string, kFirstOfThreeBytes - kFirstOfTwoBytes> texts_;
+};
+
+/// True for most of the characters of three bytes and all of four: none of them folds.
+bool NeverFolds(char32_t codePoint) {
+    return (codePoint >= kFirstOfThreeBytes && codePoint < kRuns.back().first) ||
+           (codePoint > kFoldings.back().from && codePoint < kMarks.back().first) ||
+           codePoint > kMarks.back().last;
+}
+
+std::string_view AsciiBeginning(std::string_view text) {
+    const auto* end = std::ranges::find_if_not(text, IsAscii);
+    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
+void AppendSmall(std::string& folded, std::string_view ascii) {
+    folded += ascii;
+    std::transform(ascii.begin(), ascii.end(),
+                   folded.end() - static_cast<std::ptrdiff_t>(ascii.size()), SmallLetter);
+}
+
 }  // namespace
 
 std::string FoldForSearch(std::string_view text) {
+    static const ShortFoldings shortFoldings;
     std::string folded;
     folded.reserve(text.size());
     for (std::string_view rest = text; !rest.empty();) {
-        if (IsAscii(rest.front())) {
-            folded += SmallLetter(rest.front());
-            rest.remove_prefix(1);
-        } else if (const auto codePoint = TakeCodePoint(rest)) {
-            AppendFolded(folded, *codePoint);
-        } else {
+        const std::string_view before = rest;
+        if (const std::string_view ascii = AsciiBeginning(rest); !ascii.empty()) {
+            AppendSmall(folded, ascii);
+            rest.remove_prefix(ascii.size());
+            continue;
+        }
+        const auto codePoint = TakeCodePoint(rest);
+        if (!codePoint) {
             return AsciiLower(text);
+        }
+        if (*codePoint < kFirstOfThreeBytes) {
+            folded += shortFoldings.Of(*codePoint);
+        } else if (NeverFolds(*codePoint)) {
+            folded += before.substr(0, before.size() - rest.size());
+        } else {
+            AppendFolded(folded, *codePoint);
         }
     }
     return folded;

@@ -65,6 +65,13 @@ TEST(FoldForSearch, LeavesLettersOfOtherAlphabets) {
     EXPECT_EQ(FoldForSearch("東京 मुंबई กรุงเทพ 서울 バ"), "東京 मुंबई กรุงเทพ 서울 バ");
 }
 
+TEST(FoldForSearch, CharactersOfThreeBytesThatDoFoldAreFound) {
+    EXPECT_EQ(FoldForSearch("\u1DFF\u1E00\u1E9E\u1EFF\u1F00"), "\u1DFFass\u1EFF\u1F00");
+    EXPECT_EQ(FoldForSearch("\u200A\u200B\u200F\u2010"), "\u200A\u2010");
+    EXPECT_EQ(FoldForSearch("\u2017\u2018\u2019\u201A"), "\u2017''\u201A");
+    EXPECT_EQ(FoldForSearch("\uFEFE\uFEFF\uFF00\U0001F54B"), "\uFEFE\uFF00\U0001F54B");
+}
+
 TEST(FoldForSearch, FoldedLetterFoldsToItself) {
     for (char32_t letter = 0x80; letter < 0x2100; ++letter) {
         std::string text;
