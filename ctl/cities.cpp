@@ -24,7 +24,7 @@ struct CityFilter {
 
 using Selection = std::vector<CityHit>;
 
-Selection AllOf(const std::vector<ListedCity>& cities) {
+Selection AllOf(const CityList& cities) {
     Selection all;
     std::transform(cities.begin(), cities.end(), std::back_inserter(all),
                    [](const ListedCity& city) {
@@ -38,7 +38,7 @@ void Keep(Selection& selection, Predicate wanted) {
     std::erase_if(selection, [&](const CityHit& hit) { return !wanted(*hit.city); });
 }
 
-Selection Select(const std::vector<ListedCity>& cities, const CityFilter& filter) {
+Selection Select(const CityList& cities, const CityFilter& filter) {
     Selection selection = filter.search ? SearchCities(cities, *filter.search) : AllOf(cities);
     if (filter.country) {
         const std::string wanted = FoldForSearch(*filter.country);

@@ -57,9 +57,9 @@ CsvRecord ReadCsvRecord(std::string_view text) {
     return record;
 }
 
-std::string CsvField(const std::string& text) {
+std::string CsvField(std::string_view text) {
     if (text.find_first_of(",\"\r\n") == text.npos) {
-        return text;
+        return std::string(text);
     }
     std::string field = "\"";
     for (const char letter : text) {

@@ -23,6 +23,6 @@ struct CsvRecord {
 CsvRecord ReadCsvRecord(std::string_view text);
 
 /// A text as a field, in quotes where it needs them.
-std::string CsvField(const std::string& text);
+std::string CsvField(std::string_view text);
 
 }  // namespace horavex

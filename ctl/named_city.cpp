@@ -64,8 +64,7 @@ std::vector<CityHit> HitsIn(const std::vector<CityHit>& hits, const std::vector<
 }
 
 /// A name may have a comma or a dash of its own.
-std::vector<CityHit> FindHits(const std::vector<ListedCity>& cities, const std::string& text,
-                              const CityWords& words) {
+std::vector<CityHit> FindHits(Cities cities, const std::string& text, const CityWords& words) {
     const auto named = SearchCities(cities, words.name);
     auto hits = HitsIn(named, words.areas, true);
     if (hits.empty()) {
@@ -111,9 +110,14 @@ bool FirstIsMeant(const std::vector<CityHit>& equal, const std::string& name) {
 }
 
 std::string SayingOf(const ListedCity& city) {
-    const std::string province = city.province.empty() ? "" : ", " + city.province;
-    return "  --city \"" + city.name + province + ", " + city.country + "\" or --city-index " +
-           std::to_string(city.cityIndex) + "\n";
+    std::string saying("  --city \"");
+    saying += city.name;
+    for (const std::string_view area : {city.province, city.country}) {
+        if (!area.empty()) {
+            saying.append(", ").append(area);
+        }
+    }
+    return saying + "\" or --city-index " + std::to_string(city.cityIndex) + "\n";
 }
 
 [[noreturn]] void RefuseShared(const std::string& text, const std::vector<CityHit>& hits) {

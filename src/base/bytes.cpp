@@ -52,7 +52,11 @@ Bytes BytesOf(const std::string& text) {
 }
 
 std::string StringOf(ByteView bytes) {
-    return {bytes.begin(), bytes.end()};
+    return std::string(TextIn(bytes));
+}
+
+std::string_view TextIn(ByteView bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 }  // namespace horavex

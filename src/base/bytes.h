@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace horavex {
@@ -24,5 +25,8 @@ void PutFloat64(std::span<std::uint8_t> bytes, std::size_t offset, double value)
 /// The characters of a text as bytes and back, unchanged.
 Bytes BytesOf(const std::string& text);
 std::string StringOf(ByteView bytes);
+
+/// The characters where they are.
+std::string_view TextIn(ByteView bytes);
 
 }  // namespace horavex

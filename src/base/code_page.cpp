@@ -71,6 +71,9 @@ std::optional<std::uint8_t> EncodeCodePoint(char32_t codePoint, const HighHalf& 
 }  // namespace
 
 std::string DecodeCodePage(ByteView bytes, CodePage page) {
+    if (std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte < 0x80; })) {
+        return StringOf(bytes);
+    }
     const HighHalf& table = TableOf(page);
     std::string text;
     text.reserve(bytes.size());

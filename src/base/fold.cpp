@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "base/text.h"
 #include "base/utf8.h"
 
 namespace horavex {
@@ -111,7 +110,7 @@ bool IsAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-char SmallLetter(char c) {
+constexpr char SmallLetter(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
@@ -127,66 +126,77 @@ void AppendFolded(std::string& folded, char32_t codePoint) {
     }
 }
 
-constexpr char32_t kFirstOfTwoBytes = 0x80;
-constexpr char32_t kFirstOfThreeBytes = 0x800;
-
-/// What each character of two bytes in UTF-8 folds to, for nearly all that fold are among them.
-class ShortFoldings {
+/// What characters fold to that follow each other.
+template <char32_t first, char32_t end>
+class FoldedRange {
 public:
-    ShortFoldings() {
-        for (char32_t codePoint = kFirstOfTwoBytes; codePoint < kFirstOfThreeBytes; ++codePoint) {
-            AppendFolded(texts_.at(codePoint - kFirstOfTwoBytes), codePoint);
+    FoldedRange() {
+        for (char32_t codePoint = first; codePoint < end; ++codePoint) {
+            AppendFolded(texts_.at(codePoint - first), codePoint);
         }
     }
 
-    const std::string& Of(char32_t codePoint) const { return texts_[codePoint - kFirstOfTwoBytes]; }
+    static bool Has(char32_t codePoint) { return codePoint >= first && codePoint < end; }
+    std::string_view Of(char32_t codePoint) const { return texts_[codePoint - first]; }
 
 private:
-    std::array<std::string, kFirstOfThreeBytes - kFirstOfTwoBytes> texts_;
+    std::array<std::string, end - first> texts_;
 };
 
-/// True for most of the characters of three bytes and all of four: none of them folds.
-bool NeverFolds(char32_t codePoint) {
-    return (codePoint >= kFirstOfThreeBytes && codePoint < kRuns.back().first) ||
-           (codePoint > kFoldings.back().from && codePoint < kMarks.back().first) ||
-           codePoint > kMarks.back().last;
+/// Nearly all that fold, in three ranges; other characters stay.
+struct FoldedRanges {
+    FoldedRange<0x80, 0x800> shortOnes;
+    FoldedRange<0x1E00, 0x1F00> latin;
+    FoldedRange<0x2000, 0x2020> signs;
+};
+
+constexpr char32_t kMarkOfOrder = 0xFEFF;
+
+/// character: one, which is beyond ASCII, or a byte that is no part of any.
+std::string_view FoldedOf(std::string_view character, char32_t codePoint) {
+    static const FoldedRanges ranges;
+    if (ranges.shortOnes.Has(codePoint)) {
+        return ranges.shortOnes.Of(codePoint);
+    }
+    if (ranges.latin.Has(codePoint)) {
+        return ranges.latin.Of(codePoint);
+    }
+    if (ranges.signs.Has(codePoint)) {
+        return ranges.signs.Of(codePoint);
+    }
+    return codePoint == kMarkOfOrder ? std::string_view() : character;
 }
 
-std::string_view AsciiBeginning(std::string_view text) {
-    const auto* end = std::ranges::find_if_not(text, IsAscii);
-    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
-}
-
-void AppendSmall(std::string& folded, std::string_view ascii) {
-    folded += ascii;
-    std::transform(ascii.begin(), ascii.end(),
-                   folded.end() - static_cast<std::ptrdiff_t>(ascii.size()), SmallLetter);
-}
+/// The small letters of ASCII, each at its code.
+constexpr auto kSmallAscii = [] {
+    std::array<char, 0x80> letters{};
+    for (std::size_t code = 0; code < letters.size(); ++code) {
+        letters[code] = SmallLetter(static_cast<char>(code));
+    }
+    return letters;
+}();
 
 }  // namespace
 
+std::string_view TakeFolded(std::string_view& text) {
+    const std::string_view before = text;
+    if (IsAscii(text.front())) {
+        text.remove_prefix(1);
+        return {&kSmallAscii[static_cast<unsigned char>(before.front())], 1};
+    }
+    const auto codePoint = TakeCodePoint(text);
+    if (!codePoint) {
+        text.remove_prefix(1);
+        return before.substr(0, 1);
+    }
+    return FoldedOf(before.substr(0, before.size() - text.size()), *codePoint);
+}
+
 std::string FoldForSearch(std::string_view text) {
-    static const ShortFoldings shortFoldings;
     std::string folded;
     folded.reserve(text.size());
-    for (std::string_view rest = text; !rest.empty();) {
-        const std::string_view before = rest;
-        if (const std::string_view ascii = AsciiBeginning(rest); !ascii.empty()) {
-            AppendSmall(folded, ascii);
-            rest.remove_prefix(ascii.size());
-            continue;
-        }
-        const auto codePoint = TakeCodePoint(rest);
-        if (!codePoint) {
-            return AsciiLower(text);
-        }
-        if (*codePoint < kFirstOfThreeBytes) {
-            folded += shortFoldings.Of(*codePoint);
-        } else if (NeverFolds(*codePoint)) {
-            folded += before.substr(0, before.size() - rest.size());
-        } else {
-            AppendFolded(folded, *codePoint);
-        }
+    while (!text.empty()) {
+        folded += TakeFolded(text);
     }
     return folded;
 }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <limits>
+#include <ranges>
 #include <string>
 #include <tuple>
-#include <vector>
 
 #include "base/fold.h"
 #include "platform/platform.h"
@@ -14,14 +14,6 @@
 namespace horavex {
 
 namespace {
-
-/// The cities of a zone of the database.
-std::vector<ListedCity> CitiesIn(const std::string& zone) {
-    const CityZones zones;
-    auto cities = ListCities();
-    std::erase_if(cities, [&](const ListedCity& city) { return zones.Of(city.cityIndex) != zone; });
-    return cities;
-}
 
 /// What is smaller comes first: the user's country, then the larger city. Those without a rank
 /// come last.
@@ -35,10 +27,13 @@ std::tuple<bool, int> OrderOf(const ListedCity& city, const std::string& country
 std::optional<std::int16_t> CityOfComputersZone() {
     const std::string country = FoldForSearch(Ports().whereabouts.Country());
     for (const std::string& zone : Ports().whereabouts.ZoneNames()) {
-        const auto cities = CitiesIn(zone);
+        const CityZones zones;
+        const CityList cities = ListCities();
+        auto there = std::views::filter(
+            cities, [&](const ListedCity& city) { return zones.Of(city.cityIndex) == zone; });
         const auto best = std::ranges::min_element(
-            cities, {}, [&](const ListedCity& city) { return OrderOf(city, country); });
-        if (best != cities.end()) {
+            there, {}, [&](const ListedCity& city) { return OrderOf(city, country); });
+        if (best != there.end()) {
             return best->cityIndex;
         }
     }

@@ -37,7 +37,7 @@ bool isLoading = false;
 
 /// All cities, made ready for a search at each key.
 struct Gazetteer {
-    std::vector<ListedCity> cities = ListCities();
+    CityList cities = ListCities();
     BestCities best{cities};
 };
 

@@ -1,7 +1,10 @@
 #include "store/best_cities.h"
 
 #include <algorithm>
+#include <bit>
+#include <functional>
 #include <numeric>
+#include <optional>
 #include <string_view>
 
 #include "store/city_match.h"
@@ -10,119 +13,46 @@ namespace horavex {
 
 namespace {
 
-constexpr std::size_t kBits = 64;
-constexpr std::size_t kPairWords = 4;
-constexpr std::uint64_t kAllBits = ~std::uint64_t{0};
-
-/// One of 256.
-std::size_t NumberOfPair(char first, char second) {
-    const auto number =
-        static_cast<unsigned char>(first) * 31U + static_cast<unsigned char>(second);
-    return number % (kPairWords * kBits);
-}
-
-std::uint64_t BitOf(std::size_t number) {
-    return std::uint64_t{1} << number % kBits;
-}
-
-/// Letters from a to z have one of their own each, digits too.
-std::uint64_t LetterBit(char letter) {
-    const auto code = static_cast<unsigned char>(letter);
-    return BitOf(code >= 'a' ? code - 'a' : 26U + code % 38U);
-}
+constexpr std::size_t kOrders = 65536;
+constexpr std::size_t kLongestLength = 0xFF;
 
 std::uint16_t HeadOf(char first, char second) {
     return static_cast<std::uint16_t>(static_cast<unsigned char>(first) |
                                       static_cast<unsigned char>(second) << 8U);
 }
 
-std::uint64_t BitOfThree(std::string_view text) {
-    return BitOf(NumberOfPair(text[0], text[1]) * 7U + static_cast<unsigned char>(text[2]));
-}
-
-std::uint64_t BitOfFour(std::string_view text) {
-    return BitOf(NumberOfPair(text[0], text[1]) * 7U + NumberOfPair(text[2], text[3]));
-}
-
-using PairBits = std::array<std::uint64_t, kPairWords>;
-
-void Set(PairBits& bits, std::size_t pair) {
-    bits[pair / kBits] |= BitOf(pair);
-}
-
-/// The bits of one city's names.
-struct NameBits {
-    std::uint64_t letters = 0;
-    std::uint64_t initials = 0;
-    PairBits pairs{};
-    PairBits starts{};
-    std::uint64_t startThrees = 0;
-    PairBits otherStarts{};
-    std::uint64_t otherThrees = 0;
-    std::uint64_t otherFours = 0;
-};
-
-void TakeOwnName(NameBits& bits, std::string_view folded) {
-    bool startsAWord = false;  // but for the first
-    for (std::size_t at = 0; at + 1 < folded.size(); ++at) {
-        const std::uint64_t letter = LetterBit(folded[at]);
-        const std::size_t pair = NumberOfPair(folded[at], folded[at + 1]);
-        bits.letters |= letter;
-        Set(bits.pairs, pair);
-        if (startsAWord) {
-            bits.initials |= letter;
-            Set(bits.starts, pair);
-        }
-        if ((startsAWord || at == 0) && at + 2 < folded.size()) {
-            bits.startThrees |= BitOfThree(folded.substr(at));
-        }
-        startsAWord = !IsWordCharacter(folded[at]);
-    }
-}
-
-/// folded: with a comma at both ends, or empty.
-void TakeOtherNames(NameBits& bits, std::string_view folded) {
-    for (std::size_t at = folded.find(','); at + 3 < folded.size(); at = folded.find(',', at + 1)) {
-        const std::string_view name = folded.substr(at + 1);
-        Set(bits.otherStarts, NumberOfPair(name[0], name[1]));
-        bits.otherThrees |= BitOfThree(name);
-        bits.otherFours |= name.size() < 4 ? 0 : BitOfFour(name);
-    }
-}
-
 std::uint8_t ClampedLength(std::size_t length) {
-    return static_cast<std::uint8_t>(std::min<std::size_t>(length, 0xFF));
+    return static_cast<std::uint8_t>(std::min(length, kLongestLength));
 }
 
-/// Bytes before the province or the country.
-std::uint8_t LengthOfName(std::string_view folded) {
-    return ClampedLength(std::min(folded.find(", "), folded.find(" - ")));
-}
-
-std::vector<std::uint32_t> PositionsByRank(const std::vector<ListedCity>& cities) {
+/// Those of equal ranks stay in their order.
+std::vector<std::uint32_t> PositionsByRank(Cities cities) {
+    std::vector<std::uint32_t> ends(kOrders + 1);  // of those before an order
+    for (const ListedCity& city : cities) {
+        ++ends[OrderOf(city.rank) + std::size_t{1}];
+    }
+    std::partial_sum(ends.begin(), ends.end(), ends.begin());
     std::vector<std::uint32_t> positions(cities.size());
-    std::iota(positions.begin(), positions.end(), 0U);
-    std::ranges::stable_sort(positions, {},
-                             [&](std::uint32_t at) { return OrderOf(cities[at].rank); });
+    for (std::uint32_t at = 0; at < cities.size(); ++at) {
+        positions[ends[OrderOf(cities[at].rank)]++] = at;
+    }
     return positions;
 }
 
+}  // namespace
+
 /// The hits by the goodness of their matches, each kind in the order of ranks.
-class Tally {
+class BestCities::Tally {
 public:
     explicit Tally(std::size_t most) : most_(most), uselessFrom_(most == 0 ? kWholeName : kNone) {}
 
     /// False where as many are at least as good.
     bool Counts(Match match) const { return match < uselessFrom_; }
 
-    void Add(const CityHit& hit, Match match) {
-        hits_.at(match).push_back(hit);
-        std::size_t asGood = 0;
-        for (uselessFrom_ = kWholeName; uselessFrom_ < kNone; ++uselessFrom_) {
-            asGood += hits_[uselessFrom_].size();
-            if (asGood >= most_) {
-                break;
-            }
+    void Weigh(const ListedCity& city, const Wanted& wanted) {
+        if (const auto match = MatchOf(city, wanted)) {
+            const std::string_view other = OtherNameOf(city, match->name);
+            Add({&city, other, match->match == kWholeName}, match->match);
         }
     }
 
@@ -137,131 +67,170 @@ public:
     }
 
 private:
+    void Add(const CityHit& hit, Match match) {
+        hits_.at(match).push_back(hit);
+        std::size_t asGood = 0;
+        for (uselessFrom_ = kWholeName; uselessFrom_ < kNone; ++uselessFrom_) {
+            asGood += hits_[uselessFrom_].size();
+            if (asGood >= most_) {
+                break;
+            }
+        }
+    }
+
     std::size_t most_;
     std::uint8_t uselessFrom_;
     std::array<std::vector<CityHit>, kNone> hits_;
 };
 
-}  // namespace
-
-/// What is searched for, and its bits.
+/// What is searched for, and the bits that matching names have.
 struct BestCities::Question {
     explicit Question(const std::string& text) : wanted(WantedOf(text)) {
-        const std::string& own = wanted.own;
-        startThree = own.size() < 3 ? kAllBits : BitOfThree(own);
+        wantedOwn.own = wanted.own;
+        if (!wanted.own.empty()) {
+            TakeOwn(wanted.own);
+        }
+        if (!wanted.other.empty()) {
+            TakeOther(wanted.other);
+        }
+    }
+
+    void TakeOwn(std::string_view own) {
+        isOneName = own.find_first_of(",-") == std::string::npos;
+        isOneLetter = own.size() == 1;
+        head = HeadOf(own[0], isOneLetter ? '\0' : own[1]);
+        headMask = isOneLetter ? 0xFF : 0xFFFF;
+        parts.push_back(LetterBit(kLetterBits, own[0]));
         for (std::size_t at = 0; at + 1 < own.size(); ++at) {
-            pairs.push_back(NumberOfPair(own[at], own[at + 1]));
+            parts.push_back(PairBit(kPairBits, own.substr(at)));
         }
-        if (!own.empty()) {
-            isOneName = own.find_first_of(",-") == std::string::npos;
-            letter = LetterBit(own[0]);
-            head = HeadOf(own[0], own.size() > 1 ? own[1] : '\0');
-            headMask = own.size() > 1 ? 0xFFFF : 0xFF;
+        begins.push_back(LetterBit(kHeadBits, own[0]));
+        beginsWord.push_back(isOneLetter ? LetterBit(kInitialBits, own[0])
+                                         : PairBit(kStartPairBits, own));
+        if (own.size() > 2) {
+            begins.push_back(ThreeBit(kStartThreeBits, own));
+            beginsWord.push_back(ThreeBit(kStartThreeBits, own));
         }
-        if (wanted.beginning != 0) {
-            const std::string_view other = std::string_view(wanted.other).substr(1);
-            otherStart = NumberOfPair(other[0], other[1]);
-            otherThree = other.size() < 3 ? kAllBits : BitOfThree(other);
-            otherFour = other.size() < 4 ? kAllBits : BitOfFour(other);
+    }
+
+    void TakeOther(std::string_view name) {
+        others.push_back(PairBit(kOtherPairBits, name));
+        if (name.size() > 2) {
+            others.push_back(ThreeBit(kOtherThreeBits, name));
+        }
+        if (name.size() > 3) {
+            others.push_back(FourBit(kOtherFourBits, name));
         }
     }
 
     Wanted wanted;
-    bool isOneName = false;          // without a province or a country behind it
-    std::vector<std::size_t> pairs;  // of the own name
-    std::uint64_t letter = 0;        // its first
-    std::uint64_t startThree = 0;
+    Wanted wantedOwn;        // the same without other names
+    bool isOneName = false;  // without a province or a country behind it
+    bool isOneLetter = false;
     std::uint16_t head = 0;
     std::uint16_t headMask = 0;
-    std::size_t otherStart = 0;
-    std::uint64_t otherThree = 0;
-    std::uint64_t otherFour = 0;  // both 0 where other names do not count
+    std::vector<BitNumber> parts;       // of own names that hold the text
+    std::vector<BitNumber> begins;      // besides, of those that begin with it
+    std::vector<BitNumber> beginsWord;  // besides, of those with another word that does
+    std::vector<BitNumber> others;  // of other names that begin with it; empty where none counts
 };
 
-BestCities::BestCities(const std::vector<ListedCity>& cities)
-    : cities_(cities), order_(PositionsByRank(cities)) {
-    const auto size = order_.size();
-    wellKnown_ = static_cast<std::size_t>(std::ranges::count_if(cities, IsWellKnown));
-    heads_.resize(size);
-    lengths_.resize(size);
-    for (Words* words : {&letters_, &initials_, &startThrees_, &otherThrees_, &otherFours_}) {
-        words->resize(size);
-    }
-    for (PairWords* pairs : {&pairs_, &starts_, &otherStarts_}) {
-        std::ranges::for_each(*pairs, [&](Words& words) { words.resize(size); });
-    }
-    for (std::size_t i = 0; i < size; ++i) {
-        Take(i, cities[order_[i]]);
-    }
-}
+/// What 512 cities may match; a lane has a bit for each of 64.
+struct BestCities::Candidates {
+    Candidates(const TurnedBits& bits, const Question& question)
+        : parts(bits.WithAll(question.parts)),
+          begin(Both(parts, bits.WithAll(question.begins))),
+          beginWord(Both(parts, bits.WithAll(question.beginsWord))),
+          others(question.others.empty() ? TurnedBits::Line{} : bits.WithAll(question.others)) {}
 
-void BestCities::Take(std::size_t i, const ListedCity& city) {
-    NameBits bits;
-    TakeOwnName(bits, city.folded);
-    TakeOtherNames(bits, city.foldedNames);
-    heads_[i] = city.folded.size() > 1 ? HeadOf(city.folded[0], city.folded[1]) : 0;
-    lengths_[i] = LengthOfName(city.folded);
-    letters_[i] = bits.letters;
-    initials_[i] = bits.initials;
-    startThrees_[i] = bits.startThrees;
-    otherThrees_[i] = bits.otherThrees;
-    otherFours_[i] = bits.otherFours;
-    for (std::size_t word = 0; word < kPairWords; ++word) {
-        pairs_[word][i] = bits.pairs[word];
-        starts_[word][i] = bits.starts[word];
-        otherStarts_[word][i] = bits.otherStarts[word];
+    static TurnedBits::Line Both(TurnedBits::Line a, const TurnedBits::Line& b) {
+        std::ranges::transform(a, b, a.begin(), std::bit_and());
+        return a;
     }
-}
 
-bool BestCities::Has(const PairWords& words, std::size_t i, std::size_t pair) {
-    return (words[pair / kBits][i] & BitOf(pair)) != 0;
-}
-
-bool BestCities::MayHold(std::size_t i, const Question& question) const {
-    return (letters_[i] & question.letter) != 0 &&
-           std::ranges::all_of(question.pairs,
-                               [&](std::size_t pair) { return Has(pairs_, i, pair); });
-}
-
-Match BestCities::OwnAtBest(std::size_t i, const Question& question) const {
-    if ((startThrees_[i] & question.startThree) == 0) {
-        return kAnyPart;
-    }
-    if ((heads_[i] & question.headMask) == question.head) {
-        if (!question.isOneName || lengths_[i] == ClampedLength(question.wanted.own.size())) {
-            return kWholeName;
+    /// Those of a lane that may count.
+    std::uint64_t Worth(std::size_t lane, const Tally& tally) const {
+        if (tally.Counts(kAnyPart)) {
+            return parts[lane] | others[lane];
         }
-        const bool goesOn =
-            question.pairs.empty() && IsWordCharacter(static_cast<char>(heads_[i] >> 8U));
-        return goesOn ? kNameBeginning : kNameThenWord;
+        const bool isWordWorth = tally.Counts(kWordBeginning);
+        return begin[lane] | others[lane] | (isWordWorth ? beginWord[lane] : 0);
     }
-    const bool hasStart = question.pairs.empty() ? (initials_[i] & question.letter) != 0
-                                                 : Has(starts_, i, question.pairs[0]);
-    return hasStart ? kWordBeginning : kAnyPart;
+
+    TurnedBits::Line parts;
+    TurnedBits::Line begin;
+    TurnedBits::Line beginWord;
+    TurnedBits::Line others;
+};
+
+BestCities::BestCities(Cities cities)
+    : cities_(cities),
+      order_(PositionsByRank(cities)),
+      wellKnown_(static_cast<std::size_t>(std::ranges::count_if(cities, IsWellKnown))) {
+    BitRowMaker maker;
+    std::vector<BitRow> rows;  // in the order of the list, as its texts lie
+    rows.reserve(cities.size());
+    for (const ListedCity& city : cities) {
+        const std::string_view folded = city.folded;
+        heads_.push_back(folded.size() > 1 ? HeadOf(folded[0], folded[1]) : 0);
+        lengths_.push_back(ClampedLength(LengthOfName(folded)));
+        rows.push_back(maker.RowOf(city));
+    }
+    for (std::size_t first = 0; first < order_.size(); first += TurnedBits::kCities) {
+        const std::size_t count = std::min(TurnedBits::kCities, order_.size() - first);
+        std::array<BitRow, TurnedBits::kCities> ranked;
+        std::ranges::transform(std::span(order_).subspan(first, count), ranked.begin(),
+                               [&](std::uint32_t at) { return rows[at]; });
+        bits_.emplace_back(std::span(ranked).first(count));
+    }
 }
 
-Match BestCities::OtherAtBest(std::size_t i, const Question& question) const {
-    if ((otherFours_[i] & question.otherFour) == 0 ||
-        (otherThrees_[i] & question.otherThree) == 0 ||
-        !Has(otherStarts_, i, question.otherStart)) {
-        return kNone;
+Match BestCities::AtBest(std::size_t i, const Question& question,
+                         const Candidates& candidates) const {
+    const std::size_t lane = i % TurnedBits::kCities / TurnedBits::kCitiesOfLane;
+    const auto has = [&](const TurnedBits::Line& line) {
+        return (line[lane] >> i % TurnedBits::kCitiesOfLane & 1U) != 0;
+    };
+    const Match other = !has(candidates.others) ? kNone
+                        : i < wellKnown_        ? kWholeName
+                                                : kWholeOtherName;
+    if (has(candidates.begin) && (heads_[order_[i]] & question.headMask) == question.head) {
+        return std::min(other, BeginningAtBest(order_[i], question));
     }
-    return i < wellKnown_ ? kWholeName : kWholeOtherName;
+    const Match own = has(candidates.beginWord) ? kWordBeginning
+                      : has(candidates.parts)   ? kAnyPart
+                                                : kNone;
+    return std::min(other, own);
+}
+
+Match BestCities::BeginningAtBest(std::size_t place, const Question& question) const {
+    if (!question.isOneName || lengths_[place] == ClampedLength(question.wanted.own.size())) {
+        return kWholeName;
+    }
+    const bool goesOn =
+        question.isOneLetter && IsWordCharacter(static_cast<char>(heads_[place] >> 8U));
+    return goesOn ? kNameBeginning : kNameThenWord;
+}
+
+void BestCities::FindIn(std::size_t block, const Question& question, Tally& tally) const {
+    const Candidates candidates(bits_[block], question);
+    for (std::size_t lane = 0; lane < TurnedBits::kLanes; ++lane) {
+        const std::size_t first = block * TurnedBits::kCities + lane * TurnedBits::kCitiesOfLane;
+        for (std::uint64_t rest = candidates.Worth(lane, tally); rest != 0; rest &= rest - 1) {
+            const std::size_t i = first + static_cast<std::size_t>(std::countr_zero(rest));
+            if (tally.Counts(AtBest(i, question, candidates))) {
+                const bool mayOther = (candidates.others[lane] & rest & (~rest + 1)) != 0;
+                tally.Weigh(cities_[order_[i]], mayOther ? question.wanted : question.wantedOwn);
+            }
+        }
+    }
 }
 
 std::vector<CityHit> BestCities::Find(const std::string& text, std::size_t most) const {
     const Question question(text);
     Tally tally(most);
-    for (std::size_t i = 0; i < order_.size() && !question.wanted.own.empty(); ++i) {
-        const bool mayOwn = tally.Counts(OwnAtBest(i, question)) && MayHold(i, question);
-        if (!mayOwn && !tally.Counts(OtherAtBest(i, question))) {
-            continue;
-        }
-        const ListedCity& city = cities_[order_[i]];
-        if (const auto match = MatchOf(city, question.wanted)) {
-            const std::string_view other = OtherNameAt(city, match->other);
-            tally.Add({&city, other, match->match == kWholeName}, match->match);
-        }
+    for (std::size_t block = 0; block < bits_.size() && !question.wanted.own.empty(); ++block) {
+        FindIn(block, question, tally);
     }
     return tally.Best();
 }

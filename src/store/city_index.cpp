@@ -117,15 +117,15 @@ std::string_view OwnName(std::string_view folded) {
 }
 
 void AddEntries(std::vector<Entry>& entries, const ListedCity& city, std::uint16_t place) {
-    entries.emplace_back(KeyOf(FoldCityName(std::string(OwnName(city.folded)))), place);
-    for (const std::string& name : Split(city.foldedNames, ',')) {
-        if (!name.empty()) {
-            entries.emplace_back(KeyOf(name), place);
+    entries.emplace_back(KeyOf(FoldCityName(OwnName(city.folded))), place);
+    for (const std::string& name : Split(city.otherNames, ',')) {
+        if (const std::string folded = FoldCityName(name); !folded.empty()) {
+            entries.emplace_back(KeyOf(folded), place);
         }
     }
 }
 
-std::vector<Entry> EntriesOf(const std::vector<ListedCity>& cities) {
+std::vector<Entry> EntriesOf(const CityList& cities) {
     std::vector<Entry> entries;
     for (std::size_t place = 0; place < cities.size(); ++place) {
         AddEntries(entries, cities[place], static_cast<std::uint16_t>(place));
@@ -202,13 +202,13 @@ private:
 
 }  // namespace
 
-std::optional<std::vector<ListedCity>> CitiesThatMayBe(const std::string& name) {
-    std::optional<std::vector<ListedCity>> cities;
+std::optional<CityList> CitiesThatMayBe(const std::string& name) {
+    std::optional<CityList> cities;
     RunStep([&] {
         const IndexFile index;
         const Bytes otherNames = Ports().programFolder.ReadWhole(kOtherNames);
         if (index.IsSound(otherNames)) {
-            const std::uint32_t key = KeyOf(FoldCityName(std::string(Trim(name))));
+            const std::uint32_t key = KeyOf(FoldCityName(Trim(name)));
             cities = ListCitiesAt(index.PlacesOf(key), otherNames);
         }
     });
@@ -216,7 +216,7 @@ std::optional<std::vector<ListedCity>> CitiesThatMayBe(const std::string& name) 
 }
 
 Bytes MakeCityIndex() {
-    const std::vector<ListedCity> cities = ListCities();
+    const CityList cities = ListCities();
     const Bytes otherNames = Ports().programFolder.ReadWhole(kOtherNames);
     const Bytes records = RecordsOf(EntriesOf(cities));
     Bytes index = BytesOfMark(MarkOfFiles(otherNames));

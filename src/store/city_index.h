@@ -15,7 +15,7 @@ namespace horavex {
 /// The cities whose own or other name a typed name may be as a whole, as ListCities has them and in
 /// its order, perhaps with some whose names it is not. None where the file is missing, damaged or
 /// not of the location files that are there: then all are to be searched.
-std::optional<std::vector<ListedCity>> CitiesThatMayBe(const std::string& name);
+std::optional<CityList> CitiesThatMayBe(const std::string& name);
 
 /// The content of the file for the location files that are there. Throws as ListCities does.
 Bytes MakeCityIndex();

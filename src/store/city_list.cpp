@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <unordered_map>
 
 #include "base/bytes.h"
 #include "base/fault.h"
@@ -9,6 +10,7 @@
 #include "base/int16.h"
 #include "platform/platform.h"
 #include "store/city_names.h"
+#include "store/loaded_texts.h"
 #include "store/location_files.h"
 
 namespace horavex {
@@ -25,9 +27,9 @@ Bytes ReadRanks() {
 }
 
 /// So is the file of other names: one that cannot be used leaves the cities their own.
-std::vector<std::string> OtherNamesOrNone() {
-    std::vector<std::string> names;
-    RunStep([&] { names = ReadOtherNames(CityCount()); });
+std::vector<std::string_view> OtherNamesOrNone(std::int64_t cityCount, TextStore& texts) {
+    std::vector<std::string_view> names;
+    RunStep([&] { names = ReadOtherNames(cityCount, texts); });
     return names;
 }
 
@@ -42,39 +44,75 @@ std::uint16_t RankOf(const Bytes& ranks, std::int16_t cityIndex) {
 }
 
 /// The same; a damaged index can name a city behind the last one.
-std::string OtherNamesOf(const std::vector<std::string>& names, std::int16_t cityIndex) {
+std::string_view OtherNamesOf(const std::vector<std::string_view>& names, std::int16_t cityIndex) {
     const std::size_t at = RecordOf(cityIndex);
-    return at < names.size() ? names[at] : std::string();
+    return at < names.size() ? names[at] : std::string_view();
 }
 
-ListedCity ListCity(std::int16_t cityIndex, const std::string& country, const Bytes& ranks,
-                    const std::string& otherNames) {
-    CityRecord city;
-    ReadCity(cityIndex, city);
-    ListedCity listed;
-    listed.cityIndex = cityIndex;
-    listed.name = city.Name;
-    listed.province = city.Province;
-    listed.country = country;
-    listed.latitude = city.Latitude;
-    listed.longitude = city.Longitude;
-    listed.rank = RankOf(ranks, cityIndex);
-    listed.folded = FoldForSearch(DisplayText(listed));
-    SetOtherNames(listed, otherNames);
-    return listed;
-}
+/// Puts cities into a list. What those of a country or of a province share is kept once.
+class ListMaker {
+public:
+    explicit ListMaker(CityList& list) : list_(list), ranks_(ReadRanks()) {}
 
-void ListCountry(std::vector<ListedCity>& cities, std::int16_t number, const Bytes& ranks,
-                 const std::vector<std::string>& otherNames) {
-    CountryRecord country;
-    ReadCountry(number, country);
-    // A damaged index could otherwise list its cities over and over.
-    if (std::ssize(cities) + country.CityCount > CityCount()) {
-        throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
+    void BeginCountry(std::string_view name) {
+        country_ = list_.Texts().Keep(name);
+        areas_.clear();
     }
-    for (std::int32_t i = 0; i < country.CityCount; ++i) {
-        const std::int16_t city = ToInt16(country.FirstCity + i);
-        cities.push_back(ListCity(city, country.Name, ranks, OtherNamesOf(otherNames, city)));
+
+    /// otherNames: live as long as the list.
+    void Add(std::int16_t cityIndex, const CityRecord& record, std::string_view otherNames) {
+        TextStore& texts = list_.Texts();
+        const Area& area = AreaOf(record);
+        list_.Add({cityIndex, texts.Keep(record.Name), area.province, country_, record.Latitude,
+                   record.Longitude, RankOf(ranks_, cityIndex),
+                   texts.Keep(FoldForSearch(record.Name), area.foldedEnd), otherNames});
+    }
+
+private:
+    struct Area {
+        std::string_view province;
+        std::string foldedEnd;  // of a city's display text, behind its name
+    };
+
+    const Area& AreaOf(const CityRecord& record) {
+        const auto [area, isNew] = areas_.try_emplace(record.ProvinceIndex);
+        if (isNew) {
+            area->second.province = list_.Texts().Keep(record.Province);
+            ListedCity nameless{};
+            nameless.province = area->second.province;
+            nameless.country = country_;
+            area->second.foldedEnd = FoldForSearch(DisplayText(nameless));
+        }
+        return area->second;
+    }
+
+    CityList& list_;
+    Bytes ranks_;
+    std::string_view country_;
+    std::unordered_map<std::int16_t, Area> areas_;  // of the country, by the index of the province
+};
+
+/// The files of cities and provinces.
+struct LoadedCities {
+    LoadedTexts cities{"Dat\\CI.DAT", 10, 4, "Dat\\C.DAt"};
+    LoadedTexts provinces{"Dat\\PI.DAT", 2, 2, "Dat\\P.DAT"};
+
+    CityRecord Read(std::int16_t cityIndex) const {
+        const std::int64_t number = std::int64_t{cityIndex} - kFirstCityIndex + 1;
+        const ByteView record = cities.Record(number);
+        CityRecord city;
+        city.Latitude = GetInt16(record, 4);
+        city.Longitude = GetInt16(record, 6);
+        city.ProvinceIndex = GetInt16(record, 8);
+        city.Name = cities.Text(number);
+        city.Province = city.ProvinceIndex == 0 ? "" : provinces.Text(city.ProvinceIndex);
+        return city;
+    }
+};
+
+void RefuseMoreCities(std::int64_t count, std::int64_t held) {
+    if (count > held) {
+        throw BoundsFault("Dat\\SI.DAt: the countries hold more cities than Dat\\CI.DAT");
     }
 }
 
@@ -105,40 +143,52 @@ private:
 
 }  // namespace
 
-std::vector<ListedCity> ListCities() {
-    std::vector<ListedCity> cities;
-    OpenLocationFiles();
-    const Bytes ranks = ReadRanks();
-    const std::vector<std::string> otherNames = OtherNamesOrNone();
+CityList ListCities() {
+    CityList list;
+    OpenCountryFiles();
+    const LoadedCities files;
+    const std::int64_t held = files.cities.Count();
+    const auto otherNames = OtherNamesOrNone(held, list.Texts());
+    ListMaker maker(list);
     const std::int64_t count = CountryCount();
     for (std::int64_t number = 1; number <= count; ++number) {
-        ListCountry(cities, ToInt16(number), ranks, otherNames);
+        CountryRecord country;
+        maker.BeginCountry(ReadCountry(ToInt16(number), country));
+        // A damaged index could otherwise list its cities over and over.
+        RefuseMoreCities(std::ssize(list) + country.CityCount, held);
+        for (std::int32_t i = 0; i < country.CityCount; ++i) {
+            const std::int16_t city = ToInt16(country.FirstCity + i);
+            maker.Add(city, files.Read(city), OtherNamesOf(otherNames, city));
+        }
     }
-    CloseLocationFiles();
-    return cities;
+    CloseCountryFiles();
+    return list;
 }
 
-std::vector<ListedCity> ListCitiesAt(const std::vector<std::uint16_t>& places,
-                                     ByteView otherNames) {
-    std::vector<ListedCity> cities;
+CityList ListCitiesAt(const std::vector<std::uint16_t>& places, ByteView otherNames) {
+    CityList list;
     OpenLocationFiles();
-    const Bytes ranks = ReadRanks();
     LineWalk lines(otherNames);
+    ListMaker maker(list);
     std::int16_t number = 1;
     std::int32_t before = 0;  // cities of the countries before this one
     auto place = places.begin();
     for (const CityRange& range : ReadCityRanges()) {
-        for (; place != places.end() && *place < before + range.count; ++place) {
+        if (place != places.end() && *place < before + range.count) {
             CountryRecord country;
+            maker.BeginCountry(ReadCountry(number, country));
+        }
+        for (; place != places.end() && *place < before + range.count; ++place) {
             const std::int16_t city = ToInt16(range.first + *place - before);
-            cities.push_back(
-                ListCity(city, ReadCountry(number, country), ranks, lines.Line(RecordOf(city))));
+            CityRecord record;
+            ReadCity(city, record);
+            maker.Add(city, record, list.Texts().Keep(lines.Line(RecordOf(city))));
         }
         before += range.count;
         ++number;
     }
     CloseLocationFiles();
-    return cities;
+    return list;
 }
 
 }  // namespace horavex

@@ -9,8 +9,8 @@ namespace horavex {
 
 namespace {
 
-bool BeginsAWord(const std::string& folded, const std::string& text) {
-    for (std::size_t at = folded.find(text); at != std::string::npos;
+bool BeginsAWord(std::string_view folded, const std::string& text) {
+    for (std::size_t at = folded.find(text); at != std::string_view::npos;
          at = folded.find(text, at + 1)) {
         if (!IsWordCharacter(folded[at - 1])) {  // a match at 0 has been told apart before
             return true;
@@ -19,15 +19,15 @@ bool BeginsAWord(const std::string& folded, const std::string& text) {
     return false;
 }
 
-Match MatchBeginning(const std::string& folded, std::size_t length) {
-    const std::string_view rest = std::string_view(folded).substr(length);
+Match MatchBeginning(std::string_view folded, std::size_t length) {
+    const std::string_view rest = folded.substr(length);
     if (rest.empty() || rest.starts_with(", ") || rest.starts_with(" - ")) {
         return kWholeName;
     }
     return IsWordCharacter(rest.front()) ? kNameBeginning : kNameThenWord;
 }
 
-Match MatchOwnName(const std::string& folded, const std::string& text) {
+Match MatchOwnName(std::string_view folded, const std::string& text) {
     const std::size_t at = folded.find(text);
     if (at == std::string::npos) {
         return kNone;
@@ -38,29 +38,44 @@ Match MatchOwnName(const std::string& folded, const std::string& text) {
     return BeginsAWord(folded, text) ? kWordBeginning : kAnyPart;
 }
 
-/// A match with one of the other names; at: where it begins in the folded ones.
+/// A match with one of the other names, and its number.
 struct OtherMatch {
     Match match = kNone;
-    std::size_t at = 0;
+    std::uint32_t name = kOwnName;
 };
 
-/// One of 64 bits for the first two bytes of a folded name, so that most cities need no look at
-/// their names.
-std::uint64_t BeginningBit(std::string_view name) {
-    const auto first = static_cast<unsigned char>(name[0]);
-    const auto second = static_cast<unsigned char>(name[1]);
-    return std::uint64_t{1} << ((first * 31U + second) % 64U);
+bool CountsForNothing(std::string_view name) {
+    while (!name.empty()) {
+        if (!TakeFoldedOfName(name).empty()) {
+            return false;
+        }
+    }
+    return true;
 }
 
-/// name: a comma and the folded beginning of a name, two bytes or more.
-OtherMatch MatchOtherNames(const std::string& foldedNames, const std::string& name) {
-    OtherMatch best;
-    for (std::size_t at = foldedNames.find(name); at != std::string::npos;
-         at = foldedNames.find(name, at + 1)) {
-        if (foldedNames[at + name.size()] == ',') {
-            return {kWholeOtherName, at};
+/// wanted: a folded text.
+Match MatchOtherName(std::string_view name, std::string_view wanted) {
+    while (!wanted.empty()) {
+        if (name.empty()) {
+            return kNone;
         }
-        best = best.match == kNone ? OtherMatch{kOtherBeginning, at} : best;
+        const std::string_view folded = TakeFoldedOfName(name);
+        if (folded.size() > wanted.size() && folded.starts_with(wanted)) {
+            return kOtherBeginning;
+        }
+        if (!wanted.starts_with(folded)) {
+            return kNone;
+        }
+        wanted.remove_prefix(folded.size());
+    }
+    return CountsForNothing(name) ? kWholeOtherName : kOtherBeginning;
+}
+
+OtherMatch MatchOtherNames(std::string_view names, std::string_view wanted) {
+    OtherMatch best;
+    for (std::uint32_t number = 0; !names.empty() && best.match != kWholeOtherName; ++number) {
+        const Match match = MatchOtherName(TakeName(names), wanted);
+        best = match < best.match ? OtherMatch{match, number} : best;
     }
     return best;
 }
@@ -76,7 +91,7 @@ Wanted WantedOf(const std::string& text) {
     const std::string trimmed(Trim(text));
     const std::string name = FoldCityName(trimmed);
     const bool isName = name.size() > 1 && name.find(',') == std::string::npos;
-    return {FoldForSearch(trimmed), "," + name, isName ? BeginningBit(name) : 0};
+    return {FoldForSearch(trimmed), isName ? name : std::string()};
 }
 
 bool IsWordCharacter(char c) {
@@ -85,27 +100,25 @@ bool IsWordCharacter(char c) {
 
 std::optional<CityMatch> MatchOf(const ListedCity& city, const Wanted& wanted) {
     const Match own = MatchOwnName(city.folded, wanted.own);
-    const bool mayMatch = own != kWholeName && (city.beginnings & wanted.beginning) != 0;
+    const bool mayMatch = own != kWholeName && !wanted.other.empty();
     const OtherMatch other =
-        mayMatch ? MatchOtherNames(city.foldedNames, wanted.other) : OtherMatch();
+        mayMatch ? MatchOtherNames(city.otherNames, wanted.other) : OtherMatch();
     const Match otherMatch = MatchAmongOwn(other.match, city);
     if (otherMatch < own) {
-        return CityMatch{otherMatch, static_cast<std::uint32_t>(other.at)};
+        return CityMatch{otherMatch, other.name};
     }
     return own == kNone ? std::nullopt : std::optional(CityMatch{own, kOwnName});
 }
 
-std::string_view OtherNameAt(const ListedCity& city, std::uint32_t at) {
-    if (at == kOwnName) {
+std::string_view OtherNameOf(const ListedCity& city, std::uint32_t name) {
+    if (name == kOwnName) {
         return {};
     }
-    const auto begin = city.foldedNames.begin();
-    auto before = std::count(begin, begin + static_cast<std::ptrdiff_t>(at), ',');
     std::string_view names = city.otherNames;
-    for (; before > 0; --before) {
-        names.remove_prefix(names.find(',') + 1);
+    for (; name > 0; --name) {
+        TakeName(names);
     }
-    return names.substr(0, names.find(','));
+    return TakeName(names);
 }
 
 std::uint16_t OrderOf(std::uint16_t rank) {
@@ -117,14 +130,15 @@ bool IsWellKnown(const ListedCity& city) {
     return OrderOf(city.rank) < kWellKnownCities;
 }
 
-std::uint64_t BeginningsOf(std::string_view foldedNames) {
-    std::uint64_t beginnings = 0;
-    for (std::size_t at = 0; at + 2 < foldedNames.size(); ++at) {
-        if (foldedNames[at] == ',') {
-            beginnings |= BeginningBit(foldedNames.substr(at + 1));
-        }
-    }
-    return beginnings;
+std::string_view TakeFoldedOfName(std::string_view& name) {
+    const std::string_view folded = TakeFolded(name);
+    return folded == "'" ? "" : folded == "-" ? " " : folded;
+}
+
+std::string_view TakeName(std::string_view& names) {
+    const std::string_view name = names.substr(0, names.find(','));
+    names.remove_prefix(std::min(name.size() + 1, names.size()));
+    return name;
 }
 
 }  // namespace horavex

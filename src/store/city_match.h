@@ -24,9 +24,9 @@ enum Match : std::uint8_t {
 
 /// What a search looks for.
 struct Wanted {
-    std::string own;          // in own names
-    std::string other;        // in other ones, a comma before it
-    std::uint64_t beginning;  // of the latter, as ListedCity has them; 0 where those do not count
+    std::string own;  // in own names
+    std::string
+        other;  // at the beginning of other ones, two bytes or more; empty to pass them over
 };
 
 Wanted WantedOf(const std::string& text);
@@ -34,19 +34,19 @@ Wanted WantedOf(const std::string& text);
 /// True for a character that letters and digits are, and all beyond ASCII.
 bool IsWordCharacter(char c);
 
-/// Where the own name matched.
+/// The own name as what matched, and not one of the other ones, which are numbered from 0.
 inline constexpr std::uint32_t kOwnName = 0xFFFFFFFF;
 
 struct CityMatch {
     Match match;
-    std::uint32_t other;  // where the matching name begins in the folded other ones, or kOwnName
+    std::uint32_t name;
 };
 
 /// The best match of a city's names; none where they do not match.
 std::optional<CityMatch> MatchOf(const ListedCity& city, const Wanted& wanted);
 
-/// The name that stands at a place of the folded other ones; empty for kOwnName.
-std::string_view OtherNameAt(const ListedCity& city, std::uint32_t at);
+/// An other name by its number; empty for kOwnName.
+std::string_view OtherNameOf(const ListedCity& city, std::uint32_t name);
 
 /// The order of a rank by population: cities without one come last.
 std::uint16_t OrderOf(std::uint16_t rank);
@@ -54,7 +54,11 @@ std::uint16_t OrderOf(std::uint16_t rank);
 /// True for one of the largest cities, whose whole other names count as their own.
 bool IsWellKnown(const ListedCity& city);
 
-/// A bit for the first two bytes of each folded name. foldedNames: with a comma at both ends.
-std::uint64_t BeginningsOf(std::string_view foldedNames);
+/// Takes the first character off a name, which has some, and tells what of it counts, as in
+/// FoldCityName.
+std::string_view TakeFoldedOfName(std::string_view& name);
+
+/// Takes the first name off a list of names that commas part.
+std::string_view TakeName(std::string_view& names);
 
 }  // namespace horavex

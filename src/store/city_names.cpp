@@ -13,11 +13,11 @@ constexpr const char* kNames = "Dat\\N.DAT";
 
 }  // namespace
 
-std::vector<std::string> ReadOtherNames(std::int64_t cityCount) {
+std::vector<std::string_view> ReadOtherNames(std::int64_t cityCount, TextStore& texts) {
     if (!Ports().programFolder.Exists(kNames)) {
-        return std::vector<std::string>(static_cast<std::size_t>(cityCount));
+        return std::vector<std::string_view>(static_cast<std::size_t>(cityCount));
     }
-    auto lines = ReadLineFile(kNames);
+    auto lines = KeepLineFile(kNames, texts);
     if (std::ssize(lines) != cityCount) {
         throw BoundsFault(std::string(kNames) + ": not one line for each city");
     }
@@ -28,7 +28,9 @@ std::string OtherNamesOf(std::int16_t cityIndex) {
     OpenCityFiles();
     const std::int64_t count = CityCount();
     CloseCityFiles();
-    return ReadOtherNames(count).at(static_cast<std::size_t>(cityIndex - kFirstCityIndex));
+    TextStore texts;
+    const auto names = ReadOtherNames(count, texts);
+    return std::string(names.at(static_cast<std::size_t>(cityIndex - kFirstCityIndex)));
 }
 
 }  // namespace horavex

@@ -14,25 +14,28 @@ namespace {
 struct RankedHit {
     std::uint64_t order;  // the best first: match, rank by population, position in the list
     std::uint32_t city;   // position in the list
-    std::uint32_t other;  // where the matching name begins in the folded other ones, or kOwnName
+    std::uint32_t name;   // the number of the matching other one, or kOwnName
 };
 
 RankedHit Ranked(const CityMatch& match, const ListedCity& city, std::size_t position) {
     const std::uint64_t rank = OrderOf(city.rank);
     return {std::uint64_t{match.match} << 48U | rank << 32U | position,
-            static_cast<std::uint32_t>(position), match.other};
+            static_cast<std::uint32_t>(position), match.name};
 }
 
-CityHit CityOf(const std::vector<ListedCity>& cities, const RankedHit& hit) {
+CityHit CityOf(Cities cities, const RankedHit& hit) {
     const ListedCity& city = cities[hit.city];
-    return {&city, OtherNameAt(city, hit.other), hit.order >> 48U == kWholeName};
+    return {&city, OtherNameOf(city, hit.name), hit.order >> 48U == kWholeName};
 }
 
 }  // namespace
 
 std::string DisplayText(const ListedCity& city) {
-    const std::string province = city.province.empty() ? "" : ", " + city.province;
-    return city.name + province + " - " + city.country;
+    std::string text(city.name);
+    if (!city.province.empty()) {
+        text.append(", ").append(city.province);
+    }
+    return text.append(" - ").append(city.country);
 }
 
 std::string DisplayText(const CityHit& hit) {
@@ -40,20 +43,15 @@ std::string DisplayText(const CityHit& hit) {
     return DisplayText(*hit.city) + (otherName.empty() ? "" : " (" + otherName + ")");
 }
 
-std::string FoldCityName(const std::string& name) {
-    std::string folded = FoldForSearch(name);
-    std::erase(folded, '\'');
-    std::replace(folded.begin(), folded.end(), '-', ' ');
+std::string FoldCityName(std::string_view name) {
+    std::string folded;
+    while (!name.empty()) {
+        folded += TakeFoldedOfName(name);
+    }
     return folded;
 }
 
-void SetOtherNames(ListedCity& city, const std::string& otherNames) {
-    city.otherNames = otherNames;
-    city.foldedNames = otherNames.empty() ? std::string() : "," + FoldCityName(otherNames) + ",";
-    city.beginnings = BeginningsOf(city.foldedNames);
-}
-
-std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text) {
+std::vector<CityHit> SearchCities(Cities cities, const std::string& text) {
     const Wanted wanted = WantedOf(text);
     std::vector<RankedHit> ranked;
     for (std::size_t i = 0; i < cities.size() && !wanted.own.empty(); ++i) {

@@ -24,6 +24,6 @@ std::string DisplayText(const CityHit& hit);
 /// and any part of these. Letter case and accents do not matter; equal matches come by population,
 /// those without a rank last. Of two other names that match alike the better known one counts; a
 /// single Latin letter begins too many of them to look there. An empty text matches nothing.
-std::vector<CityHit> SearchCities(const std::vector<ListedCity>& cities, const std::string& text);
+std::vector<CityHit> SearchCities(Cities cities, const std::string& text);
 
 }  // namespace horavex

@@ -28,15 +28,31 @@ Bytes DecodeText(ByteView stored) {
     return text;
 }
 
+std::int64_t CountOfRecords(std::int64_t size, std::int64_t recordLength) {
+    return static_cast<std::int64_t>(
+        RoundHalfEven(static_cast<double>(size) / static_cast<double>(recordLength)));
+}
+
+void RefuseBadRecord(const std::string& path, std::int64_t number) {
+    if (number < 1) {
+        throw BoundsFault(path + ": there is no record " + std::to_string(number));
+    }
+}
+
+void RefuseBadText(const std::string& path, std::int64_t start, std::int64_t end) {
+    if (end < start || (end > start && start < 1)) {
+        throw BoundsFault(path + ": no text from position " + std::to_string(start) + " to " +
+                          std::to_string(end));
+    }
+}
+
 RecordFile::RecordFile(std::string path, std::int64_t recordLength)
     : path_(std::move(path)),
       recordLength_(recordLength),
       file_(Ports().programFolder.OpenForReading(path_)) {}
 
 Bytes RecordFile::Read(std::int64_t number) const {
-    if (number < 1) {
-        throw BoundsFault(path_ + ": there is no record " + std::to_string(number));
-    }
+    RefuseBadRecord(path_, number);
     const auto length = static_cast<std::size_t>(recordLength_);
     Bytes record = file_->ReadAt((number - 1) * recordLength_, length);
     record.resize(length);
@@ -44,8 +60,7 @@ Bytes RecordFile::Read(std::int64_t number) const {
 }
 
 std::int64_t RecordFile::Count() const {
-    const auto size = static_cast<double>(file_->Size());
-    return static_cast<std::int64_t>(RoundHalfEven(size / static_cast<double>(recordLength_)));
+    return CountOfRecords(file_->Size(), recordLength_);
 }
 
 bool RecordFile::IsLast(std::int64_t number) const {
@@ -56,15 +71,10 @@ PackedTexts::PackedTexts(const std::string& path)
     : path_(path), file_(Ports().programFolder.OpenForReading(path)) {}
 
 Bytes PackedTexts::Read(std::int64_t start, std::int64_t end) const {
-    const std::int64_t length = end - start;
-    if (length < 0 || (length > 0 && start < 1)) {
-        throw BoundsFault(path_ + ": no text from position " + std::to_string(start) + " to " +
-                          std::to_string(end));
-    }
-    if (length == 0) {
-        return {};
-    }
-    return DecodeText(file_->ReadAt(start - 1, static_cast<std::size_t>(length)));
+    RefuseBadText(path_, start, end);
+    return start == end
+               ? Bytes()
+               : DecodeText(file_->ReadAt(start - 1, static_cast<std::size_t>(end - start)));
 }
 
 std::int64_t PackedTexts::End() const {

@@ -14,6 +14,14 @@ namespace horavex {
 /// works on the bytes, before any code page makes them characters.
 Bytes DecodeText(ByteView stored);
 
+/// Length of a file over the length of a record, rounded half to even.
+std::int64_t CountOfRecords(std::int64_t size, std::int64_t recordLength);
+
+/// Throw BoundsFault, naming the file: for a record number below 1; for a text whose end lies
+/// before its start, or that has some length and a start below 1.
+void RefuseBadRecord(const std::string& path, std::int64_t number);
+void RefuseBadText(const std::string& path, std::int64_t start, std::int64_t end);
+
 /// A file of fixed-length records, numbered from 1.
 class RecordFile {
 public:
@@ -23,7 +31,6 @@ public:
     /// BoundsFault for a number below 1.
     Bytes Read(std::int64_t number) const;
 
-    /// Length of the file over the length of a record, rounded half to even.
     std::int64_t Count() const;
 
     /// True for the record with which the file ends exactly.
@@ -36,8 +43,7 @@ private:
 };
 
 /// Reads the packed text from 1-based position start up to, not including, position end, and
-/// undoes its substitution. Behind the end of the file there is nothing. Throws BoundsFault for
-/// an end before the start and for a position below 1, naming the file.
+/// undoes its substitution. Behind the end of the file there is nothing. Throws as RefuseBadText.
 class PackedTexts {
 public:
     explicit PackedTexts(const std::string& path);

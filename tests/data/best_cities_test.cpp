@@ -25,7 +25,7 @@ struct BuiltBestCities : BuiltData {
             << "\"" << text << "\"";
     }
 
-    const std::vector<ListedCity> cities = ListCities();
+    const CityList cities = ListCities();
     const BestCities best{cities};
 };
 
@@ -73,7 +73,7 @@ TEST_F(BuiltBestCities, AreTheFirstOfAllThatMatchPartsOfNames) {
     std::mt19937 random(17);  // NOLINT: the same cities in each run
     for (int n = 0; n < 120; ++n) {
         const ListedCity& city = cities[random() % cities.size()];
-        const std::string& names = n % 3 == 0 ? city.otherNames : city.folded;
+        const std::string names(n % 3 == 0 ? city.otherNames : city.folded);
         if (!names.empty()) {
             const std::size_t at = n % 2 == 0 ? 0 : random() % names.size();
             ExpectTheSame(names.substr(at, 1 + random() % 8));

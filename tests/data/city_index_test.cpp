@@ -13,8 +13,7 @@ using testing::Not;
 
 struct BuiltCityIndex : BuiltData {
     /// The hits whose whole name it is, and whatever goes before others, in their order.
-    static std::vector<std::string> WholeNames(const std::vector<ListedCity>& among,
-                                               const std::string& name) {
+    static std::vector<std::string> WholeNames(Cities among, const std::string& name) {
         const std::string folded = FoldForSearch(name);
         std::vector<std::string> found;
         for (const CityHit& hit : SearchCities(among, name)) {
@@ -32,19 +31,20 @@ struct BuiltCityIndex : BuiltData {
         EXPECT_EQ(WholeNames(*few, name), WholeNames(cities, name)) << name;
     }
 
-    const std::vector<ListedCity> cities = ListCities();
+    const CityList cities = ListCities();
 };
 
 TEST_F(BuiltCityIndex, FindsEveryCityByEachOfItsNames) {
     constexpr std::size_t kStep = 307;
     for (std::size_t place = 0; place < cities.size(); place += kStep) {
-        std::vector<std::string> names = {cities[place].name};
+        std::vector<std::string> names = {std::string(cities[place].name)};
         const std::vector<std::string> others = Split(cities[place].otherNames, ',');
         names.insert(names.end(), others.begin(), others.end());
         for (const std::string& name : names) {
-            const bool has = std::ranges::any_of(
-                CitiesThatMayBe(name).value(),
-                [&](const ListedCity& city) { return city.cityIndex == cities[place].cityIndex; });
+            const CityList few = CitiesThatMayBe(name).value();
+            const bool has = std::ranges::any_of(few, [&](const ListedCity& city) {
+                return city.cityIndex == cities[place].cityIndex;
+            });
             EXPECT_TRUE(has || name.empty()) << name;
         }
     }
@@ -53,7 +53,7 @@ TEST_F(BuiltCityIndex, FindsEveryCityByEachOfItsNames) {
 TEST_F(BuiltCityIndex, TellsAsMuchOfWholeNamesAsTheListOfAll) {
     constexpr std::size_t kStep = 977;
     for (std::size_t place = 0; place < cities.size(); place += kStep) {
-        ExpectTheSame(cities[place].name);
+        ExpectTheSame(std::string(cities[place].name));
         for (const std::string& name : Split(cities[place].otherNames, ',')) {
             ExpectTheSame(name);
         }

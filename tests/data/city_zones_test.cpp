@@ -13,7 +13,7 @@ struct BuiltCityZones : BuiltData {
         return zones.Of(SearchCities(cities, search).at(0).city->cityIndex);
     }
 
-    std::vector<ListedCity> cities = ListCities();
+    CityList cities = ListCities();
     CityZones zones;
 };
 
@@ -40,7 +40,8 @@ TEST_F(BuiltCityZones, KnownCitiesLieInTheirs) {
 }
 
 TEST_F(BuiltCityZones, OtherNamesStandBesideTheirCities) {
-    const auto names = ReadOtherNames(std::ssize(cities));
+    TextStore texts;
+    const auto names = ReadOtherNames(std::ssize(cities), texts);
     const auto cairo = SearchCities(cities, "Cairo").at(0).city->cityIndex - kFirstCityIndex;
     EXPECT_TRUE(names.at(static_cast<std::size_t>(cairo)).starts_with("القاهرة,"));
 }

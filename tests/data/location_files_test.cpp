@@ -91,7 +91,8 @@ TEST_F(LocationFiles, CitiesOfACountryStandInTheOrderOfTheAlphabet) {
     const auto cities = ListCities();
     for (std::size_t i = 1; i < cities.size(); ++i) {
         if (cities[i].country == cities[i - 1].country) {
-            ASSERT_LE(SortKey(cities[i - 1].name), SortKey(cities[i].name))
+            ASSERT_LE(SortKey(std::string(cities[i - 1].name)),
+                      SortKey(std::string(cities[i].name)))
                 << cities[i - 1].name << " before " << cities[i].name;
         }
     }

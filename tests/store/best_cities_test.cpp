@@ -9,21 +9,21 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct BestCitiesTest : testing::Test {
-    void Add(const std::string& name, std::uint16_t rank, const std::string& otherNames = "") {
-        cities.push_back(
-            {0, name, "", "Nowhere", 0, 0, rank, FoldForSearch(name + " - Nowhere"), "", ""});
-        SetOtherNames(cities.back(), otherNames);
+    void Add(std::string_view name, std::uint16_t rank, std::string_view otherNames = "") {
+        TextStore& texts = cities.Texts();
+        cities.Add({0, texts.Keep(name), "", "Nowhere", 0, 0, rank,
+                    texts.Keep(FoldForSearch(name), " - nowhere"), texts.Keep(otherNames)});
     }
 
     std::vector<std::string> Best(const std::string& text, std::size_t most) const {
         std::vector<std::string> names;
         for (const CityHit& hit : BestCities(cities).Find(text, most)) {
-            names.push_back(hit.city->name);
+            names.emplace_back(hit.city->name);
         }
         return names;
     }
 
-    std::vector<ListedCity> cities;
+    CityList cities;
 };
 
 TEST_F(BestCitiesTest, BetterMatchesGoBeforeHigherRanksHoweverFewAreWanted) {
@@ -61,6 +61,34 @@ TEST_F(BestCitiesTest, NamesOfAnyLengthAreFoundWhole) {
     Add("Yb", 3);
     EXPECT_TRUE(BestCities(cities).Find("y", 1).at(0).isWholeName);
     EXPECT_TRUE(BestCities(cities).Find(longName, 1).at(0).isWholeName);
+}
+
+TEST_F(BestCitiesTest, PartsAreFoundWhereverTheyStand) {
+    Add("Iraq", 1);
+    Add("Quito", 2);
+    Add("Al 'Arabiyah", 3);
+    EXPECT_THAT(Best("q", 5), ElementsAre("Quito", "Iraq"));
+    EXPECT_THAT(Best("e", 5), ElementsAre("Iraq", "Quito", "Al 'Arabiyah")) << "of the country";
+    EXPECT_THAT(Best("yah - no", 5), ElementsAre("Al 'Arabiyah"));
+    EXPECT_THAT(Best("arab", 5), ElementsAre("Al 'Arabiyah"));
+}
+
+TEST_F(BestCitiesTest, OtherNamesCountFromTheirFirstLettersOn) {
+    Add("Mecca", 1, "'Umm al-Qura,e\u0301,東京");
+    EXPECT_THAT(Best("um", 5), ElementsAre("Mecca"));
+    EXPECT_THAT(Best("umm", 5), ElementsAre("Mecca"));
+    EXPECT_THAT(Best("umm al qura", 5), ElementsAre("Mecca"));
+    EXPECT_THAT(Best("東", 5), ElementsAre("Mecca"));
+    EXPECT_THAT(Best("al qura", 5), IsEmpty());
+}
+
+TEST_F(BestCitiesTest, ThousandsOfCitiesAreFoundByRank) {
+    for (int n = 0; n < 1500; ++n) {
+        Add("City " + std::to_string(n), static_cast<std::uint16_t>(1500 - n));
+    }
+    EXPECT_THAT(Best("city", 3), ElementsAre("City 1499", "City 1498", "City 1497"));
+    EXPECT_THAT(Best("city 7", 2), ElementsAre("City 7", "City 799"));
+    EXPECT_THAT(Best("1234", 2), ElementsAre("City 1234"));
 }
 
 TEST_F(BestCitiesTest, NothingIsFoundForNothing) {

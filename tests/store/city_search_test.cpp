@@ -19,7 +19,7 @@ protected:
     static std::vector<std::string> Names() {
         std::vector<std::string> names;
         for (const ListedCity& city : ListCities()) {
-            names.push_back(city.name);
+            names.emplace_back(city.name);
         }
         return names;
     }
@@ -30,7 +30,8 @@ TEST_F(ListCitiesTest, CitiesComeInTheOrderOfTheirIndex) {
 }
 
 TEST_F(ListCitiesTest, CityHasWhatASearchNeeds) {
-    const ListedCity city = ListCities().at(1);
+    const CityList cities = ListCities();
+    const ListedCity& city = cities.at(1);
     EXPECT_EQ(city.cityIndex, -31999);
     EXPECT_EQ(city.province, "São Paulo");
     EXPECT_EQ(city.country, "Brazil");
@@ -41,7 +42,8 @@ TEST_F(ListCitiesTest, CityHasWhatASearchNeeds) {
 }
 
 TEST_F(ListCitiesTest, CityWithoutProvinceHasNone) {
-    const ListedCity city = ListCities().at(2);
+    const CityList cities = ListCities();
+    const ListedCity& city = cities.at(2);
     EXPECT_EQ(city.province, "");
     EXPECT_EQ(city.folded, "cairo - egypt");
 }
@@ -98,11 +100,16 @@ TEST_F(ListCitiesTest, MissingFilesAreFileFaults) {
     EXPECT_THROW(ListCities(), FileFault);
 }
 
-TEST_F(ListCitiesTest, CityHasItsOtherNamesAndTheirFoldedForm) {
-    const ListedCity city = ListCities().at(2);
-    EXPECT_EQ(city.otherNames, "القاهرة,Kairo");
-    EXPECT_EQ(city.foldedNames, "," + FoldForSearch("القاهرة") + ",kairo,");
-    EXPECT_EQ(ListCities().at(0).foldedNames, "");
+TEST_F(ListCitiesTest, CityHasItsOtherNames) {
+    EXPECT_EQ(ListCities().at(2).otherNames, "القاهرة,Kairo");
+    EXPECT_EQ(ListCities().at(0).otherNames, "");
+}
+
+TEST_F(ListCitiesTest, TextsStayWhenTheListIsMoved) {
+    CityList first = ListCities();
+    const CityList cities = std::move(first);
+    EXPECT_EQ(cities.at(1).name, "São Paulo");
+    EXPECT_EQ(cities.at(2).otherNames, "القاهرة,Kairo");
 }
 
 TEST_F(ListCitiesTest, WithoutTheFileOfOtherNamesThereAreNone) {
@@ -129,15 +136,15 @@ TEST_F(ListCitiesTest, FilesAreClosedAgain) {
 class SearchCitiesTest : public testing::Test {
 protected:
     void Add(const std::string& name, std::uint16_t rank, const std::string& country = "Nowhere",
-             const std::string& province = "") {
+             const std::string& province = "", const std::string& otherNames = "") {
+        TextStore& texts = cities.Texts();
         const std::string display = province.empty() ? name : name + ", " + province;
-        cities.push_back({0, name, province, country, 0, 0, rank,
-                          FoldForSearch(display + " - " + country), "", ""});
+        cities.Add({0, texts.Keep(name), texts.Keep(province), texts.Keep(country), 0, 0, rank,
+                    texts.Keep(FoldForSearch(display + " - " + country)), texts.Keep(otherNames)});
     }
 
     void AddWithNames(const std::string& name, std::uint16_t rank, const std::string& otherNames) {
-        Add(name, rank);
-        SetOtherNames(cities.back(), otherNames);
+        Add(name, rank, "Nowhere", "", otherNames);
     }
 
     /// The other name by which the first hit was found.
@@ -148,12 +155,12 @@ protected:
     std::vector<std::string> Search(const std::string& text) const {
         std::vector<std::string> names;
         for (const CityHit& hit : SearchCities(cities, text)) {
-            names.push_back(hit.city->name);
+            names.emplace_back(hit.city->name);
         }
         return names;
     }
 
-    std::vector<ListedCity> cities;
+    CityList cities;
 };
 
 TEST_F(SearchCitiesTest, BetterMatchesComeFirstWhateverTheRank) {
@@ -291,6 +298,18 @@ TEST_F(SearchCitiesTest, HyphensAndApostrophesInOtherNamesDoNotMatter) {
     EXPECT_THAT(Search("makkah al mukarramah"), ElementsAre("Mecca"));
     EXPECT_THAT(Search("Makkah Al-Mukarramah"), ElementsAre("Mecca"));
     EXPECT_EQ(MatchedName("umm al-qura"), "Umm al Qura'");
+}
+
+TEST_F(SearchCitiesTest, TextMayEndWithinWhatALetterFoldsTo) {
+    AddWithNames("Strasbourg", 1, "Straßburg,Ærø'\u0301");
+    EXPECT_EQ(MatchedName("stras"), "");
+    EXPECT_EQ(MatchedName("strassb"), "Straßburg");
+    AddWithNames("Basel", 2, "Baß");
+    EXPECT_THAT(Search("baß"), ElementsAre("Basel"));
+    EXPECT_EQ(MatchedName("bas"), "");
+    EXPECT_EQ(MatchedName("aero"), "Ærø'\u0301");
+    EXPECT_TRUE(SearchCities(cities, "aero").at(0).isWholeName);
+    EXPECT_FALSE(SearchCities(cities, "aer").at(0).isWholeName);
 }
 
 TEST_F(SearchCitiesTest, SingleLatinLetterLooksAtOwnNamesAlone) {
