@@ -6,10 +6,14 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <optional>
+#include <set>
+#include <thread>
 
 #include "base/program_version.h"
 #include "e2e/harness/faked_clock.h"
@@ -71,12 +75,17 @@ protected:
         return program;
     }
 
-    /// Starts it and waits for its first line.
-    ChildProcess Launch(const std::string& name) {
+    /// Starts it, with its lines in a file of that name.
+    ChildProcess Run(const std::string& name) {
         Environment all = variables;
         clock.InstallIn(all);
-        ChildProcess program({BuildPath("bin/horavex-terminal"), "--no-face"}, all,
-                             home / (name + ".out"), home / (name + ".err"));
+        return ChildProcess({BuildPath("bin/horavex-terminal"), "--no-face"}, all,
+                            home / (name + ".out"), home / (name + ".err"));
+    }
+
+    /// Starts it and waits for its first line.
+    ChildProcess Launch(const std::string& name) {
+        ChildProcess program = Run(name);
         WaitUntil("the start", [&] { return !Log(name).empty(); });
         return program;
     }
@@ -250,6 +259,44 @@ TEST_F(ServiceProgramTest, LogThatNobodyReadsSilencesNothing) {
     WaitForStatus("\"athanPlaying\":true");
     EXPECT_EQ(Ctl({"athan", "stop"}).status, 0);
     WaitForStatus("\"athanPlaying\":false");
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(ServiceProgramTest, OfTwoThatStartAtOnceOneRuns) {
+    for (int round = 0; round < 5; ++round) {
+        std::vector<std::unique_ptr<ChildProcess>> both;
+        for (const char* name : {"first", "second"}) {
+            both.push_back(std::make_unique<ChildProcess>(Run(name)));
+        }
+        WaitUntil("an end", [&] { return both[0]->IsRunning() != both[1]->IsRunning(); });
+        const std::size_t ended = both[0]->IsRunning() ? 1 : 0;
+        EXPECT_EQ(both[ended]->Wait(), 2);
+        EXPECT_THAT(Log(ended == 0 ? "first" : "second"), HasSubstr("is already running"));
+        EXPECT_TRUE(both[1 - ended]->IsRunning());
+        both[1 - ended]->Signal(SIGTERM);
+        both[1 - ended]->Wait();
+    }
+}
+
+TEST_F(ServiceProgramTest, HundredStartsThatAreStoppedAtAnyMomentLeaveNothingBehind) {
+    const auto files = [this] {
+        std::set<std::string> paths;
+        for (const auto& entry : fs::recursive_directory_iterator(home.Path())) {
+            paths.insert(entry.path());
+        }
+        return paths;
+    };
+    Run("service").Signal(SIGTERM);
+    std::ofstream(home / "run/horavex.lock").close();  // is kept, and claims nothing
+    const std::set<std::string> before = files();
+    for (int start = 0; start < 100; ++start) {
+        ChildProcess program = Run("service");
+        std::this_thread::sleep_for(std::chrono::milliseconds(2 * start));
+        program.Signal(start % 2 == 0 ? SIGTERM : SIGKILL);
+        program.Wait();
+    }
+    EXPECT_EQ(files(), before);
+    const ChildProcess program = Start();
     EXPECT_TRUE(program.IsRunning());
 }
 
