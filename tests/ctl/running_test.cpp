@@ -25,6 +25,7 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::MatchesRegex;
+using testing::StartsWith;
 
 /// The same with a running program, as far as others can see it.
 struct RunningTest : SessionBus {
@@ -105,6 +106,19 @@ TEST_F(RunningTest, JsonOfTheStatusHasAllThatIsTold) {
     EXPECT_EQ(json["next"]["prayer"], "Asr");
     EXPECT_EQ(json["athanPlaying"], false);
     EXPECT_TRUE(json["quietUntil"].is_null());
+}
+
+TEST_F(RunningTest, TextsOfTheProgramSteerNoTerminal) {
+    ToldState state = DayInCairo();
+    state.place = "a\x1b[2Jb\x07";
+    state.zone =
+        "\xC2\x9B"
+        "1m";
+    broadcast->Publish(state);
+    EXPECT_THAT(Run({"status"}).out, StartsWith("a[2Jb\n1m "));
+    EXPECT_THAT(Run({"status", "--format", "{place}"}).out, StartsWith("a[2Jb\n"));
+    const ChildProcess child = Start({"status", "--follow", "--format", "{place}"});
+    EXPECT_EQ(Follow("\n"), "a[2Jb\n");
 }
 
 TEST_F(RunningTest, LineForAStatusBarIsFilled) {

@@ -1,6 +1,7 @@
 #include "shell/tick.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "athan/athan_state.h"
 #include "engine/current_year.h"
@@ -345,6 +346,26 @@ TEST_F(RunningClockTest, GapOfTwoDaysRunsTheSetAction) {
     frmMain->tmrUpdate.Tick();
     EXPECT_EQ(LastRefreshDate, DateSerial(2026, 11, 23));
     EXPECT_THAT(platform.desktop.calls, testing::Contains("show fMessage"));
+}
+
+TEST_F(RunningClockTest, ClockThatJumpsByHoursOrYearsEitherWayShowsTheDayThatItTells) {
+    platform.dialogs.messages.clear();
+    for (const auto& [year, month, day] : {std::tuple(2026, 11, 21),
+                                           {2026, 11, 22},
+                                           {2031, 3, 1},
+                                           {2000, 2, 29},
+                                           {2026, 11, 20},
+                                           {1999, 12, 31},
+                                           {2100, 1, 1},
+                                           {2026, 11, 21}}) {
+        for (const int hour : {20, 3}) {
+            SetClock(year, month, day, hour, 0, 0);
+            frmMain->tmrUpdate.Tick();
+            EXPECT_EQ(CurrentYear, year);
+            EXPECT_EQ(TodayDate, DateSerial(year, month, day));
+        }
+    }
+    EXPECT_THAT(platform.dialogs.messages, IsEmpty());
 }
 
 }  // namespace

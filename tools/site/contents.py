@@ -15,7 +15,8 @@ PARTS = (
               "data/gazetteer/LICENSE.md", "data/athan/README.md", "data/art/README.md",
               "tests/data/published/README.md")),
     ("Development", ("CONTRIBUTING.md", "docs/architecture.md", "docs/glossary.md",
-                     "docs/platform.md", "docs/look.md", "docs/packages.md", "docs/releases.md")),
+                     "docs/platform.md", "docs/look.md", "docs/security.md", "docs/reliability.md",
+                     "docs/packages.md", "docs/releases.md")),
 )
 
 
