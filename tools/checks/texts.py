@@ -11,6 +11,9 @@ ENGLISH = ("*.md", "*.h", "*.cpp", "*.c", "*.py", "*.sh", "*.cmake", "*CMakeList
            "run", "test", "tools/*", "packaging/*", "data/lang/English.ini", "data/help/English/*")
 NOT_ENGLISH = ("*.json", "*.png", "tools/refresh_gazetteer/*", "data/gazetteer/*.tsv",
                "tools/checks/words.txt")
+# The sources of the programs and the library.
+SOURCES = ("src/*.cpp", "linux/*.cpp", "desktop/*.cpp", "terminal/*.cpp", "ctl/*.cpp", "lib/*.cpp",
+           "tools/*.cpp")
 RULES = ("header_names", "colours", "state", "wording", "text_entries")
 
 
@@ -33,6 +36,15 @@ def rules_of(_):
     """Reads the whole tree whatever is named: these rules are about files beside each other."""
     rules = [_run(f"tests/checks/{name}.sh", ".") for name in RULES]
     return all([_run("tests/checks/layers.sh", "src"), *rules])
+
+
+def cppcheck_of(files):
+    files = matching(files or all_files(), *SOURCES)
+    wrong = os.path.join(os.path.dirname(__file__), "cppcheck.txt")
+    return not files or _run("cppcheck", "--std=c++20", "--language=c++", "--quiet", "-I", "src",
+                             "-I", ".", "--enable=warning,performance,portability",
+                             f"-j{os.cpu_count()}", f"--suppressions-list={wrong}",
+                             "--error-exitcode=1", *files)
 
 
 def _meant_words():
