@@ -8,6 +8,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 option(HORAVEX_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 option(HORAVEX_COVERAGE "Instrument for line coverage" OFF)
+option(HORAVEX_FUZZ "Instrument for libFuzzer, which takes clang" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
@@ -21,13 +22,19 @@ endif()
 # The year's table must come out the same on every machine and at every optimisation level: no
 # fused multiply-add, and never -ffast-math.
 add_compile_options(-ffp-contract=off)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    set(warnings_of_gcc -Wduplicated-cond -Wlogical-op)
+    # g++ 12 sees overlapping, overlong and outlying copies inside std::string where it optimises
+    # (GCC bugs 105651 and 105329); the sanitizers look for real ones.
+    set(no_warnings -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
+else()
+    # clang, which builds for libFuzzer alone, finds other things to warn of.
+    set(no_warnings -Wno-error)
+endif()
 add_compile_options(-Werror -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                     -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-                    -Wduplicated-cond -Wlogical-op -Wimplicit-fallthrough)
-# g++ 12 sees overlapping, overlong and outlying copies inside std::string where it optimises
-# (GCC bugs 105651 and 105329); the sanitizers look for real ones.
-add_compile_options(-Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread
-                    -Wno-array-bounds)
+                    ${warnings_of_gcc} -Wimplicit-fallthrough)
+add_compile_options(${no_warnings})
 
 # Input that means harm finds a program that ends instead of one that obeys: guarded frames, stack
 # and branches, library calls and containers that check their bounds, addresses that differ from
@@ -51,6 +58,9 @@ if(HORAVEX_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize=vptr -fno-sanitize-recover=all
                         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+endif()
+if(HORAVEX_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 if(HORAVEX_COVERAGE)
     add_compile_options(--coverage)

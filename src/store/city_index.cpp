@@ -131,8 +131,7 @@ std::vector<Entry> EntriesOf(const CityList& cities) {
         AddEntries(entries, cities[place], static_cast<std::uint16_t>(place));
     }
     std::ranges::sort(entries);
-    const auto rest = std::ranges::unique(entries);
-    entries.erase(rest.begin(), rest.end());
+    entries.erase(std::unique(entries.begin(), entries.end()), entries.end());
     return entries;
 }
 

@@ -28,9 +28,12 @@ std::string OtherNamesOf(std::int16_t cityIndex) {
     OpenCityFiles();
     const std::int64_t count = CityCount();
     CloseCityFiles();
+    const int place = cityIndex - kFirstCityIndex;
+    if (place < 0 || place >= count) {
+        throw BoundsFault(std::string(kNames) + ": no city " + std::to_string(cityIndex));
+    }
     TextStore texts;
-    const auto names = ReadOtherNames(count, texts);
-    return std::string(names.at(static_cast<std::size_t>(cityIndex - kFirstCityIndex)));
+    return std::string(ReadOtherNames(count, texts)[static_cast<std::size_t>(place)]);
 }
 
 }  // namespace horavex

@@ -15,7 +15,8 @@ namespace horavex {
 /// line for each of cityCount cities.
 std::vector<std::string_view> ReadOtherNames(std::int64_t cityCount, TextStore& texts);
 
-/// Those of one city, which is in the files. Throws as the above and as the readers of these.
+/// Those of one city. Throws as the above and as the readers of the city files, and BoundsFault for
+/// an index that no city has.
 std::string OtherNamesOf(std::int16_t cityIndex);
 
 }  // namespace horavex

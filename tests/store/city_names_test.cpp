@@ -37,5 +37,11 @@ TEST_F(CityNamesTest, CutNamesAreAFault) {
     EXPECT_THROW(ReadOtherNames(5, texts), BoundsFault);
 }
 
+TEST_F(CityNamesTest, IndexThatNoCityHasIsAFault) {
+    EXPECT_EQ(OtherNamesOf(kFirstCityIndex + 4), "مكة,Mekka");
+    EXPECT_THROW(OtherNamesOf(kFirstCityIndex + 5), BoundsFault);
+    EXPECT_THROW(OtherNamesOf(kFirstCityIndex - 1), BoundsFault);
+}
+
 }  // namespace
 }  // namespace horavex
