@@ -12,7 +12,7 @@ struct FetchLimits {
     /// In all: name, connection, redirections and body. A prayer's ten seconds outlast it, so that
     /// none passes by under a fetch.
     long milliseconds = 8'000;
-    std::size_t bytes = 64 * 1024;  // of the body
+    std::size_t bytes = std::size_t{64} * 1024;  // of the body
 };
 
 /// The protocols that an address may be redirected to, with commas between: what began protected
