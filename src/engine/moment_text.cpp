@@ -54,7 +54,8 @@ std::string CellWithMarks(const std::string& clock, const Moment& moment) {
 }
 
 std::string MomentCell(const Moment& moment) {
-    return CellWithMarks(ClockText(moment), moment);
+    const bool isPlain = moment.dayShift == 0 && !HasDagger(moment);  // as most are
+    return isPlain ? ClockText(moment) : CellWithMarks(ClockText(moment), moment);
 }
 
 std::string RuleName(HighLatitudeRule rule) {

@@ -186,6 +186,16 @@ DayMoments MomentsOf(const YearSource& year, std::size_t row) {
     return DayMaker(year, row).Make();
 }
 
+std::vector<DayMoments> MomentsOfRows(const YearSource& year, std::size_t count) {
+    const bool isAsTable = year.rules == MomentRules{};
+    std::vector<DayMoments> moments(count);
+    for (std::size_t row = 0; row < count; ++row) {
+        moments[row] =
+            isAsTable ? TableMoments(RowOf(year.times, row)) : DayMaker(year, row).Make();
+    }
+    return moments;
+}
+
 AroundMoments AroundOf(const YearSource& year, std::size_t row, int imsakMinutes) {
     const std::size_t last = 364U + static_cast<std::size_t>(LeapFlagOf(year.inputs.year));
     const std::size_t evening = row < last ? row : row - 1;

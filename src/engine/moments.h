@@ -20,6 +20,9 @@ DayMoments TableMoments(const PrayerRow& hours);
 /// The moments of a day. row: 0 to 365. With rules Isha may lie beyond 24 and Fajr below 0 hours.
 DayMoments MomentsOf(const YearSource& year, std::size_t row);
 
+/// Those of the first rows.
+std::vector<DayMoments> MomentsOfRows(const YearSource& year, std::size_t count);
+
 /// The moments of a day of the program's year by the rules in force.
 DayMoments MomentsOfRow(std::size_t row);
 

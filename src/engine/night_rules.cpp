@@ -46,22 +46,26 @@ std::int16_t DayOfYear(std::size_t row) {
     return ToInt16(static_cast<std::int64_t>(row) + 1);
 }
 
+YearSun SunOf(const YearSource& year) {
+    return year.shared == nullptr ? YearSun(year.inputs) : year.shared->sun;
+}
+
 /// Where the shadow has its length beyond that of noon.
-double AsrZenith(const YearSource& year, std::size_t row) {
+double AsrZenith(const YearSource& year, std::size_t row, const YearSun& sun) {
     double gap = 0.0;
-    SolarTransit(ConstantsOf(year.inputs), year.inputs.place, DayOfYear(row), gap);
+    SolarTransit(sun.constants, sun.place, DayOfYear(row), gap);
     return std::atan(std::tan(gap) + year.inputs.method.asrRatio);
 }
 
 /// Radians.
-double ZenithOf(const YearSource& year, std::size_t row, Prayer prayer) {
+double ZenithOf(const YearSource& year, std::size_t row, Prayer prayer, const YearSun& sun) {
     switch (prayer) {
         case kFajr:
             return DegToRad(90.0 + year.inputs.method.fajrAngle);
         case kIsha:
             return DegToRad(90.0 + year.inputs.method.ishaAngle);
         case kAsr:
-            return AsrZenith(year, row);
+            return AsrZenith(year, row, sun);
         default:
             return DegToRad(kHorizonZenith);
     }
@@ -69,12 +73,6 @@ double ZenithOf(const YearSource& year, std::size_t row, Prayer prayer) {
 
 DayHalf HalfOf(Prayer prayer) {
     return prayer == kFajr || prayer == kShurooq ? DayHalf::kMorning : DayHalf::kEvening;
-}
-
-double Beside(const YearSource& year, std::size_t row, double zenith, DayHalf half) {
-    const double transit = StandardRow(year, row)[kZuhr];
-    return EventBeside(ConstantsOf(year.inputs), year.inputs.place, DayOfYear(row), zenith, transit,
-                       half);
 }
 
 /// An event of the sun: the table's own number where it is one. The table folds what passes
@@ -89,8 +87,16 @@ double EventOf(const YearSource& year, std::size_t row, Prayer prayer) {
         return IsEvent(told) ? told : NoEvent;
     }
     const DayHalf half = HalfOf(prayer);
-    const double own = Beside(year, row, ZenithOf(year, row, prayer), half);
-    const bool isOnItsSide = (told > hours[kZuhr]) == (half == DayHalf::kEvening);
+    const YearSun sun = SunOf(year);
+    const double cosZenith = std::cos(ZenithOf(year, row, prayer, sun));
+    const double transit = hours[kZuhr];
+    const bool isOnItsSide = (told > transit) == (half == DayHalf::kEvening);
+    if (isOnItsSide && IsNearEventBeside(sun.constants, sun.place, DayOfYear(row), cosZenith,
+                                         transit, half, told)) {
+        return told;  // as most are
+    }
+    const double own =
+        EventBeside(sun.constants, sun.place, DayOfYear(row), cosZenith, transit, half);
     return isOnItsSide && std::fabs(told - own) < kSame ? told : own;
 }
 
@@ -109,10 +115,10 @@ std::optional<PrayerRow> FindWholeDay(const YearSource& year, std::size_t row) {
 
 /// The same, looked for once where the days are kept.
 std::optional<PrayerRow> WholeDay(const YearSource& year, std::size_t row) {
-    if (year.wholeDays == nullptr) {
+    if (year.shared == nullptr) {
         return FindWholeDay(year, row);
     }
-    auto& kept = (*year.wholeDays)[row];
+    auto& kept = year.shared->wholeDays[row];
     if (!kept) {
         kept = FindWholeDay(year, row);
     }
@@ -236,10 +242,13 @@ Moment IshaOf(const YearSource& year, std::size_t row) {
 
 Moment MaghribByAngle(const YearSource& year, std::size_t row) {
     const double angle = year.rules.maghribAngle;
-    return TwilightMoment(year, row, {DayHalf::kEvening, angle, ShareOfMaghrib(year)},
-                          [&](std::size_t other) {
-                              return Beside(year, other, DegToRad(90.0 + angle), DayHalf::kEvening);
-                          });
+    const double cosZenith = std::cos(DegToRad(90.0 + angle));
+    const YearSun sun = SunOf(year);
+    return TwilightMoment(
+        year, row, {DayHalf::kEvening, angle, ShareOfMaghrib(year)}, [&](std::size_t other) {
+            return EventBeside(sun.constants, sun.place, DayOfYear(other), cosZenith,
+                               StandardRow(year, other)[kZuhr], DayHalf::kEvening);
+        });
 }
 
 }  // namespace horavex

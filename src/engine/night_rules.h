@@ -22,16 +22,31 @@ namespace horavex {
 // Hours here are of the record's standard time, without the daylight hour, from the midnight that
 // begins the day.
 
-/// The days of a year that have Shurooq, Asr and Maghrib, by row, as far as they have been looked
-/// for.
-using WholeDays = std::array<std::optional<std::optional<PrayerRow>>, kYearRows>;
+/// What the sun's events of all days of a year take.
+struct YearSun {
+    explicit YearSun(const YearInputs& inputs)
+        : constants(ConstantsOf(inputs)), place(EventPlaceOf(inputs.place)) {}
+
+    YearConstants constants;
+    EventPlace place;
+};
+
+/// What the days of a year share.
+struct SharedByDays {
+    explicit SharedByDays(const YearInputs& inputs) : sun(inputs) {}
+
+    YearSun sun;
+
+    /// Those that have Shurooq, Asr and Maghrib, by row, as far as they have been looked for.
+    std::array<std::optional<std::optional<PrayerRow>>, kYearRows> wholeDays{};
+};
 
 /// What a year's moments are made from.
 struct YearSource {
     const YearInputs& inputs;
     const YearTimes& times;  // by the same inputs
     const MomentRules& rules;
-    WholeDays* wholeDays = nullptr;  // keeps them for the next rows, where there are some
+    SharedByDays* shared = nullptr;  // keeps it for the next rows; nothing is kept without
 };
 
 /// A day by the sun alone.

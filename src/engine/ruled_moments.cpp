@@ -24,14 +24,10 @@ DayMoments MomentsOfRow(std::size_t row) {
 }
 
 std::vector<DayMoments> MomentsOfAllRows() {
-    WholeDays wholeDays;
     YearSource year = ProgramYear();
-    year.wholeDays = &wholeDays;
-    std::vector<DayMoments> moments(365U + static_cast<std::size_t>(LeapFlag));
-    for (std::size_t row = 0; row < moments.size(); ++row) {
-        moments[row] = MomentsOf(year, row);
-    }
-    return moments;
+    SharedByDays shared(year.inputs);
+    year.shared = &shared;
+    return MomentsOfRows(year, 365U + static_cast<std::size_t>(LeapFlag));
 }
 
 }  // namespace horavex

@@ -88,24 +88,64 @@ double EventTime(const YearConstants& constants, const YearPlace& place, std::in
     return EventTimeByCosine(constants, EventPlaceOf(place), day, std::cos(zenith), guess);
 }
 
-double EventBeside(const YearConstants& constants, const YearPlace& place, std::int16_t day,
-                   double zenith, double transit, DayHalf half) {
+namespace {
+
+/// A step from an hour of the clock to the one at which that hour's sun stands at the zenith
+/// distance.
+struct StepBeside {
+    const YearConstants& constants;
+    const EventPlace& at;
+    std::int16_t day;
+    double cosZenith;
+    double transit;
+    DayHalf half;
+
+    /// x: the cosine of its hour angle; beyond 1 it never does, and the edge is taken.
+    double From(double hours, double& x) const {
+        constexpr double kEdge = 1.0 - 1e-12;
+        const double side = half == DayHalf::kMorning ? -1.0 : 1.0;
+        const Sky sky = SkyAt(constants, at, day, hours);
+        x = CosHourAngle(at, sky.sun.sinDeclination, cosZenith);
+        const double H = side * ArcCos(std::clamp(x, -kEdge, kEdge)) * kHoursPerRadian;
+        const double hour = ClockHour(constants, at, sky, H);
+        return hour + 24.0 * std::round((transit + H - hour) / 24.0);
+    }
+};
+
+}  // namespace
+
+double EventBeside(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                   double cosZenith, double transit, DayHalf half) {
     constexpr int kRounds = 6;  // each takes the error of the guess to a tenth at least
-    constexpr double kEdge = 1.0 - 1e-12;
-    const double side = half == DayHalf::kMorning ? -1.0 : 1.0;
-    const EventPlace at = EventPlaceOf(place);
-    const double cosZenith = std::cos(zenith);
+    const StepBeside step = {constants, at, day, cosZenith, transit, half};
     double hours = transit;
     double x = 0.0;
     for (int round = 0; round < kRounds; ++round) {
-        const Sky sky = SkyAt(constants, at, day, hours);
-        x = CosHourAngle(at, sky.sun.sinDeclination, cosZenith);
         // On the way the sun of another hour may not get there; the last round decides.
-        const double H = side * ArcCos(std::clamp(x, -kEdge, kEdge)) * kHoursPerRadian;
-        const double hour = ClockHour(constants, at, sky, H);
-        hours = hour + 24.0 * std::round((transit + H - hour) / 24.0);
+        const double before = hours;
+        hours = step.From(hours, x);
+        if (hours == before) {
+            break;  // and so would all rounds after it
+        }
     }
     return std::fabs(x) < 1.0 ? hours : NoEvent;
+}
+
+// The sun's declination moves by 0.0003 radians an hour at most. Where cos(latitude) is 0.1 at
+// least, x moves by 0.12 at most within a day, and what begins below 0.85 stays below 0.97: there a
+// step takes an error to 0.08 of it at most. From an hour that a step moves by less than 0.08 the
+// event is less than 0.087 away, and the last of six rounds less than 0.00001 from that.
+bool IsNearEventBeside(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                       double cosZenith, double transit, DayHalf half, double hours) {
+    constexpr double kLeastCosLatitude = 0.1;
+    constexpr double kGreatestCosine = 0.85;
+    constexpr double kGreatestStep = 0.08;  // hours
+    if (at.cosLatitude < kLeastCosLatitude || std::fabs(hours - transit) > 12.0) {
+        return false;
+    }
+    double x = 0.0;
+    const double next = StepBeside{constants, at, day, cosZenith, transit, half}.From(hours, x);
+    return std::fabs(x) < kGreatestCosine && std::fabs(next - hours) < kGreatestStep;
 }
 
 }  // namespace horavex

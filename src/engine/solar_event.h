@@ -52,7 +52,12 @@ enum class DayHalf { kMorning, kEvening };
 /// The hour at which the sun stands at a zenith distance on one side of a transit (hours of the
 /// local clock), whatever day of the clock it falls on: from 12 before the transit to 12 after it.
 /// NoEvent where the sun does not get there.
-double EventBeside(const YearConstants& constants, const YearPlace& place, std::int16_t day,
-                   double zenith, double transit, DayHalf half);
+double EventBeside(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                   double cosZenith, double transit, DayHalf half);
+
+/// True only where that hour lies within a tenth of an hour of a given one, at a sixth of the cost.
+/// False tells nothing.
+bool IsNearEventBeside(const YearConstants& constants, const EventPlace& at, std::int16_t day,
+                       double cosZenith, double transit, DayHalf half, double hours);
 
 }  // namespace horavex

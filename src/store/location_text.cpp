@@ -6,8 +6,8 @@
 #include "base/int16.h"
 #include "base/program_state.h"
 #include "engine/angle.h"
+#include "store/open_texts.h"
 #include "store/settings_record.h"
-#include "store/text_table.h"
 
 namespace horavex {
 
@@ -35,9 +35,10 @@ const ProgramStateReset reset([] {
 std::string FormatCoordinate(TextEntry caption, double degrees, TextEntry hemisphere,
                              std::int16_t language) {
     const DegreesMinutes split = SplitDegrees(degrees);
-    return TextItem(caption, language) + ": " + std::to_string(std::abs(split.whole)) + " " +
-           TextItem(TextEntry::kDegrees, language) + ", " + std::to_string(split.minutes) + " " +
-           TextItem(TextEntry::kMinutes, language) + " " + TextItem(hemisphere, language);
+    const OpenTexts texts;
+    return texts.Item(caption, language) + ": " + std::to_string(std::abs(split.whole)) + " " +
+           texts.Item(TextEntry::kDegrees, language) + ", " + std::to_string(split.minutes) + " " +
+           texts.Item(TextEntry::kMinutes, language) + " " + texts.Item(hemisphere, language);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "store/text_table.h"
 
 #include "base/int16.h"
-#include "store/indexed_file.h"
+#include "store/open_texts.h"
 
 namespace horavex {
 
@@ -9,16 +9,20 @@ CodePage TextColumnCodePage(std::int16_t language) {
     return language == kArabicColumn ? CodePage::kWindows1256 : CodePage::kWindows1252;
 }
 
-std::string TextItem(TextEntry entry, std::int16_t language) {
+OpenTexts::OpenTexts() : texts_("Dat\\T.DAT"), index_("Dat\\TI.DAT", 2) {}
+
+std::string OpenTexts::Item(TextEntry entry, std::int16_t language) const {
     if (language == 0) {
         language = 1;
     }
-    const PackedTexts texts("Dat\\T.DAT");
-    const RecordFile index("Dat\\TI.DAT", 2);
     const std::int16_t before = SubtractInt16(ToInt16(static_cast<std::uint16_t>(entry)), 1);
     const std::int16_t record = AddInt16(MultiplyInt16(before, kTextLanguages), language);
-    return DecodeCodePage(ReadIndexedText(index, texts, record, ShortStart),
+    return DecodeCodePage(ReadIndexedText(index_, texts_, record, ShortStart),
                           TextColumnCodePage(language));
+}
+
+std::string TextItem(TextEntry entry, std::int16_t language) {
+    return OpenTexts().Item(entry, language);
 }
 
 }  // namespace horavex

@@ -9,12 +9,11 @@
 #include "engine/moment_text.h"
 #include "engine/moments.h"
 #include "engine/progress_window.h"
-#include "engine/ruled_year.h"
-#include "engine/year_table.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
 #include "store/location_text.h"
+#include "store/open_texts.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
 #include "timetables/timetable.h"
@@ -57,40 +56,48 @@ void AppendCell(std::string& page, std::string_view text) {
     AppendCentered(page, text, kTimeWidth);
 }
 
-std::string PlaceLines() {
-    const double latitude = StoredCoord(ActiveLocation.City.Latitude);
-    const double longitude = StoredCoord(ActiveLocation.City.Longitude);
-    return Text(TextEntry::kCity) + ": " + ActiveCityText + Crlf +
-           FormatLatitude(latitude, ActiveSettings.Language) + Crlf +
-           FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
-}
-
-std::string ZoneLine(const Timetable& table) {
-    return Text(TextEntry::kTimeZone) + ": " + Text(TextEntry::kGmt) + " " +
-           SignedFixedText(table.timeZone, Ports().formats.DecimalMark()) +
-           (table.zoneName.empty() ? "" : ", " + table.zoneName) + Crlf;
-}
-
-std::string QiblaLine() {
-    const std::string method =
-        ActiveSettings.QiblaMethod == 2 ? Text(TextEntry::kSecond) : Text(TextEntry::kFirst);
-    return QiblaText + " (" + method + " " + Text(TextEntry::kMethod) + ") " + Crlf;
-}
-
-std::string ColumnLines() {
-    std::string translated(kDayCaptionWidth, ' ');
-    std::string fixed = CenterText(Text(TextEntry::kDay), kDayCaptionWidth);
-    for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        AppendCell(translated, Text(PrayerNameEntry(prayer)));
-        AppendCell(fixed, prayerNames.at(prayer));
+/// Makes the block at the head of every month.
+class HeaderMaker {
+public:
+    std::string Make(const Timetable& table) const {
+        return PlaceLines() + ZoneLine(table) + QiblaLine() + Rule() + ColumnLines() + Rule();
     }
-    return translated + Crlf + fixed + Crlf;
-}
 
-/// The block at the head of every month.
-std::string Header(const Timetable& table) {
-    return PlaceLines() + ZoneLine(table) + QiblaLine() + Rule() + ColumnLines() + Rule();
-}
+private:
+    std::string Text(TextEntry entry) const { return texts_.Item(entry, ActiveSettings.Language); }
+
+    std::string PlaceLines() const {
+        const double latitude = StoredCoord(ActiveLocation.City.Latitude);
+        const double longitude = StoredCoord(ActiveLocation.City.Longitude);
+        return Text(TextEntry::kCity) + ": " + ActiveCityText + Crlf +
+               FormatLatitude(latitude, ActiveSettings.Language) + Crlf +
+               FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
+    }
+
+    std::string ZoneLine(const Timetable& table) const {
+        return Text(TextEntry::kTimeZone) + ": " + Text(TextEntry::kGmt) + " " +
+               SignedFixedText(table.timeZone, Ports().formats.DecimalMark()) +
+               (table.zoneName.empty() ? "" : ", " + table.zoneName) + Crlf;
+    }
+
+    std::string QiblaLine() const {
+        const std::string method =
+            ActiveSettings.QiblaMethod == 2 ? Text(TextEntry::kSecond) : Text(TextEntry::kFirst);
+        return QiblaText + " (" + method + " " + Text(TextEntry::kMethod) + ") " + Crlf;
+    }
+
+    std::string ColumnLines() const {
+        std::string translated(kDayCaptionWidth, ' ');
+        std::string fixed = CenterText(Text(TextEntry::kDay), kDayCaptionWidth);
+        for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
+            AppendCell(translated, Text(PrayerNameEntry(prayer)));
+            AppendCell(fixed, prayerNames.at(prayer));
+        }
+        return translated + Crlf + fixed + Crlf;
+    }
+
+    OpenTexts texts_;
+};
 
 /// prayerTimesOf: the words before the month.
 std::string MonthTitle(const std::string& prayerTimesOf, Date date) {
@@ -102,10 +109,9 @@ std::string MonthTitle(const std::string& prayerTimesOf, Date date) {
 struct ExportedYear {
     Date first = DateSerial(CurrentYear, 1, 1);
     int days = 365 + LeapFlag;
-    YearTimes times = Times;
-    YearBasis basis = RuledYear;
+    std::vector<DayMoments> moments = MomentsOfAllRows();
     SettingsRecord settings = ActiveSettings;
-    Timetable table = TakeTimetable();
+    Timetable table = TakeTimetable(moments);
 };
 
 /// The change of a day of the settings. day: 1-based day of the year.
@@ -136,8 +142,7 @@ std::string DaylightMark(DaylightChange change, DaylightNote& flag) {
 /// day: 1-based day of the year.
 void AppendDayCells(std::string& page, const ExportedYear& year, int day, int dayOfMonth) {
     AppendCentered(page, std::to_string(dayOfMonth), kDayWidth);
-    const YearSource source = {year.basis.inputs, year.times, year.basis.rules.moments};
-    for (const Moment& moment : MomentsOf(source, static_cast<std::size_t>(day) - 1)) {
+    for (const Moment& moment : year.moments[static_cast<std::size_t>(day) - 1]) {
         AppendCell(page, MomentCell(moment));
     }
     page += Crlf;
@@ -197,7 +202,7 @@ void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& 
 
 void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) {
     const ExportedYear year;
-    const std::string header = Header(year.table);
+    const std::string header = HeaderMaker().Make(year.table);
     const std::string prayerTimesOf = Text(TextEntry::kPrayerTimesOf);
     std::string page;
     DaylightNote flag = kNoNote;

@@ -39,8 +39,7 @@ std::optional<Moment> IfExists(const Moment& moment) {
     return std::fabs(moment.hours) < NoEvent ? std::optional(moment) : std::nullopt;
 }
 
-TimetableDay TakeDay(std::size_t row, const DayMoments& moments, bool withTimesAround) {
-    const Date date = DateSerial(CurrentYear, 1, 1) + static_cast<double>(row);
+TimetableDay TakeDay(std::size_t row, Date date, const DayMoments& moments, bool withTimesAround) {
     const ZoneSpan clock = ClockOf(date);
     TimetableDay day = {
         date, RuledHijriDate(date), clock.hours, clock.daylight, DaylightChange::kNone, {}, {}};
@@ -104,6 +103,10 @@ std::vector<std::optional<Moment>> TimetableDay::Columns() const {
 }
 
 Timetable TakeTimetable() {
+    return TakeTimetable(MomentsOfAllRows());
+}
+
+Timetable TakeTimetable(std::span<const DayMoments> moments) {
     const YearRules& rules = RuledYear.rules;
     Timetable table = {.year = CurrentYear,
                        .place = ActiveCityText,
@@ -121,11 +124,12 @@ Timetable TakeTimetable() {
                        .asrRatio = ActiveSettings.AsrRatio,
                        .qiblaDegrees = QiblaDegrees < 0.0 ? QiblaDegrees + 360.0 : QiblaDegrees,
                        .days = {}};
-    const std::vector<DayMoments> moments = MomentsOfAllRows();
     const bool withTimesAround = ReadOption(option::kAroundTheDay) == 1;
+    const Date newYear = DateSerial(CurrentYear, 1, 1);
     table.days.reserve(moments.size());
     for (std::size_t row = 0; row < moments.size(); ++row) {
-        table.days.push_back(TakeDay(row, moments[row], withTimesAround));
+        table.days.push_back(
+            TakeDay(row, newYear + static_cast<double>(row), moments[row], withTimesAround));
     }
     MarkChanges(table.days);
     if (!table.zone.empty()) {

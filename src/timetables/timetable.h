@@ -56,6 +56,9 @@ struct Timetable {
 /// The table of CurrentYear under the accepted settings.
 Timetable TakeTimetable();
 
+/// The same of the moments of all its rows, for those who need them, too.
+Timetable TakeTimetable(std::span<const DayMoments> moments);
+
 /// The days of a month, 1 to 12. The table must live as long.
 std::span<const TimetableDay> DaysOfMonth(const Timetable& table, int month);
 

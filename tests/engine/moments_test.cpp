@@ -508,12 +508,14 @@ TEST(MomentsOf, DaysThatAreKeptBetweenRowsChangeNoMoment) {
             Case place = Case(latitude, 18.95, 1.0, 18.0).Rule(rule);
             place.rules.offsets[kFajr] = 1;  // there are rules whatever the rule
             place.Calculate();
-            WholeDays kept;
+            SharedByDays kept(place.inputs);
             for (std::size_t row = 0; row < 365; ++row) {
                 const YearSource alone = {place.inputs, place.table.times, place.rules};
                 const YearSource year = {place.inputs, place.table.times, place.rules, &kept};
                 EXPECT_EQ(MomentsOf(year, row), MomentsOf(alone, row)) << latitude << " " << row;
             }
+            const YearSource alone = {place.inputs, place.table.times, place.rules};
+            EXPECT_EQ(MomentsOfRows(alone, 365).at(200), MomentsOf(alone, 200)) << latitude;
         }
     }
 }

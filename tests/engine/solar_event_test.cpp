@@ -1,5 +1,7 @@
 #include "engine/solar_event.h"
 
+#include <cmath>
+
 #include "base/fault.h"
 #include "engine/angle.h"
 
@@ -106,6 +108,60 @@ TEST_F(SolarEventTest, NegativeHourGetsOneTurn) {
 
 TEST_F(SolarEventTest, SunThatTouchesTheZenithIsAReportedFault) {
     EXPECT_THROW(Event(0, 0.0, 6.0), DivisionByZeroFault);  // it stands at the zenith itself
+}
+
+struct BesideTest : SolarEventTest {
+    double Beside(std::int16_t day, double zenith, DayHalf half) {
+        return EventBeside(constants, EventPlaceOf(place), day, std::cos(DegToRad(zenith)),
+                           Transit(day), half);
+    }
+
+    bool IsNear(std::int16_t day, double zenith, DayHalf half, double hours) {
+        return IsNearEventBeside(constants, EventPlaceOf(place), day, std::cos(DegToRad(zenith)),
+                                 Transit(day), half, hours);
+    }
+};
+
+// From pole to pole, through the twilights and to an Asr: nothing counts as near that is not.
+TEST_F(BesideTest, WhatCountsAsNearLiesWithinATenthOfAnHour) {
+    for (double latitude = -90.0; latitude <= 90.0; latitude += 1.5) {
+        Stand(latitude, 31.25, 2.0);
+        for (std::int16_t day = 1; day <= 366; day = static_cast<std::int16_t>(day + 5)) {
+            for (const double zenith : {45.0, 70.0, kHorizon, 102.0, 108.5, 110.0}) {
+                for (const DayHalf half : {DayHalf::kMorning, DayHalf::kEvening}) {
+                    const double event = Beside(day, zenith, half);
+                    for (double apart = -0.5; apart <= 0.5; apart += 0.05) {
+                        const double guess = (IsEvent(event) ? event : Transit(day)) + apart;
+                        const bool isNear = IsNear(day, zenith, half, guess);
+                        ASSERT_TRUE(!isNear || std::fabs(guess - event) < 0.1)
+                            << latitude << " " << day << " " << zenith << " " << apart;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_F(BesideTest, EventOfYesterdayCountsAsNearWhereMostPeopleLive) {
+    for (const double latitude : {-35.0, 0.0, 21.43, 30.05, 40.0}) {
+        Stand(latitude, 31.25, 2.0);
+        for (std::int16_t day = 2; day <= 365; ++day) {
+            for (const double zenith : {kHorizon, 108.0}) {
+                const auto before = static_cast<std::int16_t>(day - 1);
+                EXPECT_TRUE(IsNear(day, zenith, DayHalf::kMorning,
+                                   Beside(before, zenith, DayHalf::kMorning)))
+                    << latitude << " " << day << " " << zenith;
+            }
+        }
+    }
+}
+
+TEST_F(BesideTest, OtherHalfOfTheDayAndAnotherDayAreNotNear) {
+    Stand(30.05, 31.25, 2.0);
+    const double sunset = Beside(80, kHorizon, DayHalf::kEvening);
+    EXPECT_TRUE(IsNear(80, kHorizon, DayHalf::kEvening, sunset));
+    EXPECT_FALSE(IsNear(80, kHorizon, DayHalf::kMorning, sunset));
+    EXPECT_FALSE(IsNear(80, kHorizon, DayHalf::kEvening, sunset - 24.0));
 }
 
 }  // namespace
