@@ -38,7 +38,8 @@ void FaceButton::paintEvent(QPaintEvent*) {
 }
 
 void FaceButton::PaintGround(QPainter& painter) const {
-    painter.setPen(hasFocus() && reachedByKey_ ? QPen(kGold, 2.0) : QPen(Qt::NoPen));
+    const bool isRinged = isDown() || (hasFocus() && reachedByKey_);
+    painter.setPen(isRinged ? QPen(kGold, 2.0) : QPen(Qt::NoPen));
     if (isDown()) {
         painter.setBrush(kPressed);
     } else if (underMouse()) {

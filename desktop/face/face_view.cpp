@@ -15,6 +15,7 @@
 #include "desktop/face/day_arc.h"
 #include "desktop/face/face_button.h"
 #include "desktop/face/face_day.h"
+#include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
@@ -135,12 +136,14 @@ CaptionButton* FaceView::MakeMenu(std::size_t menu) {
 
 // The command returns when the menu is closed; the arrow keys may have left it for its neighbour.
 void FaceView::OpenMenu(std::size_t menu) {
-    const auto stepAfter = [this](const char* command) {
+    const auto stepAfter = [this](const MenuButton& entry) {
         window()->setProperty(kMenuStep, 0);
-        Tell(command);
+        entry.button->setDown(true);
+        Tell(entry.command);
+        entry.button->setDown(false);
         return window()->property(kMenuStep).toInt();
     };
-    while (const int step = stepAfter(menu_[menu].command)) {
+    while (const int step = stepAfter(menu_[menu])) {
         menu = (menu + menu_.size() + static_cast<std::size_t>(step)) % menu_.size();
         menu_[menu].button->setFocus(Qt::TabFocusReason);
     }
@@ -286,19 +289,21 @@ void FaceView::ShowBearing() {
     compass_->ShowBearing(ReadBearing(Value("_root.icompassAngle")));
 }
 
-// Side by side from the left in every language, since the menus open at fixed places.
+// Side by side from where reading begins, as the menus open at fixed places from there.
 void FaceView::ShowMenu() {
+    const bool fromRight = DirectionOf(Value(menu_.front().variable)) == Qt::RightToLeft;
     int natural = 0;
     for (const MenuButton& entry : menu_) {
         entry.button->setText(Value(entry.variable));
         natural += entry.button->NaturalWidth();
     }
-    int left = kMenu.left();
+    int begin = kMenu.left();
     for (const MenuButton& entry : menu_) {
         const int wanted = entry.button->NaturalWidth();
         const int width = natural > kMenu.width() ? wanted * kMenu.width() / natural : wanted;
+        const int left = fromRight ? kFace.width() - begin - width : begin;
         entry.button->setGeometry(left, kMenu.top(), width, kMenu.height());
-        left += width;
+        begin += width;
     }
     TakeKeys();
 }

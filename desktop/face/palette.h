@@ -20,5 +20,6 @@ inline const QColor kPressed(0xe6, 0xc6, 0x78, 0x55);
 // Of its menus, opaque.
 inline const QColor kMenuChosen(0x4c, 0x57, 0x5a);
 inline const QColor kMenuOff(0x93, 0xa3, 0xb8);
+inline const QColor kMenuLine(0x7f, 0x93, 0xad);  // around them and between their groups
 
 }  // namespace horavex

@@ -22,8 +22,7 @@ void SkyGround::ShowSun(double altitude) {
 }
 
 void SkyGround::Paint(QPainter& painter, const QRect& part, double ratio) {
-    const look::Theme theme = look::CurrentTheme();
-    const bool isPlain = theme == look::Theme::kContrast || theme == look::Theme::kLightContrast;
+    const bool isPlain = look::WantsContrast();
     if (std::exchange(isPlain_, isPlain) != isPlain || painted_.isNull() ||
         painted_.devicePixelRatio() != ratio) {
         painted_ = QPixmap(plan_.face.size() * ratio);

@@ -59,19 +59,26 @@ void StripView::ShowDay(const FaceDay& day) {
     }
 }
 
-// Behind the name, in the order of its script, stands the time, which is never cut.
+// All of it runs in the direction of the name. Behind that stands the time, which is never cut.
 void StripView::PlaceTexts() {
+    const bool fromRight = DirectionOf(name_->text()) == Qt::RightToLeft;
+    const auto turned = [fromRight](QRect place) {
+        if (fromRight) {
+            place.moveRight(kStrip.right() - place.left());
+        }
+        return place;
+    };
     const auto widthOf = [](const TextLine& line) {
         const QFontMetricsF metrics(FaceFont(kNextSize));
         return static_cast<int>(std::ceil(metrics.horizontalAdvance(line.text())));
     };
     const int time = std::min(widthOf(*time_), kNext.width());
     const int name = std::clamp(widthOf(*name_), 0, std::max(0, kNext.width() - kGap - time));
-    const bool fromRight = DirectionOf(name_->text()) == Qt::RightToLeft;
-    const int nameAt = fromRight ? kNext.right() + 1 - name : kNext.left();
-    const int timeAt = fromRight ? nameAt - kGap - time : nameAt + name + kGap;
-    name_->setGeometry(nameAt, kNext.top(), name, kNext.height());
-    time_->setGeometry(timeAt, kNext.top(), time, kNext.height());
+    const int timeAt = kNext.left() + name + kGap;
+    name_->setGeometry(turned({kNext.left(), kNext.top(), name, kNext.height()}));
+    time_->setGeometry(turned({timeAt, kNext.top(), time, kNext.height()}));
+    countdown_->setGeometry(turned(kCountdown));
+    whole_->setGeometry(turned(kWhole));
 }
 
 void StripView::NameSign(const QString& whole) {

@@ -6,6 +6,7 @@
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/caption_text.h"
+#include "desktop/look/look_style.h"
 #include "desktop/user_text.h"
 
 namespace horavex {
@@ -26,14 +27,6 @@ QString CaptionOf(const MenuItem& item) {
     const QString caption = WithoutBrokenKey(UserText(item.Caption()));
     const bool saysMore = !item.Aside().empty() && item.Aside() != item.Caption();
     return saysMore ? caption + u'\t' + UserText(item.Aside()) : caption;
-}
-
-/// A caption may begin with a name in other letters.
-bool RunsFromRight(const MenuItem& menu) {
-    const std::vector<MenuItem*> entries = menu.Entries();
-    return std::any_of(entries.begin(), entries.end(), [](const MenuItem* entry) {
-        return UserText(entry->Caption()).isRightToLeft();
-    });
 }
 
 void FillFrom(QMenu& menu, const MenuItem& source, Qt::LayoutDirection direction);
@@ -68,6 +61,13 @@ void FillFrom(QMenu& menu, const MenuItem& source, Qt::LayoutDirection direction
     }
 }
 
+void Dress(QMenu& menu, const MenuLook& look) {
+    menu.setPalette(look.colours);
+    if (look.edge.isValid()) {
+        menu.setProperty(look::kMenuEdge, look.edge);
+    }
+}
+
 /// A menu that may be left sideways by the arrow keys, as one of a bar.
 class SteppedMenu : public QMenu {
 public:
@@ -80,7 +80,7 @@ protected:
             QMenu::keyPressEvent(event);
             return;
         }
-        parentWidget()->setProperty(kMenuStep, step);
+        parentWidget()->setProperty(kMenuStep, isRightToLeft() ? -step : step);
         close();
     }
 
@@ -95,6 +95,14 @@ private:
 };
 
 }  // namespace
+
+// A caption may begin with a name in other letters.
+bool RunsFromRight(const MenuItem& menu) {
+    const std::vector<MenuItem*> entries = menu.Entries();
+    return std::any_of(entries.begin(), entries.end(), [](const MenuItem* entry) {
+        return UserText(entry->Caption()).isRightToLeft();
+    });
+}
 
 void FillMenu(QMenu& menu, const MenuItem& source) {
     FillFrom(menu, source, RunsFromRight(source) ? Qt::RightToLeft : Qt::LeftToRight);
@@ -119,9 +127,12 @@ MenuItem* ItemOf(const QAction* action) {
 void RunMenu(const MenuItem& menu, QWidget* parent, QPoint place, const MenuLook& look) {
     SteppedMenu shown(parent, look.steps);
     FillMenu(shown, menu);
-    shown.setPalette(look.colours);
+    Dress(shown, look);
     for (QMenu* inner : shown.findChildren<QMenu*>()) {
-        inner->setPalette(look.colours);
+        Dress(*inner, look);
+    }
+    if (shown.isRightToLeft()) {
+        place.rx() -= shown.sizeHint().width();
     }
     MenuItem* chosen = ItemOf(shown.exec(place));
     if (chosen != nullptr) {

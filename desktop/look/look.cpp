@@ -41,6 +41,11 @@ Theme CurrentTheme() {
     return ThemeOf(QGuiApplication::palette());
 }
 
+bool WantsContrast() {
+    const Theme theme = CurrentTheme();
+    return theme == Theme::kContrast || theme == Theme::kLightContrast;
+}
+
 void AllowMotion(bool allowed) {
     qApp->setProperty(kStill, !allowed);
 }

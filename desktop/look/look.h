@@ -17,6 +17,9 @@ Theme ThemeNamed(const QString& name);
 /// The theme that the windows have on, their own or the desktop's.
 Theme CurrentTheme();
 
+/// Whether they have one of the two of black and white on.
+bool WantsContrast();
+
 /// Whether anything may move that only pleases the eye.
 void AllowMotion(bool allowed);
 bool MotionIsAllowed();

@@ -7,6 +7,7 @@
 #include <QTabBar>
 #include <QWidget>
 #include <algorithm>
+#include <optional>
 
 #include "desktop/look/icons.h"
 #include "desktop/look/look.h"
@@ -20,7 +21,6 @@ bool HasEdge(QStyle::PrimitiveElement element) {
     switch (element) {
         case QStyle::PE_Frame:
         case QStyle::PE_FrameLineEdit:
-        case QStyle::PE_FrameMenu:
         case QStyle::PE_IndicatorCheckBox:
         case QStyle::PE_IndicatorRadioButton:
         case QStyle::PE_PanelButtonCommand:
@@ -78,6 +78,8 @@ Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
 }
 
 constexpr double kCorner = 2.0;  // radius
+constexpr int kChosenLine = 3;   // along the outer edge of the chosen tab, pixels
+constexpr int kGroupMargin = 3;  // between the frame of a group and its contents, pixels
 constexpr int kTick = 4;         // length of a slider's marks, pixels
 constexpr int kHeadShift = 3;    // of the head of a column, to stand over its cells, pixels
 
@@ -103,13 +105,63 @@ void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, 
     painter.restore();
 }
 
-/// The toolkit makes its edges of darker shades of the ground, which are lost where that is dark.
 /// A desktop's own colours are left to its style.
+bool HasOurColours(const QPalette& palette) {
+    return palette.color(QPalette::Window) == ColourOf(ThemeOf(palette), Role::kGround);
+}
+
+/// The toolkit makes its edges of darker shades of the ground, which are lost where that is dark.
 bool WantsEdges(const QStyleOption& option) {
-    const Theme theme = ThemeOf(option.palette);
-    return (theme != Theme::kLight || IsDefault(option) ||
+    return (ThemeOf(option.palette) != Theme::kLight || IsDefault(option) ||
             option.state.testFlag(QStyle::State_HasFocus)) &&
-           option.palette.color(QPalette::Window) == ColourOf(theme, Role::kGround);
+           HasOurColours(option.palette);
+}
+
+/// Around a menu and between its groups of entries; none where the desktop's own style draws them.
+std::optional<QColor> EdgeOfMenu(const QPalette& palette, const QWidget* menu) {
+    const QVariant own = menu == nullptr ? QVariant() : menu->property(kMenuEdge);
+    if (own.isValid()) {
+        return own.value<QColor>();
+    }
+    return HasOurColours(palette) ? std::optional(ColourOf(ThemeOf(palette), Role::kEdge))
+                                  : std::nullopt;
+}
+
+void DrawMenuFrame(const QRect& menu, const QColor& edge, QPainter& painter) {
+    painter.save();
+    painter.setPen(edge);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(menu.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
+bool IsSeparator(const QStyleOption& option) {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    return entry != nullptr && entry->menuItemType == QStyleOptionMenuItem::Separator;
+}
+
+void DrawSeparator(const QRect& entry, const QColor& edge, QPainter& painter) {
+    painter.fillRect(entry.left() + kSpacing, entry.center().y(), entry.width() - 2 * kSpacing, 1,
+                     edge);
+}
+
+/// The chosen tab has a line that tells it without the keyboard, too.
+void DrawChosenLine(const QStyleOption& tab, QPainter& painter) {
+    painter.fillRect(tab.rect.left(), tab.rect.top(), tab.rect.width(), kChosenLine,
+                     ColourOf(ThemeOf(tab.palette), Role::kMarked));
+}
+
+/// The lower edge of a tab is that of its page.
+void DrawTabEdges(const QStyleOption& tab, QPainter& painter) {
+    painter.save();
+    painter.setClipRect(tab.rect);
+    if (WantsEdges(tab)) {
+        DrawEdge(tab, painter, tab.rect.adjusted(0, 0, 0, 2), kCorner);
+    }
+    if (tab.state.testFlag(QStyle::State_Selected) && HasOurColours(tab.palette)) {
+        DrawChosenLine(tab, painter);
+    }
+    painter.restore();
 }
 
 /// A chosen entry has a plain check mark: the toolkit's box, of the ground of fields, would stand
@@ -231,6 +283,11 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_PanelMenu) {
+        if (const auto edge = EdgeOfMenu(option->palette, widget)) {
+            DrawMenuFrame(option->rect, *edge, *painter);
+        }
+    }
     if (HasEdge(element) && WantsEdges(*option)) {
         const bool isRound = element == PE_IndicatorRadioButton;
         DrawEdge(*option, *painter, option->rect, isRound ? option->rect.width() / 2.0 : kCorner);
@@ -246,18 +303,30 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_GroupBox && WantsEdges(*option)) {
+        const QRect contents = subControlRect(control, option, SC_GroupBoxContents, widget);
+        QRect frame = option->rect;
+        frame.setTop(contents.top() - kGroupMargin);  // below the title
+        DrawEdge(*option, *painter, frame, kCorner);
+    }
     const SubControl part = PartWithEdge(control);
     if (part != SC_None && WantsEdges(*option)) {
         DrawEdge(*option, *painter, subControlRect(control, option, part, widget), kCorner);
     }
 }
 
-// The lower edge of a tab is that of its page. The toolkit would write the entries of a menu that
+// The toolkit would write the entries of a menu that
 // runs from right to left where the application's own language begins, which is the left always.
 void LookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
     if (element == CE_MenuItem) {
         painter->setLayoutDirection(option->direction);
+    }
+    if (element == CE_MenuItem && IsSeparator(*option)) {
+        if (const auto edge = EdgeOfMenu(option->palette, widget)) {
+            DrawSeparator(option->rect, *edge, *painter);
+            return;
+        }
     }
     const auto* head = qstyleoption_cast<const QStyleOptionHeader*>(option);
     if (element == CE_HeaderLabel && head != nullptr) {
@@ -279,12 +348,8 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
     }
     QProxyStyle::drawControl(element, option, painter, widget);
     const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
-    if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth &&
-        WantsEdges(*option)) {
-        painter->save();
-        painter->setClipRect(option->rect);
-        DrawEdge(*option, *painter, option->rect.adjusted(0, 0, 0, 2), kCorner);
-        painter->restore();
+    if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth) {
+        DrawTabEdges(*tab, *painter);
     }
 }
 

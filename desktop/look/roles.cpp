@@ -69,6 +69,9 @@ QPalette PaletteOf(Theme theme) {
     SetOn(palette, of(Role::kMarkedText), {QPalette::HighlightedText});
     SetOn(palette, of(Role::kLink), {QPalette::Link, QPalette::LinkVisited});
     SetOff(palette, of(Role::kOff));
+    if (theme == Theme::kDark) {  // whose raised buttons are too light for the texts of what is off
+        palette.setColor(QPalette::Disabled, QPalette::Button, of(Role::kGround));
+    }
     return palette;
 }
 

@@ -8,7 +8,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "desktop/face/face_menu_colours.h"
+#include "desktop/face/face_menu_look.h"
 #include "desktop/form_window/face_screen.h"
 #include "desktop/form_window/menu.h"
 #include "desktop/form_window/twips.h"
@@ -25,6 +25,16 @@ const MenuItem* FindMenu(const Form& form, const std::string& name) {
         }
     }
     return nullptr;
+}
+
+/// nullptr for a form without a window and for a menu that it does not have.
+const MenuItem* MenuOf(const FormWindow* window, const std::string& name) {
+    return window == nullptr ? nullptr : FindMenu(window->Shown(), name);
+}
+
+/// A hidden window cannot stand behind its menu.
+void RunMenuOver(FormWindow& window, const MenuItem& menu, QPoint place, const MenuLook& look) {
+    RunMenu(menu, window.isVisible() ? &window : nullptr, place, look);
 }
 
 }  // namespace
@@ -46,24 +56,19 @@ void QtWindows::StartDrag(const std::string& form) {
     }
 }
 
+// As far from the edge where reading begins as the place lies from the left.
 void QtWindows::PopUpMenu(const std::string& form, const std::string& menu, int x, int y) {
-    const FormWindow* window = windows_.Find(form);
-    if (window != nullptr) {
-        RunMenuOf(form, menu, window->mapToGlobal(QPoint(x, y)), {FaceMenuColours(), true});
+    FormWindow* window = windows_.Find(form);
+    if (const MenuItem* item = MenuOf(window, menu)) {
+        const QPoint place(RunsFromRight(*item) ? window->width() - x : x, y);
+        RunMenuOver(*window, *item, window->mapToGlobal(place), FaceMenuLook());
     }
 }
 
 void QtWindows::PopUpMenuAtPointer(const std::string& form, const std::string& menu) {
-    RunMenuOf(form, menu, QCursor::pos(), {});
-}
-
-// Only the face has menus at a place of its own. A hidden window cannot stand behind its menu.
-void QtWindows::RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                          const MenuLook& look) {
     FormWindow* window = windows_.Find(form);
-    const MenuItem* item = window == nullptr ? nullptr : FindMenu(window->Shown(), menu);
-    if (item != nullptr) {
-        RunMenu(*item, window->isVisible() ? window : nullptr, place, look);
+    if (const MenuItem* item = MenuOf(window, menu)) {
+        RunMenuOver(*window, *item, QCursor::pos(), {});
     }
 }
 

@@ -7,8 +7,6 @@ class QPrinter;
 
 namespace horavex {
 
-struct MenuLook;
-
 /// Puts a picture of a window onto one page, at most as large as the page is, and light however
 /// dark the window is.
 void PrintWindow(QWidget& window, QPaintDevice& paper);
@@ -29,9 +27,6 @@ public:
     void Print(const std::string& form) override;
 
 private:
-    void RunMenuOf(const std::string& form, const std::string& menu, QPoint place,
-                   const MenuLook& look);
-
     const FormWindows& windows_;
 };
 

@@ -52,6 +52,20 @@ TEST_F(FaceShapesTest, LineHasItsTimeWholeBesideALongName) {
     EXPECT_LT(lines.at(1)->geometry().right(), lines.at(2)->x());
 }
 
+TEST_F(FaceShapesTest, LineRunsFromRightToLeftWithItsNames) {
+    face.TakeShape({.small = true});
+    frmMain->lblZoritNameArabic(kFajr).SetCaption("الفجر");
+    DayView day;
+    day.next = {kFajr, true, {5.25}, 60.0};
+    face.ShowDay(day);
+    const auto lines = Strip()->findChildren<TextLine*>();
+    EXPECT_EQ(lines.at(0)->geometry().right(), 360 - 14 - 1);
+    EXPECT_LT(lines.at(1)->geometry().right(), lines.at(0)->x());
+    EXPECT_LT(lines.at(2)->geometry().right(), lines.at(1)->x());
+    const QAbstractButton& button = *Strip()->findChild<QAbstractButton*>("IDC_FS_small");
+    EXPECT_LT(button.geometry().right(), lines.at(2)->x());
+}
+
 TEST_F(FaceShapesTest, LineNamesThePrayerWhoseTimeLiesBehindMidnight) {
     face.TakeShape({.small = true});
     DayView day;

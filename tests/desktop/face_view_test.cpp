@@ -440,6 +440,29 @@ TEST_F(FaceTest, MenusStandSideBySideAndFitWhateverTheirTexts) {
     EXPECT_LE(Button("IDC_FS_help").geometry().right(), 400);
 }
 
+TEST_F(FaceTest, MenusFromRightToLeftBeginAtTheRight) {
+    face.LoadMovie(0, "");
+    for (const char* name : {"_root.azan", "_root.settings", "_root.tools", "_root.help"}) {
+        face.SetVariable(name, "الأدوات");
+    }
+    const auto of = [this](const char* name) { return Button(name).geometry(); };
+    EXPECT_EQ(of("IDC_FS_azan").right(), 420 - 50 - 1);
+    EXPECT_EQ(of("IDC_FS_settings").right(), of("IDC_FS_azan").left() - 1);
+    EXPECT_LT(of("IDC_FS_help").right(), of("IDC_FS_tools").left());
+}
+
+TEST_F(FaceTest, HeadingIsMarkedWhileItsMenuIsOpen) {
+    QAbstractButton& heading = Button("IDC_FS_tools");
+    const QImage usual = heading.grab().toImage();
+    QImage open;
+    face.onFSCommand = [&](const std::string&, const std::string&) {
+        open = heading.grab().toImage();
+    };
+    heading.click();
+    EXPECT_NE(open, usual);
+    EXPECT_EQ(heading.grab().toImage(), usual);
+}
+
 /// The face on an English desktop, in whose pack's language the toolkit names days and months.
 class FaceInAPackTest : public testing::Test {
 protected:

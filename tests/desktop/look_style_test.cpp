@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -243,6 +244,73 @@ TEST_P(SignsOfTheme, WhatCannotBeUsedHasAnEdgeToo) {
     tabs.addTab(QStringLiteral("one"));
     tabs.resize(tabs.sizeHint());
     EXPECT_GE(EdgeOf(tabs), 3.0);
+}
+
+TEST_P(SignsOfTheme, GroupsHaveFrames) {
+    if (GetParam() == Theme::kLight) {
+        return;
+    }
+    QGroupBox group(QStringLiteral("group"), &window);
+    group.resize(120, 80);
+    EXPECT_GE(EdgeOf(group), 3.0);
+}
+
+TEST_P(SignsOfTheme, ChosenTabHasALineWithoutTheKeyboardToo) {
+    QTabBar tabs(&window);
+    tabs.addTab(QStringLiteral("one"));
+    tabs.addTab(QStringLiteral("two"));
+    tabs.resize(tabs.sizeHint());
+    const QImage picture = tabs.grab().toImage();
+    const auto isMarked = [&](int tab) {
+        const QRect room = tabs.tabRect(tab);
+        for (int y = room.top(); y < room.top() + 6; ++y) {
+            if (picture.pixelColor(room.center().x(), y) == ColourOf(GetParam(), Role::kMarked)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(isMarked(0));
+    EXPECT_FALSE(isMarked(1));
+}
+
+TEST_P(SignsOfTheme, WordsOfAButtonThatCannotBeUsedAreSeen) {
+    QPushButton button(QStringLiteral("MMMM"), &window);
+    button.setEnabled(false);
+    EXPECT_GE(Within(button, QRect(QPoint(), button.sizeHint())), 3.0);
+}
+
+/// A menu of two groups.
+class TwoGroups : public QMenu {
+public:
+    explicit TwoGroups(QWidget* parent) : QMenu(parent) {
+        addAction(QStringLiteral("one"));
+        line_ = addSeparator();
+        addAction(QStringLiteral("two"));
+    }
+
+    void ExpectLines(double least) {
+        adjustSize();
+        const QImage picture = grab().toImage();
+        const QColor ground = picture.pixelColor(width() / 2, actionGeometry(line_).top() - 1);
+        const QPoint line = actionGeometry(line_).center();
+        EXPECT_GE(Contrast(picture.pixelColor(line), ground), least);
+        EXPECT_GE(Contrast(picture.pixelColor(0, height() / 2), ground), least);
+    }
+
+private:
+    QAction* line_;
+};
+
+TEST_P(SignsOfTheme, MenusHaveAFrameAndLinesBetweenTheirGroups) {
+    TwoGroups(&window).ExpectLines(3.0);
+}
+
+TEST_P(SignsOfTheme, LinesOfAMenuInItsOwnColoursAreItsOwn) {
+    TwoGroups menu(&window);
+    menu.setPalette(QPalette(Qt::darkBlue));
+    menu.setProperty(kMenuEdge, QColor(Qt::white));
+    menu.ExpectLines(10.0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Themes, SignsOfTheme,

@@ -6,10 +6,14 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/face/face_menu_look.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/qt_face.h"
 #include "desktop/form_window/form_windows.h"
+#include "desktop/look/contrast.h"
+#include "desktop/look/look.h"
 #include "desktop/ports/qt_windows.h"
+#include "desktop/scoped_look.h"
 #include "support/test_platform.h"
 #include "windows/frm_main.h"
 
@@ -178,6 +182,28 @@ TEST_F(MenuTest, MenuOpensAtItsPlaceInTheWindowAndNothingIsClickedWithoutAChoice
     EXPECT_FALSE(clicked);
 }
 
+TEST_F(MenuTest, MenuFromRightToLeftOpensAsFarFromTheRight) {
+    frmMain->Show();
+    frmMain->mnuAbout.SetCaption("حول");
+    const QWidget& window = *windows.Find(&*frmMain);
+    QPoint place;
+    WhenOpen([&](QMenu& menu) { place = menu.geometry().topRight(); });
+    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
+    EXPECT_EQ(place, window.mapToGlobal(QPoint(window.width() - 200 - 1, 135)));
+}
+
+TEST_F(MenuTest, LeftGoesOnFromAMenuFromRightToLeft) {
+    frmMain->Show();
+    frmMain->mnuAbout.SetCaption("حول");
+    QWidget* window = windows.Find(&*frmMain);
+    WhenOpen([](QMenu& menu) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+        QApplication::sendEvent(&menu, &press);
+    });
+    port.PopUpMenu("frmMain", "mnuHelp", 200, 135);
+    EXPECT_EQ(window->property(kMenuStep).toInt(), 1);
+}
+
 TEST_F(MenuTest, ArrowKeysLeaveAMenuSidewaysButForASubmenu) {
     frmMain->Show();
     frmMain->mnuL.Load(1).SetCaption("Arabic");
@@ -227,6 +253,27 @@ TEST_F(MenuTest, MenusOfTheFaceAreInItsColoursAndTheIconsInTheDesktops) {
     EXPECT_EQ(colours, (std::vector<QColor>{kSkyTop, kSkyTop}));
     WhenOpen([&](QMenu& menu) { EXPECT_NE(colourOf(menu), kSkyTop); });
     port.PopUpMenuAtPointer("frmMain", "mnuPopup");
+}
+
+TEST_F(MenuTest, MenusOfTheFaceAreReadableInEveryTheme) {
+    for (const look::Theme theme : {look::Theme::kLight, look::Theme::kDark, look::Theme::kContrast,
+                                    look::Theme::kLightContrast}) {
+        const ScopedLook look(theme);
+        const MenuLook worn = FaceMenuLook();
+        const QColor ground = worn.colours.color(QPalette::Base);
+        const auto contrastOf = [&](QPalette::ColorGroup group) {
+            return look::Contrast(worn.colours.color(group, QPalette::Text), ground);
+        };
+        EXPECT_GE(contrastOf(QPalette::Active), 4.5);
+        EXPECT_GE(contrastOf(QPalette::Disabled), 3.0);
+        EXPECT_GE(look::Contrast(worn.colours.color(QPalette::HighlightedText),
+                                 worn.colours.color(QPalette::Highlight)),
+                  4.5);
+        EXPECT_EQ(ground == Qt::black, look::WantsContrast());
+        if (worn.edge.isValid()) {
+            EXPECT_GE(look::Contrast(worn.edge, ground), 3.0);
+        }
+    }
 }
 
 TEST_F(MenuTest, TimersGoOnWhileAMenuIsOpen) {

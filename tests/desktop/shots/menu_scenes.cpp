@@ -1,7 +1,8 @@
+#include <QAbstractButton>
+
 #include "desktop/ports/qt_dialogs.h"
 #include "desktop/shots/scenes.h"
 #include "lang/language_pack.h"
-#include "shell/face_bridge.h"
 #include "shell/menus.h"
 #include "windows/frm_main.h"
 
@@ -12,7 +13,10 @@ namespace {
 constexpr int kLanguageEntry = 4;  // of the menu "Settings"
 
 Scene MenuScene(const char* name, const char* command, std::optional<int> entry = {}) {
-    return {name, [=](Stage& stage) { stage.VisitMenu([=] { OnFaceCommand(command); }, entry); }};
+    return {name, [=](Stage& stage) {
+                auto* heading = stage.WindowOf(*frmMain).findChild<QAbstractButton*>(command);
+                stage.VisitMenu([=] { heading->click(); }, entry);
+            }};
 }
 
 void LookAtMenuOfIcon(Stage& stage) {
