@@ -24,6 +24,19 @@ QPolygonF CornersOf(const PolygonStep& polygon) {
     return corners;
 }
 
+/// The share of a text that lies left of its place.
+double ShareBefore(Anchor anchor) {
+    switch (anchor) {
+        case Anchor::kLeft:
+            return 0.0;
+        case Anchor::kMiddle:
+            return 0.5;
+        case Anchor::kRight:
+            break;
+    }
+    return 1.0;
+}
+
 /// Draws one step in a painter that measures in twips.
 class StepPainter {
 public:
@@ -52,7 +65,13 @@ public:
         painter_.save();
         painter_.resetTransform();
         painter_.setPen(inks_(text.colour));
-        painter_.drawText(at + QPointF(0.0, painter_.fontMetrics().ascent()), UserText(text.text));
+        if (text.anchor == Anchor::kRight) {
+            painter_.setLayoutDirection(Qt::RightToLeft);
+        }
+        const QString shown = UserText(text.text);
+        const QFontMetricsF metrics(painter_.font());
+        const double before = ShareBefore(text.anchor) * metrics.horizontalAdvance(shown);
+        painter_.drawText(at + QPointF(-before, painter_.fontMetrics().ascent()), shown);
         painter_.restore();
     }
 

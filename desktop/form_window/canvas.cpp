@@ -56,6 +56,10 @@ QFont Canvas::FontIn(const QRectF& target) const {
 void Canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Inks inks = look::WindowInks(palette());
+    if (property("runsWithReading").toBool() && isRightToLeft()) {
+        painter.translate(width(), 0.0);
+        painter.scale(-1.0, 1.0);
+    }
     if (twips_.isEmpty()) {
         constexpr int kRoomForPens = 3;
         const QMargins room(kRoomForPens, kRoomForPens, kRoomForPens, kRoomForPens);

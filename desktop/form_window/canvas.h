@@ -9,8 +9,9 @@ namespace horavex {
 
 /// The widget of a picture control: its picture file and the drawing over it. Under the name
 /// "qt_form" it is the place in a layout where a form's own drawing is shown, whole, in its own
-/// shape. A layout may have a picture keep its shape, too, by the property "keepsShape". All of it
-/// is in the colours of the window, its texts in the window's font as far as the picture has room.
+/// shape. A layout may have a picture keep its shape, too, by the property "keepsShape", and one
+/// without texts turn round with the direction of reading, by "runsWithReading". All of it is in
+/// the colours of the window, its texts in the window's font as far as the picture has room.
 class Canvas : public QWidget {
 public:
     explicit Canvas(QWidget* parent = nullptr) : QWidget(parent) {}

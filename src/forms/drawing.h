@@ -54,11 +54,18 @@ struct PolygonStep {
     Pen pen = {};
 };
 
-/// at is the upper left corner of the text.
+/// Where the place of a text lies at its upper edge.
+enum class Anchor {
+    kLeft,
+    kMiddle,
+    kRight,  // where one that runs from right to left begins
+};
+
 struct TextStep {
     Point at;
     std::string text;
     Colour colour = kBlack;
+    Anchor anchor = Anchor::kLeft;
 };
 
 /// Texts beside each other, of which none may run into the next: all are drawn in their brief form

@@ -48,6 +48,18 @@ double UsualWidth(const std::string& text) {
     return static_cast<double>(Utf8Length(text)) * kLetter * kTextSize * kTwipsPerPixel;
 }
 
+std::string AnchorOf(const TextStep& text) {
+    switch (text.anchor) {
+        case Anchor::kLeft:
+            return "";
+        case Anchor::kMiddle:
+            return " text-anchor=\"middle\"";
+        case Anchor::kRight:
+            break;
+    }
+    return " direction=\"rtl\"";  // begins there
+}
+
 struct StepWriter {
     std::string operator()(const LineStep& line) const {
         return "<line x1=\"" + Pixels(line.from.x) + "\" y1=\"" + Pixels(line.from.y) + "\" x2=\"" +
@@ -73,7 +85,7 @@ struct StepWriter {
     std::string operator()(const TextStep& text) const {
         return "<text x=\"" + Pixels(text.at.x) + "\" y=\"" +
                Pixels(text.at.y + kTextAscent * kTwipsPerPixel) + "\" fill=\"" + Hex(text.colour) +
-               "\">" + Escaped(text.text) + "</text>\n";
+               "\"" + AnchorOf(text) + ">" + Escaped(text.text) + "</text>\n";
     }
 
     std::string operator()(const TextRowStep& row) const {

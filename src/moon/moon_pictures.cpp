@@ -18,6 +18,7 @@ namespace horavex {
 namespace {
 
 constexpr int kLimbSteps = 32;  // from pole to pole
+constexpr double kRim = 15.0;   // around the lit side, twips
 
 bool PlaceIsSouth() {
     return ActiveLocation.City.Latitude < 0;
@@ -62,8 +63,10 @@ public:
             drawing_.emplace_back(
                 LineStep{{XOf(hour), Bottom()}, {XOf(hour), Bottom() + length}, {ink::kScale}});
             if (hour % 6 == 0) {
-                drawing_.emplace_back(TextStep{
-                    {XOf(hour) - 100.0, Bottom() + 130.0}, std::to_string(hour), ink::kScale});
+                drawing_.emplace_back(TextStep{{XOf(hour), Bottom() + 130.0},
+                                               std::to_string(hour),
+                                               ink::kScale,
+                                               Anchor::kMiddle});
             }
         }
     }
@@ -91,7 +94,7 @@ void AddMoonDisc(Drawing& drawing, Point centre, double radius, double elongatio
     if (phase == 0.0) {
         return;  // not even a line of light
     }
-    drawing.emplace_back(LitSide(centre, radius, phase, waxing != south ? 1.0 : -1.0));
+    drawing.emplace_back(LitSide(centre, radius - kRim, phase, waxing != south ? 1.0 : -1.0));
 }
 
 Drawing PhaseDiscs(double width, const MoonRows& rows, double elongation) {

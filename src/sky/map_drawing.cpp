@@ -49,7 +49,8 @@ PolygonStep Box(const Point& corner, const Point& opposite, Colour colour) {
 
 class Painter {
 public:
-    Painter(const VisibilityMap& map, Criterion criterion) : map_(map), criterion_(criterion) {
+    Painter(const VisibilityMap& map, Criterion criterion, const MapText& text)
+        : map_(map), criterion_(criterion), text_(text) {
         steps.emplace_back(Box({0.0, 0.0}, {kMapWidth, kMapHeight}, kWhite));
         steps.emplace_back(Box({0.0, kMapTop}, {kMapWidth, kMapBottom}, ink::kUnjudged));
     }
@@ -87,12 +88,13 @@ public:
         }
     }
 
-    void AddText(const MapText& text) {
-        steps.emplace_back(TextStep{{kMargin, 0.0}, text.title});
-        steps.emplace_back(TextStep{{kMargin, kLine}, text.newMoon});
+    void AddTexts() {
+        AddText({kMargin, 0.0}, text_.title);
+        AddText({kMargin, kLine}, text_.newMoon);
     }
 
-    void AddLegend(const ClassWords& words) {
+    void AddLegend() {
+        const ClassWords& words = text_.classes;
         for (char letter = 'A'; letter <= LastLetter(criterion_); ++letter) {
             AddKey(ColourOf(criterion_, letter),
                    std::string(1, letter) + "  " + words.Of(criterion_, letter));
@@ -135,17 +137,26 @@ private:
         const int rows = (LastLetter(criterion_) - 'A' + 2 + kLegendColumns) / kLegendColumns;
         const double left = kMargin + keys_ / rows * kMapWidth / kLegendColumns;
         const double top = kLegendTop + keys_ % rows * kLine;
-        steps.emplace_back(PolygonStep{{{left, top},
-                                        {left + kLine, top},
-                                        {left + kLine, top + kLine - kMargin},
-                                        {left, top + kLine - kMargin}},
+        steps.emplace_back(PolygonStep{{{Across(left), top},
+                                        {Across(left + kLine), top},
+                                        {Across(left + kLine), top + kLine - kMargin},
+                                        {Across(left), top + kLine - kMargin}},
                                        colour});
-        steps.emplace_back(TextStep{{left + kLine + kMargin, top}, meaning});
+        AddText({left + kLine + kMargin, top}, meaning);
         ++keys_;
     }
 
+    /// at: as if the words began at the left edge.
+    void AddText(const Point& at, const std::string& text) {
+        const Anchor anchor = text_.rightToLeft ? Anchor::kRight : Anchor::kLeft;
+        steps.emplace_back(TextStep{{Across(at.x), at.y}, text, kBlack, anchor});
+    }
+
+    double Across(double x) const { return text_.rightToLeft ? kMapWidth - x : x; }
+
     const VisibilityMap& map_;
     Criterion criterion_;
+    const MapText& text_;
     int keys_ = 0;
 };
 
@@ -153,7 +164,7 @@ private:
 
 Drawing MapDrawing(const VisibilityMap& map, Criterion criterion, const Observer& place,
                    const MapText& text) {
-    Painter painter(map, criterion);
+    Painter painter(map, criterion, text);
     painter.AddCells();
     painter.AddGrid();
     RunStep([&painter] {
@@ -162,8 +173,8 @@ Drawing MapDrawing(const VisibilityMap& map, Criterion criterion, const Observer
         }
     });
     painter.AddMark(place);
-    painter.AddText(text);
-    painter.AddLegend(text.classes);
+    painter.AddTexts();
+    painter.AddLegend();
     return std::move(painter.steps);
 }
 

@@ -18,6 +18,7 @@ struct MapText {
     std::string title;
     std::string newMoon;
     ClassWords classes;
+    bool rightToLeft = false;  // the words; they begin at the right edge then
 };
 
 /// The map with two lines above it, the classes of a criterion below, and the mark of a place.

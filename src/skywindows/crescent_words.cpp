@@ -3,6 +3,7 @@
 #include "calendar/date_words.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
+#include "lang/pack_direction.h"
 #include "skywindows/sky_words.h"
 
 namespace horavex {
@@ -65,7 +66,7 @@ MapText MapTextOf(const HijriDate& month, const VisibilityMap& map, Criterion cr
     title = FilledText(title, "{year}", std::to_string(month.year));
     title = FilledText(title, "{date}", CalendarDate(map.Day()));
     return {FilledText(title, "{criterion}", CriterionName(criterion)),
-            NewMoonOfTheWorld(map.NewMoon()), PackClassWords()};
+            NewMoonOfTheWorld(map.NewMoon()), PackClassWords(), PackRunsFromRight()};
 }
 
 }  // namespace horavex

@@ -62,8 +62,8 @@ public:
         for (int hour = 0; hour <= 24; hour += 3) {
             const double x = XOf(clock.UniversalOf(midnight + hour / 24.0));
             drawing_.emplace_back(LineStep{{x, Bottom()}, {x, Bottom() + kTick}, {ink::kScale}});
-            drawing_.emplace_back(
-                TextStep{{x - 100.0, Bottom() + kTick}, std::to_string(hour), ink::kScale});
+            drawing_.emplace_back(TextStep{
+                {x, Bottom() + kTick}, std::to_string(hour), ink::kScale, Anchor::kMiddle});
         }
     }
 

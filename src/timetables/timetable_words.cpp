@@ -5,6 +5,7 @@
 #include "engine/moment_text.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
+#include "lang/pack_direction.h"
 #include "lang/pack_number.h"
 
 namespace horavex {
@@ -123,7 +124,7 @@ std::string TimetableWords::TimeIn(const TimetableDay& timesOf, const Moment& mo
 TimetableWords TakeTimetableWords() {
     TimetableWords words;
     words.code = Word("Code", "en");
-    words.rightToLeft = Word("Direction", "ltr") == "rtl";
+    words.rightToLeft = PackRunsFromRight();
     words.title = Word("Title", "Prayer times");
     words.day = Word("Day", "Day");
     words.hijri = Word("Hijri", "Hijri date");

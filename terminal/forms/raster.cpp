@@ -23,6 +23,19 @@ std::optional<double> Crossing(const Point& from, const Point& to, double y) {
     return from.x + (y - from.y) / (to.y - from.y) * (to.x - from.x);
 }
 
+/// How far a text lies left of its place.
+int ColumnsBefore(const TextStep& text) {
+    switch (text.anchor) {
+        case Anchor::kLeft:
+            return 0;
+        case Anchor::kMiddle:
+            return WidthOf(text.text) / 2;
+        case Anchor::kRight:
+            break;
+    }
+    return WidthOf(text.text);
+}
+
 /// The least frame around steps.
 struct Extent {
     Point least{1e9, 1e9};
@@ -84,8 +97,8 @@ public:
     }
     void operator()(const TextStep& text) const {
         const Point place = At(text.at);
-        raster_.texts_.push_back(
-            {static_cast<int>(place.y / 2.0 + 0.5), static_cast<int>(place.x), text.text});
+        raster_.texts_.push_back({static_cast<int>(place.y / 2.0 + 0.5),
+                                  static_cast<int>(place.x) - ColumnsBefore(text), text.text});
     }
     void operator()(const TextRowStep& row) const {
         const auto widthOf = [this](const std::string& text) { return WidthOf(text) / across_; };

@@ -416,6 +416,47 @@ TEST_F(BinderTest, TextsOfAPictureGrowNoFurtherThanItHasRoom) {
     EXPECT_LE(heightOfText(40.0), 16);
 }
 
+/// The columns of a picture, from the left, in which something dark is drawn.
+std::pair<int, int> DarkColumns(const QImage& image) {
+    std::pair<int, int> columns(-1, -1);
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixelColor(x, y).lightness() < 128) {
+                columns = {columns.first < 0 ? x : columns.first, x};
+            }
+        }
+    }
+    return columns;
+}
+
+TEST_F(BinderTest, TextsOfAPictureStandAtTheirPlaceOrAroundItOrInFrontOfIt) {
+    const auto drawn = [](Anchor anchor) {
+        Canvas canvas;
+        canvas.resize(200, 40);
+        canvas.setPalette(QPalette(Qt::white));
+        canvas.Show({3000.0, 600.0}, "", {TextStep{{1500.0, 0.0}, "HHH", ink::kScale, anchor}});
+        return DarkColumns(canvas.grab().toImage());
+    };
+    EXPECT_GE(drawn(Anchor::kLeft).first, 99);
+    EXPECT_LE(drawn(Anchor::kRight).second, 101);
+    EXPECT_NEAR(drawn(Anchor::kMiddle).first + drawn(Anchor::kMiddle).second, 200, 3);
+}
+
+TEST_F(BinderTest, BarRunsWithTheDirectionOfReading) {
+    const auto drawn = [](Qt::LayoutDirection direction) {
+        Canvas canvas;
+        canvas.setProperty("runsWithReading", true);
+        canvas.setLayoutDirection(direction);
+        canvas.resize(100, 20);
+        canvas.setPalette(QPalette(Qt::white));
+        canvas.Show({1500.0, 300.0}, "",
+                    {PolygonStep{{{0, 0}, {300, 0}, {300, 300}, {0, 300}}, ink::kScale}});
+        return DarkColumns(canvas.grab().toImage());
+    };
+    EXPECT_LT(drawn(Qt::LeftToRight).second, 30);
+    EXPECT_GT(drawn(Qt::RightToLeft).first, 70);
+}
+
 TEST_F(BinderTest, PictureIsInTheColoursOfADarkWindow) {
     const ScopedLook look(look::Theme::kDark);
     form.picture.drawing = {

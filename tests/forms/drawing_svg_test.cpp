@@ -36,6 +36,13 @@ TEST(DrawingSvg, TextStandsOnItsBaseAndIsEscaped) {
               Framed("<text x=\"1\" y=\"12\" fill=\"#000000\">a &lt; b &amp; الفجر</text>\n"));
 }
 
+TEST(DrawingSvg, TextIsAnchoredAtItsMiddleOrWhereItBeginsAtTheRight) {
+    EXPECT_EQ(SvgOf(TextStep{{15.0, 0.0}, "12", kBlack, Anchor::kMiddle}),
+              Framed("<text x=\"1\" y=\"11\" fill=\"#000000\" text-anchor=\"middle\">12</text>\n"));
+    EXPECT_EQ(SvgOf(TextStep{{15.0, 0.0}, "فجر", kBlack, Anchor::kRight}),
+              Framed("<text x=\"1\" y=\"11\" fill=\"#000000\" direction=\"rtl\">فجر</text>\n"));
+}
+
 TEST(DrawingSvg, RowOfTextsIsWrittenBrieflyWhereOneIsTooWide) {
     const TextRowStep row{{{{0.0, 0.0}, "May", "M"}, {{750.0, 0.0}, "Septembre", "S"}}, 600.0};
     EXPECT_EQ(SvgOf(row), Framed("<text x=\"0\" y=\"11\" fill=\"#000000\">M</text>\n"

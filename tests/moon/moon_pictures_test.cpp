@@ -11,7 +11,9 @@ namespace horavex {
 namespace {
 
 constexpr Point kCentre{1000.0, 1000.0};
-constexpr double kRadius = 100.0;
+constexpr double kRim = 15.0;
+constexpr double kRadius = 100.0 + kRim;
+constexpr double kLitRadius = 100.0;
 
 PolygonStep LitSideAt(double elongation, bool south = false) {
     Drawing drawing;
@@ -22,7 +24,7 @@ PolygonStep LitSideAt(double elongation, bool south = false) {
     return std::get<PolygonStep>(drawing.back());
 }
 
-/// Shares of the disc's whole area, right and left of its middle.
+/// Shares of the area within the rim, right and left of its middle.
 struct Lit {
     double left;
     double right;
@@ -39,7 +41,7 @@ Lit LitAt(double elongation, bool south = false) {
             const double bx = std::max(0.0, side * (b.x - kCentre.x));
             area += (ax + bx) / 2.0 * (b.y - a.y);
         }
-        return std::abs(area) / (3.14159265358979 * kRadius * kRadius);
+        return std::abs(area) / (3.14159265358979 * kLitRadius * kLitRadius);
     };
     return {areaFrom(-1.0), areaFrom(1.0)};
 }
@@ -49,6 +51,12 @@ TEST(MoonDiscTest, NewMoonIsDark) {
         Drawing drawing;
         AddMoonDisc(drawing, kCentre, kRadius, elongation, false);
         EXPECT_EQ(drawing.size(), 1U);
+    }
+}
+
+TEST(MoonDiscTest, RimIsLeftAroundTheLitSide) {
+    for (const Point& corner : LitSideAt(180.0).corners) {
+        EXPECT_NEAR(std::hypot(corner.x - kCentre.x, corner.y - kCentre.y), kRadius - kRim, 1e-6);
     }
 }
 
@@ -91,7 +99,8 @@ protected:
         const auto [least, most] =
             std::minmax_element(lit.corners.begin(), lit.corners.end(),
                                 [](const Point& a, const Point& b) { return a.x < b.x; });
-        return {(disc.centre.x - least->x) / disc.radius, (most->x - disc.centre.x) / disc.radius};
+        const double radius = disc.radius - kRim;
+        return {(disc.centre.x - least->x) / radius, (most->x - disc.centre.x) / radius};
     }
 
     static std::vector<PolygonStep> BandsOf(const Drawing& drawing) {
@@ -129,11 +138,11 @@ TEST_F(MoonPicturesTest, QuartersOfTheSouthHangTheOtherWayRound) {
         return lit.corners[16].x - form.picFirstQuarter.ScaleWidth() / 2.0;
     };
     ShowMoonPhases();
-    EXPECT_GT(limb(), 100.0);
+    EXPECT_GT(limb(), 90.0);
     form.Unload();
     ActiveLocation.City.Latitude = -3400;
     ShowMoonPhases();
-    EXPECT_LT(limb(), -100.0);
+    EXPECT_LT(limb(), -90.0);
 }
 
 TEST_F(MoonPicturesTest, TonightsMoonIsLitAsItStandsInTheSky) {

@@ -71,6 +71,18 @@ TEST_F(MapDrawingTest, TellsEveryClassOfTheCriterionBelow) {
     EXPECT_THAT(odeh, Not(HasSubstr(">E  ")));
 }
 
+TEST_F(MapDrawingTest, WordsFromRightToLeftBeginAtTheRight) {
+    const auto firstKey = [](const Drawing& drawing) {
+        return StepsOf<PolygonStep>(drawing).back().corners.front().x;
+    };
+    const Drawing usual = Draw(Criterion::kOdeh);
+    const Drawing turned = MapDrawing(map, Criterion::kOdeh, kMecca, {"هلال", "", {}, true});
+    EXPECT_DOUBLE_EQ(firstKey(turned), kMapWidth - firstKey(usual));
+    EXPECT_EQ(StepsOf<TextStep>(turned).at(0).anchor, Anchor::kRight);
+    EXPECT_DOUBLE_EQ(StepsOf<TextStep>(turned).at(0).at.x,
+                     kMapWidth - StepsOf<TextStep>(usual).at(0).at.x);
+}
+
 TEST_F(MapDrawingTest, IsSeaUntilItIsWorkedOut) {
     const std::size_t before = StepsOf<PolygonStep>(Draw(Criterion::kYallop)).size();
     map.ComputeRow();

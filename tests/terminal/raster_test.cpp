@@ -65,6 +65,16 @@ TEST_F(RasterTest, TextsThatWouldRunIntoOneAnotherAreLeftOut) {
     EXPECT_THAT(cells.Texts(), ElementsAre("0° 9"));
 }
 
+TEST_F(RasterTest, TextsStandAroundTheirPlaceOrInFrontOfIt) {
+    Raster raster(1, 10);
+    raster.Draw({TextStep{{300.0, 0.0}, "12", kBlack, Anchor::kMiddle},
+                 TextStep{{1000.0, 0.0}, "end", kBlack, Anchor::kRight}},
+                1000.0, 400.0);
+    Cells cells(1, 10);
+    raster.Put(cells, {0, 0}, false);
+    EXPECT_THAT(cells.Texts(), ElementsAre("  12   end"));
+}
+
 TEST_F(RasterTest, RowOfTextsIsBriefWhereOneIsWiderThanItsRoom) {
     TextRowStep row{{{{0.0, 0.0}, "May", "M"}, {{500.0, 0.0}, "June", "J"}}, 400.0};
     const auto shown = [&row] {
