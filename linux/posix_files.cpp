@@ -38,15 +38,24 @@ public:
         if (offset < 0) {
             ThrowFileFault(path_, EINVAL);
         }
-        // The count may come out of a damaged file: room is made for what is there at most.
-        const std::int64_t rest = std::max<std::int64_t>(Size() - offset, 0);
-        const std::size_t size = std::min(count, static_cast<std::size_t>(rest));
-        Bytes bytes = WithMemoryFaults([&] { return Bytes(size); });
+        Bytes bytes = WithMemoryFaults([&] { return Bytes(RoomFor(offset, count)); });
         bytes.resize(Fill(bytes, offset));
         return bytes;
     }
 
 private:
+    // The count may come out of a damaged file: where it is large, room is made for what is there
+    // at most. Records and names are read by thousands, without a look at the file's length.
+    std::size_t RoomFor(std::int64_t offset, std::size_t count) {
+        constexpr std::size_t kSmall = 4096;                       // bytes
+        constexpr std::int64_t kFarthest = std::int64_t{1} << 40;  // behind which there is nothing
+        if (count <= kSmall && offset <= kFarthest) {
+            return count;
+        }
+        const std::int64_t rest = std::max<std::int64_t>(Size() - offset, 0);
+        return std::min(count, static_cast<std::size_t>(rest));
+    }
+
     // The count of bytes read; fewer than asked for where the file has shrunk meanwhile.
     std::size_t Fill(std::span<std::uint8_t> bytes, std::int64_t offset) const {
         std::size_t filled = 0;
