@@ -96,11 +96,6 @@ class Habits(unittest.TestCase):
         self.write("src/a.cpp", '#include "a.h"\n\nint* Place() {\n    return 0;\n}\n')
         self.expect_fault("modernize-use-nullptr", "tidy", "src/a.cpp")
 
-    def test_analyzer_follows_a_pointer_that_leads_nowhere(self):
-        self.expect_none("analyzer", "src/a.cpp")
-        self.write("src/a.cpp", "int Size() {\n    int* place = nullptr;\n    return *place;\n}\n")
-        self.expect_fault("analyzer-null-dereference", "analyzer", "src/a.cpp")
-
     def test_cppcheck_follows_an_index_behind_the_end(self):
         self.expect_none("cppcheck")
         self.write("src/a.cpp", "int Size() {\n    int sizes[2] = {1, 2};\n    return sizes[2];\n}\n")

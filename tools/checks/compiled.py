@@ -21,14 +21,6 @@ def tidy_of(files):
         return not sources or _run("clang-tidy", "-p", folder, "--quiet", *sources)
 
 
-def analyzer_of(files):
-    sources = {os.path.realpath(path) for path in matching(files or changed_files(), "*.cpp")}
-    entries = [entry for entry in _commands() if entry["file"] in sources]
-    with tempfile.TemporaryDirectory() as folder:
-        return all([_run(*_analyzed(_with_own_prefix(entry, folder)), cwd=entry["directory"])
-                    for entry in entries])
-
-
 def includes_of(files):
     headers = matching(files or changed_files(), "*.h")
     commands = _commands()
@@ -39,14 +31,6 @@ def _commands():
     build = os.environ.get("HORAVEX_BUILD_DIR", os.path.join("build", "release"))
     with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
         return json.load(file)
-
-
-def _analyzed(entry):
-    words = shlex.split(entry["command"])
-    if "-o" in words:
-        words[words.index("-o") + 1] = os.devnull
-    # Code that is built to be fast has too many ways for it.
-    return [*words, "-O1", "-fanalyzer", "-Werror"]
 
 
 def _alone(header, commands):
@@ -74,5 +58,5 @@ def _with_own_prefix(entry, folder):
     return entry | {"command": shlex.join(words[compiler:])}
 
 
-def _run(*words, **options):
-    return subprocess.run(words, check=False, **options).returncode == 0
+def _run(*words):
+    return subprocess.run(words, check=False).returncode == 0
