@@ -1,6 +1,7 @@
 #include "desktop/ports/help_window.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -90,6 +91,18 @@ QVariant PageView::loadResource(int type, const QUrl& name) {
     return picture.isNull() ? NoPicture() : picture;
 }
 
+// Whatever else is installed for a kind of address takes it as a command; pages may come from
+// anybody.
+void PageView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+    const QUrl target = source().resolved(name);
+    if (target.isLocalFile() || target.isEmpty()) {
+        QTextBrowser::doSetSource(name, type);
+    } else if (const QString scheme = target.scheme();
+               scheme == u"http" || scheme == u"https" || scheme == u"mailto") {
+        QDesktopServices::openUrl(target);
+    }
+}
+
 // The links of a page have the colour that they were read with.
 void PageView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
@@ -113,7 +126,6 @@ HelpWindow::HelpWindow() {
     back_.setShortcut(QKeySequence::Back);
     forward_.setShortcut(QKeySequence::Forward);
     contents_.setWordWrap(true);
-    page_.setOpenExternalLinks(true);
     page_.document()->setDocumentMargin(kPageMargin);
 
     auto* buttons = new QHBoxLayout;

@@ -11,12 +11,15 @@
 
 namespace horavex {
 
-/// A page with its pictures. Files alone are shown, and none larger than its kind can be.
+/// A page with its pictures. Files alone are shown, and none larger than its kind can be; an
+/// address of the web or of mail goes to what the desktop has for it, and any other link leads
+/// nowhere.
 class PageView : public QTextBrowser {
 public:
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent* event) override;
 };
 

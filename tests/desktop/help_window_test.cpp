@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -156,6 +157,51 @@ TEST_F(HelpWindowTest, LinksLeadOnAndTheContentsFollow) {
     }
     EXPECT_EQ(ShownText(), "Two");
     EXPECT_EQ(Row(), 1);
+}
+
+/// Takes what would be opened by other programs.
+class OpenedAddresses : public QTextBrowser {
+public:
+    explicit OpenedAddresses(QStringList schemes) : schemes_(std::move(schemes)) {
+        for (const QString& scheme : schemes_) {
+            QDesktopServices::setUrlHandler(scheme, this, "setSource");
+        }
+    }
+    ~OpenedAddresses() override {
+        for (const QString& scheme : schemes_) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
+    }
+
+    std::vector<std::string> addresses;
+
+protected:
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType) override {
+        addresses.push_back(name.toString().toStdString());
+    }
+
+private:
+    QStringList schemes_;
+};
+
+TEST_F(HelpWindowTest, LinkOutOfTheHelpLeadsToTheWebOrToMailAndNowhereElse) {
+    OpenedAddresses opened({"http", "https", "mailto", "smb", "tool"});
+    Write("one.html", "One",
+          "<a href=\"tool:run\">1</a> <a href=\"https://a.example/b\">2</a> "
+          "<a href=\"smb://a/b\">3</a> <a href=\"mailto:a@b.example\">4</a> "
+          "<a href=\"http://a.example/\">5</a> <a href=\"tool://a\">6</a>");
+    Show(0);
+    auto& page = Find<QTextBrowser>("page");
+    page.setFocus();
+    for (int link = 0; link < 6; ++link) {
+        for (const int key : {Qt::Key_Tab, Qt::Key_Return}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QApplication::sendEvent(&page, &press);
+        }
+        EXPECT_EQ(ShownText().substr(0, 3), "One");
+    }
+    EXPECT_THAT(opened.addresses, testing::ElementsAre("https://a.example/b", "mailto:a@b.example",
+                                                       "http://a.example/"));
 }
 
 TEST_F(HelpWindowTest, PictureOfAPageIsShown) {
