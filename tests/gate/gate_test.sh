@@ -67,7 +67,7 @@ refused "check format" "cmake --preset release"
 refused "cmake --preset release" "cmake --build --preset release"
 refused "cmake --build --preset release" "$release"
 refused "cmake --build --preset asan" "$asan"
-refused "$release" "$asan"
+refused "$release"
 refused "$asan"
 for outcome in Skipped Disabled "Not Run"; do
     for preset in release asan; do
