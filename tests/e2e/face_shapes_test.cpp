@@ -1,6 +1,5 @@
 // The face as one line and over the whole screen, by the keyboard alone.
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "e2e/harness/program_fixture.h"
@@ -9,14 +8,19 @@
 namespace horavex {
 namespace {
 
-using testing::HasSubstr;
-using testing::Not;
-
 class FaceShapesProgramTest : public ProgramFixture {
 protected:
     void WaitForHeight(const std::string& window, int height) const {
         EXPECT_TRUE(WaitUntil("a height of " + std::to_string(height),
                               [&] { return desktop.PlaceOf(window).height == height; }));
+    }
+
+    // A shape is stored behind its first picture.
+    void WaitForStored(const std::string& value) const {
+        WaitUntil(value, [&] { return StoredValues().find(value) != std::string::npos; });
+    }
+    void WaitForNoneStored(const std::string& value) const {
+        WaitUntil("no " + value, [&] { return StoredValues().find(value) == std::string::npos; });
     }
 
     /// Opens the menu "Settings" and chooses the entry of a key.
@@ -35,12 +39,12 @@ TEST_F(FaceShapesProgramTest, FaceBecomesALineAndComesBack) {
     const std::string face = desktop.WaitForWindow(program, kFaceTitle);
     ChooseSetting(program, face, "m");
     WaitForHeight(face, 44);
-    EXPECT_THAT(StoredValues(), HasSubstr("Face Small=1"));
+    WaitForStored("Face Small=1");
     desktop.SaveScreen("face-small");
     LetSecondsPass(2);
     desktop.PressKey("Return");
     WaitForHeight(face, 500);
-    EXPECT_THAT(StoredValues(), Not(HasSubstr("Face Small")));
+    WaitForNoneStored("Face Small");
 }
 
 TEST_F(FaceShapesProgramTest, F11FillsTheScreenAndEscapeLeavesIt) {
@@ -53,13 +57,11 @@ TEST_F(FaceShapesProgramTest, F11FillsTheScreenAndEscapeLeavesIt) {
     EXPECT_EQ(desktop.PlaceOf(poster).width, 1280);
     LetSecondsPass(2);
     desktop.SaveScreen("face-full-screen");
-    EXPECT_THAT(StoredValues(), HasSubstr("Face Full Screen=1"));
+    WaitForStored("Face Full Screen=1");
     desktop.PressKey("Escape");
     EXPECT_TRUE(WaitUntil("the face alone", [&] { return !desktop.IsOnView(program, poster); }));
     EXPECT_TRUE(desktop.IsOnView(program, face));
-    EXPECT_TRUE(WaitUntil("nothing stored", [&] {
-        return StoredValues().find("Face Full Screen") == std::string::npos;
-    }));
+    WaitForNoneStored("Face Full Screen");
 }
 
 TEST_F(FaceShapesProgramTest, ArrowKeysGoFromMenuToMenu) {

@@ -24,7 +24,7 @@ constexpr std::chrono::seconds kSettling{5};
 constexpr const char* kDawn = "2026-11-21 05:45:00";  // the sky changes with each minute
 
 Seconds Watched() {
-    constexpr double kByDefault = 20.0;
+    constexpr double kByDefault = 10.0;
     const char* wanted = std::getenv("HORAVEX_IDLE_SECONDS");
     return Seconds(wanted == nullptr ? kByDefault : std::atof(wanted));
 }

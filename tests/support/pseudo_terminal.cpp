@@ -25,7 +25,7 @@ std::string PseudoTerminal::ReadToEnd() {
 }
 
 bool PseudoTerminal::ReadMore() {
-    constexpr int kPatience = 30000;  // milliseconds
+    constexpr int kPatience = 90000;  // milliseconds
     const TerminalProcess::Came came = process_.ReadInto(unread_, kPatience);
     if (came == TerminalProcess::Came::kNothing) {
         throw std::runtime_error("the program prints nothing new after: " + unread_);

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <regex>
 
 #include "e2e/harness/faked_clock.h"
@@ -52,6 +53,12 @@ protected:
 
     /// Whoever has settings gets no wizard.
     void StoreSettings() const { StoreUsersRegistryValue(home / "config", "Isha Dep Angle", "18"); }
+
+    /// In which the program runs beside the one of the session before.
+    void BeginAnotherSession() {
+        variables["XDG_RUNTIME_DIR"] += "-next";
+        fs::create_directories(variables["XDG_RUNTIME_DIR"]);
+    }
 
     static void OpenSettingsMenu(VirtualTerminal& terminal) {
         terminal.Type(key::kF10);
@@ -175,8 +182,12 @@ TEST_F(TerminalProgramTest, EndGivesTheTerminalBack) {
 
 TEST_F(TerminalProgramTest, SignalsEndItInOrder) {
     StoreSettings();
+    std::map<int, VirtualTerminal> terminals;  // all at once, as a start takes its seconds
     for (const int signal : {SIGTERM, SIGINT, SIGQUIT, SIGHUP}) {
-        VirtualTerminal terminal({}, variables);
+        BeginAnotherSession();
+        terminals.try_emplace(signal, std::vector<std::string>{}, variables);
+    }
+    for (auto& [signal, terminal] : terminals) {
         terminal.WaitFor("Next Athan: Asr");
         terminal.Signal(signal);
         EXPECT_EQ(terminal.Wait(), 0) << signal;
@@ -246,16 +257,15 @@ TEST_F(TerminalProgramTest, ControlAndLDrawTheWholeScreenAnew) {
 
 TEST_F(TerminalProgramTest, NoColourIsWrittenWhereNoneIsWanted) {
     StoreSettings();
-    const std::string colour = "\x1b\\[[0-9;]*[34][0-8][;m]";
-    {
-        VirtualTerminal terminal({}, variables);
-        terminal.WaitFor("Next Athan: Asr");
-        EXPECT_TRUE(std::regex_search(terminal.Written(), std::regex(colour)));
-    }
+    const std::regex colour("\x1b\\[[0-9;]*[34][0-8][;m]");
+    VirtualTerminal coloured({}, variables);
+    BeginAnotherSession();
     variables["NO_COLOR"] = "1";
-    VirtualTerminal terminal({}, variables);
-    terminal.WaitFor("Next Athan: Asr");
-    EXPECT_FALSE(std::regex_search(terminal.Written(), std::regex(colour)));
+    VirtualTerminal plain({}, variables);
+    coloured.WaitFor("Next Athan: Asr");
+    plain.WaitFor("Next Athan: Asr");
+    EXPECT_TRUE(std::regex_search(coloured.Written(), colour));
+    EXPECT_FALSE(std::regex_search(plain.Written(), colour));
 }
 
 TEST_F(TerminalProgramTest, AnotherSizeIsTaken) {

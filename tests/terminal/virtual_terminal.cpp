@@ -9,7 +9,7 @@ namespace horavex {
 
 namespace {
 
-constexpr std::chrono::seconds kPatience{30};
+constexpr std::chrono::seconds kPatience{90};
 
 winsize SizeOf(int rows, int columns) {
     winsize size{};

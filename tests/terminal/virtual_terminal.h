@@ -19,8 +19,8 @@ public:
     VirtualTerminal(const VirtualTerminal&) = delete;
     VirtualTerminal& operator=(const VirtualTerminal&) = delete;
 
-    /// Waits until the screen is as it is to be, and returns its text. Throws after half a minute,
-    /// and where the program ends before.
+    /// Waits until the screen is as it is to be, and returns its text. Throws after a minute and
+    /// a half, and where the program ends before.
     std::string WaitUntil(const std::function<bool(const std::string&)>& isSo,
                           const std::string& what);
     std::string WaitFor(const std::string& text);

@@ -7,11 +7,11 @@
 
 namespace horavex {
 
-inline constexpr std::chrono::seconds kPatience{30};
+inline constexpr std::chrono::seconds kPatience{90};
 inline constexpr std::chrono::milliseconds kLookEvery{20};
 
 /// Looks until the test answers something that counts as true, and returns the answer. Throws
-/// after half a minute.
+/// after a minute and a half, which no machine is too busy for.
 template <class Test>
 auto WaitUntil(const std::string& what, Test test) {
     const auto end = std::chrono::steady_clock::now() + kPatience;
