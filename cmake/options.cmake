@@ -9,6 +9,9 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 option(HORAVEX_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 option(HORAVEX_COVERAGE "Instrument for line coverage" OFF)
 option(HORAVEX_FUZZ "Instrument for libFuzzer, which takes clang" OFF)
+# What their headers take to compile is most of the work in some targets. Sources in one must not
+# define the same name, not even one of their own.
+option(HORAVEX_UNITY "Compile the sources of some targets eight at a time" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)

@@ -4,7 +4,7 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kHead =
+constexpr const char* kBashHead =
     R"(# Completion of horavexctl for bash, as "horavexctl completion bash" prints it.
 _horavexctl() {
     local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command= word
@@ -18,7 +18,7 @@ _horavexctl() {
     done
 )";
 
-constexpr const char* kFoot = "}\ncomplete -F _horavexctl horavexctl\n";
+constexpr const char* kBashFoot = "}\ncomplete -F _horavexctl horavexctl\n";
 
 std::string Offer(const std::vector<std::string>& words) {
     return "COMPREPLY=($(compgen -W '" + Joined(words, " ") + "' -- \"$current\"))";
@@ -78,9 +78,9 @@ std::string BashCompletion(const std::vector<CommandText>& commands) {
         words += "        " + command.name + ") words='" + Joined(WordsOf(command), " ") + "'; " +
                  WordOffer(command) + ";;\n";
     }
-    return std::string(kHead) + "    case $command:$previous in\n" + values +
+    return std::string(kBashHead) + "    case $command:$previous in\n" + values +
            "    esac\n    local words=\n    case $command in\n" + words + "    esac\n" +
-           "    COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n" + kFoot;
+           "    COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n" + kBashFoot;
 }
 
 }  // namespace horavex

@@ -14,8 +14,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kSecondsPerHour = 3600.0;
-
 Json ZoneJson(Date now) {
     const ZoneOffset offset = WorkingOffset(now, now);
     const std::string& name = ChosenOptions.zone;

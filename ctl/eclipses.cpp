@@ -127,7 +127,7 @@ std::string DayText(Date universal) {
     return IsoDate(CivilFromDate(WorkingMinuteOf(universal)));
 }
 
-Json YearJson(const EclipseYear& year) {
+Json EclipsesJson(const EclipseYear& year) {
     Json eclipses = Json::array();
     for (const ListedEclipse& listed : year.eclipses) {
         eclipses.push_back(EclipseJson(listed));
@@ -238,7 +238,7 @@ void PrintLocalEclipses(Session& session, const PlaceOptions& place, int year) {
     RequireAlmanacYear("--year", year);
     ApplyPlace(place, DateSerial(year, 1, 1));
     const EclipseYear found = YearOf(Ports().almanac, year);
-    session.Print(YearJson(found), YearText(found));
+    session.Print(EclipsesJson(found), YearText(found));
 }
 
 }  // namespace horavex

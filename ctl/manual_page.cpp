@@ -4,7 +4,7 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kHead = R"(.SH NAME
+constexpr const char* kFirstSections = R"(.SH NAME
 horavexctl \- prayer times, qibla and calendars at the command line
 .SH SYNOPSIS
 .B horavexctl
@@ -23,7 +23,7 @@ given by hand replaces just that.
 .SH COMMANDS
 )";
 
-constexpr const char* kFoot = R"(.SH EXIT STATUS
+constexpr const char* kLastSections = R"(.SH EXIT STATUS
 .TP
 .B 0
 All went well.
@@ -95,11 +95,11 @@ std::string SectionOf(const CommandText& command) {
 
 std::string ManualPage(const std::vector<CommandText>& commands) {
     std::string page = ".TH HORAVEXCTL 1 \"\" \"Horavex " + std::string(HORAVEX_VERSION) + "\"\n";
-    page += kHead;
+    page += kFirstSections;
     for (const CommandText& command : commands) {
         page += SectionOf(command);
     }
-    return page + kFoot;
+    return page + kLastSections;
 }
 
 }  // namespace horavex

@@ -18,7 +18,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kSecondsPerHour = 3600.0;
 constexpr double kHoursPerDay = 24.0;
 
 }  // namespace

@@ -12,6 +12,8 @@ namespace horavex {
 
 struct PlaceOptions;
 
+inline constexpr double kSecondsPerHour = 3600.0;
+
 // The working place and its clock, as ApplyPlace has left them, for what counts in Universal Time.
 
 ZoneClock WorkingClock();

@@ -51,7 +51,7 @@ std::string DayLine(std::size_t row, std::span<const Moment> moments, std::size_
 }
 
 /// Day by day, each by prayer.
-std::vector<Moment> YearMoments() {
+std::vector<Moment> AllMoments() {
     std::vector<Moment> all;
     for (const DayMoments& moments : MomentsOfAllRows()) {
         all.insert(all.end(), moments.begin(), moments.end());
@@ -60,7 +60,7 @@ std::vector<Moment> YearMoments() {
 }
 
 std::string TimesText() {
-    const std::vector<Moment> all = YearMoments();
+    const std::vector<Moment> all = AllMoments();
     const auto notes = ColumnNotes(all, RuledYear.rules.moments.highLatitude);
     const std::size_t width = notes.empty() ? kWidth : kMarkedWidth;
     std::string text = HeadLine(width);

@@ -20,8 +20,6 @@ namespace horavex {
 
 namespace {
 
-constexpr double kSecondsPerHour = 3600.0;
-
 using YearMoments = std::vector<DayMoments>;
 
 /// By row; none of a year that gave up.

@@ -4,14 +4,14 @@ namespace horavex {
 
 namespace {
 
-constexpr const char* kHead = R"(#compdef horavexctl
+constexpr const char* kZshHead = R"(#compdef horavexctl
 # Completion of horavexctl for zsh, as "horavexctl completion zsh" prints it.
 _horavexctl() {
     local curcontext=$curcontext state line
     local -a commands=(
 )";
 
-constexpr const char* kMiddle = R"(    )
+constexpr const char* kZshMiddle = R"(    )
     _arguments -C '(-h --help)'{-h,--help}'[Print help]' '--version[Print the version]' \
         '1:command:->command' '*::word:->words'
     case $state in
@@ -21,7 +21,7 @@ constexpr const char* kMiddle = R"(    )
 )";
 
 // The file is a function that the shell loads by its name at the first use, or is sourced.
-constexpr const char* kFoot = R"(            esac ;;
+constexpr const char* kZshFoot = R"(            esac ;;
     esac
 }
 if [[ $funcstack[1] == _horavexctl ]]; then
@@ -47,7 +47,7 @@ bool TakesValue(const OptionText& option) {
     return !option.value.empty();
 }
 
-std::string ValueOf(const OptionText& option) {
+std::string ZshValueOf(const OptionText& option) {
     if (!TakesValue(option)) {
         return "";
     }
@@ -59,12 +59,12 @@ std::string ValueOf(const OptionText& option) {
 
 std::string ArgumentOf(const OptionText& option) {
     if (option.isPositional) {
-        return " '1" + ValueOf(option) + "'";
+        return " '1" + ZshValueOf(option) + "'";
     }
     std::string all;
     for (const std::string& name : option.names) {
         all += " '" + name + (TakesValue(option) && name.starts_with("--") ? "=[" : "[") +
-               Plain(option.description, "[]:") + "]" + ValueOf(option) + "'";
+               Plain(option.description, "[]:") + "]" + ZshValueOf(option) + "'";
     }
     return all;
 }
@@ -82,7 +82,7 @@ std::string ZshCompletion(const std::vector<CommandText>& commands) {
         }
         words += " ;;\n";
     }
-    return kHead + names + kMiddle + words + kFoot;
+    return kZshHead + names + kZshMiddle + words + kZshFoot;
 }
 
 }  // namespace horavex

@@ -10,7 +10,7 @@ namespace {
 constexpr const char* kMeccaAtNoon = "today --json --at 2026-11-21T12:00:00 --city-index 5183";
 
 /// Calls that between them read every file.
-constexpr const char* kCalls[] = {
+constexpr const char* kCallsOfAllFiles[] = {
     "today --json --at 2026-11-21T12:00:00",
     kMeccaAtNoon,
     "text --entry 77 --language 6",
@@ -41,7 +41,7 @@ void ExpectOrderlyEnd(const Ctl& ctl, const char* call) {
 }
 
 void ExpectOrderlyEnds(const Ctl& ctl) {
-    for (const char* call : kCalls) {
+    for (const char* call : kCallsOfAllFiles) {
         ExpectOrderlyEnd(ctl, call);
     }
 }

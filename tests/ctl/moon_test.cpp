@@ -6,7 +6,7 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-constexpr const char* kCairo = " --latitude 30:3N --longitude 31:15E --zone 2";
+constexpr const char* kInCairo = " --latitude 30:3N --longitude 31:15E --zone 2";
 
 TEST(CtlMoon, ObjectHasTheAgreedKeysAndRows) {
     const Json moon = JsonOf(Ctl(), "moon --year 2001 --zone 0");
@@ -66,12 +66,12 @@ TEST(CtlEclipses, TextForPeopleHasBothLists) {
 }
 
 TEST(CtlMoonrise, GivesBothTexts) {
-    const Json moon = JsonOf(Ctl(), std::string("moonrise --date 2026-11-21") + kCairo);
+    const Json moon = JsonOf(Ctl(), std::string("moonrise --date 2026-11-21") + kInCairo);
     EXPECT_EQ(moon, Json({{"rise", "Moon Rise at:14:30:10.98"}, {"set", "Moon Set at:2:52:0"}}));
 }
 
 TEST(CtlMoonrise, DaylightSavingAddsAnHour) {
-    const Json moon = JsonOf(Ctl(), std::string("moonrise --date 2026-11-21 --dst") + kCairo);
+    const Json moon = JsonOf(Ctl(), std::string("moonrise --date 2026-11-21 --dst") + kInCairo);
     EXPECT_EQ(moon["rise"], "Moon Rise at:15:30:10.98");
     EXPECT_EQ(moon["set"], "Moon Set at:3:52:0");
 }

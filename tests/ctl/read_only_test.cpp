@@ -32,7 +32,7 @@ std::map<std::string, Entry> TreeOf(const std::string& folder) {
 }
 
 /// Every subcommand, some of them failing.
-constexpr const char* kCalls[] = {
+constexpr const char* kCallsOfAllKinds[] = {
     "year --latitude 30.05 --longitude 31.25 --zone 2 --fajr 19.5 --isha 17.5 --asr 1 --year 2001",
     "year --latitude 51.5 --longitude 0 --zone 0 --fajr 18 --isha 17 --asr 1 --year 2001",
     "today",
@@ -58,7 +58,7 @@ constexpr const char* kCalls[] = {
 };
 
 void RunAll(const Ctl& ctl) {
-    for (const char* call : kCalls) {
+    for (const char* call : kCallsOfAllKinds) {
         EXPECT_LE(ctl.Run(call).status, 2) << call;
     }
 }

@@ -7,10 +7,10 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr const char* kNoon = "today --at 2026-11-21T12:00:00";
+constexpr const char* kTodayAtNoon = "today --at 2026-11-21T12:00:00";
 
 Json City(const std::string& name) {
-    return JsonOf(Ctl(), std::string(kNoon) + " --city", {name});
+    return JsonOf(Ctl(), std::string(kTodayAtNoon) + " --city", {name});
 }
 
 /// Hours of a day that a calendar for the place would tell too, to a few minutes.
@@ -23,7 +23,7 @@ void ExpectHours(const Json& day, const PrayerRow& hours) {
 }
 
 TEST(CtlToday, ObjectHasTheAgreedKeysAndTypes) {
-    const Json day = JsonOf(Ctl(), kNoon);
+    const Json day = JsonOf(Ctl(), kTodayAtNoon);
     EXPECT_THAT(KeysOf(day), testing::IsSupersetOf(
                                  {"city", "date", "hijri", "hours", "times", "next", "qibla"}));
     EXPECT_THAT(KeysOf(day["hijri"]), ElementsAre("day", "month", "monthName", "year"));
@@ -48,7 +48,7 @@ TEST(CtlToday, LoadsNothingOfTheToolkitThatDocumentsAreSetWith) {
 }
 
 TEST(CtlToday, FreshInstallStandsInMecca) {
-    const Json day = JsonOf(Ctl(), kNoon);
+    const Json day = JsonOf(Ctl(), kTodayAtNoon);
     EXPECT_EQ(day["city"], "Mecca, Mecca - Saudi Arabia");
     EXPECT_EQ(day["date"], "2026-11-21");
     EXPECT_TRUE(day["failure"].is_null());
@@ -56,12 +56,12 @@ TEST(CtlToday, FreshInstallStandsInMecca) {
 }
 
 TEST(CtlToday, HijriDateIsTheArithmeticOne) {
-    EXPECT_EQ(JsonOf(Ctl(), kNoon)["hijri"],
+    EXPECT_EQ(JsonOf(Ctl(), kTodayAtNoon)["hijri"],
               Json({{"day", 10}, {"month", 6}, {"monthName", "Jamad Thani"}, {"year", 1448}}));
 }
 
 TEST(CtlToday, TimesAreTheHoursWithoutTheirSeconds) {
-    const Json day = JsonOf(Ctl(), kNoon);
+    const Json day = JsonOf(Ctl(), kTodayAtNoon);
     const char* names[] = {"Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"};
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         const ClockTime clock = ClockTimeOf(day["hours"][prayer].get<double>() / 24.0);
@@ -103,18 +103,19 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CtlToday, MethodOptionsComeOnTopOfACity) {
     const Json plain = City("Cairo");
-    const Json hanafi = JsonOf(Ctl(), std::string(kNoon) + " --city Cairo --asr 2 --zone 3");
+    const Json hanafi = JsonOf(Ctl(), std::string(kTodayAtNoon) + " --city Cairo --asr 2 --zone 3");
     EXPECT_NEAR(hanafi["hours"][2].get<double>() - plain["hours"][2].get<double>(), 1.0, 1e-12);
     EXPECT_GT(hanafi["hours"][3].get<double>() - plain["hours"][3].get<double>(), 1.5);
 }
 
 TEST(CtlToday, CityIndexNamesMecca) {
-    const Json day = JsonOf(Ctl(), std::string(kNoon) + " --city-index 5183");
+    const Json day = JsonOf(Ctl(), std::string(kTodayAtNoon) + " --city-index 5183");
     EXPECT_EQ(day["city"], "Mecca, Mecca - Saudi Arabia");
 }
 
 TEST(CtlToday, CoordinatesAreToldInWordsRoundedToTheHundredth) {
-    const Json day = JsonOf(Ctl(), std::string(kNoon) + " --latitude 30.0549 --longitude 31.2451");
+    const Json day =
+        JsonOf(Ctl(), std::string(kTodayAtNoon) + " --latitude 30.0549 --longitude 31.2451");
     EXPECT_EQ(day["city"],
               "Latitude: 30 degrees, 3 minutes North, Longitude: 31 degrees, 15 minutes East");
     EXPECT_NEAR(day["qibla"]["degrees"].get<double>(), 136.2, 0.05);
@@ -122,9 +123,10 @@ TEST(CtlToday, CoordinatesAreToldInWordsRoundedToTheHundredth) {
 
 TEST(CtlToday, PlaceWhoseYearCannotBeCalculatedSaysSo) {
     const Json day =
-        JsonOf(Ctl(), std::string(kNoon) + " --city Tromso --high-latitude none", {}, 1);
+        JsonOf(Ctl(), std::string(kTodayAtNoon) + " --city Tromso --high-latitude none", {}, 1);
     EXPECT_EQ(day["failure"]["message"], "A");
-    const ProgramRun run = Ctl().Run(std::string(kNoon) + " --city Tromso --high-latitude none");
+    const ProgramRun run =
+        Ctl().Run(std::string(kTodayAtNoon) + " --city Tromso --high-latitude none");
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
     EXPECT_THAT(run.err, testing::HasSubstr("cannot be calculated with the present settings"));
@@ -140,7 +142,7 @@ TEST(CtlToday, WithoutAMomentTheClockOfThePlaceCounts) {
 }
 
 TEST(CtlToday, TextForPeopleMarksTheNextPrayer) {
-    const ProgramRun run = Ctl().Run(std::string(kNoon) + " --city Cairo");
+    const ProgramRun run = Ctl().Run(std::string(kTodayAtNoon) + " --city Cairo");
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out,
               "Cairo, Cairo - Egypt\n"

@@ -188,7 +188,7 @@ constexpr BadCall kDays[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Days, BadUsage, testing::ValuesIn(kDays));
 
-constexpr BadCall kPlaces[] = {
+constexpr BadCall kBadPlaces[] = {
     {"distance --from 30:3:0N --to mecca --unit km", "30:3:0N"},
     {"distance --from 30:3:0,31:15:0E --to mecca --unit km", "no coordinate"},
     {"distance --from 30:3:0E,31:15:0E --to mecca --unit km", "no coordinate"},
@@ -210,7 +210,7 @@ constexpr BadCall kPlaces[] = {
     {"eclipses --year 2026 --zone -", "--zone"},
     {"moon --year 0 --zone 0", "--year"},
 };
-INSTANTIATE_TEST_SUITE_P(Places, BadUsage, testing::ValuesIn(kPlaces));
+INSTANTIATE_TEST_SUITE_P(Places, BadUsage, testing::ValuesIn(kBadPlaces));
 
 constexpr BadCall kTogether[] = {
     {"today --city Cairo --latitude 1 --longitude 1", "--city"},
