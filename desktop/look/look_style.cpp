@@ -310,7 +310,9 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         DrawEdge(*option, *painter, frame, kCorner);
     }
     const SubControl part = PartWithEdge(control);
-    if (part != SC_None && WantsEdges(*option)) {
+    const bool hasEdge =
+        WantsEdges(*option) || (control == CC_ScrollBar && HasOurColours(option->palette));
+    if (part != SC_None && hasEdge) {
         DrawEdge(*option, *painter, subControlRect(control, option, part, widget), kCorner);
     }
 }

@@ -1,5 +1,6 @@
 #include "calendar/hijri_converter.h"
 
+#include "base/unbroken.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -10,15 +11,6 @@ namespace {
 constexpr const char* kMonths[] = {"Muharram",   "Safar",       "Rabi'Awal", "Rabi'Thani",
                                    "Jamad Awal", "Jamad Thani", "Rajab",     "Sha'ban",
                                    "Ramadan",    "Shawwal",     "Zul Qaada", "Zul Hijja"};
-constexpr const char* kNoBreakSpace = "\xC2\xA0";
-
-/// Readers of the line find the month and the year by counting words from both ends.
-std::string AsOneWord(std::string text) {
-    for (std::size_t at = text.find(' '); at != std::string::npos; at = text.find(' ', at)) {
-        text.replace(at, 1, kNoBreakSpace);
-    }
-    return text;
-}
 
 }  // namespace
 
@@ -30,12 +22,13 @@ Date HijriConverter::ToGregorian(const HijriDate& hijri) const {
     return DateOf(ummAlQura_, hijri) - adjustment_;
 }
 
+// Readers of the line find the month and the year by counting words from both ends.
 std::string HijriConverter::CalculateHijri(std::int16_t year, int month, int day) const {
     const Date date = DateSerial(year, month, day);
     const HijriDate hijri = ToHijri(date);
-    return AsOneWord(Ports().formats.WeekdayName(date)) + " " + std::to_string(hijri.day) + " " +
+    return Unbroken(Ports().formats.WeekdayName(date)) + " " + std::to_string(hijri.day) + " " +
            HijriMonthOrDefault(hijri.month) + " " + std::to_string(hijri.year) + " " +
-           AsOneWord(GetLangString("other", "AH", "AH"));
+           Unbroken(GetLangString("other", "AH", "AH"));
 }
 
 std::string HijriConverter::CalculateGregorian(std::int16_t year, int month, int day) const {

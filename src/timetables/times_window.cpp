@@ -2,6 +2,7 @@
 
 #include "base/fault.h"
 #include "base/script.h"
+#include "base/unbroken.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/moment_text.h"
@@ -62,7 +63,7 @@ void MarkNext(Date date) {
     }
 }
 
-/// The times around the day in a line that wraps, where an option asks for them.
+/// The times around the day in a line that wraps between them, where an option asks for them.
 void ShowAround(double day) {
     const bool shown = ReadOption(option::kAroundTheDay) == 1;
     const AroundMoments moments = shown ? AroundOfRow(RowOfDay(day)) : AroundMoments();
@@ -71,7 +72,8 @@ void ShowAround(double day) {
     for (std::size_t time = 0; shown && time < kAroundCount; ++time) {
         const Moment& moment = moments.at(time);
         const std::string name = AroundName(time);
-        line += (line.empty() ? "" : "   ") + name + colon + KeptTogether(MomentText(moment), name);
+        line += (line.empty() ? "" : "   ") +
+                Unbroken(name + colon + KeptTogether(MomentText(moment), name));
     }
     frmTimes->lblTimesAround.SetCaption(line);
     frmTimes->lblTimesAround.SetVisible(shown);

@@ -14,11 +14,14 @@
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyleOption>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <ranges>
 
 #include "desktop/look/contrast.h"
 #include "desktop/look/measures.h"
@@ -253,6 +256,19 @@ TEST_P(SignsOfTheme, GroupsHaveFrames) {
     QGroupBox group(QStringLiteral("group"), &window);
     group.resize(120, 80);
     EXPECT_GE(EdgeOf(group), 3.0);
+}
+
+TEST_P(SignsOfTheme, HandleOfAScrollBarHasAnEdgeAllAround) {
+    QScrollBar bar(Qt::Horizontal, &window);
+    bar.resize(120, 16);
+    const QImage picture = bar.grab().toImage();
+    const auto hasEdge = [&](int y) {
+        return std::ranges::any_of(std::views::iota(0, picture.width()), [&](int x) {
+            return picture.pixelColor(x, y) == ColourOf(GetParam(), Role::kEdge);
+        });
+    };
+    EXPECT_TRUE(hasEdge(0));
+    EXPECT_TRUE(hasEdge(picture.height() - 1));
 }
 
 TEST_P(SignsOfTheme, ChosenTabHasALineWithoutTheKeyboardToo) {
