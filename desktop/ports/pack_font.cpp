@@ -24,6 +24,11 @@ QString LettersOfPack() {
     return letters;
 }
 
+/// Where there is no font the toolkit draws boxes, by one that must not be asked for its name.
+bool IsOfAFile(const QRawFont& font) {
+    return !font.fontTable("head").isEmpty();
+}
+
 bool ComeFromOneFont(const QString& letters, const QFont& font) {
     QTextLayout layout(letters, font);
     layout.beginLayout();
@@ -31,7 +36,9 @@ bool ComeFromOneFont(const QString& letters, const QFont& font) {
     layout.endLayout();
     QSet<QString> families;
     for (const QGlyphRun& run : layout.glyphRuns()) {
-        families.insert(run.rawFont().familyName());
+        if (const QRawFont used = run.rawFont(); IsOfAFile(used)) {
+            families.insert(used.familyName());
+        }
     }
     return families.size() <= 1;
 }

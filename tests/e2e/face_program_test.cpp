@@ -4,6 +4,8 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
+#include <thread>
 
 #include "e2e/harness/program_fixture.h"
 #include "e2e/harness/wait_until.h"
@@ -36,6 +38,17 @@ TEST_F(FaceProgramTest, FaceChangesWithEverySecond) {
     desktop.WaitForWindow(program, kFaceTitle);
     LetSecondsPass(3);
     EXPECT_TRUE(program.IsRunning());
+}
+
+TEST_F(FaceProgramTest, FaceOfADesktopWithoutAnyFontComesUpAndStays) {
+    programVariables["FONTCONFIG_FILE"] = desktop / "no_fonts.conf";
+    std::ofstream(desktop / "no_fonts.conf") << "<fontconfig></fontconfig>\n";
+    ChildProcess program = StartProgram();
+    desktop.WaitForWindow(program, kFaceTitle);
+    std::this_thread::sleep_for(std::chrono::seconds(2));  // two ticks, which nothing shows
+    EXPECT_TRUE(program.IsRunning());
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
 }
 
 TEST_F(FaceProgramTest, FaceIsMinimised) {
