@@ -17,11 +17,11 @@
 
 namespace horavex {
 
-/// Runs the event loop until something is so, within a limit.
+/// Runs the event loop until something is so, within a limit that no machine is too busy for.
 inline bool Until(const std::function<bool()>& isSo) {
     QElapsedTimer watch;
     watch.start();
-    while (!isSo() && watch.elapsed() < 10000) {
+    while (!isSo() && watch.elapsed() < 90000) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     }
     return isSo();

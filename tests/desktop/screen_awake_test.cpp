@@ -62,6 +62,7 @@ TEST_F(ScreenAwakeTest, WithoutTheServiceNothingIsLeftBehind) {
     service.GiveUpName();
     bus.Settle();
     { const ScreenAwake awake("x", own); }
+    bus.Settle();  // the bus has answered before there is a service again
     service.TakeName();
     bus.Settle();
     EXPECT_EQ(service.calls, QStringList());
