@@ -176,6 +176,18 @@ constexpr auto kSmallAscii = [] {
     return letters;
 }();
 
+/// How many characters of ASCII a text begins with.
+std::size_t AsciiBeginning(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, IsAscii) - text.begin());
+}
+
+void AppendSmall(std::string& folded, std::string_view ascii) {
+    const std::size_t before = folded.size();
+    folded += ascii;
+    std::ranges::transform(ascii, folded.begin() + static_cast<std::ptrdiff_t>(before),
+                           SmallLetter);
+}
+
 }  // namespace
 
 std::string_view TakeFolded(std::string_view& text) {
@@ -196,7 +208,12 @@ std::string FoldForSearch(std::string_view text) {
     std::string folded;
     folded.reserve(text.size());
     while (!text.empty()) {
-        folded += TakeFolded(text);
+        if (const std::size_t ascii = AsciiBeginning(text); ascii > 0) {
+            AppendSmall(folded, text.substr(0, ascii));
+            text.remove_prefix(ascii);
+        } else {
+            folded += TakeFolded(text);
+        }
     }
     return folded;
 }

@@ -17,6 +17,8 @@ namespace horavex {
 
 namespace {
 
+constexpr std::int64_t kMostCities = 65536;  // that indexes can number
+
 /// The ranks file is an aid of searching alone: without it, equal matches keep their order.
 Bytes ReadRanks() {
     try {
@@ -149,6 +151,7 @@ CityList ListCities() {
     const LoadedCities files;
     const std::int64_t held = files.cities.Count();
     const auto otherNames = OtherNamesOrNone(held, list.Texts());
+    list.Reserve(static_cast<std::size_t>(std::min(held, kMostCities)));
     ListMaker maker(list);
     const std::int64_t count = CountryCount();
     for (std::int64_t number = 1; number <= count; ++number) {

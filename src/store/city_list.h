@@ -40,6 +40,9 @@ public:
     /// Throws std::out_of_range.
     const ListedCity& at(std::size_t place) const { return cities_.at(place); }
 
+    /// Makes room for so many.
+    void Reserve(std::size_t count) { cities_.reserve(count); }
+
     /// The city's texts live as long as the list, as those that Texts keeps.
     void Add(const ListedCity& city) { cities_.push_back(city); }
 

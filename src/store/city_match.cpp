@@ -94,10 +94,6 @@ Wanted WantedOf(const std::string& text) {
     return {FoldForSearch(trimmed), isName ? name : std::string()};
 }
 
-bool IsWordCharacter(char c) {
-    return (c >= 'a' && c <= 'z') || IsDigit(c) || static_cast<unsigned char>(c) >= 0x80;
-}
-
 std::optional<CityMatch> MatchOf(const ListedCity& city, const Wanted& wanted) {
     const Match own = MatchOwnName(city.folded, wanted.own);
     const bool mayMatch = own != kWholeName && !wanted.other.empty();
@@ -121,10 +117,6 @@ std::string_view OtherNameOf(const ListedCity& city, std::uint32_t name) {
     return TakeName(names);
 }
 
-std::uint16_t OrderOf(std::uint16_t rank) {
-    return static_cast<std::uint16_t>(rank - 1);
-}
-
 bool IsWellKnown(const ListedCity& city) {
     constexpr std::uint16_t kWellKnownCities = 5000;  // about those of 100,000 inhabitants
     return OrderOf(city.rank) < kWellKnownCities;
@@ -132,7 +124,10 @@ bool IsWellKnown(const ListedCity& city) {
 
 std::string_view TakeFoldedOfName(std::string_view& name) {
     const std::string_view folded = TakeFolded(name);
-    return folded == "'" ? "" : folded == "-" ? " " : folded;
+    if (folded.size() != 1) {
+        return folded;
+    }
+    return folded[0] == '\'' ? "" : folded[0] == '-' ? " " : folded;
 }
 
 std::string_view TakeName(std::string_view& names) {

@@ -32,7 +32,10 @@ struct Wanted {
 Wanted WantedOf(const std::string& text);
 
 /// True for a character that letters and digits are, and all beyond ASCII.
-bool IsWordCharacter(char c);
+inline bool IsWordCharacter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
 
 /// The own name as what matched, and not one of the other ones, which are numbered from 0.
 inline constexpr std::uint32_t kOwnName = 0xFFFFFFFF;
@@ -49,7 +52,9 @@ std::optional<CityMatch> MatchOf(const ListedCity& city, const Wanted& wanted);
 std::string_view OtherNameOf(const ListedCity& city, std::uint32_t name);
 
 /// The order of a rank by population: cities without one come last.
-std::uint16_t OrderOf(std::uint16_t rank);
+inline std::uint16_t OrderOf(std::uint16_t rank) {
+    return static_cast<std::uint16_t>(rank - 1);
+}
 
 /// True for one of the largest cities, whose whole other names count as their own.
 bool IsWellKnown(const ListedCity& city);

@@ -27,7 +27,9 @@ std::int64_t LoadedTexts::Count() const {
 }
 
 ByteView LoadedTexts::Record(std::int64_t number) const {
-    RefuseBadRecord(indexPath_, number);
+    if (number < 1) {
+        RefuseBadRecord(indexPath_, number);
+    }
     const std::size_t zeros = index_.size() - recordLength_;
     const std::size_t offset = static_cast<std::size_t>(number - 1) * recordLength_;
     return ByteView(index_).subspan(std::min(offset, zeros), recordLength_);

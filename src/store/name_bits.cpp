@@ -61,14 +61,21 @@ class Beginning {
 public:
     explicit Beginning(std::string_view name) {
         while (!name.empty() && size_ < text_.size()) {
-            const std::string_view folded = TakeFoldedOfName(name);
-            size_ += folded.copy(text_.data() + size_, text_.size() - size_);
+            for (const char byte : TakeFoldedOfName(name)) {
+                Add(byte);
+            }
         }
     }
 
     std::string_view Text() const { return {text_.data(), size_}; }
 
 private:
+    void Add(char byte) {
+        if (size_ < text_.size()) {
+            text_[size_++] = byte;
+        }
+    }
+
     std::array<char, 4> text_;
     std::size_t size_ = 0;
 };
