@@ -29,6 +29,7 @@ constexpr int kContentsWidth = 220;
 constexpr int kPageWidth = 520;
 constexpr int kPageMargin = 14;
 constexpr int kSearchWidth = 240;
+constexpr int kBetweenTopics = 2;
 
 /// A modal window takes the viewer along, for nothing else would let users into it.
 QWindow* OwnerWindow(const QString& form) {
@@ -126,6 +127,7 @@ HelpWindow::HelpWindow() {
     back_.setShortcut(QKeySequence::Back);
     forward_.setShortcut(QKeySequence::Forward);
     contents_.setWordWrap(true);
+    contents_.setSpacing(kBetweenTopics);  // tells the second line of one from the next
     page_.document()->setDocumentMargin(kPageMargin);
 
     auto* buttons = new QHBoxLayout;

@@ -68,11 +68,12 @@ void ShowAround(double day) {
     const bool shown = ReadOption(option::kAroundTheDay) == 1;
     const AroundMoments moments = shown ? AroundOfRow(RowOfDay(day)) : AroundMoments();
     const std::string colon = GetLangString("timetables", "Colon", ": ");
+    const std::string between = "\u00a0\u00a0 ";  // one blank at the end of a line, which shows
     std::string line;
     for (std::size_t time = 0; shown && time < kAroundCount; ++time) {
         const Moment& moment = moments.at(time);
         const std::string name = AroundName(time);
-        line += (line.empty() ? "" : "   ") +
+        line += (line.empty() ? "" : between) +
                 Unbroken(name + colon + KeptTogether(MomentText(moment), name));
     }
     frmTimes->lblTimesAround.SetCaption(line);

@@ -134,6 +134,13 @@ TEST_F(HelpWindowTest, OpensAtThePageAndMarksIt) {
     EXPECT_EQ(Find<QListWidget>("contents").item(0)->text(), "One");
 }
 
+TEST_F(HelpWindowTest, TopicsKeepApart) {
+    Show(0);
+    const auto& contents = Find<QListWidget>("contents");
+    const QRect first = contents.visualItemRect(contents.item(0));
+    EXPECT_GE(contents.visualItemRect(contents.item(1)).top() - first.bottom() - 1, 4);
+}
+
 TEST_F(HelpWindowTest, TurnsToAnotherPageWhileItIsOpen) {
     Show(0);
     Show(1);
