@@ -12,7 +12,9 @@ TEST(QtEventLoop, PumpDeliversWhatIsPendingAndReturns) {
     QtEventLoop loop;
     int delivered = 0;
     QTimer::singleShot(0, [&] { ++delivered; });
-    QTimer::singleShot(60000, [&] { ++delivered; });
+    QTimer later;  // ends with the test
+    QObject::connect(&later, &QTimer::timeout, [&] { ++delivered; });
+    later.start(60000);
     loop.Pump();
     EXPECT_EQ(delivered, 1);
 }
@@ -26,13 +28,12 @@ TEST(QtEventLoop, PumpsInQuickSuccessionDeliverOnceInAWhile) {
     QElapsedTimer elapsed;
     elapsed.start();
     int pumps = 0;
-    while (elapsed.elapsed() < 50) {
+    while (elapsed.elapsed() < 50 || delivered < 2) {
         loop.Pump();
         ++pumps;
     }
-    EXPECT_GT(pumps, 1000);
-    EXPECT_GE(delivered, 2);
-    EXPECT_LE(delivered, 11);
+    EXPECT_GT(pumps, 10 * delivered);
+    EXPECT_LE(delivered, elapsed.elapsed() / 5 + 1);
 }
 
 TEST(QtEventLoop, RestReturnsWithTheNextEvent) {
