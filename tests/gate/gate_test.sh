@@ -69,6 +69,22 @@ refused "cmake --build --preset release" "$release"
 refused "cmake --build --preset asan" "$asan"
 refused "$release"
 refused "$asan"
+
+# What fails in the crowd has to pass alone, and there may be few of it.
+for preset in release asan; do
+    failed=build/$preset/Testing/Temporary/LastTestsFailed.log
+    mkdir -p "$(dirname "$failed")"
+    printf '%s\n' 1 2 3 4 5 >"$failed"
+    echo "ctest --preset $preset --parallel" >fail
+    gate
+    [ "$status" -eq 0 ] || fault "gave a test of $preset no second try"
+    grep -qxF "test: 5 failed among the others" output || fault "keeps the first try to itself"
+    refused "ctest --preset $preset --parallel
+ctest --preset $preset --rerun-failed"
+    echo 6 >>"$failed"
+    refused "ctest --preset $preset --parallel" "ctest --preset $preset --rerun-failed"
+    rm "$failed"
+done
 for outcome in Skipped Disabled "Not Run"; do
     for preset in release asan; do
         echo "  7 - room.Suite.Test ($outcome)" >"printed by ctest --preset $preset --parallel"
