@@ -28,8 +28,16 @@ std::optional<Date> MoonsetAround(const Almanac& almanac, const Observer& observ
                   : LastMoonset(almanac, observer, {sunset - 1.0, sunset});
 }
 
-Date BestTime(Date sunset, const std::optional<Date>& moonset) {
-    return sunset + kBestPart * std::max(moonset.value_or(sunset) - sunset, 0.0);
+/// When there is nothing more to look for: with the moonset, or with the sunrise where the night is
+/// over before. A moon that stays up over a night without an end has no such time.
+std::optional<Date> EndOfLook(const Almanac& almanac, const Observer& observer, Date sunset,
+                              const std::optional<Date>& moonset) {
+    const auto sunrise = FirstSunrise(almanac, observer, {sunset, moonset.value_or(sunset + 1.0)});
+    return sunrise ? sunrise : moonset;
+}
+
+Date BestTime(Date sunset, const std::optional<Date>& end) {
+    return sunset + kBestPart * std::max(end.value_or(sunset) - sunset, 0.0);
 }
 
 /// Fills in how the moon stands at the best time, and the verdicts.
@@ -62,7 +70,7 @@ CrescentEvening CrescentAt(const Almanac& almanac, const Observer& observer, Dat
     evening.sunset = sunset;
     evening.moonUp = IsMoonUp(almanac, observer, sunset);
     evening.moonset = MoonsetAround(almanac, observer, sunset, evening.moonUp);
-    evening.best = BestTime(sunset, evening.moonset);
+    evening.best = BestTime(sunset, EndOfLook(almanac, observer, sunset, evening.moonset));
     evening.age = (evening.best - newMoon) * kHours;
     Judge(evening, almanac, observer);
     return evening;

@@ -21,8 +21,8 @@ struct CrescentArcs {
 enum class EveningKind { kJudged, kBeforeNewMoon, kMoonSetsFirst, kNoSunset };
 
 /// The moon on an evening. All but the times of setting is at the best time to look for it, 4/9 of
-/// the way from sunset to moonset (Yallop), or at sunset where the moon has set by then or does not
-/// set within a day.
+/// the way from sunset to moonset (Yallop), or to the sunrise where the moon is up longer than the
+/// night is; at sunset where the moon has set by then, or neither comes within a day.
 struct CrescentEvening {
     Date sunset;                  // Universal Time, as the others
     bool moonUp;                  // any of it, at sunset

@@ -77,6 +77,11 @@ std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer
     return FirstSet(almanac, observer, span, SunOver);
 }
 
+std::optional<Date> FirstSunrise(const Almanac& almanac, const Observer& observer,
+                                 const SkySpan& span) {
+    return FirstCrossing(UpperLimbOf(almanac, observer, SunOver), span.from, span.end, kStep, true);
+}
+
 std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
                                  const SkySpan& span) {
     return FirstSet(almanac, observer, span, MoonOver);

@@ -30,9 +30,11 @@ inline constexpr double kAstronomicalTwilight = 18.0;
 // The arcs are searched in steps of ten minutes: in the far north and south a body that shows for
 // less is passed over. The first of each kind counts.
 
-/// The first set of the sun or moon in a span; nothing where it does not set.
+/// The first set or rise of the sun or moon in a span; nothing where it has none.
 std::optional<Date> FirstSunset(const Almanac& almanac, const Observer& observer,
                                 const SkySpan& span);
+std::optional<Date> FirstSunrise(const Almanac& almanac, const Observer& observer,
+                                 const SkySpan& span);
 std::optional<Date> FirstMoonset(const Almanac& almanac, const Observer& observer,
                                  const SkySpan& span);
 

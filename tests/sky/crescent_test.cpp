@@ -4,6 +4,7 @@
 
 #include "linux/erfa_almanac.h"
 #include "sky/phases.h"
+#include "sky/rise_set.h"
 
 namespace horavex {
 namespace {
@@ -25,6 +26,10 @@ std::optional<CrescentEvening> EveningOf(const Observer& observer, int year, int
     const ErfaAlmanac almanac;
     const Date noon = DateSerial(year, month, day) + 0.5 - observer.longitude / 360.0;
     return CrescentAfter(almanac, observer, noon, NewMoonNear(almanac, noon));
+}
+
+Date SunriseAfter(const Observer& observer, Date sunset) {
+    return FirstSunrise(ErfaAlmanac(), observer, {sunset, sunset + 1.0}).value();
 }
 
 // Figures of PyEphem 4.1.4 for the same evening.
@@ -78,9 +83,24 @@ TEST(CrescentEvening, OfAMoonThatStaysUpAllNightIsJudged) {
     const CrescentEvening evening = EveningOf(kReykjavik, 2025, 6, 25).value();
     EXPECT_TRUE(evening.moonUp);
     EXPECT_FALSE(evening.moonset);
-    EXPECT_EQ(evening.best, evening.sunset);
+    const Date night = SunriseAfter(kReykjavik, evening.sunset) - evening.sunset;
+    EXPECT_NEAR(evening.best - evening.sunset, night * 4 / 9, 1e-9);
     EXPECT_EQ(KindOf(evening, DateSerial(2025, 6, 25) + TimeSerial(10, 32, 0)),
               EveningKind::kJudged);
+}
+
+// South of 60 degrees the December night is shorter than the moon's way behind the sun, and what is
+// looked for in broad day is not seen: the shorter the night, the lower stands the moon over the
+// sun at its best.
+TEST(CrescentEvening, EndsWithTheNight) {
+    double before = 90.0;
+    for (double latitude = -58.0; latitude >= -65.0; latitude -= 0.5) {
+        const Observer here{latitude, -100.0};
+        const CrescentEvening evening = EveningOf(here, 2026, 12, 9).value();
+        EXPECT_LT(evening.best, SunriseAfter(here, evening.sunset)) << latitude;
+        EXPECT_LT(evening.geocentric.vision, before) << latitude;
+        before = evening.geocentric.vision;
+    }
 }
 
 TEST(KindOf, TellsEveningsThatAreNotJudged) {
