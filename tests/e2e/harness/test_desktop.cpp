@@ -85,11 +85,15 @@ std::string TestDesktop::Use(const std::vector<std::string>& words) const {
 }
 
 std::vector<std::string> TestDesktop::WindowsOf(const ChildProcess& program) const {
-    // No match is no failure here.
-    return LinesOf(RunCommand({"xdotool", "search", "--onlyvisible", "--all", "--pid",
-                               std::to_string(program.Id()), "--name", ".*"},
-                              variables)
-                       .out);
+    const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible",
+                                             "--all",   "--pid",  std::to_string(program.Id()),
+                                             "--name",  ".*"};
+    // No match is no failure here. A window that goes while it is looked at ends the search with a
+    // complaint, and without the windows behind it.
+    return *WaitUntil("a search to its end", [&]() -> std::optional<std::vector<std::string>> {
+        const ProgramRun run = RunCommand(search, variables);
+        return run.err.empty() ? std::optional(LinesOf(run.out)) : std::nullopt;
+    });
 }
 
 // An icon in a panel is a window with the program's title, too.
