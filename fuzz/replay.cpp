@@ -114,6 +114,9 @@ int Replay(const FuzzTarget& target, const fs::path& folder, int changed) {
     for (int i = 0; i < changed; ++i) {
         Run(target, changes.Next());
     }
+    // What is told from here on is of no input.
+    std::signal(SIGABRT, SIG_DFL);
+    std::signal(SIGSEGV, SIG_DFL);
     std::cout << inputs.size() << " inputs, " << changed << " changed ones\n";
     return 0;
 }
