@@ -2,20 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "linux/signed_file.h"
+
 namespace horavex {
 namespace {
 
-// Made by minisign 0.11 with keys that sign nothing else.
-constexpr const char* kKey = "RWSYJL7wwg5J/an3Pe51YCc2rKnnTXXSdhOcRnU2N3ZOvSx8amcIoLdv";
 constexpr const char* kOtherKey = "RWQ4gHKMfa5P96yA0ma3EDk6/jO7X2m2JQG/ogVGX2/zF0pt1wfM1RBO";
-const std::string kFile = "4.2.0\n";
-const std::string kSignature =
-    "untrusted comment: signature from minisign secret key\n"
-    "RUSYJL7wwg5J/bats13fzDoyMf/"
-    "u+Wjz7KamipUH9m86LYDEhx+6JaPXV+vqGKoR97LC0d7aOVVqtA6Tb2xYJEqzSPd7+gNc"
-    "IAg=\n"
-    "trusted comment: a comment that is signed\n"
-    "DddYm+P2RYdn697OJoFi9UUx3dvknW56r7DDhANB711HhWuvewS6/8/9ONYc2A+eapVi8rEVMLAPASDJZqdzCg==\n";
+const std::string kFile = kSignedFile;
 const std::string kSignatureWithoutAHash =
     "untrusted comment: signature from minisign secret key\n"
     "RWSYJL7wwg5J/WBicHaJoYIkZvEIvkGXcdl3dBdRzhfejqKdba6bg1wIkFcIsWIor9dPsapTA+LE676lDkwSG/"

@@ -1,5 +1,6 @@
 #include "linux/signed_get.h"
 
+#include "linux/signed_file.h"
 #include "support/loopback_server.h"
 #include "support/scoped_variable.h"
 
@@ -7,15 +8,6 @@ namespace horavex {
 namespace {
 
 using testing::ElementsAre;
-
-constexpr const char* kKey = "RWSYJL7wwg5J/an3Pe51YCc2rKnnTXXSdhOcRnU2N3ZOvSx8amcIoLdv";
-constexpr const char* kSignature =
-    "untrusted comment: signature from minisign secret key\n"
-    "RUSYJL7wwg5J/bats13fzDoyMf/"
-    "u+Wjz7KamipUH9m86LYDEhx+6JaPXV+vqGKoR97LC0d7aOVVqtA6Tb2xYJEqzSPd7+gNc"
-    "IAg=\n"
-    "trusted comment: a comment that is signed\n"
-    "DddYm+P2RYdn697OJoFi9UUx3dvknW56r7DDhANB711HhWuvewS6/8/9ONYc2A+eapVi8rEVMLAPASDJZqdzCg==\n";
 
 class SignedGetTest : public testing::Test {
 protected:
@@ -34,15 +26,15 @@ protected:
 };
 
 TEST_F(SignedGetTest, SignatureBesideTheFileCounts) {
-    server.Serve("/a.txt", "4.2.0\n");
+    server.Serve("/a.txt", kSignedFile);
     server.Serve("/a.txt.minisig", kSignature);
-    Expect("4.2.0\n", true);
+    Expect(kSignedFile, true);
     EXPECT_THAT(server.Requests(), ElementsAre("/a.txt", "/a.txt.minisig"));
 }
 
 TEST_F(SignedGetTest, FileWithoutASignatureComesUnsigned) {
-    server.Serve("/a.txt", "4.2.0\n");
-    Expect("4.2.0\n", false);
+    server.Serve("/a.txt", kSignedFile);
+    Expect(kSignedFile, false);
 }
 
 TEST_F(SignedGetTest, SignatureOfAnotherFileIsNone) {
@@ -58,17 +50,17 @@ TEST_F(SignedGetTest, NothingHasNoSignature) {
 }
 
 TEST_F(SignedGetTest, SignatureThatNeverComesIsWaitedForWithinTheTimeOfBoth) {
-    server.Serve("/a.txt", "4.2.0\n");
+    server.Serve("/a.txt", kSignedFile);
     server.Keep("/a.txt.minisig");
     const SignedBody got = Get(300);
-    EXPECT_EQ(StringOf(got.bytes), "4.2.0\n");
+    EXPECT_EQ(StringOf(got.bytes), kSignedFile);
     EXPECT_FALSE(got.isSigned);
 }
 
 TEST_F(SignedGetTest, EndlessSignatureIsNone) {
-    server.Serve("/a.txt", "4.2.0\n");
+    server.Serve("/a.txt", kSignedFile);
     server.ServeForever("/a.txt.minisig");
-    Expect("4.2.0\n", false);
+    Expect(kSignedFile, false);
 }
 
 }  // namespace
