@@ -11,6 +11,7 @@
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 
+#include "desktop/language_and_size.h"
 #include "desktop/shots/scenes.h"
 #include "support/shipped_languages.h"
 
@@ -152,10 +153,7 @@ TEST_P(CutTextsTest, EveryTextIsShownWhole) {
 INSTANTIATE_TEST_SUITE_P(LanguagesAndTextSizes, CutTextsTest,
                          testing::Combine(testing::ValuesIn(kLookedAtLanguages),
                                           testing::Values(1.0, 2.0)),
-                         [](const auto& test) {
-                             return std::get<0>(test.param) +
-                                    (std::get<1>(test.param) > 1.0 ? "Large" : "");
-                         });
+                         LanguageAndSize);
 
 }  // namespace
 }  // namespace horavex

@@ -5,6 +5,7 @@
 #include <ranges>
 
 #include "desktop/form_window/canvas.h"
+#include "desktop/language_and_size.h"
 #include "desktop/shots/scenes.h"
 #include "support/shipped_languages.h"
 #include "windows/frm_month.h"
@@ -62,10 +63,7 @@ TEST_P(YearMonthsTest, NoNameRunsIntoTheNext) {
 INSTANTIATE_TEST_SUITE_P(LanguagesAndTextSizes, YearMonthsTest,
                          testing::Combine(testing::ValuesIn(kShippedLanguages),
                                           testing::Values(1.0, 2.0)),
-                         [](const auto& test) {
-                             return std::get<0>(test.param) +
-                                    (std::get<1>(test.param) > 1.0 ? "Large" : "");
-                         });
+                         LanguageAndSize);
 
 }  // namespace
 }  // namespace horavex
