@@ -4,13 +4,12 @@
 #include <vector>
 
 #include "base/bytes.h"
-#include "base/fault.h"
 
 namespace horavex {
 
 /// A reader of the program that is given bytes which nobody has looked at. What it refuses it
-/// refuses by a Fault, and what it takes must hold together: what leaves it otherwise, a promise
-/// that is broken and memory that it should not touch end the process.
+/// refuses by a Fault (RunStep passes it over), and what it takes must hold together: what leaves
+/// it otherwise, a promise that is broken and memory that it should not touch end the process.
 struct FuzzTarget {
     std::string_view name;  // of its folder in corpus/
     void (*run)(ByteView input);
@@ -23,15 +22,5 @@ const FuzzTarget& FindFuzzTarget(std::string_view name);
 
 /// Ends the process, naming the promise, where it is not kept.
 void Require(bool isKept, std::string_view promise);
-
-/// Runs a step that may refuse its input.
-template <class Step>
-void MayRefuse(Step step) {
-    try {
-        WithMemoryFaults(step);
-    } catch (const Fault&) {
-        // A refusal is a good answer.
-    }
-}
 
 }  // namespace horavex

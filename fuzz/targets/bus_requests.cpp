@@ -1,26 +1,17 @@
+#include "base/fault.h"
 #include "fuzz/input.h"
 #include "fuzz/target.h"
 #include "fuzz/targets/targets.h"
 #include "shell/public_state.h"
 #include "shell/tick.h"
 #include "shell/wiring.h"
-#include "support/program_copy.h"
+#include "support/built_files.h"
 #include "support/test_platform.h"
 #include "windows/frm_main.h"
 
 namespace horavex {
 
 namespace {
-
-/// The compiled data, read once.
-const MemoryFiles& BuiltFolder() {
-    static const MemoryFiles files = [] {
-        MemoryFiles built;
-        CopyBuiltProgramFolder(built);
-        return built;
-    }();
-    return files;
-}
 
 /// What others ask of the program, in any order, with any number and with time between.
 void Ask(TestPlatform& platform, FuzzInput& input) {
@@ -49,13 +40,13 @@ void Ask(TestPlatform& platform, FuzzInput& input) {
 void FuzzBusRequests(ByteView bytes) {
     FuzzInput input(bytes);
     TestPlatform platform;
-    platform.files = BuiltFolder();
+    platform.files = BuiltFiles();
     BindWindows();
     platform.registry.CreateKey("Software\\Horavex\\Settings");
     platform.registry.SetValue("Software\\Horavex\\Settings", "Isha Dep Angle", "18");
     frmMain->Load();
     while (!input.IsEmpty()) {
-        MayRefuse([&] { Ask(platform, input); });
+        RunStep([&] { Ask(platform, input); });
         Require(PublicState().moments.size() == 6, "a day has six times");
     }
 }

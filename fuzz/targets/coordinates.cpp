@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <cmath>
 
+#include "base/fault.h"
 #include "ctl/coordinate.h"
 #include "fuzz/input.h"
 #include "fuzz/target.h"
@@ -30,7 +31,7 @@ void ReadOption(const std::string& text) {
 
 void ReadBoxes(FuzzInput& input) {
     const CoordinateTexts texts{input.TakeText(), input.TakeText(), input.TakeText()};
-    MayRefuse([&] { ReadCoordinate(texts); });
+    RunStep([&] { ReadCoordinate(texts); });
 }
 
 }  // namespace
@@ -43,10 +44,10 @@ void FuzzCoordinates(ByteView bytes) {
          {&points.DistanceLatA, &points.DistanceLonA, &points.DistanceLatB, &points.DistanceLonB}) {
         *value = input.TakeInt16() / 100.0;
     }
-    MayRefuse([&] { DistanceKilometres(points); });
+    RunStep([&] { DistanceKilometres(points); });
     BearingDegrees(points);
     const std::string text = input.TakeRest();
-    MayRefuse([&] { ParseCoordinates(text); });
+    RunStep([&] { ParseCoordinates(text); });
     ReadOption(text);
 }
 

@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 
+#include "base/fault.h"
 #include "calendar/date_entry.h"
 #include "ctl/date_option.h"
 #include "fuzz/input.h"
@@ -37,7 +38,7 @@ void FuzzDates(ByteView bytes) {
     const int month = input.TakeByte();
     const int day = input.TakeByte();
     for (const Conversion conversion : {Conversion::kToHijri, Conversion::kToGregorian}) {
-        MayRefuse([&] { ConvertDateEntry(conversion, year, month, day); });
+        RunStep([&] { ConvertDateEntry(conversion, year, month, day); });
     }
     const std::string text = input.TakeRest();
     Require(!IsDateText(text) || ReadDateText(text), "the text of a date has its numbers");

@@ -1,5 +1,6 @@
 #include "store/location_files.h"
 
+#include "base/fault.h"
 #include "base/utf8.h"
 #include "fuzz/damaged_folder.h"
 #include "fuzz/target.h"
@@ -24,16 +25,16 @@ void LookForCity(std::int16_t index) {
 
 void ReadAsFarAsItGoes(std::int16_t number) {
     OpenLocationFiles();
-    MayRefuse([] { ReadCityRanges(); });
-    MayRefuse([number] {
+    RunStep([] { ReadCityRanges(); });
+    RunStep([number] {
         CountryRecord country;
         ReadCountry(number, country);
     });
-    MayRefuse([number] {
+    RunStep([number] {
         CityRecord city;
         ReadCity(number, city);
     });
-    MayRefuse([number] { FindCountryOfCity(number); });
+    RunStep([number] { FindCountryOfCity(number); });
     CloseLocationFiles();
 }
 
@@ -44,10 +45,10 @@ void FuzzLocationFiles(ByteView bytes) {
     const std::int16_t number = input.TakeInt16();
     const DamagedFolder folder(input, {"Dat/C.DAt", "Dat/CI.DAt", "Dat/S.DAT", "Dat/SI.DAt",
                                        "Dat/P.DAT", "Dat/PI.DAT", "Dat/A.dat"});
-    MayRefuse([number] { LookForCity(number); });
-    MayRefuse([] { LookForCity(kFirstCityIndex + 1); });
-    MayRefuse([number] { ReadAsFarAsItGoes(number); });
-    MayRefuse([number] { LoadAngleBand(number); });
+    RunStep([number] { LookForCity(number); });
+    RunStep([] { LookForCity(kFirstCityIndex + 1); });
+    RunStep([number] { ReadAsFarAsItGoes(number); });
+    RunStep([number] { LoadAngleBand(number); });
 }
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "base/fault.h"
 #include "base/number_text.h"
 #include "fuzz/input.h"
 #include "fuzz/target.h"

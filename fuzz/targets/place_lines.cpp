@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "base/fault.h"
 #include "ctl/line_answer.h"
 #include "ctl/line_calls.h"
 #include "fuzz/input.h"
@@ -48,7 +49,7 @@ void ReadAll(const std::string& path) {
 
 void FuzzPlaceLines(ByteView input) {
     const NamelessFile file(input);
-    MayRefuse([&] { ReadAll(file.Path()); });
+    RunStep([&] { ReadAll(file.Path()); });
 }
 
 }  // namespace horavex

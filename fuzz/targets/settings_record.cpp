@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/fault.h"
 #include "engine/year_calculation.h"
 #include "engine/year_table.h"
 #include "fuzz/damaged_folder.h"
@@ -51,7 +52,7 @@ void FuzzSettingsRecord(ByteView input) {
     }
     LoadActiveSettings();
     RequireTheSameFile(platform, bytes);
-    MayRefuse(UseSettings);
+    RunStep(UseSettings);
 }
 
 }  // namespace horavex

@@ -1,5 +1,6 @@
 #include "store/text_table.h"
 
+#include "base/fault.h"
 #include "base/utf8.h"
 #include "fuzz/damaged_folder.h"
 #include "fuzz/target.h"
@@ -12,9 +13,8 @@ void FuzzTextTable(ByteView bytes) {
     const auto entry = static_cast<TextEntry>(input.TakeInt16());
     const std::int16_t language = input.TakeInt16();
     const DamagedFolder folder(input, {"Dat/T.DAT", "Dat/TI.DAT"});
-    MayRefuse([&] { Require(IsUtf8(TextItem(entry, language)), "texts are UTF-8"); });
-    MayRefuse(
-        [] { Require(IsUtf8(TextItem(TextEntry::kFajr, kArabicColumn)), "texts are UTF-8"); });
+    RunStep([&] { Require(IsUtf8(TextItem(entry, language)), "texts are UTF-8"); });
+    RunStep([] { Require(IsUtf8(TextItem(TextEntry::kFajr, kArabicColumn)), "texts are UTF-8"); });
 }
 
 }  // namespace horavex

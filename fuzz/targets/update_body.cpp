@@ -1,3 +1,4 @@
+#include "base/fault.h"
 #include "fuzz/input.h"
 #include "fuzz/target.h"
 #include "fuzz/targets/targets.h"
@@ -11,9 +12,9 @@ void FuzzUpdateBody(ByteView input) {
     platform.network.connection = {true, kLanConnection};
     platform.network.answer = [input] { return StringOf(input); };
     ClearUpdateFile();
-    MayRefuse(CheckForUpdate);
+    RunStep(CheckForUpdate);
     Require(platform.dialogs.messages.size() == 1, "a check ends in one message");
-    MayRefuse(CheckForUpdateSilently);
+    RunStep(CheckForUpdateSilently);
     Require(platform.desktop.calls.empty(), "nothing is run or opened");
 }
 

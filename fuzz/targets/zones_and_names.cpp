@@ -1,3 +1,4 @@
+#include "base/fault.h"
 #include "base/utf8.h"
 #include "fuzz/damaged_folder.h"
 #include "fuzz/target.h"
@@ -29,18 +30,18 @@ void FuzzZonesAndNames(ByteView bytes) {
     const std::int16_t city = input.TakeInt16();
     const std::int64_t cities = input.TakeByte();
     DamagedFolder folder(input, {"Dat/ZI.DAT", "Dat/Z.DAT", "Dat/N.DAT"});
-    MayRefuse([city] {
+    RunStep([city] {
         const CityZones zones;
         zones.Of(city);
         zones.Of(kFirstCityIndex);
     });
-    MayRefuse([cities] {
+    RunStep([cities] {
         TextStore texts;
         const auto names = ReadOtherNames(cities, texts);
         Require(names.empty() || static_cast<std::int64_t>(names.size()) == cities,
                 "names of every city or of none");
     });
-    MayRefuse([&] { TellPlace(folder.platform.files, city); });
+    RunStep([&] { TellPlace(folder.platform.files, city); });
 }
 
 }  // namespace horavex

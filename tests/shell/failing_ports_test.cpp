@@ -10,6 +10,7 @@
 #include "base/program_state.h"
 #include "platform/fault_box.h"
 #include "shell/tick.h"
+#include "support/built_files.h"
 #include "support/program_test.h"
 #include "windows/horavex_main_form.h"
 
@@ -27,16 +28,6 @@ constexpr int kStep = 7;
 constexpr int kStep = 1;
 #endif
 constexpr const char* kKey = "Software\\Horavex\\Settings";
-
-/// The compiled data, read from the disk once; the copies share what they do not write.
-const MemoryFiles& BuiltFiles() {
-    static const MemoryFiles files = [] {
-        MemoryFiles copy;
-        CopyBuiltProgramFolder(copy);
-        return copy;
-    }();
-    return files;
-}
 
 /// A whole program that has been set up before, in a process of its own as it were.
 class Program {
