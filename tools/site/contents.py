@@ -16,7 +16,7 @@ PARTS = (
               "tests/data/published/README.md")),
     ("Development", ("CONTRIBUTING.md", "docs/architecture.md", "docs/glossary.md",
                      "docs/platform.md", "docs/look.md", "docs/security.md", "docs/reliability.md",
-                     "docs/packages.md", "docs/releases.md")),
+                     "docs/mutation.md", "docs/packages.md", "docs/releases.md")),
 )
 
 
