@@ -24,7 +24,8 @@ constexpr double kPlaceSize = 12.0;
 constexpr double kTextSize = 9.0;
 constexpr double kLineHeight = 1.45;  // of the size of the text
 constexpr double kTallestRow = 19.0;
-constexpr double kCellPadding = 3.0;
+constexpr double kCellStart = 3.0;  // from the beginning of a column to its texts
+constexpr double kCellEnd = 7.0;    // from its longest text to the next column
 constexpr double kFootLines = 5.0;
 
 constexpr int kFriday = 5;
@@ -176,10 +177,9 @@ private:
     }
 
     QRectF Cell(std::size_t column, double height) const {
-        const double padding = kCellPadding * point_;
         const auto before = widths_.begin() + static_cast<std::ptrdiff_t>(column);
-        return {std::accumulate(widths_.begin(), before, area_.left()) + padding, top_,
-                *before - padding, height};
+        return {std::accumulate(widths_.begin(), before, area_.left()) + kCellStart * point_, top_,
+                *before - (kCellStart + kCellEnd) * point_, height};
     }
 
     void DrawRule(const QColor& colour, double width) {
@@ -222,7 +222,7 @@ private:
             take(Cells(day));
         }
         for (double& need : needs) {
-            need += 2.0 * kCellPadding * point_;
+            need += (kCellStart + kCellEnd) * point_;
         }
         return ColumnWidths(needs, SharesOf(needs.size()), area_.width());
     }

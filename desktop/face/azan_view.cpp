@@ -7,14 +7,15 @@
 #include "desktop/face/face_button.h"
 #include "desktop/face/palette.h"
 #include "desktop/face/text_line.h"
+#include "desktop/ports/display.h"
 
 namespace horavex {
 
 namespace {
 
-// All places in pixels of the face. The window stands with its lowest 26 pixels below the screen.
-constexpr QRect kFace(0, 0, 360, 226);
-constexpr QRect kOnScreen(0, 0, 360, 199);
+// All places in pixels of the part that is seen.
+constexpr QSize kFace(360, 226);
+constexpr int kBelowScreen = 27;  // of its height, where the window stands where it is put
 constexpr QRect kText(24, 80, 312, 34);
 constexpr QRect kPlace(24, 112, 312, 24);
 constexpr QRect kStop(140, 146, 80, 34);
@@ -58,8 +59,9 @@ QPainterPath Crescent() {
 /// A line on each side of the crescent, that fades outward.
 void DrawRays(QPainter& painter) {
     for (const double side : {-1.0, 1.0}) {
-        const QPointF from(kFace.center().x() + side * 48.0, kMoon.y());
-        const QPointF to(kFace.center().x() + side * 140.0, kMoon.y());
+        const double centre = kFace.width() / 2.0;
+        const QPointF from(centre + side * 48.0, kMoon.y());
+        const QPointF to(centre + side * 140.0, kMoon.y());
         QLinearGradient fading(from, to);
         fading.setColorAt(0.0, kEdge);
         fading.setColorAt(1.0, Qt::transparent);
@@ -70,17 +72,21 @@ void DrawRays(QPainter& painter) {
 
 }  // namespace
 
-AzanView::AzanView()
+AzanView::AzanView() : AzanView(!PlacesAreKnown()) {}
+
+AzanView::AzanView(bool isWhole)
     : text_(new TextLine(this, kTextLook)),
       place_(new TextLine(this, kPlaceLook)),
-      stop_(new StopButton(this)) {
-    setFixedSize(kFace.size());
+      stop_(new StopButton(this)),
+      below_(isWhole ? 0 : kBelowScreen),
+      down_((kBelowScreen - below_) / 2) {
+    setFixedSize(kFace);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    text_->setGeometry(kText);
-    place_->setGeometry(kPlace);
+    text_->setGeometry(kText.translated(0, down_));
+    place_->setGeometry(kPlace.translated(0, down_));
     NameStop(QStringLiteral("Stop"));
     stop_->setObjectName(QStringLiteral("IDC_FS_Stop"));
-    stop_->setGeometry(kStop);
+    stop_->setGeometry(kStop.translated(0, down_));
     connect(stop_, &QAbstractButton::clicked, this, [this] {
         if (onCommand) {
             onCommand("IDC_FS_Stop");
@@ -108,15 +114,15 @@ void AzanView::paintEvent(QPaintEvent*) {
     sky.setColorAt(0.0, kSkyTop);
     sky.setColorAt(1.0, kSkyBottom);
     painter.fillRect(rect(), sky);
+    painter.setPen(kEdge);
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame - below_),
+                            kFrameCorner, kFrameCorner);
+    painter.translate(0.0, down_);
     painter.setPen(Qt::NoPen);
     painter.setBrush(kGold);
     painter.drawPath(Crescent());
     DrawRays(painter);
-    painter.setPen(kEdge);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.drawRoundedRect(QRectF(kOnScreen).adjusted(kFrame, kFrame, -kFrame, -kFrame),
-                            kFrameCorner, kFrameCorner);
 }
 
 }  // namespace horavex

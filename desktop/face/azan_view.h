@@ -13,6 +13,10 @@ class TextLine;
 /// below, and a button to stop. It knows its variables and its one command by their names.
 class AzanView : public QWidget {
 public:
+    /// isWhole: its window may stand on the screen as a whole, as it does where the display and not
+    /// the program puts windows in their place. Else its lowest part is below the screen, and what
+    /// is drawn keeps to the rest.
+    explicit AzanView(bool isWhole);
     AzanView();
 
     /// Takes a value over; a variable that the face does not have is ignored.
@@ -31,6 +35,8 @@ private:
     TextLine* text_;
     TextLine* place_;
     QAbstractButton* stop_;
+    int below_;  // the screen, of the height, pixels
+    int down_;   // how far everything stands below its place in the smaller part, pixels
 };
 
 }  // namespace horavex

@@ -12,11 +12,6 @@ namespace {
 
 constexpr std::uint8_t kKindOfEvent = 0x7f;  // without the mark of one that a program has sent
 
-/// A Wayland desktop tells no window where it lies.
-bool PlacesAreKnown() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 }  // namespace
 
 PaintWhenSeen::PaintWhenSeen(QWidget& window) : QObject(&window), window_(window) {

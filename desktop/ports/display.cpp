@@ -10,6 +10,10 @@ xcb_connection_t* Display() {
     return x11 == nullptr ? nullptr : x11->connection();
 }
 
+bool PlacesAreKnown() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
 xcb_atom_t AtomOf(xcb_connection_t* display, std::string_view name) {
     const auto length = static_cast<std::uint16_t>(name.size());
     const auto atom = Owned(

@@ -11,6 +11,9 @@ namespace horavex {
 /// The X display that the program is on; null where it is on none.
 xcb_connection_t* Display();
 
+/// Whether a window knows where it stands, and stands where it is put: Wayland has neither.
+bool PlacesAreKnown();
+
 /// The display's number for a name; XCB_ATOM_NONE where it gives none.
 xcb_atom_t AtomOf(xcb_connection_t* display, std::string_view name);
 

@@ -9,13 +9,13 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QStyleOption>
 #include <QTextDocument>
 #include <QVBoxLayout>
 #include <QWindow>
 
 #include "base/fault.h"
+#include "desktop/ports/topic_lines.h"
 #include "desktop/user_text.h"
 #include "lang/language_pack.h"
 #include "linux/posix_files.h"
@@ -127,7 +127,8 @@ HelpWindow::HelpWindow() {
     back_.setShortcut(QKeySequence::Back);
     forward_.setShortcut(QKeySequence::Forward);
     contents_.setWordWrap(true);
-    contents_.setSpacing(kBetweenTopics);  // tells the second line of one from the next
+    contents_.setSpacing(kBetweenTopics);
+    contents_.setItemDelegate(new TopicLines(contents_));
     page_.document()->setDocumentMargin(kPageMargin);
 
     auto* buttons = new QHBoxLayout;
@@ -135,14 +136,13 @@ HelpWindow::HelpWindow() {
     buttons->addWidget(&forward_);
     buttons->addStretch();
     buttons->addWidget(&search_);
-    auto* parts = new QSplitter;
-    parts->addWidget(&contents_);
-    parts->addWidget(&page_);
-    parts->setStretchFactor(1, 1);
-    parts->setSizes({kContentsWidth, kPageWidth});
+    parts_.addWidget(&contents_);
+    parts_.addWidget(&page_);
+    parts_.setStretchFactor(1, 1);
+    parts_.setSizes({kContentsWidth, kPageWidth});
     auto* all = new QVBoxLayout(this);
     all->addLayout(buttons);
-    all->addWidget(parts, 1);
+    all->addWidget(&parts_, 1);
     contents_.setFocus();
 
     connect(&back_, &QToolButton::clicked, &page_, &QTextBrowser::backward);
@@ -191,8 +191,10 @@ void HelpWindow::Fill(const HelpView& view) {
         auto* item = new QListWidgetItem(QString::fromStdString(page.title), &contents_);
         item->setData(Qt::UserRole, QUrl::fromLocalFile(QString::fromStdString(page.path)));
     }
-    setLayoutDirection(contents_.item(0)->text().isRightToLeft() ? Qt::RightToLeft
-                                                                 : Qt::LeftToRight);
+    const bool fromRight = contents_.item(0)->text().isRightToLeft();
+    setLayoutDirection(fromRight ? Qt::RightToLeft : Qt::LeftToRight);
+    // The toolkit begins a dot too far to the right there.
+    parts_.setContentsMargins(0, 0, fromRight ? 1 : 0, 0);
 }
 
 void HelpWindow::PlaceFirst(const HelpPlace& place) {

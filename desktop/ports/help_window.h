@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSplitter>
 #include <QTextBrowser>
 #include <QToolButton>
 #include <QWidget>
@@ -49,6 +50,7 @@ private:
     QToolButton back_;
     QToolButton forward_;
     QLineEdit search_;
+    QSplitter parts_;
     QListWidget contents_;
     PageView page_;
     UsableWindow usable_{*this};

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "forms/inks.h"
+#include "timetables/year_names.h"
 
 namespace horavex {
 
@@ -32,7 +33,7 @@ constexpr Band kBands[] = {{kFajr, kShurooq, ink::kDawn, ink::kOnDark},
 constexpr int kHoursPerLine = 3;
 constexpr double kShortestMonth = 28.0;  // days
 constexpr double kMonthGap = 60.0;       // between the names of two months at least, twips
-constexpr std::size_t kNameRow = 8;      // where the names of the times begin
+constexpr double kHalfText = 120.0;      // of the height of a text, twips
 
 }  // namespace
 
@@ -111,7 +112,8 @@ void YearChart::DrawHours(Drawing& drawing) const {
     const double right = X(static_cast<double>(table_.days.size()));
     for (int hour = 0; hour <= 24; hour += kHoursPerLine) {
         drawing.push_back(LineStep{{kLeft, Y(hour)}, {right, Y(hour)}, {ink::kChartGrid}});
-        drawing.push_back(TextStep{{150.0, Y(hour) - 120.0}, IsoTime(hour * 60), ink::kChartText});
+        drawing.push_back(
+            TextStep{{150.0, Y(hour) - kHalfText}, IsoTime(hour * 60), ink::kChartText});
     }
 }
 
@@ -130,18 +132,14 @@ void YearChart::DrawMonths(Drawing& drawing) const {
     drawing.push_back(std::move(names));
 }
 
-/// A name stands below the time that it names.
 void YearChart::DrawNames(Drawing& drawing) const {
-    const auto name = [&](std::size_t prayer, Colour ink) {
-        if (const auto& moment = table_.days.at(kNameRow).moments[prayer]) {
-            drawing.push_back(
-                TextStep{{X(kNameRow), Y(moment->hours) + 15.0}, words_.prayers.at(prayer), ink});
-        }
-    };
-    for (const Band& band : kBands) {
-        name(band.from, band.ink);
+    for (const YearName& name : PlaceYearNames(table_, kHoursPerLine)) {
+        const auto* band = std::ranges::find(kBands, name.prayer, &Band::from);
+        const Colour ink = band == std::end(kBands) ? ink::kOnDark : band->ink;
+        drawing.push_back(TextStep{{X(static_cast<double>(name.row)), Y(name.hours) - kHalfText},
+                                   words_.prayers.at(name.prayer),
+                                   ink});
     }
-    name(kIsha, ink::kOnDark);
 }
 
 void YearChart::DrawToday(Drawing& drawing, Date today) const {

@@ -71,6 +71,44 @@ TEST_F(AzanFaceTest, ItsButtonAsksToStopByMouseAndByKey) {
     EXPECT_TRUE(button->focusPolicy() & Qt::TabFocus);
 }
 
+/// Rows of the middle column whose colour the sky does not have: the frame, the moon, the text.
+struct DrawnRows {
+    int first;
+    int last;
+};
+
+DrawnRows RowsOf(AzanView& view, int column) {
+    const QImage image = view.grab().toImage();
+    DrawnRows rows{-1, -1};
+    for (int y = 1; y < image.height() - 1; ++y) {
+        if (image.pixelColor(column, y).red() > 60) {
+            rows.first = rows.first < 0 ? y : rows.first;
+            rows.last = y;
+        }
+    }
+    return rows;
+}
+
+// The lowest 26 pixels of the window stand below the screen where the program places it.
+TEST(AzanViewTest, ItsFrameIsAsFarFromEveryEdgeThatIsSeen) {
+    constexpr int kBesideAll = 30;  // a column of the frame alone
+    for (const auto& [isWhole, seen] : {std::pair(false, 199), std::pair(true, 226)}) {
+        AzanView view(isWhole);
+        const auto [first, last] = RowsOf(view, kBesideAll);
+        EXPECT_NEAR(first, seen - 1 - last, 1) << seen;
+        EXPECT_LT(first, 10);
+    }
+}
+
+TEST(AzanViewTest, WhatStandsInItsFrameIsInTheMiddleOfIt) {
+    const auto button = [](AzanView& view) {
+        return view.findChild<QAbstractButton*>("IDC_FS_Stop")->geometry().bottom();
+    };
+    AzanView part(false);
+    AzanView whole(true);
+    EXPECT_EQ(button(whole), button(part) + 13);
+}
+
 TEST_F(AzanFaceTest, OutlivesItsWindow) {
     {
         QWidget other;

@@ -277,6 +277,50 @@ TEST_F(HelpWindowTest, ArabicRunsFromTheRightEvenBehindALatinWord) {
     EXPECT_EQ(window.layoutDirection(), Qt::LeftToRight);
 }
 
+TEST_F(HelpWindowTest, PartsStandWithinTheirMarginsFromEitherSide) {
+    for (const char* title : {"مساعدة", "Help"}) {
+        HelpView view = View(0);
+        view.pages[0].title = title;
+        window.Show(view);
+        window.resize(820, 620);
+        QApplication::processEvents();
+        for (const char* name : {"contents", "page"}) {
+            const auto& part = Find<QWidget>(name);
+            EXPECT_TRUE(part.parentWidget()->rect().contains(part.geometry())) << title << name;
+        }
+    }
+}
+
+/// How far from the side where it is read the ink between two rows begins, in columns.
+int BeginOf(const QImage& image, int top, int bottom, bool fromRight) {
+    for (int column = 0; column < image.width(); ++column) {
+        const int x = fromRight ? image.width() - 1 - column : column;
+        for (int y = top; y < bottom; ++y) {
+            if (image.pixelColor(x, y).lightness() < 128) {
+                return column;
+            }
+        }
+    }
+    return image.width();
+}
+
+TEST_F(HelpWindowTest, LinesBehindTheFirstOfATopicStandFurtherIn) {
+    for (const char* title :
+         {"mmm mmmmm mmm mmmmm mmm mmmmm mmm", "ممم ممممم ممم ممممم ممم ممممم ممم ممممم"}) {
+        HelpView view = View(1);
+        view.pages[0].title = title;
+        window.Show(view);
+        QApplication::processEvents();
+        auto& contents = Find<QListWidget>("contents");
+        const QRect topic = contents.visualItemRect(contents.item(0));
+        const QImage image = contents.viewport()->grab(topic).toImage();
+        const int line = image.height() / 2;
+        EXPECT_EQ(BeginOf(image, 0, line, contents.isRightToLeft()) + 12,
+                  BeginOf(image, line, 2 * line, contents.isRightToLeft()))
+            << title;
+    }
+}
+
 TEST_F(HelpWindowTest, ComesUpInItsPartOfTheScreen) {
     HelpView view = View(0);
     view.place = {128, 256, 768, 512};

@@ -179,6 +179,20 @@ TEST(RemindersLayout, NamesTellThePrayerOfEachRow) {
     }
 }
 
+TEST(CoordinatesLayout, BoxesAreToldApart) {
+    const TestPlatform platform;
+    const FormWindows windows{DrawnLayouts()};
+    NewCoordinates->Load();
+    NewCoordinates->lblDegLat.SetCaption("Degrees");
+    NewCoordinates->lblSecLong.SetCaption("Seconds");
+    NewCoordinates->fraLatitude.SetCaption("Latitude");
+    NewCoordinates->fraLongitude.SetCaption("Longitude");
+    FormWindow& window = *windows.Find(&*NewCoordinates);
+    window.Flush();
+    EXPECT_EQ(window.findChild<QWidget*>("Text3")->accessibleName(), "Latitude, Degrees");
+    EXPECT_EQ(window.findChild<QWidget*>("Text8")->accessibleName(), "Longitude, Seconds");
+}
+
 TEST(FaceLayout, FrmMainShowsTheFaceAndStoresTheRest) {
     const TestPlatform platform;
     QtFace face;

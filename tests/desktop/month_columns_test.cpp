@@ -117,6 +117,32 @@ struct MonthColumns : TimetableTest, testing::WithParamInterface<std::string> {
     }
 };
 
+/// How far the texts of whole rows stand from each other at least, in points.
+double NarrowestGap(std::map<int, std::vector<TextKeeper::Piece>>& lines) {
+    double narrowest = 100.0;
+    for (auto& [baseline, pieces] : lines) {
+        std::ranges::sort(pieces, {}, &TextKeeper::Piece::left);
+        for (std::size_t i = 1; pieces.size() == 8 && i < pieces.size(); ++i) {
+            narrowest = std::min(narrowest, pieces[i].left - pieces[i - 1].right);
+        }
+    }
+    return narrowest * 72.0 / 300.0;
+}
+
+TEST_P(MonthColumns, StandApart) {
+    if (GetLangString("timetables", "Direction", "") == "rtl") {
+        GTEST_SKIP() << "texts of two directions come in pieces";
+    }
+    const Timetable table = TakeTimetable();
+    const TimetableWords words = TakeTimetableWords();
+    TextPage page(QPageSize(QPageSize::A4).sizePixels(300) - QSize(354, 354));
+    QPainter painter(&page);
+    DrawMonthPage(painter, QRectF(0, 0, page.width(), page.height()), 300.0,
+                  {table, words, DateSerial(2026, 11, 20)}, 11);
+    painter.end();
+    EXPECT_GE(NarrowestGap(page.keeper.lines), 9.0);
+}
+
 TEST_P(MonthColumns, HoldTheirTexts) {
     ExpectRoomOnBothPapers();
 }

@@ -106,6 +106,12 @@ TEST_F(YearChartTest, HoursAndTimesHaveTheirNames) {
                             "24:00", "Fajr", "Shurooq", "Zuhr", "Asr", "Maghrib", "Isha"));
 }
 
+TEST_F(YearChartTest, NamesStandBetweenTheCurvesAndTheLines) {
+    const auto texts = StepsOf<TextStep>(Draw());
+    EXPECT_EQ(texts.at(9).at, (Point{At(2, 5.5).x, At(2, 5.5).y - 120.0})) << "not on 06:00";
+    EXPECT_EQ(texts.at(10).at, (Point{At(2, 7.25).x, At(2, 7.25).y - 120.0})) << "below its curve";
+}
+
 TEST_F(YearChartTest, MonthsAreNamedInARowByWholeOrBriefNames) {
     words.shortMonths[1] = "Feb";
     const auto rows = StepsOf<TextRowStep>(Draw());

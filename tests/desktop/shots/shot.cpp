@@ -2,18 +2,20 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QScreen>
 #include <stdexcept>
 
 namespace horavex {
 
 namespace {
 
+/// What of the windows lies on the screen.
 QRect Around(const std::vector<QWidget*>& windows) {
     QRect around;
     for (const QWidget* window : windows) {
         around |= window->geometry();
     }
-    return around;
+    return around & windows.front()->screen()->geometry();
 }
 
 QImage Photograph(const std::vector<QWidget*>& windows) {
@@ -24,7 +26,7 @@ QImage Photograph(const std::vector<QWidget*>& windows) {
     image.fill(Qt::transparent);
     QPainter painter(&image);
     for (QWidget* window : windows) {
-        painter.drawPixmap(window->pos() - around.topLeft(), window->grab());
+        painter.drawPixmap(window->geometry().topLeft() - around.topLeft(), window->grab());
     }
     return image;
 }
