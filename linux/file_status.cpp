@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <ctime>
 
+#include "linux/shared_looks.h"
 #include "linux/system_call.h"
 
 namespace horavex {
@@ -34,6 +35,21 @@ std::string StampOf(const struct stat& status) {
     return stamp;
 }
 
+std::string LookForStamp(const std::string& path) {
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 ? StampOf(status) : StampOfError(errno);
+}
+
+std::string LookForSettledStamp(const std::string& path) {
+    constexpr std::int64_t kLongestStep = 2;  // seconds
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0) {
+        return StampOfError(errno);
+    }
+    const auto changed = std::max<std::int64_t>(status.st_mtim.tv_sec, status.st_ctim.tv_sec);
+    return std::time(nullptr) - changed > kLongestStep ? StampOf(status) : "";
+}
+
 }  // namespace
 
 std::optional<struct stat> StatusBehind(const std::string& path) {
@@ -50,18 +66,11 @@ std::optional<struct stat> StatusBehind(const std::string& path) {
 }
 
 std::string StampOfFile(const std::string& path) {
-    struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0 ? StampOf(status) : StampOfError(errno);
+    return SharedLooks::Of(LookForStamp, path);
 }
 
 std::string SettledStamp(const std::string& path) {
-    constexpr std::int64_t kLongestStep = 2;  // seconds
-    struct stat status = {};
-    if (::stat(path.c_str(), &status) != 0) {
-        return StampOfError(errno);
-    }
-    const auto changed = std::max<std::int64_t>(status.st_mtim.tv_sec, status.st_ctim.tv_sec);
-    return std::time(nullptr) - changed > kLongestStep ? StampOf(status) : "";
+    return SharedLooks::Of(LookForSettledStamp, path);
 }
 
 void RefuseSpecial(const struct stat& status, const std::string& path) {

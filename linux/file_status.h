@@ -13,7 +13,8 @@ namespace horavex {
 std::optional<struct stat> StatusBehind(const std::string& path);
 
 /// What changes whenever a file is written or replaced: its number, its length and its times. The
-/// same for all names that are free; empty where nothing is told.
+/// same for all names that are free; empty where nothing is told. A shared look may answer
+/// (shared_looks.h), here and below.
 std::string StampOfFile(const std::string& path);
 
 /// The stamp of what has rested for longer than a file system's clock takes for a step, up to two

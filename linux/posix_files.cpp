@@ -11,6 +11,7 @@
 #include "linux/file_status.h"
 #include "linux/replace_file.h"
 #include "linux/replacement.h"
+#include "linux/shared_looks.h"
 #include "linux/system_call.h"
 
 namespace horavex {
@@ -126,6 +127,7 @@ void PosixFiles::Delete(const std::string& path) {
     if (::unlink(SystemPath(path)) != 0) {
         ThrowFileFault(path);
     }
+    SharedLooks::Renew();
 }
 
 bool PosixFiles::Exists(const std::string& path) {

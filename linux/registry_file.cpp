@@ -28,7 +28,7 @@ std::int32_t RegistryFile::OpenKey(const std::string& key, std::int32_t /*access
     if (!user) {
         return kRegistryAccessDenied;
     }
-    return user->HasKey(key) || LoadMachine().HasKey(key) ? kRegistrySuccess : kRegistryNotFound;
+    return user->HasKey(key) || LoadMachine()->HasKey(key) ? kRegistrySuccess : kRegistryNotFound;
 }
 
 std::int32_t RegistryFile::CreateKey(const std::string& key) {
@@ -51,7 +51,7 @@ std::int32_t RegistryFile::QueryValue(const std::string& key, const std::string&
     }
     auto found = user->Value(key, valueName);
     if (!found) {
-        found = LoadMachine().Value(key, valueName);
+        found = LoadMachine()->Value(key, valueName);
     }
     if (!found) {
         return kRegistryNotFound;
@@ -89,7 +89,7 @@ std::int32_t RegistryFile::DeleteKey(const std::string& key) {
 }
 
 // The stamp is taken first: a file that changes meanwhile has another one at the next call.
-std::optional<RegistryText> RegistryFile::Load(const std::string& path) const {
+RegistryFile::Text RegistryFile::Load(const std::string& path) const {
     const std::string stamp = stampOf_ ? stampOf_(path) : "";
     if (stamp.empty()) {
         return Read(path);
@@ -100,34 +100,35 @@ std::optional<RegistryText> RegistryFile::Load(const std::string& path) const {
     }
     auto text = Read(path);
     if (text) {
-        known_.insert_or_assign(path, Known{stamp, *text});
+        known_.insert_or_assign(path, Known{stamp, text});
     }
     return text;
 }
 
-std::optional<RegistryText> RegistryFile::Read(const std::string& path) const {
+RegistryFile::Text RegistryFile::Read(const std::string& path) const {
     try {
         return WithMemoryFaults([&] {
-            return RegistryText(
+            return std::make_shared<const RegistryText>(
                 files_.Exists(path) ? StringOf(ReadWhole(files_, path, kLargestText)) : "");
         });
     } catch (const Fault&) {
-        return std::nullopt;
+        return nullptr;
     }
 }
 
-RegistryText RegistryFile::LoadMachine() const {
-    return Load(machinePath_).value_or(RegistryText(""));
+RegistryFile::Text RegistryFile::LoadMachine() const {
+    const Text text = Load(machinePath_);
+    return text ? text : std::make_shared<const RegistryText>("");
 }
 
 std::int32_t RegistryFile::Change(const Edit& edit) {
-    auto user = Load(userPath_);
-    if (!user) {
+    const Text before = Load(userPath_);
+    if (!before) {
         return kRegistryAccessDenied;
     }
-    const std::string before = user->Text();
-    const std::int32_t code = edit(*user, LoadMachine());
-    return code == kRegistrySuccess && user->Text() != before ? Save(*user) : code;
+    RegistryText user = *before;
+    const std::int32_t code = edit(user, *LoadMachine());
+    return code == kRegistrySuccess && user.Text() != before->Text() ? Save(user) : code;
 }
 
 // What would be too large to be read back is not written.

@@ -2,7 +2,7 @@
 
 #include <functional>
 #include <map>
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "linux/registry_text.h"
@@ -45,15 +45,18 @@ public:
 private:
     using Edit = std::function<std::int32_t(RegistryText& user, const RegistryText& machine)>;
 
+    /// Nothing where the file cannot be read.
+    using Text = std::shared_ptr<const RegistryText>;
+
     /// What was read of a file last.
     struct Known {
         std::string stamp;
-        RegistryText text;
+        Text text;
     };
 
-    std::optional<RegistryText> Load(const std::string& path) const;
-    std::optional<RegistryText> Read(const std::string& path) const;
-    RegistryText LoadMachine() const;
+    Text Load(const std::string& path) const;
+    Text Read(const std::string& path) const;
+    Text LoadMachine() const;
     std::int32_t Change(const Edit& edit);
     std::int32_t Save(const RegistryText& user);
 

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "linux/file_status.h"
+#include "linux/shared_looks.h"
 #include "linux/system_call.h"
 
 namespace horavex {
@@ -117,6 +118,7 @@ void Replacement::Commit() {
         ThrowFileFault(path_);
     }
     temporaryName_.clear();
+    SharedLooks::Renew();
     FlushFolder(folder_, path_);
 }
 

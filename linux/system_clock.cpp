@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "linux/shared_looks.h"
+
 namespace horavex {
 
 namespace {
@@ -17,7 +19,7 @@ std::time_t SecondsOf(const ClockOffset& offset) {
 }  // namespace
 
 Date LocalDate(std::time_t moment) {
-    ::tzset();  // localtime_r alone keeps the zone of its first call
+    SharedLooks::FollowZone();  // localtime_r alone keeps the zone of its first call
     std::tm local = {};
     ::localtime_r(&moment, &local);
     // A zone with leap seconds has a second 60, which is no time of this day's clock.
@@ -26,7 +28,7 @@ Date LocalDate(std::time_t moment) {
 }
 
 ClockOffset LocalOffset(std::time_t moment) {
-    ::tzset();
+    SharedLooks::FollowZone();
     std::tm local = {};
     ::localtime_r(&moment, &local);
     return {static_cast<double>(local.tm_gmtoff) / kSecondsPerHour, local.tm_isdst > 0};

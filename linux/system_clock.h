@@ -7,7 +7,8 @@
 namespace horavex {
 
 /// The local date and time of a moment, seconds since 1970-01-01 UTC, in whole seconds. The zone
-/// is looked up anew each time: a zone that changes while the program runs takes effect at once.
+/// is looked up anew each time, or once a turn where looks are shared: a zone that changes while
+/// the program runs takes effect at once.
 Date LocalDate(std::time_t moment);
 
 /// The offset of the local clock at a moment, likewise.
