@@ -36,6 +36,11 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return LowerOf(x) == LowerOf(y); });
 }
 
+bool ComesFirstIgnoringCase(std::string_view a, std::string_view b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return LowerOf(x) < LowerOf(y); });
+}
+
 std::vector<std::string> Split(std::string_view text, char separator) {
     std::vector<std::string> parts;
     std::size_t from = 0;

@@ -1,5 +1,6 @@
 #include "lang/language_pack.h"
 
+#include <memory>
 #include <utility>
 
 #include "base/code_page.h"
@@ -20,10 +21,18 @@ namespace {
 
 constexpr const char* kPackFolder = "\\Lang\\";
 
-/// The text of a pack, and the stamp that its file had before it was read.
+/// A pack, and the stamp that its file had before it was read.
 struct Pack {
+    Pack() = default;
+    Pack(std::string fileStamp, std::string fileText)
+        : stamp(std::move(fileStamp)),
+          text(std::make_unique<const std::string>(std::move(fileText))),
+          values(*text),
+          isUtf8(IsUtf8(*text)) {}
+
     std::string stamp;
-    std::string text;
+    std::unique_ptr<const std::string> text;  // stays in its place, where values point
+    ProfileIndex values;
     bool isUtf8 = true;
 };
 Pack lastRead;
@@ -54,9 +63,7 @@ void ReadAgainIfChanged(const std::string& packPath) {
     const ProgramFolder& folder = Ports().programFolder;
     const std::string stamp = folder.StampOf(packPath);
     if (stamp.empty() || stamp != lastRead.stamp) {
-        std::string text = StringOf(folder.ReadWhole(packPath, kLargestText));
-        const bool isUtf8 = IsUtf8(text);
-        lastRead = {stamp, std::move(text), isUtf8};
+        lastRead = Pack(stamp, StringOf(folder.ReadWhole(packPath, kLargestText)));
     }
 }
 
@@ -89,7 +96,7 @@ std::string ReadPackString(const std::string& packPath, const std::string& secti
                            const std::string& key, const std::string& defaultText,
                            std::size_t bufferSize) {
     const Pack& pack = ReadPack(packPath);
-    const auto value = FindProfileValue(pack.text, section, key);
+    const auto value = pack.values.Find(section, key);
     if (!value) {
         return defaultText;
     }

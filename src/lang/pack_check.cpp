@@ -21,9 +21,10 @@ std::string KeyOf(const std::string& section, const std::string& key) {
 
 void CheckWanted(CheckReport& report, const Sections& sections, const std::string& file,
                  const std::string& pack) {
+    const ProfileIndex values(pack);
     for (const PackSection& section : sections) {
         for (const std::string& key : section.keys) {
-            const auto value = FindProfileValue(pack, section.name, key);
+            const auto value = values.Find(section.name, key);
             report.Expect(value.has_value(),
                           file + ": " + KeyOf(section.name, key) + " is missing");
             report.Expect(!value || !value->empty(),

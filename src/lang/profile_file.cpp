@@ -1,5 +1,7 @@
 #include "lang/profile_file.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 
 namespace horavex {
@@ -43,16 +45,6 @@ std::optional<Assignment> AssignmentOf(std::string_view line) {
     return Assignment{Trim(line.substr(0, mark)), Trim(line.substr(mark + 1))};
 }
 
-bool SkipToSection(std::string_view& rest, std::string_view section) {
-    while (!rest.empty()) {
-        const auto name = SectionOf(TakeLine(rest));
-        if (name && EqualsIgnoringCase(*name, section)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string_view Unquote(std::string_view value) {
     const bool quoted = value.size() >= 2 && value.front() == value.back() &&
                         (value.front() == '"' || value.front() == '\'');
@@ -61,23 +53,39 @@ std::string_view Unquote(std::string_view value) {
 
 }  // namespace
 
-std::optional<std::string_view> FindProfileValue(std::string_view file, std::string_view section,
-                                                 std::string_view key) {
+ProfileIndex::ProfileIndex(std::string_view file) {
+    std::vector<std::string_view> sections;
+    bool isFirstOfItsName = false;  // nor does what stands in front of all sections count
     std::string_view rest = WithoutByteOrderMark(file);
-    if (!SkipToSection(rest, section)) {
-        return std::nullopt;
-    }
     while (!rest.empty()) {
         const std::string_view line = TakeLine(rest);
-        if (SectionOf(line)) {
-            return std::nullopt;
-        }
-        const auto assignment = AssignmentOf(line);
-        if (assignment && EqualsIgnoringCase(assignment->key, key)) {
-            return Unquote(assignment->value);
+        if (const auto name = SectionOf(line)) {
+            isFirstOfItsName = std::ranges::none_of(
+                sections, [&](std::string_view known) { return EqualsIgnoringCase(known, *name); });
+            sections.push_back(*name);
+        } else if (const auto assignment = AssignmentOf(line); assignment && isFirstOfItsName) {
+            values_.push_back({sections.back(), assignment->key, Unquote(assignment->value)});
         }
     }
-    return std::nullopt;
+    std::ranges::stable_sort(values_, ComesFirst);
+}
+
+bool ProfileIndex::ComesFirst(const Value& a, const Value& b) {
+    return ComesFirstIgnoringCase(a.section, b.section) ||
+           (EqualsIgnoringCase(a.section, b.section) && ComesFirstIgnoringCase(a.key, b.key));
+}
+
+std::optional<std::string_view> ProfileIndex::Find(std::string_view section,
+                                                   std::string_view key) const {
+    const auto found = std::ranges::lower_bound(values_, Value{section, key, {}}, ComesFirst);
+    const bool isIt = found != values_.end() && EqualsIgnoringCase(found->section, section) &&
+                      EqualsIgnoringCase(found->key, key);
+    return isIt ? std::optional(found->value) : std::nullopt;
+}
+
+std::optional<std::string_view> FindProfileValue(std::string_view file, std::string_view section,
+                                                 std::string_view key) {
+    return ProfileIndex(file).Find(section, key);
 }
 
 std::vector<ProfileEntry> ListProfileEntries(std::string_view file) {

@@ -155,6 +155,23 @@ TEST(FindProfileValue, EverySingleLineFileOfRandomCharactersIsReadWithoutHarm) {
     }
 }
 
+TEST(ProfileIndex, FindsEveryValueOfAFileWithManySections) {
+    std::string file = "stray=0\n";
+    for (int n = 0; n < 300; ++n) {
+        file += "[s" + std::to_string(n * 7 % 100) + "]\nKey" + std::to_string(n % 3) + "=" +
+                std::to_string(n) + "\n";
+    }
+    const ProfileIndex index(file);
+    for (int n = 0; n < 100; ++n) {
+        const std::string section = "S" + std::to_string(n * 7 % 100);
+        EXPECT_THAT(index.Find(section, "kEY" + std::to_string(n % 3)),
+                    Optional(Eq(std::to_string(n))));
+        EXPECT_EQ(index.Find(section, "key" + std::to_string((n + 1) % 3)), std::nullopt);
+    }
+    EXPECT_EQ(index.Find("", "stray"), std::nullopt);
+    EXPECT_EQ(ProfileIndex().Find("s1", "key1"), std::nullopt);
+}
+
 TEST(ListProfileEntries, GivesEveryKeyWithItsSectionInTheOrderOfTheFile) {
     const auto entries = ListProfileEntries(
         "\xEF\xBB\xBF"
