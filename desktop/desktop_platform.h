@@ -21,6 +21,7 @@
 #include "linux/instance_lock.h"
 #include "linux/posix_files.h"
 #include "linux/registry_file.h"
+#include "linux/shared_looks.h"
 #include "linux/sound/beep.h"
 #include "linux/sound/pulse_player.h"
 #include "linux/sound/sound_file.h"
@@ -42,6 +43,7 @@ private:
     Layouts AllLayouts();
     void LeaveBuses();
 
+    SharedLooks looks_;
     SystemClock clock_;
     QtEventLoop eventLoop_;
     PosixFiles files_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QTime>
 
 #include "desktop/face/face_button.h"
@@ -17,7 +18,10 @@ protected:
     void PaintFace(QPainter& painter) override;
 
 private:
+    const QPixmap& Dial();
+
     QTime time_{0, 0};
+    QPixmap dial_;  // without its hands
 };
 
 }  // namespace horavex

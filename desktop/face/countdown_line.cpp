@@ -1,7 +1,9 @@
 #include "desktop/face/countdown_line.h"
 
 #include <QFontMetricsF>
+#include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
@@ -15,6 +17,7 @@ namespace {
 constexpr int kDigitsSize = 46;
 constexpr int kWordsSize = 17;
 constexpr double kGap = 12.0;
+constexpr int kOverhang = 4;  // of digits over their own width, at most
 
 }  // namespace
 
@@ -28,11 +31,19 @@ QString CountdownDigits(int seconds) {
 
 void CountdownLine::ShowCountdown(const QString& words, int seconds) {
     const QString digits = CountdownDigits(seconds);
-    if (words != words_ || digits != digits_) {
-        words_ = words;
-        digits_ = digits;
-        update();
+    if (words == words_ && digits == digits_) {
+        return;
     }
+    const bool isBesideTheSameWords = words == words_ && WidthOf(digits) == painted_.width();
+    words_ = words;
+    digits_ = digits;
+    isBesideTheSameWords ? update(painted_.toAlignedRect().adjusted(-kOverhang, 0, kOverhang, 0))
+                         : update();
+}
+
+double CountdownLine::WidthOf(const QString& digits) const {
+    const QFontMetricsF metrics(FaceFont(kDigitsSize, true));
+    return std::min<double>(metrics.horizontalAdvance(digits), width());
 }
 
 // Words and digits stand on one line of writing, in the order of the words' script.
@@ -43,18 +54,19 @@ void CountdownLine::paintEvent(QPaintEvent* event) {
     }
     QPainter painter(this);
     const bool fromRight = DirectionOf(words_) == Qt::RightToLeft;
-    const QFont large = FaceFont(kDigitsSize, true);
-    const QFontMetricsF metrics(large);
-    const double needed = std::min<double>(metrics.horizontalAdvance(digits_), width());
+    const double needed = WidthOf(digits_);
     const QRectF line = rect();
     const double cut = line.width() - needed;
+    painted_ = QRectF(fromRight ? 0.0 : cut, 0.0, needed, line.height());
     painter.setPen(kGold);
-    painter.setFont(large);
-    painter.drawText(QRectF(fromRight ? 0.0 : cut, 0.0, needed, line.height()),
-                     Qt::AlignCenter | Qt::TextDontClip, digits_);
-    painter.setPen(kCream);
-    DrawFitted(painter, QRectF(fromRight ? needed + kGap : 0.0, 0.0, cut - kGap, line.height()),
-               Qt::AlignLeading | Qt::AlignVCenter, FaceFont(kWordsSize), words_);
+    painter.setFont(FaceFont(kDigitsSize, true));
+    painter.drawText(painted_, Qt::AlignCenter | Qt::TextDontClip, digits_);
+    const QRectF room(fromRight ? needed + kGap : 0.0, 0.0, cut - kGap, line.height());
+    if (event->region().intersects(room.toAlignedRect())) {
+        painter.setPen(kCream);
+        DrawFitted(painter, room, Qt::AlignLeading | Qt::AlignVCenter, FaceFont(kWordsSize),
+                   words_);
+    }
 }
 
 }  // namespace horavex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRectF>
+
 #include "desktop/face/text_line.h"
 
 namespace horavex {
@@ -10,15 +12,18 @@ class CountdownLine : public TextLine {
 public:
     using TextLine::TextLine;
 
-    /// Paints anew only for other words or another second.
+    /// Paints anew only for other words or another second, and for that the digits alone.
     void ShowCountdown(const QString& words, int seconds);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    double WidthOf(const QString& digits) const;
+
     QString words_;
     QString digits_;
+    QRectF painted_;  // where the digits were last
 };
 
 /// Hours, minutes and seconds, "2:05:09", in the digits that users chose.

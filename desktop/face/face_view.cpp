@@ -214,20 +214,25 @@ QDate FaceView::ToldDate() const {
     return QLocale::c().toDate(ToldDateText(), QStringLiteral("d MMMM yyyy"));
 }
 
+// The date is told with every second; reading and writing it is work of once a day.
 void FaceView::ShowDate() {
-    const QDate date = ToldDate();
-    if (names_ && date.isValid()) {
-        ShowDateAs(names_->dayName(date.dayOfWeek()), Written(date, *names_));
-    } else {
-        ShowDateAs(Value("_root.myDay"), ToldDateText().trimmed());
+    const QString told = Value("_root.myDay") + u' ' + ToldDateText();
+    if (told != writtenDate_.told) {
+        writtenDate_ = WriteDate();
+        writtenDate_.told = told;
     }
+    if (writtenDate_.day != day_->text()) {
+        day_->setText(writtenDate_.day);
+    }
+    date_->ShowText(writtenDate_.date);
 }
 
-void FaceView::ShowDateAs(const QString& day, const QString& date) {
-    if (day != day_->text()) {
-        day_->setText(day);
+FaceView::WrittenDate FaceView::WriteDate() const {
+    const QDate date = ToldDate();
+    if (names_ && date.isValid()) {
+        return {{}, names_->dayName(date.dayOfWeek()), Written(date, *names_)};
     }
-    date_->ShowText(date);
+    return {{}, Value("_root.myDay"), ToldDateText().trimmed()};
 }
 
 void FaceView::ShowHijriDate() {
@@ -325,6 +330,7 @@ void FaceView::TakeKeys() {
 // With the captions another language may have come.
 void FaceView::ShowCaptions() {
     names_ = language_ ? language_() : std::nullopt;
+    writtenDate_ = {};
     ShowDate();
     qibla_->setText(Value("qibla"));
     allTimes_->setText(Value("prayer_time"));
@@ -368,7 +374,9 @@ void FaceView::mouseReleaseEvent(QMouseEvent* event) {
 
 void FaceView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    ground_.Paint(painter, event->rect(), devicePixelRatioF());
+    for (const QRect& part : event->region()) {
+        ground_.Paint(painter, part, devicePixelRatioF());
+    }
 }
 
 }  // namespace horavex

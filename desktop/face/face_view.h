@@ -69,6 +69,13 @@ private:
 
     using Reaction = void (FaceView::*)();
 
+    /// The date in the language of the captions, of what was told.
+    struct WrittenDate {
+        QString told;
+        QString day;
+        QString date;
+    };
+
     /// What each variable changes.
     static const std::map<std::string, Reaction>& Reactions();
 
@@ -89,7 +96,7 @@ private:
     QString ToldDateText() const;
     QDate ToldDate() const;
     void ShowDate();
-    void ShowDateAs(const QString& day, const QString& date);
+    WrittenDate WriteDate() const;
     void ShowHijriDate();
     void ShowNext();
     void ShowRemaining();
@@ -104,6 +111,7 @@ private:
     Language language_;
     std::optional<QLocale> names_;           // of days and months
     std::map<std::string, QString> values_;  // by variable
+    WrittenDate writtenDate_;
 
     ClockDial* clock_;
     CaptionButton* day_;

@@ -2,10 +2,13 @@
 
 #include <unistd.h>
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <chrono>
 #include <thread>
 #include <utility>
+
+#include "linux/shared_looks.h"
 
 namespace horavex {
 
@@ -18,6 +21,11 @@ constexpr qint64 kShortestGap = 5;  // milliseconds
 QtEventLoop::QtEventLoop(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {
     wakeUp_.setSingleShot(true);
     wakeUp_.setTimerType(Qt::PreciseTimer);
+    // Which of the two comes in front of a turn's events is the dispatcher's affair.
+    const auto* dispatcher = QAbstractEventDispatcher::instance();
+    using Dispatcher = QAbstractEventDispatcher;
+    QObject::connect(dispatcher, &Dispatcher::aboutToBlock, &wakeUp_, SharedLooks::Renew);
+    QObject::connect(dispatcher, &Dispatcher::awake, &wakeUp_, SharedLooks::Renew);
 }
 
 // Routines pump after each item of a list, thousands of times a second; drawing the windows as
@@ -38,6 +46,7 @@ void QtEventLoop::Rest(int milliseconds) {
 
 void QtEventLoop::Sleep(int milliseconds) {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    SharedLooks::Renew();
 }
 
 void QtEventLoop::EndProcess() {

@@ -8,7 +8,8 @@
 
 namespace horavex {
 
-/// The loop of the toolkit. Both waits deliver input, timers and repaints alike.
+/// The loop of the toolkit. Both waits deliver input, timers and repaints alike. Each turn of it,
+/// and a sleep, renews shared looks.
 class QtEventLoop : public EventLoop {
 public:
     /// onEnd comes right before the end of the process.

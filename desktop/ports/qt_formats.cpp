@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QTime>
+#include <algorithm>
 #include <cmath>
 
 #include "base/rounding.h"
@@ -11,8 +12,15 @@ namespace horavex {
 
 namespace {
 
+bool IsOfLatin1(const QString& text) {
+    return std::ranges::all_of(text, [](QChar letter) { return letter.unicode() <= 0xff; });
+}
+
 /// In ASCII digits, whatever the locale's own are.
 QString WithPlainDigits(const QString& text) {
+    if (IsOfLatin1(text)) {
+        return text;
+    }
     QString plain;
     for (const uint letter : text.toUcs4()) {
         const bool isDigit = QChar::category(letter) == QChar::Number_DecimalDigit;

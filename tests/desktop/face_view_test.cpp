@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 
 #include "desktop/face/compass.h"
 #include "desktop/face/countdown_line.h"
@@ -585,6 +586,47 @@ TEST_F(FaceTest, ATickPaintsTheCountdownAndTheClockAlone) {
     TellEnglish(face);
     face.SetVariable("_root.sNextRemaining", "Remaining: 2:35:59");
     EXPECT_EQ(painted.WithNextTurnOf(clock).size(), 2);
+}
+
+/// What is painted of a widget.
+class PaintedRegion : public QObject {
+public:
+    explicit PaintedRegion(QWidget& widget) { widget.installEventFilter(this); }
+
+    /// With the next turn that paints it.
+    QRect Next() {
+        region_ = {};
+        while (region_.isEmpty()) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        return region_.boundingRect();
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            region_ += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+private:
+    QRegion region_;
+};
+
+TEST_F(FaceTest, ASecondPaintsTheDigitsOfTheCountdownAlone) {
+    auto& line = *window.findChild<CountdownLine*>("countdown");
+    PaintedRegion painted(line);
+    line.ShowCountdown("Remaining:", 9359);
+    painted.Next();
+    line.ShowCountdown("Remaining:", 9358);
+    const QRect digits = painted.Next();
+    EXPECT_LT(digits.width(), line.width() * 2 / 3);
+    EXPECT_EQ(digits.right(), line.rect().right());
+    line.ShowCountdown("Noch", 9358);
+    EXPECT_EQ(painted.Next(), line.rect());
+    line.ShowCountdown("Noch", 360000);
+    EXPECT_EQ(painted.Next(), line.rect()) << "wider digits leave the words less room";
 }
 
 TEST(ClockOfTheFace, HandsMoveWithTheCountdown) {

@@ -5,6 +5,8 @@
 #include <QElapsedTimer>
 #include <cstdio>
 
+#include "linux/shared_looks.h"
+
 namespace horavex {
 namespace {
 
@@ -87,6 +89,32 @@ TEST(QtEventLoopDeathTest, EndOfTheProcessIsToldBeforeIt) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(QtEventLoop([] { std::fputs("farewell", stderr); }).EndProcess(),
                 testing::ExitedWithCode(0), "farewell");
+}
+
+int looks = 0;
+
+std::string Count(const std::string&) {
+    return std::to_string(++looks);
+}
+
+TEST(QtEventLoop, EachTurnAndEachSleepLooksAnew) {
+    const SharedLooks shared;
+    QtEventLoop loop;
+    looks = 0;
+    SharedLooks::Of(Count, "a");
+    SharedLooks::Of(Count, "a");
+    EXPECT_EQ(looks, 1);
+    loop.Rest(1);
+    SharedLooks::Of(Count, "a");
+    EXPECT_EQ(looks, 2);
+    QTimer::singleShot(0, [] { SharedLooks::Of(Count, "a"); });
+    loop.Pump();
+    EXPECT_EQ(looks, 3);
+    SharedLooks::Of(Count, "a");
+    const int before = looks;
+    loop.Sleep(1);
+    SharedLooks::Of(Count, "a");
+    EXPECT_EQ(looks, before + 1);
 }
 
 }  // namespace
