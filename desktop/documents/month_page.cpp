@@ -94,6 +94,8 @@ private:
         font.setBold(bold);
         font.setHintingPreference(QFont::PreferNoHinting);
         painter_.setFont(font);
+        const QFontMetricsF metrics(font, painter_.device());
+        baseline_ = (metrics.ascent() - metrics.descent()) / 2.0;
     }
 
     /// From the side where the language begins.
@@ -104,7 +106,9 @@ private:
         return {area_.left() + area_.right() - box.right(), box.top(), box.width(), box.height()};
     }
 
-    /// The text runs in its own direction, at the side where the language begins.
+    /// The text runs in its own direction, at the side where the language begins. Whatever its
+    /// letters, it stands on the baseline of its row: those of some scripts reach higher than the
+    /// font that was asked for.
     void Write(const QRectF& box, const QString& text, const QColor& colour = kInk) {
         QTextOption option(Words().rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
         option.setWrapMode(QTextOption::NoWrap);
@@ -116,7 +120,7 @@ private:
         line.setLineWidth(box.width());
         layout.endLayout();
         const QRectF place = Mirrored(box);
-        Draw(layout, {place.left(), place.center().y() - line.height() / 2.0}, colour);
+        Draw(layout, {place.left(), place.center().y() + baseline_ - line.ascent()}, colour);
     }
 
     /// In smaller type where it is too wide.
@@ -284,6 +288,7 @@ private:
     std::span<const TimetableDay> days_;
     std::vector<double> widths_;  // of the columns, pixels
     double top_ = area_.top();    // where the next line begins
+    double baseline_ = 0.0;       // below the middle of a line
 };
 
 }  // namespace

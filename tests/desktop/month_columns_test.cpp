@@ -117,22 +117,38 @@ struct MonthColumns : TimetableTest, testing::WithParamInterface<std::string> {
     }
 };
 
-/// How far the texts of whole rows stand from each other at least, in points.
-double NarrowestGap(std::map<int, std::vector<TextKeeper::Piece>>& lines) {
-    double narrowest = 100.0;
-    for (auto& [baseline, pieces] : lines) {
-        std::ranges::sort(pieces, {}, &TextKeeper::Piece::left);
-        for (std::size_t i = 1; pieces.size() == 8 && i < pieces.size(); ++i) {
-            narrowest = std::min(narrowest, pieces[i].left - pieces[i - 1].right);
+/// The texts of a line from the left. One in two scripts is written in pieces that touch; where one
+/// column ran into the next, they would be one text too.
+std::vector<TextKeeper::Piece> WholeTexts(std::vector<TextKeeper::Piece> pieces) {
+    std::ranges::sort(pieces, {}, &TextKeeper::Piece::left);
+    std::vector<TextKeeper::Piece> texts;
+    for (const TextKeeper::Piece& piece : pieces) {
+        if (!texts.empty() && piece.left < texts.back().right + 1.0) {
+            texts.back().right = std::max(texts.back().right, piece.right);
+            texts.back().text += piece.text;
+        } else {
+            texts.push_back(piece);
         }
     }
+    return texts;
+}
+
+/// How far the columns of the thirty days stand from each other at least, in points.
+double NarrowestGap(const TextKeeper& page) {
+    double narrowest = 100.0;
+    int days = 0;
+    for (const auto& [baseline, pieces] : page.lines) {
+        const std::vector<TextKeeper::Piece> texts = WholeTexts(pieces);
+        days += texts.size() == 8 ? 1 : 0;
+        for (std::size_t i = 1; texts.size() == 8 && i < texts.size(); ++i) {
+            narrowest = std::min(narrowest, texts[i].left - texts[i - 1].right);
+        }
+    }
+    EXPECT_GE(days, 30);
     return narrowest * 72.0 / 300.0;
 }
 
 TEST_P(MonthColumns, StandApart) {
-    if (GetLangString("timetables", "Direction", "") == "rtl") {
-        GTEST_SKIP() << "texts of two directions come in pieces";
-    }
     const Timetable table = TakeTimetable();
     const TimetableWords words = TakeTimetableWords();
     TextPage page(QPageSize(QPageSize::A4).sizePixels(300) - QSize(354, 354));
@@ -140,7 +156,7 @@ TEST_P(MonthColumns, StandApart) {
     DrawMonthPage(painter, QRectF(0, 0, page.width(), page.height()), 300.0,
                   {table, words, DateSerial(2026, 11, 20)}, 11);
     painter.end();
-    EXPECT_GE(NarrowestGap(page.keeper.lines), 9.0);
+    EXPECT_GE(NarrowestGap(page.keeper), 9.0);
 }
 
 TEST_P(MonthColumns, HoldTheirTexts) {
