@@ -5,6 +5,8 @@
 #include "engine/angle.h"
 #include "lang/language_pack.h"
 #include "support/test_platform.h"
+#include "update/update_room.h"
+#include "windows/frm_main.h"
 #include "windows/horavex_main_form.h"
 
 namespace horavex {
@@ -159,6 +161,12 @@ TEST_F(UpdateCheckTest, AnswerIsToldBeforeLabelAndBarGo) {
     CheckForUpdate();
     InstallPlatform(&own);
     EXPECT_EQ(dialogs.messages.size(), 3U);
+}
+
+TEST_F(UpdateCheckTest, MenuAsksForOneAndHearsThatThereIsNone) {
+    BindUpdateRoom();
+    Publish("");
+    EXPECT_THAT(MessagesOf([] { frmMain->mnuUpdate.UserClick(); }), ElementsAre(kNoAnswer));
 }
 
 TEST_F(UpdateCheckTest, SilentCheckShowsItsProgressToo) {

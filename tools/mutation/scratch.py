@@ -10,11 +10,12 @@ _LEFT_OUT = ("build", ".git")
 
 
 class Scratch:
-    """The folder has the copy in "tree", its build in "build" and what a mutant needs in "mutant"."""
+    """The folder has the copy in "tree" with its build inside it, and what a mutant needs in "mutant".
+    The build lies where others have theirs, or ccache would know none of its objects."""
 
     def __init__(self, source, folder):
         self.tree = os.path.join(folder, "tree")
-        self.build = os.path.join(folder, "build")
+        self.build = os.path.join(self.tree, "build", "release")
         self.own = os.path.join(folder, "mutant")
         for path in (self.tree, self.own):
             os.makedirs(path, exist_ok=True)
@@ -92,8 +93,8 @@ def _compiler_at(words):
 
 def _mirror(source, target):
     """What differs is copied, what is gone is deleted, all else keeps its time for the build."""
-    names = {name for name in os.listdir(source) if name not in _LEFT_OUT}
-    for name in set(os.listdir(target)) - names:
+    names = set(os.listdir(source)).difference(_LEFT_OUT)
+    for name in set(os.listdir(target)).difference(names, _LEFT_OUT):
         path = os.path.join(target, name)
         shutil.rmtree(path) if os.path.isdir(path) and not os.path.islink(path) else os.remove(path)
     for name in names:
