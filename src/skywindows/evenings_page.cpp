@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/script.h"
+#include "calendar/date_words.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "lang/pack_number.h"
@@ -46,6 +47,14 @@ std::string AgeText(const CrescentEvening& evening) {
     return WithNumber(CrescentWord("Hours", "{hours} h"), "{hours}", PlacesText(evening.age, 1));
 }
 
+/// "18 February": the line above the table has the year.
+std::string EveningDate(Date day) {
+    const CivilDate date = CivilFromDate(day);
+    return FilledText(
+        FilledText(SkyWord("DayMonth", "{day} {month}"), "{day}", std::to_string(date.day)),
+        "{month}", GregorianMonthName(date.month));
+}
+
 /// "A  easily visible", or why no criterion is asked.
 std::string ClassText(const ClassWords& words, EveningKind kind, const CrescentEvening& evening,
                       Criterion criterion) {
@@ -62,7 +71,7 @@ std::vector<std::string> CellsOf(const DatedEvening& evening, const ZoneClock& c
                                  EveningKind kind) {
     const ClassWords words = PackClassWords();
     const CrescentEvening& crescent = *evening.crescent;
-    return {CalendarDate(evening.day),
+    return {EveningDate(evening.day),
             SkyTime(clock, crescent.sunset),
             SkyTime(clock, crescent.moonset),
             LagText(crescent),
@@ -78,7 +87,7 @@ std::vector<std::string> CellsOf(const DatedEvening& evening, const ZoneClock& c
 /// An evening without a sunset, in the words of its last column.
 std::vector<std::string> CellsWithoutSunset(const DatedEvening& evening) {
     std::vector<std::string> cells(EveningHeads().size());
-    cells.front() = CalendarDate(evening.day);
+    cells.front() = EveningDate(evening.day);
     cells.back() = PackClassWords().noSunset;
     return cells;
 }

@@ -120,6 +120,17 @@ TEST_P(HelpPagesTest, PagesAreUtf8SayTheirLanguageAndHaveOneTitle) {
     }
 }
 
+/// Digits before words of Latin letters would else come to stand behind them.
+TEST_P(HelpPagesTest, PagesFromTheRightSetApartWhatIsQuotedFromTheLeft) {
+    const std::regex isolated("&#8294;[^&<]*&#8297;");
+    for (const std::string& page : Topics().Pages()) {
+        if (PackValue("Direction") == "rtl") {
+            const std::string others = std::regex_replace(Text(page), isolated, "");
+            EXPECT_THAT(Matches(others, "[0-9] [a-z]"), testing::IsEmpty()) << page;
+        }
+    }
+}
+
 TEST_P(HelpPagesTest, EveryElementThatOpensCloses) {
     for (const std::string& page : Topics().Pages()) {
         std::vector<std::string> open;
