@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "base/bytes.h"
+#include "base/fault.h"
 #include "linux/folders.h"
 
 namespace horavex {
@@ -36,6 +37,14 @@ std::string Quoted(std::string_view argument) {
     return quoted + "\"";
 }
 
+bool Holds(Files& files, const std::string& path, const Bytes& bytes) {
+    try {
+        return files.Exists(path) && ReadWhole(files, path) == bytes;
+    } catch (const FileFault&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 std::string AutostartEntries::Path(const std::string& baseName) const {
@@ -46,14 +55,20 @@ bool AutostartEntries::Has(const std::string& baseName) const {
     return files_.Exists(Path(baseName));
 }
 
+// Each start writes it, before its first window, and a write waits for the disk.
 void AutostartEntries::Write(const std::string& baseName) {
-    files_.WriteWhole(Path(baseName), BytesOf("[Desktop Entry]\n"
-                                              "Type=Application\n"
-                                              "Name=Horavex\n"
-                                              "Exec=" +
-                                              Quoted(executable_) +
-                                              "\n"
-                                              "Terminal=false\n"));
+    const std::string path = Path(baseName);
+    const Bytes entry = BytesOf(
+        "[Desktop Entry]\n"
+        "Type=Application\n"
+        "Name=Horavex\n"
+        "Exec=" +
+        Quoted(executable_) +
+        "\n"
+        "Terminal=false\n");
+    if (!Holds(files_, path, entry)) {
+        files_.WriteWhole(path, entry);
+    }
 }
 
 void AutostartEntries::Delete(const std::string& baseName) {

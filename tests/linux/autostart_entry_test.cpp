@@ -83,6 +83,18 @@ protected:
     AutostartEntries entries{files, program};
 };
 
+TEST_F(RealAutostartEntriesTest, EntryThatNamesTheProgramAlreadyIsNotWrittenAgain) {
+    const std::string written = files.StampOf(entries.Path("ZORIT"));
+    entries.Write("ZORIT");
+    EXPECT_EQ(files.StampOf(entries.Path("ZORIT")), written);
+}
+
+TEST_F(RealAutostartEntriesTest, EntryThatCannotBeReadIsWrittenAnew) {
+    std::filesystem::resize_file(entries.Path("ZORIT"), std::uintmax_t{kLargestTable} + 1);
+    entries.Write("ZORIT");
+    EXPECT_LT(std::filesystem::file_size(entries.Path("ZORIT")), 1000);
+}
+
 TEST_F(RealAutostartEntriesTest, DesktopsOwnToolFindsTheEntryValid) {
     const ProgramRun run = RunCommand({"desktop-file-validate", entries.Path("ZORIT")}, {});
     EXPECT_EQ(run.status, 0);
