@@ -1,11 +1,10 @@
 #include "linux/http_get.h"
 
-#include <curl/curl.h>
-
 #include <memory>
 #include <string_view>
 
 #include "base/text.h"
+#include "linux/curl_library.h"
 
 namespace horavex {
 
@@ -17,13 +16,13 @@ constexpr std::string_view kProtected = "https://";
 constexpr long kMostRedirections = 5;
 
 struct EasyCleanup {
-    void operator()(CURL* transfer) const { curl_easy_cleanup(transfer); }
+    void operator()(CURL* transfer) const { curl::curl_easy_cleanup(transfer); }
 };
 using Transfer = std::unique_ptr<CURL, EasyCleanup>;
 
 Transfer NewTransfer() {
-    static const CURLcode ready = curl_global_init(CURL_GLOBAL_DEFAULT);
-    return Transfer(ready == CURLE_OK ? curl_easy_init() : nullptr);
+    static const CURLcode ready = curl::curl_global_init(CURL_GLOBAL_DEFAULT);
+    return Transfer(ready == CURLE_OK ? curl::curl_easy_init() : nullptr);
 }
 
 struct Body {
@@ -42,18 +41,18 @@ std::size_t TakeBlock(char* block, std::size_t, std::size_t count, void* body) {
 }
 
 bool Run(CURL* transfer, const std::string& address, long milliseconds, Body& body) {
-    curl_easy_setopt(transfer, CURLOPT_URL, address.c_str());
-    curl_easy_setopt(transfer, CURLOPT_USERAGENT, "Horavex");
-    curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, kProtocols);
-    curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, RedirectionsOf(address));
-    curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
-    curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMostRedirections);
-    curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, milliseconds);
+    curl::curl_easy_setopt(transfer, CURLOPT_URL, address.c_str());
+    curl::curl_easy_setopt(transfer, CURLOPT_USERAGENT, "Horavex");
+    curl::curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, kProtocols);
+    curl::curl_easy_setopt(transfer, CURLOPT_REDIR_PROTOCOLS_STR, RedirectionsOf(address));
+    curl::curl_easy_setopt(transfer, CURLOPT_FOLLOWLOCATION, 1L);
+    curl::curl_easy_setopt(transfer, CURLOPT_MAXREDIRS, kMostRedirections);
+    curl::curl_easy_setopt(transfer, CURLOPT_TIMEOUT_MS, milliseconds);
     // A name server that keeps silent is not waited for beyond that.
-    curl_easy_setopt(transfer, CURLOPT_QUICK_EXIT, 1L);
-    curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, TakeBlock);
-    curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
-    return curl_easy_perform(transfer) == CURLE_OK;
+    curl::curl_easy_setopt(transfer, CURLOPT_QUICK_EXIT, 1L);
+    curl::curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, TakeBlock);
+    curl::curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &body);
+    return curl::curl_easy_perform(transfer) == CURLE_OK;
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "linux/sound/pulse_devices.h"
 
-#include <pulse/pulseaudio.h>
-
 #include <chrono>
 #include <memory>
 #include <string_view>
+
+#include "linux/sound/pulse_library.h"
 
 namespace horavex {
 
@@ -16,12 +16,12 @@ using std::chrono::steady_clock;
 constexpr std::chrono::seconds kLimit{1};
 
 struct LoopFree {
-    void operator()(pa_mainloop* loop) const { ::pa_mainloop_free(loop); }
+    void operator()(pa_mainloop* loop) const { pulse::pa_mainloop_free(loop); }
 };
 struct ContextFree {
     void operator()(pa_context* context) const {
-        ::pa_context_disconnect(context);
-        ::pa_context_unref(context);
+        pulse::pa_context_disconnect(context);
+        pulse::pa_context_unref(context);
     }
 };
 
@@ -29,14 +29,15 @@ struct ContextFree {
 class Question {
 public:
     Question()
-        : loop_(::pa_mainloop_new()),
-          context_(::pa_context_new(::pa_mainloop_get_api(loop_.get()), "Horavex")) {
-        ::pa_context_set_state_callback(
+        : loop_(pulse::pa_mainloop_new()),
+          context_(pulse::pa_context_new(pulse::pa_mainloop_get_api(loop_.get()), "Horavex")) {
+        pulse::pa_context_set_state_callback(
             context_.get(), [](pa_context*, void* self) { static_cast<Question*>(self)->Ask(); },
             this);
-        over_ = ::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0;
+        over_ =
+            pulse::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0;
     }
-    ~Question() { ::pa_context_set_state_callback(context_.get(), nullptr, nullptr); }
+    ~Question() { pulse::pa_context_set_state_callback(context_.get(), nullptr, nullptr); }
     Question(const Question&) = delete;
     Question& operator=(const Question&) = delete;
 
@@ -51,15 +52,16 @@ public:
 private:
     void Wait(microseconds longest) {
         const bool runs =
-            ::pa_mainloop_prepare(loop_.get(), static_cast<int>(longest.count())) >= 0 &&
-            ::pa_mainloop_poll(loop_.get()) >= 0 && ::pa_mainloop_dispatch(loop_.get()) >= 0;
+            pulse::pa_mainloop_prepare(loop_.get(), static_cast<int>(longest.count())) >= 0 &&
+            pulse::pa_mainloop_poll(loop_.get()) >= 0 &&
+            pulse::pa_mainloop_dispatch(loop_.get()) >= 0;
         over_ = over_ || !runs;
     }
 
     void Ask() {
-        const pa_context_state_t state = ::pa_context_get_state(context_.get());
+        const pa_context_state_t state = pulse::pa_context_get_state(context_.get());
         if (state == PA_CONTEXT_READY) {
-            pa_operation* const operation = ::pa_context_get_sink_info_list(
+            pa_operation* const operation = pulse::pa_context_get_sink_info_list(
                 context_.get(),
                 [](pa_context*, const pa_sink_info* sink, int end, void* self) {
                     static_cast<Question*>(self)->Take(end == 0 ? sink : nullptr);
@@ -67,7 +69,7 @@ private:
                 this);
             over_ = operation == nullptr;
             if (!over_) {
-                ::pa_operation_unref(operation);
+                pulse::pa_operation_unref(operation);
             }
         } else if (!PA_CONTEXT_IS_GOOD(state)) {
             over_ = true;

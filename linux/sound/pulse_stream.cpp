@@ -18,7 +18,7 @@ constexpr pa_usec_t kLatency = 200 * PA_USEC_PER_MSEC;
 pa_buffer_attr Buffering(const pa_sample_spec& format) {
     constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
     return {.maxlength = kServersChoice,
-            .tlength = static_cast<std::uint32_t>(::pa_usec_to_bytes(kLatency, &format)),
+            .tlength = static_cast<std::uint32_t>(pulse::pa_usec_to_bytes(kLatency, &format)),
             .prebuf = kServersChoice,
             .minreq = kServersChoice,
             .fragsize = kServersChoice};
@@ -27,14 +27,15 @@ pa_buffer_attr Buffering(const pa_sample_spec& format) {
 /// Its answer comes without it.
 void Forget(pa_operation* operation) {
     if (operation != nullptr) {
-        ::pa_operation_unref(operation);
+        pulse::pa_operation_unref(operation);
     }
 }
 
 /// By its switch or at no volume: a device or a program.
 template <typename Information>
 bool IsMuted(const Information& information) {
-    return information.mute != 0 || ::pa_cvolume_is_muted(&information.volume) != 0;
+    return information.mute != 0 ||
+           pulse::pa_cvolume_channels_equal_to(&information.volume, PA_VOLUME_MUTED) != 0;
 }
 
 }  // namespace
@@ -42,9 +43,9 @@ bool IsMuted(const Information& information) {
 class PulseStream::Lock {
 public:
     explicit Lock(PulseStream& stream) : loop_(stream.loop_.get()) {
-        ::pa_threaded_mainloop_lock(loop_);
+        pulse::pa_threaded_mainloop_lock(loop_);
     }
-    ~Lock() { ::pa_threaded_mainloop_unlock(loop_); }
+    ~Lock() { pulse::pa_threaded_mainloop_unlock(loop_); }
     Lock(const Lock&) = delete;
     Lock& operator=(const Lock&) = delete;
 
@@ -55,9 +56,9 @@ private:
 PulseStream::PulseStream(const pa_sample_spec& format, std::string device, Events events)
     : format_(format),
       events_(std::move(events)),
-      loop_(::pa_threaded_mainloop_new()),
+      loop_(pulse::pa_threaded_mainloop_new()),
       device_(std::move(device)) {
-    ::pa_threaded_mainloop_start(loop_.get());
+    pulse::pa_threaded_mainloop_start(loop_.get());
     const Lock lock(*this);
     Connect();
 }
@@ -65,32 +66,32 @@ PulseStream::PulseStream(const pa_sample_spec& format, std::string device, Event
 // The thread ends first; from then on nothing is called. The closed connection takes the stream
 // off the server with all that was to be heard.
 PulseStream::~PulseStream() {
-    ::pa_threaded_mainloop_stop(loop_.get());
+    pulse::pa_threaded_mainloop_stop(loop_.get());
     if (stream_ != nullptr) {
-        ::pa_stream_set_state_callback(stream_.get(), nullptr, nullptr);
-        ::pa_stream_disconnect(stream_.get());
+        pulse::pa_stream_set_state_callback(stream_.get(), nullptr, nullptr);
+        pulse::pa_stream_disconnect(stream_.get());
     }
     stream_.reset();
     if (context_ != nullptr) {
-        ::pa_context_set_state_callback(context_.get(), nullptr, nullptr);
-        ::pa_context_set_subscribe_callback(context_.get(), nullptr, nullptr);
-        ::pa_context_disconnect(context_.get());
+        pulse::pa_context_set_state_callback(context_.get(), nullptr, nullptr);
+        pulse::pa_context_set_subscribe_callback(context_.get(), nullptr, nullptr);
+        pulse::pa_context_disconnect(context_.get());
     }
     context_.reset();
 }
 
 void PulseStream::Connect() {
-    context_.reset(::pa_context_new(::pa_threaded_mainloop_get_api(loop_.get()), kName));
-    ::pa_context_set_state_callback(
+    context_.reset(pulse::pa_context_new(pulse::pa_threaded_mainloop_get_api(loop_.get()), kName));
+    pulse::pa_context_set_state_callback(
         context_.get(),
         [](pa_context*, void* self) { static_cast<PulseStream*>(self)->ContextChanged(); }, this);
-    if (::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
+    if (pulse::pa_context_connect(context_.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
         Fail(sound_trouble::kNoServer);
     }
 }
 
 void PulseStream::ContextChanged() {
-    const pa_context_state_t state = ::pa_context_get_state(context_.get());
+    const pa_context_state_t state = pulse::pa_context_get_state(context_.get());
     if (state == PA_CONTEXT_READY) {
         OpenStream();
     } else if (!PA_CONTEXT_IS_GOOD(state)) {
@@ -99,29 +100,29 @@ void PulseStream::ContextChanged() {
 }
 
 void PulseStream::OpenStream() {
-    stream_.reset(::pa_stream_new(context_.get(), kName, &format_, nullptr));
+    stream_.reset(pulse::pa_stream_new(context_.get(), kName, &format_, nullptr));
     if (stream_ == nullptr) {
         Fail(sound_trouble::kFormat);
         return;
     }
-    ::pa_stream_set_state_callback(
+    pulse::pa_stream_set_state_callback(
         stream_.get(),
         [](pa_stream*, void* self) { static_cast<PulseStream*>(self)->StreamChanged(); }, this);
-    ::pa_stream_set_write_callback(
+    pulse::pa_stream_set_write_callback(
         stream_.get(),
         [](pa_stream*, std::size_t, void* self) { static_cast<PulseStream*>(self)->Feed(); }, this);
     const pa_buffer_attr buffering = Buffering(format_);
     constexpr auto kFlags = static_cast<pa_stream_flags_t>(
         PA_STREAM_ADJUST_LATENCY | PA_STREAM_AUTO_TIMING_UPDATE | PA_STREAM_INTERPOLATE_TIMING);
     const char* const device = device_.empty() ? nullptr : device_.c_str();
-    if (::pa_stream_connect_playback(stream_.get(), device, &buffering, kFlags, nullptr, nullptr) <
-        0) {
+    if (pulse::pa_stream_connect_playback(stream_.get(), device, &buffering, kFlags, nullptr,
+                                          nullptr) < 0) {
         FailStream();
     }
 }
 
 void PulseStream::StreamChanged() {
-    const pa_stream_state_t state = ::pa_stream_get_state(stream_.get());
+    const pa_stream_state_t state = pulse::pa_stream_get_state(stream_.get());
     if (state == PA_STREAM_READY) {
         ready_ = true;
         Listen();
@@ -136,7 +137,7 @@ void PulseStream::StreamChanged() {
 
 /// Hears of all that may mute it from now on.
 void PulseStream::Listen() {
-    ::pa_context_set_subscribe_callback(
+    pulse::pa_context_set_subscribe_callback(
         context_.get(),
         [](pa_context*, pa_subscription_event_type_t, std::uint32_t, void* self) {
             static_cast<PulseStream*>(self)->AskIfHeard();
@@ -144,23 +145,23 @@ void PulseStream::Listen() {
         this);
     constexpr auto kMixer = static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SINK |
                                                                 PA_SUBSCRIPTION_MASK_SINK_INPUT);
-    Forget(::pa_context_subscribe(context_.get(), kMixer, nullptr, nullptr));
+    Forget(pulse::pa_context_subscribe(context_.get(), kMixer, nullptr, nullptr));
     AskIfHeard();
 }
 
 void PulseStream::AskIfHeard() {
-    const char* const device = ::pa_stream_get_device_name(stream_.get());
+    const char* const device = pulse::pa_stream_get_device_name(stream_.get());
     dummy_ = device != nullptr && device == std::string_view(kDummyDevice);
-    Forget(::pa_context_get_sink_info_by_index(
-        context_.get(), ::pa_stream_get_device_index(stream_.get()),
+    Forget(pulse::pa_context_get_sink_info_by_index(
+        context_.get(), pulse::pa_stream_get_device_index(stream_.get()),
         [](pa_context*, const pa_sink_info* sink, int end, void* self) {
             if (end == 0) {
                 static_cast<PulseStream*>(self)->deviceMuted_ = IsMuted(*sink);
             }
         },
         this));
-    Forget(::pa_context_get_sink_input_info(
-        context_.get(), ::pa_stream_get_index(stream_.get()),
+    Forget(pulse::pa_context_get_sink_input_info(
+        context_.get(), pulse::pa_stream_get_index(stream_.get()),
         [](pa_context*, const pa_sink_input_info* input, int end, void* self) {
             if (end == 0) {
                 static_cast<PulseStream*>(self)->programMuted_ = IsMuted(*input);
@@ -172,13 +173,13 @@ void PulseStream::AskIfHeard() {
 void PulseStream::Feed() {
     while (ready_ && !queue_.empty()) {
         const Bytes& block = queue_.front();
-        const std::size_t room = ::pa_stream_writable_size(stream_.get());
+        const std::size_t room = pulse::pa_stream_writable_size(stream_.get());
         if (room == 0 || room == static_cast<std::size_t>(-1)) {
             return;
         }
         const std::size_t size = std::min(room, block.size() - taken_);
-        if (::pa_stream_write(stream_.get(), block.data() + taken_, size, nullptr, 0,
-                              PA_SEEK_RELATIVE) < 0) {
+        if (pulse::pa_stream_write(stream_.get(), block.data() + taken_, size, nullptr, 0,
+                                   PA_SEEK_RELATIVE) < 0) {
             return;
         }
         taken_ += size;
@@ -203,7 +204,7 @@ bool PulseStream::HasQueued() {
 
 void PulseStream::Drain() {
     const Lock lock(*this);
-    pa_operation* const operation = ::pa_stream_drain(
+    pa_operation* const operation = pulse::pa_stream_drain(
         stream_.get(),
         [](pa_stream*, int, void* self) {
             auto& stream = *static_cast<PulseStream*>(self);
@@ -219,10 +220,10 @@ void PulseStream::Drain() {
 std::int64_t PulseStream::Position() {
     const Lock lock(*this);
     pa_usec_t heard = 0;
-    if (!ready_ || ::pa_stream_get_time(stream_.get(), &heard) < 0) {
+    if (!ready_ || pulse::pa_stream_get_time(stream_.get(), &heard) < 0) {
         return 0;
     }
-    return static_cast<std::int64_t>(::pa_usec_to_bytes(heard, &format_));
+    return static_cast<std::int64_t>(pulse::pa_usec_to_bytes(heard, &format_));
 }
 
 std::string PulseStream::Trouble() {

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <pulse/pulseaudio.h>
-
 #include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include "base/bytes.h"
+#include "linux/sound/pulse_library.h"
 
 namespace horavex {
 
@@ -49,13 +48,15 @@ private:
     class Lock;
 
     struct LoopFree {
-        void operator()(pa_threaded_mainloop* loop) const { ::pa_threaded_mainloop_free(loop); }
+        void operator()(pa_threaded_mainloop* loop) const {
+            pulse::pa_threaded_mainloop_free(loop);
+        }
     };
     struct ContextFree {
-        void operator()(pa_context* context) const { ::pa_context_unref(context); }
+        void operator()(pa_context* context) const { pulse::pa_context_unref(context); }
     };
     struct StreamFree {
-        void operator()(pa_stream* stream) const { ::pa_stream_unref(stream); }
+        void operator()(pa_stream* stream) const { pulse::pa_stream_unref(stream); }
     };
 
     void Connect();

@@ -1,5 +1,7 @@
 #include "linux/sound/sample_spec.h"
 
+#include "linux/sound/pulse_library.h"
+
 namespace horavex {
 
 pa_sample_spec SpecOf(int sampleRate, SampleFormat format) {
@@ -11,7 +13,7 @@ pa_sample_spec SpecOf(int sampleRate, SampleFormat format) {
 bool IsPlayable(int sampleRate, SampleFormat format) {
     constexpr int kMostChannels = PA_CHANNELS_MAX;
     const pa_sample_spec spec = SpecOf(sampleRate, format);
-    return format.channels <= kMostChannels && ::pa_sample_spec_valid(&spec) != 0;
+    return format.channels <= kMostChannels && pulse::pa_sample_spec_valid(&spec) != 0;
 }
 
 }  // namespace horavex

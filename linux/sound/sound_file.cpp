@@ -57,9 +57,9 @@ int SoundFile::Open(const std::string& path) {
         return kNoSound;
     }
     path_ = path;
-    file_.reset(::sf_open(path.c_str(), SFM_READ, &info_));
+    file_.reset(sndfile::sf_open(path.c_str(), SFM_READ, &info_));
     if (file_ == nullptr) {
-        return std::max(::sf_error(nullptr), kNoSound);
+        return std::max(sndfile::sf_error(nullptr), kNoSound);
     }
     if (!IsPlayable(info_.samplerate, Format())) {
         Close();
@@ -84,7 +84,7 @@ Bytes SoundFile::Read(std::int32_t bytes) {
     const auto channels = static_cast<std::size_t>(info_.channels);
     const sf_count_t wanted = bytes / Format().MomentBytes();
     samples_.resize(static_cast<std::size_t>(wanted) * channels);
-    const sf_count_t read = ::sf_readf_float(file_.get(), samples_.data(), wanted);
+    const sf_count_t read = sndfile::sf_readf_float(file_.get(), samples_.data(), wanted);
     return BytesOfSamples(samples_, static_cast<std::size_t>(read) * channels);
 }
 
@@ -96,7 +96,7 @@ std::int64_t SoundFile::Seek(std::int64_t position) {
     }
     const sf_count_t wanted = std::min<sf_count_t>(position / Format().MomentBytes(), info_.frames);
     const sf_count_t before = std::max<sf_count_t>(wanted - info_.samplerate, 0);
-    sf_count_t reached = info_.seekable != 0 ? ::sf_seek(file_.get(), before, SEEK_SET) : -1;
+    sf_count_t reached = info_.seekable != 0 ? sndfile::sf_seek(file_.get(), before, SEEK_SET) : -1;
     if (reached < 0) {
         reached = 0;
         if (Open(std::string(path_)) != 0) {
@@ -110,8 +110,8 @@ std::int64_t SoundFile::Skip(std::int64_t moments) {
     samples_.resize(static_cast<std::size_t>(kSkippedAtOnce * info_.channels));
     sf_count_t skipped = 0;
     while (skipped < moments) {
-        const sf_count_t read = ::sf_readf_float(file_.get(), samples_.data(),
-                                                 std::min(kSkippedAtOnce, moments - skipped));
+        const sf_count_t read = sndfile::sf_readf_float(
+            file_.get(), samples_.data(), std::min(kSkippedAtOnce, moments - skipped));
         if (read <= 0) {
             break;
         }

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <sndfile.h>
-
 #include <memory>
 #include <vector>
 
+#include "linux/sound/sndfile_library.h"
 #include "platform/audio_file.h"
 
 namespace horavex {
@@ -25,7 +24,7 @@ public:
 
 private:
     struct Closer {
-        void operator()(SNDFILE* file) const { ::sf_close(file); }
+        void operator()(SNDFILE* file) const { sndfile::sf_close(file); }
     };
 
     /// Reads on and tells how many moments were there.

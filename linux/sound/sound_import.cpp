@@ -1,7 +1,6 @@
 #include "linux/sound/sound_import.h"
 
 #include <fcntl.h>
-#include <sndfile.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -11,6 +10,7 @@
 
 #include "base/fault.h"
 #include "base/text.h"
+#include "linux/sound/sndfile_library.h"
 #include "linux/system_call.h"
 
 namespace horavex {
@@ -21,7 +21,7 @@ constexpr sf_count_t kCopiedAtOnce = 65536;  // moments
 constexpr const char* kBareEndings[] = {".raw", ".pcm", "adpcm", ".g721", ".g723", ".g726"};
 
 struct Closer {
-    void operator()(SNDFILE* file) const { ::sf_close(file); }
+    void operator()(SNDFILE* file) const { sndfile::sf_close(file); }
 };
 
 using Sound = std::unique_ptr<SNDFILE, Closer>;
@@ -38,12 +38,12 @@ Descriptor OpenRegular(const std::string& path) {
 // Without a name the library has the content alone to go by.
 bool OpensByContent(const Descriptor& file) {
     SF_INFO info{};
-    return Sound(::sf_open_fd(file.Number(), SFM_READ, &info, SF_FALSE)) != nullptr;
+    return Sound(sndfile::sf_open_fd(file.Number(), SFM_READ, &info, SF_FALSE)) != nullptr;
 }
 
 bool OpensByName(const std::string& path) {
     SF_INFO info{};
-    return Sound(::sf_open(path.c_str(), SFM_READ, &info)) != nullptr;
+    return Sound(sndfile::sf_open(path.c_str(), SFM_READ, &info)) != nullptr;
 }
 
 bool HasBareEnding(const std::string& path) {
@@ -101,14 +101,14 @@ Sound OpenFlac(Memory& memory, const SF_INFO& source) {
     info.samplerate = source.samplerate;
     info.channels = source.channels;
     info.format = SF_FORMAT_FLAC | SF_FORMAT_PCM_16;
-    return Sound(::sf_open_virtual(&calls, SFM_WRITE, &info, &memory));
+    return Sound(sndfile::sf_open_virtual(&calls, SFM_WRITE, &info, &memory));
 }
 
 void Copy(SNDFILE* from, SNDFILE* to, int channels) {
     std::vector<float> samples(static_cast<std::size_t>(kCopiedAtOnce * channels));
     sf_count_t read = 0;
-    while ((read = ::sf_readf_float(from, samples.data(), kCopiedAtOnce)) > 0) {
-        ::sf_writef_float(to, samples.data(), read);
+    while ((read = sndfile::sf_readf_float(from, samples.data(), kCopiedAtOnce)) > 0) {
+        sndfile::sf_writef_float(to, samples.data(), read);
     }
 }
 
@@ -130,7 +130,7 @@ SoundKind KindOfSoundFile(const std::string& path) {
 
 Bytes FlacOf(const std::string& path) {
     SF_INFO info{};
-    const Sound sound(::sf_open(path.c_str(), SFM_READ, &info));
+    const Sound sound(sndfile::sf_open(path.c_str(), SFM_READ, &info));
     Memory memory;
     Sound flac = sound == nullptr ? nullptr : OpenFlac(memory, info);
     if (flac == nullptr) {
