@@ -74,12 +74,12 @@ void PlayTone(std::function<void()> unheard) {
     }
     UseChosenDevice();
     PlayFileAt(FullPath(kShortTone), {.percent = ReadOption(option::kAthanVolume)});
-    if (!IsPlaying()) {
+    if (IsPlaying()) {
+        tone = Tone{PlayNumber(), std::move(unheard)};
+        WatchTone();
+    } else {
         unheard();
-        return;
     }
-    tone = Tone{PlayNumber(), std::move(unheard)};
-    WatchTone();
 }
 
 void WatchTone() {

@@ -86,6 +86,16 @@ TEST_F(MissedTest, ClockThatIsSetBackMissesNothing) {
     EXPECT_THAT(platform.notices.shown, IsEmpty());
 }
 
+TEST_F(MissedTest, PrayerIsToldOnceThoughTheClockIsSetBackBeforeIt) {
+    SaveOption(option::kTellMissed, 1);
+    const Date asr = Asr();
+    for (int sleep = 0; sleep < 2; ++sleep) {
+        platform.clock.Set(asr - Minutes(5));
+        SleepUntil(asr + Minutes(30));
+    }
+    EXPECT_EQ(NoticeCount(), 1);
+}
+
 TEST_F(MissedTest, AthanDoesNotGoOnBehindASleep) {
     SaveOption(option::kTellMissed, 1);
     AddSound(SoundPath("athan"), 300);

@@ -101,6 +101,16 @@ TEST_F(QuietTest, ChoosingItSilencesWhatSounds) {
     EXPECT_EQ(Sounded("athan"), 1) << "its ten seconds are not over, but it is quiet";
 }
 
+TEST_F(QuietTest, ChoosingItSilencesATone) {
+    AddSound(SoundPath("tone"), 10);
+    SaveOption(option::kReminders[kAsr], 10);
+    SaveOption(option::kReminderSignal, Signal::kTone);
+    RunFrom(Arrival(kAsr) - Minutes(10), 3);
+    ASSERT_TRUE(IsPlaying());
+    frmMain->mnuPopQuietNext.UserClick();
+    EXPECT_FALSE(IsPlaying());
+}
+
 TEST_F(QuietTest, HoursAreSwitchedFromTheMenu) {
     frmMain->mnuPopQuietHours.UserClick();
     EXPECT_TRUE(frmMain->mnuPopQuietHours.Checked());

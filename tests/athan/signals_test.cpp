@@ -5,6 +5,7 @@
 namespace horavex {
 namespace {
 
+using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -44,6 +45,15 @@ TEST_F(SignalsTest, IqamaComesItsMinutesAfterThePrayer) {
     RunFrom(Arrival(kAsr) + Minutes(20) - Seconds(2), 12);
     ASSERT_EQ(NoticeCount(), 1);
     EXPECT_EQ(LastNotice().title, "Iqama of Asr");
+}
+
+TEST_F(SignalsTest, OtherProgramsHearOfBoth) {
+    SaveOption(option::kReminders[kAsr], 15);
+    RunFrom(Arrival(kAsr) - Minutes(15), 3);
+    EXPECT_THAT(platform.broadcast.signals, Contains("ReminderDue reminder Asr 15"));
+    SaveOption(option::kIqamas[kAsr], 20);
+    RunFrom(Arrival(kAsr) + Minutes(20), 3);
+    EXPECT_THAT(platform.broadcast.signals, Contains("ReminderDue iqama Asr 20"));
 }
 
 TEST_F(SignalsTest, ToneSoundsAloneOrWithTheNotice) {
