@@ -32,6 +32,10 @@ bool IsOnPreviousDay(const Moment& moment) {
 
 }  // namespace
 
+bool HasMarks(const Moment& moment) {
+    return moment.dayShift != 0 || HasDagger(moment);
+}
+
 std::string WithMarks(const std::string& clock, const Moment& moment) {
     std::string text = clock;
     if (IsOnNextDay(moment)) {
@@ -54,8 +58,7 @@ std::string CellWithMarks(const std::string& clock, const Moment& moment) {
 }
 
 std::string MomentCell(const Moment& moment) {
-    const bool isPlain = moment.dayShift == 0 && !HasDagger(moment);  // as most are
-    return isPlain ? ClockText(moment) : CellWithMarks(ClockText(moment), moment);
+    return HasMarks(moment) ? CellWithMarks(ClockText(moment), moment) : ClockText(moment);
 }
 
 std::string RuleName(HighLatitudeRule rule) {

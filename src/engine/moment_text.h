@@ -17,6 +17,9 @@ namespace horavex {
 /// The dagger.
 inline constexpr const char* kRuleMark = "\u2020";
 
+/// True for a moment beside whose clock something stands.
+bool HasMarks(const Moment& moment);
+
 /// Sets both beside a text of the moment's clock: "12:14 AM, next day †".
 std::string WithMarks(const std::string& clock, const Moment& moment);
 

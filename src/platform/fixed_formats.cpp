@@ -14,9 +14,16 @@ constexpr const char* kMonths[] = {"January",   "February", "March",    "April",
                                    "May",       "June",     "July",     "August",
                                    "September", "October",  "November", "December"};
 
-// 0 to 99.
+// Of 0 to 99.
+char TensOf(int number) {
+    return static_cast<char>('0' + number / 10);
+}
+char UnitsOf(int number) {
+    return static_cast<char>('0' + number % 10);
+}
+
 std::string TwoDigits(int number) {
-    return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+    return {TensOf(number), UnitsOf(number)};
 }
 
 // 0 and 12 o'clock are 12.
@@ -36,12 +43,11 @@ Date DayOf(Date moment) {
 }  // namespace
 
 std::string FixedFormats::MediumTime(Date time) const {
+    // In one piece: a year's export asks for two thousand.
     const ClockTime t = ClockTimeOf(time);
-    std::string text = TwoDigits(HourOfDial(t.hour));
-    text += ':';
-    text += TwoDigits(t.minute);
-    text += HalfOfDay(t.hour);
-    return text;
+    const int hour = HourOfDial(t.hour);
+    return {TensOf(hour), UnitsOf(hour),           ':', TensOf(t.minute), UnitsOf(t.minute),
+            ' ',          t.hour < 12 ? 'A' : 'P', 'M'};
 }
 
 std::string FixedFormats::LongTime(Date time) const {

@@ -1,5 +1,9 @@
 #include "timetables/text_export.h"
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
 #include "base/number_text.h"
 #include "base/prayers.h"
 #include "base/text.h"
@@ -9,6 +13,8 @@
 #include "engine/moment_text.h"
 #include "engine/moments.h"
 #include "engine/progress_window.h"
+#include "engine/ruled_year.h"
+#include "engine/solar_event.h"
 #include "geo/qibla.h"
 #include "platform/platform.h"
 #include "store/location_record.h"
@@ -56,16 +62,33 @@ void AppendCell(std::string& page, std::string_view text) {
     AppendCentered(page, text, kTimeWidth);
 }
 
+/// None where the settings' own zone counts, which tell on which days its clock changes.
+std::vector<DayClock> ClocksOfZone(std::size_t days) {
+    return RuledYear.rules.moments.zone.empty() ? std::vector<DayClock>() : TakeClocks(days);
+}
+
+/// What the pages are of. A new year or a change of settings may come in between two days.
+struct ExportedYear {
+    Date first = DateSerial(CurrentYear, 1, 1);
+    int days = 365 + LeapFlag;
+    std::vector<DayMoments> moments = MomentsOfAllRows();
+    SettingsRecord settings = ActiveSettings;
+    std::string zoneName = RuledYear.rules.zoneName;
+    HighLatitudeRule highLatitude = RuledYear.rules.moments.highLatitude;
+    std::vector<DayClock> clocks = ClocksOfZone(moments.size());
+    double timeZone = clocks.empty() ? ActiveSettings.TimeZone : StandardHours(clocks);
+};
+
 /// Makes the block at the head of every month.
 class HeaderMaker {
 public:
-    std::string Make(const Timetable& table) const {
-        return PlaceLines() + ZoneLine(table) + QiblaLine() + Rule() + ColumnLines() + Rule();
+    std::string Text(TextEntry entry) const { return texts_.Item(entry, ActiveSettings.Language); }
+
+    std::string Make(const ExportedYear& year) const {
+        return PlaceLines() + ZoneLine(year) + QiblaLine() + Rule() + ColumnLines() + Rule();
     }
 
 private:
-    std::string Text(TextEntry entry) const { return texts_.Item(entry, ActiveSettings.Language); }
-
     std::string PlaceLines() const {
         const double latitude = StoredCoord(ActiveLocation.City.Latitude);
         const double longitude = StoredCoord(ActiveLocation.City.Longitude);
@@ -74,10 +97,10 @@ private:
                FormatLongitude(longitude, ActiveSettings.Language) + Crlf;
     }
 
-    std::string ZoneLine(const Timetable& table) const {
+    std::string ZoneLine(const ExportedYear& year) const {
         return Text(TextEntry::kTimeZone) + ": " + Text(TextEntry::kGmt) + " " +
-               SignedFixedText(table.timeZone, Ports().formats.DecimalMark()) +
-               (table.zoneName.empty() ? "" : ", " + table.zoneName) + Crlf;
+               SignedFixedText(year.timeZone, Ports().formats.DecimalMark()) +
+               (year.zoneName.empty() ? "" : ", " + year.zoneName) + Crlf;
     }
 
     std::string QiblaLine() const {
@@ -105,15 +128,6 @@ std::string MonthTitle(const std::string& prayerTimesOf, Date date) {
     return Rule() + CenterText(title, kPageWidth) + Crlf + Crlf;
 }
 
-/// What the pages are of. A new year or a change of settings may come in between two days.
-struct ExportedYear {
-    Date first = DateSerial(CurrentYear, 1, 1);
-    int days = 365 + LeapFlag;
-    std::vector<DayMoments> moments = MomentsOfAllRows();
-    SettingsRecord settings = ActiveSettings;
-    Timetable table = TakeTimetable(moments);
-};
-
 /// The change of a day of the settings. day: 1-based day of the year.
 DaylightChange ChangeInSettings(const SettingsRecord& settings, int day) {
     if (settings.DstEnabled != 1) {
@@ -126,8 +140,8 @@ DaylightChange ChangeInSettings(const SettingsRecord& settings, int day) {
 
 /// The same of the zone that counts, which may hold what the settings cannot.
 DaylightChange ChangeOn(const ExportedYear& year, int day) {
-    return year.table.zone.empty() ? ChangeInSettings(year.settings, day)
-                                   : year.table.days.at(static_cast<std::size_t>(day) - 1).change;
+    return year.clocks.empty() ? ChangeInSettings(year.settings, day)
+                               : year.clocks.at(static_cast<std::size_t>(day) - 1).change;
 }
 
 /// The mark before a day on which daylight saving changes; it leaves its footnote pending.
@@ -139,13 +153,44 @@ std::string DaylightMark(DaylightChange change, DaylightNote& flag) {
     return "*";
 }
 
-/// day: 1-based day of the year.
-void AppendDayCells(std::string& page, const ExportedYear& year, int day, int dayOfMonth) {
+/// The cells of a year's moments. Two thirds of them show a minute that another one shows, too.
+class Cells {
+public:
+    void Append(std::string& page, const Moment& moment) {
+        if (HasMarks(moment)) {
+            AppendCell(page, MomentCell(moment));
+        } else {
+            page += OfMinute(moment);
+        }
+    }
+
+private:
+    const std::string& OfMinute(const Moment& moment) {
+        const ClockTime clock = ClockTimeOf(moment.hours / 24.0);
+        std::string& cell = cells_[static_cast<std::size_t>(clock.hour * 60 + clock.minute)];
+        if (cell.empty()) {
+            AppendCell(cell, MomentCell(moment));
+        }
+        return cell;
+    }
+
+    std::vector<std::string> cells_ =
+        std::vector<std::string>(24 * 60);  // by the minute of the day; empty before the first
+};
+
+void AppendDay(std::string& page, const DayMoments& moments, int dayOfMonth, Cells& cells) {
     AppendCentered(page, std::to_string(dayOfMonth), kDayWidth);
-    for (const Moment& moment : year.moments[static_cast<std::size_t>(day) - 1]) {
-        AppendCell(page, MomentCell(moment));
+    for (const Moment& moment : moments) {
+        cells.Append(page, moment);
     }
     page += Crlf;
+}
+
+/// Those of a day that are times at all and have marks.
+void TakeMarked(const DayMoments& moments, std::vector<Moment>& marked) {
+    std::ranges::copy_if(moments, std::back_inserter(marked), [](const Moment& moment) {
+        return HasMarks(moment) && std::fabs(moment.hours) < NoEvent;
+    });
 }
 
 /// Groups of five days; the last one of a month runs into the rule.
@@ -172,10 +217,10 @@ std::string Wrapped(std::string_view text) {
     return lines + Crlf;
 }
 
-/// What the marks beside the times of a month mean; nothing without marks.
-std::string MarkLines(const Timetable& table, int month) {
+/// What the marks beside some moments mean; nothing without marks.
+std::string MarkLines(std::span<const Moment> moments, HighLatitudeRule rule) {
     std::string lines;
-    for (const std::string& note : NotesOfDays(table, DaysOfMonth(table, month))) {
+    for (const std::string& note : ColumnNotes(moments, rule)) {
         lines += Wrapped(note);
     }
     return lines;
@@ -202,9 +247,12 @@ void sub0529(DaylightNote& flag, int monthIndex, std::string& page, OutputFile& 
 
 void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) {
     const ExportedYear year;
-    const std::string header = HeaderMaker().Make(year.table);
-    const std::string prayerTimesOf = Text(TextEntry::kPrayerTimesOf);
+    const HeaderMaker heads;
+    const std::string header = heads.Make(year);
+    const std::string prayerTimesOf = heads.Text(TextEntry::kPrayerTimesOf);
     std::string page;
+    Cells cells;
+    std::vector<Moment> marked;  // of the page
     DaylightNote flag = kNoNote;
     int monthIndex = 0;
     for (int n = 1; n <= year.days; ++n) {
@@ -213,21 +261,24 @@ void WriteTextPages(OutputFile& file, const std::function<bool()>& isCancelled) 
         if (civil.day == 1) {
             if (n > 1) {
                 monthIndex = civil.month - 1;
-                page += MarkLines(year.table, monthIndex);
+                page += MarkLines(marked, year.highLatitude);
+                marked.clear();
                 sub0529(flag, monthIndex, page, file);
                 page = kFormFeed;
             }
             page += MonthTitle(prayerTimesOf, date) + header;
         }
+        const DayMoments& moments = year.moments[static_cast<std::size_t>(n) - 1];
         page += DaylightMark(ChangeOn(year, n), flag);
-        AppendDayCells(page, year, n, civil.day);
+        AppendDay(page, moments, civil.day, cells);
+        TakeMarked(moments, marked);
         page += EndsGroup(civil.day) ? Crlf : "";
         if (isCancelled()) {
             break;
         }
         Ports().eventLoop.Pump();
     }
-    page += MarkLines(year.table, monthIndex + 1);
+    page += MarkLines(marked, year.highLatitude);
     // The count of months stands where the last turn left it: the bar never fills.
     sub0529(flag, monthIndex, page, file);
 }

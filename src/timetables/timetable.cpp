@@ -24,14 +24,14 @@ namespace horavex {
 
 namespace {
 
-/// The clock of a day at its noon.
-ZoneSpan ClockOf(Date date) {
+DayClock ClockOf(Date date) {
     const std::vector<ZoneSpan>& zone = RuledYear.rules.moments.zone;
     if (!zone.empty()) {
-        return SpanOfLocal(zone, date + 0.5);
+        const ZoneSpan& span = SpanOfLocal(zone, date + 0.5);
+        return {span.hours, span.daylight, DaylightChange::kNone};
     }
     const bool daylight = IsDaylightDay(date, ActiveSettings);
-    return {date, ActiveSettings.TimeZone + (daylight ? 1.0 : 0.0), daylight};
+    return {ActiveSettings.TimeZone + (daylight ? 1.0 : 0.0), daylight, DaylightChange::kNone};
 }
 
 /// What is no time of any day, a damaged zone's, has no text either.
@@ -39,10 +39,9 @@ std::optional<Moment> IfExists(const Moment& moment) {
     return std::fabs(moment.hours) < NoEvent ? std::optional(moment) : std::nullopt;
 }
 
-TimetableDay TakeDay(std::size_t row, Date date, const DayMoments& moments, bool withTimesAround) {
-    const ZoneSpan clock = ClockOf(date);
-    TimetableDay day = {
-        date, RuledHijriDate(date), clock.hours, clock.daylight, DaylightChange::kNone, {}, {}};
+TimetableDay TakeDay(std::size_t row, Date date, const DayClock& clock, const DayMoments& moments,
+                     bool withTimesAround) {
+    TimetableDay day = {clock, date, RuledHijriDate(date), {}, {}};
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
         day.moments[prayer] = IfExists(moments[prayer]);
     }
@@ -53,21 +52,15 @@ TimetableDay TakeDay(std::size_t row, Date date, const DayMoments& moments, bool
 }
 
 /// The turn of the year is no change.
-void MarkChanges(std::vector<TimetableDay>& days) {
-    for (std::size_t row = 1; row < days.size(); ++row) {
-        if (!days[row - 1].daylight && days[row].daylight) {
-            days[row].change = DaylightChange::kBegins;
-        } else if (days[row - 1].daylight && !days[row].daylight &&
-                   days[row - 1].change == DaylightChange::kNone) {
-            days[row - 1].change = DaylightChange::kEnds;
+void MarkChanges(std::vector<DayClock>& clocks) {
+    for (std::size_t row = 1; row < clocks.size(); ++row) {
+        if (!clocks[row - 1].daylight && clocks[row].daylight) {
+            clocks[row].change = DaylightChange::kBegins;
+        } else if (clocks[row - 1].daylight && !clocks[row].daylight &&
+                   clocks[row - 1].change == DaylightChange::kNone) {
+            clocks[row - 1].change = DaylightChange::kEnds;
         }
     }
-}
-
-/// The clock without daylight saving.
-double StandardHours(const std::vector<TimetableDay>& days) {
-    const auto standard = std::ranges::find(days, false, &TimetableDay::daylight);
-    return standard == days.end() ? days.front().offset : standard->offset;
 }
 
 /// Appends a number with zeros in front up to a width, which a sign is part of.
@@ -102,11 +95,25 @@ std::vector<std::optional<Moment>> TimetableDay::Columns() const {
     return columns;
 }
 
-Timetable TakeTimetable() {
-    return TakeTimetable(MomentsOfAllRows());
+std::vector<DayClock> TakeClocks(std::size_t days) {
+    const Date newYear = DateSerial(CurrentYear, 1, 1);
+    std::vector<DayClock> clocks;
+    clocks.reserve(days);
+    for (std::size_t row = 0; row < days; ++row) {
+        clocks.push_back(ClockOf(newYear + static_cast<double>(row)));
+    }
+    MarkChanges(clocks);
+    return clocks;
 }
 
-Timetable TakeTimetable(std::span<const DayMoments> moments) {
+double StandardHours(std::span<const DayClock> clocks) {
+    const auto standard = std::ranges::find(clocks, false, &DayClock::daylight);
+    return standard == clocks.end() ? clocks.front().offset : standard->offset;
+}
+
+Timetable TakeTimetable() {
+    const std::vector<DayMoments> moments = MomentsOfAllRows();
+    const std::vector<DayClock> clocks = TakeClocks(moments.size());
     const YearRules& rules = RuledYear.rules;
     Timetable table = {.year = CurrentYear,
                        .place = ActiveCityText,
@@ -128,12 +135,11 @@ Timetable TakeTimetable(std::span<const DayMoments> moments) {
     const Date newYear = DateSerial(CurrentYear, 1, 1);
     table.days.reserve(moments.size());
     for (std::size_t row = 0; row < moments.size(); ++row) {
-        table.days.push_back(
-            TakeDay(row, newYear + static_cast<double>(row), moments[row], withTimesAround));
+        table.days.push_back(TakeDay(row, newYear + static_cast<double>(row), clocks[row],
+                                     moments[row], withTimesAround));
     }
-    MarkChanges(table.days);
     if (!table.zone.empty()) {
-        table.timeZone = StandardHours(table.days);
+        table.timeZone = StandardHours(clocks);
     }
     return table;
 }

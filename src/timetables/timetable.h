@@ -20,12 +20,22 @@ enum class DaylightChange {
     kEnds,    // the last one
 };
 
-struct TimetableDay {
-    Date date;              // midnight that begins it
-    HijriDate hijri;        // by the calendar of the face
-    double offset;          // of its clock at noon, hours east of Greenwich
-    bool daylight;          // that clock is the one of daylight saving
+/// The clock of a day at its noon.
+struct DayClock {
+    double offset;          // hours east of Greenwich
+    bool daylight;          // it is the one of daylight saving
     DaylightChange change;  // a day that is both begins
+};
+
+/// Those of days from the first of January of CurrentYear on, under the accepted settings.
+std::vector<DayClock> TakeClocks(std::size_t days);
+
+/// The offset without daylight saving; of a day at least.
+double StandardHours(std::span<const DayClock> clocks);
+
+struct TimetableDay : DayClock {
+    Date date;                                                // midnight that begins it
+    HijriDate hijri;                                          // by the calendar of the face
     std::array<std::optional<Moment>, kPrayerCount> moments;  // none for NoEvent
     std::vector<std::optional<Moment>> around;  // by AroundTime; empty unless an option asks
 
@@ -55,9 +65,6 @@ struct Timetable {
 
 /// The table of CurrentYear under the accepted settings.
 Timetable TakeTimetable();
-
-/// The same of the moments of all its rows, for those who need them, too.
-Timetable TakeTimetable(std::span<const DayMoments> moments);
 
 /// The days of a month, 1 to 12. The table must live as long.
 std::span<const TimetableDay> DaysOfMonth(const Timetable& table, int month);

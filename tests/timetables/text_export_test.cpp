@@ -1,11 +1,14 @@
 #include "timetables/text_export.h"
 
 #include "base/text.h"
+#include "engine/moment_text.h"
 #include "engine/ruled_year.h"
 #include "engine/solar_event.h"
 #include "engine/year_table.h"
+#include "store/around_options.h"
 #include "support/other_formats.h"
 #include "timetables/sample_timetable.h"
+#include "timetables/timetable.h"
 #include "windows/f_message.h"
 
 namespace horavex {
@@ -150,6 +153,13 @@ TEST_F(TextPagesTest, MarksAreExplainedBelowTheirMonthWithinThePage) {
                           "the high latitude rule \"middle of the night\" instead "
                           "of\r\nthe sun.\r\n-----"));
     EXPECT_THAT(pages.at(0), Not(HasSubstr("Times marked")));
+}
+
+TEST_F(TextPagesTest, MarksOfTimesThatThePagesDoNotHaveAreNotExplained) {
+    RuledYear.inputs = PresentInputs();
+    SaveOption(option::kAroundTheDay, 1);
+    EXPECT_TRUE(HasMarks(TakeTimetable().days.front().around.at(kLastThird).value()));
+    EXPECT_THAT(Written(), Not(HasSubstr("+1: on the next day")));
 }
 
 TEST_F(TextPagesTest, ZoneOfItsOwnMarksItsChangesAndIsNamed) {
