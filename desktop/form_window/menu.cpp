@@ -6,7 +6,7 @@
 
 #include "desktop/documents/picture_file.h"
 #include "desktop/form_window/caption_text.h"
-#include "desktop/look/look_style.h"
+#include "desktop/look/menu_parts.h"
 #include "desktop/user_text.h"
 
 namespace horavex {

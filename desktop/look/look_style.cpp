@@ -1,5 +1,6 @@
 #include "desktop/look/look_style.h"
 
+#include <QAbstractScrollArea>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
@@ -7,11 +8,11 @@
 #include <QTabBar>
 #include <QWidget>
 #include <algorithm>
-#include <optional>
 
 #include "desktop/look/icons.h"
 #include "desktop/look/look.h"
 #include "desktop/look/measures.h"
+#include "desktop/look/menu_parts.h"
 
 namespace horavex::look {
 
@@ -80,6 +81,7 @@ Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
 constexpr double kCorner = 2.0;  // radius
 constexpr int kChosenLine = 3;   // along the outer edge of the chosen tab, pixels
 constexpr int kGroupMargin = 3;  // between the frame of a group and its contents, pixels
+constexpr int kRing = 2;         // around what has the keyboard, pixels
 constexpr int kTick = 4;         // length of a slider's marks, pixels
 constexpr int kHeadShift = 3;    // of the head of a column, to stand over its cells, pixels
 
@@ -94,7 +96,7 @@ bool IsDefault(const QStyleOption& option) {
 void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, double corner) {
     const bool hasFocus = option.state.testFlag(QStyle::State_HasFocus);
     const Role role = hasFocus || IsDefault(option) ? Role::kMarked : Role::kEdge;
-    const double width = hasFocus ? 2.0 : 1.0;
+    const double width = hasFocus ? kRing : 1.0;
     const double inside = width / 2.0;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -105,44 +107,11 @@ void DrawEdge(const QStyleOption& option, QPainter& painter, const QRect& rect, 
     painter.restore();
 }
 
-/// A desktop's own colours are left to its style.
-bool HasOurColours(const QPalette& palette) {
-    return palette.color(QPalette::Window) == ColourOf(ThemeOf(palette), Role::kGround);
-}
-
 /// The toolkit makes its edges of darker shades of the ground, which are lost where that is dark.
 bool WantsEdges(const QStyleOption& option) {
     return (ThemeOf(option.palette) != Theme::kLight || IsDefault(option) ||
             option.state.testFlag(QStyle::State_HasFocus)) &&
            HasOurColours(option.palette);
-}
-
-/// Around a menu and between its groups of entries; none where the desktop's own style draws them.
-std::optional<QColor> EdgeOfMenu(const QPalette& palette, const QWidget* menu) {
-    const QVariant own = menu == nullptr ? QVariant() : menu->property(kMenuEdge);
-    if (own.isValid()) {
-        return own.value<QColor>();
-    }
-    return HasOurColours(palette) ? std::optional(ColourOf(ThemeOf(palette), Role::kEdge))
-                                  : std::nullopt;
-}
-
-void DrawMenuFrame(const QRect& menu, const QColor& edge, QPainter& painter) {
-    painter.save();
-    painter.setPen(edge);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(menu.adjusted(0, 0, -1, -1));
-    painter.restore();
-}
-
-bool IsSeparator(const QStyleOption& option) {
-    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
-    return entry != nullptr && entry->menuItemType == QStyleOptionMenuItem::Separator;
-}
-
-void DrawSeparator(const QRect& entry, const QColor& edge, QPainter& painter) {
-    painter.fillRect(entry.left() + kSpacing, entry.center().y(), entry.width() - 2 * kSpacing, 1,
-                     edge);
 }
 
 /// The chosen tab has a line that tells it without the keyboard, too.
@@ -161,24 +130,6 @@ void DrawTabEdges(const QStyleOption& tab, QPainter& painter) {
     if (tab.state.testFlag(QStyle::State_Selected) && HasOurColours(tab.palette)) {
         DrawChosenLine(tab, painter);
     }
-    painter.restore();
-}
-
-/// A chosen entry has a plain check mark: the toolkit's box, of the ground of fields, would stand
-/// out of a menu in other colours.
-void DrawMenuMark(const QStyleOption& option, QPainter& painter) {
-    if (!option.state.testFlag(QStyle::State_On)) {
-        return;
-    }
-    const QRectF box(option.rect);
-    const auto at = [&](double x, double y) {
-        return QPointF(box.x() + x * box.width(), box.y() + y * box.height());
-    };
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(option.palette.color(QPalette::Text), 2.0, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF{at(0.2, 0.55), at(0.4, 0.75), at(0.8, 0.3)});
     painter.restore();
 }
 
@@ -221,6 +172,11 @@ QStyleOptionComboBox ShortenedIn(int room, QStyleOptionComboBox box) {
     return box;
 }
 
+/// A list, a table or a text.
+bool HoldsScrolled(const QWidget* widget) {
+    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
 }  // namespace
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -236,6 +192,8 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return kSpacing;
         case PM_FocusFrameHMargin:
             return kCellMargin;
+        case PM_DefaultFrameWidth:  // what is scrolled would lie over the half of the ring
+            return HoldsScrolled(widget) ? kRing : QProxyStyle::pixelMetric(metric, option, widget);
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -243,7 +201,7 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 
 int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* answer) const {
-    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText) {
         return 0;
     }
     if (hint == SH_Widget_Animation_Duration && !MotionIsAllowed()) {
@@ -256,8 +214,12 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const {
     const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (type == CT_HeaderSection) {
         return whole + QSize(2 * kHeadShift, 0);
+    }
+    if (type == CT_MenuItem && entry != nullptr) {
+        return WithRoomForMarks(whole, *entry);
     }
     const bool hasWords = type == CT_PushButton && button != nullptr && !button->text.isEmpty();
     return hasWords ? whole + QSize(kButtonPadding, 0) : whole;
@@ -281,6 +243,9 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     if (element == PE_IndicatorCheckBox && qobject_cast<const QMenu*>(widget) != nullptr) {
         DrawMenuMark(*option, *painter);
         return;
+    }
+    if (element == PE_Frame && HoldsScrolled(widget)) {
+        painter->fillRect(option->rect, option->palette.base());
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_PanelMenu) {

@@ -5,9 +5,6 @@
 
 namespace horavex::look {
 
-/// A property of a menu in colours of its own: that of its frame and of the lines in it.
-inline constexpr const char* kMenuEdge = "menuEdge";
-
 /// The toolkit's style with the measures of these windows: a grid of four pixels, buttons told by
 /// their words, and edges that are seen on dark ground, too.
 class LookStyle : public QProxyStyle {

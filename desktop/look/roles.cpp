@@ -84,6 +84,10 @@ Theme ThemeOf(const QPalette& palette) {
     return isDark ? Theme::kDark : Theme::kLight;
 }
 
+bool HasOurColours(const QPalette& palette) {
+    return palette.color(QPalette::Window) == ColourOf(ThemeOf(palette), Role::kGround);
+}
+
 bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Active, QPalette::Window).lightness() <
            palette.color(QPalette::Active, QPalette::WindowText).lightness();

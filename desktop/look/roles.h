@@ -34,6 +34,9 @@ QPalette PaletteOf(Theme theme);
 /// used now does not count. Contrast: nothing but black and white.
 Theme ThemeOf(const QPalette& palette);
 
+/// Whether colours are those of a theme; a desktop's own are left to its style.
+bool HasOurColours(const QPalette& palette);
+
 /// Light texts on dark ground.
 bool IsDark(const QPalette& palette);
 

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
@@ -25,6 +26,7 @@
 
 #include "desktop/look/contrast.h"
 #include "desktop/look/measures.h"
+#include "desktop/look/menu_parts.h"
 #include "desktop/scoped_look.h"
 
 namespace horavex::look {
@@ -94,6 +96,56 @@ TEST(LookStyle, ChosenEntryOfAMenuHasAMarkAndNoBox) {
     }
 }
 
+TEST(LookStyle, MarkOfAnEntryThatIsPointedAtHasTheColourOfItsWords) {
+    QMenu menu;
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.fill(Qt::yellow);
+    QStyleOptionButton mark;
+    mark.rect = picture.rect();
+    mark.palette.setColor(QPalette::Text, Qt::white);
+    mark.palette.setColor(QPalette::HighlightedText, Qt::black);
+    mark.state = QStyle::State_On | QStyle::State_Selected;
+    QPainter painter(&picture);
+    menu.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &mark, &painter, &menu);
+    EXPECT_EQ(picture.pixelColor(6, 11), Qt::black);
+}
+
+TEST(LookStyle, WhatCannotBeUsedIsWrittenOnce) {
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
+}
+
+/// How many pixels the writing of an entry is wide.
+int WritingOf(QMenu& menu, QAction& entry) {
+    constexpr int kFrame = 4;
+    const QImage shown = menu.grab(menu.actionGeometry(&entry)).toImage();
+    int first = shown.width();
+    int last = 0;
+    for (int x = kFrame; x < shown.width() - kFrame; ++x) {
+        for (int y = kFrame; y < shown.height() - kFrame; ++y) {
+            if (qGray(shown.pixel(x, y)) < 128) {
+                first = std::min(first, x);
+                last = x;
+            }
+        }
+    }
+    return last - first + 1;
+}
+
+TEST(LookStyle, MenusAreAsWideAsTheirWordsAtEverySizeOfTexts) {
+    const ScopedLook look(Theme::kLight);
+    for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
+        QMenu menu;
+        QFont font = menu.font();
+        font.setPointSizeF(font.pointSizeF() * scale);
+        menu.setFont(font);
+        const QString words = QStringLiteral("Help Index");
+        QAction* entry = menu.addAction(words);
+        menu.adjustSize();
+        const int whole = QFontMetrics(font).tightBoundingRect(words).width();
+        EXPECT_NEAR(WritingOf(menu, *entry), whole, 2) << scale;
+    }
+}
+
 TEST(LookStyle, ChoiceRunsInTheDirectionOfItsBox) {
     const auto shown = [](const QString& text) {
         QComboBox box;
@@ -145,6 +197,25 @@ TEST(LookStyle, FocusIsARingThatIsSeenBesideAnEdge) {
             };
             EXPECT_GE(Contrast(inside(true), inside(false)), 3.0);
         }
+    }
+}
+
+TEST(LookStyle, FocusOfATextIsTheWholeRing) {
+    for (const Theme theme :
+         {Theme::kLight, Theme::kDark, Theme::kContrast, Theme::kLightContrast}) {
+        const ScopedLook look(theme);
+        QWidget window;
+        QPlainTextEdit text(&window);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        text.setFocus();
+        const QImage picture = text.grab().toImage();
+        for (const QPoint& dot : {QPoint(1, 50), QPoint(text.width() - 2, 50), QPoint(50, 1),
+                                  QPoint(50, text.height() - 2)}) {
+            EXPECT_EQ(picture.pixelColor(dot), ColourOf(theme, Role::kMarked));
+        }
+        text.clearFocus();
+        EXPECT_EQ(text.grab().toImage().pixelColor(1, 50), ColourOf(theme, Role::kField));
     }
 }
 
