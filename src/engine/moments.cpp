@@ -31,8 +31,8 @@ int DayShiftOf(double hours) {
 
 /// From Maghrib to the next Fajr.
 struct Night {
-    double hours = NoEvent;
-    bool endsByRule = false;
+    double hours;
+    bool endsByRule;
 };
 
 /// Makes the moments of one day.

@@ -140,6 +140,8 @@ TEST_F(AutomaticZoneTest, CityWhoseClockIsNotKnownShutsTheBoxAndSaysWhy) {
     platform.files.Delete("/program/Dat/ZI.DAT");
     Pick("new york");
     EXPECT_EQ(form.chkAutomaticZone.ToolTipText(), "No time zone is known for this city");
+    ShowWizard();
+    EXPECT_FALSE(wizard.chkAutomaticZone.Enabled());
 }
 
 TEST_F(AutomaticZoneTest, RefusedSetBringsTheAcceptedOptionBack) {

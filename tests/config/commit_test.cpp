@@ -109,6 +109,14 @@ TEST_F(CommitTest, CommitCopiesTheCityToTheWizard) {
     EXPECT_EQ(frmWizard->lblCity.Caption(), "Somewhere");
 }
 
+TEST_F(CommitTest, CityThatStaysIsNotShownAnew) {
+    frmMain->lblCity.SetCaption("Somewhere");
+    form.hsDepr.UserSlide(17);
+    form.SettingsSet.UserClick();
+    EXPECT_EQ(ActiveSettings.FajrAngle, 17.0);
+    EXPECT_EQ(frmMain->lblCity.Caption(), "Somewhere");
+}
+
 class FailingCommit : public CommitTest, public testing::WithParamInterface<WriteFailure> {};
 
 TEST_P(FailingCommit, LeavesEachFileOldOrNewWhicheverCallFails) {

@@ -11,6 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::EndsWith;
+using testing::ThrowsMessage;
 
 struct HelpTest : ProgramTest {
     HelpTest() { StartAgain(); }
@@ -102,7 +103,8 @@ TEST_F(HelpTest, MissingHelpIsAFault) {
     WriteHelpFile("[topics]\n9999=gone.html\n");
     EXPECT_THROW(ShowHelpContext(kHelpIndex), FileFault);
     WriteHelpFile("[windows]\n");
-    EXPECT_THROW(ShowHelpContext(kHelpIndex), FileFault);
+    EXPECT_THAT([] { ShowHelpContext(kHelpIndex); },
+                ThrowsMessage<FileFault>(EndsWith("\\Horavex.HLP: names no page")));
     platform.files.Delete("/program/Horavex.HLP");
     EXPECT_THROW(ShowHelpContext(kHelpIndex), FileFault);
 }

@@ -57,6 +57,16 @@ TEST_F(WizardCityTest, DamagedDataOffersNothing) {
     EXPECT_FALSE(wizard.cmdMyCity.Visible());
 }
 
+TEST_F(WizardCityTest, OfferOfAnEarlierOpeningGoesWithItsData) {
+    platform.whereabouts.zoneNames = {"Europe/Berlin"};
+    Start();
+    ASSERT_TRUE(wizard.cmdMyCity.Visible());
+    wizard.Command3.UserClick();
+    platform.files.WriteWhole("/program/Dat/Z.DAT", BytesOf("x"));
+    ShowWizard();
+    EXPECT_FALSE(wizard.cmdMyCity.Visible());
+}
+
 // The desktop's location service.
 
 struct LocateTest : WizardCityTest {

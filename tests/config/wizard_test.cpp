@@ -89,6 +89,7 @@ struct WizardTest : ProgramTest {
 
 TEST_F(WizardTest, OpensOnTheFirstPage) {
     ShowWizard();
+    EXPECT_FALSE(form.hsBegin.Enabled()) << "without daylight saving";
     EXPECT_THAT(PagesOnView(), ElementsAre(1));
     EXPECT_FALSE(form.cmdPrev.Enabled());
     EXPECT_FALSE(form.label5.Visible());
@@ -306,6 +307,28 @@ TEST_F(WizardTest, PreviewFollowsEachMovementOfTheAngles) {
     EXPECT_NE(form.lblTime(5).Caption(), isha);
     EXPECT_EQ(IshaAngle, 18.5);
     EXPECT_EQ(ActiveSettings.FajrAngle, 18.0);
+}
+
+TEST_F(WizardTest, PreviewFollowsTheDaysOfDaylightSavingWithTheNextPage) {
+    ShowWizard();
+    GoTo(3);
+    form.chkDayLT.UserClick();
+    form.hsEnd.UserDrag(364);
+    const std::string standard = Preview();
+    GoTo(4);
+    EXPECT_NE(Preview(), standard) << "21 November has become a day of summer time";
+}
+
+TEST_F(WizardTest, PreviewWaitsUntilAllThatItDependsOnHasMoved) {
+    ShowWizard();
+    GoTo(4);
+    const std::string before = Preview();
+    {
+        const PreviewHold hold;
+        form.hsDepr.UserDrag(15);
+        EXPECT_EQ(Preview(), before);
+    }
+    EXPECT_NE(Preview(), before);
 }
 
 TEST_F(WizardTest, PreviewFollowsTheAsrRatio) {

@@ -67,6 +67,15 @@ TEST(AroundTheDay, NightOfTheLastDayIsAsLongAsTheOneBefore) {
     EXPECT_NEAR(length(364), length(363), 1e-9);
 }
 
+TEST(AroundTheDay, LastNightButOneOfALeapYearIsItsOwn) {
+    Place cairo = Cairo();
+    cairo.inputs.year = 2028;
+    cairo.times = CalculateYear(cairo.inputs).times;
+    const double maghrib = cairo.Moments(364)[kMaghrib].hours;
+    const double fajr = cairo.Moments(365)[kFajr].hours + 24.0;
+    EXPECT_NEAR(cairo.Around(364)[kMiddleOfNight].hours, (maghrib + fajr) / 2.0, 1e-9);
+}
+
 TEST(AroundTheDay, MinutesOfThePrayersCountInThem) {
     Place cairo = Cairo();
     const AroundMoments plain = cairo.Around(100);

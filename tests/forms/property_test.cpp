@@ -69,6 +69,15 @@ TEST_F(PropertyTest, ScaleSizeIsOfFormsAndPicturesAlone) {
     EXPECT_EQ(form.frameAsr.Width(), 3000);
 }
 
+TEST_F(PropertyTest, ReadingAMissingPropertyFails) {
+    EXPECT_THROW(form.txtZone.Caption(), NoSuchPropertyFault);
+    EXPECT_THROW(form.lblCity.Text(), NoSuchPropertyFault);
+    EXPECT_THROW(form.tmrUpdate.Left(), NoSuchPropertyFault);
+    EXPECT_THROW(form.tmrUpdate.Visible(), NoSuchPropertyFault);
+    EXPECT_THROW(form.mnuExit.Width(), NoSuchPropertyFault);
+    EXPECT_THROW(form.Shape1.Enabled(), NoSuchPropertyFault);
+}
+
 TEST_F(PropertyTest, WritingAMissingPropertyFails) {
     EXPECT_THROW(form.txtZone.SetCaption("x"), NoSuchPropertyFault);
     EXPECT_THROW(form.lblCity.SetText("x"), NoSuchPropertyFault);

@@ -309,6 +309,13 @@ TEST_F(DistanceWindowTest, ClearGivesTheFirstStateBack) {
     EXPECT_EQ(form.lblCityB.Caption(), "City B is here");
 }
 
+TEST_F(DistanceWindowTest, ClearEmptiesTheBoxesOfTwoCities) {
+    FillIn();
+    ASSERT_TRUE(form.OptionTwoCities.Value());
+    form.cmdDistanceClear.UserClick();
+    EXPECT_THAT(Texts(), Each(""));
+}
+
 TEST_F(DistanceWindowTest, CityButtonsOpenThePickerWhoseCityFillsTheirBoxes) {
     form.cmdCityB.UserClick();
     ASSERT_TRUE(fCountry->IsModal());

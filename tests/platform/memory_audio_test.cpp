@@ -100,6 +100,8 @@ TEST_F(MemoryAudioPlayerTest, BlockThatIsBroughtAtTheCallPutsTheEndOff) {
 
 TEST_F(MemoryAudioPlayerTest, BlocksBeforeTheStartArePlayed) {
     player.Write(Bytes{1, 2});
+    player.FinishBlock();
+    EXPECT_THAT(player.heard, IsEmpty()) << "not yet";
     player.Start();
     player.PlayToTheEnd();
     EXPECT_THAT(player.heard, ElementsAre(1, 2));

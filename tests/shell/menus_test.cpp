@@ -8,8 +8,10 @@
 #include "windows/f_qibla.h"
 #include "windows/frm_about.h"
 #include "windows/frm_athan.h"
+#include "windows/frm_crescent.h"
 #include "windows/frm_date_convert.h"
 #include "windows/frm_distance.h"
+#include "windows/frm_sky.h"
 #include "windows/frm_times.h"
 #include "windows/frm_wizard.h"
 #include "windows/horavex_main_form.h"
@@ -218,7 +220,9 @@ TEST_F(MenusTest, ToolsComeUpModalInFrontOfTheFace) {
     const std::pair<MenuItem*, Form*> tools[] = {{&frmMain->mnuDateConversion, &*frmDateConvert},
                                                  {&frmMain->mnuQibla, &*fQibla},
                                                  {&frmMain->mnuDistance, &*frmDistance},
-                                                 {&frmMain->mnuMoonPhases, &*Moon_Phases}};
+                                                 {&frmMain->mnuMoonPhases, &*Moon_Phases},
+                                                 {&frmMain->mnuSky, &*frmSky},
+                                                 {&frmMain->mnuCrescent, &*frmCrescent}};
     for (const auto& [entry, form] : tools) {
         entry->UserClick();
         EXPECT_TRUE(form->IsModal()) << form->Name();

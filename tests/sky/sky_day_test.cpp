@@ -60,5 +60,16 @@ TEST(MoonShape, IsThePhaseOnItsDayAndWhatLiesBetweenOnTheOthers) {
     EXPECT_EQ(ShapeOn(3, 12), MoonShape::kWaningCrescent);
 }
 
+TEST(MoonShape, LastsUntilTheNextPhase) {
+    const auto lateOn = [](int month, int day) {
+        const SkySpan span = DayOf(month, day);
+        return MoonShapeAt(ErfaAlmanac(), span, span.end);
+    };
+    EXPECT_EQ(lateOn(2, 23), MoonShape::kWaxingCrescent);
+    EXPECT_EQ(lateOn(3, 2), MoonShape::kWaxingGibbous);
+    EXPECT_EQ(lateOn(3, 10), MoonShape::kWaningGibbous);
+    EXPECT_EQ(lateOn(3, 18), MoonShape::kWaningCrescent);
+}
+
 }  // namespace
 }  // namespace horavex

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "forms/inks.h"
 #include "skywindows/sky_test_place.h"
 #include "support/test_platform.h"
 
@@ -51,6 +52,30 @@ TEST_F(DayPictureTest, EverythingLiesInsideTheArea) {
             EXPECT_LE(std::max(line->from.x, line->to.x), kWidth);
         }
     }
+}
+
+TEST_F(DayPictureTest, HoursHaveTheirTicksUnderTheChart) {
+    const Drawing picture = PictureAt(In2026(2, 18, 9, 34));
+    double bottom = 0.0;  // of the line of the present
+    for (const DrawingStep& step : picture) {
+        const auto* line = std::get_if<LineStep>(&step);
+        bottom = line != nullptr && line->pen.colour == ink::kNow ? line->to.y : bottom;
+    }
+    const auto isTick = [&](const DrawingStep& step) {
+        const auto* line = std::get_if<LineStep>(&step);
+        return line != nullptr && line->from.y == bottom && line->to.y > bottom;
+    };
+    EXPECT_EQ(std::ranges::count_if(picture, isTick), 9);
+}
+
+TEST_F(DayPictureTest, LineOfThePresentGoesThroughTheSun) {
+    const Drawing picture = PictureAt(In2026(2, 18, 14, 0));
+    const auto isNow = [&](const DrawingStep& step) {
+        const auto* line = std::get_if<LineStep>(&step);
+        return line != nullptr && line->pen.colour == ink::kNow &&
+               line->from.x == SunIn(picture)->centre.x;
+    };
+    EXPECT_EQ(std::ranges::count_if(picture, isNow), 1);
 }
 
 TEST_F(DayPictureTest, HoursAreNamedEveryThree) {

@@ -62,6 +62,8 @@ TEST_F(EveningsPageTest, SaysWhyNoCriterionIsAsked) {
     month.newMoon = month.evenings[0].crescent->sunset - 0.01;
     month.evenings[0].crescent->moonUp = false;
     EXPECT_EQ(EveningsPage(month, place, 2).rows[0].cells[9], "moon sets before the sun");
+    currentLanguage = "French";
+    EXPECT_EQ(EveningsPage(month, place, 2).rows[0].cells[9], "lune couchée avant le soleil");
 }
 
 TEST_F(EveningsPageTest, HasNoTimeForAMoonThatDoesNotSetAndWordsForASunThatDoesNot) {

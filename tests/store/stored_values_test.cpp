@@ -22,6 +22,10 @@ protected:
     }
 };
 
+TEST_F(IshaSettingTest, NoAngleIsAcceptedBeforeTheLoad) {
+    EXPECT_EQ(ActiveIshaAngle, 0.0);
+}
+
 TEST_F(IshaSettingTest, MissingValueIsAFirstRunWith18Degrees) {
     EXPECT_TRUE(LoadIshaAngle());
     EXPECT_EQ(IshaAngle, 18.0);
