@@ -1,8 +1,6 @@
 #include "config/computer_city.h"
 
-#include <algorithm>
 #include <limits>
-#include <ranges>
 #include <string>
 #include <tuple>
 
@@ -29,11 +27,14 @@ std::optional<std::int16_t> CityOfComputersZone() {
     for (const std::string& zone : Ports().whereabouts.ZoneNames()) {
         const CityZones zones;
         const CityList cities = ListCities();
-        auto there = std::views::filter(
-            cities, [&](const ListedCity& city) { return zones.Of(city.cityIndex) == zone; });
-        const auto best = std::ranges::min_element(
-            there, {}, [&](const ListedCity& city) { return OrderOf(city, country); });
-        if (best != there.end()) {
+        const ListedCity* best = nullptr;
+        for (const ListedCity& city : cities) {
+            if (zones.Of(city.cityIndex) == zone &&
+                (best == nullptr || OrderOf(city, country) < OrderOf(*best, country))) {
+                best = &city;
+            }
+        }
+        if (best != nullptr) {
             return best->cityIndex;
         }
     }
