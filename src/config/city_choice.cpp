@@ -1,5 +1,6 @@
 #include "config/city_choice.h"
 
+#include "base/int16.h"
 #include "config/angle_controls.h"
 #include "config/automatic_zone.h"
 #include "config/settings_controls.h"
@@ -61,6 +62,12 @@ void cmdChangeCity_Click() {
         HoravexMainForm->SetVisible(true);
     }
     ShowNewLocation();
+}
+
+void EndCityChoice() {
+    if (fCountry->Visible() && fCountry->openedFromDistance == kFalse) {
+        fCountry->Unload();
+    }
 }
 
 void BindCityChoice() {

@@ -12,6 +12,10 @@ void TakePickedCity(std::int16_t cityIndex);
 /// The button that changes the city: opens the picker beside the settings window.
 void cmdChangeCity_Click();
 
+/// Puts the picker away with the settings window: who picks a city there would see the face name it
+/// over the times of another.
+void EndCityChoice();
+
 /// Binds the button, and what a pick for the settings does.
 void BindCityChoice();
 

@@ -7,6 +7,7 @@
 #include "base/program_state.h"
 #include "config/adjustments.h"
 #include "config/automatic_zone.h"
+#include "config/city_choice.h"
 #include "config/city_clock.h"
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
@@ -243,6 +244,7 @@ void SettingsSet_Click() {
     Settings.TimeZone = *zone;
     CommitWithOptions();
     HoravexMainForm->Hide();
+    EndCityChoice();
 }
 
 void SetSettings() {

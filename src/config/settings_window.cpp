@@ -8,6 +8,7 @@
 #include "config/settings_controls.h"
 #include "config/settings_display.h"
 #include "config/startup_entry.h"
+#include "engine/current_year.h"
 #include "geo/city_picker.h"
 #include "store/location_files.h"
 #include "store/location_record.h"
@@ -20,14 +21,20 @@ namespace horavex {
 
 namespace {
 
-/// The close box throws all edits away.
+/// The close box throws all edits away. The load takes the year of now: one that has come since the
+/// last tick would pass for calculated.
 void DiscardEdits() {
+    const std::int16_t calculated = CurrentYear;
     HoravexMainForm->Hide();
+    EndCityChoice();
     frmMain->lblCity.SetCaption(ActiveCityText);
     Settings_Form_Load();
     LoadQiblaLabels();
     ReloadIshaAngle();
     sub0651();
+    if (CurrentYear != calculated) {
+        RefreshAcceptedYear();
+    }
 }
 
 void HoravexMainForm_QueryUnload(CloseRequest& request) {

@@ -127,6 +127,30 @@ TEST_F(CityChoiceTest, CancelledPickerBringsTheWindowBack) {
     EXPECT_EQ(CancelLoad, kTrue);
 }
 
+TEST_F(CityChoiceTest, PickerGoesWithTheWindowWhoseEditsAreThrownAway) {
+    OpenSettings();
+    form.cmdChangeCity.UserClick();
+    form.UserClose();
+    EXPECT_FALSE(fCountry->Visible()) << "a pick would name a city over another's times";
+}
+
+TEST_F(CityChoiceTest, PickerGoesWithTheWindowThatIsSet) {
+    OpenSettings();
+    form.cmdChangeCity.UserClick();
+    form.SettingsSet.UserClick();
+    ASSERT_FALSE(form.Visible());
+    EXPECT_FALSE(fCountry->Visible());
+}
+
+TEST_F(CityChoiceTest, PickerOfTheDistanceWindowStaysWithoutTheSettings) {
+    OpenSettings();
+    LoadCityPicker();
+    fCountry->openedFromDistance = kTrue;
+    fCountry->Show();
+    form.UserClose();
+    EXPECT_TRUE(fCountry->Visible());
+}
+
 TEST_F(CityChoiceTest, CancelIsForgottenWhenTheWindowOpens) {
     CancelLoad = kTrue;
     frmMain->mnumSettings.UserClick();

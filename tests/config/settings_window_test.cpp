@@ -461,6 +461,15 @@ TEST_F(SettingsWindowTest, CloseBoxThrowsEditsAway) {
     EXPECT_EQ(form.hsDepr2.Value(), 18);
 }
 
+TEST_F(SettingsWindowTest, CloseBoxBetweenNewYearAndTheNextTickCalculatesTheYear) {
+    const YearTimes former = Times;
+    ShowSettingsWindow();
+    SetClock(2027, 1, 1, 0, 0, 0);
+    form.UserClose();
+    EXPECT_EQ(CurrentYear, 2027);
+    EXPECT_NE(Times, former) << "the tick takes the year for that of the table";
+}
+
 TEST_F(SettingsWindowTest, CloseFromCodeHidesItAndThrowsEditsAway) {
     ShowSettingsWindow();
     form.hsDepr2.UserSlide(11);
