@@ -125,6 +125,8 @@ TEST_F(MemoryAudioPlayerTest, LostDeviceEndsThePlay) {
     player.Write(Bytes{1, 2});
     player.LoseDevice();
     EXPECT_EQ(events, "end ");
+    player.Start();
+    EXPECT_FALSE(player.IsPlaying()) << "it is gone for the next sound, too";
 }
 
 TEST_F(MemoryAudioPlayerTest, StartWithoutADeviceIsSilentAndTheNextOneTriesAgain) {

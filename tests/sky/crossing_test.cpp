@@ -33,6 +33,7 @@ TEST(CrossingsOf, TellsAPassageOnTheSeamOfTwoSpansOnce) {
     const auto found =
         CrossingsOf(Parabola, 0.0, 1.0, 0.3).size() + CrossingsOf(Parabola, 1.0, 2.0, 0.3).size();
     EXPECT_EQ(found, 1U);
+    EXPECT_TRUE(CrossingsOf(Parabola, 0.0, 1.0, 0.3).empty()) << "zero still counts as above";
 }
 
 TEST(FirstCrossing, IsTheFirstThatGoesTheAskedWay) {

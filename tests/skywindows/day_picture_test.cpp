@@ -68,6 +68,21 @@ TEST_F(DayPictureTest, HoursHaveTheirTicksUnderTheChart) {
     EXPECT_EQ(std::ranges::count_if(picture, isTick), 9);
 }
 
+// On the night of the full moon.
+TEST_F(DayPictureTest, CurveGoesOnToTheEndOfTheDay) {
+    const auto right = [&](Colour colour) {
+        double furthest = 0.0;
+        for (const DrawingStep& step : PictureAt(In2026(3, 3, 9, 34))) {
+            const auto* line = std::get_if<LineStep>(&step);
+            furthest = line != nullptr && line->pen.colour == colour
+                           ? std::max(furthest, line->to.x)
+                           : furthest;
+        }
+        return furthest;
+    };
+    EXPECT_NEAR(right(ink::kMoonPath), right(ink::kHorizon), 1.0);
+}
+
 TEST_F(DayPictureTest, LineOfThePresentGoesThroughTheSun) {
     const Drawing picture = PictureAt(In2026(2, 18, 14, 0));
     const auto isNow = [&](const DrawingStep& step) {

@@ -110,6 +110,13 @@ TEST_F(IcsTimetableTest, LongLinesAreFoldedAtSeventyFiveBytesBetweenCharacters) 
     EXPECT_THAT(Lines(Calendar()), Contains("LOCATION:" + ActiveCityText));
 }
 
+TEST_F(IcsTimetableTest, LineOfSeventyFiveBytesIsNotFolded) {
+    ActiveCityText = std::string(66, 'a');
+    EXPECT_THAT(FoldedLines(Calendar()), Contains("LOCATION:" + ActiveCityText));
+    ActiveCityText += 'b';
+    EXPECT_THAT(FoldedLines(Calendar()), Contains(" b"));
+}
+
 TEST_F(IcsTimetableTest, TextsAreEscaped) {
     ActiveCityText = "Cairo, Old; \\ town\nEgypt";
     EXPECT_THAT(Lines(Calendar()), Contains("LOCATION:Cairo\\, Old\\; \\\\ town\\nEgypt"));
