@@ -331,6 +331,16 @@ TEST_F(DistanceWindowTest, CityButtonsOpenThePickerWhoseCityFillsTheirBoxes) {
     EXPECT_EQ(Settings.CityIndex, working) << "the pick is not for the settings";
 }
 
+TEST_F(DistanceWindowTest, CityOfTheFirstButtonIsTheFirst) {
+    form.cmdCityA.UserClick();
+    ASSERT_TRUE(fCountry->IsModal());
+    fCountry->txtSearch.UserType("cairo");
+    fCountry->lstFound.UserSelect(0);
+    fCountry->cmdOK.UserClick();
+    EXPECT_THAT(form.lblCityA.Caption(), testing::HasSubstr("Cairo"));
+    EXPECT_EQ(form.lblCityB.Caption(), "City B is here");
+}
+
 TEST_F(DistanceWindowTest, PickedCityFillsItsBoxesWithTheirSigns) {
     FillPickedCity(DistanceCity::kA, "Buenos Aires - Argentina",
                    "Latitude: 34 degrees, 36 minutes South",

@@ -38,6 +38,29 @@ TEST_F(EclipsesTest, LunationOfExactly036PassesTheNodeTest) {
     EXPECT_FALSE(NearNode(std::nextafter(-0.36, -1.0)));
 }
 
+// By the Five Millennium Canon of Solar Eclipses (NASA, 2006).
+TEST_F(EclipsesTest, ShadowPassesTheEarthsMiddleAtThePublishedDistance) {
+    struct Published {
+        std::int16_t year;
+        double day, gamma;
+    };
+    for (const Published& eclipse : {Published{1999, 2451401.96, 0.5062},
+                                     {2017, 2457987.27, 0.4367},
+                                     {2023, 2460054.68, -0.3952},
+                                     {2024, 2460409.26, 0.3431}}) {
+        int found = 0;
+        for (std::int16_t i = 0; i < 13; ++i) {
+            const Lunation at = LunationOf(eclipse.year, i, 0.0);
+            if (std::fabs(at.day - eclipse.day) < 2.0) {
+                const double latitude = at.latitude - DegToRad(0.02665) * std::sin(at.node);
+                EXPECT_NEAR(GeometryOf(at, latitude).gamma, eclipse.gamma, 0.002) << eclipse.year;
+                ++found;
+            }
+        }
+        EXPECT_EQ(found, 1) << eclipse.year;
+    }
+}
+
 TEST_F(EclipsesTest, DistancesBetweenTheBoundsAreNotListed) {
     EXPECT_TRUE(IsListed(13.9));
     EXPECT_FALSE(IsListed(std::nextafter(13.9, 14.0)));

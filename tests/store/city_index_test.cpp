@@ -1,6 +1,7 @@
 #include "store/city_index.h"
 
 #include "base/fault.h"
+#include "store/location_files.h"
 #include "support/data_folder_test.h"
 
 namespace horavex {
@@ -51,6 +52,12 @@ TEST_F(CityIndexTest, CityIsAsTheListOfAllHasIt) {
     EXPECT_EQ(found.rank, 3);
     EXPECT_EQ(found.folded, listed.folded);
     EXPECT_EQ(found.otherNames, "مكة,Mekka");
+}
+
+TEST_F(CityIndexTest, LookClosesTheLocationFiles) {
+    ASSERT_TRUE(CitiesThatMayBe("Cairo"));
+    EXPECT_THROW(CityCount(), FileFault);
+    EXPECT_THROW(CountryCount(), FileFault);
 }
 
 TEST_F(CityIndexTest, CitiesOfOneNameComeInTheOrderOfTheList) {
