@@ -9,6 +9,7 @@
 #include <QStyleHints>
 #include <utility>
 
+#include "calendar/date_words.h"
 #include "desktop/face/clock_dial.h"
 #include "desktop/face/compass.h"
 #include "desktop/face/countdown_line.h"
@@ -20,6 +21,7 @@
 #include "desktop/face/text_line.h"
 #include "desktop/face/times_view.h"
 #include "desktop/form_window/menu.h"
+#include "lang/capital.h"
 #include "sky/day_sky.h"
 
 namespace horavex {
@@ -68,8 +70,13 @@ QString Written(const QDate& date, const QLocale& language) {
     if (!pattern.startsWith(u'd')) {
         pattern = QStringLiteral("d MMMM yyyy");
     }
-    const QString month = u'\'' + language.monthName(date.month()) + u'\'';
-    return QLocale::c().toString(date, pattern.replace(QStringLiteral("MMMM"), month));
+    static const QRegularExpression day(QStringLiteral("^d+"));
+    static const QRegularExpression comma(QStringLiteral("[,\u060c](?= yyyy)"));
+    const auto quoted = [](const QString& text) { return u'\'' + text + u'\''; };
+    pattern.remove(comma);
+    pattern.replace(day, quoted(QString::fromStdString(DayOfMonth(date.day()))));
+    pattern.replace(QStringLiteral("MMMM"), quoted(language.monthName(date.month())));
+    return QLocale::c().toString(date, pattern);
 }
 
 }  // namespace
@@ -230,14 +237,21 @@ void FaceView::ShowDate() {
 FaceView::WrittenDate FaceView::WriteDate() const {
     const QDate date = ToldDate();
     if (names_ && date.isValid()) {
-        return {{}, names_->dayName(date.dayOfWeek()), Written(date, *names_)};
+        const std::string day = names_->dayName(date.dayOfWeek()).toStdString();
+        return {{}, QString::fromStdString(WithCapital(day)), Written(date, *names_)};
     }
     return {{}, Value("_root.myDay"), ToldDateText().trimmed()};
 }
 
 void FaceView::ShowHijriDate() {
-    hijriDate_->ShowText(Value("_root.iArabicDay") + u' ' + Value("_root.ArabicMonth") + u' ' +
-                         Value("_root.iArabicYear"));
+    const QString day = Value("_root.iArabicDay");
+    const QString month = Value("_root.ArabicMonth");
+    const QString year = Value("_root.iArabicYear");
+    const QString told = day + u' ' + month + u' ' + year;
+    if (std::exchange(toldHijriDate_, told) != told) {
+        hijriDate_->ShowText(QString::fromStdString(
+            HijriDateText({day.toStdString(), month.toStdString(), year.toStdString()})));
+    }
 }
 
 void FaceView::ShowNext() {
@@ -331,6 +345,7 @@ void FaceView::TakeKeys() {
 void FaceView::ShowCaptions() {
     names_ = language_ ? language_() : std::nullopt;
     writtenDate_ = {};
+    toldHijriDate_.clear();
     ShowDate();
     qibla_->setText(Value("qibla"));
     allTimes_->setText(Value("prayer_time"));

@@ -112,6 +112,7 @@ private:
     std::optional<QLocale> names_;           // of days and months
     std::map<std::string, QString> values_;  // by variable
     WrittenDate writtenDate_;
+    QString toldHijriDate_;
 
     ClockDial* clock_;
     CaptionButton* day_;

@@ -1,6 +1,7 @@
 #include "calendar/date_words.h"
 
 #include "engine/ruled_year.h"
+#include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -15,6 +16,16 @@ std::string MonthName(int monthNumber) {
 
 std::string GregorianMonthName(int month) {
     return GetLangString("timetables", "Month" + std::to_string(month), MonthName(month));
+}
+
+std::string DayOfMonth(int day) {
+    return day == 1 ? GetLangString("timetables", "FirstOfMonth", "1") : std::to_string(day);
+}
+
+std::string HijriDateText(const HijriTexts& date) {
+    std::string text = GetLangString("timetables", "HijriDate", "{day} {month} {year}");
+    text = FilledText(text, "{day}", date.day == "1" ? DayOfMonth(1) : date.day);
+    return FilledText(FilledText(text, "{month}", date.monthName), "{year}", date.year);
 }
 
 HijriTexts HijriToday() {

@@ -1,6 +1,7 @@
 #include "calendar/hijri_converter.h"
 
 #include "base/unbroken.h"
+#include "lang/capital.h"
 #include "lang/language_pack.h"
 #include "platform/platform.h"
 
@@ -26,9 +27,9 @@ Date HijriConverter::ToGregorian(const HijriDate& hijri) const {
 std::string HijriConverter::CalculateHijri(std::int16_t year, int month, int day) const {
     const Date date = DateSerial(year, month, day);
     const HijriDate hijri = ToHijri(date);
-    return Unbroken(Ports().formats.WeekdayName(date)) + " " + std::to_string(hijri.day) + " " +
-           HijriMonthOrDefault(hijri.month) + " " + std::to_string(hijri.year) + " " +
-           Unbroken(GetLangString("other", "AH", "AH"));
+    return WithCapital(Unbroken(Ports().formats.WeekdayName(date))) + " " +
+           std::to_string(hijri.day) + " " + HijriMonthOrDefault(hijri.month) + " " +
+           std::to_string(hijri.year) + " " + Unbroken(GetLangString("other", "AH", "AH"));
 }
 
 std::string HijriConverter::CalculateGregorian(std::int16_t year, int month, int day) const {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "base/rounding.h"
+#include "calendar/date_words.h"
 #include "calendar/hijri_converter.h"
 #include "config/adjusted_day.h"
 #include "engine/moment_text.h"
@@ -155,7 +156,7 @@ void ShowMethodOptions(const YearOptions& options) {
         IntervalText(options.ishaInterval, Word("ByAngle", "by its angle")));
     form.hsIshaRamadan.SetValue(options.ishaIntervalRamadan);
     form.lblShownIshaRamadan.SetCaption(
-        IntervalText(options.ishaIntervalRamadan, Word("AsOtherwise", "as otherwise")));
+        IntervalText(options.ishaIntervalRamadan, Word("AsOtherwise", "as in other months")));
     ShowAngle(form.hsMaghribAngle, form.lblShownMaghribAngle, options.maghribAngle);
     if (options.maghribAngle == 0.0) {
         form.lblShownMaghribAngle.SetCaption(Word("AtSunset", "at sunset"));
@@ -182,8 +183,8 @@ void ShowRuleAndCalendar(const YearOptions& options) {
 }
 
 std::string HijriText(const HijriDate& date) {
-    return std::to_string(date.day) + " " + HijriMonthOrDefault(date.month) + " " +
-           std::to_string(date.year);
+    return HijriDateText(
+        {std::to_string(date.day), HijriMonthOrDefault(date.month), std::to_string(date.year)});
 }
 
 std::string TimeText(const AdjustedDay& day, std::size_t prayer) {

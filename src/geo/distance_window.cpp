@@ -15,6 +15,7 @@
 #include "lang/filled_text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
+#include "lang/pack_number.h"
 #include "platform/platform.h"
 #include "store/distance_options.h"
 #include "store/location_record.h"
@@ -182,17 +183,17 @@ DistancePoints PointsInBoxes() {
             .DistanceLonB = ReadBoxes(coordinates[kLongitudeB])};
 }
 
-OptionButton& OptionOf(DistanceUnit unit) {
-    DistanceForm& form = *frmDistance;
+/// As it is written inside a sentence.
+std::string UnitInLine(DistanceUnit unit) {
     switch (unit) {
         case DistanceUnit::kMiles:
-            return form.optMiles;
+            return GetLangString("distance", "Miles", "miles");
         case DistanceUnit::kNauticalMiles:
-            return form.optNauticalMiles;
+            return GetLangString("distance", "NauticalMiles", "nautical miles");
         case DistanceUnit::kKilometres:
             break;
     }
-    return form.optKilometers;
+    return GetLangString("distance", "Kilometres", "kilometers");
 }
 
 std::string DegreesAndMinutes(double degrees) {
@@ -207,8 +208,8 @@ std::string DegreesAndMinutes(double degrees) {
 /// The distance as one says it, with the direction of the way, below the number of many digits.
 void ShowSummary(double distance, DistanceUnit unit) {
     std::string text =
-        FilledText(summaryPattern, "{distance}", std::to_string(std::lround(distance)));
-    text = FilledText(text, "{unit}", OptionOf(unit).Caption());
+        FilledText(summaryPattern, "{distance}", PackWholeNumber(std::lround(distance)));
+    text = FilledText(text, "{unit}", UnitInLine(unit));
     const std::string bearing = DegreesAndMinutes(BearingDegrees(PointsInBoxes()));
     frmDistance->lblSummary.SetCaption(
         FilledText(text, "{bearing}", KeptTogether(bearing, summaryPattern)));
@@ -236,6 +237,8 @@ void EnableCityB(bool enabled) {
              &form.CityBNorth, &form.CityBSouth}) {
         control->SetEnabled(enabled);
     }
+    form.lblCityB.SetVisible(enabled);
+    form.lblMecca.SetVisible(!enabled);
 }
 
 void OptionTwoCities_Click() {

@@ -19,6 +19,7 @@
 #include "lang/filled_text.h"
 #include "lang/form_language.h"
 #include "lang/language_pack.h"
+#include "lang/pack_number.h"
 #include "platform/platform.h"
 #include "store/settings_record.h"
 #include "store/text_table.h"
@@ -88,7 +89,7 @@ void ShowPlace() {
     Label& distance = fQibla->lblDistance;
     fQibla->lblShownPlace.SetCaption(YearCityText);
     distance.SetCaption(FilledText(distance.Caption(), "{km}",
-                                   std::to_string(std::lround(KilometresToMecca(YearPlace())))));
+                                   PackWholeNumber(std::lround(KilometresToMecca(YearPlace())))));
 }
 
 void DrawMap() {

@@ -52,10 +52,11 @@ std::vector<std::string> OtherKeys() {
 /// What a written timetable says; its months and weekdays are numbered.
 std::vector<std::string> TimetableKeys() {
     std::vector<std::string> keys = {
-        "Code",      "Direction", "Title",     "Day",         "Hijri",      "Latitude",
-        "Longitude", "Zone",      "FajrAngle", "IshaAngle",   "AsrRatio",   "Qibla",
-        "Begins",    "Ends",      "MonthPage", "YearPage",    "MonthTitle", "DayTitle",
-        "Colon",     "Comma",     "Digits",    "DecimalMark", "Clock"};
+        "Code",         "Direction",   "Title",     "Day",       "Hijri",      "Latitude",
+        "Longitude",    "Zone",        "FajrAngle", "IshaAngle", "AsrRatio",   "Qibla",
+        "Begins",       "Ends",        "MonthPage", "YearPage",  "MonthTitle", "DayTitle",
+        "FirstOfMonth", "HijriDate",   "Thousand",  "Million",   "Colon",      "Comma",
+        "Digits",       "DecimalMark", "Clock"};
     keys.insert(keys.end(), kPrayerKeys.begin(), kPrayerKeys.end());
     for (const std::string& month : Numbers(1, 12)) {
         keys.push_back("Month" + month);
@@ -202,7 +203,8 @@ const std::vector<PackSection>& PackVocabularies() {
           "indonesia",    "isna",      "jafari", "jordan",  "karachi", "kuwait",     "malaysia",
           "moonsighting", "morocco",   "mwl",    "oman",    "paris",   "portugal",   "qatar",
           "russia",       "singapore", "tehran", "tunisia", "turkey",  "umm-al-qura"}},
-        {"terminal", {"NoPrinter", "SaveAs", "Exists", "Replace", "Cancel", "OK"}}};
+        {"terminal", {"NoPrinter", "SaveAs", "Exists", "Replace", "Cancel", "OK"}},
+        {"distance", {"Kilometres", "Miles", "NauticalMiles"}}};
     return sections;
 }
 

@@ -49,7 +49,7 @@ std::string CriterionName(Criterion criterion) {
 std::string CalendarDate(Date day) {
     const CivilDate date = CivilFromDate(day);
     std::string text = SkyWord("DayMonthYear", "{day} {month} {year}");
-    text = FilledText(text, "{day}", std::to_string(date.day));
+    text = FilledText(text, "{day}", DayOfMonth(date.day));
     text = FilledText(text, "{month}", GregorianMonthName(date.month));
     return FilledText(text, "{year}", std::to_string(date.year));
 }

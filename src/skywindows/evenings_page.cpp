@@ -51,8 +51,8 @@ std::string AgeText(const CrescentEvening& evening) {
 std::string EveningDate(Date day) {
     const CivilDate date = CivilFromDate(day);
     return FilledText(
-        FilledText(SkyWord("DayMonth", "{day} {month}"), "{day}", std::to_string(date.day)),
-        "{month}", GregorianMonthName(date.month));
+        FilledText(SkyWord("DayMonth", "{day} {month}"), "{day}", DayOfMonth(date.day)), "{month}",
+        GregorianMonthName(date.month));
 }
 
 /// "A  easily visible", or why no criterion is asked.

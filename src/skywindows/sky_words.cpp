@@ -17,7 +17,7 @@ constexpr const char* kNoTime = "--:--";
 /// A text of the pack with the parts of an instant's date in their places.
 std::string DateIn(const std::string& text, const ZoneClock& clock, Date universal) {
     const CivilDate date = CivilFromDate(clock.MinuteOf(universal));
-    const std::string day = FilledText(text, "{day}", std::to_string(date.day));
+    const std::string day = FilledText(text, "{day}", DayOfMonth(date.day));
     return FilledText(FilledText(day, "{month}", GregorianMonthName(date.month)), "{year}",
                       std::to_string(date.year));
 }

@@ -69,7 +69,7 @@ std::string MoonText(const std::string& shape, double age, const SkyMoment& mome
     text = FilledText(text, "{shape}", shape);
     text = FilledText(text, "{age}", TenthsText(age));
     text = FilledText(text, "{lit}", NumberToText(RoundHalfEven(100.0 * moment.litPart)));
-    return FilledText(text, "{distance}", NumberToText(RoundHalfEven(moment.moonDistance)));
+    return FilledText(text, "{distance}", PackWholeNumber(std::lround(moment.moonDistance)));
 }
 
 }  // namespace

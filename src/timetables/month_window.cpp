@@ -72,7 +72,7 @@ std::string Footnotes(std::span<const TimetableDay> days) {
     for (const TimetableDay& day : days) {
         if (day.change != DaylightChange::kNone) {
             const bool begins = day.change == DaylightChange::kBegins;
-            notes.push_back("* " + DayText(day) + shown->words.colon +
+            notes.push_back("* " + shown->words.DayTitle(day.date) + shown->words.colon +
                             (begins ? shown->words.daylightBegins : shown->words.daylightEnds));
         }
     }

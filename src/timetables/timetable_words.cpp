@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "calendar/date_words.h"
 #include "engine/moment_text.h"
+#include "lang/capital.h"
 #include "lang/filled_text.h"
 #include "lang/language_pack.h"
 #include "lang/pack_direction.h"
@@ -51,14 +52,6 @@ void TakeForms(TimetableWords& words) {
     words.hasClockOf24Hours = Word("Clock", "12") == "24";
 }
 
-/// Languages that write their months small begin them with a letter of ASCII.
-std::string WithCapital(std::string text) {
-    if (!text.empty() && text.front() >= 'a' && text.front() <= 'z') {
-        text.front() = static_cast<char>(text.front() - 'a' + 'A');
-    }
-    return text;
-}
-
 std::string MonthIn(const std::string& pattern, const std::string& month, int year) {
     return FilledText(FilledText(pattern, "{month}", month), "{year}", std::to_string(year));
 }
@@ -85,14 +78,14 @@ std::string TimetableWords::DayTitle(Date date) const {
     const CivilDate civil = CivilFromDate(date);
     const std::string& month = months.at(static_cast<std::size_t>(civil.month) - 1);
     const std::string line =
-        FilledText(MonthIn(dayPattern, month, civil.year), "{day}", std::to_string(civil.day));
+        FilledText(MonthIn(dayPattern, month, civil.year), "{day}", DayOfMonth(civil.day));
     return WithCapital(FilledText(line, "{weekday}", WeekdayOf(date)));
 }
 
 std::string TimetableWords::HijriText(const HijriDate& date) const {
-    return std::to_string(date.day) + " " +
-           hijriMonths.at(static_cast<std::size_t>(date.month) - 1) + " " +
-           std::to_string(date.year);
+    return HijriDateText({std::to_string(date.day),
+                          hijriMonths.at(static_cast<std::size_t>(date.month) - 1),
+                          std::to_string(date.year)});
 }
 
 const std::string& TimetableWords::WeekdayOf(Date date) const {

@@ -34,7 +34,7 @@ public:
     Label lblIshaInterval{fraMethod, "lblIshaInterval", {.caption = "Isha after Maghrib"}};
     ScrollBar hsIshaInterval{fraMethod, "hsIshaInterval", {.max = 180, .largeStep = 15}};
     Label lblShownIshaInterval{fraMethod, "lblShownIshaInterval"};
-    Label lblIshaRamadan{fraMethod, "lblIshaRamadan", {.caption = "The same in Ramadan"}};
+    Label lblIshaRamadan{fraMethod, "lblIshaRamadan", {.caption = "Isha in Ramadan"}};
     ScrollBar hsIshaRamadan{fraMethod, "hsIshaRamadan", {.max = 180, .largeStep = 15}};
     Label lblShownIshaRamadan{fraMethod, "lblShownIshaRamadan"};
     Label lblMaghribAngle{fraMethod, "lblMaghribAngle", {.caption = "Maghrib angle"}};
@@ -42,7 +42,7 @@ public:
     Label lblShownMaghribAngle{fraMethod, "lblShownMaghribAngle"};
     CheckBox chkSunOfTheDay{fraMethod,
                             "chkSunOfTheDay",
-                            {.caption = "Sun of the day itself in every year",
+                            {.caption = "Calculate each year with its own sun",
                              .toolTipText = "Without it the sun of some years, leap years among "
                                             "them, runs a day ahead"}};
 

@@ -46,6 +46,7 @@ public:
 
     horavex::Frame fraCityB{*this, "fraCityB", {.caption = "City B"}};
     Label lblCityB{fraCityB, "lblCityB", {.caption = "City B is here"}};
+    Label lblMecca{fraCityB, "lblMecca", {.caption = "Mecca", .visible = false}};
     CommandButton cmdCityB{fraCityB, "cmdCityB", {.caption = "City &B"}};
     horavex::Frame fraBLong{fraCityB, "fraBLong", {.caption = "Longitude"}};
     Label lblDegBLong{fraBLong, "lblDegBLong", {.caption = "Degrees"}};

@@ -57,9 +57,9 @@ public:
     MenuItem mnuReminders{mnuSettings, "mnuReminders", {.caption = "Athan and Reminders"}};
 
     MenuItem mnuLine3{mnuSettings, "mnuLine3", {.caption = "-"}};
-    MenuItem mnuSmall{mnuSettings, "mnuSmall", {.caption = "Small face"}};
-    MenuItem mnuFullScreen{mnuSettings, "mnuFullScreen", {.caption = "Full screen"}};
-    MenuItem mnuAbove{mnuSettings, "mnuAbove", {.caption = "Keep above other windows"}};
+    MenuItem mnuSmall{mnuSettings, "mnuSmall", {.caption = "Small Face"}};
+    MenuItem mnuFullScreen{mnuSettings, "mnuFullScreen", {.caption = "Full Screen"}};
+    MenuItem mnuAbove{mnuSettings, "mnuAbove", {.caption = "Keep above Other Windows"}};
 
     MenuItem mnuTools{*this, "mnuTools", {.caption = "Tools"}};
     MenuItem mnuDateConversion{mnuTools, "mnuDateConversion", {.caption = "Date Conversion"}};
@@ -92,13 +92,13 @@ public:
     MenuItem mnuPopReminders{mnuPopup, "mnuPopReminders", {.caption = "Athan and &Reminders"}};
     MenuItem mnuLine6{mnuPopup, "mnuLine6", {.caption = "-"}};
     MenuItem mnuPopQuietNext{
-        mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &next prayer"}};
-    MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &today"}};
-    MenuItem mnuPopQuietHours{mnuPopup, "mnuPopQuietHours", {.caption = "Quiet h&ours"}};
+        mnuPopup, "mnuPopQuietNext", {.caption = "Quiet until the &Next Prayer"}};
+    MenuItem mnuPopQuietToday{mnuPopup, "mnuPopQuietToday", {.caption = "Quiet &Today"}};
+    MenuItem mnuPopQuietHours{mnuPopup, "mnuPopQuietHours", {.caption = "Quiet H&ours"}};
     MenuItem mnuLine7{mnuPopup, "mnuLine7", {.caption = "-"}};
-    MenuItem mnuPopSmall{mnuPopup, "mnuPopSmall", {.caption = "&Small face"}};
-    MenuItem mnuPopFullScreen{mnuPopup, "mnuPopFullScreen", {.caption = "&Full screen"}};
-    MenuItem mnuPopAbove{mnuPopup, "mnuPopAbove", {.caption = "&Keep above other windows"}};
+    MenuItem mnuPopSmall{mnuPopup, "mnuPopSmall", {.caption = "&Small Face"}};
+    MenuItem mnuPopFullScreen{mnuPopup, "mnuPopFullScreen", {.caption = "&Full Screen"}};
+    MenuItem mnuPopAbove{mnuPopup, "mnuPopAbove", {.caption = "&Keep above Other Windows"}};
     MenuItem mnuLine8{mnuPopup, "mnuLine8", {.caption = "-"}};
     MenuItem mnuPopExit{mnuPopup, "mnuPopExit", {.caption = "&Exit"}};
 };

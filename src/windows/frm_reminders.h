@@ -49,7 +49,7 @@ public:
     Label lblShownMuted{fraPrayers, "lblShownMuted", {.visible = false}};
 
     horavex::Frame fraAll{*this, "fraAll", {.caption = "For every prayer"}};
-    Label lblAllVolume{fraAll, "lblAllVolume", {.caption = "Volume over all"}};
+    Label lblAllVolume{fraAll, "lblAllVolume", {.caption = "Overall volume"}};
     ScrollBar hsAllVolume{fraAll, "hsAllVolume", {.max = 100, .largeStep = 10}};
     Label lblShownAllVolume{fraAll, "lblShownAllVolume"};
     Label lblFade{fraAll, "lblFade", {.caption = "Full volume"}};

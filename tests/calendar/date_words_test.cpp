@@ -52,6 +52,19 @@ TEST_F(HijriTodayTest, MissingMonthNameIsEmptyAndTheRestGoesOn) {
     EXPECT_EQ(HijriToday().year, "1416");
 }
 
+TEST_F(HijriTodayTest, DatesAreArrangedByThePack) {
+    EXPECT_EQ(DayOfMonth(1), "1");
+    EXPECT_EQ(HijriDateText({"11", "Shawwal", "1448"}), "11 Shawwal 1448");
+    platform.files.WriteWhole(
+        "/program/lang/German.ini",
+        BytesOf("[timetables]\nHijriDate={day}. {month} {year}\nFirstOfMonth=1er\n"));
+    currentLanguage = "German";
+    EXPECT_EQ(HijriDateText({"11", "Schawwal", "1448"}), "11. Schawwal 1448");
+    EXPECT_EQ(HijriDateText({"1", "Schawwal", "1448"}), "1er. Schawwal 1448");
+    EXPECT_EQ(DayOfMonth(1), "1er");
+    EXPECT_EQ(DayOfMonth(21), "21");
+}
+
 TEST_F(HijriTodayTest, LeavesTheCalendarAsItWas) {
     HijriToday();
     EXPECT_EQ(CurrentCalendar, kGregorianCalendar);

@@ -122,7 +122,7 @@ TEST_F(AdjustmentsTest, WithoutAnyTheControlsSayWhatCountsInstead) {
     Open();
     EXPECT_EQ(form.cboRule.Text(), "none");
     EXPECT_EQ(form.lblShownIshaInterval.Caption(), "by its angle");
-    EXPECT_EQ(form.lblShownIshaRamadan.Caption(), "as otherwise");
+    EXPECT_EQ(form.lblShownIshaRamadan.Caption(), "as in other months");
     EXPECT_EQ(form.lblShownMaghribAngle.Caption(), "at sunset");
     EXPECT_EQ(form.lblShownOffset(kFajr).Caption(), "0 min");
     EXPECT_EQ(form.cboCalendar.Text(), "arithmetic");

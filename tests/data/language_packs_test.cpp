@@ -58,9 +58,9 @@ TEST_F(LanguagePacks, NoKeyIsReadByNothing) {
 
 TEST_F(LanguagePacks, ArabicTextsOfNoFormAreInArabicLetters) {
     const std::set<std::string> withoutWords = {
-        "Code",     "Direction", "PrayerAt",     "Percent",     "MonthTitle",
-        "DayTitle", "Colon",     "Comma",        "Digits",      "DecimalMark",
-        "Clock",    "DayMonth",  "DayMonthYear", "ClassInWords"};
+        "Code",         "Direction",    "PrayerAt",     "Percent",     "MonthTitle", "DayTitle",
+        "Colon",        "Comma",        "Digits",       "DecimalMark", "Clock",      "DayMonth",
+        "DayMonthYear", "ClassInWords", "FirstOfMonth", "HijriDate",   "Thousand",   "Million"};
     currentLanguage = "Arabic";
     for (const PackSection& section : PackVocabularies()) {
         for (const std::string& key : section.keys) {

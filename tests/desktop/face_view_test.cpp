@@ -499,15 +499,36 @@ TEST_F(FaceInAPackTest, NamesFollowThePackThatComesWithNewCaptions) {
 
 TEST_F(FaceInAPackTest, DateIsWrittenAsTheLanguageWritesItWithTheDayInFront) {
     TellArabic(face);
-    const std::pair<const char*, const char*> dates[] = {{"es", "21 de noviembre de 2026"},
-                                                         {"fr", "21 novembre 2026"},
-                                                         {"tr", "21 Kasım 2026"},
-                                                         {"en", "21 November 2026"}};
+    const std::pair<const char*, const char*> dates[] = {
+        {"es", "21 de noviembre de 2026"}, {"fr", "21 novembre 2026"}, {"tr", "21 Kasım 2026"},
+        {"ur", "21 نومبر 2026"},           {"bn", "21 নভেম্বর 2026"},   {"en", "21 November 2026"}};
     for (const auto& [code, date] : dates) {
         language = QLocale(QString::fromUtf8(code));
         face.SetVariable("prayer_time", "x");
         EXPECT_EQ(FirstLine().toStdString(), date);
     }
+}
+
+TEST_F(FaceInAPackTest, FirstOfAMonthIsWrittenAsThePackHasItBelowADayWithACapital) {
+    platform.files.WriteWhole("/program/lang/French.ini",
+                              BytesOf("[timetables]\nFirstOfMonth=1er\n"));
+    currentLanguage = "French";
+    language = QLocale(QStringLiteral("fr"));
+    TellArabic(face);
+    face.SetVariable("_root.myMonth", "December");
+    face.SetVariable("_root.myNumber", "1");
+    EXPECT_EQ(Day(), "Mardi");
+    EXPECT_EQ(FirstLine(), "1er décembre 2026");
+}
+
+TEST_F(FaceInAPackTest, HijriDateIsArrangedByThePack) {
+    platform.files.WriteWhole("/program/lang/German.ini",
+                              BytesOf("[timetables]\nHijriDate={day}. {month} {year}\n"));
+    currentLanguage = "German";
+    face.SetVariable("_root.ArabicMonth", "Radschab");
+    face.SetVariable("_root.iArabicYear", "1448");
+    face.SetVariable("_root.iArabicDay", "11");
+    EXPECT_EQ(view->findChildren<TextLine*>().at(1)->text(), "11. Radschab 1448");
 }
 
 TEST_F(FaceInAPackTest, ButtonsWithSignsAreNamedInTheLanguageOfThePack) {

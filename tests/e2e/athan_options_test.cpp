@@ -217,7 +217,7 @@ TEST_F(AthanOptionsTest, QuietThatIsChosenInTheIconsMenuSilencesTheAthanThatSoun
     const std::size_t start = recording.WaitForSound();
     SetClock(SecondOf(kZuhr) + 60);
     ExpectTicks();
-    host.Choose("Quiet _today");
+    host.Choose("Quiet _Today");
     recording.WaitForSilence(start);
     WaitUntil("no window", [&] { return !IsOnView(program); });
     const std::size_t silent = recording.Taken().size();

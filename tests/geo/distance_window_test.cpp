@@ -99,9 +99,19 @@ TEST_F(DistanceWindowTest, SaysDistanceAndDirectionInOneLine) {
     EXPECT_EQ(form.lblSummary.Caption(), "");
     FillIn();
     form.cmdCalcDistance.UserClick();
-    EXPECT_EQ(form.lblSummary.Caption(), "111 Kilometers, 90\u00b000\u2032 clockwise from north");
+    EXPECT_EQ(form.lblSummary.Caption(), "111 kilometers, 90\u00b000\u2032 clockwise from north");
     form.cmdDistanceClear.UserClick();
     EXPECT_EQ(form.lblSummary.Caption(), "");
+}
+
+TEST_F(DistanceWindowTest, NamesMeccaInThePlaceOfTheSecondCity) {
+    EXPECT_FALSE(form.lblMecca.Visible());
+    form.OptionDistanceToMecca.UserClick();
+    EXPECT_TRUE(form.lblMecca.Visible());
+    EXPECT_FALSE(form.lblCityB.Visible());
+    form.cmdDistanceClear.UserClick();
+    EXPECT_FALSE(form.lblMecca.Visible());
+    EXPECT_TRUE(form.lblCityB.Visible());
 }
 
 TEST_F(DistanceWindowTest, BeginsWithTheAcceptedCityWhereAnOptionAsksForIt) {

@@ -124,7 +124,7 @@ TEST_F(QiblaWindowTest, NamesThePlaceAndHowFarMeccaIs) {
     YearCityText = "Cairo - Egypt";
     ShowQibla();
     EXPECT_EQ(form.lblShownPlace.Caption(), "Cairo - Egypt");
-    EXPECT_EQ(form.lblDistance.Caption(), "Distance to Mecca: 1289 km");
+    EXPECT_EQ(form.lblDistance.Caption(), "Distance to Mecca: 1,289 km");
 }
 
 TEST_F(QiblaWindowTest, ButtonClosesIt) {

@@ -107,8 +107,8 @@ TEST_F(MonthWindowTest, ChangeOfDaylightSavingIsMarkedAndTold) {
     EXPECT_EQ(frmMonth->grdMonth.rows.at(0).cells.at(0), "1 Sunday *");
     EXPECT_EQ(frmMonth->grdMonth.rows.at(20).cells.at(0), "21 Saturday *");
     EXPECT_EQ(frmMonth->lblNote.Caption(),
-              "* 1 Sunday: Daylight saving begins on this day; * 21 Saturday: Daylight saving ends "
-              "with this day");
+              "* Sunday, 1 November 2026: Daylight saving begins on this day; * Saturday, 21 "
+              "November 2026: Daylight saving ends with this day");
     EXPECT_TRUE(frmMonth->lblNote.Visible());
     frmMonth->cmdNext.UserClick();
     EXPECT_FALSE(frmMonth->lblNote.Visible());
