@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <functional>
 
 #include "desktop/face/countdown_line.h"
 #include "desktop/face/face_day.h"
@@ -27,6 +28,7 @@ constexpr double kCellsBottom = 0.95;
 constexpr double kMargin = 0.03;
 constexpr double kGap = 0.006;  // at either side of a cell
 constexpr double kPadding = 0.008;
+constexpr double kTimePadding = 0.02;  // beside times, which are all of one width
 constexpr double kWordGap = 0.05;
 constexpr double kDateType = 0.05;
 constexpr double kWeekdayType = 0.06;
@@ -107,8 +109,9 @@ QRectF PosterLayout::Cell(std::size_t prayer, Qt::LayoutDirection direction) con
         .adjusted(gap, 0.0, -gap, 0.0);
 }
 
-QRectF PosterLayout::PartOfCell(const QRectF& cell, double top, double bottom) const {
-    const double padding = kPadding * unit_;
+QRectF PosterLayout::PartOfCell(const QRectF& cell, double top, double bottom,
+                                double atEdges) const {
+    const double padding = atEdges * unit_;
     return {cell.left() + padding, cell.top() + top * cell.height(), cell.width() - 2.0 * padding,
             (bottom - top) * cell.height()};
 }
@@ -167,6 +170,8 @@ void PosterLayout::AddDates(std::vector<PosterText>& texts, const PosterDates& d
 
 void PosterLayout::AddPrayers(std::vector<PosterText>& texts, const FaceDay& day) const {
     const Qt::LayoutDirection direction = DirectionOf(day.cells.front().name);
+    const bool hasIqamas = std::ranges::any_of(day.iqamas, std::not_fn(&QString::isEmpty));
+    const double top = hasIqamas ? 0.06 : 0.19;  // in the middle of a card that holds no more
     std::vector<PosterText> names;
     std::vector<PosterText> times;
     std::vector<PosterText> iqamas;
@@ -175,10 +180,12 @@ void PosterLayout::AddPrayers(std::vector<PosterText>& texts, const FaceDay& day
         const bool isNext = prayer == day.next;
         const QColor colour = isNext ? kGold : kCream;
         const auto& [name, time] = day.cells.at(prayer);
-        names.push_back(Wanted(PartOfCell(cell, 0.06, 0.34), kNameType, colour, name, isNext));
-        times.push_back(Wanted(PartOfCell(cell, 0.36, 0.68), kTimeType, colour, time, true));
-        iqamas.push_back(
-            Wanted(PartOfCell(cell, 0.7, 0.94), kIqamaType, kCream, day.iqamas.at(prayer)));
+        names.push_back(
+            Wanted(PartOfCell(cell, top, top + 0.28, kPadding), kNameType, colour, name, isNext));
+        times.push_back(Wanted(PartOfCell(cell, top + 0.3, top + 0.62, kTimePadding), kTimeType,
+                               colour, time, true));
+        iqamas.push_back(Wanted(PartOfCell(cell, 0.7, 0.94, kPadding), kIqamaType, kCream,
+                                day.iqamas.at(prayer)));
     }
     for (auto& row : {names, times, iqamas}) {
         AddFitted(texts, row);

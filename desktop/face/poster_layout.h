@@ -53,7 +53,8 @@ private:
                       bool bold = false) const;
     void AddDates(std::vector<PosterText>& texts, const PosterDates& dates) const;
     void AddPrayers(std::vector<PosterText>& texts, const FaceDay& day) const;
-    QRectF PartOfCell(const QRectF& cell, double top, double bottom) const;
+    /// From top to bottom, parts of the height; atEdges: what stays free beside it, of the unit.
+    QRectF PartOfCell(const QRectF& cell, double top, double bottom, double atEdges) const;
 
     QSizeF screen_;
     double unit_;  // pixels, of which type and gaps are parts

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QSlider>
 #include <QTabBar>
+#include <QTextLayout>
 #include <QWidget>
 #include <algorithm>
 
@@ -76,6 +77,23 @@ QString NameOf(QStyle::StandardPixmap picture, Qt::LayoutDirection direction) {
 
 Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
     return option == nullptr ? QGuiApplication::layoutDirection() : option->direction;
+}
+
+/// A text from the right as it breaks in a width, with no blank at the ends of its lines.
+QString InLines(QString text, const QFont& font, int width) {
+    text.replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(text, font);
+    QTextOption option(Qt::AlignRight);
+    option.setTextDirection(Qt::RightToLeft);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines << text.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines.join(u'\n');
 }
 
 constexpr double kCorner = 2.0;  // radius
@@ -223,6 +241,16 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     }
     const bool hasWords = type == CT_PushButton && button != nullptr && !button->text.isEmpty();
     return hasWords ? whole + QSize(kButtonPadding, 0) : whole;
+}
+
+// Of what runs from the right the toolkit draws a line that ends in a blank so much further left.
+void LookStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool enabled, const QString& text,
+                             QPalette::ColorRole role) const {
+    const bool breaks = (flags & Qt::TextWordWrap) != 0 && text.isRightToLeft();
+    const QString lines = breaks ? InLines(text, painter->font(), rect.width()) : text;
+    QProxyStyle::drawItemText(painter, rect, breaks ? flags & ~Qt::TextWordWrap : flags, palette,
+                              enabled, lines, role);
 }
 
 QIcon LookStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,

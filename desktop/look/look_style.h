@@ -17,6 +17,8 @@ public:
                   QStyleHintReturn* answer) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap picture, const QStyleOption* option,

@@ -2,7 +2,7 @@
 
 namespace horavex {
 
-MonthForm::MonthForm() : Form("frmMonth", {.caption = "Month", .width = 14400, .height = 12000}) {}
+MonthForm::MonthForm() : Form("frmMonth", {.caption = "Month", .width = 14400, .height = 12360}) {}
 
 MonthForm::~MonthForm() = default;
 

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -449,6 +450,38 @@ TEST(LookStyle, BarFromRightToLeftIsDoneAtTheRightFirst) {
     EXPECT_FALSE(half.Has(QPalette::HighlightedText, 0));
     EXPECT_TRUE(half.Has(QPalette::Text, 0));
     EXPECT_FALSE(half.Has(QPalette::Text, 110));
+}
+
+/// Where a picture has its last dark dot, line by line of some text.
+std::vector<int> RightEdges(const QImage& picture) {
+    std::vector<int> edges;
+    int edge = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        int last = picture.width() - 1;
+        while (last >= 0 && picture.pixelColor(last, y).lightness() > 128) {
+            --last;
+        }
+        if (last < 0 && edge >= 0) {
+            edges.push_back(edge);
+            edge = -1;
+        }
+        edge = std::max(edge, last);
+    }
+    return edges;
+}
+
+TEST(LookStyle, LinesFromTheRightBeginAtOneEdge) {
+    QLabel label(QStringLiteral("\u0635\u0644\u0627\u0629 ").repeated(12).trimmed());
+    label.setLayoutDirection(Qt::RightToLeft);
+    label.setWordWrap(true);
+    label.resize(120, 200);
+    const std::vector<int> edges = RightEdges(label.grab().toImage());
+    ASSERT_GE(edges.size(), 3U);
+    EXPECT_THAT(edges, testing::Each(edges.front()));
+}
+
+TEST(LookStyle, WhatCannotBeUsedIsDrawnOnce) {
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
 }
 
 TEST(LookStyle, ChoiceThatIsTooLongEndsInPoints) {

@@ -126,7 +126,18 @@ TEST_F(PosterTextsTest, IqamasStandBelowTheirTimes) {
     const auto iqama = std::ranges::find(texts, QString("Iqama 02:46 PM"), &PosterText::text);
     ASSERT_NE(iqama, texts.end());
     EXPECT_GE(iqama->area.top(), asr->area.bottom());
-    EXPECT_EQ(iqama->area.left(), asr->area.left());
+    EXPECT_EQ(iqama->area.center().x(), asr->area.center().x());
+}
+
+TEST_F(PosterTextsTest, NamesAndTimesStandInTheMiddleOfCardsWithoutIqamas) {
+    FaceDay day = FaceDayOf(NightOfRamadan());
+    std::ranges::fill(day.iqamas, QString());
+    const auto texts = layout.Rest(day, {});
+    const QRectF card = layout.Cell(kAsr, Qt::LeftToRight);
+    const auto name = std::ranges::find(texts, day.cells[kAsr].name, &PosterText::text);
+    const auto time = std::ranges::find(texts, day.cells[kAsr].time, &PosterText::text);
+    EXPECT_NEAR(name->area.top() - card.top(), card.bottom() - time->area.bottom(), 1.0);
+    EXPECT_GE(time->area.left() - card.left(), 0.015 * 640);
 }
 
 TEST_F(PosterTextsTest, CountdownStaysWhereItIsFromSecondToSecond) {

@@ -155,6 +155,8 @@ void Stage::Tick() {
 void Stage::Settle() {
     QApplication::processEvents();
     QApplication::processEvents();
+    // A choice takes the size of its longest text a little later; its place is given back to it.
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void Stage::Look(const std::vector<QWidget*>& windows) {
