@@ -480,10 +480,6 @@ TEST(LookStyle, LinesFromTheRightBeginAtOneEdge) {
     EXPECT_THAT(edges, testing::Each(edges.front()));
 }
 
-TEST(LookStyle, WhatCannotBeUsedIsDrawnOnce) {
-    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
-}
-
 TEST(LookStyle, ChoiceThatIsTooLongEndsInPoints) {
     const auto drawn = [](const QString& choice) {
         QComboBox box;
