@@ -7,7 +7,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 option(HORAVEX_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
-option(HORAVEX_COVERAGE "Instrument for line coverage" OFF)
+option(HORAVEX_COVERAGE "Count what is run, with clang++" OFF)
 option(HORAVEX_FUZZ "Instrument for libFuzzer, which takes clang" OFF)
 # What their headers take to compile is most of the work in some targets. Sources in one must not
 # define the same name, not even one of their own.
@@ -66,6 +66,6 @@ if(HORAVEX_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 if(HORAVEX_COVERAGE)
-    add_compile_options(--coverage)
-    add_link_options(--coverage)
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
 endif()

@@ -37,7 +37,7 @@ protected:
     }
 
     TestPlatform platform;
-    const ErfaAlmanac almanac;
+    const ErfaAlmanac almanac{};
     VisibilityMap map{almanac, DateSerial(2024, 3, 10),
                       DateSerial(2024, 3, 10) + TimeSerial(9, 0, 0), 10.0};
 };
