@@ -65,7 +65,7 @@ YearRules ConsoleHost::RulesOf(std::int16_t year) {
 }
 
 ConsolePlatform::ConsolePlatform()
-    : folder_(FindProgramFolder(files)),
+    : folder_(FindProgramFolder(dataFiles_)),
       registry_(FindRegistry(files)),
       instanceLock_(InstanceLockPath()) {
     InstallPlatform(&platform_);

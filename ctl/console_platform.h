@@ -6,6 +6,7 @@
 #include "ctl/console_formats.h"
 #include "engine/day_driver.h"
 #include "linux/erfa_almanac.h"
+#include "linux/held_files.h"
 #include "linux/instance_lock.h"
 #include "linux/registry_file.h"
 #include "linux/system_clock.h"
@@ -74,11 +75,15 @@ public:
     ConsolePlatform(const ConsolePlatform&) = delete;
     ConsolePlatform& operator=(const ConsolePlatform&) = delete;
 
+    /// The program's data stay as they are from now on.
+    void HoldData() { dataFiles_.Hold(); }
+
     ConsoleClock clock;
     ConsoleFiles files;
     ConsoleFormats formats;
 
 private:
+    HeldFiles dataFiles_{files};
     ProgramFolder folder_;
     RegistryFile registry_;
     InstanceLock instanceLock_;

@@ -72,6 +72,7 @@ public:
     LineCounts Run() {
         bool goesOn = !HasRecords() || there_.bytes > 0 ||
                       output_.Append(HeadOfRecords(options_.form.file.format));
+        session_.platform.HoldData();
         Session own{session_.platform};
         LineWork work(own, options_.form, calls_);
         WorkerProcesses workers(options_.jobs,

@@ -97,6 +97,24 @@ TEST(CtlYears, ReadsTheStandardInput) {
     EXPECT_EQ(run.out, YearOf(years.ctl, {"--city=Cairo", "--year=2026"})) << run.err;
 }
 
+TEST(CtlYears, DataOfTheProgramThatChangeInARunCountForTheNextOne) {
+    const YearsRun years;
+    const std::string data = years.ctl / "data/horavex";
+    std::filesystem::create_directories(data);
+    std::filesystem::copy(BuildPath("share/horavex/Dat"), data + "/Dat");
+    // More lines than are taken ahead.
+    const std::string meddled =
+        "printf 'city\\n'; yes Cairo | head -n 12; timeout 60 bash -c 'until grep -qs ^2, "
+        "years.csv; do :; done'; "
+        "for file in \"$HOME\"/data/horavex/Dat/C*; do : > \"$file\"; done; echo Cairo";
+    const ProgramRun run = years.Shell(
+        "export XDG_DATA_HOME=\"$HOME\"/data; { " + meddled +
+        "; } | timeout 60 \"$ctl\" years --from - --year 2026 --jobs 1 --format csv --output "
+        "years.csv; \"$ctl\" year --city Cairo --year 2026");
+    EXPECT_EQ(std::ranges::count(years.Content("years.csv"), '\n'), 1 + 13 * 365) << run.err;
+    EXPECT_NE(run.status, 0);
+}
+
 TEST(CtlYears, YearOfTheCommandIsThatOfLinesWithoutOne) {
     YearsRun years;
     years.Write("city,year\nCairo,2027\nCairo,\n");
