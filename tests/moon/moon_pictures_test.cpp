@@ -1,6 +1,7 @@
 #include "moon/moon_pictures.h"
 
 #include <algorithm>
+#include <set>
 
 #include "moon/moon_window.h"
 #include "store/location_record.h"
@@ -130,6 +131,20 @@ TEST_F(MoonPicturesTest, EachRowHasItsDiscBesideIt) {
         EXPECT_EQ(third.centre.y, 2.5 * kMoonRowHeight);
         EXPECT_EQ(13 * kMoonRowHeight, picture->ScaleHeight());
     }
+}
+
+TEST_F(MoonPicturesTest, NewOnesAreAskedToBeDrawn) {
+    struct : FormObserver {
+        void ControlChanged(Control& control) override { changed.insert(control.Name()); }
+        void FormChanged() override {}
+        std::set<std::string> changed;
+    } observer;
+    form.SetObserver(&observer);
+    ShowMoonPhases();
+    form.SetObserver(nullptr);
+    EXPECT_THAT(observer.changed,
+                testing::IsSupersetOf({"picNewMoon", "picFirstQuarter", "picFullMoon",
+                                       "picLastQuarter", "picTonight"}));
 }
 
 TEST_F(MoonPicturesTest, QuartersOfTheSouthHangTheOtherWayRound) {
