@@ -26,9 +26,13 @@ std::int16_t ReadWish(const std::string& defaultValue) {
     return RoundToInt16(TextToNumber(text));
 }
 
-bool wasTold = false;
+struct Failures {
+    bool wereTold = false;
+};
 
-const ProgramStateReset reset([] { wasTold = false; });
+Failures failures;
+
+const ProgramStateReset reset([] { failures = {}; });
 
 /// A step of the start, which goes on whatever becomes of the entry. The user is told of the first
 /// step that fails.
@@ -37,7 +41,7 @@ void RunStartStep(Step step) {
     try {
         step();
     } catch (const Fault& fault) {
-        if (!std::exchange(wasTold, true)) {
+        if (!std::exchange(failures.wereTold, true)) {
             Ports().dialogs.ShowMessage(std::string(kValueName) + ": " + fault.what(), "",
                                         MessageIcon::kNone);
         }
