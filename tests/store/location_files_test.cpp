@@ -7,6 +7,8 @@
 namespace horavex {
 namespace {
 
+using testing::ThrowsMessage;
+
 /// The sample's cities are -32000 Santa Rosa and -31999 São Paulo of Brazil, -31998 Cairo and
 /// -31997 Ismailia of Egypt, -31996 Mecca of Saudi Arabia.
 class LocationFilesTest : public DataFolderTest {
@@ -255,7 +257,7 @@ TEST_F(LocationFilesTest, CityFilesOpenBeforeCountryFiles) {
 TEST_F(LocationFilesTest, LookupClosesItsFiles) {
     LocationRecord location;
     LookupLocation(-31998, location);
-    EXPECT_THROW(CountryCount(), FileFault);
+    EXPECT_THAT(CountryCount, ThrowsMessage<FileFault>("Dat: the location files are not open"));
     EXPECT_THROW(CityCount(), FileFault);
 }
 
@@ -266,7 +268,7 @@ TEST_F(LocationFilesTest, EveryMissingFileIsAFileFaultThatNamesIt) {
         data.Remove("Dat/" + name);
         LocationRecord location;
         EXPECT_THAT([&] { LookupLocation(-31998, location); },
-                    testing::ThrowsMessage<FileFault>(testing::HasSubstr("Dat/" + name)));
+                    ThrowsMessage<FileFault>(testing::HasSubstr("Dat/" + name)));
     }
 }
 
