@@ -100,6 +100,15 @@ class Habits(unittest.TestCase):
         self.expect_none("cppcheck")
         self.write("src/a.cpp", "int Size() {\n    int sizes[2] = {1, 2};\n    return sizes[2];\n}\n")
         self.expect_fault("arrayIndexOutOfBounds", "cppcheck")
+        self.expect_fault("arrayIndexOutOfBounds", "cppcheck")  # what it has found is kept
+
+    def test_cppcheck_looks_again_at_what_includes_a_change(self):
+        self.write("src/b.h", "#pragma once\n\nconstexpr int kPlace = 1;\n")
+        self.write("src/a.cpp", '#include "b.h"\n\nint Size() {\n    int sizes[2] = {1, 2};\n'
+                                "    return sizes[kPlace];\n}\n")
+        self.expect_none("cppcheck")
+        self.write("src/b.h", "#pragma once\n\nconstexpr int kPlace = 2;\n")
+        self.expect_fault("arrayIndexOutOfBounds", "cppcheck")
 
     def test_unknown_name_shows_what_there_is(self):
         self.assertIn("tools/check NAME", self.check("all").stderr)
