@@ -292,6 +292,7 @@ TEST(MoonOverPlace, IsSeenFromMoonriseOn) {
     EXPECT_TRUE(london.IsSeenAt(london.phases.full->end));
     EXPECT_EQ(london.best->instant, london.greatest);
     EXPECT_NEAR(london.best->magnitude, 1.6087, 0.002);
+    EXPECT_EQ(london.obscuration, 0.0) << "of the sun's disc nothing is covered";
 }
 
 // 7 September 2025 and 3 March 2026, to the minute as published.
