@@ -39,7 +39,36 @@ void Dress(QTableWidgetItem& item, const Grid::Row& row, const QPalette& palette
     }
 }
 
+/// What the widest text of a column needs, in bold as it may be set off another time.
+int WidthOf(const QTableWidget& table, int column) {
+    QFont bold = table.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int width = 0;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QTableWidgetItem* item = table.item(row, column);
+        width = std::max(width, item == nullptr ? 0 : metrics.horizontalAdvance(item->text()));
+    }
+    return width + 3 * metrics.averageCharWidth();
+}
+
+int NeedOf(const QTableWidget& table, int column) {
+    return std::max(WidthOf(table, column), table.horizontalHeader()->sectionSizeHint(column));
+}
+
 }  // namespace
+
+QSize WholeGrid(const QTableWidget& table) {
+    int width = 0;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        width += NeedOf(table, column);
+    }
+    const int rows = table.rowCount() * table.verticalHeader()->defaultSectionSize();
+    const int height = table.horizontalHeader()->sizeHint().height() + rows;
+    const int frame = 2 * table.frameWidth();
+    return {width + frame + table.verticalScrollBar()->sizeHint().width(),
+            height + frame + table.horizontalScrollBar()->sizeHint().height()};
+}
 
 GridBinder::GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refreshLater)
     : BinderOf(bound, boundWidget, std::move(refreshLater)) {
@@ -48,6 +77,7 @@ GridBinder::GridBinder(Control& bound, QWidget& boundWidget, RefreshLater refres
     widget.setShowGrid(false);
     widget.verticalHeader()->hide();
     widget.setWordWrap(false);
+    widget.setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);  // beside other parts
     const int height = std::max(kRowHeight, widget.fontMetrics().height() + 2);
     widget.verticalHeader()->setMinimumSectionSize(height);
     widget.verticalHeader()->setDefaultSectionSize(height);
@@ -100,7 +130,7 @@ void GridBinder::ShareWidth() {
     QHeaderView& header = *widget.horizontalHeader();
     std::vector<int> needs;
     for (int column = 0; column < widget.columnCount(); ++column) {
-        needs.push_back(std::max(WidthOf(column), header.sectionSizeHint(column)));
+        needs.push_back(NeedOf(widget, column));
     }
     const int share = ShareBeside(needs);
     for (int column = 0; column < widget.columnCount(); ++column) {
@@ -111,19 +141,6 @@ void GridBinder::ShareWidth() {
             header.resizeSection(column, need);
         }
     }
-}
-
-/// What the widest text of a column needs, in bold as it may be set off another time.
-int GridBinder::WidthOf(int column) const {
-    QFont bold = widget.font();
-    bold.setBold(true);
-    const QFontMetrics metrics(bold);
-    int width = 0;
-    for (int row = 0; row < widget.rowCount(); ++row) {
-        const QTableWidgetItem* item = widget.item(row, column);
-        width = std::max(width, item == nullptr ? 0 : metrics.horizontalAdvance(item->text()));
-    }
-    return width + 3 * metrics.averageCharWidth();
 }
 
 /// Where texts are read from the left.

@@ -8,6 +8,10 @@
 
 namespace horavex {
 
+/// The size at which a table shows all its rows and columns, in pixels; beside a bar that scrolls
+/// it down, which it has where the screen is lower.
+QSize WholeGrid(const QTableWidget& table);
+
 /// A table of texts, at its present row when it comes or turns to another page. The page keys turn
 /// its page, and so does the wheel as long as all rows are on view.
 class GridBinder : public BinderOf<Grid, QTableWidget> {
@@ -25,7 +29,6 @@ private:
     void GoToCurrentRow();
     int ShareBeside(const std::vector<int>& needs) const;
     void ShareWidth();
-    int WidthOf(int column) const;
     bool Scrolls() const;
     void Wheel(int delta);
     void Turn(int step);
