@@ -6,6 +6,7 @@
 
 #include "desktop/face/face_button.h"
 #include "desktop/face/palette.h"
+#include "desktop/face/sky_colours.h"
 #include "desktop/face/text_line.h"
 #include "desktop/ports/display.h"
 
@@ -38,7 +39,7 @@ public:
 
 protected:
     void PaintFace(QPainter& painter) override {
-        painter.setPen(kEdge);
+        painter.setPen(EdgeOfFace());
         painter.drawRoundedRect(QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0), kPill, kPill);
         QRectF sign(0.0, 0.0, kSignSize, kSignSize);
         sign.moveCenter(QRectF(rect()).center());
@@ -63,7 +64,7 @@ void DrawRays(QPainter& painter) {
         const QPointF from(centre + side * 48.0, kMoon.y());
         const QPointF to(centre + side * 140.0, kMoon.y());
         QLinearGradient fading(from, to);
-        fading.setColorAt(0.0, kEdge);
+        fading.setColorAt(0.0, EdgeOfFace());
         fading.setColorAt(1.0, Qt::transparent);
         painter.setPen(QPen(QBrush(fading), 1.0));
         painter.drawLine(from, to);
@@ -110,11 +111,12 @@ void AzanView::NameStop(const QString& name) {
 void AzanView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const SkyColours colours = NightSky();
     QLinearGradient sky(0.0, 0.0, 0.0, kFace.height());
-    sky.setColorAt(0.0, kSkyTop);
-    sky.setColorAt(1.0, kSkyBottom);
+    sky.setColorAt(0.0, colours.top);
+    sky.setColorAt(1.0, colours.bottom);
     painter.fillRect(rect(), sky);
-    painter.setPen(kEdge);
+    painter.setPen(EdgeOfFace());
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.drawRoundedRect(QRectF(rect()).adjusted(kFrame, kFrame, -kFrame, -kFrame - below_),
                             kFrameCorner, kFrameCorner);

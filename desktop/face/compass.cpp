@@ -6,6 +6,7 @@
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
+#include "desktop/face/sky_colours.h"
 #include "desktop/user_text.h"
 
 namespace horavex {
@@ -19,7 +20,7 @@ constexpr double kWordsHeight = 24.0;  // pixels
 constexpr double kRadius = 100.0;
 
 void PaintCard(QPainter& painter) {
-    painter.setPen(QPen(kEdge, 2.5));
+    painter.setPen(QPen(EdgeOfFace(), 2.5));
     painter.setBrush(kSkyBottom);
     painter.drawEllipse(QPointF(0.0, 0.0), kRadius - 2.0, kRadius - 2.0);
     for (int mark = 1; mark < 24; ++mark) {  // north has a sign of its own

@@ -8,6 +8,8 @@
 
 #include "desktop/face/moon_disc.h"
 #include "desktop/face/palette.h"
+#include "desktop/face/sky_colours.h"
+#include "desktop/look/look.h"
 
 namespace horavex {
 
@@ -116,7 +118,7 @@ void DayArc::paintEvent(QPaintEvent*) {
 void DayArc::PaintGround(QPainter& painter) const {
     const double horizon = Height(0.0);
     painter.fillRect(QRectF(0.0, horizon, width(), height() - horizon), Faint(Qt::black, 0.14));
-    painter.setPen(QPen(kEdge, 1.0));
+    painter.setPen(QPen(EdgeOfFace(), 1.0));
     painter.drawLine(QPointF(0.0, horizon), QPointF(width(), horizon));
 }
 
@@ -126,7 +128,8 @@ void DayArc::PaintWay(QPainter& painter) const {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Faint(kGold, 0.85), 2.0, Qt::SolidLine, Qt::RoundCap));
     painter.drawPolyline(Way(0.0, now));
-    painter.setPen(QPen(Faint(kCream, 0.4), 1.5, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(
+        QPen(Faint(kCream, look::WantsContrast() ? 0.7 : 0.4), 1.5, Qt::SolidLine, Qt::RoundCap));
     painter.drawPolyline(Way(now, 1.0));
 }
 

@@ -6,6 +6,7 @@
 
 #include "desktop/face/fitted_text.h"
 #include "desktop/face/palette.h"
+#include "desktop/face/sky_colours.h"
 
 namespace horavex {
 
@@ -75,7 +76,7 @@ int CaptionButton::NaturalWidth() const {
 
 void CaptionButton::PaintFace(QPainter& painter) {
     if (look_ == Look::kOutlined) {
-        painter.setPen(kEdge);
+        painter.setPen(EdgeOfFace());
         painter.drawRoundedRect(Outline(*this), kCorner, kCorner);
     }
     painter.setPen(look_ == Look::kHeading ? kGold : kCream);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "desktop/face/palette.h"
+#include "desktop/look/look.h"
 
 namespace horavex {
 
@@ -52,6 +53,14 @@ SkyColours SkyColoursAt(double altitude) {
 
 SkyColours PlainSky() {
     return {Qt::black, Qt::black, Qt::black, 0.0};
+}
+
+SkyColours NightSky() {
+    return look::WantsContrast() ? PlainSky() : kStops.front().colours;
+}
+
+QColor EdgeOfFace() {
+    return look::WantsContrast() ? kGold : kEdge;
 }
 
 }  // namespace horavex

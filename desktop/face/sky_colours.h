@@ -20,4 +20,10 @@ SkyColours SkyColoursAt(double altitude);
 /// In place of it where a desktop wants contrast: black at every hour.
 SkyColours PlainSky();
 
+/// The ground of what stands before no sky of its hour, such as the athan: of the night, or plain.
+SkyColours NightSky();
+
+/// Lines around things, of 3:1 and more where a desktop wants contrast.
+QColor EdgeOfFace();
+
 }  // namespace horavex

@@ -43,12 +43,12 @@ void SkyGround::PaintAll(QPainter& painter) const {
     painter.fillRect(plan_.face, sky);
     PaintStars(painter, plan_.stars, colours.stars);
     painter.fillRect(plan_.band, colours.card);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(isPlain_ ? QPen(EdgeOfFace()) : QPen(Qt::NoPen));
     painter.setBrush(colours.card);
     for (const QRect& card : plan_.cards) {
         painter.drawRoundedRect(card, kCardCorner, kCardCorner);
     }
-    painter.setPen(kEdge);
+    painter.setPen(EdgeOfFace());
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(plan_.face).adjusted(0.5, 0.5, -0.5, -0.5));
 }

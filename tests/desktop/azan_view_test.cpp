@@ -6,6 +6,8 @@
 
 #include "desktop/face/azan_face.h"
 #include "desktop/form_window_fixture.h"
+#include "desktop/look/contrast.h"
+#include "desktop/scoped_look.h"
 #include "lang/language_pack.h"
 
 namespace horavex {
@@ -107,6 +109,21 @@ TEST(AzanViewTest, WhatStandsInItsFrameIsInTheMiddleOfIt) {
     AzanView part(false);
     AzanView whole(true);
     EXPECT_EQ(button(whole), button(part) + 13);
+}
+
+TEST(AzanView, IsBlackWithAFrameThatIsSeenWhereTheDesktopWantsContrast) {
+    const auto dot = [](look::Theme theme, QPoint at) {
+        const ScopedLook look(theme);
+        AzanView view(true);
+        return view.grab().toImage().pixelColor(at);
+    };
+    constexpr QPoint kEdgeAt(0, 100);
+    constexpr QPoint kGroundAt(3, 100);
+    for (const look::Theme theme : {look::Theme::kContrast, look::Theme::kLightContrast}) {
+        EXPECT_EQ(dot(theme, kGroundAt), Qt::black);
+        EXPECT_GE(look::Contrast(dot(theme, kEdgeAt), Qt::black), 3.0);
+    }
+    EXPECT_GT(dot(look::Theme::kLight, kGroundAt).blue(), 0x20);
 }
 
 TEST_F(AzanFaceTest, OutlivesItsWindow) {

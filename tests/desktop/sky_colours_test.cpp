@@ -6,6 +6,7 @@
 
 #include "desktop/face/palette.h"
 #include "desktop/look/contrast.h"
+#include "desktop/scoped_look.h"
 
 namespace horavex {
 namespace {
@@ -49,6 +50,15 @@ TEST(SkyColours, EveryTextIsReadableOnEveryGroundAtEveryHeightOfTheSun) {
             ExpectReadable(Over(kGlow, card), {kGold}, altitude, "in the row of the next prayer");
         }
     }
+}
+
+TEST(SkyColours, LinesAroundThingsAreSeenWhereTheDesktopWantsContrast) {
+    for (const look::Theme theme : {look::Theme::kContrast, look::Theme::kLightContrast}) {
+        const ScopedLook look(theme);
+        EXPECT_GE(Contrast(EdgeOfFace(), PlainSky().card), 3.0);
+    }
+    const ScopedLook look(look::Theme::kDark);
+    EXPECT_EQ(EdgeOfFace(), kEdge);
 }
 
 TEST(SkyColours, PlainSkyIsBlackWithoutStars) {
