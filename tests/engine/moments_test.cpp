@@ -499,6 +499,7 @@ TEST(HighLatitude, PoleItselfHasNoMomentsButZuhr) {
     EXPECT_TRUE(IsEvent(day[kZuhr].hours));
     EXPECT_EQ(day[kFajr].hours, NoEvent);
     EXPECT_EQ(day[kIsha].hours, NoEvent);
+    EXPECT_EQ(day[kIsha].dayShift, 0) << "what does not come has no day either";
 }
 
 TEST(MomentsOf, DaysThatAreKeptBetweenRowsChangeNoMoment) {
