@@ -53,6 +53,8 @@ TEST_F(DateGuardTest, TypedDayThatTheMonthLacksGoesBack) {
     EXPECT_EQ(form.day.Text(), "30");
     form.day.UserType("29");
     EXPECT_EQ(form.day.Text(), "29");
+    form.day.UserType("31");
+    EXPECT_EQ(form.day.Text(), "29") << "the last that was good";
 }
 
 TEST_F(DateGuardTest, ChosenDayThatTheMonthLacksGoesBack) {
