@@ -301,6 +301,16 @@ TEST_F(YearTableTest, SettingChangedWhileTheBarGrowsCountsFromThatDayOn) {
     EXPECT_GT(Times[kAsr][182], first[kAsr][182] + 0.5);
 }
 
+TEST_F(YearTableTest, ZoneChangedWhileTheBarGrowsCountsFromThatDayOnToo) {
+    Cairo();
+    Calculate(2001);
+    const YearTimes first = Times;
+    ComputeYearTimes(0, 365,
+                     [](double percent) { Settings.TimeZone = percent < 50.0 ? 2.0 : 3.0; });
+    EXPECT_EQ(TimesOfRow(181), RowOf(first, 181));
+    EXPECT_NEAR(Times[kZuhr][182], first[kZuhr][182] + 1.0, 0.001);
+}
+
 TEST_F(YearTableTest, MissingProgressReportsNothing) {
     Cairo();
     Calculate(2001);
