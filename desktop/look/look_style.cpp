@@ -1,7 +1,8 @@
 #include "desktop/look/look_style.h"
 
 #include <QAbstractScrollArea>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QFontInfo>
 #include <QMenu>
 #include <QPainter>
 #include <QSlider>
@@ -190,6 +191,11 @@ QStyleOptionComboBox ShortenedIn(int room, QStyleOptionComboBox box) {
     return box;
 }
 
+/// Of the letters beside a sign, in pixels.
+int LetterSize(const QWidget* widget) {
+    return QFontInfo(widget == nullptr ? QApplication::font() : widget->font()).pixelSize();
+}
+
 /// A list, a table or a text.
 bool HoldsScrolled(const QWidget* widget) {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
@@ -199,6 +205,7 @@ bool HoldsScrolled(const QWidget* widget) {
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                            const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
         case PM_LayoutLeftMargin:
         case PM_LayoutTopMargin:
@@ -210,10 +217,17 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return kSpacing;
         case PM_FocusFrameHMargin:
             return kCellMargin;
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return std::max(usual, LetterSize(widget));
+        case PM_ButtonIconSize:
+            return std::max(usual, LetterSize(widget) * 6 / 5);
         case PM_DefaultFrameWidth:  // what is scrolled would lie over the half of the ring
             return HoldsScrolled(widget) ? kRing : QProxyStyle::pixelMetric(metric, option, widget);
         default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
+            return usual;
     }
 }
 

@@ -58,6 +58,22 @@ TEST(LookStyle, WordsOfAButtonKeepOffItsEdges) {
     EXPECT_GE(button.sizeHint().width(), words + kButtonPadding + 8);
 }
 
+TEST(LookStyle, BoxesAndSignsGrowWithTheirWords) {
+    for (const auto metric :
+         {QStyle::PM_IndicatorWidth, QStyle::PM_IndicatorHeight, QStyle::PM_ExclusiveIndicatorWidth,
+          QStyle::PM_ExclusiveIndicatorHeight, QStyle::PM_ButtonIconSize}) {
+        QCheckBox box;
+        QFont font = box.font();
+        font.setPixelSize(12);
+        box.setFont(font);
+        const int usual = box.style()->pixelMetric(metric, nullptr, &box);
+        font.setPixelSize(30);
+        box.setFont(font);
+        EXPECT_GE(box.style()->pixelMetric(metric, nullptr, &box), 30);
+        EXPECT_LE(usual, 16);
+    }
+}
+
 TEST(LookStyle, CellsOfATableKeepApart) {
     EXPECT_EQ(QApplication::style()->pixelMetric(QStyle::PM_FocusFrameHMargin), kCellMargin);
 }
