@@ -6,6 +6,7 @@
 #include "base/fault.h"
 #include "base/program_state.h"
 #include "base/text.h"
+#include "base/unbroken.h"
 #include "base/utf8.h"
 #include "engine/center_on_screen.h"
 #include "engine/moment_text.h"
@@ -147,13 +148,15 @@ std::string TimeInLine(const std::optional<Moment>& moment) {
     return text;
 }
 
-/// One day in a line: both dates and all times.
+/// One day in a line that wraps between its times: both dates and all of these.
 void TellDay(std::size_t row) {
+    constexpr const char* kBetween = "\u00a0\u00a0 ";  // of which one ends a line and shows
     const TimetableDay& day = shown->table.days.at(row);
     std::string line =
         shown->words.DayTitle(day.date) + shown->words.comma + shown->words.HijriText(day.hijri);
     for (std::size_t prayer = 0; prayer < kPrayerCount; ++prayer) {
-        line += "   " + shown->words.prayers.at(prayer) + " " + TimeInLine(day.moments.at(prayer));
+        line += kBetween + Unbroken(shown->words.prayers.at(prayer) + " " +
+                                    TimeInLine(day.moments.at(prayer)));
     }
     frmMonth->lblPointer.SetCaption(line);
 }

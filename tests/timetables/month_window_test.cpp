@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "base/unbroken.h"
 #include "engine/current_year.h"
 #include "engine/day_driver.h"
 #include "engine/ruled_year.h"
@@ -164,13 +165,15 @@ TEST_F(MonthWindowTest, SecondPageIsTheChartWithoutTheMonthsControls) {
 
 TEST_F(MonthWindowTest, ChartTellsTodayAndThenTheDayUnderThePointer) {
     frmMonth->tabPages.UserSelect(1);
-    EXPECT_THAT(frmMonth->lblPointer.Caption(),
-                StartsWith("Saturday, 21 November 2026, 10 Jamad Thani 1448   Fajr "));
+    EXPECT_THAT(
+        frmMonth->lblPointer.Caption(),
+        StartsWith("Saturday, 21 November 2026, 10 Jamad Thani 1448\u00a0\u00a0 Fajr\u00a0"));
     const Picture& chart = frmMonth->picYear;
     frmMonth->picYear.UserMouseMove({chart.ScaleWidth() - 160.0, chart.ScaleHeight() / 2.0});
     EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("Thursday, 31 December 2026, "));
     EXPECT_THAT(frmMonth->lblPointer.Caption(),
-                HasSubstr("   Isha " + platform.formats.MediumTime(Times[kIsha][364] / 24.0)));
+                HasSubstr("\u00a0\u00a0 Isha\u00a0" +
+                          Unbroken(platform.formats.MediumTime(Times[kIsha][364] / 24.0))));
     frmMonth->picYear.UserMouseMove({0.0, 0.0});
     EXPECT_THAT(frmMonth->lblPointer.Caption(), StartsWith("Thursday, 31 December 2026, "));
 }
@@ -200,7 +203,8 @@ TEST_F(MonthWindowTest, TimesKeepTheirOrderInALineThatRunsFromRightToLeft) {
     ShowMonthWindow();
     EXPECT_THAT(frmMonth->tabPages.Items(), ElementsAre("الشهر", "السنة"));
     const std::string fajr = platform.formats.MediumTime(Times[kFajr][324] / 24.0);
-    EXPECT_THAT(frmMonth->lblPointer.Caption(), HasSubstr("الفجر \u2068" + fajr + "\u2069   "));
+    EXPECT_THAT(frmMonth->lblPointer.Caption(),
+                HasSubstr("الفجر\u00a0\u2068" + Unbroken(fajr) + "\u2069\u00a0\u00a0 "));
 }
 
 TEST_F(MonthWindowTest, SaveAsNamesWhatIsSavedByPlaceAndYear) {
