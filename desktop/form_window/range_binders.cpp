@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "desktop/user_text.h"
+#include "lang/filled_text.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
 
@@ -34,7 +36,8 @@ void ProgressBarBinder::Show() {
     widget.setRange(lowest, highest);
     widget.setValue(control.Value());
     const int percent = 100 * (control.Value() - lowest) / std::max(1, highest - lowest);
-    widget.setFormat(UserText(QString::number(percent)) + u'%');
+    widget.setFormat(UserText(FilledText(GetLangString("reminders", "Percent", "{percent}%"),
+                                         "{percent}", std::to_string(percent))));
 }
 
 }  // namespace horavex

@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QSlider>
 #include <QTabBar>
-#include <QTextLayout>
 #include <QWidget>
 #include <algorithm>
 
@@ -15,6 +14,7 @@
 #include "desktop/look/look.h"
 #include "desktop/look/measures.h"
 #include "desktop/look/menu_parts.h"
+#include "desktop/look/text_lines.h"
 
 namespace horavex::look {
 
@@ -78,23 +78,6 @@ QString NameOf(QStyle::StandardPixmap picture, Qt::LayoutDirection direction) {
 
 Qt::LayoutDirection DirectionFor(const QStyleOption* option) {
     return option == nullptr ? QGuiApplication::layoutDirection() : option->direction;
-}
-
-/// A text from the right as it breaks in a width, with no blank at the ends of its lines.
-QString InLines(QString text, const QFont& font, int width) {
-    text.replace(u'\n', QChar::LineSeparator);
-    QTextLayout layout(text, font);
-    QTextOption option(Qt::AlignRight);
-    option.setTextDirection(Qt::RightToLeft);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QStringList lines;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines << text.mid(line.textStart(), line.textLength()).trimmed();
-    }
-    layout.endLayout();
-    return lines.join(u'\n');
 }
 
 constexpr double kCorner = 2.0;  // radius
@@ -262,9 +245,12 @@ void LookStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                              const QPalette& palette, bool enabled, const QString& text,
                              QPalette::ColorRole role) const {
     const bool breaks = (flags & Qt::TextWordWrap) != 0 && text.isRightToLeft();
+    const bool isOneLine = (flags & Qt::AlignVCenter) != 0 && (flags & Qt::TextWordWrap) == 0;
     const QString lines = breaks ? InLines(text, painter->font(), rect.width()) : text;
-    QProxyStyle::drawItemText(painter, rect, breaks ? flags & ~Qt::TextWordWrap : flags, palette,
-                              enabled, lines, role);
+    const int lower = isOneLine ? BaselineShift(text, painter->font()) : 0;
+    QProxyStyle::drawItemText(painter, rect.translated(0, lower),
+                              breaks ? flags & ~Qt::TextWordWrap : flags, palette, enabled, lines,
+                              role);
 }
 
 QIcon LookStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
@@ -344,6 +330,11 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
         QProxyStyle::drawControl(element, &shifted, painter, widget);
         return;
     }
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element == CE_ItemViewItem && item != nullptr) {
+        DrawItem(*item, *painter, widget);
+        return;
+    }
     const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (element == CE_ProgressBarLabel && bar != nullptr) {
         DrawProgressText(*bar, *painter);
@@ -360,6 +351,26 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
     if (element == CE_TabBarTabShape && tab != nullptr && tab->shape == QTabBar::RoundedNorth) {
         DrawTabEdges(*tab, *painter);
     }
+}
+
+// The row first, and its text on the baseline of all texts in the row.
+void LookStyle::DrawItem(const QStyleOptionViewItem& item, QPainter& painter,
+                         const QWidget* widget) const {
+    const int lower = BaselineShift(item.text, item.font);
+    if (lower == 0) {
+        QProxyStyle::drawControl(CE_ItemViewItem, &item, &painter, widget);
+        return;
+    }
+    QStyleOptionViewItem row = item;
+    row.text.clear();
+    QProxyStyle::drawControl(CE_ItemViewItem, &row, &painter, widget);
+    QStyleOptionViewItem text = item;
+    text.rect.translate(0, lower);
+    text.state.setFlag(State_HasFocus, false);
+    painter.save();
+    painter.setClipRect(item.rect, Qt::IntersectClip);
+    QProxyStyle::drawControl(CE_ItemViewItem, &text, &painter, widget);
+    painter.restore();
 }
 
 int LookStyle::ChoiceRoom(const QStyleOptionComboBox& box, const QWidget* widget) const {

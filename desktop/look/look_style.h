@@ -33,6 +33,7 @@ public:
 private:
     /// The room for the text of a choice, in pixels.
     int ChoiceRoom(const QStyleOptionComboBox& box, const QWidget* widget) const;
+    void DrawItem(const QStyleOptionViewItem& item, QPainter& painter, const QWidget* widget) const;
     void DrawSlider(const QStyleOptionSlider& option, QPainter& painter,
                     const QWidget* widget) const;
     void DrawTicks(const QStyleOptionSlider& option, QPainter& painter,

@@ -5,6 +5,7 @@
 #include "desktop/ports/qt_event_loop.h"
 #include "desktop/scoped_look.h"
 #include "forms/inks.h"
+#include "lang/language_pack.h"
 
 namespace horavex {
 namespace {
@@ -328,6 +329,18 @@ TEST_F(BinderTest, RangesShowTheirLimitsValueAndSteps) {
     EXPECT_EQ(scroll.pageStep(), 4);
     EXPECT_EQ(Find<QSlider>("slider").maximum(), 4);
     EXPECT_EQ(Find<QProgressBar>("progress").value(), 40);
+}
+
+TEST_F(BinderTest, ProgressIsToldAsTheLanguageWritesPercents) {
+    form.progress.SetValue(40);
+    Settle();
+    EXPECT_EQ(Find<QProgressBar>("progress").text(), "40%");
+    platform.files.WriteWhole("/program/lang/German.ini",
+                              BytesOf("[reminders]\nPercent={percent} v. H.\n"));
+    currentLanguage = "German";
+    form.progress.SetValue(60);
+    Settle();
+    EXPECT_EQ(Find<QProgressBar>("progress").text(), "60 v. H.");
 }
 
 TEST_F(BinderTest, StepsSlideAndAHeldThumbDrags) {

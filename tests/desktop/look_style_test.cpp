@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -494,6 +495,44 @@ TEST(LookStyle, LinesFromTheRightBeginAtOneEdge) {
     const std::vector<int> edges = RightEdges(label.grab().toImage());
     ASSERT_GE(edges.size(), 3U);
     EXPECT_THAT(edges, testing::Each(edges.front()));
+}
+
+/// The rows of dots in which a picture is dark at its left.
+std::pair<int, int> DarkRows(const QImage& picture) {
+    int first = picture.height();
+    int last = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < 9; ++x) {
+            if (picture.pixelColor(x, y).lightness() < 128) {
+                first = std::min(first, y);
+                last = y;
+            }
+        }
+    }
+    return {first, last};
+}
+
+/// A one and a letter of Bengali, from another family of letters.
+const QString kOneAndLetter = QStringLiteral("1 \u0995");
+
+TEST(LookStyle, LabelsOfARowHaveOneBaselineInEveryScript) {
+    const auto drawn = [](const QString& text) {
+        QLabel label(text);
+        label.resize(80, 40);
+        return DarkRows(label.grab().toImage());
+    };
+    EXPECT_EQ(drawn(kOneAndLetter), drawn("1 k"));
+}
+
+TEST(LookStyle, CellsOfARowHaveOneBaselineInEveryScript) {
+    const auto drawn = [](const QString& text) {
+        QListWidget list;
+        list.setFrameShape(QFrame::NoFrame);
+        (new QListWidgetItem(text, &list))->setSizeHint({80, 40});
+        list.resize(80, 60);
+        return DarkRows(list.viewport()->grab().toImage());
+    };
+    EXPECT_EQ(drawn(kOneAndLetter), drawn("1 k"));
 }
 
 TEST(LookStyle, ChoiceThatIsTooLongEndsInPoints) {
