@@ -30,7 +30,8 @@ inline constexpr Colour kOdeh[] = {{27, 120, 55}, {127, 191, 90}, {245, 160, 70}
 inline constexpr Colour kMoonSetsFirst{186, 172, 205};
 inline constexpr Colour kBeforeNewMoon{125, 128, 160};
 inline constexpr Colour kUnjudged{240, 245, 250};
-inline constexpr Colour kOutline{20, 24, 28};  // of lands below all of these
+inline constexpr Colour kOutline{20, 24, 28};     // of lands below all of these
+inline constexpr Colour kDegrees{254, 254, 254};  // their lines, light on dark ground, too
 
 // The moon.
 inline constexpr Colour kMoonDark{58, 64, 82};

@@ -69,10 +69,10 @@ public:
 
     void AddGrid() {
         for (double longitude = kGrid - 180.0; longitude < 180.0; longitude += kGrid) {
-            AddLine({kMapLatitude, longitude}, {-kMapLatitude, longitude}, kWhite);
+            AddLine({kMapLatitude, longitude}, {-kMapLatitude, longitude}, ink::kDegrees);
         }
         for (double latitude = -2.0 * kGrid; latitude < kMapLatitude; latitude += kGrid) {
-            AddLine({latitude, -180.0}, {latitude, 180.0}, kWhite);
+            AddLine({latitude, -180.0}, {latitude, 180.0}, ink::kDegrees);
         }
     }
 

@@ -69,6 +69,7 @@ TEST_P(EveryTheme, WhatIsOnMapsCanBeTold) {
         ExpectInkOn({kind}, ink::kOutline, kShape);
     }
     ExpectInkOn({ink::kMoonSetsFirst, ink::kBeforeNewMoon, ink::kUnjudged}, ink::kOutline, kShape);
+    ExpectInkOn({ink::kDegrees}, ink::kOutline, kShape);
 }
 
 /// Lightness and the two pairs of opposite colours, in which equal distances look alike.
