@@ -29,7 +29,6 @@ namespace horavex {
 
 namespace {
 
-constexpr std::size_t kTraced = 40;    // actions that a failure tells
 constexpr std::size_t kDeepest = 5;    // actions inside of each other
 constexpr int kPatience = 12;          // things that are done to a modal window
 constexpr double kLongestPause = 2.5;  // seconds between two actions
@@ -94,21 +93,6 @@ std::vector<Timer*> TimersOf(const std::vector<Form*>& forms) {
 }
 
 }  // namespace
-
-void SoakRecord::Note(const std::string& done) {
-    last.push_back(done);
-    if (last.size() > kTraced) {
-        last.pop_front();
-    }
-}
-
-std::string SoakRecord::Trace() const {
-    std::string text;
-    for (const std::string& done : last) {
-        text += "  " + done + "\n";
-    }
-    return text;
-}
 
 /// Who is at it, as long as it lives.
 struct SoakWorld::Actor {

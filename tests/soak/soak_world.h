@@ -1,7 +1,5 @@
 #pragma once
 
-#include <deque>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +8,7 @@
 #include "soak/chance.h"
 #include "soak/monkey.h"
 #include "soak/soak_checks.h"
+#include "soak/soak_record.h"
 #include "support/test_platform.h"
 
 namespace horavex {
@@ -18,20 +17,6 @@ namespace horavex {
 struct SoakStore {
     MemoryFiles files;
     MemoryRegistry registry;
-};
-
-/// What has happened, over all processes of a run.
-struct SoakRecord {
-    long seconds = 0;  // in which something was due
-    long actions = 0;
-    long starts = 0;
-    long arrivals = 0;
-    std::map<std::string, int> messages;  // who was at it and what was told, and how often
-    std::map<std::string, int> windows;   // and how often each was acted on
-    std::deque<std::string> last;         // the latest things that were done
-
-    void Note(const std::string& done);
-    std::string Trace() const;
 };
 
 /// Asks its hooks what a user would be asked.
