@@ -138,6 +138,7 @@ Stage::Stage(const std::string& language, const Setting& setting, Camera camera)
 Stage::~Stage() {
     windows_.reset();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::setFont(usual_);
 }
 
 Layouts Stage::AllLayouts() {

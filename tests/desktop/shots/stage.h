@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -84,6 +85,7 @@ private:
     static void Settle();
     void LookIntoMenu(std::optional<int> entry);
 
+    const QFont usual_ = QApplication::font();  // that of the pack ends with the stage
     Camera camera_;
     ZonedClock clock_{ports.clock};
     QtFormats formats_;
