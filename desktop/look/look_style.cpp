@@ -208,7 +208,7 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         case PM_ButtonIconSize:
             return std::max(usual, LetterSize(widget) * 6 / 5);
         case PM_DefaultFrameWidth:  // what is scrolled would lie over the half of the ring
-            return HoldsScrolled(widget) ? kRing : QProxyStyle::pixelMetric(metric, option, widget);
+            return HoldsScrolled(widget) ? kRing : usual;
         default:
             return usual;
     }

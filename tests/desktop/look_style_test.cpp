@@ -97,17 +97,26 @@ TEST(LookStyle, IsNotWornOverAStyleThatMayPaintInColoursOfItsOwn) {
     EXPECT_EQ(worn->baseStyle()->name(), "fusion");
 }
 
+/// What stands beside an entry of a menu on ground of a colour, where words are white, or black
+/// while it is pointed at.
+QImage MarkOfEntry(QStyle::State state, const QColor& ground) {
+    QMenu menu;
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.fill(ground);
+    QStyleOptionButton mark;
+    mark.rect = picture.rect();
+    mark.palette.setColor(QPalette::Text, Qt::white);
+    mark.palette.setColor(QPalette::HighlightedText, Qt::black);
+    mark.state = state;
+    QPainter painter(&picture);
+    menu.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &mark, &painter, &menu);
+    return picture;
+}
+
 TEST(LookStyle, ChosenEntryOfAMenuHasAMarkAndNoBox) {
     for (const bool chosen : {false, true}) {
-        QMenu menu;
-        QImage picture(16, 16, QImage::Format_RGB32);
-        picture.fill(Qt::black);
-        QStyleOptionButton mark;
-        mark.rect = picture.rect();
-        mark.palette.setColor(QPalette::Text, Qt::white);
-        mark.state.setFlag(QStyle::State_On, chosen);
-        QPainter painter(&picture);
-        menu.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &mark, &painter, &menu);
+        const QImage picture =
+            MarkOfEntry(chosen ? QStyle::State_On : QStyle::State_None, Qt::black);
         const auto isDrawn = [&](int x, int y) { return picture.pixelColor(x, y) != Qt::black; };
         EXPECT_EQ(isDrawn(6, 11), chosen);
         EXPECT_FALSE(isDrawn(1, 1) || isDrawn(14, 1) || isDrawn(1, 14));
@@ -115,16 +124,7 @@ TEST(LookStyle, ChosenEntryOfAMenuHasAMarkAndNoBox) {
 }
 
 TEST(LookStyle, MarkOfAnEntryThatIsPointedAtHasTheColourOfItsWords) {
-    QMenu menu;
-    QImage picture(16, 16, QImage::Format_RGB32);
-    picture.fill(Qt::yellow);
-    QStyleOptionButton mark;
-    mark.rect = picture.rect();
-    mark.palette.setColor(QPalette::Text, Qt::white);
-    mark.palette.setColor(QPalette::HighlightedText, Qt::black);
-    mark.state = QStyle::State_On | QStyle::State_Selected;
-    QPainter painter(&picture);
-    menu.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &mark, &painter, &menu);
+    const QImage picture = MarkOfEntry(QStyle::State_On | QStyle::State_Selected, Qt::yellow);
     EXPECT_EQ(picture.pixelColor(6, 11), Qt::black);
 }
 
