@@ -469,13 +469,17 @@ TEST(LookStyle, BarFromRightToLeftIsDoneAtTheRightFirst) {
     EXPECT_FALSE(half.Has(QPalette::Text, 110));
 }
 
+bool IsDark(const QImage& picture, int x, int y) {
+    return picture.pixelColor(x, y).lightness() < 128;
+}
+
 /// Where a picture has its last dark dot, line by line of some text.
 std::vector<int> RightEdges(const QImage& picture) {
     std::vector<int> edges;
     int edge = -1;
     for (int y = 0; y < picture.height(); ++y) {
         int last = picture.width() - 1;
-        while (last >= 0 && picture.pixelColor(last, y).lightness() > 128) {
+        while (last >= 0 && !IsDark(picture, last, y)) {
             --last;
         }
         if (last < 0 && edge >= 0) {
@@ -497,13 +501,21 @@ TEST(LookStyle, LinesFromTheRightBeginAtOneEdge) {
     EXPECT_THAT(edges, testing::Each(edges.front()));
 }
 
-/// The rows of dots in which a picture is dark at its left.
-std::pair<int, int> DarkRows(const QImage& picture) {
+/// The rows of dots of the first sign in a picture, which begins in its first dark column.
+std::pair<int, int> RowsOfFirstSign(const QImage& picture) {
+    constexpr int kNarrow = 4;  // dots, less than any sign and the blank behind it
+    int left = picture.width();
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < left; ++x) {
+            left = IsDark(picture, x, y) ? x : left;
+        }
+    }
+    EXPECT_LT(left + kNarrow, picture.width());
     int first = picture.height();
     int last = -1;
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < 9; ++x) {
-            if (picture.pixelColor(x, y).lightness() < 128) {
+        for (int x = left; x < std::min(left + kNarrow, picture.width()); ++x) {
+            if (IsDark(picture, x, y)) {
                 first = std::min(first, y);
                 last = y;
             }
@@ -519,7 +531,7 @@ TEST(LookStyle, LabelsOfARowHaveOneBaselineInEveryScript) {
     const auto drawn = [](const QString& text) {
         QLabel label(text);
         label.resize(80, 40);
-        return DarkRows(label.grab().toImage());
+        return RowsOfFirstSign(label.grab().toImage());
     };
     EXPECT_EQ(drawn(kOneAndLetter), drawn("1 k"));
 }
@@ -530,7 +542,8 @@ TEST(LookStyle, CellsOfARowHaveOneBaselineInEveryScript) {
         list.setFrameShape(QFrame::NoFrame);
         (new QListWidgetItem(text, &list))->setSizeHint({80, 40});
         list.resize(80, 60);
-        return DarkRows(list.viewport()->grab().toImage());
+        list.show();
+        return RowsOfFirstSign(list.viewport()->grab().toImage());
     };
     EXPECT_EQ(drawn(kOneAndLetter), drawn("1 k"));
 }

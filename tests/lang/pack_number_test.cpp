@@ -32,7 +32,8 @@ TEST_F(PackNumberTest, WholeNumbersAreGroupedAsThePackShows) {
     EXPECT_EQ(PackWholeNumber(374675), "374,675");
     EXPECT_EQ(PackWholeNumber(12345678), "12,345,678");
     currentLanguage = "Spanish";
-    EXPECT_EQ(PackWholeNumber(1290), "1290");
+    EXPECT_EQ(PackWholeNumber(9999), "9999");
+    EXPECT_EQ(PackWholeNumber(10000), "10\u202f000");
     EXPECT_EQ(PackWholeNumber(374675), "374\u202f675");
     currentLanguage = "Bengali";
     EXPECT_EQ(PackWholeNumber(374675), "3,74,675");
